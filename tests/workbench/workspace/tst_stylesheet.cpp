@@ -82,10 +82,7 @@ void StyleSheetTest::initTestCase()
     StyleSheet::Dark().Apply(*qApp);
 }
 
-void StyleSheetTest::cleanupTestCase()
-{
-    qApp->setStyleSheet(QString());
-}
+void StyleSheetTest::cleanupTestCase() { qApp->setStyleSheet(QString()); }
 
 QString StyleSheetTest::Write(const QString &name, const QByteArray &content)
 {
@@ -99,12 +96,14 @@ QString StyleSheetTest::Write(const QString &name, const QByteArray &content)
 void StyleSheetTest::tokensReplaceTheirNames()
 {
     const QString tokens = Write("look.tokens", "# colours\n\nfield = #22262E\nglass = rgba(1, 2, 3, 200)\n");
-    const QString sheet = Write("look.qss.in", "A { color: @field@; background: @glass@; } B { color: @field@; }");
+    const QString sheet =
+        Write("look.qss.in", "A { color: @field@; background: @glass@; } B { color: @field@; }");
 
     const StyleSheet look = StyleSheet::Load(sheet, tokens);
 
     QCOMPARE(look.ErrorText(), QString());
-    QCOMPARE(look.Text(), QString("A { color: #22262E; background: rgba(1, 2, 3, 200); } B { color: #22262E; }"));
+    QCOMPARE(look.Text(),
+             QString("A { color: #22262E; background: rgba(1, 2, 3, 200); } B { color: #22262E; }"));
     QCOMPARE(look.Token("glass"), QString("rgba(1, 2, 3, 200)"));
     QCOMPARE(look.Token("nothing"), QString());
 }
@@ -117,8 +116,8 @@ void StyleSheetTest::faultyFilesSayWhatIsWrong_data()
 
     QTest::newRow("unknown token") << QByteArray("field = #000000\n") << QByteArray("A { color: @text@; }")
                                    << "look\\.qss\\.in: .*\"text\"";
-    QTest::newRow("line without a value") << QByteArray("field = #000000\n\ntext\n") << QByteArray("A {}")
-                                          << "look\\.tokens:3: ";
+    QTest::newRow("line without a value")
+        << QByteArray("field = #000000\n\ntext\n") << QByteArray("A {}") << "look\\.tokens:3: ";
 }
 
 void StyleSheetTest::faultyFilesSayWhatIsWrong()
@@ -130,7 +129,8 @@ void StyleSheetTest::faultyFilesSayWhatIsWrong()
     const StyleSheet look = StyleSheet::Load(Write("look.qss.in", sheet), Write("look.tokens", tokens));
 
     QCOMPARE(look.Text(), QString());
-    QVERIFY2(QRegularExpression(errorPattern).match(look.ErrorText()).hasMatch(), qPrintable(look.ErrorText()));
+    QVERIFY2(QRegularExpression(errorPattern).match(look.ErrorText()).hasMatch(),
+             qPrintable(look.ErrorText()));
 
     const QString missing = m_dir.filePath("missing.tokens");
     QVERIFY(StyleSheet::Load(m_dir.filePath("look.qss.in"), missing).ErrorText().startsWith(missing));
@@ -176,11 +176,13 @@ void StyleSheetTest::everyButtonHasAnIconOfItsOwn_data()
     QTest::newRow("spectrum zoom bar") << "SpectrumZoomUI"
                                        << PushButtons("RescaleAuto AutoRescaleClose 2DHZoomIn 2DHZoomOut "
                                                       "2DZoomIn 2DZoomOut 2DScaleReset");
-    QTest::newRow("panel edges") << "" << PushButtons("Left Right Top Bottom") + QStringList("analysisPushButton");
+    QTest::newRow("panel edges") << ""
+                                 << PushButtons("Left Right Top Bottom") + QStringList("analysisPushButton");
     QTest::newRow("capture") << "" << PushButtons("Capture CaptureChecked Preview PreviewChecked");
     QTest::newRow("floating capture") << "" << PushButtons("CustomCapture CustomCaptureChecked");
-    QTest::newRow("navigation") << "" << PushButtons("Camera NewImageCopy ShowFileDirTreeView Return ModifyDPI "
-                                                     "ConvertCSV");
+    QTest::newRow("navigation") << ""
+                                << PushButtons("Camera NewImageCopy ShowFileDirTreeView Return ModifyDPI "
+                                               "ConvertCSV");
 }
 
 void StyleSheetTest::everyButtonHasAnIconOfItsOwn()
@@ -254,7 +256,8 @@ void StyleSheetTest::panelTabTextsFitTheirTabs()
     QTabWidget tabs;
     for (const QString &text : texts)
         tabs.addTab(new QWidget, text);
-    tabs.setStyleSheet(QString("QTabBar::tab{ height: 25; width: %1; border-right: 2px solid white;}").arg(width));
+    tabs.setStyleSheet(
+        QString("QTabBar::tab{ height: 25; width: %1; border-right: 2px solid white;}").arg(width));
     tabs.ensurePolished();
     tabs.tabBar()->ensurePolished();
 
