@@ -37,6 +37,14 @@ public:
     float GetScaleFactor() const;
     void SetScaleFactor(float scaleFactor);
 
+public slots:
+    /// The picture asked for by signalSetBrush() is in the scene's background.
+    virtual void slotFinishSetBrush() = 0;
+
+signals:
+    /// Asks the view to put its next picture into the scene's background, also when the GPU draws.
+    void signalSetBrush();
+
 protected:
     explicit ReportManager(QObject *parent = nullptr);
 

@@ -26,6 +26,7 @@ public:
         CallLog::Add("ImageManager::LineProfileMouseMoveEvent", {});
     }
     MeasureManager *GetMeasureManager() const override { return measureManager; }
+    void slotFinishSetBrush() override { CallLog::Add("ImageManager::slotFinishSetBrush", {}); }
     QSize GetImageSize() const override { return imageSize; }
     QString GetFileName() const override { return fileName; }
     QString GetFileInfo() const override { return fileInfo; }

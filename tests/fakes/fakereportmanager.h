@@ -17,6 +17,7 @@ public:
         CallLog::Add("ReportManager::LineProfileMouseMoveEvent", {});
     }
     MeasureManager *GetMeasureManager() const override { return measureManager; }
+    void slotFinishSetBrush() override { CallLog::Add("ReportManager::slotFinishSetBrush", {}); }
     QSize GetImageSize() const override { return imageSize; }
     QString GetFileName() const override { return fileName; }
 };
