@@ -89,15 +89,24 @@ QPalette StyleSheet::Palette() const
         const char *token;
     };
     static const Role roles[] = {
-        { QPalette::Window, "window" },       { QPalette::WindowText, "text" },
-        { QPalette::Base, "field" },          { QPalette::AlternateBase, "window" },
-        { QPalette::Text, "text" },           { QPalette::Button, "raised" },
-        { QPalette::ButtonText, "text" },     { QPalette::BrightText, "accent-strong" },
-        { QPalette::Highlight, "accent" },    { QPalette::HighlightedText, "text-on-accent" },
-        { QPalette::ToolTipBase, "field" },   { QPalette::ToolTipText, "text" },
-        { QPalette::Link, "accent" },         { QPalette::LinkVisited, "accent-strong" },
-        { QPalette::Light, "hover" },         { QPalette::Mid, "edge" },
-        { QPalette::Dark, "line" },           { QPalette::Shadow, "line" },
+        { QPalette::Window, "window" },
+        { QPalette::WindowText, "text" },
+        { QPalette::Base, "field" },
+        { QPalette::AlternateBase, "window" },
+        { QPalette::Text, "text" },
+        { QPalette::Button, "raised" },
+        { QPalette::ButtonText, "text" },
+        { QPalette::BrightText, "accent-strong" },
+        { QPalette::Highlight, "accent" },
+        { QPalette::HighlightedText, "text-on-accent" },
+        { QPalette::ToolTipBase, "field" },
+        { QPalette::ToolTipText, "text" },
+        { QPalette::Link, "accent" },
+        { QPalette::LinkVisited, "accent-strong" },
+        { QPalette::Light, "hover" },
+        { QPalette::Mid, "edge" },
+        { QPalette::Dark, "line" },
+        { QPalette::Shadow, "line" },
         { QPalette::PlaceholderText, "text-muted" },
     };
     QPalette palette;

@@ -13,5 +13,6 @@ class WorkbenchStyle : public QProxyStyle
 public:
     WorkbenchStyle();
 
-    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap, const QStyleOption *option) const override;
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
+                                const QStyleOption *option) const override;
 };
