@@ -37,5 +37,9 @@ function(globalui_add_panel target)
     target_link_libraries(${target} PRIVATE GlobalUICollaborators ${ARG_LINK})
     set_target_properties(${target} PROPERTIES PREFIX ""
         LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin/plugins/${ARG_GROUP}/ui")
+    # Building the program builds what it shows.
+    if(TARGET workbench)
+        add_dependencies(workbench ${target})
+    endif()
     install(TARGETS ${target} LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/globalui/plugins/${ARG_GROUP}/ui")
 endfunction()
