@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "benchmarks.h"
+
+QVector<BenchmarkGroup> BenchmarkGroups()
+{
+    return {{"cpuframe", BenchmarkCpuFrame}, {"levels", BenchmarkLevels}, {"start", BenchmarkStart}};
+}
