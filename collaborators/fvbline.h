@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QGraphicsObject>
+#include <QPointF>
+
+/// The FVB band: the rows of the picture that are binned into one line, between a top and a bottom
+/// edge. The user may drag the edges when the band is set by hand. The scene owns it.
+class FVBLine : public QGraphicsObject
+{
+    Q_OBJECT
+
+public:
+    FVBLine();
+
+    /// Hidden, and deaf to the slots until it is begun again.
+    void Retire();
+    void Begin(const QPointF &first, const QPointF &second, bool movable);
+
+    QRectF boundingRect() const override;
+    /// The two edges, as wide as a mouse can hit; what lies between lets the mouse through.
+    QPainterPath shape() const override;
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
+
+public slots:
+    /// The y of each point is a row; they may come in either order.
+    void SetFVBArea(QPointF first, QPointF second);
+    /// Only a band set by hand can be dragged.
+    void SlotFVBManualFlagChanged(bool manual);
+    /// While the camera reads out nothing but the band, it can't be dragged.
+    void SlotFVBSpeedingFlagChanged(bool speeding);
+
+signals:
+    /// The user has dragged an edge; rows of the picture.
+    void SignalTopBottomChanged(int top, int bottom);
+
+protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
+
+private:
+    enum class Edge { None, Top, Bottom };
+
+    QRectF Picture() const;
+    /// Reach of an edge in picture pixels.
+    qreal EdgeReach() const;
+    void SetRows(int top, int bottom);
+    void UpdateMouse();
+
+    int m_top = 0;
+    int m_bottom = 0;
+    bool m_active = false;
+    bool m_manual = false;
+    bool m_speeding = false;
+    Edge m_dragged = Edge::None;
+};

@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "uimanagerbase.h"
+
+#include "bottompages.h"
+#include "uiplugin.h"
+#include "viewcodes.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QHash>
+#include <QLabel>
+#include <QScrollArea>
+#include <QStandardPaths>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+/// What all managers share. GUI thread.
+struct ManagerRegistry
+{
+    QSet<int> takenIds;
+    QList<UIPluginReport> reports;
+    int managers = 0;
+    int leftPage = CameraControlPage; ///< the one last shown
+};
+
+ManagerRegistry &Registry()
+{
+    static ManagerRegistry registry;
+    return registry;
+}
+
+/// A file that is looked at again replaces what was reported of it.
+void AddReport(const UIPluginReport &report)
+{
+    QList<UIPluginReport> &reports = Registry().reports;
+    const auto known = std::find_if(reports.begin(), reports.end(),
+                                    [&](const UIPluginReport &old) { return old.filePath == report.filePath; });
+    if (known != reports.end())
+        *known = report;
+    else
+        reports.append(report);
+    if (!report.loaded)
+        qWarning("GlobalUI: plug-in %s is not loaded: %s", qPrintable(report.filePath), qPrintable(report.reason));
+}
+
+} // namespace
+
+class UIManagerBase::Private
+{
+public:
+    /// A loaded plug-in's metadata and root object; same order as `plugins` began with.
+    struct Source
+    {
+        int id = -1;
+        QString version;
+        UIPluginEntry entry;
+    };
+
+    bool Load(const QString &filePath, QWidget *parent, UIManagerBase *manager);
+    QWidget *PanelOf(int id) const;
+    const Source *SourceOf(int id) const;
+
+    std::vector<Source> sources;
+    QList<LoadedPlugin> plugins;
+    QHash<int, QPointer<QScrollArea>> pages;
+    QPointer<QTabWidget> bottomTabs;
+};
+
+/// True when the plug-in was loaded and has a panel.
+bool UIManagerBase::Private::Load(const QString &filePath, QWidget *parent, UIManagerBase *manager)
+{
+    UIPluginReport report;
+    Source source;
+    source.entry = UIPluginLoader::Load(filePath, Registry().takenIds, report);
+    QWidget *panel = source.entry.plugin ? source.entry.plugin->GetWidget() : nullptr;
+    if (source.entry.plugin && !panel) {
+        report.loaded = false;
+        report.reason = tr("it has no panel");
+    }
+    AddReport(report);
+    if (!panel)
+        return false;
+
+    panel->setParent(parent);
+    panel->hide();
+    connect(panel, SIGNAL(destroyed()), manager, SLOT(slotPanelDestroyed()));
+    plugins.append({report.id, source.entry.plugin, panel});
+    Registry().takenIds.insert(report.id);
+    source.id = report.id;
+    source.version = report.version;
+    sources.push_back(std::move(source));
+    return true;
+}
+
+QWidget *UIManagerBase::Private::PanelOf(int id) const
+{
+    for (const LoadedPlugin &loaded : plugins) {
+        if (loaded.id == id)
+            return loaded.widget;
+    }
+    return nullptr;
+}
+
+const UIManagerBase::Private::Source *UIManagerBase::Private::SourceOf(int id) const
+{
+    const auto found = std::find_if(sources.begin(), sources.end(), [=](const Source &source) { return source.id == id; });
+    return found != sources.end() ? &*found : nullptr;
+}
+
+UIManagerBase::UIManagerBase(QObject *parent)
+    : QObject(parent)
+    , m_private(new Private)
+{
+    ++Registry().managers;
+}
+
+UIManagerBase::~UIManagerBase()
+{
+    for (const LoadedPlugin &loaded : qAsConst(m_private->plugins)) {
+        disconnect(loaded.widget, nullptr, this, nullptr);
+        if (!loaded.widget->parent())
+            delete loaded.widget; // nobody has placed it
+    }
+    for (const QPointer<QScrollArea> &page : qAsConst(m_private->pages)) {
+        if (page && !page->parent())
+            delete page;
+    }
+    for (const Private::Source &source : m_private->sources)
+        Registry().takenIds.remove(source.id);
+    if (--Registry().managers == 0)
+        Registry().leftPage = CameraControlPage;
+}
+
+void UIManagerBase::LoadUIPluginAndInitUI(const QString &directory, QWidget *parent, bool complete)
+{
+    for (const QString &file : UIPluginLoader::FindFiles(PluginRoots(), directory))
+        m_private->Load(file, parent, this);
+    if (!complete)
+        return;
+    for (const LoadedPlugin &loaded : qAsConst(m_private->plugins))
+        loaded.plugin->UpdateUI();
+}
+
+QWidget *UIManagerBase::GetScrollArea(int firstId, int lastId, const QStringList &tabNames, const QString &group)
+{
+    auto *tabs = new QTabWidget; // the caller owns it
+    tabs->setObjectName(group + "TabWidget");
+    for (int id = firstId; id <= lastId; ++id) {
+        const QString name = tabNames.value(id - firstId);
+        tabs->addTab(GetWidget(id, name, group), name);
+    }
+    return tabs;
+}
+
+QWidget *UIManagerBase::GetWidget(int id, const QString &title, const QString &group)
+{
+    QPointer<QScrollArea> &page = m_private->pages[id];
+    if (page)
+        return page;
+    page = new QScrollArea; // reparented by the tab widget that takes it
+    page->setObjectName(group + "ScrollArea");
+    page->setFrameShape(QFrame::NoFrame);
+    page->setWidgetResizable(true);
+    if (QWidget *panel = m_private->PanelOf(id)) {
+        page->setWidget(panel);
+        return page;
+    }
+    auto *notice = new QLabel(tr("The panel \"%1\" is not installed.").arg(title), page);
+    notice->setAlignment(Qt::AlignCenter);
+    notice->setWordWrap(true);
+    page->setWidget(notice);
+    return page;
+}
+
+void UIManagerBase::SetBottomControlUIPanel(QTabWidget *bottomTabs)
+{
+    m_private->bottomTabs = bottomTabs;
+    QList<LoadedPlugin> ordered = m_private->plugins;
+    std::stable_sort(ordered.begin(), ordered.end(), [](const auto &a, const auto &b) { return a.id < b.id; });
+    BottomPages *pages = BottomPages::Of(bottomTabs);
+    for (const LoadedPlugin &loaded : qAsConst(ordered)) {
+        const UIPluginEntry &entry = m_private->SourceOf(loaded.id)->entry;
+        if (!entry.isBottomPage)
+            continue;
+        const QString text = QCoreApplication::translate(metaObject()->className(), qPrintable(entry.title));
+        pages->Add({loaded.widget, text, entry.belongsToCamera, entry.belongsToImage});
+    }
+    pages->Show(Registry().leftPage);
+}
+
+void UIManagerBase::setBottomPanelCurrentIndex(const QString &tabText)
+{
+    QTabWidget *tabs = m_private->bottomTabs;
+    for (int i = 0; tabs && i < tabs->count(); ++i) {
+        if (tabs->tabText(i) == tabText) {
+            tabs->setCurrentIndex(i);
+            return;
+        }
+    }
+}
+
+void UIManagerBase::UpdateBottomTabWidget(int leftPage)
+{
+    Registry().leftPage = leftPage;
+    for (BottomPages *pages : BottomPages::All())
+        pages->Show(leftPage);
+}
+
+void UIManagerBase::AddUIConfigItem(QTableWidget *table, int row)
+{
+    for (const LoadedPlugin &loaded : qAsConst(m_private->plugins)) {
+        const Private::Source *source = m_private->SourceOf(loaded.id);
+        table->insertRow(row);
+        table->setItem(row, 0, new QTableWidgetItem(QString::number(loaded.id)));
+        table->setItem(row, 1, new QTableWidgetItem(source->entry.title));
+        table->setItem(row, 2, new QTableWidgetItem(source->version));
+        ++row;
+    }
+}
+
+QStringList UIManagerBase::PluginRoots()
+{
+    const QString programFolder = QCoreApplication::applicationDirPath();
+    QStringList roots;
+    roots << programFolder;
+    roots << QDir::cleanPath(QDir(programFolder + "/..").absoluteFilePath(GLOBALUI_PLUGIN_FOLDER));
+    roots << qEnvironmentVariable("GLOBALUI_PLUGIN_PATH").split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    roots << QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/globalui";
+    return roots;
+}
+
+QList<UIPluginReport> UIManagerBase::PluginReports()
+{
+    return Registry().reports;
+}
+
+const QList<UIManagerBase::LoadedPlugin> &UIManagerBase::Plugins() const
+{
+    return m_private->plugins;
+}
+
+void UIManagerBase::slotPanelDestroyed()
+{
+    QList<LoadedPlugin> &plugins = m_private->plugins;
+    plugins.erase(std::remove_if(plugins.begin(), plugins.end(), [](const LoadedPlugin &loaded) { return !loaded.widget; }),
+                  plugins.end());
+}
