@@ -92,13 +92,14 @@ void CropFrame::slotSetCropState(int state, bool visible)
 
 void CropFrame::ShowFor(Mode mode, bool visible)
 {
-    // The modes share the frame: one that is not shown has nothing to hide.
-    if (!visible && isVisibleTo(parentWidget()) && mode != m_mode)
+    if (!visible) {
+        // The modes share the frame: one that is not shown has nothing to hide.
+        if (mode == m_mode)
+            hide();
         return;
+    }
     m_mode = mode;
-    setVisible(visible);
-    if (!visible)
-        return;
+    show();
     if (m_view)
         resize(m_view->size());
     raise();
@@ -140,6 +141,8 @@ void CropFrame::mousePressEvent(QMouseEvent *event)
 
 void CropFrame::mouseMoveEvent(QMouseEvent *event)
 {
+    if (!event->buttons().testFlag(Qt::LeftButton))
+        m_selection.Release(); // the frame was hidden in the middle of a drag
     if (m_selection.Drag(ToScene(event->localPos()))) {
         AnnounceRegion(false);
         update();

@@ -24,7 +24,7 @@ void FocusCrossLine::Begin()
 
 QRectF FocusCrossLine::boundingRect() const
 {
-    return m_picture.adjusted(-1, -1, 1, 1);
+    return m_picture;
 }
 
 void FocusCrossLine::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
@@ -57,8 +57,16 @@ void FocusCrossLine::SlotCrossLineEnable(bool enable)
     UpdateVisibility();
 }
 
+QVariant FocusCrossLine::itemChange(GraphicsItemChange change, const QVariant &value)
+{
+    if (change == ItemSceneHasChanged && scene()) {
+        connect(scene(), SIGNAL(sceneRectChanged(QRectF)), this, SLOT(SlotImageSizeChanged()));
+        SlotImageSizeChanged();
+    }
+    return QGraphicsObject::itemChange(change, value);
+}
+
 void FocusCrossLine::UpdateVisibility()
 {
-    SlotImageSizeChanged();
     setVisible(m_wanted && m_enabled && !m_retired);
 }

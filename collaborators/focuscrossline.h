@@ -4,7 +4,7 @@
 #include <QGraphicsObject>
 
 /// The cross through the middle of the picture, an aid for focusing. Seen while focus assistance is
-/// on and the cross line is enabled. The scene owns it.
+/// on, as it is at first, and the cross line is enabled. The scene owns it.
 class FocusCrossLine : public QGraphicsObject
 {
     Q_OBJECT
@@ -12,7 +12,7 @@ class FocusCrossLine : public QGraphicsObject
 public:
     FocusCrossLine();
 
-    /// Retired for good measure: hidden, and deaf to the slots until it is begun again.
+    /// Hidden, whatever the slots say, until it is begun again.
     void Retire();
     void Begin();
 
@@ -25,11 +25,14 @@ public slots:
     void SlotCrossLineVisiable(bool visible);
     void SlotCrossLineEnable(bool enable);
 
+protected:
+    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
+
 private:
     void UpdateVisibility();
 
     bool m_retired = false;
-    bool m_wanted = false;
-    bool m_enabled = true;
+    bool m_wanted = true;
+    bool m_enabled = false;
     QRectF m_picture;
 };

@@ -37,30 +37,27 @@ void FVBLine::Begin(const QPointF &first, const QPointF &second, bool movable)
 
 QRectF FVBLine::boundingRect() const
 {
-    const qreal reach = EdgeReach();
-    return Picture().adjusted(0, -reach, 0, reach);
+    return m_picture;
 }
 
 QPainterPath FVBLine::shape() const
 {
     const qreal reach = EdgeReach();
-    const QRectF picture = Picture();
     QPainterPath edges;
     edges.setFillRule(Qt::WindingFill);
-    edges.addRect(picture.left(), m_top - reach, picture.width(), 2 * reach);
-    edges.addRect(picture.left(), m_bottom - reach, picture.width(), 2 * reach);
+    edges.addRect(m_picture.left(), m_top - reach, m_picture.width(), 2 * reach);
+    edges.addRect(m_picture.left(), m_bottom - reach, m_picture.width(), 2 * reach);
     return edges;
 }
 
 void FVBLine::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
-    const QRectF picture = Picture();
-    painter->fillRect(QRectF(picture.left(), m_top, picture.width(), m_bottom - m_top), QColor(0, 160, 255, 40));
+    painter->fillRect(QRectF(m_picture.left(), m_top, m_picture.width(), m_bottom - m_top), QColor(0, 160, 255, 40));
     QPen pen(m_manual ? Qt::yellow : Qt::cyan);
     pen.setCosmetic(true);
     painter->setPen(pen);
-    painter->drawLine(QPointF(picture.left(), m_top), QPointF(picture.right(), m_top));
-    painter->drawLine(QPointF(picture.left(), m_bottom), QPointF(picture.right(), m_bottom));
+    painter->drawLine(QPointF(m_picture.left(), m_top), QPointF(m_picture.right(), m_top));
+    painter->drawLine(QPointF(m_picture.left(), m_bottom), QPointF(m_picture.right(), m_bottom));
 }
 
 void FVBLine::SetFVBArea(QPointF first, QPointF second)
@@ -92,8 +89,7 @@ void FVBLine::mousePressEvent(QGraphicsSceneMouseEvent *event)
 
 void FVBLine::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
-    const QRectF picture = Picture();
-    const int row = qRound(qBound(picture.top(), event->scenePos().y(), picture.bottom()));
+    const int row = qRound(qBound(m_picture.top(), event->scenePos().y(), m_picture.bottom()));
     if (m_dragged == Edge::Top)
         SetRows(qMin(row, m_bottom), m_bottom);
     else if (m_dragged == Edge::Bottom)
@@ -108,9 +104,19 @@ void FVBLine::mouseReleaseEvent(QGraphicsSceneMouseEvent *)
     emit SignalTopBottomChanged(m_top, m_bottom);
 }
 
-QRectF FVBLine::Picture() const
+QVariant FVBLine::itemChange(GraphicsItemChange change, const QVariant &value)
 {
-    return scene() ? scene()->sceneRect() : QRectF();
+    if (change == ItemSceneHasChanged && scene()) {
+        connect(scene(), SIGNAL(sceneRectChanged(QRectF)), this, SLOT(slotSceneRectChanged(QRectF)));
+        slotSceneRectChanged(scene()->sceneRect());
+    }
+    return QGraphicsObject::itemChange(change, value);
+}
+
+void FVBLine::slotSceneRectChanged(QRectF sceneRect)
+{
+    prepareGeometryChange();
+    m_picture = sceneRect;
 }
 
 qreal FVBLine::EdgeReach() const
@@ -122,9 +128,9 @@ qreal FVBLine::EdgeReach() const
 
 void FVBLine::SetRows(int top, int bottom)
 {
-    prepareGeometryChange();
     m_top = top;
     m_bottom = bottom;
+    update();
 }
 
 void FVBLine::UpdateMouse()

@@ -35,19 +35,23 @@ signals:
     void SignalTopBottomChanged(int top, int bottom);
 
 protected:
+    QVariant itemChange(GraphicsItemChange change, const QVariant &value) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent *event) override;
 
+private slots:
+    void slotSceneRectChanged(QRectF sceneRect);
+
 private:
     enum class Edge { None, Top, Bottom };
 
-    QRectF Picture() const;
     /// Reach of an edge in picture pixels.
     qreal EdgeReach() const;
     void SetRows(int top, int bottom);
     void UpdateMouse();
 
+    QRectF m_picture;
     int m_top = 0;
     int m_bottom = 0;
     bool m_active = false;

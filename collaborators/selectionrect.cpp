@@ -95,17 +95,10 @@ bool SelectionRect::Drag(const QPointF &scenePos)
         rect = Between(NearestCorner(m_pressPos), NearestCorner(scenePos));
     else
         rect = Resized(NearestCorner(scenePos));
-    if (rect == m_rect)
-        return false;
+    if (rect.isEmpty() || rect == m_rect)
+        return false; // at least one pixel stays selected
     m_rect = rect;
     return true;
-}
-
-void SelectionRect::Release()
-{
-    m_dragging = false;
-    if (m_rect.isEmpty())
-        m_rect = QRect();
 }
 
 QPoint SelectionRect::NearestCorner(const QPointF &scenePos) const

@@ -23,9 +23,9 @@ public:
     Grip GripAt(const QPointF &scenePos, qreal tolerance) const;
     /// Begins a drag: of the grip found there, otherwise of a new rectangle.
     void Press(const QPointF &scenePos, qreal tolerance);
-    /// True when the rectangle has changed.
+    /// True when the rectangle has changed. A drag never leaves it empty.
     bool Drag(const QPointF &scenePos);
-    void Release();
+    void Release() { m_dragging = false; }
     bool IsDragging() const { return m_dragging; }
 
 private:
