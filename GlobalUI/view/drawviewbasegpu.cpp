@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The draw view with GPU drawing: the visible part and the change of mode.
+#include "drawviewbase.h"
+
+#include "cropframe.h"
+#include "gpuviewrect.h"
+#include "lxgpudrawitem.h"
+#include "zoomladder.h"
+
+#include <QDebug>
+#include <QGraphicsScene>
+#include <QScrollBar>
+
+#include <memory>
+
+void DrawViewBase::slotHorizontalScrollBarValueChanged(int value)
+{
+    UpdateGPUViewRect({value, verticalScrollBar()->value()});
+}
+
+void DrawViewBase::slotVerticalScrollBarValueChanged(int value)
+{
+    UpdateGPUViewRect({horizontalScrollBar()->value(), value});
+}
+
+QPoint DrawViewBase::ScrollPosition() const
+{
+    return QPoint(horizontalScrollBar()->value(), verticalScrollBar()->value());
+}
+
+void DrawViewBase::UpdateGPUViewRect(const QPoint &scroll)
+{
+    if (!m_gpuDrawItem)
+        return;
+    const QPoint bounded(qBound(0, scroll.x(), horizontalScrollBar()->maximum()),
+                         qBound(0, scroll.y(), verticalScrollBar()->maximum()));
+    // The viewport of a hidden view has not taken its size yet; this is the size it will have.
+    const QRectF viewRect = ComputeGPUViewRect(bounded, maximumViewportSize(), sceneRect().size(), Scale());
+
+    horizontalScrollBar()->setValue(bounded.x());
+    verticalScrollBar()->setValue(bounded.y());
+    emit signalUpdateHorizontalScrollBar(horizontalScrollBar());
+    emit signalUpdateVerticalScrollBar(verticalScrollBar());
+
+    if (IsGPUViewRectInside(viewRect)) {
+        m_gpuViewRect = viewRect;
+        HandViewRectToItem();
+    }
+}
+
+void DrawViewBase::HandViewRectToItem()
+{
+    const QSize viewportSize = maximumViewportSize();
+    m_gpuDrawItem->SetViewRect(viewportSize.width(), viewportSize.height(), m_gpuViewRect);
+}
+
+void DrawViewBase::SetCPUDraw(bool cpuFlag)
+{
+    if (!cpuFlag) {
+        SetGPUDrawView();
+        return;
+    }
+    RemoveGPUItem();
+    if (!m_glViewport)
+        return;
+    if (viewport() == m_glViewport)
+        setViewport(nullptr);
+    else
+        m_glViewport->setParent(nullptr);
+    m_glViewport = nullptr;
+    setViewportUpdateMode(MinimalViewportUpdate);
+    UpdateViewportOpacity();
+
+    if (!m_imageSize.isEmpty() && size() != ZoomLadder::ScaledSize(m_imageSize, Scale()))
+        UpdateViewGeometry(); // the frame scrolls the whole picture now
+}
+
+void DrawViewBase::SetGPUDrawView()
+{
+    if (m_gpuDrawItem)
+        return;
+    const bool isLarger = !m_imageSize.isEmpty() && size().boundedTo(HostSize()) != size();
+    if (isLarger)
+        setFixedSize(size().boundedTo(HostSize())); // a GL viewport needs memory for all of its size
+    if (!m_glViewport)
+        InstallGLViewport();
+
+    auto item = std::make_unique<LxGPUDrawItem>(false);
+    if (scene()) {
+        m_gpuDrawItem = item.release();
+        scene()->addItem(m_gpuDrawItem);
+        setViewportMargins(0, 0, 0, 0);
+        UpdateGPUViewRect(ScrollPosition());
+        HandViewRectToItem();
+        m_gpuDrawItem->UpdateView();
+    } else {
+        qWarning("DrawViewBase::SetGPUDrawView(): Failed to create LxGPUDrawItem");
+    }
+    m_cropFrame->raise();
+
+    if (m_gpuDrawItem && isLarger)
+        UpdateViewGeometry(); // shows the host's scroll bars
+}
+
+void DrawViewBase::InstallGLViewport()
+{
+    m_glViewport = new QOpenGLWidget; // reparented by setViewport()
+    setViewport(m_glViewport);
+    // The frame is always drawn anew as a whole, so the marks above it must be too.
+    setViewportUpdateMode(FullViewportUpdate);
+    qDebug("[%s:%d %s] DrawViewBase::SetGPUDrawView()", "drawviewbase.cpp", 589, "DrawViewBase::SetGPUDrawView");
+}
+
+void DrawViewBase::RemoveGPUItem()
+{
+    if (!m_gpuDrawItem)
+        return;
+    if (m_glViewport)
+        m_glViewport->makeCurrent(); // the item's texture and buffers go with it
+    if (scene())
+        scene()->removeItem(m_gpuDrawItem);
+    delete m_gpuDrawItem;
+    m_gpuDrawItem = nullptr;
+    if (m_glViewport)
+        m_glViewport->doneCurrent();
+}
