@@ -2,11 +2,13 @@
 #include "guardedtest.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QRegularExpression>
+#include <QThread>
 
 #include <algorithm>
 
@@ -59,6 +61,19 @@ QSet<QString> RunningThreads()
     return threads;
 }
 
+/// Threads that were not there before. One that has been waited for may still be in the list while
+/// the kernel takes it down, so it is given a moment.
+QSet<QString> ThreadsThatStay(const QSet<QString> &before)
+{
+    const QDeadlineTimer deadline(1000);
+    QSet<QString> threads = RunningThreads() - before;
+    while (!threads.isEmpty() && !deadline.hasExpired()) {
+        QThread::msleep(1);
+        threads = RunningThreads() - before;
+    }
+    return threads;
+}
+
 } // namespace
 
 void GuardedTest::ExpectWarning(const QRegularExpression &pattern)
@@ -78,7 +93,7 @@ int GuardedTest::Run(GuardedTest *test, int argc, char **argv)
     return QTest::qExec(test, argc, argv);
 }
 
-void GuardedTest::init()
+void GuardedTest::StartGuard()
 {
     // QtTest installs its own handler when it starts; ours goes in front of it, once.
     QtMessageHandler previous = qInstallMessageHandler(CollectMessages);
@@ -92,7 +107,7 @@ void GuardedTest::init()
     m_threadsBefore = RunningThreads();
 }
 
-void GuardedTest::cleanup()
+void GuardedTest::EndGuard()
 {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
@@ -111,7 +126,7 @@ void GuardedTest::cleanup()
         if (!m_widgetsBefore.contains(const_cast<QWidget *>(widget)))
             left << QString("leaked top-level widget: %1 \"%2\"").arg(widget->metaObject()->className(), widget->objectName());
     }
-    for (const QString &thread : RunningThreads() - m_threadsBefore)
+    for (const QString &thread : ThreadsThatStay(m_threadsBefore))
         left << "thread still running: " + thread;
     if (!left.isEmpty())
         QFAIL(qPrintable(left.join("\n")));

@@ -14,7 +14,7 @@
 /// a fault: a warning on the Qt log that was not announced with ExpectWarning() (a failed connect
 /// is one), a top-level widget, or a running thread. An announced warning that does not come fails
 /// it too. Debug lines are checked with QTest::ignoreMessage(QtDebugMsg, ...) or DebugLines().
-/// A subclass that needs its own init() or cleanup() calls this one's from it.
+/// A subclass that needs its own init() or cleanup() calls StartGuard() or EndGuard() from it.
 class GuardedTest : public QObject
 {
     Q_OBJECT
@@ -29,9 +29,14 @@ protected:
     /// The debug lines since init().
     static QStringList DebugLines();
 
+    /// Forgets what was logged so far and remembers what is alive.
+    void StartGuard();
+    /// Fails the test function for what it leaves behind.
+    void EndGuard();
+
 private slots:
-    virtual void init();
-    virtual void cleanup();
+    virtual void init() { StartGuard(); }
+    virtual void cleanup() { EndGuard(); }
 
 private:
     QWidgetList m_widgetsBefore;
