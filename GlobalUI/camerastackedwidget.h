@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "stackedwidgetbase.h"
+
+#include <QPointF>
+
+class AcquireProgressUI;
+class FocusInfo;
+
+/// The live camera page: the preview with cover, region of interest, focus assistance, FVB band and
+/// multi-track marks, and the progress of a recording over it.
+class CameraStackedWidget : public StackedWidgetBase
+{
+    Q_OBJECT
+
+public:
+    explicit CameraStackedWidget(QWidget *parent);
+
+    void UpdateViewOverlays() override;
+    AcquireProgressUI *GetProgressPanel() const;
+
+public slots:
+    void SlotSpectralineAutoDetectFinish();
+    void SlotAssitanceFocusClose();
+    void SlotSpectralineFVB();
+    /// Rows in picture pixels.
+    void SlotTopBottomChanged(int top, int bottom);
+    void SlotMultiTrackFlagChanged();
+    void SlotFVBClose();
+    void slotUpdateImageInfoUI() override;
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void ConnectPreview();
+    void ConnectCamera();
+    void ConnectSpectrum();
+    void ConnectCropFrame();
+    void ShowCameraCapabilities();
+
+    FocusInfo *CreateOverlay(int type);
+    /// Takes the marks out of the picture; the next request makes a new overlay.
+    void ForgetOverlay(FocusInfo *&overlay);
+    void ConnectCrossLine();
+    void ConnectFVBLine();
+    void ShowFocusLines();
+
+    AcquireProgressUI *m_progressPanel = nullptr;
+    FocusInfo *m_focusOverlay = nullptr;
+    FocusInfo *m_fvbOverlay = nullptr;
+    FocusInfo *m_multiTrackOverlay = nullptr;
+};

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "imageui.h"
+
+#include "autocountmanager.h"
+#include "controlpage.h"
+#include "displaymodeuimanager.h"
+#include "globalmanager.h"
+#include "imagemanager.h"
+#include "imagenavigateui.h"
+#include "imagespectrumstackedwidget.h"
+#include "imagestackedwidget.h"
+#include "multiimagewidget.h"
+#include "uiconfigmanager.h"
+#include "uiplugin.h"
+
+#include <QTabWidget>
+
+namespace {
+
+enum ImagePanelId
+{
+    FirstImagePanel = 4,
+    LastImagePanel = 6
+};
+
+} // namespace
+
+ImageUI::ImageUI()
+{
+    connect(UIConfigManager::GetInstance(), SIGNAL(signalUpdateImageControlUI()), this,
+            SLOT(slotUpdateImageControlUI()));
+}
+
+void ImageUI::LoadPluginUI(QWidget *parent) { LoadUIPluginAndInitUI("plugins/image/ui", parent, true); }
+
+QWidget *ImageUI::GetControlScrollArea()
+{
+    m_navigateUI = new ImageNavigateUI(nullptr); // reparented by the control page
+    const QStringList tabNames{ tr("Adjustment"), tr("Process"), tr("Automatic Counting") };
+    auto *tabs =
+        qobject_cast<QTabWidget *>(GetScrollArea(FirstImagePanel, LastImagePanel, tabNames, "Image"));
+    tabs->setCurrentIndex(UIConfigManager::GetInstance()->GetLeftUIIndex());
+    connect(tabs, SIGNAL(currentChanged(int)), this, SLOT(slotImageTabWidgetCurrentChanged(int)));
+    return MakeControlPage(m_navigateUI, tabs);
+}
+
+QWidget *ImageUI::CreateCenterWidget(QWidget *parent)
+{
+    m_imageStack = new ImageStackedWidget(parent);
+    m_spectrumStack = new ImageSpectrumStackedWidget(parent);
+    m_centerStack = new QStackedWidget(parent);
+    m_centerStack->addWidget(m_imageStack);
+    m_centerStack->addWidget(m_spectrumStack);
+    m_multiImageWidget = new MultiImageWidget(parent);
+    m_multiImageWidget->SetView(m_centerStack);
+    connect(GlobalManager::GetInstance()->GetActiveImageManager(), SIGNAL(signalCurrentFileFrameNumber(int)),
+            m_multiImageWidget, SLOT(SlotCurrentFileFrameNumber(int)));
+    return m_multiImageWidget;
+}
+
+ImageStackedWidget *ImageUI::GetImageStack() const { return m_imageStack; }
+
+void ImageUI::OnDisplayModeChange()
+{
+    if (!m_centerStack)
+        return; // the window is not built yet, or gone
+    m_centerStack->setCurrentIndex(DisplayModeUIManager::GetInstance()->GetCurrentDisplayMode() != 0 ? 1 : 0);
+    m_spectrumStack->slotDisplayModeChange();
+}
+
+void ImageUI::slotImageTabWidgetCurrentChanged(int index)
+{
+    UIConfigManager::GetInstance()->SetLeftUIIndex(index);
+}
+
+void ImageUI::slotUpdateImageControlUI()
+{
+    if (m_imageStack)
+        m_imageStack->UpdateViewOverlays();
+    if (AutoCountManager::GetInstance()->IsCounting())
+        return; // the panels stay as they are while counting runs
+
+    const GlobalManager *global = GlobalManager::GetInstance();
+    const bool enabled = global->IsImageEnabled() && !global->GetActiveImageManager()->Is32BitMat();
+    const QList<LoadedPlugin> plugins = Plugins();
+    for (int i = plugins.size() - 1; i >= 0; --i) {
+        plugins.at(i).plugin->UpdateUI();
+        if (plugins.at(i).widget)
+            plugins.at(i).widget->setEnabled(enabled);
+    }
+    if (m_navigateUI)
+        m_navigateUI->slotUpdateUI();
+    if (m_centerStack) {
+        m_centerStack->setDisabled(global->GetMainImageManager()->IsNonImage()
+                                   && global->GetCompareImageManager()->IsNonImage());
+    }
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "globalnotify.h"
+#include "uimanagerbase.h"
+
+/// The panels of measuring, report and spectrum at the right and bottom of the window. Brings its
+/// bottom pages to the front when other modules ask through the observer hub. Owned by GlobalUI.
+class MeasureUI : public UIManagerBase, public LxObserver
+{
+    Q_OBJECT
+
+public:
+    MeasureUI();
+    ~MeasureUI() override;
+
+    void LoadPluginUI(QWidget *parent);
+    /// Updates the panels and enables those that can be used now.
+    void ActivateControlUI();
+    void UpdateObserver(int id, void *data) override;
+
+public slots:
+    void slotUpdateMeasureControlUI();
+    void slotMeasureGraphicsListChanged();
+    void slotRaiseAutoCountUI();
+};

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "stackedwidgetbase.h"
+
+#include "autocountmanager.h"
+#include "drawframebase.h"
+#include "drawviewbase.h"
+#include "globalclass.h"
+#include "globalmanager.h"
+#include "gpudrawframe.h"
+#include "imageinfoui.h"
+#include "imagemanager.h"
+#include "spectrumuimanager.h"
+#include "uiconfigmanager.h"
+#include "useareamanager.h"
+#include "viewtoolbar.h"
+
+StackedWidgetBase::StackedWidgetBase(QWidget *parent)
+    : QStackedWidget(parent)
+{
+}
+
+void StackedWidgetBase::CreateDrawFrame()
+{
+    m_mainFrame = new GPUDrawFrame(this);
+    addWidget(m_mainFrame);
+
+    DrawViewBase *view = GetMainDrawView();
+    connect(this, SIGNAL(signalScaleView(ReportManager *, int)), view,
+            SLOT(slotScaleView(ReportManager *, int)));
+    connect(this, SIGNAL(signalSetScaleFactor(ReportManager *, double)), view,
+            SLOT(slotSetScaleFactor(ReportManager *, double)));
+    connect(m_toolBar, SIGNAL(signalSetZoomType(int)), this, SLOT(slotScaleView(int)));
+    connect(m_toolBar, SIGNAL(signalUpdatePos()), this, SLOT(slotUpdateToolBarPosition()));
+    connect(m_toolBar, SIGNAL(signalCloseCompare()), this, SLOT(slotCloseCompare()));
+    connect(m_infoBar, SIGNAL(signalSetZoomRatio(double)), this, SLOT(slotSetScaleFactor(double)));
+    connect(view, SIGNAL(signalEnableScaleFactor(QPoint)), m_infoBar, SLOT(slotEnableScaleFactor(QPoint)));
+    connect(m_mainFrame->GetDrawFrame(), SIGNAL(signalEnableScaleFactor(QPoint)), m_infoBar,
+            SLOT(slotEnableScaleFactor(QPoint)));
+    connect(view, SIGNAL(signalUpdateImageSize(QString)), m_infoBar, SLOT(slotUpdateImageSize(QString)));
+    connect(UIConfigManager::GetInstance(), SIGNAL(signalImageInfoChanged()), this,
+            SLOT(slotUpdateImageInfoUI()));
+}
+
+GPUDrawFrame *StackedWidgetBase::GetMainFrame() const { return m_mainFrame; }
+
+DrawViewBase *StackedWidgetBase::GetMainDrawView() const
+{
+    return m_mainFrame ? m_mainFrame->GetDrawFrame()->GetDrawView() : nullptr;
+}
+
+void StackedWidgetBase::UpdateViewOverlays()
+{
+    slotUpdateImageInfoUI();
+    m_toolBar->setVisible(UseAreaManager::GetInstance()->IsToolBarVisible());
+    m_infoBar->setVisible(UseAreaManager::GetInstance()->IsInfoBarVisible());
+}
+
+void StackedWidgetBase::RestoreMainPage()
+{
+    if (!m_mainFrame)
+        return;
+    insertWidget(0, m_mainFrame);
+    const SpectrumUIManager *spectrumUI = SpectrumUIManager::GetInstance();
+    if (spectrumUI->IsDisplayModeGeneral()) {
+        setCurrentIndex(0);
+        m_mainFrame->raise();
+        m_mainFrame->show();
+        GetMainDrawView()->ZoomFit();
+    } else {
+        setCurrentIndex(spectrumUI->GetDisplayMode());
+    }
+    RaiseToolBars();
+}
+
+void StackedWidgetBase::RaiseToolBars()
+{
+    m_infoBar->raise();
+    m_toolBar->raise();
+}
+
+void StackedWidgetBase::resizeEvent(QResizeEvent *event)
+{
+    QStackedWidget::resizeEvent(event);
+    PlaceInfoBar();
+    slotUpdateToolBarPosition();
+    if (DrawViewBase *view = GetMainDrawView())
+        view->ZoomFit();
+}
+
+void StackedWidgetBase::PlaceInfoBar()
+{
+    const int bottomMargin = 5;
+    m_infoBar->move(0, height() - bottomMargin - m_infoBar->height());
+    m_infoBar->raise();
+}
+
+void StackedWidgetBase::slotUpdateToolBarPosition()
+{
+    m_toolBar->move(width() - GlobalClass::GetActualSize(30) - m_toolBar->width(),
+                    height() / 2 - m_toolBar->height() / 2);
+    m_toolBar->raise();
+}
+
+void StackedWidgetBase::slotCloseCompare()
+{
+    if (AutoCountManager::GetInstance()->IsCounting())
+        GlobalManager::GetInstance()->GetMainImageManager()->SetProcessType(0);
+    else
+        UIConfigManager::GetInstance()->SetCompareView();
+}
+
+void StackedWidgetBase::slotUpdateImageInfoUI() {}
+
+void StackedWidgetBase::slotScaleView(int type)
+{
+    emit signalScaleView(GlobalManager::GetInstance()->GetReportManager(), type);
+}
+
+void StackedWidgetBase::slotSetScaleFactor(double scaleFactor)
+{
+    emit signalSetScaleFactor(GlobalManager::GetInstance()->GetReportManager(), scaleFactor);
+}
+
+void StackedWidgetBase::ShowSizeAndScale(const ReportManager &viewManager)
+{
+    const QSize size = viewManager.GetImageSize();
+    m_infoBar->UpdateImageSize(size.width(), size.height());
+    m_infoBar->slotUpdateScaleFactor(double(viewManager.GetScaleFactor()));
+}
