@@ -18,8 +18,11 @@ class CapturePreviewUI : public QWidget
 public:
     explicit CapturePreviewUI(QWidget *parent = nullptr);
 
-private slots:
+public slots:
+    /// Reads the state anew; the camera panel asks for it too.
     void slotUpdateUI();
+
+private slots:
     void on_pushButtonCapture_clicked();
     void on_pushButtonPreview_clicked();
     void onFrameSaveThreadRunningChanged(bool saveRunning);
