@@ -44,9 +44,9 @@ QStringList TakeWarnings()
 /// Names of this process's threads, with their ids.
 QSet<QString> RunningThreads()
 {
-    // Threads of the platform, of OpenGL drivers and of GLib, which live as long as the process.
+    // Threads of the platform, of OpenGL drivers, of GLib and of libusb, which live as long as the process.
     static const QRegularExpression platformThread(
-        "^(QXcbEventQueue|QDBusConnection|QDBusConnection.*|llvmpipe.*|gmain|gdbus|pool.*|dconf.*|mesa.*"
+        "^(QXcbEventQueue|libusb_event|QDBusConnection|QDBusConnection.*|llvmpipe.*|gmain|gdbus|pool.*|dconf.*|mesa.*"
         "|.*:disk\\$.*|.*:cs.*|.*:sh.*|.*:gl.*|.*:gdrv.*|swr.*|Thread \\(pooled\\)|.*:traceq.*|LeakSanitizer.*)$");
     QSet<QString> threads;
     const QStringList ids = QDir("/proc/self/task").entryList(QDir::Dirs | QDir::NoDotAndDotDot);

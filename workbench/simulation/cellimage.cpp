@@ -7,8 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
-namespace
-{
+namespace {
 constexpr double kPi = 3.14159265358979323846;
 constexpr double kBlurredEdge = 0.55; // how much of the radius the edge of an out-of-focus cell takes
 constexpr double kSharpEdge = 0.12;
@@ -54,14 +53,15 @@ struct CellShape
         nucleusStretch = Between(1.1, 1.45, random);
         const int nucleoli = isInFocus ? 3 : 0;
         for (int i = 0; i < nucleoli; ++i)
-            dark.push_back({nucleusX + Between(-0.5, 0.5, random) * nucleusRadius,
-                            nucleusY + Between(-0.4, 0.4, random) * nucleusRadius, 0.13 * nucleusRadius, 0.55});
+            dark.push_back({ nucleusX + Between(-0.5, 0.5, random) * nucleusRadius,
+                             nucleusY + Between(-0.4, 0.4, random) * nucleusRadius, 0.13 * nucleusRadius,
+                             0.55 });
         const int vesicles = isInFocus ? int(Between(10, 40, random)) : 0;
         for (int i = 0; i < vesicles; ++i) {
             const double angle = Between(0, 2 * kPi, random);
             const double distance = Between(0.35, 0.8, random) * radius;
-            vesicle.push_back({distance * std::cos(angle), distance * std::sin(angle), Between(1.1, 2.2, random),
-                               Between(0.15, 0.6, random)});
+            vesicle.push_back({ distance * std::cos(angle), distance * std::sin(angle),
+                                Between(1.1, 2.2, random), Between(0.15, 0.6, random) });
         }
     }
 
@@ -104,7 +104,8 @@ double BodyInside(const CellShape &cell, double x, double y)
 {
     const double along = x / std::sqrt(cell.elongation);
     const double across = y * std::sqrt(cell.elongation);
-    const double distance = std::hypot(along, across) / (cell.radius * cell.Outline(std::atan2(across, along)));
+    const double distance =
+        std::hypot(along, across) / (cell.radius * cell.Outline(std::atan2(across, along)));
     return SoftInside(distance, 2.0 * cell.edge) * (0.35 + 0.65 * std::exp(-2.5 * distance * distance));
 }
 
@@ -129,10 +130,7 @@ double NucleusLight(const CellShape &cell, double x, double y)
     return inside * chromatin * std::max(0.0, 1.0 - SpotLight(cell.dark, x, y));
 }
 
-quint16 ToUnits(double light)
-{
-    return quint16(std::min(light * SensorReadout::UnitRadiance, 65535.0));
-}
+quint16 ToUnits(double light) { return quint16(std::min(light * SensorReadout::UnitRadiance, 65535.0)); }
 } // namespace
 
 CellImage::CellImage(double radius, bool inFocus, std::mt19937 &random)

@@ -11,7 +11,14 @@
 class CellImage
 {
 public:
-    enum Stain { Red, Green, Blue, Mixed, StainCount };
+    enum Stain
+    {
+        Red,
+        Green,
+        Blue,
+        Mixed,
+        StainCount
+    };
 
     /// Draws a cell of its own shape and texture; `radius` is its mean radius in pixels.
     CellImage(double radius, bool inFocus, std::mt19937 &random);

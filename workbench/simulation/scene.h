@@ -16,8 +16,8 @@ struct SceneFrame
     int offsetY = 0;
     int sensorWidth = 0;
     int sensorHeight = 0;
-    int bitDepth = 8;       ///< 8, 12 or 16; more than 8 bits take a 16-bit sample in host byte order
-    bool isColour = false;  ///< three interleaved 8-bit samples: red, green, blue
+    int bitDepth = 8;      ///< 8, 12 or 16; more than 8 bits take a 16-bit sample in host byte order
+    bool isColour = false; ///< three interleaved 8-bit samples: red, green, blue
     double exposureUs = 10000;
     double gainDb = 0;
     quint64 frameNumber = 0; ///< moves the scene on and picks the noise

@@ -7,13 +7,10 @@
 
 QStringList SceneCatalogue::Names()
 {
-    return {SpecimenScene::SceneName(), SpectrographScene::SceneName(), TestChartScene::SceneName()};
+    return { SpecimenScene::SceneName(), SpectrographScene::SceneName(), TestChartScene::SceneName() };
 }
 
-QString SceneCatalogue::DefaultName()
-{
-    return SpecimenScene::SceneName();
-}
+QString SceneCatalogue::DefaultName() { return SpecimenScene::SceneName(); }
 
 std::unique_ptr<Scene> SceneCatalogue::Create(const QString &name, quint32 seed)
 {

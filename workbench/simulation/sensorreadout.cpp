@@ -5,9 +5,8 @@
 #include <cmath>
 #include <random>
 
-namespace
-{
-constexpr int kNoiseStarts = 1 << 14;  // places in the noise table where a segment may begin
+namespace {
+constexpr int kNoiseStarts = 1 << 14;   // places in the noise table where a segment may begin
 constexpr int kSegmentPixels = 1 << 10; // long rows are cut, each part gets its own noise
 
 /// A well-mixed 64-bit value for every input (the SplitMix64 finaliser).
@@ -19,7 +18,7 @@ quint64 Mix(quint64 value)
     return value ^ (value >> 31);
 }
 
-template<int Step, typename Sample>
+template <int Step, typename Sample>
 void ReadSegment(const quint16 *light, const float *noise, int count, const SensorReadout::Settings &settings,
                  Sample *out)
 {

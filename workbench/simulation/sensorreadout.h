@@ -34,7 +34,8 @@ public:
     static Settings SettingsFor(const SceneFrame &frame);
 
     /// Reads one row of light; `row` and `channel` pick the noise. A colour channel fills every third sample.
-    void ReadRow(const quint16 *light, const SceneFrame &frame, const Settings &settings, int row, int channel) const;
+    void ReadRow(const quint16 *light, const SceneFrame &frame, const Settings &settings, int row,
+                 int channel) const;
 
 private:
     const float *NoiseFor(quint64 frameNumber, int row, int channel, int segment) const;

@@ -6,15 +6,14 @@
 #include <algorithm>
 #include <cmath>
 
-namespace
-{
+namespace {
 constexpr int kSharpImages = 20;
 constexpr int kBlurredImages = 4;
 constexpr int kSharpCells = 84;
 constexpr int kBlurredCells = 12;
 constexpr double kPi = 3.14159265358979323846;
-constexpr double kMediumLight = 0.055;  // of unit radiance
-constexpr double kCornerLoss = 0.38;    // of the illumination
+constexpr double kMediumLight = 0.055; // of unit radiance
+constexpr double kCornerLoss = 0.38;   // of the illumination
 constexpr double kWobblePixels = 2.5;
 constexpr double kWobbleFrames = 90.0;
 
@@ -63,15 +62,9 @@ SpecimenScene::SpecimenScene(quint32 seed)
     PlaceCells(seed);
 }
 
-QString SpecimenScene::SceneName()
-{
-    return QStringLiteral("specimen");
-}
+QString SpecimenScene::SceneName() { return QStringLiteral("specimen"); }
 
-QString SpecimenScene::Name() const
-{
-    return SceneName();
-}
+QString SpecimenScene::Name() const { return SceneName(); }
 
 void SpecimenScene::PlaceCells(quint32 seed)
 {
@@ -96,8 +89,8 @@ void SpecimenScene::PlaceCells(quint32 seed)
 
 void SpecimenScene::PrepareBackground(const SceneFrame &frame)
 {
-    const std::array<int, 6> region = {frame.offsetX, frame.offsetY,     frame.width,
-                                       frame.height,  frame.sensorWidth, frame.sensorHeight};
+    const std::array<int, 6> region = { frame.offsetX, frame.offsetY,     frame.width,
+                                        frame.height,  frame.sensorWidth, frame.sensorHeight };
     if (!m_background.empty() && region == m_region)
         return;
     m_region = region;
@@ -115,8 +108,8 @@ void SpecimenScene::PrepareBackground(const SceneFrame &frame)
     }
 }
 
-void SpecimenScene::AddImage(const SceneFrame &frame, const CellImage &image, CellImage::Stain stain, int left,
-                             int top, double brightness)
+void SpecimenScene::AddImage(const SceneFrame &frame, const CellImage &image, CellImage::Stain stain,
+                             int left, int top, double brightness)
 {
     const int firstColumn = std::max(0, -left);
     const int lastColumn = std::min(image.Side(), frame.width - left);
@@ -133,8 +126,10 @@ void SpecimenScene::DrawCell(const SceneFrame &frame, const Cell &cell, CellImag
 {
     const CellImage &image = m_images[size_t(cell.image)];
     const double wobble = 2.0 * kPi * double(frame.frameNumber) / kWobbleFrames + cell.wobblePhase;
-    const double x = Wrapped(cell.x + cell.driftX * double(frame.frameNumber) + kWobblePixels * std::cos(wobble));
-    const double y = Wrapped(cell.y + cell.driftY * double(frame.frameNumber) + kWobblePixels * std::sin(wobble));
+    const double x =
+        Wrapped(cell.x + cell.driftX * double(frame.frameNumber) + kWobblePixels * std::cos(wobble));
+    const double y =
+        Wrapped(cell.y + cell.driftY * double(frame.frameNumber) + kWobblePixels * std::sin(wobble));
     const int left = int(std::lround(x)) - image.Side() / 2;
     const int top = int(std::lround(y)) - image.Side() / 2;
 

@@ -5,14 +5,13 @@
 #include <cmath>
 #include <iterator>
 
-namespace
-{
+namespace {
 constexpr double kCurvatureNm = 6.0;        // departure from a straight dispersion
 constexpr double kTiltPixelsPerRow = 0.002; // 4 pixels over 2048 rows
 constexpr double kSmilePixels = 3.0;        // at the top and bottom edge
 constexpr double kPeakLight = 3.5;          // of the brightest line on the brightest track, in unit radiance
 constexpr double kContinuumLight = 0.004;   // stray light on a track
-constexpr double kTrackLight[SpectrographScene::TrackCount] = {1.0, 0.7, 0.45};
+constexpr double kTrackLight[SpectrographScene::TrackCount] = { 1.0, 0.7, 0.45 };
 
 /// How much of a fibre's light falls on row y: a flat top with soft edges, 6 % of the height wide.
 double TrackProfile(double y, double centre, int sensorHeight)
@@ -37,22 +36,19 @@ SpectrographScene::SpectrographScene(quint32 seed)
 {
 }
 
-QString SpectrographScene::SceneName()
-{
-    return QStringLiteral("spectrograph");
-}
+QString SpectrographScene::SceneName() { return QStringLiteral("spectrograph"); }
 
-QString SpectrographScene::Name() const
-{
-    return SceneName();
-}
+QString SpectrographScene::Name() const { return SceneName(); }
 
 const std::vector<SpectrographScene::Line> &SpectrographScene::Lines()
 {
     static const std::vector<Line> lines = {
-        {404.656, 0.30}, {435.834, 0.80}, {546.075, 1.00}, {576.961, 0.25}, {579.067, 0.27}, // mercury
-        {696.543, 0.45}, {706.722, 0.20}, {738.398, 0.35}, {750.387, 0.55}, {763.511, 0.90}, // argon from here on
-        {772.376, 0.40}, {794.818, 0.30}, {811.531, 0.85}, {826.452, 0.30}, {842.465, 0.45}, {912.297, 0.25},
+        { 404.656, 0.30 }, { 435.834, 0.80 }, { 546.075, 1.00 },
+        { 576.961, 0.25 }, { 579.067, 0.27 }, // mercury
+        { 696.543, 0.45 }, { 706.722, 0.20 }, { 738.398, 0.35 },
+        { 750.387, 0.55 }, { 763.511, 0.90 }, // argon from here on
+        { 772.376, 0.40 }, { 794.818, 0.30 }, { 811.531, 0.85 },
+        { 826.452, 0.30 }, { 842.465, 0.45 }, { 912.297, 0.25 },
     };
     return lines;
 }
@@ -81,25 +77,28 @@ double SpectrographScene::TrackCentre(int track, int sensorHeight)
     return (track + 1) * (sensorHeight - 1) / double(TrackCount + 1);
 }
 
-void SpectrographScene::AddLines(const SceneFrame &frame, int row, double trackLight, std::vector<float> &light) const
+void SpectrographScene::AddLines(const SceneFrame &frame, int row, double trackLight,
+                                 std::vector<float> &light) const
 {
     const double reach = 6.0 * LineSigmaPixels;
     for (const Line &line : Lines()) {
         const double centre =
-            LinePosition(line.wavelengthNm, frame.offsetY + row, frame.sensorWidth, frame.sensorHeight) - frame.offsetX;
+            LinePosition(line.wavelengthNm, frame.offsetY + row, frame.sensorWidth, frame.sensorHeight)
+            - frame.offsetX;
         const int first = std::max(0, int(std::ceil(centre - reach)));
         const int last = std::min(frame.width - 1, int(std::floor(centre + reach)));
         for (int x = first; x <= last; ++x) {
             const double distance = (x - centre) / LineSigmaPixels;
-            light[size_t(x)] += float(trackLight * kPeakLight * line.strength * std::exp(-0.5 * distance * distance));
+            light[size_t(x)] +=
+                float(trackLight * kPeakLight * line.strength * std::exp(-0.5 * distance * distance));
         }
     }
 }
 
 void SpectrographScene::PrepareLight(const SceneFrame &frame)
 {
-    const int region[6] = {frame.offsetX, frame.offsetY,     frame.width,
-                           frame.height,  frame.sensorWidth, frame.sensorHeight};
+    const int region[6] = { frame.offsetX, frame.offsetY,     frame.width,
+                            frame.height,  frame.sensorWidth, frame.sensorHeight };
     if (!m_light.empty() && std::equal(std::begin(region), std::end(region), std::begin(m_region)))
         return;
     std::copy(std::begin(region), std::end(region), std::begin(m_region));
@@ -111,8 +110,9 @@ void SpectrographScene::PrepareLight(const SceneFrame &frame)
         std::fill(rowLight.begin(), rowLight.end(), float(trackLight * kContinuumLight));
         if (trackLight > 1e-6)
             AddLines(frame, row, trackLight, rowLight);
-        std::transform(rowLight.begin(), rowLight.end(), m_light.begin() + qptrdiff(row) * frame.width,
-                       [](float light) { return quint16(std::min(light * SensorReadout::UnitRadiance, 65535.0f)); });
+        std::transform(
+            rowLight.begin(), rowLight.end(), m_light.begin() + qptrdiff(row) * frame.width,
+            [](float light) { return quint16(std::min(light * SensorReadout::UnitRadiance, 65535.0f)); });
     }
 }
 

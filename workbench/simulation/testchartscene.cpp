@@ -4,8 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace
-{
+namespace {
 constexpr int kPatchesPerSide = 8;
 constexpr int kLastPatch = kPatchesPerSide * kPatchesPerSide - 1;
 
@@ -23,7 +22,7 @@ int PatchEnd(int position, int length)
     return int((next * length + kPatchesPerSide - 1) / kPatchesPerSide);
 }
 
-template<typename Sample>
+template <typename Sample>
 void FillMonoRow(const SceneFrame &frame, int y, Sample *row)
 {
     int x = 0;
@@ -66,15 +65,9 @@ size_t RowBytes(const SceneFrame &frame)
 }
 } // namespace
 
-QString TestChartScene::SceneName()
-{
-    return QStringLiteral("testchart");
-}
+QString TestChartScene::SceneName() { return QStringLiteral("testchart"); }
 
-QString TestChartScene::Name() const
-{
-    return SceneName();
-}
+QString TestChartScene::Name() const { return SceneName(); }
 
 quint16 TestChartScene::ExpectedValue(int x, int y, int width, int height, int bitDepth)
 {

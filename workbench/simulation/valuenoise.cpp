@@ -3,17 +3,10 @@
 
 #include <cmath>
 
-namespace
-{
-double Smooth(double t)
-{
-    return t * t * (3.0 - 2.0 * t);
-}
+namespace {
+double Smooth(double t) { return t * t * (3.0 - 2.0 * t); }
 
-double Blend(double from, double to, double part)
-{
-    return from + (to - from) * part;
-}
+double Blend(double from, double to, double part) { return from + (to - from) * part; }
 } // namespace
 
 ValueNoise::ValueNoise(quint32 seed)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "scenecatalogue.h"
 #include "guardedtest.h"
 #include "sceneexposure.h"
-#include "scenecatalogue.h"
 
 class SceneCatalogueTest : public GuardedTest
 {
@@ -16,7 +16,7 @@ private slots:
 
 void SceneCatalogueTest::CreatesEverySceneByItsName()
 {
-    QCOMPARE(SceneCatalogue::Names(), QStringList({"specimen", "spectrograph", "testchart"}));
+    QCOMPARE(SceneCatalogue::Names(), QStringList({ "specimen", "spectrograph", "testchart" }));
     QVERIFY(SceneCatalogue::Names().contains(SceneCatalogue::DefaultName()));
     for (const QString &name : SceneCatalogue::Names()) {
         const std::unique_ptr<Scene> scene = SceneCatalogue::Create(name);
@@ -45,8 +45,8 @@ void SceneCatalogueTest::RepeatsBySeed()
     const std::unique_ptr<Scene> twin = SceneCatalogue::Create(name, 5);
     const std::unique_ptr<Scene> other = SceneCatalogue::Create(name, 6);
 
-    for (const QSize size : {QSize(1, 1), QSize(3, 5), QSize(641, 479), QSize(2500, 3)}) {
-        for (const int bitDepth : {8, 12, 16, 24}) { // 24: colour
+    for (const QSize size : { QSize(1, 1), QSize(3, 5), QSize(641, 479), QSize(2500, 3) }) {
+        for (const int bitDepth : { 8, 12, 16, 24 }) { // 24: colour
             const bool isColour = bitDepth == 24;
             const auto expose = [&](Scene &watched, quint64 frameNumber) {
                 SceneExposure exposure(size.width(), size.height(), isColour ? 8 : bitDepth, isColour);

@@ -4,8 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace
-{
+namespace {
 constexpr int kPaddingBytes = 6;
 constexpr uchar kPaddingValue = 0xA5;
 } // namespace

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "specimenscene.h"
 #include "guardedtest.h"
 #include "sceneexposure.h"
-#include "specimenscene.h"
 
 #include <algorithm>
 #include <cmath>
@@ -56,7 +56,7 @@ void SpecimenSceneTest::LongerExposureIsBrighterUntilItSaturates()
     SceneExposure exposure(128, 96, bitDepth, isColour);
     const int fullScale = (1 << bitDepth) - 1;
     double previous = 0;
-    for (const double exposureUs : {0.0, 10000.0, 40000.0, 160000.0}) {
+    for (const double exposureUs : { 0.0, 10000.0, 40000.0, 160000.0 }) {
         exposure.Settings().exposureUs = exposureUs;
         exposure.Expose(scene);
         QVERIFY(exposure.Mean() > previous);
@@ -92,7 +92,8 @@ void SpecimenSceneTest::CellsDrift()
     int moved = 0;
     for (int y = 0; y < 512; ++y) {
         for (int x = 0; x < 512; ++x)
-            moved += std::abs(first.SampleAt(x, y) - later.SampleAt(x, y)) > 65535 / 10; // far above the noise
+            moved +=
+                std::abs(first.SampleAt(x, y) - later.SampleAt(x, y)) > 65535 / 10; // far above the noise
     }
     QVERIFY(moved > 512 * 512 / 100);
 }

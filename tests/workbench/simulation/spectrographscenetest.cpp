@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "spectrographscene.h"
 #include "guardedtest.h"
 #include "sceneexposure.h"
-#include "spectrographscene.h"
 
 #include <cmath>
 
@@ -18,8 +18,7 @@ private slots:
     void DarkFrameShowsOffsetAndReadNoise();
 };
 
-namespace
-{
+namespace {
 constexpr int kWidth = 2048;
 constexpr int kHeight = 512;
 
@@ -54,7 +53,8 @@ void SpectrographSceneTest::DispersionCoversTheStatedRange()
     QCOMPARE(int(SpectrographScene::Lines().size()), 16);
     for (const SpectrographScene::Line &line : SpectrographScene::Lines()) {
         // The middle row has tilt and smile zero: there the position is the inverse of the dispersion.
-        const double x = SpectrographScene::LinePosition(line.wavelengthNm, (kHeight - 1) / 2.0, kWidth, kHeight);
+        const double x =
+            SpectrographScene::LinePosition(line.wavelengthNm, (kHeight - 1) / 2.0, kWidth, kHeight);
         QVERIFY2(std::abs(SpectrographScene::WavelengthAt(x, kWidth) - line.wavelengthNm) < 1e-9,
                  qPrintable(QString::number(line.wavelengthNm)));
     }
@@ -95,7 +95,7 @@ void SpectrographSceneTest::ThreeTracksStandOutOfTheDark()
     };
     for (int track = 0; track < SpectrographScene::TrackCount; ++track)
         QVERIFY(rowMean(SpectrographScene::TrackCentre(track, kHeight)) > 0.03 * 65535);
-    for (const double gap : {1.0, 3 * kHeight / 8.0, 5 * kHeight / 8.0, kHeight - 2.0})
+    for (const double gap : { 1.0, 3 * kHeight / 8.0, 5 * kHeight / 8.0, kHeight - 2.0 })
         QVERIFY(std::abs(rowMean(gap) - 0.02 * 65535) < 0.001 * 65535);
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "testchartscene.h"
 #include "guardedtest.h"
 #include "sceneexposure.h"
-#include "testchartscene.h"
 
 #include <QSet>
 
@@ -57,8 +57,8 @@ void TestChartSceneTest::FillsEverySampleWithItsExpectedValue_data()
     QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("bitDepth");
     QTest::addColumn<bool>("isColour");
-    for (const QSize size : {QSize(1, 1), QSize(3, 5), QSize(7, 2), QSize(641, 479), QSize(2048, 64)}) {
-        for (const int bitDepth : {8, 12, 16})
+    for (const QSize size : { QSize(1, 1), QSize(3, 5), QSize(7, 2), QSize(641, 479), QSize(2048, 64) }) {
+        for (const int bitDepth : { 8, 12, 16 })
             QTest::addRow("%dx%d mono%d", size.width(), size.height(), bitDepth) << size << bitDepth << false;
         QTest::addRow("%dx%d rgb8", size.width(), size.height()) << size << 8 << true;
     }
@@ -77,8 +77,8 @@ void TestChartSceneTest::FillsEverySampleWithItsExpectedValue()
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
             if (isColour) {
-                const QRgb colour = qRgb(exposure.SampleAt(x, y, 0), exposure.SampleAt(x, y, 1),
-                                         exposure.SampleAt(x, y, 2));
+                const QRgb colour =
+                    qRgb(exposure.SampleAt(x, y, 0), exposure.SampleAt(x, y, 1), exposure.SampleAt(x, y, 2));
                 wrong += colour != TestChartScene::ExpectedColour(x, y, size.width(), size.height());
             } else {
                 wrong += exposure.SampleAt(x, y)
@@ -111,7 +111,7 @@ void TestChartSceneTest::CornersTellOrientation()
 {
     QSet<int> mono;
     QSet<QRgb> colour;
-    for (const QPoint corner : {QPoint(3, 3), QPoint(60, 3), QPoint(3, 60), QPoint(60, 60)}) {
+    for (const QPoint corner : { QPoint(3, 3), QPoint(60, 3), QPoint(3, 60), QPoint(60, 60) }) {
         mono.insert(TestChartScene::ExpectedValue(corner.x(), corner.y(), 64, 64, 8));
         colour.insert(TestChartScene::ExpectedColour(corner.x(), corner.y(), 64, 64));
     }

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "araviserror.h"
+
+#include "cameraformat.h"
+
+#include "simulatedsensor.h"
+
+#include <QStringList>
+#include <algorithm>
+
+namespace {
+int OnStep(int value, int step) { return value - value % std::max(step, 1); }
+
+/// Start and length along one axis.
+struct Span
+{
+    int start;
+    int length;
+};
+
+Span FittedSpan(Span wished, int sensor, int minimum, int lengthStep, int startStep)
+{
+    // Steps of the length are counted from the smallest one.
+    const int length =
+        minimum + OnStep(std::clamp(wished.length, minimum, std::max(sensor, minimum)) - minimum, lengthStep);
+    const int start = OnStep(std::clamp(wished.start, 0, std::max(sensor - length, 0)), startStep);
+    return { start, length };
+}
+
+QStringList AvailableFormats(ArvCamera *camera)
+{
+    unsigned int count = 0;
+    const char **names = arv_camera_dup_available_pixel_formats_as_strings(camera, &count, nullptr);
+    QStringList formats;
+    for (unsigned int i = 0; i < count; ++i)
+        formats.append(QString::fromUtf8(names[i]));
+    g_free(names);
+    return formats;
+}
+} // namespace
+
+QRect FittedRegion(const QRect &wished, const RegionLimits &limits)
+{
+    const Span x = FittedSpan({ wished.x(), wished.width() }, limits.sensorSize.width(),
+                              limits.minimumSize.width(), limits.sizeStep.width(), limits.offsetStep.width());
+    const Span y =
+        FittedSpan({ wished.y(), wished.height() }, limits.sensorSize.height(), limits.minimumSize.height(),
+                   limits.sizeStep.height(), limits.offsetStep.height());
+    return QRect(x.start, y.start, x.length, y.length);
+}
+
+CameraFormat::CameraFormat(ArvCamera *camera, SimulatedSensor *sensor)
+    : m_camera(camera)
+    , m_sensor(sensor)
+{
+    ReadLayouts();
+    ReadLimits();
+    ReadRegion();
+}
+
+void CameraFormat::ReadLayouts()
+{
+    const QStringList formats = AvailableFormats(m_camera);
+    const QString current = QString::fromUtf8(arv_camera_get_pixel_format_as_string(m_camera, nullptr));
+    for (const PixelLayout layout :
+         { PixelLayout::Mono8, PixelLayout::Mono12, PixelLayout::Mono16, PixelLayout::Rgb8 }) {
+        const bool isSimulated12 = m_sensor && layout == PixelLayout::Mono12
+                                   && formats.contains(PixelLayoutName(PixelLayout::Mono16));
+        if (!formats.contains(PixelLayoutName(layout)) && !isSimulated12)
+            continue;
+        m_layouts.append(layout);
+        if (PixelLayoutName(layout) == current)
+            m_layout = layout;
+    }
+}
+
+void CameraFormat::ReadLimits()
+{
+    int width = 0;
+    int height = 0;
+    arv_camera_get_sensor_size(m_camera, &width, &height, nullptr);
+    m_limits.sensorSize = QSize(width, height);
+
+    int largest = 0;
+    arv_camera_get_width_bounds(m_camera, &width, &largest, nullptr);
+    arv_camera_get_height_bounds(m_camera, &height, &largest, nullptr);
+    m_limits.minimumSize = QSize(width, height);
+    m_limits.sizeStep = QSize(arv_camera_get_width_increment(m_camera, nullptr),
+                              arv_camera_get_height_increment(m_camera, nullptr));
+    if (arv_camera_is_region_offset_available(m_camera, nullptr))
+        m_limits.offsetStep = QSize(arv_camera_get_x_offset_increment(m_camera, nullptr),
+                                    arv_camera_get_y_offset_increment(m_camera, nullptr));
+}
+
+void CameraFormat::ReadRegion()
+{
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+    arv_camera_get_region(m_camera, &x, &y, &width, &height, nullptr);
+    m_region = QRect(x, y, width, height);
+}
+
+bool CameraFormat::SetLayout(PixelLayout layout, QString *error)
+{
+    // The simulated camera has no 12-bit format of its own; its 16-bit one carries 12 bits then.
+    const bool isSimulated12 = m_sensor && layout == PixelLayout::Mono12;
+    const QString format = PixelLayoutName(isSimulated12 ? PixelLayout::Mono16 : layout);
+    AravisError failure;
+    arv_camera_set_pixel_format_from_string(m_camera, format.toUtf8().constData(), failure.Receive());
+    if (failure.IsSet()) {
+        if (error)
+            *error = tr("The pixel format %1 could not be set: %2. Choose another one.")
+                         .arg(PixelLayoutName(layout), failure.Text());
+        return false;
+    }
+    if (m_sensor)
+        m_sensor->SetBitDepthOf16BitSamples(isSimulated12 ? 12 : 16);
+    m_layout = layout;
+    return true;
+}
+
+bool CameraFormat::SetRegion(const QRect &region, QString *error)
+{
+    const QRect fitted = FittedRegion(region, m_limits);
+    AravisError failure;
+    arv_camera_set_region(m_camera, fitted.x(), fitted.y(), fitted.width(), fitted.height(),
+                          failure.Receive());
+    ReadRegion();
+    if (!failure.IsSet())
+        return true;
+    if (error)
+        *error = tr("The region %1 x %2 could not be set: %3. Choose another one.")
+                     .arg(fitted.width())
+                     .arg(fitted.height())
+                     .arg(failure.Text());
+    return false;
+}
+
+size_t CameraFormat::FrameBytes() const { return arv_camera_get_payload(m_camera, nullptr); }

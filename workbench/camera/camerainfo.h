@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMetaType>
+#include <QString>
+#include <QVector>
+
+/// Who a camera is. A list of cameras leaves `firmware` empty: it is read when a camera is opened.
+struct CameraInfo
+{
+    QString id; ///< what CameraSession::Open() takes
+    QString vendor;
+    QString model;
+    QString serial;
+    QString firmware;
+    QString interfaceName; ///< "GigE", "USB3" or "Fake" (the simulated camera)
+};
+
+Q_DECLARE_METATYPE(CameraInfo)
+Q_DECLARE_METATYPE(QVector<CameraInfo>)
