@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "filefault.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace {
+
+QString Translate(const char *text)
+{
+    return QCoreApplication::translate("FileFault", text);
+}
+
+QString FaultText(const QString &verb, const QString &path, const FileFault &fault)
+{
+    QString text = verb.arg(QFileInfo(path).fileName(), fault.what);
+    if (!fault.detail.isEmpty())
+        text += QString(" (%1)").arg(fault.detail);
+    return text + ". " + fault.advice;
+}
+
+} // namespace
+
+bool FileFault::Set(const QString &newWhat, const QString &newAdvice, const QString &newDetail)
+{
+    what = newWhat;
+    advice = newAdvice;
+    detail = newDetail;
+    return false;
+}
+
+QString ReadFaultText(const QString &path, const FileFault &fault)
+{
+    return FaultText(Translate("\u201c%1\u201d cannot be read: %2"), path, fault);
+}
+
+QString WriteFaultText(const QString &path, const FileFault &fault)
+{
+    return FaultText(Translate("\u201c%1\u201d was not saved: %2"), path, fault);
+}
+
+QString DamagedAdvice()
+{
+    return Translate("The file is damaged or was cut short: copy it again from where it came from.");
+}
+
+QString UnsupportedAdvice()
+{
+    return Translate("Save it from the program that made it as an ordinary TIFF, FITS or PNG file.");
+}
+
+QString DiskAdvice()
+{
+    return Translate("Check the free space and your rights in that folder, or choose another one; the old file is unchanged.");
+}
+
+QString MemoryAdvice()
+{
+    return Translate("Close other pictures or programs and try again.");
+}

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "picturefile.h"
+
+#include <QCoreApplication>
+
+#include <new>
+
+PictureFile::PictureFile(const QString &path)
+    : m_path(path)
+{
+}
+
+QString PictureFile::FrameDescription(int) const
+{
+    return QString();
+}
+
+bool PictureFile::ReadFrame(int index, Picture &frame, QString &error)
+{
+    FileFault fault;
+    bool done = false;
+    if (index < 0 || index >= m_info.frames) {
+        fault.Set(QCoreApplication::translate("PictureFile", "there is no frame %1 among its %2").arg(index + 1).arg(m_info.frames),
+                  QCoreApplication::translate("PictureFile", "Choose a frame that is there."));
+    } else {
+        try {
+            done = Decode(index, frame, fault);
+        } catch (const std::bad_alloc &) {
+            fault.Set(QCoreApplication::translate("PictureFile", "there is not enough memory for frame %1").arg(index + 1),
+                      MemoryAdvice());
+        }
+    }
+    error = done ? QString() : ReadFaultText(m_path, fault);
+    return done;
+}
+
+void PictureFile::AddWarning(const QString &message)
+{
+    if (!m_info.warning.isEmpty())
+        m_info.warning += '\n';
+    m_info.warning += message;
+}

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+enum class PictureFormat { Unknown, Tiff, Fits, Png, Jpeg, Bmp };
+
+/// Bytes from the start of a file that tell its format.
+constexpr int FormatSignatureBytes = 16;
+/// What a file is by its first bytes, whatever its name says.
+PictureFormat FormatOfContent(const QByteArray &firstBytes);
+/// What a file's name promises; Unknown for other endings.
+PictureFormat FormatOfName(const QString &path);
+/// For the user: "TIFF".
+QString FormatName(PictureFormat format);
+/// Endings in lower case without a dot, the usual one first.
+QStringList FormatSuffixes(PictureFormat format);

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "picturefile.h"
+#include "rasterheader.h"
+
+#include <QFile>
+
+class QImage;
+
+/// A PNG, JPEG or BMP file, decoded by Qt. Transparency is left out, palettes become RGB.
+class RasterPictureFile : public PictureFile
+{
+public:
+    RasterPictureFile(const QString &path, PictureFormat format);
+
+    bool Open(FileFault &fault);
+
+protected:
+    bool Decode(int index, Picture &frame, FileFault &fault) override;
+
+private:
+    QFile m_file;
+    RasterHeader m_header;
+};

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tiffpicturefile.h"
+
+#include "tiffdecode.h"
+#include "tiffmetadata.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QtEndian>
+
+#include <unistd.h>
+
+namespace {
+
+QString Translate(const char *text)
+{
+    return QCoreApplication::translate("TiffPictureFile", text);
+}
+
+bool ReadBytes(int fd, quint64 offset, uchar *bytes, qint64 size)
+{
+    while (size > 0) {
+        const ssize_t got = ::pread(fd, bytes, size_t(size), off_t(offset));
+        if (got <= 0)
+            return false;
+        bytes += got;
+        offset += quint64(got);
+        size -= got;
+    }
+    return true;
+}
+
+void SwapSamples(Picture &picture)
+{
+    VisitSampleType(picture.Type(), [&](auto sample) {
+        using Sample = decltype(sample);
+        const qint64 count = picture.ByteCount() / qint64(sizeof(Sample));
+        if constexpr (sizeof(Sample) == 2)
+            qbswap<2>(picture.Data(), count, picture.Data());
+        else if constexpr (sizeof(Sample) == 4)
+            qbswap<4>(picture.Data(), count, picture.Data());
+        else if constexpr (sizeof(Sample) == 8)
+            qbswap<8>(picture.Data(), count, picture.Data());
+    });
+}
+
+/// The page is one run of bytes that are the samples of a Picture, but for the byte order.
+bool IsPlain(TIFF *tiff, const TiffPage &page)
+{
+    if (page.compression != COMPRESSION_NONE || page.isTiled || page.isPlanar || page.IsPacked() || page.isPalette
+        || page.isMinWhite || page.samplesPerPixel != page.channels)
+        return false;
+    for (int strip = 1; strip < page.BlocksDown(); ++strip) {
+        const quint64 previousEnd = TIFFGetStrileOffset(tiff, uint32_t(strip - 1)) + TIFFGetStrileByteCount(tiff, uint32_t(strip - 1));
+        if (TIFFGetStrileOffset(tiff, uint32_t(strip)) != previousEnd)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+TiffPictureFile::TiffPictureFile(const QString &path)
+    : PictureFile(path)
+{
+}
+
+bool TiffPictureFile::Open(int fd, qint64 fileSize, FileFault &fault)
+{
+    m_fileSize = fileSize;
+    m_chain = ReadTiffChain(fd, fileSize);
+    if (!m_tiff.OpenForReading(fd, QFile::encodeName(Path()), fileSize))
+        return fault.Set(Translate("its header makes no sense"), DamagedAdvice(), m_tiff.TakeMessages());
+    if (m_chain.pages.isEmpty()) {
+        return fault.Set(m_chain.fault.isEmpty() ? Translate("it has no page") : m_chain.fault, DamagedAdvice());
+    }
+    TiffPage page;
+    if (!SelectPage(0, page, fault))
+        return false;
+    FillInfo(page);
+    return true;
+}
+
+QString TiffPictureFile::FrameDescription(int index) const
+{
+    return m_order.Describe(index);
+}
+
+bool TiffPictureFile::SelectPage(int index, TiffPage &page, FileFault &fault)
+{
+    const bool selected = TIFFSetSubDirectory(m_tiff.Get(), m_chain.pages[index]) == 1;
+    const QString messages = m_tiff.TakeMessages();
+    bool usable = false;
+    if (!selected)
+        fault.Set(Translate("its description cannot be read"), DamagedAdvice(), messages);
+    else
+        usable = ReadTiffPage(m_tiff, page, fault) && CheckTiffBlocks(m_tiff, page, m_fileSize, fault);
+    if (!usable)
+        fault.what = Translate("page %1 of %2: %3").arg(index + 1).arg(m_chain.pages.size()).arg(fault.what);
+    return usable;
+}
+
+void TiffPictureFile::FillInfo(const TiffPage &page)
+{
+    PictureInfo &info = MutableInfo();
+    info.format = PictureFormat::Tiff;
+    info.frames = m_chain.pages.size();
+    info.size = QSize(page.width, page.height);
+    info.channels = page.isPalette ? 3 : page.channels;
+    info.sampleType = page.isPalette ? SampleType::U8 : page.type;
+    info.metadata = ReadTiffTexts(m_tiff.Get());
+    QStringList details{m_chain.isBigTiff ? "BigTIFF" : QString(), TiffCompressionName(page.compression)};
+    details.removeAll(QString());
+    info.formatDetail = details.join(", ");
+
+    const QString description = DescriptionOf(info.metadata);
+    ReadTiffResolution(m_tiff.Get(), description, info.dpiX, info.dpiY);
+    if (!m_chain.fault.isEmpty()) {
+        AddWarning(ReadFaultText(Path(), {Translate("only its first %1 pages are there: %2").arg(info.frames).arg(m_chain.fault),
+                                          DamagedAdvice(), QString()}));
+    }
+    if (page.channels == 1 && page.samplesPerPixel > 2)
+        AddWarning(Translate("Only the first of the %1 samples of each pixel is shown.").arg(page.samplesPerPixel));
+    if (IsImageJDescription(description)) {
+        FindContiguousFrames(page);
+        m_order = StackOrder::FromImageJ(description, info.frames);
+    } else if (IsOmeDescription(description)) {
+        m_order = StackOrder::FromOme(description, info.frames);
+    }
+}
+
+void TiffPictureFile::FindContiguousFrames(const TiffPage &page)
+{
+    PictureInfo &info = MutableInfo();
+    const int claimed = ImageJValue(DescriptionOf(info.metadata), "images").toInt();
+    if (m_chain.pages.size() != 1 || claimed < 2)
+        return;
+    const quint64 first = TIFFGetStrileOffset(m_tiff.Get(), 0);
+    const qint64 frameBytes = page.BlockRowBytes() * page.height;
+    const qint64 present = IsPlain(m_tiff.Get(), page) ? (m_fileSize - qint64(first)) / frameBytes : 1;
+    info.frames = int(qMin(qint64(claimed), qMax(qint64(1), present)));
+    if (info.frames < claimed) {
+        AddWarning(ReadFaultText(Path(), {Translate("only the first %1 of its %2 frames are there").arg(info.frames).arg(claimed),
+                                          DamagedAdvice(), QString()}));
+    }
+    if (info.frames > 1)
+        m_contiguousOffset = first;
+}
+
+bool TiffPictureFile::Decode(int index, Picture &frame, FileFault &fault)
+{
+    m_tiff.TakeMessages();
+    if (m_contiguousOffset != 0)
+        return DecodeContiguous(index, frame, fault);
+    TiffPage page;
+    if (!SelectPage(index, page, fault))
+        return false;
+    if (DecodeTiffPage(m_tiff, page, frame, fault))
+        return true;
+    fault.what = Translate("page %1 of %2: %3").arg(index + 1).arg(m_chain.pages.size()).arg(fault.what);
+    return false;
+}
+
+bool TiffPictureFile::DecodeContiguous(int index, Picture &frame, FileFault &fault)
+{
+    const PictureInfo &info = Info();
+    frame.Reshape(info.size.width(), info.size.height(), info.channels, info.sampleType);
+    const quint64 offset = m_contiguousOffset + quint64(index) * quint64(frame.ByteCount());
+    if (!ReadBytes(TIFFFileno(m_tiff.Get()), offset, frame.Data(), frame.ByteCount()))
+        return fault.Set(Translate("frame %1 of %2 is not whole").arg(index + 1).arg(info.frames), DamagedAdvice());
+    if (TIFFIsByteSwapped(m_tiff.Get()))
+        SwapSamples(frame);
+    return true;
+}

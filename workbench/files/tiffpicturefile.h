@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "picturefile.h"
+#include "stackorder.h"
+#include "tiffchain.h"
+#include "tiffhandle.h"
+#include "tiffpage.h"
+
+/// A TIFF or BigTIFF file. Opening follows the chain of pages and decodes nothing, so a stack of many
+/// gigabytes opens at once. ImageJ stacks of more than 4 GB, which have one page description and
+/// their frames one after the other behind it, are read by their convention.
+class TiffPictureFile : public PictureFile
+{
+public:
+    explicit TiffPictureFile(const QString &path);
+
+    /// `fd` is taken.
+    bool Open(int fd, qint64 fileSize, FileFault &fault);
+    QString FrameDescription(int index) const override;
+
+protected:
+    bool Decode(int index, Picture &frame, FileFault &fault) override;
+
+private:
+    bool SelectPage(int index, TiffPage &page, FileFault &fault);
+    void FillInfo(const TiffPage &page);
+    void FindContiguousFrames(const TiffPage &page);
+    bool DecodeContiguous(int index, Picture &frame, FileFault &fault);
+
+    TiffHandle m_tiff;
+    TiffChain m_chain;
+    qint64 m_fileSize = 0;
+    StackOrder m_order;
+    /// First byte of the frames that follow each other without descriptions; 0 for ordinary files.
+    quint64 m_contiguousOffset = 0;
+};
