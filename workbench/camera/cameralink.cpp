@@ -1,0 +1,264 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cameralink.h"
+
+#include "camerasession.h"
+#include "scenecatalogue.h"
+
+#include <QThread>
+
+namespace {
+constexpr int WatchPeriodMs = 500;
+/// A camera that owes this many frames, and is silent for at least SilenceMs, is lost.
+constexpr double OwedFrames = 3.0;
+constexpr int SilenceMs = 3000;
+constexpr int MsPerSecond = 1000;
+}
+
+std::shared_ptr<CameraSession> CameraLink::OpenSession(const QString &id, const QString &scene, QString *error)
+{
+    auto session = std::make_shared<CameraSession>();
+    session->SetScene(scene);
+    if (!session->Open(id, error))
+        return nullptr;
+    return session;
+}
+
+CameraLink::CameraLink(Opener opener, QObject *parent)
+    : QObject(parent)
+    , m_opener(std::move(opener))
+    , m_scene(SceneCatalogue::DefaultName())
+{
+    m_worker.setMaxThreadCount(1);
+    m_tryTimer.setSingleShot(true);
+    m_watchTimer.setInterval(WatchPeriodMs);
+    connect(&m_tryTimer, SIGNAL(timeout()), this, SLOT(slotTryAgain()));
+    connect(&m_watchTimer, SIGNAL(timeout()), this, SLOT(slotWatchFrames()));
+}
+
+CameraLink::~CameraLink()
+{
+    m_worker.clear();
+    m_worker.waitForDone();
+}
+
+void CameraLink::Open(const QString &id)
+{
+    Close();
+    m_info = CameraInfo();
+    m_info.id = id;
+    SetState(State::Opening);
+    OpenInWorker(id);
+}
+
+void CameraLink::Close()
+{
+    m_tryTimer.stop();
+    m_watchTimer.stop();
+    m_isTrying = false;
+    m_session.reset();
+    m_info = CameraInfo();
+    m_settings = Settings();
+    SetState(State::NoCamera);
+}
+
+void CameraLink::Reconnect()
+{
+    if (m_state != State::Lost || m_isTrying)
+        return;
+    m_policy.Reset();
+    m_tryTimer.stop();
+    slotTryAgain();
+}
+
+QString CameraLink::Name() const
+{
+    if (m_info.model.isEmpty())
+        return m_info.id;
+    return m_info.serial.isEmpty() ? m_info.model : QString("%1 %2").arg(m_info.model, m_info.serial);
+}
+
+int CameraLink::SecondsToNextTry() const
+{
+    return m_tryTimer.isActive() ? (m_tryTimer.remainingTime() + MsPerSecond - 1) / MsPerSecond : 0;
+}
+
+void CameraLink::OpenInWorker(const QString &id)
+{
+    m_worker.start([this, id, scene = m_scene, guiThread = thread()] {
+        QString error;
+        std::shared_ptr<CameraSession> session = m_opener(id, scene, &error);
+        if (session)
+            session->moveToThread(guiThread);
+        QMetaObject::invokeMethod(
+            this, [this, id, session, error] { TakeResult(id, session, error); }, Qt::QueuedConnection);
+    });
+}
+
+void CameraLink::TakeResult(const QString &id, std::shared_ptr<CameraSession> session, const QString &error)
+{
+    if (m_info.id != id || m_state == State::Open)
+        return; // another camera was chosen in the meantime
+    m_isTrying = false;
+    if (session) {
+        Adopt(std::move(session));
+    } else if (m_state == State::Lost) {
+        ScheduleTry();
+    } else {
+        Close();
+        emit signalMessage(error);
+    }
+}
+
+void CameraLink::Adopt(std::shared_ptr<CameraSession> session)
+{
+    const bool isBack = m_state == State::Lost;
+    m_session = std::move(session);
+    m_info = m_session->Info();
+    m_policy.Reset();
+    connect(m_session.get(), SIGNAL(signalControlLost()), this, SLOT(slotControlLost()));
+    if (isBack)
+        GiveSettingsBack();
+    SetState(State::Open);
+    if (isBack)
+        emit signalMessage(tr("Camera \"%1\" is back.").arg(Name()));
+    if (isBack && m_sink)
+        StartFrames(m_sink);
+}
+
+void CameraLink::slotControlLost()
+{
+    if (m_session)
+        Lose();
+}
+
+void CameraLink::slotWatchFrames()
+{
+    if (!m_session || !m_session->IsStreaming())
+        return;
+    const double rate = m_session->Controls().FrameRate();
+    const double owedMs = rate > 0 ? OwedFrames * MsPerSecond / rate : 0;
+    if (m_session->MillisecondsSinceLastFrame() > SilenceMs + owedMs)
+        Lose();
+}
+
+void CameraLink::Lose()
+{
+    KeepSettings();
+    m_countsBefore = Counts();
+    m_session.reset();
+    m_watchTimer.stop();
+    m_policy.Reset();
+    m_state = State::Lost;
+    ScheduleTry();
+}
+
+void CameraLink::ScheduleTry()
+{
+    if (const std::optional<int> delayMs = m_policy.NextDelayMs())
+        m_tryTimer.start(*delayMs);
+    emit signalStateChanged();
+}
+
+void CameraLink::slotTryAgain()
+{
+    m_isTrying = true;
+    emit signalStateChanged();
+    OpenInWorker(m_info.id);
+}
+
+void CameraLink::SetState(State state)
+{
+    if (m_state == state)
+        return;
+    m_state = state;
+    emit signalStateChanged();
+}
+
+void CameraLink::SetScene(const QString &name)
+{
+    m_scene = name;
+    if (m_session)
+        m_session->SetScene(name);
+    emit signalFormatChanged();
+}
+
+void CameraLink::SetPixelLayout(PixelLayout layout)
+{
+    if (!m_session)
+        return;
+    QString error;
+    Report(m_session->SetPixelLayout(layout, &error), error);
+    emit signalFormatChanged();
+}
+
+void CameraLink::SetRegion(const QRect &region)
+{
+    if (!m_session)
+        return;
+    QString error;
+    Report(m_session->SetRegion(region, &error), error);
+    emit signalFormatChanged();
+}
+
+bool CameraLink::StartFrames(FrameSink *sink)
+{
+    if (m_state != State::Open && m_state != State::Lost)
+        return false;
+    if (m_sink != sink)
+        m_countsBefore = FrameCounts();
+    m_sink = sink;
+    if (!m_session)
+        return true; // its frames come when the camera is back
+    QString error;
+    if (!Report(m_session->Start(sink, &error), error)) {
+        m_sink = nullptr;
+        return false;
+    }
+    m_watchTimer.start();
+    return true;
+}
+
+void CameraLink::StopFrames()
+{
+    m_sink = nullptr;
+    m_watchTimer.stop();
+    if (m_session)
+        m_session->Stop();
+}
+
+FrameCounts CameraLink::Counts() const
+{
+    FrameCounts sum = m_countsBefore;
+    if (!m_session)
+        return sum;
+    const FrameCounts now = m_session->Ledger().Counts();
+    sum.captured += now.captured;
+    for (size_t stage = 0; stage < sum.lostAt.size(); ++stage)
+        sum.lostAt[stage] += now.lostAt[stage];
+    return sum;
+}
+
+bool CameraLink::Report(bool succeeded, const QString &error)
+{
+    if (!succeeded)
+        emit signalMessage(error);
+    return succeeded;
+}
+
+void CameraLink::KeepSettings()
+{
+    m_settings.layout = m_session->Format().Layout();
+    m_settings.region = m_session->Format().Region();
+    m_settings.exposureUs = m_session->Controls().ExposureUs();
+    m_settings.gain = m_session->Controls().Gain();
+    m_settings.frameRate = m_session->Controls().FrameRate();
+}
+
+void CameraLink::GiveSettingsBack()
+{
+    m_session->SetPixelLayout(m_settings.layout);
+    m_session->SetRegion(m_settings.region);
+    m_session->Controls().SetExposureUs(m_settings.exposureUs);
+    m_session->Controls().SetGain(m_settings.gain);
+    m_session->Controls().SetFrameRate(m_settings.frameRate);
+}

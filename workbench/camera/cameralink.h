@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "camerainfo.h"
+#include "cameraframe.h"
+#include "frameledger.h"
+#include "framesource.h"
+#include "reconnectpolicy.h"
+
+#include <QObject>
+#include <QRect>
+#include <QThreadPool>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+class CameraSession;
+
+/// The camera the user works with: opens it, notices when it is lost, and tries to come back in
+/// bounded steps. Opening one takes up to a few seconds and runs in a worker; everything else is the
+/// GUI thread's. A lost camera is let go at once and never waited for.
+class CameraLink : public QObject, public FrameSource
+{
+    Q_OBJECT
+
+public:
+    enum class State {
+        NoCamera, ///< none was chosen, or it was closed
+        Opening,
+        Open,
+        Lost ///< was open; tries to come back, or has given up
+    };
+    /// Opens the camera `id` with the scene; null and an error in words when that fails. Runs in the
+    /// worker.
+    using Opener = std::function<std::shared_ptr<CameraSession>(const QString &id, const QString &scene, QString *error)>;
+
+    /// Tries to get a lost camera back.
+    static constexpr int ReconnectTries = 6;
+
+    static std::shared_ptr<CameraSession> OpenSession(const QString &id, const QString &scene, QString *error);
+
+    explicit CameraLink(Opener opener = OpenSession, QObject *parent = nullptr);
+    ~CameraLink() override;
+
+    /// Begins to open a camera; signalStateChanged() tells how it ended.
+    void Open(const QString &id);
+    void Close();
+    /// Tries to get the lost camera back now, and begins the steps anew.
+    void Reconnect();
+
+    State GetState() const { return m_state; }
+    /// Null unless the state is Open.
+    CameraSession *Session() const { return m_session.get(); }
+    /// Who the open, lost or opening camera is.
+    const CameraInfo &Info() const { return m_info; }
+    /// Model and serial number, or the id of one that has not been open yet.
+    QString Name() const;
+    /// Tries made and allowed since the camera was lost.
+    int TriesMade() const { return m_policy.TriesMade(); }
+    bool HasGivenUp() const { return m_state == State::Lost && !m_tryTimer.isActive() && !m_isTrying; }
+    /// Until the next try; 0 when none is due.
+    int SecondsToNextTry() const;
+
+    /// What the simulated camera looks at, now and whenever it is opened.
+    void SetScene(const QString &name);
+    QString SceneName() const { return m_scene; }
+    void SetPixelLayout(PixelLayout layout);
+    /// In sensor pixels; the camera takes the nearest region it can.
+    void SetRegion(const QRect &region);
+
+    bool StartFrames(FrameSink *sink) override;
+    void StopFrames() override;
+    /// Since the preview was started, across reconnections.
+    FrameCounts Counts() const;
+
+signals:
+    void signalStateChanged();
+    /// Pixel layout, region or scene of the open camera changed.
+    void signalFormatChanged();
+    /// A sentence for the status bar.
+    void signalMessage(QString text);
+
+private slots:
+    void slotControlLost();
+    void slotWatchFrames();
+    void slotTryAgain();
+
+private:
+    /// What a camera that comes back gets again.
+    struct Settings
+    {
+        PixelLayout layout = PixelLayout::Mono8;
+        QRect region;
+        double exposureUs = 0;
+        double gain = 0;
+        double frameRate = 0;
+    };
+
+    void OpenInWorker(const QString &id);
+    void TakeResult(const QString &id, std::shared_ptr<CameraSession> session, const QString &error);
+    void Adopt(std::shared_ptr<CameraSession> session);
+    void Lose();
+    void ScheduleTry();
+    void SetState(State state);
+    bool Report(bool succeeded, const QString &error);
+    void KeepSettings();
+    void GiveSettingsBack();
+
+    Opener m_opener;
+    QThreadPool m_worker;
+    std::shared_ptr<CameraSession> m_session;
+    CameraInfo m_info;
+    State m_state = State::NoCamera;
+    QString m_scene;
+    FrameSink *m_sink = nullptr;
+    FrameCounts m_countsBefore;
+    Settings m_settings;
+    ReconnectPolicy m_policy{ReconnectTries};
+    QTimer m_tryTimer;
+    QTimer m_watchTimer;
+    bool m_isTrying = false;
+};

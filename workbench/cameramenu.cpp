@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cameramenu.h"
+
+#include "cameralink.h"
+#include "camerasession.h"
+#include "connectedcameras.h"
+#include "informationdialog.h"
+#include "livepreview.h"
+#include "regionofinterest.h"
+#include "workbenchservices.h"
+
+#include <QActionGroup>
+
+namespace {
+
+QString Caption(const CameraInfo &camera)
+{
+    if (camera.interfaceName == CameraDiscovery::ImmediateCameras().first().interfaceName)
+        return CameraMenu::tr("Simulated Camera");
+    return QString("%1 %2 %3 (%4)").arg(camera.vendor, camera.model, camera.serial, camera.interfaceName);
+}
+
+/// Later: the action that is running now may be one of them.
+void RemoveActions(QActionGroup *group, QMenu *menu)
+{
+    for (QAction *action : group->actions()) {
+        group->removeAction(action);
+        menu->removeAction(action);
+        action->deleteLater();
+    }
+}
+
+} // namespace
+
+CameraMenu::CameraMenu(WorkbenchServices *services, QWidget *parent)
+    : QMenu(tr("&Camera"), parent)
+    , m_services(services)
+    , m_cameraGroup(new QActionGroup(this))
+    , m_layoutGroup(new QActionGroup(this))
+{
+    AddCameraActions();
+    addSeparator();
+    AddFormatActions();
+    addSeparator();
+    addAction(tr("Camera &Information…"), this, SLOT(slotShowInformation()));
+
+    connect(m_cameraGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotOpenCamera(QAction *)));
+    connect(m_layoutGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetPixelLayout(QAction *)));
+    connect(&m_discovery, SIGNAL(signalCamerasFound(QVector<CameraInfo>)), this,
+            SLOT(slotCamerasFound(QVector<CameraInfo>)));
+    connect(services->Link(), SIGNAL(signalStateChanged()), this, SLOT(slotFirstSearch()));
+    connect(services->Cameras(), SIGNAL(signalUpdateCameraList()), this, SLOT(slotUpdateCameras()));
+    connect(services->Link(), SIGNAL(signalFormatChanged()), this, SLOT(slotUpdateActions()));
+    connect(services->Region(), SIGNAL(signalCheckedChanged(bool)), m_selectRegion, SLOT(setChecked(bool)));
+    slotUpdateCameras();
+}
+
+void CameraMenu::AddCameraActions()
+{
+    m_endOfCameras = addSeparator();
+    m_refresh = addAction(tr("&Refresh List"), this, SLOT(slotRefresh()));
+    m_reconnect = addAction(tr("Re&connect"));
+    connect(m_reconnect, &QAction::triggered, m_services->Link(), &CameraLink::Reconnect);
+    m_close = addAction(tr("C&lose Camera"));
+    connect(m_close, &QAction::triggered, m_services->Link(), &CameraLink::Close);
+}
+
+void CameraMenu::AddFormatActions()
+{
+    m_capture = addAction(tr("Capture &Frames"));
+    m_capture->setShortcut(QKeySequence("F10"));
+    connect(m_capture, &QAction::triggered, m_services->Preview(),
+            [preview = m_services->Preview()] { preview->FrameSave(false, false); });
+    m_layouts = addMenu(tr("&Pixel Format"));
+    m_selectRegion = addAction(tr("&Select Region"), this, SLOT(slotSelectRegion(bool)));
+    m_selectRegion->setCheckable(true);
+    m_fullSensor = addAction(tr("F&ull Sensor"), this, SLOT(slotFullSensor()));
+}
+
+/// A search keeps every camera from being opened for a second, so the first camera goes first.
+void CameraMenu::slotFirstSearch()
+{
+    if (m_services->Link()->GetState() == CameraLink::State::Opening)
+        return;
+    disconnect(m_services->Link(), SIGNAL(signalStateChanged()), this, SLOT(slotFirstSearch()));
+    slotRefresh();
+}
+
+void CameraMenu::slotRefresh()
+{
+    m_discovery.Start();
+    m_refresh->setEnabled(false);
+}
+
+void CameraMenu::slotCamerasFound(const QVector<CameraInfo> &cameras)
+{
+    m_refresh->setEnabled(true);
+    m_services->Cameras()->SetCameras(cameras);
+}
+
+void CameraMenu::slotUpdateCameras()
+{
+    RemoveActions(m_cameraGroup, this);
+    const CameraLink *link = m_services->Link();
+    for (const CameraInfo &camera : m_services->Cameras()->Cameras()) {
+        auto *action = new QAction(Caption(camera), m_cameraGroup);
+        action->setData(camera.id);
+        action->setCheckable(true);
+        action->setChecked(link->GetState() != CameraLink::State::NoCamera && link->Info().id == camera.id);
+        insertAction(m_endOfCameras, action);
+    }
+    slotUpdateActions();
+}
+
+void CameraMenu::slotUpdateActions()
+{
+    const CameraLink::State state = m_services->Link()->GetState();
+    const bool isOpen = state == CameraLink::State::Open;
+    m_capture->setEnabled(isOpen);
+    m_reconnect->setEnabled(state == CameraLink::State::Lost);
+    m_close->setEnabled(state != CameraLink::State::NoCamera);
+    m_layouts->setEnabled(isOpen);
+    m_selectRegion->setEnabled(isOpen);
+    m_fullSensor->setEnabled(isOpen);
+    if (isOpen)
+        UpdateLayouts();
+}
+
+void CameraMenu::UpdateLayouts()
+{
+    RemoveActions(m_layoutGroup, m_layouts);
+    const CameraFormat &format = m_services->Link()->Session()->Format();
+    for (const PixelLayout layout : format.Layouts()) {
+        auto *action = new QAction(PixelLayoutName(layout), m_layoutGroup);
+        action->setData(int(layout));
+        action->setCheckable(true);
+        action->setChecked(layout == format.Layout());
+        m_layouts->addAction(action);
+    }
+}
+
+void CameraMenu::slotOpenCamera(QAction *action)
+{
+    m_services->Link()->Open(action->data().toString());
+}
+
+void CameraMenu::slotSetPixelLayout(QAction *action)
+{
+    m_services->Link()->SetPixelLayout(PixelLayout(action->data().toInt()));
+}
+
+void CameraMenu::slotSelectRegion(bool checked)
+{
+    m_services->Region()->SetManualROIChecked(checked);
+}
+
+void CameraMenu::slotFullSensor()
+{
+    CameraLink *link = m_services->Link();
+    link->SetRegion(QRect(QPoint(0, 0), link->Session()->Format().Limits().sensorSize));
+}
+
+void CameraMenu::slotShowInformation()
+{
+    InformationDialog::ShowCamera(parentWidget());
+}

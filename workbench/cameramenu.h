@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cameradiscovery.h"
+
+#include <QMenu>
+
+class WorkbenchServices;
+
+/// The Camera menu: which camera, what it sends and what part of its sensor. Looks for cameras in
+/// the background, at the start and when asked. GUI thread.
+class CameraMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    /// `services` are borrowed and outlive this object.
+    CameraMenu(WorkbenchServices *services, QWidget *parent);
+
+public slots:
+    /// Looks for cameras; the list follows when they were found.
+    void slotRefresh();
+
+private slots:
+    void slotFirstSearch();
+    void slotCamerasFound(const QVector<CameraInfo> &cameras);
+    void slotUpdateCameras();
+    void slotUpdateActions();
+    void slotOpenCamera(QAction *action);
+    void slotSetPixelLayout(QAction *action);
+    void slotSelectRegion(bool checked);
+    void slotFullSensor();
+    void slotShowInformation();
+
+private:
+    void AddCameraActions();
+    void AddFormatActions();
+    void UpdateLayouts();
+
+    WorkbenchServices *m_services;
+    CameraDiscovery m_discovery;
+    QActionGroup *m_cameraGroup;
+    QActionGroup *m_layoutGroup;
+    QAction *m_endOfCameras = nullptr;
+    QAction *m_refresh = nullptr;
+    QAction *m_capture = nullptr;
+    QAction *m_reconnect = nullptr;
+    QAction *m_close = nullptr;
+    QMenu *m_layouts = nullptr;
+    QAction *m_selectRegion = nullptr;
+    QAction *m_fullSensor = nullptr;
+};

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// What the user asked for on the command line.
+struct CommandLine
+{
+    /// What is to be done: run, print `text` and end with 0, or print it as an error and end with 2.
+    enum class Action { Run, Print, Fail };
+
+    static constexpr int UsageExitCode = 2;
+
+    /// `arguments` begin with the program's name.
+    static CommandLine Parse(const QStringList &arguments);
+    /// The line for a name that is not among the choices.
+    static QString NoSuchText(const QString &what, const QString &name, const QStringList &choices);
+
+    Action action = Action::Run;
+    QString text;
+    /// Empty: the simulated camera.
+    QString cameraId;
+    QString scene;
+    /// End after so many frames were shown; 0 runs until the user quits.
+    int frames = 0;
+    QString screenshot;
+};

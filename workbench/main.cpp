@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cameralink.h"
+#include "commandline.h"
+#include "devicelist.h"
+#include "mainwindow.h"
+#include "settingsfile.h"
+#include "stylesheet.h"
+#include "timedrun.h"
+#include "workbenchservices.h"
+
+#include <QApplication>
+#include <QLoggingCategory>
+
+#include <clocale>
+#include <cstdio>
+
+namespace {
+
+/// Only a camera that was asked for is looked for before the window is there.
+bool IsCameraThere(const QString &id, QString *error)
+{
+    if (id.isEmpty() || IsSimulatedCamera(id))
+        return true;
+    QStringList ids;
+    for (const CameraInfo &camera : ReadDeviceList())
+        ids << camera.id;
+    *error = CommandLine::NoSuchText("camera", id, ids);
+    return ids.contains(id);
+}
+
+int Fail(const QString &text)
+{
+    fprintf(stderr, "%s\n", qPrintable(text));
+    return CommandLine::UsageExitCode;
+}
+
+int RunWorkbench(QApplication &application, const CommandLine &line)
+{
+    const StyleSheet look = StyleSheet::Dark();
+    if (!look.ErrorText().isEmpty())
+        qWarning("%s", qUtf8Printable(look.ErrorText()));
+    look.Apply(application);
+
+    SettingsFile settings(SettingsFile::StandardPath());
+    CameraLink link;
+    link.SetScene(line.scene);
+    WorkbenchServices services(settings.Settings(), &link);
+    // The camera opens in its worker while the window is being built.
+    link.Open(line.cameraId.isEmpty() ? SimulatedCameraInfo().id : line.cameraId);
+    MainWindow window(&services, settings.Settings());
+    window.show();
+    if (!settings.KeptAside().isEmpty())
+        window.slotShowMessage(QObject::tr("The settings were not used: %1. They were kept as %2.")
+                                   .arg(settings.Fault(), settings.KeptAside()));
+    if (line.frames > 0)
+        new TimedRun(&link, window.Shown(), &window, line.frames, line.screenshot, &window);
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    setlocale(LC_ALL, ""); // the arguments are in the user's character set
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments << QString::fromLocal8Bit(argv[i]);
+    const CommandLine line = CommandLine::Parse(arguments);
+    if (line.action == CommandLine::Action::Fail)
+        return Fail(line.text);
+    if (line.action == CommandLine::Action::Print) {
+        printf("%s", qPrintable(line.text));
+        return EXIT_SUCCESS;
+    }
+    QString error;
+    if (!IsCameraThere(line.cameraId, &error))
+        return Fail("workbench: " + error);
+
+    // QT_LOGGING_RULES="default.debug=true" shows the diagnostic lines.
+    QLoggingCategory::setFilterRules("default.debug=false");
+    QCoreApplication::setApplicationName("workbench");
+    QCoreApplication::setApplicationVersion(WORKBENCH_VERSION);
+    QApplication application(argc, argv);
+    application.setWindowIcon(QIcon(":/icons/workbench.svg"));
+    return RunWorkbench(application, line);
+}

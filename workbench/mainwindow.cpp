@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "mainwindow.h"
+
+#include "cameralink.h"
+#include "cameramenu.h"
+#include "cameranotice.h"
+#include "globalui.h"
+#include "informationdialog.h"
+#include "shownframes.h"
+#include "statusline.h"
+#include "stylesheet.h"
+#include "viewcodes.h"
+#include "viewmenu.h"
+#include "workbenchservices.h"
+#include "workspaceconfig.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QMenuBar>
+#include <QScreen>
+#include <QSettings>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTabWidget>
+
+namespace {
+/// Of QMainWindow::saveState().
+constexpr int StateVersion = 1;
+const char GeometryKey[] = "window/geometry";
+const char StateKey[] = "window/state";
+const char BlackBackgroundKey[] = "window/blackBackground";
+
+constexpr QSize DefaultSize(1440, 900);
+constexpr int SidePanelWidth = 390;
+constexpr int BottomPanelHeight = 170;
+}
+
+MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
+    : m_services(services)
+    , m_settings(settings)
+{
+    setObjectName("MainWindow");
+    setWindowTitle(tr("Workbench"));
+    StyleSheet::FollowNameChanges(this);
+
+    BuildAreas();
+    m_shown = new ShownFrames(services->Preview(), services->GetWorkspace(), this);
+    BuildMenus();
+    m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);
+    connect(services, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
+    auto *leaveFullScreen = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    connect(leaveFullScreen, SIGNAL(activated()), this, SLOT(slotLeaveFullScreen()));
+
+    GlobalAttachObserver(this);
+    RestoreLayout();
+    services->Config()->SetCameraView();
+}
+
+MainWindow::~MainWindow()
+{
+    GlobalDetachObserver(this);
+    delete GlobalUI::GetInstance();
+}
+
+void MainWindow::BuildAreas()
+{
+    GlobalUI *module = GlobalUI::GetInstance();
+    module->InitMainUI(this);
+
+    m_centre = module->GetCenterStackedWidget();
+    setCentralWidget(m_centre);
+    setCorner(Qt::BottomLeftCorner, Qt::LeftDockWidgetArea);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    m_leftDock = AddDock("DockLeft", module->GetLeftStackedWidget(), Qt::LeftDockWidgetArea);
+    m_rightDock = AddDock("DockRight", module->GetRightTabWidget(), Qt::RightDockWidgetArea);
+    m_bottomDock = AddDock("DockBottom", module->GetBottomTabWidget(), Qt::BottomDockWidgetArea);
+    connect(m_centre, SIGNAL(signalUpdateDockWidget()), this, SLOT(slotUpdateDockWidget()));
+
+    new CameraNotice(m_services->Link(), m_centre->widget(CameraControlPage)); // owned by the page
+}
+
+/// The panels are folded by the buttons around the centre, so the docks have no title bars.
+QDockWidget *MainWindow::AddDock(const char *name, QWidget *area, Qt::DockWidgetArea where)
+{
+    auto *dock = new QDockWidget(this);
+    dock->setObjectName(name);
+    dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
+    dock->setTitleBarWidget(new QWidget(dock));
+    if (where != Qt::BottomDockWidgetArea)
+        area->setMinimumWidth(SidePanelWidth);
+    dock->setWidget(area);
+    addDockWidget(where, dock);
+    return dock;
+}
+
+void MainWindow::BuildMenus()
+{
+    QMenu *file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("&Open…"))->setEnabled(false);
+    file->addSeparator();
+    file->addAction(tr("&Quit"), this, SLOT(close()), QKeySequence("Ctrl+W"));
+
+    auto *camera = new CameraMenu(m_services, this);
+    menuBar()->addMenu(camera);
+    m_viewMenu = new ViewMenu(m_services, this);
+    menuBar()->addMenu(m_viewMenu);
+    connect(m_viewMenu, SIGNAL(signalRestoreDefaultLayout()), this, SLOT(slotRestoreDefaultLayout()));
+
+    QMenu *help = menuBar()->addMenu(tr("&Help"));
+    help->addAction(tr("&About"), [this] { InformationDialog::ShowAbout(this); });
+
+    // While the window fills the screen the menu bar is hidden, and its keys would be with it.
+    for (QMenu *menu : {file, static_cast<QMenu *>(camera), static_cast<QMenu *>(m_viewMenu)})
+        addActions(menu->actions());
+}
+
+void MainWindow::RestoreLayout()
+{
+    ArrangeDefault();
+    restoreGeometry(m_settings->value(GeometryKey).toByteArray());
+    restoreState(m_settings->value(StateKey).toByteArray(), StateVersion);
+    SetBlackBackground(m_settings->value(BlackBackgroundKey, false).toBool());
+    slotUpdateDockWidget();
+}
+
+void MainWindow::ArrangeDefault()
+{
+    resize(DefaultSize.boundedTo(QApplication::primaryScreen()->availableSize()));
+    resizeDocks({m_leftDock, m_rightDock}, {SidePanelWidth, SidePanelWidth}, Qt::Horizontal);
+    resizeDocks({m_bottomDock}, {BottomPanelHeight}, Qt::Vertical);
+}
+
+void MainWindow::slotRestoreDefaultLayout()
+{
+    slotLeaveFullScreen();
+    if (isMaximized())
+        showNormal();
+    m_services->Config()->RestoreDefaults();
+    SetBlackBackground(false);
+    slotUpdateDockWidget();
+    ArrangeDefault();
+}
+
+void MainWindow::slotUpdateDockWidget()
+{
+    const WorkspaceConfig *config = m_services->Config();
+    m_leftDock->setVisible(config->IsLeftUIChecked());
+    m_rightDock->setVisible(config->IsRightUIChecked() && config->IsRightButtonsAvailable());
+    m_bottomDock->setVisible(config->IsBottomUIChecked());
+    if (m_viewMenu)
+        m_viewMenu->slotUpdate();
+}
+
+void MainWindow::slotShowMessage(QString text)
+{
+    m_statusLine->slotShowMessage(text);
+}
+
+void MainWindow::UpdateObserver(int id, void *)
+{
+    if (id == NotifyFullScreen)
+        SetFullScreen(!isFullScreen());
+    else if (id == NotifyBlackBackground)
+        SetBlackBackground(!m_isBlackBackground);
+}
+
+void MainWindow::slotLeaveFullScreen()
+{
+    SetFullScreen(false);
+}
+
+/// The panels fold away for the picture; their buttons stay, and they come back with the window.
+void MainWindow::SetFullScreen(bool full)
+{
+    if (full == isFullScreen())
+        return;
+    const WorkspaceConfig *config = m_services->Config();
+    if (full) {
+        m_panelsBeforeFullScreen.left = config->IsLeftUIChecked();
+        m_panelsBeforeFullScreen.right = config->IsRightUIChecked();
+        m_panelsBeforeFullScreen.bottom = config->IsBottomUIChecked();
+        SetPanels({false, false, false});
+    } else {
+        SetPanels(m_panelsBeforeFullScreen);
+    }
+    menuBar()->setVisible(!full);
+    statusBar()->setVisible(!full);
+    setWindowState(windowState().setFlag(Qt::WindowFullScreen, full));
+    m_viewMenu->slotSetFullScreenChecked(full);
+}
+
+void MainWindow::SetPanels(const PanelsShown &panels)
+{
+    WorkspaceConfig *config = m_services->Config();
+    config->SetLeftUIChecked(panels.left);
+    config->SetRightUIChecked(panels.right);
+    config->SetBottomUIChecked(panels.bottom);
+    config->UpdateCameraControlUI();
+}
+
+void MainWindow::SetBlackBackground(bool black)
+{
+    m_isBlackBackground = black;
+    m_settings->setValue(BlackBackgroundKey, black);
+    QMetaObject::invokeMethod(m_centre, "slotSetBlackBackground", Q_ARG(bool, black));
+    m_viewMenu->slotSetBlackBackgroundChecked(black);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    slotLeaveFullScreen();
+    m_settings->setValue(GeometryKey, saveGeometry());
+    m_settings->setValue(StateKey, saveState(StateVersion));
+    QMainWindow::closeEvent(event);
+}

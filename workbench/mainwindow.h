@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "globalnotify.h"
+
+#include <QMainWindow>
+
+class QDockWidget;
+class QSettings;
+class QStackedWidget;
+class ShownFrames;
+class StatusLine;
+class ViewMenu;
+class WorkbenchServices;
+
+/// The window of the workbench: builds the module, docks its four areas, and follows what the
+/// workspace says of panels, full screen and background. The module goes with it. GUI thread.
+class MainWindow : public QMainWindow, public LxObserver
+{
+    Q_OBJECT
+
+public:
+    /// Both are borrowed and outlive this object; the services run already.
+    MainWindow(WorkbenchServices *services, QSettings *settings);
+    ~MainWindow() override;
+
+    const ShownFrames *Shown() const { return m_shown; }
+    void UpdateObserver(int id, void *data) override;
+
+public slots:
+    void slotShowMessage(QString text);
+    void slotRestoreDefaultLayout();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private slots:
+    void slotUpdateDockWidget();
+    void slotLeaveFullScreen();
+
+private:
+    /// Which panels were shown before the window filled the screen.
+    struct PanelsShown
+    {
+        bool left = true;
+        bool right = true;
+        bool bottom = true;
+    };
+
+    void BuildAreas();
+    QDockWidget *AddDock(const char *name, QWidget *area, Qt::DockWidgetArea where);
+    void BuildMenus();
+    void RestoreLayout();
+    void ArrangeDefault();
+    void SetFullScreen(bool full);
+    void SetPanels(const PanelsShown &panels);
+    void SetBlackBackground(bool black);
+
+    WorkbenchServices *m_services;
+    QSettings *m_settings;
+    QStackedWidget *m_centre = nullptr;
+    QDockWidget *m_leftDock = nullptr;
+    QDockWidget *m_rightDock = nullptr;
+    QDockWidget *m_bottomDock = nullptr;
+    ViewMenu *m_viewMenu = nullptr;
+    ShownFrames *m_shown = nullptr;
+    StatusLine *m_statusLine = nullptr;
+    PanelsShown m_panelsBeforeFullScreen;
+    bool m_isBlackBackground = false;
+};

@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "comparisonsaving.h"
+
+ComparisonSaving::ComparisonSaving(QObject *parent)
+    : CompareSaver(parent)
+{
+}

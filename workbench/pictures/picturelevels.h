@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "imagecore.h"
+
+/// Pixel depth and display levels of an opened picture; while nothing is open, those of an 8-bit
+/// picture shown as it is. Owned by its OpenedPicture. GUI thread.
+class PictureLevels : public ImageCore
+{
+    Q_OBJECT
+
+public:
+    explicit PictureLevels(QObject *parent = nullptr);
+
+    int GetDepth() const override;
+    int GetLeftLevel() const override;
+    int GetRightLevel() const override;
+};

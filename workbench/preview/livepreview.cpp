@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "livepreview.h"
+
+#include "framesource.h"
+#include "liveorientation.h"
+
+namespace {
+/// How long the thread waits for a frame before it looks again whether it is to go on.
+constexpr int TakeTimeoutMs = 500;
+}
+
+LivePreview::LivePreview(FrameSource *source, LiveOrientation *orientation, QObject *parent)
+    : PreviewManager(parent)
+    , m_source(source)
+    , m_orientation(orientation)
+{
+    setObjectName("LivePreview");
+    connect(m_orientation, SIGNAL(signalOrientationChanged()), this, SLOT(slotShowAgain()));
+}
+
+LivePreview::~LivePreview()
+{
+    StopPreview();
+}
+
+bool LivePreview::StartPreview()
+{
+    if (isRunning())
+        return true;
+    m_slot.Restart();
+    m_gate.Open();
+    if (!m_source->StartFrames(this))
+        return false;
+    start();
+    return true;
+}
+
+bool LivePreview::StopPreview()
+{
+    if (!isRunning())
+        return false;
+    m_source->StopFrames();
+    requestInterruption();
+    m_slot.Stop();
+    m_gate.Close();
+    wait();
+    return true;
+}
+
+void LivePreview::RestoreStopPreview()
+{
+    StartPreview();
+}
+
+void LivePreview::FrameSave(bool, bool)
+{
+    emit signalMessage(tr("Frames can't be saved by this version."));
+}
+
+const RawCameraFrame *LivePreview::GetCurrentRawFrame() const
+{
+    return m_rawFrames.Front();
+}
+
+void LivePreview::Forget()
+{
+    m_shownFrame = CameraFrame();
+    m_shownSize = QSize();
+}
+
+void LivePreview::OnFrame(const CameraFrame &frame)
+{
+    m_slot.Put(frame);
+}
+
+void LivePreview::run()
+{
+    while (!isInterruptionRequested() && m_gate.Enter()) {
+        CameraFrame frame;
+        while (frame.IsNull() && !isInterruptionRequested())
+            frame = m_slot.Take(TakeTimeoutMs);
+        if (frame.IsNull())
+            m_gate.Leave();
+        else
+            SendPicture(frame);
+    }
+}
+
+/// Inside the gate; the GUI thread leaves it. The three deliveries stay in this order.
+void LivePreview::SendPicture(const CameraFrame &frame)
+{
+    const QImage picture = m_orientation->Get().Applied(m_maker.Make(frame));
+    m_rawFrames.FillBack(picture);
+    m_frameOnItsWay = frame;
+    m_sizeOnItsWay = picture.size();
+    QMetaObject::invokeMethod(this, "slotPictureArrives", Qt::QueuedConnection);
+    emit signalPreviewImage(picture);
+    QMetaObject::invokeMethod(this, "slotPictureDelivered", Qt::QueuedConnection);
+}
+
+void LivePreview::slotPictureArrives()
+{
+    m_rawFrames.Swap();
+    m_shownFrame = std::move(m_frameOnItsWay);
+    m_frameOnItsWay = CameraFrame();
+    if (m_shownSize == m_sizeOnItsWay)
+        return;
+    m_shownSize = m_sizeOnItsWay;
+    emit signalPictureSizeChanged(m_shownSize);
+    emit signalImageSizeChanged();
+}
+
+void LivePreview::slotPictureDelivered()
+{
+    ++m_delivered;
+    m_gate.Leave();
+    emit signalPictureDelivered();
+}
+
+/// A standing picture is laid anew; a running preview does it with its next frame.
+void LivePreview::slotShowAgain()
+{
+    if (isRunning() || m_shownFrame.IsNull())
+        return;
+    if (m_gate.IsTaken()) {
+        QMetaObject::invokeMethod(this, "slotShowAgain", Qt::QueuedConnection);
+        return;
+    }
+    m_gate.Open();
+    if (m_gate.Enter())
+        SendPicture(m_shownFrame);
+}
+
+void LivePreview::slotManualROI(int x, int y, int width, int height, bool apply)
+{
+    if (!apply || m_shownFrame.IsNull())
+        return;
+    const QSize frameSize(m_shownFrame.width, m_shownFrame.height);
+    const Orientation orientation = m_orientation->Get();
+    const QPoint first = orientation.FramePixel(QPoint(x, y), frameSize);
+    const QPoint last = orientation.FramePixel(QPoint(x + width - 1, y + height - 1), frameSize);
+    emit signalRegionWanted(QRect(first, last).normalized() & QRect(QPoint(0, 0), frameSize));
+}

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cameraframe.h"
+#include "framesink.h"
+#include "newestframeslot.h"
+#include "picturegate.h"
+#include "picturemaker.h"
+#include "previewmanager.h"
+#include "rawframebuffers.h"
+
+#include <QRect>
+#include <QSize>
+
+class FrameSource;
+class LiveOrientation;
+
+/// The live picture. The camera's stream thread puts frames into a one-place slot; this thread takes
+/// the newest, makes a picture of it and hands it to the GUI thread, one picture at a time. Frames
+/// that come faster than pictures are delivered are skipped. All but OnFrame() and run() belongs to
+/// the GUI thread.
+class LivePreview : public PreviewManager, public FrameSink
+{
+    Q_OBJECT
+
+public:
+    /// Both are borrowed and outlive this object.
+    LivePreview(FrameSource *source, LiveOrientation *orientation, QObject *parent = nullptr);
+    ~LivePreview() override;
+
+    bool StartPreview() override;
+    bool StopPreview() override;
+    void RestoreStopPreview() override;
+    void FrameSave(bool record, bool single) override;
+    const RawCameraFrame *GetCurrentRawFrame() const override;
+
+    /// The frame whose picture was delivered last; null before the first.
+    const CameraFrame &ShownFrame() const { return m_shownFrame; }
+    /// Pictures delivered to the GUI thread.
+    quint64 DeliveredCount() const { return m_delivered; }
+    /// Frames that were too many for the display.
+    quint64 SkippedCount() const { return m_slot.SkippedCount(); }
+    /// Forgets the frame and its size: the camera was closed.
+    void Forget();
+
+    void OnFrame(const CameraFrame &frame) override;
+
+public slots:
+    void slotManualROI(int x, int y, int width, int height, bool apply) override;
+
+signals:
+    /// After signalPreviewImage() was delivered.
+    void signalPictureDelivered();
+    /// The size of the picture as it is shown has changed; comes before the picture itself.
+    void signalPictureSizeChanged(QSize size);
+    /// A region to be read out of the camera, in pixels of the frame.
+    void signalRegionWanted(QRect region);
+    /// A sentence for the status bar.
+    void signalMessage(QString text);
+
+protected:
+    void run() override;
+
+private slots:
+    void slotPictureArrives();
+    void slotPictureDelivered();
+    void slotShowAgain();
+
+private:
+    void SendPicture(const CameraFrame &frame);
+
+    FrameSource *m_source;
+    LiveOrientation *m_orientation;
+    NewestFrameSlot m_slot;
+    PictureGate m_gate;
+    /// The next three belong to whoever is inside the gate.
+    PictureMaker m_maker;
+    CameraFrame m_frameOnItsWay;
+    QSize m_sizeOnItsWay;
+    RawFrameBuffers m_rawFrames;
+
+    CameraFrame m_shownFrame;
+    QSize m_shownSize;
+    quint64 m_delivered = 0;
+};

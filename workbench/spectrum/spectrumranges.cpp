@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "spectrumranges.h"
+
+SpectrumRanges::SpectrumRanges(QObject *parent)
+    : DisplayModeManager(parent)
+{
+}

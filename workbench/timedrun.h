@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QString>
+
+class CameraLink;
+class QWidget;
+class ShownFrames;
+
+/// A run that ends by itself: after so many frames it saves a picture of the window, prints what was
+/// measured in one line and ends the program. GUI thread.
+class TimedRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What was measured.
+    struct Facts
+    {
+        quint64 captured = 0;
+        quint64 shown = 0;
+        quint64 lost = 0;
+        double framesPerSecond = 0; ///< shown
+        qint64 firstFrameMs = 0;    ///< from the start of the process to the first frame on the screen
+        int peakMemoryMB = 0;
+    };
+
+    /// All are borrowed and outlive this object. `screenshot` may be empty.
+    TimedRun(const CameraLink *link, const ShownFrames *shown, QWidget *window, int frames,
+             const QString &screenshot, QObject *parent);
+
+    static QString Line(const Facts &facts);
+
+private slots:
+    void slotFrameShown();
+    void slotCameraStateChanged();
+
+private:
+    Facts Measure() const;
+    bool SaveScreenshot() const;
+    void End();
+
+    const CameraLink *m_link;
+    const ShownFrames *m_shown;
+    QWidget *m_window;
+    const quint64 m_frames;
+    const QString m_screenshot;
+    QElapsedTimer m_sinceFirstFrame;
+    qint64 m_firstFrameMs = -1;
+    bool m_ended = false;
+};

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "viewmenu.h"
+
+#include "cameralink.h"
+#include "globalnotify.h"
+#include "scenecatalogue.h"
+#include "workbenchservices.h"
+#include "workspaceconfig.h"
+
+#include <QActionGroup>
+
+namespace {
+enum Panel { LeftPanel, RightPanel, BottomPanel };
+}
+
+ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
+    : QMenu(tr("&View"), parent)
+    , m_services(services)
+    , m_config(services->Config())
+    , m_panelGroup(new QActionGroup(this))
+    , m_drawingGroup(new QActionGroup(this))
+    , m_sceneGroup(new QActionGroup(this))
+{
+    AddViews();
+    addSeparator();
+    AddPanels();
+    addSeparator();
+    AddDrawing();
+    AddScenes();
+    addSeparator();
+    AddWindow();
+
+    connect(m_panelGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetPanel(QAction *)));
+    connect(m_drawingGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetDrawing(QAction *)));
+    connect(m_sceneGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetScene(QAction *)));
+    connect(m_config, SIGNAL(signalSetCPUDraw(bool)), this, SLOT(slotUpdate()));
+    connect(services->Link(), SIGNAL(signalFormatChanged()), this, SLOT(slotUpdate()));
+    slotUpdate();
+}
+
+void ViewMenu::AddViews()
+{
+    addAction(tr("&Camera"), m_config, [this] { m_config->SetCameraView(); }, QKeySequence("Ctrl+Q"));
+    addAction(tr("&File Directory"), m_config, [this] { m_config->SetFileView(); }, QKeySequence("Ctrl+P"));
+}
+
+void ViewMenu::AddPanels()
+{
+    m_panelGroup->setExclusive(false);
+    AddChoice(m_panelGroup, this, tr("&Left Panel"), LeftPanel);
+    AddChoice(m_panelGroup, this, tr("&Right Panel"), RightPanel);
+    AddChoice(m_panelGroup, this, tr("&Bottom Panel"), BottomPanel);
+}
+
+void ViewMenu::AddDrawing()
+{
+    QMenu *menu = addMenu(tr("&Drawing"));
+    AddChoice(m_drawingGroup, menu, tr("&CPU"), true);
+    AddChoice(m_drawingGroup, menu, tr("&GPU (OpenGL)"), false);
+}
+
+void ViewMenu::AddScenes()
+{
+    QMenu *menu = addMenu(tr("Simulated &Scene"));
+    for (const QString &name : SceneCatalogue::Names())
+        AddChoice(m_sceneGroup, menu, name, name);
+}
+
+void ViewMenu::AddWindow()
+{
+    // The keys of these two belong to the tool bar of the view.
+    m_blackBackground = addAction(tr("Blac&k Background"), [] { GlobalNotifyObserver(NotifyBlackBackground, nullptr); });
+    m_blackBackground->setCheckable(true);
+    m_fullScreen = addAction(tr("F&ull Screen"), [] { GlobalNotifyObserver(NotifyFullScreen, nullptr); });
+    m_fullScreen->setCheckable(true);
+    addAction(tr("Restore &Default Layout"), this, SIGNAL(signalRestoreDefaultLayout()));
+}
+
+QAction *ViewMenu::AddChoice(QActionGroup *group, QMenu *menu, const QString &text, const QVariant &data)
+{
+    QAction *action = menu->addAction(text);
+    action->setActionGroup(group);
+    action->setCheckable(true);
+    action->setData(data);
+    return action;
+}
+
+void ViewMenu::slotUpdate()
+{
+    const bool isShown[] = {m_config->IsLeftUIChecked(), m_config->IsRightUIChecked(), m_config->IsBottomUIChecked()};
+    for (QAction *action : m_panelGroup->actions())
+        action->setChecked(isShown[action->data().toInt()]);
+    for (QAction *action : m_drawingGroup->actions())
+        action->setChecked(action->data().toBool() == m_config->IsCPUDraw());
+    for (QAction *action : m_sceneGroup->actions())
+        action->setChecked(action->data().toString() == m_services->Link()->SceneName());
+}
+
+void ViewMenu::slotSetFullScreenChecked(bool checked)
+{
+    m_fullScreen->setChecked(checked);
+}
+
+void ViewMenu::slotSetBlackBackgroundChecked(bool checked)
+{
+    m_blackBackground->setChecked(checked);
+}
+
+void ViewMenu::slotSetPanel(QAction *action)
+{
+    switch (action->data().toInt()) {
+    case LeftPanel:
+        m_config->SetLeftUIChecked(action->isChecked());
+        break;
+    case RightPanel:
+        m_config->SetRightUIChecked(action->isChecked());
+        break;
+    case BottomPanel:
+        m_config->SetBottomUIChecked(action->isChecked());
+        break;
+    }
+    m_config->UpdateCameraControlUI();
+}
+
+void ViewMenu::slotSetDrawing(QAction *action)
+{
+    m_config->SetCPUDraw(action->data().toBool(), false);
+}
+
+void ViewMenu::slotSetScene(QAction *action)
+{
+    m_services->Link()->SetScene(action->data().toString());
+}

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMenu>
+
+class QActionGroup;
+class WorkbenchServices;
+class WorkspaceConfig;
+
+/// The View menu: which view and panels are shown, how the picture is drawn and what the simulated
+/// camera looks at. What concerns the window itself it leaves to the window. GUI thread.
+class ViewMenu : public QMenu
+{
+    Q_OBJECT
+
+public:
+    /// `services` are borrowed and outlive this object.
+    ViewMenu(WorkbenchServices *services, QWidget *parent);
+
+public slots:
+    /// Shows the state of panels and drawing.
+    void slotUpdate();
+    void slotSetFullScreenChecked(bool checked);
+    void slotSetBlackBackgroundChecked(bool checked);
+
+signals:
+    void signalRestoreDefaultLayout();
+
+private slots:
+    void slotSetDrawing(QAction *action);
+    void slotSetScene(QAction *action);
+    void slotSetPanel(QAction *action);
+
+private:
+    void AddViews();
+    void AddPanels();
+    void AddDrawing();
+    void AddScenes();
+    void AddWindow();
+    QAction *AddChoice(QActionGroup *group, QMenu *menu, const QString &text, const QVariant &data);
+
+    WorkbenchServices *m_services;
+    WorkspaceConfig *m_config;
+    QActionGroup *m_panelGroup;
+    QActionGroup *m_drawingGroup;
+    QActionGroup *m_sceneGroup;
+    QAction *m_blackBackground = nullptr;
+    QAction *m_fullScreen = nullptr;
+};

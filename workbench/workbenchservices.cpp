@@ -1,0 +1,163 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "workbenchservices.h"
+
+#include "autocounting.h"
+#include "cameracaption.h"
+#include "cameralink.h"
+#include "camerasession.h"
+#include "camerasettings.h"
+#include "centredisplay.h"
+#include "channelsynthesis.h"
+#include "connectedcameras.h"
+#include "coversettings.h"
+#include "framesaving.h"
+#include "liveframesize.h"
+#include "livehistogram.h"
+#include "liveorientation.h"
+#include "livepreview.h"
+#include "liveprofiles.h"
+#include "livereport.h"
+#include "measuresettings.h"
+#include "opencamera.h"
+#include "openedpicture.h"
+#include "peakfinding.h"
+#include "pictureframes.h"
+#include "picturelist.h"
+#include "pictureprocessing.h"
+#include "pixelreadout.h"
+#include "regionofinterest.h"
+#include "savesettings.h"
+#include "spectrumpipeline.h"
+#include "spectrumranges.h"
+#include "spectrumsettings.h"
+#include "usearea.h"
+#include "workspace.h"
+#include "workspaceconfig.h"
+
+WorkbenchServices::WorkbenchServices(QSettings *settings, CameraLink *link)
+    : m_link(link)
+    , m_config(std::make_unique<WorkspaceConfig>(settings))
+    , m_useArea(std::make_unique<UseArea>(settings))
+{
+    StartMeasuring();
+    StartPictures();
+    StartSpectrum();
+    StartCamera();
+    StartPreview();
+    StartWorkspace();
+    Connect();
+}
+
+WorkbenchServices::~WorkbenchServices()
+{
+    m_preview->StopPreview();
+    delete m_pictureList;
+}
+
+void WorkbenchServices::StartMeasuring()
+{
+    m_liveReport = std::make_unique<LiveReport>();
+    m_measureSettings = std::make_unique<MeasureSettings>();
+    m_autoCounting = std::make_unique<AutoCounting>();
+}
+
+void WorkbenchServices::StartPictures()
+{
+    m_mainPicture = std::make_unique<OpenedPicture>();
+    m_comparePicture = std::make_unique<OpenedPicture>();
+    m_pictureProcessing = std::make_unique<PictureProcessing>();
+    m_channelSynthesis = std::make_unique<ChannelSynthesis>();
+    m_pictureFrames = std::make_unique<PictureFrames>();
+    m_pictureList = new PictureList; // reparented by the "File Preview" tab
+    m_frameSaving = std::make_unique<FrameSaving>();
+    m_saveSettings = std::make_unique<SaveSettings>();
+}
+
+void WorkbenchServices::StartSpectrum()
+{
+    m_spectrumRanges = std::make_unique<SpectrumRanges>();
+    m_spectrumSettings = std::make_unique<SpectrumSettings>(m_spectrumRanges.get());
+    m_spectrumPipeline = std::make_unique<SpectrumPipeline>();
+    m_centreDisplay = std::make_unique<CentreDisplay>();
+    m_peakFinding = std::make_unique<PeakFinding>();
+}
+
+void WorkbenchServices::StartCamera()
+{
+    m_cameras = std::make_unique<ConnectedCameras>();
+    m_cameraCaption = std::make_unique<CameraCaption>(m_link);
+    m_cameraSettings = std::make_unique<CameraSettings>();
+    m_coverSettings = std::make_unique<CoverSettings>();
+    m_region = std::make_unique<RegionOfInterest>();
+}
+
+void WorkbenchServices::StartPreview()
+{
+    m_orientation = std::make_unique<LiveOrientation>();
+    m_preview = std::make_unique<LivePreview>(m_link, m_orientation.get());
+    m_pixelReadout = std::make_unique<PixelReadout>(m_preview.get(), m_orientation.get());
+    m_frameSize = std::make_unique<LiveFrameSize>();
+    m_histogram = std::make_unique<LiveHistogram>();
+    m_profiles = std::make_unique<LiveProfiles>();
+}
+
+void WorkbenchServices::StartWorkspace()
+{
+    Workspace::Parts parts;
+    parts.config = m_config.get();
+    parts.liveReport = m_liveReport.get();
+    parts.mainPicture = m_mainPicture.get();
+    parts.comparePicture = m_comparePicture.get();
+    parts.cameraManager = m_orientation.get();
+    parts.cameraList = m_cameras.get();
+    m_workspace = std::make_unique<Workspace>(parts);
+}
+
+void WorkbenchServices::Connect()
+{
+    connect(m_link, SIGNAL(signalStateChanged()), this, SLOT(slotCameraStateChanged()));
+    connect(m_preview.get(), SIGNAL(signalPictureSizeChanged(QSize)), m_frameSize.get(), SLOT(slotSetSize(QSize)));
+    connect(m_preview.get(), SIGNAL(signalPictureSizeChanged(QSize)), this, SLOT(slotPictureSizeChanged(QSize)));
+    connect(m_preview.get(), SIGNAL(signalRegionWanted(QRect)), this, SLOT(slotRegionWanted(QRect)));
+
+    connect(m_link, SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
+    connect(m_preview.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
+    connect(m_config.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
+    connect(m_workspace.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
+}
+
+/// A camera that was opened gets its service and a fresh preview; one that was closed loses both. A
+/// lost camera keeps them, and so the screen keeps its last picture.
+void WorkbenchServices::slotCameraStateChanged()
+{
+    const CameraLink::State state = m_link->GetState();
+    if (state == CameraLink::State::Open && !m_openCamera) {
+        m_openCamera = std::make_unique<OpenCamera>(m_link);
+        connect(m_orientation.get(), SIGNAL(signalUpdateRotateDegree(int)), m_openCamera.get(),
+                SLOT(slotSetRotateDegree(int)));
+        m_orientation->Reset();
+        if (m_workspace->IsCameraView())
+            m_preview->StartPreview();
+    } else if (state == CameraLink::State::NoCamera || state == CameraLink::State::Opening) {
+        m_preview->StopPreview();
+        m_preview->Forget();
+        m_openCamera.reset();
+    }
+    emit m_cameras->signalUpdateCameraList();
+    emit m_cameraSettings->signalPreviewStateChanged();
+    m_config->UpdateAllControlUI();
+}
+
+void WorkbenchServices::slotPictureSizeChanged(QSize size)
+{
+    m_liveReport->SetImageSize(size);
+}
+
+/// `region` counts from the corner of the region that is read out now.
+void WorkbenchServices::slotRegionWanted(QRect region)
+{
+    if (!m_link->Session())
+        return;
+    m_link->SetRegion(region.translated(m_link->Session()->Format().Region().topLeft()));
+    m_region->SetManualROIChecked(false);
+}

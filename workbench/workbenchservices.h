@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QRect>
+#include <QSize>
+
+#include <memory>
+
+class AutoCounting;
+class CameraCaption;
+class CameraLink;
+class CameraSettings;
+class CentreDisplay;
+class ChannelSynthesis;
+class ConnectedCameras;
+class CoverSettings;
+class FrameSaving;
+class LiveFrameSize;
+class LiveHistogram;
+class LiveOrientation;
+class LivePreview;
+class LiveProfiles;
+class LiveReport;
+class MeasureSettings;
+class OpenCamera;
+class OpenedPicture;
+class PeakFinding;
+class PictureFrames;
+class PictureList;
+class PictureProcessing;
+class PixelReadout;
+class QSettings;
+class RegionOfInterest;
+class SaveSettings;
+class SpectrumPipeline;
+class SpectrumRanges;
+class SpectrumSettings;
+class UseArea;
+class Workspace;
+class WorkspaceConfig;
+
+/// Starts the services of the application in order, wires them to one another, and takes them down
+/// again. Make it before the module and delete it after the module. GUI thread.
+class WorkbenchServices : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `settings` and `link` are borrowed and outlive this object.
+    WorkbenchServices(QSettings *settings, CameraLink *link);
+    ~WorkbenchServices() override;
+
+    CameraLink *Link() const { return m_link; }
+    LivePreview *Preview() const { return m_preview.get(); }
+    WorkspaceConfig *Config() const { return m_config.get(); }
+    Workspace *GetWorkspace() const { return m_workspace.get(); }
+    ConnectedCameras *Cameras() const { return m_cameras.get(); }
+    RegionOfInterest *Region() const { return m_region.get(); }
+
+signals:
+    /// A sentence for the status bar, from any service.
+    void signalMessage(QString text);
+
+private slots:
+    void slotCameraStateChanged();
+    void slotPictureSizeChanged(QSize size);
+    void slotRegionWanted(QRect region);
+
+private:
+    void StartMeasuring();
+    void StartPictures();
+    void StartSpectrum();
+    void StartCamera();
+    void StartPreview();
+    void StartWorkspace();
+    void Connect();
+
+    CameraLink *m_link;
+
+    std::unique_ptr<WorkspaceConfig> m_config;
+    std::unique_ptr<UseArea> m_useArea;
+    std::unique_ptr<LiveReport> m_liveReport;
+    std::unique_ptr<MeasureSettings> m_measureSettings;
+    std::unique_ptr<AutoCounting> m_autoCounting;
+    std::unique_ptr<OpenedPicture> m_mainPicture;
+    std::unique_ptr<OpenedPicture> m_comparePicture;
+    std::unique_ptr<PictureProcessing> m_pictureProcessing;
+    std::unique_ptr<ChannelSynthesis> m_channelSynthesis;
+    std::unique_ptr<PictureFrames> m_pictureFrames;
+    std::unique_ptr<FrameSaving> m_frameSaving;
+    std::unique_ptr<SaveSettings> m_saveSettings;
+    std::unique_ptr<SpectrumRanges> m_spectrumRanges;
+    std::unique_ptr<SpectrumSettings> m_spectrumSettings;
+    std::unique_ptr<SpectrumPipeline> m_spectrumPipeline;
+    std::unique_ptr<CentreDisplay> m_centreDisplay;
+    std::unique_ptr<PeakFinding> m_peakFinding;
+    std::unique_ptr<ConnectedCameras> m_cameras;
+    std::unique_ptr<CameraCaption> m_cameraCaption;
+    std::unique_ptr<CameraSettings> m_cameraSettings;
+    std::unique_ptr<CoverSettings> m_coverSettings;
+    std::unique_ptr<RegionOfInterest> m_region;
+    std::unique_ptr<LiveOrientation> m_orientation;
+    std::unique_ptr<LivePreview> m_preview;
+    std::unique_ptr<PixelReadout> m_pixelReadout;
+    std::unique_ptr<LiveFrameSize> m_frameSize;
+    std::unique_ptr<LiveHistogram> m_histogram;
+    std::unique_ptr<LiveProfiles> m_profiles;
+    std::unique_ptr<Workspace> m_workspace;
+    /// Only while a camera is open.
+    std::unique_ptr<OpenCamera> m_openCamera;
+    /// The tab that shows it owns it.
+    QPointer<PictureList> m_pictureList;
+};

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "globalmanager.h"
+
+class WorkspaceConfig;
+
+/// What is being worked on: which view has the focus, and with it which report and image manager.
+/// Hands out the managers; the services own them. GUI thread.
+class Workspace : public GlobalManager
+{
+    Q_OBJECT
+
+public:
+    /// All borrowed; they outlive this object.
+    struct Parts
+    {
+        WorkspaceConfig *config;
+        ReportManager *liveReport;
+        ImageManager *mainPicture;
+        ImageManager *comparePicture;
+        CameraManager *cameraManager;
+        CameraList *cameraList;
+    };
+
+    explicit Workspace(const Parts &parts, QObject *parent = nullptr);
+
+    /// The scene the live picture is in; null before the camera page was built.
+    QGraphicsScene *GetCameraScene() const { return m_cameraScene; }
+
+    ReportManager *GetReportManager() const override;
+    ReportManager *GetCameraReportManager() const override;
+    ImageManager *GetActiveImageManager() const override;
+    ImageManager *GetMainImageManager() const override;
+    ImageManager *GetCompareImageManager() const override;
+    CameraManager *GetCameraManager() const override;
+    CameraList *GetCameraList() const override;
+
+    bool IsCameraView() const override;
+    bool IsImageEnabled() const override;
+    bool IsMeasureEnabled() const override;
+    bool IsDrawViewCanMove() const override;
+    void MousePressEvent(QMouseEvent *event, const QPointF &scenePos) override;
+    void QuitCompare() override;
+    void UpdateReportManager() override;
+    void SetCameraGraphicsScene(QGraphicsScene *scene) override;
+    void SetImageGraphicsScene(QGraphicsScene *scene) override;
+    void SetImageGraphicsSceneEx(QGraphicsScene *scene) override;
+
+public slots:
+    void slotSetCompareView() override;
+    void slotRename(QObject *image, QString fileName) override;
+    void slotCloseAllImage() override;
+    void slotCloseImage(QObject *image) override;
+    void slotSetImageChecked(QObject *image, bool checked) override;
+    void slotSetAllImageChecked(bool checked) override;
+    void slotSaveCompare() override;
+    void slotOpenImage(QString fileName, QObject *image) override;
+    void slotSetGraphicsScene(QGraphicsScene *scene) override;
+
+signals:
+    /// A sentence for the status bar.
+    void signalMessage(QString text);
+
+private:
+    void Focus(ReportManager *report, ImageManager *image);
+
+    const Parts m_parts;
+    ReportManager *m_report;
+    ImageManager *m_activeImage;
+    QGraphicsScene *m_cameraScene = nullptr;
+    QGraphicsScene *m_imageScene = nullptr;
+    QGraphicsScene *m_secondImageScene = nullptr;
+};
