@@ -150,12 +150,14 @@ void CellImage::Draw(double radius, bool inFocus, std::mt19937 &random)
 
     size_t index = 0;
     for (int row = 0; row < m_side; ++row) {
+        Span lit{ m_side, m_side };
         for (int column = 0; column < m_side; ++column, ++index) {
             const double x = cosine * (column - middle) + sine * (row - middle);
             const double y = cosine * (row - middle) - sine * (column - middle);
             const double inside = BodyInside(cell, x, y);
             if (inside <= 0)
                 continue;
+            lit = { std::min(lit.first, column), column + 1 };
             const double body = inside * BodyLight(cell, x, y);
             const double vesicles = inside * SpotLight(cell.vesicle, x, y);
             const double nucleus = NucleusLight(cell, x, y);
@@ -164,5 +166,6 @@ void CellImage::Draw(double radius, bool inFocus, std::mt19937 &random)
             m_light[Blue][index] = ToUnits(nucleus + 0.05 * body);
             m_light[Mixed][index] = ToUnits(1.25 * body + vesicles + 0.7 * nucleus);
         }
+        m_litSpans.push_back(lit);
     }
 }

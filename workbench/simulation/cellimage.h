@@ -27,9 +27,18 @@ public:
     /// Light of one row, SensorReadout::UnitRadiance being a bright nucleus.
     const quint16 *Row(Stain stain, int row) const { return m_light[stain].data() + qptrdiff(row) * m_side; }
 
+    /// The columns of a row outside which all stains are dark: [first, last).
+    struct Span
+    {
+        int first;
+        int last;
+    };
+    Span LitSpan(int row) const { return m_litSpans[size_t(row)]; }
+
 private:
     void Draw(double radius, bool inFocus, std::mt19937 &random);
 
     int m_side;
     std::array<std::vector<quint16>, StainCount> m_light;
+    std::vector<Span> m_litSpans;
 };

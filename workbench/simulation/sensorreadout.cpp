@@ -18,7 +18,7 @@ quint64 Mix(quint64 value)
     return value ^ (value >> 31);
 }
 
-template <int Step, typename Sample>
+template <typename Sample>
 void ReadSegment(const quint16 *light, const float *noise, int count, const SensorReadout::Settings &settings,
                  Sample *out)
 {
@@ -35,8 +35,17 @@ void ReadSegment(const quint16 *light, const float *noise, int count, const Sens
         float value = dark + countsPerElectron * (electrons + std::sqrt(electrons + readVariance) * noise[i]);
         value = value < fullScale ? value : fullScale;
         value = value > 0.0f ? value : 0.0f;
-        out[i * Step] = Sample(int(value));
+        out[i] = Sample(int(value));
     }
+}
+/// One channel of a colour row: read side by side, which vectorises, then spread out.
+void ReadColourSegment(const quint16 *light, const float *noise, int count,
+                       const SensorReadout::Settings &settings, uchar *out)
+{
+    uchar samples[kSegmentPixels];
+    ReadSegment(light, noise, count, settings, samples);
+    for (int i = 0; i < count; ++i)
+        out[3 * i] = samples[i];
 }
 } // namespace
 
@@ -74,10 +83,10 @@ void SensorReadout::ReadRow(const quint16 *light, const SceneFrame &frame, const
         const int count = std::min(kSegmentPixels, frame.width - begin);
         const float *noise = NoiseFor(frame.frameNumber, row, channel, begin / kSegmentPixels);
         if (frame.isColour)
-            ReadSegment<3>(light + begin, noise, count, settings, out + begin * 3 + channel);
+            ReadColourSegment(light + begin, noise, count, settings, out + begin * 3 + channel);
         else if (frame.bitDepth > 8)
-            ReadSegment<1>(light + begin, noise, count, settings, reinterpret_cast<quint16 *>(out) + begin);
+            ReadSegment(light + begin, noise, count, settings, reinterpret_cast<quint16 *>(out) + begin);
         else
-            ReadSegment<1>(light + begin, noise, count, settings, out + begin);
+            ReadSegment(light + begin, noise, count, settings, out + begin);
     }
 }

@@ -111,15 +111,15 @@ void SpecimenScene::PrepareBackground(const SceneFrame &frame)
 void SpecimenScene::AddImage(const SceneFrame &frame, const CellImage &image, CellImage::Stain stain,
                              int left, int top, double brightness)
 {
-    const int firstColumn = std::max(0, -left);
-    const int lastColumn = std::min(image.Side(), frame.width - left);
-    const int firstRow = std::max(0, -top);
     const int lastRow = std::min(image.Side(), frame.height - top);
-    if (firstColumn >= lastColumn)
-        return;
-    for (int row = firstRow; row < lastRow; ++row)
-        AddRow(image.Row(stain, row) + firstColumn, lastColumn - firstColumn, quint32(brightness * 256.0),
-               m_light.data() + qptrdiff(top + row) * frame.width + left + firstColumn);
+    for (int row = std::max(0, -top); row < lastRow; ++row) {
+        const CellImage::Span lit = image.LitSpan(row);
+        const int first = std::max(lit.first, -left);
+        const int last = std::min(lit.last, frame.width - left);
+        if (first < last)
+            AddRow(image.Row(stain, row) + first, last - first, quint32(brightness * 256.0),
+                   m_light.data() + qptrdiff(top + row) * frame.width + left + first);
+    }
 }
 
 void SpecimenScene::DrawCell(const SceneFrame &frame, const Cell &cell, CellImage::Stain stain)
