@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "selectionrect.h"
 
-#include <QtMath>
-
 namespace {
 
 using Grip = SelectionRect::Grip;

@@ -88,7 +88,7 @@ bool UIManagerBase::Private::Load(const QString &filePath, QWidget *parent, UIMa
 
     panel->setParent(parent);
     panel->hide();
-    connect(panel, SIGNAL(destroyed()), manager, SLOT(slotPanelDestroyed()));
+    connect(panel, SIGNAL(destroyed(QObject*)), manager, SLOT(slotPanelDestroyed(QObject*)));
     plugins.append({report.id, source.entry.plugin, panel});
     Registry().takenIds.insert(report.id);
     source.id = report.id;
@@ -244,9 +244,9 @@ const QList<UIManagerBase::LoadedPlugin> &UIManagerBase::Plugins() const
     return m_private->plugins;
 }
 
-void UIManagerBase::slotPanelDestroyed()
+void UIManagerBase::slotPanelDestroyed(QObject *panel)
 {
     QList<LoadedPlugin> &plugins = m_private->plugins;
-    plugins.erase(std::remove_if(plugins.begin(), plugins.end(), [](const LoadedPlugin &loaded) { return !loaded.widget; }),
-                  plugins.end());
+    const auto isGone = [=](const LoadedPlugin &loaded) { return !loaded.widget || loaded.widget == panel; };
+    plugins.erase(std::remove_if(plugins.begin(), plugins.end(), isGone), plugins.end());
 }

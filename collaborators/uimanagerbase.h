@@ -67,7 +67,7 @@ protected:
     const QList<LoadedPlugin> &Plugins() const;
 
 private slots:
-    void slotPanelDestroyed();
+    void slotPanelDestroyed(QObject *panel);
 
 private:
     class Private;

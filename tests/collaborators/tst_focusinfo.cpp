@@ -1,0 +1,423 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "guardedtest.h"
+
+#include "focusinfo.h"
+
+#include <QGraphicsItem>
+#include <QGraphicsSceneMouseEvent>
+#include <QGraphicsView>
+#include <QPen>
+#include <QSignalSpy>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+template<class Item>
+QVector<Item *> ItemsOf(const QGraphicsScene &scene)
+{
+    QVector<Item *> found;
+    for (QGraphicsItem *item : scene.items(Qt::AscendingOrder)) {
+        if (auto *wanted = qgraphicsitem_cast<Item *>(item))
+            found << wanted;
+    }
+    return found;
+}
+
+QVector<QRectF> Rectangles(const QGraphicsScene &scene)
+{
+    QVector<QRectF> rectangles;
+    for (const QGraphicsRectItem *item : ItemsOf<QGraphicsRectItem>(scene))
+        rectangles << item->rect();
+    std::sort(rectangles.begin(), rectangles.end(), [](const QRectF &a, const QRectF &b) { return a.x() < b.x(); });
+    return rectangles;
+}
+
+/// Presses, moves and releases the left button on a view, at positions in picture pixels.
+void DragInView(QGraphicsView *view, const QPointF &from, const QPointF &to)
+{
+    const QPoint begin = view->mapFromScene(from);
+    const QPoint end = view->mapFromScene(to);
+    QTest::mousePress(view->viewport(), Qt::LeftButton, Qt::NoModifier, begin);
+    QMouseEvent move(QEvent::MouseMove, end, view->viewport()->mapToGlobal(end), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(view->viewport(), &move);
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, Qt::NoModifier, end);
+}
+
+} // namespace
+
+class TestFocusInfo : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() override;
+    void cleanup() override;
+    void HasTheObjectOfItsType();
+    void TheObjectsAreConnectedByTheirSpelling_data();
+    void TheObjectsAreConnectedByTheirSpelling();
+    void DrawsOneMarkPerSpectralLine();
+    void ShorterListsLeaveMarksOut();
+    void NewMarksReplaceTheOldOnes();
+    void ShowModeChoosesTheMarks_data();
+    void ShowModeChoosesTheMarks();
+    void LinesChosenByHandAreDashed();
+    void TracksAreRectanglesWithNumbers();
+    void ClearingTakesTheMarksOut();
+    void TheCrossLineFollowsItsSlots();
+    void TheCrossLineCoversThePicture();
+    void ARetiredCrossLineStaysAway();
+    void TheBandLiesBetweenTheRows();
+    void TheBandFollowsTheService();
+    void FewerThanTwoEndPointsDrawNoBand();
+    void AnEdgeOfTheBandIsDragged_data();
+    void AnEdgeOfTheBandIsDragged();
+    void ABandThatIsNotManualStays_data();
+    void ABandThatIsNotManualStays();
+    void ARetiredBandStaysAway();
+    void GoesWithItsScene();
+    void TakesItsMarksAlong();
+
+private:
+    QGraphicsObject *Line(const FocusInfo &info) const;
+
+    std::unique_ptr<QGraphicsScene> m_scene;
+    std::unique_ptr<QGraphicsView> m_view;
+};
+
+void TestFocusInfo::init()
+{
+    StartGuard();
+    m_scene = std::make_unique<QGraphicsScene>(QRectF(0, 0, 400, 300));
+    m_scene->setBackgroundBrush(Qt::black);
+    m_view = std::make_unique<QGraphicsView>(m_scene.get());
+    m_view->setFrameShape(QFrame::NoFrame);
+    m_view->setFixedSize(400, 300);
+    m_view->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
+}
+
+void TestFocusInfo::cleanup()
+{
+    m_view.reset();
+    m_scene.reset();
+    EndGuard();
+}
+
+/// The cross line or the band, whichever there is.
+QGraphicsObject *TestFocusInfo::Line(const FocusInfo &info) const
+{
+    QObject *line = info.GetCrossLineObject() ? info.GetCrossLineObject() : info.GetFVBLineObject();
+    return qobject_cast<QGraphicsObject *>(line);
+}
+
+void TestFocusInfo::HasTheObjectOfItsType()
+{
+    QCOMPARE(int(FocusAssistanceInfo), 0);
+    QCOMPARE(int(FVBAndMultiTrackInfo), 3);
+    FocusInfo focus(m_scene.get(), FocusAssistanceInfo);
+    QVERIFY(focus.GetCrossLineObject());
+    QVERIFY(!focus.GetFVBLineObject());
+    FocusInfo band(m_scene.get(), FVBAndMultiTrackInfo);
+    QVERIFY(!band.GetCrossLineObject());
+    QVERIFY(band.GetFVBLineObject());
+}
+
+void TestFocusInfo::TheObjectsAreConnectedByTheirSpelling_data()
+{
+    QTest::addColumn<bool>("cross");
+    QTest::addColumn<QByteArray>("signature");
+    for (const char *slot : {"SlotImageSizeChanged()", "SlotCrossLineVisiable(bool)", "SlotCrossLineEnable(bool)"})
+        QTest::newRow(slot) << true << QByteArray(slot);
+    for (const char *member : {"SignalTopBottomChanged(int, int)", "SetFVBArea(QPointF, QPointF)",
+                               "SlotFVBManualFlagChanged(bool)", "SlotFVBSpeedingFlagChanged(bool)"})
+        QTest::newRow(member) << false << QByteArray(member);
+}
+
+void TestFocusInfo::TheObjectsAreConnectedByTheirSpelling()
+{
+    QFETCH(bool, cross);
+    QFETCH(QByteArray, signature);
+    FocusInfo info(m_scene.get(), cross ? FocusAssistanceInfo : FVBAndMultiTrackInfo);
+    const QMetaObject *line = Line(info)->metaObject();
+    QVERIFY(line->indexOfMethod(QMetaObject::normalizedSignature(signature)) >= 0);
+}
+
+void TestFocusInfo::DrawsOneMarkPerSpectralLine()
+{
+    FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    info.AddFocusInfo({QRect(10, 20, 30, 200), QRect(100, 20, 30, 200)}, {QPoint(12, 22), QPoint(102, 22)},
+                      {1.5F, 2.25F}, {0.0F, -1.125F});
+    QCOMPARE(Rectangles(*m_scene), QVector<QRectF>({QRectF(10, 20, 30, 200), QRectF(100, 20, 30, 200)}));
+    const auto lines = ItemsOf<QGraphicsLineItem>(*m_scene);
+    QCOMPARE(lines.size(), 2);
+    QCOMPARE(lines.at(0)->line().center(), QPointF(25, 120));
+    QCOMPARE(lines.at(0)->line().dx(), 0.0); // upright
+    QCOMPARE(lines.at(0)->line().length(), 200.0);
+    // A negative angle leans to the left on its way down.
+    QVERIFY(lines.at(1)->line().dx() < 0.0);
+    QCOMPARE(qRound(lines.at(1)->line().dx() * 1000), qRound(-200 * 0.0196336 * 1000)); // sin 1.125 degrees
+    const auto texts = ItemsOf<QGraphicsSimpleTextItem>(*m_scene);
+    QCOMPARE(texts.size(), 2);
+    QCOMPARE(texts.at(0)->pos(), QPointF(12, 22));
+    QCOMPARE(texts.at(0)->text(), QString::fromUtf8("1.50  0.00°"));
+    QVERIFY(texts.at(1)->text().startsWith("2.25  -1.1"));
+}
+
+void TestFocusInfo::ShorterListsLeaveMarksOut()
+{
+    FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    info.AddFocusInfo({QRect(10, 20, 30, 200), QRect(100, 20, 30, 200)}, {QPoint(12, 22)}, {1.5F, 2.0F}, {0.0F, 1.0F});
+    QCOMPARE(Rectangles(*m_scene).size(), 1);
+    info.AddFocusInfo({}, {QPoint(12, 22)}, {1.5F}, {0.0F});
+    QCOMPARE(Rectangles(*m_scene).size(), 0);
+}
+
+void TestFocusInfo::NewMarksReplaceTheOldOnes()
+{
+    FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    info.AddFocusInfo({QRect(10, 20, 30, 200)}, {QPoint(12, 22)}, {1.5F}, {0.0F});
+    info.AddFocusInfo({QRect(50, 20, 30, 200)}, {QPoint(52, 22)}, {1.5F}, {0.0F});
+    QCOMPARE(Rectangles(*m_scene), QVector<QRectF>({QRectF(50, 20, 30, 200)}));
+}
+
+void TestFocusInfo::ShowModeChoosesTheMarks_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<int>("rectangles");
+    QTest::addColumn<int>("lines");
+    QTest::newRow("all") << 0 << 1 << 1;
+    QTest::newRow("rectangles") << 1 << 1 << 0;
+    QTest::newRow("lines") << 2 << 0 << 1;
+}
+
+void TestFocusInfo::ShowModeChoosesTheMarks()
+{
+    QFETCH(int, mode);
+    QFETCH(int, rectangles);
+    QFETCH(int, lines);
+    FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    info.SetShowMode(mode);
+    info.AddFocusInfo({QRect(10, 20, 30, 200)}, {QPoint(12, 22)}, {1.5F}, {0.0F});
+    QCOMPARE(Rectangles(*m_scene).size(), rectangles);
+    QCOMPARE(ItemsOf<QGraphicsLineItem>(*m_scene).size(), lines);
+    QCOMPARE(ItemsOf<QGraphicsSimpleTextItem>(*m_scene).size(), 1);
+}
+
+void TestFocusInfo::LinesChosenByHandAreDashed()
+{
+    FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    info.SetSpectrumLineManualSelection(true);
+    info.AddFocusInfo({QRect(10, 20, 30, 200)}, {QPoint(12, 22)}, {1.5F}, {0.0F});
+    QCOMPARE(ItemsOf<QGraphicsRectItem>(*m_scene).first()->pen().style(), Qt::DashLine);
+    info.SetSpectrumLineManualSelection(false);
+    info.AddFocusInfo({QRect(10, 20, 30, 200)}, {QPoint(12, 22)}, {1.5F}, {0.0F});
+    QCOMPARE(ItemsOf<QGraphicsRectItem>(*m_scene).first()->pen().style(), Qt::SolidLine);
+}
+
+void TestFocusInfo::TracksAreRectanglesWithNumbers()
+{
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    info.AddMultiTrackInfo({QRectF(0, 10, 400, 20), QRectF(1, 60, 399, 5.5)});
+    QCOMPARE(Rectangles(*m_scene), QVector<QRectF>({QRectF(0, 10, 400, 20), QRectF(1, 60, 399, 5.5)}));
+    QStringList numbers;
+    for (const QGraphicsSimpleTextItem *item : ItemsOf<QGraphicsSimpleTextItem>(*m_scene))
+        numbers << item->text();
+    numbers.sort();
+    QCOMPARE(numbers, QStringList({"1", "2"}));
+    info.AddMultiTrackInfo({});
+    QVERIFY(Rectangles(*m_scene).isEmpty());
+}
+
+void TestFocusInfo::ClearingTakesTheMarksOut()
+{
+    FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    info.AddFocusInfo({QRect(10, 20, 30, 200)}, {QPoint(12, 22)}, {1.5F}, {0.0F});
+    QMetaObject::invokeMethod(Line(info), "SlotCrossLineEnable", Q_ARG(bool, true));
+    info.ClearFocusInfo();
+    QVERIFY(Rectangles(*m_scene).isEmpty());
+    QVERIFY(Line(info)->isVisible()); // the cross line stays
+    info.ClearFocusInfo();
+
+    info.AddFocusInfo({QRect(10, 20, 30, 200)}, {QPoint(12, 22)}, {1.5F}, {0.0F});
+    info.Clear();
+    QVERIFY(Rectangles(*m_scene).isEmpty());
+    QVERIFY(!Line(info)->isVisible());
+}
+
+void TestFocusInfo::TheCrossLineFollowsItsSlots()
+{
+    FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    QGraphicsObject *cross = Line(info);
+    QVERIFY(!cross->isVisible());
+    QMetaObject::invokeMethod(cross, "SlotCrossLineEnable", Q_ARG(bool, true));
+    QVERIFY(cross->isVisible());
+    QMetaObject::invokeMethod(cross, "SlotCrossLineVisiable", Q_ARG(bool, false));
+    QVERIFY(!cross->isVisible());
+    QMetaObject::invokeMethod(cross, "SlotCrossLineVisiable", Q_ARG(bool, true));
+    QVERIFY(cross->isVisible());
+    QMetaObject::invokeMethod(cross, "SlotCrossLineEnable", Q_ARG(bool, false));
+    QVERIFY(!cross->isVisible());
+    info.AddCrossLine(true);
+    QVERIFY(!cross->isVisible()); // still not enabled
+    QMetaObject::invokeMethod(cross, "SlotCrossLineEnable", Q_ARG(bool, true));
+    info.AddCrossLine(false);
+    QVERIFY(!cross->isVisible());
+}
+
+void TestFocusInfo::TheCrossLineCoversThePicture()
+{
+    FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    QGraphicsObject *cross = Line(info);
+    QMetaObject::invokeMethod(cross, "SlotCrossLineEnable", Q_ARG(bool, true));
+    QCOMPARE(cross->sceneBoundingRect(), QRectF(0, 0, 400, 300));
+    const QImage picture = m_view->grab().toImage();
+    const QColor green(Qt::green);
+    QVERIFY(picture.pixelColor(50, 150) == green || picture.pixelColor(50, 149) == green);
+    QVERIFY(picture.pixelColor(200, 50) == green || picture.pixelColor(199, 50) == green);
+    QCOMPARE(picture.pixelColor(50, 50), QColor(Qt::black));
+
+    m_scene->setSceneRect(0, 0, 200, 100);
+    QCOMPARE(cross->sceneBoundingRect(), QRectF(0, 0, 200, 100));
+}
+
+void TestFocusInfo::ARetiredCrossLineStaysAway()
+{
+    FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    QGraphicsObject *cross = Line(info);
+    info.Clear();
+    QMetaObject::invokeMethod(cross, "SlotCrossLineEnable", Q_ARG(bool, true));
+    QMetaObject::invokeMethod(cross, "SlotCrossLineVisiable", Q_ARG(bool, true));
+    QVERIFY(!cross->isVisible());
+    info.AddCrossLine(true);
+    QVERIFY(cross->isVisible());
+}
+
+void TestFocusInfo::TheBandLiesBetweenTheRows()
+{
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    QGraphicsObject *band = Line(info);
+    QVERIFY(!band->isVisible());
+    info.AddFVBInfo({QPointF(0, 120.7), QPointF(0, 40.2)}, false);
+    QVERIFY(band->isVisible());
+    QVERIFY(band->shape().contains(QPointF(200, 40)));
+    QVERIFY(band->shape().contains(QPointF(200, 120)));
+    QVERIFY(!band->shape().contains(QPointF(200, 80)));
+    const QImage picture = m_view->grab().toImage();
+    QVERIFY(picture.pixelColor(200, 80) != QColor(Qt::black));
+    QCOMPARE(picture.pixelColor(200, 20), QColor(Qt::black));
+    QCOMPARE(picture.pixelColor(200, 140), QColor(Qt::black));
+}
+
+void TestFocusInfo::TheBandFollowsTheService()
+{
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    info.AddFVBInfo({QPointF(0, 40), QPointF(0, 120)}, true);
+    QGraphicsObject *band = Line(info);
+    QSignalSpy changes(band, SIGNAL(SignalTopBottomChanged(int, int)));
+    QMetaObject::invokeMethod(band, "SetFVBArea", Q_ARG(QPointF, QPointF(0, 200)), Q_ARG(QPointF, QPointF(0, 100)));
+    QVERIFY(band->shape().contains(QPointF(200, 100)));
+    QVERIFY(band->shape().contains(QPointF(200, 200)));
+    QVERIFY(!band->shape().contains(QPointF(200, 40)));
+    QCOMPARE(changes.count(), 0); // the service knows it already
+}
+
+void TestFocusInfo::FewerThanTwoEndPointsDrawNoBand()
+{
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    info.AddFVBInfo({}, true);
+    info.AddFVBInfo({QPointF(0, 40)}, true);
+    QVERIFY(!Line(info)->isVisible());
+}
+
+void TestFocusInfo::AnEdgeOfTheBandIsDragged_data()
+{
+    QTest::addColumn<QPointF>("from");
+    QTest::addColumn<QPointF>("to");
+    QTest::addColumn<int>("top");
+    QTest::addColumn<int>("bottom");
+    QTest::newRow("top") << QPointF(200, 101) << QPointF(220, 60) << 60 << 200;
+    QTest::newRow("bottom") << QPointF(200, 199) << QPointF(200, 240) << 100 << 240;
+    QTest::newRow("bottom, out of the picture") << QPointF(200, 200) << QPointF(200, 299) << 100 << 299;
+    QTest::newRow("top, beyond the bottom") << QPointF(200, 100) << QPointF(200, 250) << 200 << 200;
+}
+
+void TestFocusInfo::AnEdgeOfTheBandIsDragged()
+{
+    QFETCH(QPointF, from);
+    QFETCH(QPointF, to);
+    QFETCH(int, top);
+    QFETCH(int, bottom);
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, true);
+    QSignalSpy changes(Line(info), SIGNAL(SignalTopBottomChanged(int, int)));
+    DragInView(m_view.get(), from, to);
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(changes.first(), QList<QVariant>({top, bottom}));
+}
+
+void TestFocusInfo::ABandThatIsNotManualStays_data()
+{
+    QTest::addColumn<bool>("manual");
+    QTest::addColumn<bool>("speeding");
+    QTest::addColumn<int>("changes");
+    QTest::newRow("found by itself") << false << false << 0;
+    QTest::newRow("set by hand") << true << false << 1;
+    QTest::newRow("set by hand, speeding") << true << true << 0;
+}
+
+void TestFocusInfo::ABandThatIsNotManualStays()
+{
+    QFETCH(bool, manual);
+    QFETCH(bool, speeding);
+    QFETCH(int, changes);
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, !manual);
+    QGraphicsObject *band = Line(info);
+    QMetaObject::invokeMethod(band, "SlotFVBManualFlagChanged", Q_ARG(bool, manual));
+    QMetaObject::invokeMethod(band, "SlotFVBSpeedingFlagChanged", Q_ARG(bool, speeding));
+    QSignalSpy spy(band, SIGNAL(SignalTopBottomChanged(int, int)));
+    DragInView(m_view.get(), QPointF(200, 100), QPointF(200, 50));
+    QCOMPARE(spy.count(), changes);
+}
+
+void TestFocusInfo::ARetiredBandStaysAway()
+{
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, true);
+    QGraphicsObject *band = Line(info);
+    info.Clear();
+    QMetaObject::invokeMethod(band, "SetFVBArea", Q_ARG(QPointF, QPointF(0, 10)), Q_ARG(QPointF, QPointF(0, 20)));
+    QVERIFY(!band->isVisible());
+    info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, true);
+    QVERIFY(band->isVisible());
+}
+
+void TestFocusInfo::GoesWithItsScene()
+{
+    auto scene = std::make_unique<QGraphicsScene>(QRectF(0, 0, 10, 10));
+    QPointer<FocusInfo> info = new FocusInfo(scene.get(), FVBAndMultiTrackInfo); // owned by the scene
+    info->AddMultiTrackInfo({QRectF(0, 1, 10, 2)});
+    scene->clear(); // takes the items away under it
+    QVERIFY(!info->GetFVBLineObject());
+    info->AddFVBInfo({QPointF(0, 1), QPointF(0, 2)}, true);
+    info->Clear();
+    scene.reset();
+    QVERIFY(!info);
+}
+
+void TestFocusInfo::TakesItsMarksAlong()
+{
+    {
+        FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+        info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, true);
+        info.AddMultiTrackInfo({QRectF(0, 10, 400, 20)});
+        QVERIFY(!m_scene->items().isEmpty());
+    }
+    QVERIFY(m_scene->items().isEmpty());
+}
+
+GUARDED_TEST_MAIN(TestFocusInfo)
+#include "tst_focusinfo.moc"

@@ -1,0 +1,402 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "guardedtest.h"
+
+#include "uimanagerbase.h"
+#include "uiplugin.h"
+#include "viewcodes.h"
+
+#include <QFileInfo>
+#include <QLabel>
+#include <QScrollArea>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTableWidget>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace {
+
+const char *const TestFolder = "plugins/test/ui";
+
+class Manager : public UIManagerBase
+{
+public:
+    QList<int> Ids() const
+    {
+        QList<int> ids;
+        for (const LoadedPlugin &loaded : Plugins())
+            ids << loaded.id;
+        return ids;
+    }
+    QWidget *Panel(int id) const
+    {
+        for (const LoadedPlugin &loaded : Plugins()) {
+            if (loaded.id == id)
+                return loaded.widget;
+        }
+        return nullptr;
+    }
+};
+
+UIPluginReport ReportOf(const QString &fileName)
+{
+    for (const UIPluginReport &report : UIManagerBase::PluginReports()) {
+        if (QFileInfo(report.filePath).fileName() == fileName)
+            return report;
+    }
+    return UIPluginReport();
+}
+
+QStringList Texts(const QTabWidget &tabs)
+{
+    QStringList texts;
+    for (int i = 0; i < tabs.count(); ++i)
+        texts << tabs.tabText(i);
+    return texts;
+}
+
+/// The text of the label that a page of a tab widget scrolls.
+QString PageText(const QTabWidget &tabs, int index)
+{
+    auto *area = qobject_cast<QScrollArea *>(tabs.widget(index));
+    auto *label = area ? qobject_cast<QLabel *>(area->widget()) : nullptr;
+    return label ? label->text() : QString("no label in a scroll area");
+}
+
+} // namespace
+
+class TestUIManagerBase : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void LooksForPluginsWhereTheyAreInstalled();
+    void LoadsThePanelsItFinds();
+    void TellsWhyAPluginIsNotLoaded_data();
+    void TellsWhyAPluginIsNotLoaded();
+    void AFolderThatIsNotThereLoadsNothing();
+    void AnIdBelongsToOneManagerWhileItLives();
+    void PanelsShowTheStateAfterTheLastFolder();
+    void APanelStandsInATabUnderItsName();
+    void AMissingPanelSaysSo();
+    void APageMovesToItsNewPlace();
+    void APanelThatIsGoneIsLeftOut();
+    void BottomPagesStandInTheOrderOfTheirIds();
+    void BottomPagesFollowTheLeftPage_data();
+    void BottomPagesFollowTheLeftPage();
+    void TheCurrentBottomPageStaysCurrent();
+    void ABottomPageTakenOutComesBackCurrent();
+    void AnotherChoiceIsKeptWhenABottomPageComesBack();
+    void AnUpdateThatChangesNothingIsSilent();
+    void ABottomPageIsBroughtToTheFrontByItsText();
+    void BottomPagesAddedLaterFollowTheLeftPageToo();
+    void TheTableOfPanelsListsThem();
+
+private:
+    void LoadAll(Manager *manager, bool complete = true);
+
+    QTemporaryDir m_dataHome;
+};
+
+void TestUIManagerBase::initTestCase()
+{
+    QVERIFY(m_dataHome.isValid());
+    qputenv("XDG_DATA_HOME", m_dataHome.path().toLocal8Bit());
+    qputenv("GLOBALUI_PLUGIN_PATH", TEST_PLUGIN_ROOT "::/no/such/folder");
+}
+
+/// Loads the test folder into a manager; what can't be loaded is announced.
+void TestUIManagerBase::LoadAll(Manager *manager, bool complete)
+{
+    for (const char *file : {"d_sameid", "e_otherinterface", "f_nometadata", "g_noid", "h_unresolved",
+                             "i_notapanel", "j_nopanel", "k_text"})
+        ExpectWarning(QRegularExpression(QString("%1\\.so is not loaded: .+").arg(file)));
+    manager->LoadUIPluginAndInitUI(TestFolder, nullptr, complete);
+}
+
+void TestUIManagerBase::LooksForPluginsWhereTheyAreInstalled()
+{
+    const QStringList roots = UIManagerBase::PluginRoots();
+    QCOMPARE(roots.size(), 5);
+    QCOMPARE(roots.at(0), QCoreApplication::applicationDirPath());
+    QVERIFY(roots.at(1).startsWith(QFileInfo(QCoreApplication::applicationDirPath()).path() + "/lib"));
+    QVERIFY(roots.at(1).endsWith("/globalui"));
+    QCOMPARE(roots.at(2), QString(TEST_PLUGIN_ROOT));
+    QCOMPARE(roots.at(3), QString("/no/such/folder"));
+    QCOMPARE(roots.at(4), m_dataHome.path() + "/globalui");
+}
+
+void TestUIManagerBase::LoadsThePanelsItFinds()
+{
+    Manager manager;
+    LoadAll(&manager);
+    QCOMPARE(manager.Ids(), QList<int>({4, 31, 30}));
+    const UIPluginReport report = ReportOf("a_tabpanel.so");
+    QVERIFY(report.loaded);
+    QCOMPARE(report.id, 4);
+    QCOMPARE(report.version, QString("1.2.3"));
+    QCOMPARE(report.reason, QString());
+    QCOMPARE(report.filePath, QString(TEST_PLUGIN_ROOT "/plugins/test/ui/a_tabpanel.so"));
+    QCOMPARE(ReportOf("l_readme.txt").filePath, QString());
+}
+
+void TestUIManagerBase::TellsWhyAPluginIsNotLoaded_data()
+{
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<int>("id");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("id taken") << "d_sameid.so" << 4 << "another plug-in has the id 4 already";
+    QTest::newRow("other program") << "e_otherinterface.so" << 40
+                                   << "it is a plug-in for another interface: \"some.other.Interface/1\"";
+    QTest::newRow("no plug-in") << "f_nometadata.so" << -1 << "it is not a plug-in";
+    QTest::newRow("no id") << "g_noid.so" << -1 << "its metadata has no valid \"id\"";
+    QTest::newRow("missing symbol") << "h_unresolved.so" << 41 << "AFunctionThatIsNowhere";
+    QTest::newRow("no interface") << "i_notapanel.so" << 42 << "its root object is not a panel";
+    QTest::newRow("no widget") << "j_nopanel.so" << 43 << "it has no panel";
+    QTest::newRow("text file") << "k_text.so" << -1 << "it is not a plug-in";
+}
+
+void TestUIManagerBase::TellsWhyAPluginIsNotLoaded()
+{
+    QFETCH(QString, file);
+    QFETCH(int, id);
+    QFETCH(QString, reason);
+    Manager manager;
+    LoadAll(&manager);
+    const UIPluginReport report = ReportOf(file);
+    QVERIFY(!report.loaded);
+    QCOMPARE(report.id, id);
+    QVERIFY2(report.reason.contains(reason), qPrintable(report.reason));
+}
+
+void TestUIManagerBase::AFolderThatIsNotThereLoadsNothing()
+{
+    Manager manager;
+    manager.LoadUIPluginAndInitUI("plugins/nowhere/ui", nullptr, true);
+    QCOMPARE(manager.Ids(), QList<int>());
+}
+
+void TestUIManagerBase::AnIdBelongsToOneManagerWhileItLives()
+{
+    auto first = std::make_unique<Manager>();
+    LoadAll(first.get());
+    Manager second;
+    for (const char *file : {"a_tabpanel", "b_histogrampage", "c_calibrationpage"})
+        ExpectWarning(QRegularExpression(QString("%1\\.so is not loaded: another plug-in has the id").arg(file)));
+    LoadAll(&second);
+    QCOMPARE(second.Ids(), QList<int>());
+
+    first.reset();
+    LoadAll(&second);
+    QCOMPARE(second.Ids(), QList<int>({4, 31, 30}));
+}
+
+void TestUIManagerBase::PanelsShowTheStateAfterTheLastFolder()
+{
+    Manager manager;
+    LoadAll(&manager, false);
+    QCOMPARE(manager.Panel(4)->property("updates").toInt(), 0);
+    manager.LoadUIPluginAndInitUI("plugins/nowhere/ui", nullptr, true);
+    QCOMPARE(manager.Panel(4)->property("updates").toInt(), 1);
+    QCOMPARE(manager.Panel(30)->property("updates").toInt(), 1);
+}
+
+void TestUIManagerBase::APanelStandsInATabUnderItsName()
+{
+    Manager manager;
+    LoadAll(&manager);
+    const std::unique_ptr<QWidget> panel(manager.GetScrollArea(4, 6, {"Adjustment", "Process", "Counting"}, "Image"));
+    auto *tabs = qobject_cast<QTabWidget *>(panel.get());
+    QVERIFY(tabs);
+    QCOMPARE(tabs->objectName(), QString("ImageTabWidget"));
+    QCOMPARE(Texts(*tabs), QStringList({"Adjustment", "Process", "Counting"}));
+    QCOMPARE(PageText(*tabs, 0), QString("tab panel"));
+    QCOMPARE(PageText(*tabs, 1), QString("The panel \"Process\" is not installed."));
+    QCOMPARE(PageText(*tabs, 2), QString("The panel \"Counting\" is not installed."));
+    tabs->show();
+    QTRY_VERIFY(manager.Panel(4)->isVisible());
+}
+
+void TestUIManagerBase::AMissingPanelSaysSo()
+{
+    Manager manager;
+    QTabWidget tabs;
+    QWidget *page = manager.GetWidget(9, "Report", "Report");
+    tabs.addTab(page, "Report");
+    QCOMPARE(PageText(tabs, 0), QString("The panel \"Report\" is not installed."));
+    QCOMPARE(manager.GetWidget(9, "Report", "Report"), page);
+}
+
+void TestUIManagerBase::APageMovesToItsNewPlace()
+{
+    Manager manager;
+    LoadAll(&manager);
+    const QStringList names = {"Adjustment", "Process", "Counting"};
+    const std::unique_ptr<QWidget> first(manager.GetScrollArea(4, 6, names, "Image"));
+    const std::unique_ptr<QWidget> second(manager.GetScrollArea(4, 6, names, "Image"));
+    QCOMPARE(qobject_cast<QTabWidget *>(first.get())->count(), 0);
+    QCOMPARE(PageText(*qobject_cast<QTabWidget *>(second.get()), 0), QString("tab panel"));
+}
+
+void TestUIManagerBase::APanelThatIsGoneIsLeftOut()
+{
+    Manager manager;
+    LoadAll(&manager);
+    {
+        const std::unique_ptr<QWidget> tabs(manager.GetScrollArea(4, 4, {"Adjustment"}, "Image"));
+        QCOMPARE(manager.Ids(), QList<int>({4, 31, 30}));
+    }
+    QCOMPARE(manager.Ids(), QList<int>({31, 30}));
+    QTabWidget tabs;
+    tabs.addTab(manager.GetWidget(4, "Adjustment", "Image"), "Adjustment");
+    QCOMPARE(PageText(tabs, 0), QString("The panel \"Adjustment\" is not installed."));
+}
+
+void TestUIManagerBase::BottomPagesStandInTheOrderOfTheirIds()
+{
+    Manager manager;
+    LoadAll(&manager);
+    QTabWidget tabs;
+    tabs.addTab(new QLabel("files"), "File Preview");
+    manager.SetBottomControlUIPanel(&tabs);
+    QCOMPARE(Texts(tabs), QStringList({"File Preview", "Calibration Table", "Histogram(Live)"}));
+    QCOMPARE(tabs.widget(1), manager.Panel(30));
+    QCOMPARE(tabs.widget(2), manager.Panel(31));
+    QCOMPARE(tabs.currentIndex(), 0);
+}
+
+void TestUIManagerBase::BottomPagesFollowTheLeftPage_data()
+{
+    QTest::addColumn<int>("leftPage");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("camera") << int(CameraControlPage)
+                            << QStringList({"File Preview", "Calibration Table", "Histogram(Live)"});
+    QTest::newRow("image") << int(ImageControlPage) << QStringList({"File Preview", "Calibration Table"});
+    QTest::newRow("files") << int(FileSystemPage) << QStringList({"File Preview", "Calibration Table"});
+}
+
+void TestUIManagerBase::BottomPagesFollowTheLeftPage()
+{
+    QFETCH(int, leftPage);
+    QFETCH(QStringList, texts);
+    Manager manager;
+    LoadAll(&manager);
+    QTabWidget tabs;
+    tabs.addTab(new QLabel("files"), "File Preview");
+    manager.SetBottomControlUIPanel(&tabs);
+    UIManagerBase::UpdateBottomTabWidget(leftPage);
+    QCOMPARE(Texts(tabs), texts);
+    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
+    QCOMPARE(Texts(tabs), QStringList({"File Preview", "Calibration Table", "Histogram(Live)"}));
+}
+
+void TestUIManagerBase::TheCurrentBottomPageStaysCurrent()
+{
+    Manager manager;
+    LoadAll(&manager);
+    QTabWidget tabs;
+    tabs.addTab(new QLabel("files"), "File Preview");
+    manager.SetBottomControlUIPanel(&tabs);
+    tabs.setCurrentWidget(manager.Panel(30));
+    QSignalSpy changes(&tabs, SIGNAL(currentChanged(int)));
+    UIManagerBase::UpdateBottomTabWidget(ImageControlPage);
+    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
+    QCOMPARE(tabs.tabText(tabs.currentIndex()), QString("Calibration Table"));
+    QCOMPARE(changes.count(), 0);
+}
+
+void TestUIManagerBase::ABottomPageTakenOutComesBackCurrent()
+{
+    Manager manager;
+    LoadAll(&manager);
+    QTabWidget tabs;
+    tabs.addTab(new QLabel("files"), "File Preview");
+    manager.SetBottomControlUIPanel(&tabs);
+    tabs.setCurrentIndex(2);
+    QSignalSpy changes(&tabs, SIGNAL(currentChanged(int)));
+
+    UIManagerBase::UpdateBottomTabWidget(ImageControlPage);
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(changes.takeFirst().at(0).toInt(), 0);
+    QCOMPARE(tabs.currentIndex(), 0);
+
+    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(changes.takeFirst().at(0).toInt(), 2);
+    QCOMPARE(tabs.tabText(tabs.currentIndex()), QString("Histogram(Live)"));
+}
+
+void TestUIManagerBase::AnotherChoiceIsKeptWhenABottomPageComesBack()
+{
+    Manager manager;
+    LoadAll(&manager);
+    QTabWidget tabs;
+    tabs.addTab(new QLabel("files"), "File Preview");
+    manager.SetBottomControlUIPanel(&tabs);
+    tabs.setCurrentIndex(2);
+    UIManagerBase::UpdateBottomTabWidget(ImageControlPage);
+    tabs.setCurrentWidget(manager.Panel(30));
+    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
+    QCOMPARE(tabs.tabText(tabs.currentIndex()), QString("Calibration Table"));
+}
+
+void TestUIManagerBase::AnUpdateThatChangesNothingIsSilent()
+{
+    Manager manager;
+    LoadAll(&manager);
+    QTabWidget tabs;
+    tabs.addTab(new QLabel("files"), "File Preview");
+    manager.SetBottomControlUIPanel(&tabs);
+    tabs.setCurrentIndex(2);
+    QSignalSpy changes(&tabs, SIGNAL(currentChanged(int)));
+    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
+    QCOMPARE(changes.count(), 0);
+    QCOMPARE(tabs.currentIndex(), 2);
+}
+
+void TestUIManagerBase::ABottomPageIsBroughtToTheFrontByItsText()
+{
+    Manager manager;
+    LoadAll(&manager);
+    manager.setBottomPanelCurrentIndex("Calibration Table"); // no tab widget yet: nothing happens
+    QTabWidget tabs;
+    tabs.addTab(new QLabel("files"), "File Preview");
+    manager.SetBottomControlUIPanel(&tabs);
+    manager.setBottomPanelCurrentIndex("Calibration Table");
+    QCOMPARE(tabs.currentIndex(), 1);
+    manager.setBottomPanelCurrentIndex("Class Counting");
+    QCOMPARE(tabs.currentIndex(), 1);
+}
+
+void TestUIManagerBase::BottomPagesAddedLaterFollowTheLeftPageToo()
+{
+    Manager manager;
+    LoadAll(&manager);
+    UIManagerBase::UpdateBottomTabWidget(ImageControlPage);
+    QTabWidget tabs;
+    manager.SetBottomControlUIPanel(&tabs);
+    QCOMPARE(Texts(tabs), QStringList({"Calibration Table"}));
+    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
+    QCOMPARE(Texts(tabs), QStringList({"Calibration Table", "Histogram(Live)"}));
+    // The page that is not shown at the end goes with the tab widget as well.
+    UIManagerBase::UpdateBottomTabWidget(FileSystemPage);
+    QCOMPARE(manager.Ids(), QList<int>({4, 31, 30}));
+}
+
+void TestUIManagerBase::TheTableOfPanelsListsThem()
+{
+    Manager manager;
+    LoadAll(&manager);
+    QTableWidget table(1, 3);
+    manager.AddUIConfigItem(&table, 1);
+    QCOMPARE(table.rowCount(), 4);
+    QCOMPARE(table.item(1, 0)->text(), QString("4"));
+    QCOMPARE(table.item(2, 0)->text(), QString("31"));
+    QCOMPARE(table.item(2, 1)->text(), QString("Histogram(Live)"));
+    QCOMPARE(table.item(1, 2)->text(), QString("1.2.3"));
+}
+
+GUARDED_TEST_MAIN(TestUIManagerBase)
+#include "tst_uimanagerbase.moc"
