@@ -55,6 +55,12 @@ BottomPages::~BottomPages()
 
 void BottomPages::Add(const BottomPage &page)
 {
+    for (BottomPages *pages : Living()) {
+        QVector<BottomPage> &others = pages->m_pages;
+        others.erase(std::remove_if(others.begin(), others.end(),
+                                    [&](const BottomPage &other) { return other.widget == page.widget; }),
+                     others.end());
+    }
     m_pages.append(page);
 }
 

@@ -34,6 +34,7 @@ public:
     explicit BottomPages(QTabWidget *tabs);
     ~BottomPages() override;
 
+    /// A page that has a place already leaves it.
     void Add(const BottomPage &page);
     void Show(int leftPage);
 

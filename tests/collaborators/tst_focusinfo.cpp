@@ -4,10 +4,8 @@
 #include "focusinfo.h"
 
 #include <QGraphicsItem>
-#include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
 #include <QPen>
-#include <QSignalSpy>
 
 #include <algorithm>
 #include <memory>
@@ -34,18 +32,6 @@ QVector<QRectF> Rectangles(const QGraphicsScene &scene)
     return rectangles;
 }
 
-/// Presses, moves and releases the left button on a view, at positions in picture pixels.
-void DragInView(QGraphicsView *view, const QPointF &from, const QPointF &to)
-{
-    const QPoint begin = view->mapFromScene(from);
-    const QPoint end = view->mapFromScene(to);
-    QTest::mousePress(view->viewport(), Qt::LeftButton, Qt::NoModifier, begin);
-    QMouseEvent move(QEvent::MouseMove, end, view->viewport()->mapToGlobal(end), Qt::NoButton, Qt::LeftButton,
-                     Qt::NoModifier);
-    QApplication::sendEvent(view->viewport(), &move);
-    QTest::mouseRelease(view->viewport(), Qt::LeftButton, Qt::NoModifier, end);
-}
-
 } // namespace
 
 class TestFocusInfo : public GuardedTest
@@ -69,14 +55,6 @@ private slots:
     void TheCrossLineFollowsItsSlots();
     void TheCrossLineCoversThePicture();
     void ARetiredCrossLineStaysAway();
-    void TheBandLiesBetweenTheRows();
-    void TheBandFollowsTheService();
-    void FewerThanTwoEndPointsDrawNoBand();
-    void AnEdgeOfTheBandIsDragged_data();
-    void AnEdgeOfTheBandIsDragged();
-    void ABandThatIsNotManualStays_data();
-    void ABandThatIsNotManualStays();
-    void ARetiredBandStaysAway();
     void GoesWithItsScene();
     void TakesItsMarksAlong();
 
@@ -293,106 +271,6 @@ void TestFocusInfo::ARetiredCrossLineStaysAway()
     QVERIFY(!cross->isVisible());
     info.AddCrossLine(true);
     QVERIFY(cross->isVisible());
-}
-
-void TestFocusInfo::TheBandLiesBetweenTheRows()
-{
-    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
-    QGraphicsObject *band = Line(info);
-    QVERIFY(!band->isVisible());
-    info.AddFVBInfo({QPointF(0, 120.7), QPointF(0, 40.2)}, false);
-    QVERIFY(band->isVisible());
-    QVERIFY(band->shape().contains(QPointF(200, 40)));
-    QVERIFY(band->shape().contains(QPointF(200, 120)));
-    QVERIFY(!band->shape().contains(QPointF(200, 80)));
-    const QImage picture = m_view->grab().toImage();
-    QVERIFY(picture.pixelColor(200, 80) != QColor(Qt::black));
-    QCOMPARE(picture.pixelColor(200, 20), QColor(Qt::black));
-    QCOMPARE(picture.pixelColor(200, 140), QColor(Qt::black));
-}
-
-void TestFocusInfo::TheBandFollowsTheService()
-{
-    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
-    info.AddFVBInfo({QPointF(0, 40), QPointF(0, 120)}, true);
-    QGraphicsObject *band = Line(info);
-    QSignalSpy changes(band, SIGNAL(SignalTopBottomChanged(int, int)));
-    QMetaObject::invokeMethod(band, "SetFVBArea", Q_ARG(QPointF, QPointF(0, 200)), Q_ARG(QPointF, QPointF(0, 100)));
-    QVERIFY(band->shape().contains(QPointF(200, 100)));
-    QVERIFY(band->shape().contains(QPointF(200, 200)));
-    QVERIFY(!band->shape().contains(QPointF(200, 40)));
-    QCOMPARE(changes.count(), 0); // the service knows it already
-}
-
-void TestFocusInfo::FewerThanTwoEndPointsDrawNoBand()
-{
-    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
-    info.AddFVBInfo({}, true);
-    info.AddFVBInfo({QPointF(0, 40)}, true);
-    QVERIFY(!Line(info)->isVisible());
-}
-
-void TestFocusInfo::AnEdgeOfTheBandIsDragged_data()
-{
-    QTest::addColumn<QPointF>("from");
-    QTest::addColumn<QPointF>("to");
-    QTest::addColumn<int>("top");
-    QTest::addColumn<int>("bottom");
-    QTest::newRow("top") << QPointF(200, 101) << QPointF(220, 60) << 60 << 200;
-    QTest::newRow("bottom") << QPointF(200, 199) << QPointF(200, 240) << 100 << 240;
-    QTest::newRow("bottom, out of the picture") << QPointF(200, 200) << QPointF(200, 299) << 100 << 299;
-    QTest::newRow("top, beyond the bottom") << QPointF(200, 100) << QPointF(200, 250) << 200 << 200;
-}
-
-void TestFocusInfo::AnEdgeOfTheBandIsDragged()
-{
-    QFETCH(QPointF, from);
-    QFETCH(QPointF, to);
-    QFETCH(int, top);
-    QFETCH(int, bottom);
-    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
-    info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, true);
-    QSignalSpy changes(Line(info), SIGNAL(SignalTopBottomChanged(int, int)));
-    DragInView(m_view.get(), from, to);
-    QCOMPARE(changes.count(), 1);
-    QCOMPARE(changes.first(), QList<QVariant>({top, bottom}));
-}
-
-void TestFocusInfo::ABandThatIsNotManualStays_data()
-{
-    QTest::addColumn<bool>("manual");
-    QTest::addColumn<bool>("speeding");
-    QTest::addColumn<int>("changes");
-    QTest::newRow("found by itself") << false << false << 0;
-    QTest::newRow("set by hand") << true << false << 1;
-    QTest::newRow("set by hand, speeding") << true << true << 0;
-}
-
-void TestFocusInfo::ABandThatIsNotManualStays()
-{
-    QFETCH(bool, manual);
-    QFETCH(bool, speeding);
-    QFETCH(int, changes);
-    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
-    info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, !manual);
-    QGraphicsObject *band = Line(info);
-    QMetaObject::invokeMethod(band, "SlotFVBManualFlagChanged", Q_ARG(bool, manual));
-    QMetaObject::invokeMethod(band, "SlotFVBSpeedingFlagChanged", Q_ARG(bool, speeding));
-    QSignalSpy spy(band, SIGNAL(SignalTopBottomChanged(int, int)));
-    DragInView(m_view.get(), QPointF(200, 100), QPointF(200, 50));
-    QCOMPARE(spy.count(), changes);
-}
-
-void TestFocusInfo::ARetiredBandStaysAway()
-{
-    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
-    info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, true);
-    QGraphicsObject *band = Line(info);
-    info.Clear();
-    QMetaObject::invokeMethod(band, "SetFVBArea", Q_ARG(QPointF, QPointF(0, 10)), Q_ARG(QPointF, QPointF(0, 20)));
-    QVERIFY(!band->isVisible());
-    info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, true);
-    QVERIFY(band->isVisible());
 }
 
 void TestFocusInfo::GoesWithItsScene()

@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "guardedtest.h"
 
-#include "uimanagerbase.h"
-#include "uiplugin.h"
-#include "viewcodes.h"
+#include "testpanels.h"
 
 #include <QFileInfo>
 #include <QLabel>
 #include <QScrollArea>
-#include <QSignalSpy>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
@@ -16,28 +13,6 @@
 #include <memory>
 
 namespace {
-
-const char *const TestFolder = "plugins/test/ui";
-
-class Manager : public UIManagerBase
-{
-public:
-    QList<int> Ids() const
-    {
-        QList<int> ids;
-        for (const LoadedPlugin &loaded : Plugins())
-            ids << loaded.id;
-        return ids;
-    }
-    QWidget *Panel(int id) const
-    {
-        for (const LoadedPlugin &loaded : Plugins()) {
-            if (loaded.id == id)
-                return loaded.widget;
-        }
-        return nullptr;
-    }
-};
 
 UIPluginReport ReportOf(const QString &fileName)
 {
@@ -83,19 +58,10 @@ private slots:
     void AMissingPanelSaysSo();
     void APageMovesToItsNewPlace();
     void APanelThatIsGoneIsLeftOut();
-    void BottomPagesStandInTheOrderOfTheirIds();
-    void BottomPagesFollowTheLeftPage_data();
-    void BottomPagesFollowTheLeftPage();
-    void TheCurrentBottomPageStaysCurrent();
-    void ABottomPageTakenOutComesBackCurrent();
-    void AnotherChoiceIsKeptWhenABottomPageComesBack();
-    void AnUpdateThatChangesNothingIsSilent();
-    void ABottomPageIsBroughtToTheFrontByItsText();
-    void BottomPagesAddedLaterFollowTheLeftPageToo();
     void TheTableOfPanelsListsThem();
 
 private:
-    void LoadAll(Manager *manager, bool complete = true);
+    void LoadAll(TestPanels *manager, bool complete = true);
 
     QTemporaryDir m_dataHome;
 };
@@ -108,12 +74,11 @@ void TestUIManagerBase::initTestCase()
 }
 
 /// Loads the test folder into a manager; what can't be loaded is announced.
-void TestUIManagerBase::LoadAll(Manager *manager, bool complete)
+void TestUIManagerBase::LoadAll(TestPanels *manager, bool complete)
 {
-    for (const char *file : {"d_sameid", "e_otherinterface", "f_nometadata", "g_noid", "h_unresolved",
-                             "i_notapanel", "j_nopanel", "k_text"})
-        ExpectWarning(QRegularExpression(QString("%1\\.so is not loaded: .+").arg(file)));
-    manager->LoadUIPluginAndInitUI(TestFolder, nullptr, complete);
+    for (const QRegularExpression &warning : TestPanels::Warnings())
+        ExpectWarning(warning);
+    manager->LoadTestFolder(complete);
 }
 
 void TestUIManagerBase::LooksForPluginsWhereTheyAreInstalled()
@@ -130,7 +95,7 @@ void TestUIManagerBase::LooksForPluginsWhereTheyAreInstalled()
 
 void TestUIManagerBase::LoadsThePanelsItFinds()
 {
-    Manager manager;
+    TestPanels manager;
     LoadAll(&manager);
     QCOMPARE(manager.Ids(), QList<int>({4, 31, 30}));
     const UIPluginReport report = ReportOf("a_tabpanel.so");
@@ -163,7 +128,7 @@ void TestUIManagerBase::TellsWhyAPluginIsNotLoaded()
     QFETCH(QString, file);
     QFETCH(int, id);
     QFETCH(QString, reason);
-    Manager manager;
+    TestPanels manager;
     LoadAll(&manager);
     const UIPluginReport report = ReportOf(file);
     QVERIFY(!report.loaded);
@@ -173,16 +138,16 @@ void TestUIManagerBase::TellsWhyAPluginIsNotLoaded()
 
 void TestUIManagerBase::AFolderThatIsNotThereLoadsNothing()
 {
-    Manager manager;
+    TestPanels manager;
     manager.LoadUIPluginAndInitUI("plugins/nowhere/ui", nullptr, true);
     QCOMPARE(manager.Ids(), QList<int>());
 }
 
 void TestUIManagerBase::AnIdBelongsToOneManagerWhileItLives()
 {
-    auto first = std::make_unique<Manager>();
+    auto first = std::make_unique<TestPanels>();
     LoadAll(first.get());
-    Manager second;
+    TestPanels second;
     for (const char *file : {"a_tabpanel", "b_histogrampage", "c_calibrationpage"})
         ExpectWarning(QRegularExpression(QString("%1\\.so is not loaded: another plug-in has the id").arg(file)));
     LoadAll(&second);
@@ -195,7 +160,7 @@ void TestUIManagerBase::AnIdBelongsToOneManagerWhileItLives()
 
 void TestUIManagerBase::PanelsShowTheStateAfterTheLastFolder()
 {
-    Manager manager;
+    TestPanels manager;
     LoadAll(&manager, false);
     QCOMPARE(manager.Panel(4)->property("updates").toInt(), 0);
     manager.LoadUIPluginAndInitUI("plugins/nowhere/ui", nullptr, true);
@@ -205,7 +170,7 @@ void TestUIManagerBase::PanelsShowTheStateAfterTheLastFolder()
 
 void TestUIManagerBase::APanelStandsInATabUnderItsName()
 {
-    Manager manager;
+    TestPanels manager;
     LoadAll(&manager);
     const std::unique_ptr<QWidget> panel(manager.GetScrollArea(4, 6, {"Adjustment", "Process", "Counting"}, "Image"));
     auto *tabs = qobject_cast<QTabWidget *>(panel.get());
@@ -221,7 +186,7 @@ void TestUIManagerBase::APanelStandsInATabUnderItsName()
 
 void TestUIManagerBase::AMissingPanelSaysSo()
 {
-    Manager manager;
+    TestPanels manager;
     QTabWidget tabs;
     QWidget *page = manager.GetWidget(9, "Report", "Report");
     tabs.addTab(page, "Report");
@@ -231,7 +196,7 @@ void TestUIManagerBase::AMissingPanelSaysSo()
 
 void TestUIManagerBase::APageMovesToItsNewPlace()
 {
-    Manager manager;
+    TestPanels manager;
     LoadAll(&manager);
     const QStringList names = {"Adjustment", "Process", "Counting"};
     const std::unique_ptr<QWidget> first(manager.GetScrollArea(4, 6, names, "Image"));
@@ -242,7 +207,7 @@ void TestUIManagerBase::APageMovesToItsNewPlace()
 
 void TestUIManagerBase::APanelThatIsGoneIsLeftOut()
 {
-    Manager manager;
+    TestPanels manager;
     LoadAll(&manager);
     {
         const std::unique_ptr<QWidget> tabs(manager.GetScrollArea(4, 4, {"Adjustment"}, "Image"));
@@ -254,140 +219,9 @@ void TestUIManagerBase::APanelThatIsGoneIsLeftOut()
     QCOMPARE(PageText(tabs, 0), QString("The panel \"Adjustment\" is not installed."));
 }
 
-void TestUIManagerBase::BottomPagesStandInTheOrderOfTheirIds()
-{
-    Manager manager;
-    LoadAll(&manager);
-    QTabWidget tabs;
-    tabs.addTab(new QLabel("files"), "File Preview");
-    manager.SetBottomControlUIPanel(&tabs);
-    QCOMPARE(Texts(tabs), QStringList({"File Preview", "Calibration Table", "Histogram(Live)"}));
-    QCOMPARE(tabs.widget(1), manager.Panel(30));
-    QCOMPARE(tabs.widget(2), manager.Panel(31));
-    QCOMPARE(tabs.currentIndex(), 0);
-}
-
-void TestUIManagerBase::BottomPagesFollowTheLeftPage_data()
-{
-    QTest::addColumn<int>("leftPage");
-    QTest::addColumn<QStringList>("texts");
-    QTest::newRow("camera") << int(CameraControlPage)
-                            << QStringList({"File Preview", "Calibration Table", "Histogram(Live)"});
-    QTest::newRow("image") << int(ImageControlPage) << QStringList({"File Preview", "Calibration Table"});
-    QTest::newRow("files") << int(FileSystemPage) << QStringList({"File Preview", "Calibration Table"});
-}
-
-void TestUIManagerBase::BottomPagesFollowTheLeftPage()
-{
-    QFETCH(int, leftPage);
-    QFETCH(QStringList, texts);
-    Manager manager;
-    LoadAll(&manager);
-    QTabWidget tabs;
-    tabs.addTab(new QLabel("files"), "File Preview");
-    manager.SetBottomControlUIPanel(&tabs);
-    UIManagerBase::UpdateBottomTabWidget(leftPage);
-    QCOMPARE(Texts(tabs), texts);
-    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
-    QCOMPARE(Texts(tabs), QStringList({"File Preview", "Calibration Table", "Histogram(Live)"}));
-}
-
-void TestUIManagerBase::TheCurrentBottomPageStaysCurrent()
-{
-    Manager manager;
-    LoadAll(&manager);
-    QTabWidget tabs;
-    tabs.addTab(new QLabel("files"), "File Preview");
-    manager.SetBottomControlUIPanel(&tabs);
-    tabs.setCurrentWidget(manager.Panel(30));
-    QSignalSpy changes(&tabs, SIGNAL(currentChanged(int)));
-    UIManagerBase::UpdateBottomTabWidget(ImageControlPage);
-    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
-    QCOMPARE(tabs.tabText(tabs.currentIndex()), QString("Calibration Table"));
-    QCOMPARE(changes.count(), 0);
-}
-
-void TestUIManagerBase::ABottomPageTakenOutComesBackCurrent()
-{
-    Manager manager;
-    LoadAll(&manager);
-    QTabWidget tabs;
-    tabs.addTab(new QLabel("files"), "File Preview");
-    manager.SetBottomControlUIPanel(&tabs);
-    tabs.setCurrentIndex(2);
-    QSignalSpy changes(&tabs, SIGNAL(currentChanged(int)));
-
-    UIManagerBase::UpdateBottomTabWidget(ImageControlPage);
-    QCOMPARE(changes.count(), 1);
-    QCOMPARE(changes.takeFirst().at(0).toInt(), 0);
-    QCOMPARE(tabs.currentIndex(), 0);
-
-    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
-    QCOMPARE(changes.count(), 1);
-    QCOMPARE(changes.takeFirst().at(0).toInt(), 2);
-    QCOMPARE(tabs.tabText(tabs.currentIndex()), QString("Histogram(Live)"));
-}
-
-void TestUIManagerBase::AnotherChoiceIsKeptWhenABottomPageComesBack()
-{
-    Manager manager;
-    LoadAll(&manager);
-    QTabWidget tabs;
-    tabs.addTab(new QLabel("files"), "File Preview");
-    manager.SetBottomControlUIPanel(&tabs);
-    tabs.setCurrentIndex(2);
-    UIManagerBase::UpdateBottomTabWidget(ImageControlPage);
-    tabs.setCurrentWidget(manager.Panel(30));
-    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
-    QCOMPARE(tabs.tabText(tabs.currentIndex()), QString("Calibration Table"));
-}
-
-void TestUIManagerBase::AnUpdateThatChangesNothingIsSilent()
-{
-    Manager manager;
-    LoadAll(&manager);
-    QTabWidget tabs;
-    tabs.addTab(new QLabel("files"), "File Preview");
-    manager.SetBottomControlUIPanel(&tabs);
-    tabs.setCurrentIndex(2);
-    QSignalSpy changes(&tabs, SIGNAL(currentChanged(int)));
-    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
-    QCOMPARE(changes.count(), 0);
-    QCOMPARE(tabs.currentIndex(), 2);
-}
-
-void TestUIManagerBase::ABottomPageIsBroughtToTheFrontByItsText()
-{
-    Manager manager;
-    LoadAll(&manager);
-    manager.setBottomPanelCurrentIndex("Calibration Table"); // no tab widget yet: nothing happens
-    QTabWidget tabs;
-    tabs.addTab(new QLabel("files"), "File Preview");
-    manager.SetBottomControlUIPanel(&tabs);
-    manager.setBottomPanelCurrentIndex("Calibration Table");
-    QCOMPARE(tabs.currentIndex(), 1);
-    manager.setBottomPanelCurrentIndex("Class Counting");
-    QCOMPARE(tabs.currentIndex(), 1);
-}
-
-void TestUIManagerBase::BottomPagesAddedLaterFollowTheLeftPageToo()
-{
-    Manager manager;
-    LoadAll(&manager);
-    UIManagerBase::UpdateBottomTabWidget(ImageControlPage);
-    QTabWidget tabs;
-    manager.SetBottomControlUIPanel(&tabs);
-    QCOMPARE(Texts(tabs), QStringList({"Calibration Table"}));
-    UIManagerBase::UpdateBottomTabWidget(CameraControlPage);
-    QCOMPARE(Texts(tabs), QStringList({"Calibration Table", "Histogram(Live)"}));
-    // The page that is not shown at the end goes with the tab widget as well.
-    UIManagerBase::UpdateBottomTabWidget(FileSystemPage);
-    QCOMPARE(manager.Ids(), QList<int>({4, 31, 30}));
-}
-
 void TestUIManagerBase::TheTableOfPanelsListsThem()
 {
-    Manager manager;
+    TestPanels manager;
     LoadAll(&manager);
     QTableWidget table(1, 3);
     manager.AddUIConfigItem(&table, 1);
