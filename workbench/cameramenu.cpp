@@ -4,6 +4,7 @@
 #include "cameralink.h"
 #include "camerasession.h"
 #include "connectedcameras.h"
+#include "devicelist.h"
 #include "informationdialog.h"
 #include "livepreview.h"
 #include "regionofinterest.h"
@@ -15,7 +16,7 @@ namespace {
 
 QString Caption(const CameraInfo &camera)
 {
-    if (camera.interfaceName == CameraDiscovery::ImmediateCameras().first().interfaceName)
+    if (IsSimulatedCamera(camera.id))
         return CameraMenu::tr("Simulated Camera");
     return QString("%1 %2 %3 (%4)").arg(camera.vendor, camera.model, camera.serial, camera.interfaceName);
 }

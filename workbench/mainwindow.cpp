@@ -33,7 +33,7 @@ const char StateKey[] = "window/state";
 const char BlackBackgroundKey[] = "window/blackBackground";
 
 constexpr QSize DefaultSize(1440, 900);
-constexpr int SidePanelWidth = 390;
+constexpr int SidePanelWidth = 400;
 constexpr int BottomPanelHeight = 170;
 }
 
