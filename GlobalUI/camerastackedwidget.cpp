@@ -144,14 +144,13 @@ void CameraStackedWidget::resizeEvent(QResizeEvent *event)
     }
 }
 
-FocusInfo *CameraStackedWidget::CreateOverlay(int type)
+QGraphicsScene *CameraStackedWidget::GetScene() const
 {
-    auto *overlay = new FocusInfo(GetMainDrawView()->scene(), FOCU_INFO_TYPE(type));
-    overlay->setParent(this);
-    return overlay;
+    const DrawViewBase *view = GetMainDrawView();
+    return view ? view->scene() : nullptr;
 }
 
-void CameraStackedWidget::ForgetOverlay(FocusInfo *&overlay)
+void CameraStackedWidget::ForgetOverlay(QPointer<FocusInfo> &overlay)
 {
     if (!overlay)
         return;
@@ -161,10 +160,10 @@ void CameraStackedWidget::ForgetOverlay(FocusInfo *&overlay)
 
 void CameraStackedWidget::SlotSpectralineAutoDetectFinish()
 {
-    if (!GetMainDrawView())
-        return; // went with the compare frame
+    if (!GetScene())
+        return; // it went with the compare frame
     if (!m_focusOverlay) {
-        m_focusOverlay = CreateOverlay(FocusAssistanceInfo);
+        m_focusOverlay = new FocusInfo(GetScene(), FocusAssistanceInfo);
         ConnectCrossLine();
     }
     if (SpectrumUIManager::GetInstance()->GetFocusAssitanceFlag()) {
@@ -210,11 +209,11 @@ void CameraStackedWidget::SlotSpectralineFVB()
 {
     SpectrumUIManager *spectrumUI = SpectrumUIManager::GetInstance();
     const QList<QPointF> endPoints = SpectrumManager::GetInstance()->GetEndPointList();
-    if (endPoints.isEmpty() || !spectrumUI->GetFVBOnFlag() || spectrumUI->IsFVBModeAll())
+    if (endPoints.isEmpty() || !spectrumUI->GetFVBOnFlag() || spectrumUI->IsFVBModeAll() || !GetScene())
         return;
 
     if (!m_fvbOverlay) {
-        m_fvbOverlay = CreateOverlay(FVBAndMultiTrackInfo);
+        m_fvbOverlay = new FocusInfo(GetScene(), FVBAndMultiTrackInfo);
         if (spectrumUI->GetManualFlag()) {
             m_fvbOverlay->AddFVBInfo(
                 { QPointF(0, spectrumUI->GetTop()), QPointF(0, spectrumUI->GetBottom()) }, true);
@@ -257,8 +256,10 @@ void CameraStackedWidget::SlotMultiTrackFlagChanged()
         ForgetOverlay(m_multiTrackOverlay);
         return;
     }
+    if (!GetScene())
+        return; // it went with the compare frame
     if (!m_multiTrackOverlay)
-        m_multiTrackOverlay = CreateOverlay(FVBAndMultiTrackInfo);
+        m_multiTrackOverlay = new FocusInfo(GetScene(), FVBAndMultiTrackInfo);
     m_multiTrackOverlay->AddMultiTrackInfo(SpectrumUIManager::GetInstance()->GetMultiTrackList());
 }
 

@@ -7,6 +7,7 @@
 
 class AcquireProgressUI;
 class FocusInfo;
+class QGraphicsScene;
 
 /// The live camera page: the preview with cover, region of interest, focus assistance, FVB band and
 /// multi-track marks, and the progress of a recording over it.
@@ -40,15 +41,16 @@ private:
     void ConnectCropFrame();
     void ShowCameraCapabilities();
 
-    FocusInfo *CreateOverlay(int type);
+    QGraphicsScene *GetScene() const;
     /// Takes the marks out of the picture; the next request makes a new overlay.
-    void ForgetOverlay(FocusInfo *&overlay);
+    void ForgetOverlay(QPointer<FocusInfo> &overlay);
     void ConnectCrossLine();
     void ConnectFVBLine();
     void ShowFocusLines();
 
     AcquireProgressUI *m_progressPanel = nullptr;
-    FocusInfo *m_focusOverlay = nullptr;
-    FocusInfo *m_fvbOverlay = nullptr;
-    FocusInfo *m_multiTrackOverlay = nullptr;
+    // The scene owns them.
+    QPointer<FocusInfo> m_focusOverlay;
+    QPointer<FocusInfo> m_fvbOverlay;
+    QPointer<FocusInfo> m_multiTrackOverlay;
 };

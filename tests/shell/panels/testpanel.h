@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "uiplugin.h"
+
+#include <QObject>
+#include <QPointer>
+
+/// A panel whose widget is named "panel<id>". Each update adds the id to the application's property
+/// "panelUpdates".
+class TestPanel : public QObject, public UIPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID GLOBALUI_UIPLUGIN_IID FILE "testpanel.json")
+    Q_INTERFACES(UIPlugin)
+
+public:
+    QWidget *GetWidget() override;
+    void UpdateUI() override;
+
+private:
+    QPointer<QWidget> m_widget;
+};
