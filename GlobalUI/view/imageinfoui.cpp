@@ -16,8 +16,18 @@
 
 namespace {
 constexpr int FileNamePanelWidth = 500;
-constexpr int LivePanelWidth = 640;
+constexpr int LivePanelWidth = 680;
 constexpr int LineDesignHeight = 22;
+constexpr int PairDesignGap = 10;
+
+/// A caption keeps its distance from the pair before it, and takes the gap along when it is hidden.
+QLabel *NewCaption(const char *name, const QString &text, QWidget *parent)
+{
+    auto *caption = new QLabel(text, parent);
+    caption->setObjectName(name);
+    caption->setContentsMargins(GlobalClass::GetActualSize(PairDesignGap), 0, 0, 0);
+    return caption;
+}
 } // namespace
 
 void ImageInfoUI::LabelPair::SetVisible(bool visible)
@@ -55,12 +65,13 @@ void ImageInfoUI::BuildForm(bool showFileName)
 
     auto *lines = new QGridLayout(m_frame);
     lines->setObjectName("gridLayout_2");
-    const int margin = GlobalClass::GetActualSize(8);
-    lines->setContentsMargins(margin, 0, margin, 0);
-    lines->setVerticalSpacing(0);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(0);
     // A file's name takes a line of its own, together with the zoom; the live view needs one line.
     auto *pictureLine = new QHBoxLayout;
     auto *pixelLine = new QHBoxLayout;
+    for (QHBoxLayout *line : {pictureLine, pixelLine})
+        line->setSpacing(GlobalClass::GetActualSize(3));
     lines->addLayout(pixelLine, showFileName ? 1 : 0, 0);
     lines->addLayout(pictureLine, 0, showFileName ? 0 : 1);
 
@@ -71,7 +82,7 @@ void ImageInfoUI::BuildForm(bool showFileName)
     m_rgb = AddPair(pixelLine, "labelRGB", tr("RGB :"), "labelRGBValue");
     AddZoomBox(pictureLine);
     m_rotate = AddPair(pictureLine, "labelRotate", tr("Rotate :"), "labelRotateValue");
-    m_depthScale = AddPair(pixelLine, "labelDepthScale", tr("32bit Depth Scale :"), "labelDepthScaleValue");
+    m_depthScale = AddPair(pictureLine, "labelDepthScale", tr("32bit Depth Scale :"), "labelDepthScaleValue");
     pixelLine->addStretch();
     pictureLine->addStretch();
 
@@ -84,8 +95,7 @@ void ImageInfoUI::BuildForm(bool showFileName)
 ImageInfoUI::LabelPair ImageInfoUI::AddPair(QHBoxLayout *row, const char *captionName, const QString &caption,
                                             const char *valueName)
 {
-    LabelPair pair{new QLabel(caption, m_frame), new QLabel(m_frame)};
-    pair.caption->setObjectName(captionName);
+    LabelPair pair{NewCaption(captionName, caption, m_frame), new QLabel(m_frame)};
     pair.value->setObjectName(valueName);
     row->addWidget(pair.caption);
     row->addWidget(pair.value);
@@ -94,11 +104,9 @@ ImageInfoUI::LabelPair ImageInfoUI::AddPair(QHBoxLayout *row, const char *captio
 
 void ImageInfoUI::AddZoomBox(QHBoxLayout *row)
 {
-    auto *caption = new QLabel(tr("Zoom :"), m_frame);
-    caption->setObjectName("label_2");
     m_zoom = new QLineEdit(m_frame);
     m_zoom->setObjectName("lineEditZoom");
-    row->addWidget(caption);
+    row->addWidget(NewCaption("label_2", tr("Zoom :"), m_frame));
     row->addWidget(m_zoom);
 }
 
