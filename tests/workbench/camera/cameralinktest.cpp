@@ -1,0 +1,176 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cameralink.h"
+#include "camerasession.h"
+#include "devicelist.h"
+#include "framecollector.h"
+#include "guardedtest.h"
+#include "testchartscene.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+
+#include <atomic>
+
+/// A camera that is lost comes back in bounded steps, and nobody waits for it.
+class CameraLinkTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup() override
+    {
+        QVERIFY(CameraSession::WaitForTeardown(5000));
+        EndGuard();
+    }
+
+    void opensInTheBackground()
+    {
+        CameraLink link;
+        QSignalSpy states(&link, SIGNAL(signalStateChanged()));
+        link.Open(SimulatedCameraInfo().id);
+        QCOMPARE(link.GetState(), CameraLink::State::Opening);
+        QVERIFY(!link.Session());
+        QTRY_COMPARE(link.GetState(), CameraLink::State::Open);
+        QVERIFY(link.Session());
+        QCOMPARE(link.Session()->thread(), QThread::currentThread());
+        QCOMPARE(states.count(), 2);
+    }
+
+    void cameraThatCanNotBeOpenedIsSaidInWords()
+    {
+        CameraLink link([](const QString &, const QString &, QString *error) {
+            *error = "It is not there.";
+            return std::shared_ptr<CameraSession>();
+        });
+        QSignalSpy messages(&link, SIGNAL(signalMessage(QString)));
+        link.Open("Nobody");
+        QTRY_COMPARE(link.GetState(), CameraLink::State::NoCamera);
+        QCOMPARE(messages.count(), 1);
+        QCOMPARE(messages.at(0).at(0).toString(), QString("It is not there."));
+    }
+
+    void cameraThatWasClosedMeanwhileStaysClosed()
+    {
+        CameraLink link;
+        link.Open(SimulatedCameraInfo().id);
+        link.Close();
+        QSignalSpy states(&link, SIGNAL(signalStateChanged()));
+        QVERIFY(!states.wait(300));
+        QCOMPARE(link.GetState(), CameraLink::State::NoCamera);
+    }
+
+    void noFramesWithoutACamera()
+    {
+        CameraLink link;
+        FrameCollector sink;
+        QVERIFY(!link.StartFrames(&sink));
+        QCOMPARE(link.Counts().captured, quint64(0));
+    }
+
+    void lostCameraComesBackWithItsSettingsAndItsFrames()
+    {
+        CameraLink link;
+        link.SetScene(TestChartScene::SceneName());
+        OpenSimulated(link);
+        link.SetPixelLayout(PixelLayout::Mono12);
+        link.SetRegion(QRect(64, 32, 256, 128));
+        link.Session()->Controls().SetExposureUs(5000);
+        FrameCollector sink;
+        QVERIFY(link.StartFrames(&sink));
+        QTRY_VERIFY(link.Counts().captured >= 2);
+        const quint64 capturedBefore = link.Counts().captured;
+
+        QSignalSpy messages(&link, SIGNAL(signalMessage(QString)));
+        emit link.Session()->signalControlLost();
+
+        QCOMPARE(link.GetState(), CameraLink::State::Lost);
+        QVERIFY(!link.Session());
+        QCOMPARE(link.Name(), QString("Simulated Camera"));
+        QCOMPARE(link.TriesMade(), 1);
+        QCOMPARE(link.SecondsToNextTry(), 1);
+        QTRY_COMPARE(link.GetState(), CameraLink::State::Open);
+        QCOMPARE(messages.count(), 1);
+        QCOMPARE(messages.at(0).at(0).toString(), QString("Camera \"Simulated Camera\" is back."));
+        QCOMPARE(link.Session()->Format().Layout(), PixelLayout::Mono12);
+        QCOMPARE(link.Session()->Format().Region(), QRect(64, 32, 256, 128));
+        QCOMPARE(link.Session()->Controls().ExposureUs(), 5000.0);
+        QCOMPARE(link.Session()->SceneName(), TestChartScene::SceneName());
+        QTRY_VERIFY(link.Counts().captured > capturedBefore + 1);
+        link.StopFrames();
+    }
+
+    void previewThatWasStoppedMeanwhileStaysStopped()
+    {
+        CameraLink link;
+        OpenSimulated(link);
+        FrameCollector sink;
+        QVERIFY(link.StartFrames(&sink));
+        emit link.Session()->signalControlLost();
+        link.StopFrames();
+        QTRY_COMPARE(link.GetState(), CameraLink::State::Open);
+        QVERIFY(!link.Session()->IsStreaming());
+    }
+
+    void userNeedNotWaitForTheNextTry()
+    {
+        CameraLink link;
+        OpenSimulated(link);
+        emit link.Session()->signalControlLost();
+        QElapsedTimer timer;
+        timer.start();
+        link.Reconnect();
+        QTRY_COMPARE(link.GetState(), CameraLink::State::Open);
+        QVERIFY2(timer.elapsed() < 900, qPrintable(QString::number(timer.elapsed())));
+    }
+
+    void cameraThatStaysAwayIsNeverWaitedFor()
+    {
+        std::atomic<bool> isThere{true};
+        std::atomic<int> tries{0};
+        CameraLink link([&](const QString &id, const QString &scene, QString *error) {
+            ++tries;
+            if (isThere)
+                return CameraLink::OpenSession(id, scene, error);
+            QThread::msleep(300); // a camera that is gone is slow to say so
+            return std::shared_ptr<CameraSession>();
+        });
+        OpenSimulated(link);
+        isThere = false;
+        tries = 0;
+
+        QElapsedTimer timer;
+        timer.start();
+        emit link.Session()->signalControlLost();
+        link.Reconnect();
+        QVERIFY2(timer.elapsed() < 200, qPrintable(QString::number(timer.elapsed())));
+        QTRY_VERIFY(link.SecondsToNextTry() == 1); // the steps begin anew after the user's own try
+        QTRY_COMPARE_WITH_TIMEOUT(int(tries), 2, 3000);
+        QTRY_VERIFY(link.SecondsToNextTry() == 2);
+        QVERIFY(!link.HasGivenUp());
+        link.Close();
+        QCOMPARE(link.GetState(), CameraLink::State::NoCamera);
+    }
+
+    void countsBeginAnewWithTheNextPreview()
+    {
+        CameraLink link;
+        OpenSimulated(link);
+        FrameCollector sink;
+        link.StartFrames(&sink);
+        QTRY_VERIFY(link.Counts().captured >= 3);
+        link.StopFrames();
+        link.StartFrames(&sink);
+        QVERIFY(link.Counts().captured < 3);
+        link.StopFrames();
+    }
+
+private:
+    static void OpenSimulated(CameraLink &link)
+    {
+        link.Open(SimulatedCameraInfo().id);
+        QTRY_COMPARE(link.GetState(), CameraLink::State::Open);
+    }
+};
+
+GUARDED_TEST_MAIN(CameraLinkTest)
+#include "cameralinktest.moc"

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commandline.h"
+#include "guardedtest.h"
+
+/// What each command line asks for, and what is said of one that makes no sense.
+class CommandLineTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void nothingAskedForRunsTheDefault()
+    {
+        const CommandLine line = CommandLine::Parse({"workbench"});
+        QCOMPARE(line.action, CommandLine::Action::Run);
+        QCOMPARE(line.cameraId, QString());
+        QCOMPARE(line.scene, QString("specimen"));
+        QCOMPARE(line.frames, 0);
+        QCOMPARE(line.screenshot, QString());
+    }
+
+    void everythingAskedFor()
+    {
+        const CommandLine line = CommandLine::Parse(
+            {"workbench", "--camera", "Fake_1", "--scene", "testchart", "--frames", "120", "--screenshot", "a b.png"});
+        QCOMPARE(line.action, CommandLine::Action::Run);
+        QCOMPARE(line.cameraId, QString("Fake_1"));
+        QCOMPARE(line.scene, QString("testchart"));
+        QCOMPARE(line.frames, 120);
+        QCOMPARE(line.screenshot, QString("a b.png"));
+    }
+
+    void pictureAloneNeedsOneFrame()
+    {
+        QCOMPARE(CommandLine::Parse({"workbench", "--screenshot", "x.png"}).frames, 1);
+    }
+
+    void mistakesAreSaidInOneLine_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("scene") << QStringList{"--scene", "moon"}
+                               << "workbench: no scene is called \"moon\". Choose one of: specimen, spectrograph, testchart";
+        QTest::newRow("frames: word") << QStringList{"--frames", "many"}
+                                      << "workbench: --frames needs a whole number of 1 or more, not \"many\".";
+        QTest::newRow("frames: zero") << QStringList{"--frames", "0"}
+                                      << "workbench: --frames needs a whole number of 1 or more, not \"0\".";
+        QTest::newRow("frames: negative") << QStringList{"--frames=-3"}
+                                          << "workbench: --frames needs a whole number of 1 or more, not \"-3\".";
+        QTest::newRow("frames: too many") << QStringList{"--frames", "99999999999"}
+                                          << "workbench: --frames needs a whole number of 1 or more, not \"99999999999\".";
+        QTest::newRow("frames: nothing") << QStringList{"--frames"}
+                                         << "workbench: Missing value after '--frames'. Try --help.";
+        QTest::newRow("camera: empty") << QStringList{"--camera", ""} << "workbench: --camera needs the id of a camera.";
+        QTest::newRow("screenshot: empty") << QStringList{"--screenshot", ""}
+                                           << "workbench: --screenshot needs the name of a file.";
+        QTest::newRow("unknown option") << QStringList{"--fast"} << "workbench: Unknown option 'fast'. Try --help.";
+        QTest::newRow("a file") << QStringList{"picture.tif"}
+                                << "workbench: \"picture.tif\" is not an option. Try --help.";
+    }
+
+    void mistakesAreSaidInOneLine()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QString, text);
+        const CommandLine line = CommandLine::Parse(QStringList("workbench") + options);
+        QCOMPARE(line.action, CommandLine::Action::Fail);
+        QCOMPARE(line.text, text);
+    }
+
+    void helpNamesEveryOptionAndScene()
+    {
+        const CommandLine line = CommandLine::Parse({"workbench", "--help"});
+        QCOMPARE(line.action, CommandLine::Action::Print);
+        for (const char *word : {"--camera ID", "--scene NAME", "--frames N", "--screenshot FILE", "--version", "--help",
+                                 "specimen", "spectrograph", "testchart"})
+            QVERIFY2(line.text.contains(word), word);
+    }
+
+    void versionIsTheProjects()
+    {
+        QCOMPARE(CommandLine::Parse({"workbench", "--version"}).text, QString("workbench " WORKBENCH_VERSION "\n"));
+    }
+};
+
+GUARDED_TEST_MAIN(CommandLineTest)
+#include "commandlinetest.moc"

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "guardedtest.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTemporaryDir>
+
+/// The program as it is started from a shell.
+class ProgramTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void unknownCameraIsRefusedWithTheChoices()
+    {
+        const Outcome outcome = Run({"--camera", "Nobody_7"});
+        QCOMPARE(outcome.exitCode, 2);
+        QCOMPARE(outcome.output, QString());
+        QCOMPARE(outcome.errors.count('\n'), 1);
+        QVERIFY2(outcome.errors.startsWith("workbench: no camera is called \"Nobody_7\". Choose one of: "),
+                 qPrintable(outcome.errors));
+        QVERIFY(outcome.errors.contains("Fake_1"));
+    }
+
+    void unknownSceneIsRefusedWithTheChoices()
+    {
+        const Outcome outcome = Run({"--scene", "moon"});
+        QCOMPARE(outcome.exitCode, 2);
+        QCOMPARE(outcome.output, QString());
+        QCOMPARE(outcome.errors,
+                 QString("workbench: no scene is called \"moon\". Choose one of: specimen, spectrograph, testchart\n"));
+    }
+
+    void helpAndVersionNeedNoDisplay()
+    {
+        for (const char *option : {"--help", "--version"}) {
+            const Outcome outcome = Run({option}, {"DISPLAY=", "WAYLAND_DISPLAY="});
+            QCOMPARE(outcome.exitCode, 0);
+            QVERIFY(outcome.output.contains("workbench"));
+            QCOMPARE(outcome.errors, QString());
+        }
+    }
+
+    void framesAreShownMeasuredAndPictured()
+    {
+        const QString pictureName = m_folder.filePath("window.png");
+        const Outcome outcome = Run({"--scene", "testchart", "--frames", "20", "--screenshot", pictureName});
+        QCOMPARE(outcome.exitCode, 0);
+
+        static const QRegularExpression line("^captured (\\d+), shown (\\d+), lost (\\d+), (\\d+\\.\\d) frames/s, "
+                                             "first frame after (\\d+) ms, peak memory (\\d+) MB\n$");
+        const QRegularExpressionMatch facts = line.match(outcome.output);
+        QVERIFY2(facts.hasMatch(), qPrintable(outcome.output));
+        const int shown = facts.captured(2).toInt();
+        QVERIFY(shown >= 20);
+        QVERIFY(facts.captured(1).toInt() >= shown);
+        QCOMPARE(facts.captured(3).toInt(), 0);
+        QVERIFY(facts.captured(4).toDouble() > 0);
+        QVERIFY(facts.captured(5).toInt() > 0);
+        QVERIFY(facts.captured(6).toInt() > 0);
+
+        const QImage picture(pictureName);
+        QVERIFY(picture.width() >= 800);
+        QVERIFY(Greys(picture) >= 60); // the chart has 64 patches of different grey
+    }
+
+    void pictureThatCanNotBeSavedIsAFailure()
+    {
+        const Outcome outcome = Run({"--screenshot", m_folder.filePath("no/such/folder/x.png")});
+        QCOMPARE(outcome.exitCode, 1);
+        QVERIFY(outcome.errors.contains("could not be saved as"));
+    }
+
+    void faultySettingsDoNotStopTheStart()
+    {
+        QDir(m_folder.path()).mkpath("globalui-workbench");
+        const QString path = m_folder.filePath("globalui-workbench/workbench.ini");
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[settings]\nversion=999\n");
+        file.close();
+        const Outcome outcome = Run({"--frames", "1"});
+        QCOMPARE(outcome.exitCode, 0);
+        QVERIFY2(outcome.errors.contains(path + ".bak-1"), qPrintable(outcome.errors));
+        QVERIFY(QFile::exists(path + ".bak-1"));
+    }
+
+private:
+    struct Outcome
+    {
+        int exitCode = -1;
+        QString output;
+        QString errors;
+    };
+
+    Outcome Run(const QStringList &arguments, const QStringList &environment = {}) const
+    {
+        QProcess program;
+        QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
+        variables.insert("XDG_CONFIG_HOME", m_folder.path());
+        variables.insert("XDG_RUNTIME_DIR", m_folder.path());
+        for (const QString &variable : environment)
+            variables.insert(variable.section('=', 0, 0), variable.section('=', 1));
+        program.setProcessEnvironment(variables);
+        program.start(WORKBENCH_PROGRAM, arguments);
+        if (!program.waitForFinished(60000)) {
+            program.kill();
+            program.waitForFinished();
+        }
+        Outcome outcome;
+        outcome.exitCode = program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+        outcome.output = QString::fromLocal8Bit(program.readAllStandardOutput());
+        outcome.errors = QString::fromLocal8Bit(program.readAllStandardError());
+        return outcome;
+    }
+
+    /// How many shades of pure grey are in the picture.
+    static int Greys(const QImage &picture)
+    {
+        QSet<int> greys;
+        for (int y = 0; y < picture.height(); y += 5) {
+            for (int x = 0; x < picture.width(); x += 5) {
+                const QRgb pixel = picture.pixel(x, y);
+                if (qRed(pixel) == qGreen(pixel) && qGreen(pixel) == qBlue(pixel))
+                    greys.insert(qRed(pixel));
+            }
+        }
+        return greys.size();
+    }
+
+    const QTemporaryDir m_folder;
+};
+
+GUARDED_TEST_MAIN(ProgramTest)
+#include "programtest.moc"
