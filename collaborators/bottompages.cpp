@@ -66,8 +66,9 @@ void BottomPages::Add(const BottomPage &page)
 
 void BottomPages::Show(int leftPage)
 {
-    m_pages.erase(std::remove_if(m_pages.begin(), m_pages.end(), [](const BottomPage &page) { return !page.widget; }),
-                  m_pages.end());
+    m_pages.erase(
+        std::remove_if(m_pages.begin(), m_pages.end(), [](const BottomPage &page) { return !page.widget; }),
+        m_pages.end());
     const int previousIndex = m_tabs->currentIndex();
     QWidget *previous = m_tabs->currentWidget();
     {

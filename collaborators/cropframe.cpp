@@ -174,9 +174,10 @@ void CropFrame::wheelEvent(QWheelEvent *event)
     }
     // A scroll area takes wheel events from its viewport only, so the event goes there.
     QWidget *viewport = m_view->viewport();
-    QWheelEvent forViewport(viewport->mapFromGlobal(event->globalPosition().toPoint()), event->globalPosition(),
-                            event->pixelDelta(), event->angleDelta(), event->buttons(), event->modifiers(),
-                            event->phase(), event->inverted(), event->source());
+    QWheelEvent forViewport(viewport->mapFromGlobal(event->globalPosition().toPoint()),
+                            event->globalPosition(), event->pixelDelta(), event->angleDelta(),
+                            event->buttons(), event->modifiers(), event->phase(), event->inverted(),
+                            event->source());
     QCoreApplication::sendEvent(viewport, &forViewport);
     event->setAccepted(forViewport.isAccepted());
     update();

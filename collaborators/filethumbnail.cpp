@@ -37,7 +37,8 @@ FileThumbnail::FileThumbnail(QWidget *parent)
     m_files->setUniformItemSizes(true);
     m_files->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_files->setIconSize(QSize(GlobalClass::GetActualSize(IconSize), GlobalClass::GetActualSize(IconSize)));
-    m_files->setGridSize(QSize(GlobalClass::GetActualSize(GridWidth), GlobalClass::GetActualSize(GridHeight)));
+    m_files->setGridSize(
+        QSize(GlobalClass::GetActualSize(GridWidth), GlobalClass::GetActualSize(GridHeight)));
     m_mergeButton->setObjectName("pushButtonMerge");
     m_mergeButton->setEnabled(false);
     m_mergeButton->hide();
@@ -48,7 +49,8 @@ FileThumbnail::FileThumbnail(QWidget *parent)
     column->addWidget(m_files);
     column->addLayout(row);
 
-    connect(m_files, SIGNAL(itemDoubleClicked(QListWidgetItem*)), this, SLOT(slotFileActivated(QListWidgetItem*)));
+    connect(m_files, SIGNAL(itemDoubleClicked(QListWidgetItem*)),
+            this, SLOT(slotFileActivated(QListWidgetItem*)));
     connect(m_files, SIGNAL(itemSelectionChanged()), this, SLOT(slotSelectionChanged()));
     connect(m_mergeButton, SIGNAL(clicked()), this, SLOT(slotMergeClicked()));
     connect(m_watcher, SIGNAL(directoryChanged(QString)), this, SLOT(slotUpdateFiles()));
@@ -69,7 +71,8 @@ void FileThumbnail::StopFolderChecked()
 
 void FileThumbnail::ConnectWithThumbnailList(QWidget *thumbnailList)
 {
-    connect(this, SIGNAL(signalOpenImage(QString,QObject*)), thumbnailList, SIGNAL(signalOpenImage(QString,QObject*)));
+    connect(this, SIGNAL(signalOpenImage(QString,QObject*)),
+            thumbnailList, SIGNAL(signalOpenImage(QString,QObject*)));
 }
 
 void FileThumbnail::slotSetMergeButtonVisible(bool visible)
@@ -109,7 +112,8 @@ void FileThumbnail::slotUpdateFiles()
         const QFileIconProvider icons;
         m_files->clear();
         const QDir::SortFlags order = QDir::Name | QDir::IgnoreCase;
-        for (const QFileInfo &file : QDir(m_folder).entryInfoList(PictureNames, QDir::Files | QDir::Readable, order)) {
+        for (const QFileInfo &file :
+             QDir(m_folder).entryInfoList(PictureNames, QDir::Files | QDir::Readable, order)) {
             auto *item = new QListWidgetItem(icons.icon(file), file.fileName(), m_files);
             item->setData(Qt::UserRole, file.absoluteFilePath());
             item->setToolTip(file.fileName());

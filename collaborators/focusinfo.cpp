@@ -114,7 +114,8 @@ void FocusInfo::AddFocusInfo(QList<QRect> rectangles, QList<QPoint> points, QLis
             AddRectangle(marks, rectangles.at(i), MarkPen(Qt::yellow, style));
         if (m_showMode != ShowRectangles)
             AddSpectralLine(marks, rectangles.at(i), angles.at(i), MarkPen(Qt::red, style));
-        const QString text = QString("%1  %2%3").arg(distances.at(i), 0, 'f', 2).arg(angles.at(i), 0, 'f', 2).arg(QChar(0xB0));
+        const QString text =
+            QString("%1  %2%3").arg(distances.at(i), 0, 'f', 2).arg(angles.at(i), 0, 'f', 2).arg(QChar(0xB0));
         AddText(marks, points.at(i), text, Qt::yellow);
     }
 }

@@ -52,7 +52,8 @@ QPainterPath FVBLine::shape() const
 
 void FVBLine::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
-    painter->fillRect(QRectF(m_picture.left(), m_top, m_picture.width(), m_bottom - m_top), QColor(0, 160, 255, 40));
+    painter->fillRect(QRectF(m_picture.left(), m_top, m_picture.width(), m_bottom - m_top),
+                      QColor(0, 160, 255, 40));
     QPen pen(m_manual ? Qt::yellow : Qt::cyan);
     pen.setCosmetic(true);
     painter->setPen(pen);

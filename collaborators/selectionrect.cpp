@@ -6,9 +6,15 @@ namespace {
 using Grip = SelectionRect::Grip;
 
 bool MovesLeft(Grip grip) { return grip == Grip::TopLeft || grip == Grip::Left || grip == Grip::BottomLeft; }
-bool MovesRight(Grip grip) { return grip == Grip::TopRight || grip == Grip::Right || grip == Grip::BottomRight; }
+bool MovesRight(Grip grip)
+{
+    return grip == Grip::TopRight || grip == Grip::Right || grip == Grip::BottomRight;
+}
 bool MovesTop(Grip grip) { return grip == Grip::TopLeft || grip == Grip::Top || grip == Grip::TopRight; }
-bool MovesBottom(Grip grip) { return grip == Grip::BottomLeft || grip == Grip::Bottom || grip == Grip::BottomRight; }
+bool MovesBottom(Grip grip)
+{
+    return grip == Grip::BottomLeft || grip == Grip::Bottom || grip == Grip::BottomRight;
+}
 
 /// The rectangle between two corners, whichever way round they are.
 QRect Between(const QPoint &a, const QPoint &b)

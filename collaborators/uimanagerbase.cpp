@@ -38,14 +38,16 @@ ManagerRegistry &Registry()
 void AddReport(const UIPluginReport &report)
 {
     QList<UIPluginReport> &reports = Registry().reports;
-    const auto known = std::find_if(reports.begin(), reports.end(),
-                                    [&](const UIPluginReport &old) { return old.filePath == report.filePath; });
+    const auto known = std::find_if(reports.begin(), reports.end(), [&](const UIPluginReport &old) {
+        return old.filePath == report.filePath;
+    });
     if (known != reports.end())
         *known = report;
     else
         reports.append(report);
     if (!report.loaded)
-        qWarning("GlobalUI: plug-in %s is not loaded: %s", qPrintable(report.filePath), qPrintable(report.reason));
+        qWarning("GlobalUI: plug-in %s is not loaded: %s", qPrintable(report.filePath),
+                 qPrintable(report.reason));
 }
 
 } // namespace
@@ -108,7 +110,8 @@ QWidget *UIManagerBase::Private::PanelOf(int id) const
 
 const UIManagerBase::Private::Source *UIManagerBase::Private::SourceOf(int id) const
 {
-    const auto found = std::find_if(sources.begin(), sources.end(), [=](const Source &source) { return source.id == id; });
+    const auto found =
+        std::find_if(sources.begin(), sources.end(), [=](const Source &source) { return source.id == id; });
     return found != sources.end() ? &*found : nullptr;
 }
 
@@ -146,7 +149,8 @@ void UIManagerBase::LoadUIPluginAndInitUI(const QString &directory, QWidget *par
         loaded.plugin->UpdateUI();
 }
 
-QWidget *UIManagerBase::GetScrollArea(int firstId, int lastId, const QStringList &tabNames, const QString &group)
+QWidget *UIManagerBase::GetScrollArea(int firstId, int lastId, const QStringList &tabNames,
+                                      const QString &group)
 {
     auto *tabs = new QTabWidget; // the caller owns it
     tabs->setObjectName(group + "TabWidget");
@@ -181,7 +185,8 @@ void UIManagerBase::SetBottomControlUIPanel(QTabWidget *bottomTabs)
 {
     m_private->bottomTabs = bottomTabs;
     QList<LoadedPlugin> ordered = m_private->plugins;
-    std::stable_sort(ordered.begin(), ordered.end(), [](const auto &a, const auto &b) { return a.id < b.id; });
+    std::stable_sort(ordered.begin(), ordered.end(),
+                     [](const auto &a, const auto &b) { return a.id < b.id; });
     BottomPages *pages = BottomPages::Of(bottomTabs);
     for (const LoadedPlugin &loaded : qAsConst(ordered)) {
         const UIPluginEntry &entry = m_private->SourceOf(loaded.id)->entry;

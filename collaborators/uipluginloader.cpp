@@ -26,7 +26,8 @@ QString FaultOf(const QJsonObject &information, const QSet<int> &takenIds)
     if (information.isEmpty())
         return UIPluginLoader::tr("it is not a plug-in");
     if (information.value("IID").toString() != GLOBALUI_UIPLUGIN_IID)
-        return UIPluginLoader::tr("it is a plug-in for another interface: \"%1\"").arg(information.value("IID").toString());
+        return UIPluginLoader::tr("it is a plug-in for another interface: \"%1\"")
+            .arg(information.value("IID").toString());
     const int id = IdOf(metaData);
     if (id < 0)
         return UIPluginLoader::tr("its metadata has no valid \"id\"");

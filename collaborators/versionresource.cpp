@@ -87,7 +87,8 @@ QByteArray ReadResourceSection(const QString &path)
     for (int i = 0; i < sections; ++i) {
         const QByteArray header = ReadAt(file, sectionTable + i * SectionHeaderSize, SectionHeaderSize);
         if (header.startsWith(QByteArray(".rsrc\0", 6)))
-            return ReadAt(file, DoubleWord(header, 20), qMin<qint64>(DoubleWord(header, 16), MaximumSectionSize));
+            return ReadAt(file, DoubleWord(header, 20),
+                          qMin<qint64>(DoubleWord(header, 16), MaximumSectionSize));
     }
     return QByteArray();
 }

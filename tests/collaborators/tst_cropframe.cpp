@@ -100,7 +100,8 @@ void TestCropFrame::cleanup()
 void TestCropFrame::Drag(const QPoint &from, const QPoint &to)
 {
     QTest::mousePress(m_frame, Qt::LeftButton, Qt::NoModifier, from);
-    QMouseEvent move(QEvent::MouseMove, to, m_frame->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, to, m_frame->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
     QApplication::sendEvent(m_frame, &move);
     QTest::mouseRelease(m_frame, Qt::LeftButton, Qt::NoModifier, to);
 }
@@ -283,8 +284,8 @@ void TestCropFrame::TheRightButtonDrawsNothing()
 {
     m_frame->slotSetROIFrameVisible(true, true);
     QTest::mousePress(m_frame, Qt::RightButton, Qt::NoModifier, QPoint(40, 20));
-    QMouseEvent move(QEvent::MouseMove, QPoint(240, 120), m_frame->mapToGlobal(QPoint(240, 120)), Qt::NoButton,
-                     Qt::RightButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, QPoint(240, 120), m_frame->mapToGlobal(QPoint(240, 120)),
+                     Qt::NoButton, Qt::RightButton, Qt::NoModifier);
     QApplication::sendEvent(m_frame, &move);
     QTest::mouseRelease(m_frame, Qt::RightButton, Qt::NoModifier, QPoint(240, 120));
     QCOMPARE(m_regions->count(), 0);

@@ -28,7 +28,8 @@ QVector<QRectF> Rectangles(const QGraphicsScene &scene)
     QVector<QRectF> rectangles;
     for (const QGraphicsRectItem *item : ItemsOf<QGraphicsRectItem>(scene))
         rectangles << item->rect();
-    std::sort(rectangles.begin(), rectangles.end(), [](const QRectF &a, const QRectF &b) { return a.x() < b.x(); });
+    std::sort(rectangles.begin(), rectangles.end(),
+              [](const QRectF &a, const QRectF &b) { return a.x() < b.x(); });
     return rectangles;
 }
 
@@ -107,7 +108,8 @@ void TestFocusInfo::TheObjectsAreConnectedByTheirSpelling_data()
 {
     QTest::addColumn<bool>("cross");
     QTest::addColumn<QByteArray>("signature");
-    for (const char *slot : {"SlotImageSizeChanged()", "SlotCrossLineVisiable(bool)", "SlotCrossLineEnable(bool)"})
+    for (const char *slot :
+         { "SlotImageSizeChanged()", "SlotCrossLineVisiable(bool)", "SlotCrossLineEnable(bool)" })
         QTest::newRow(slot) << true << QByteArray(slot);
     for (const char *member : {"SignalTopBottomChanged(int, int)", "SetFVBArea(QPointF, QPointF)",
                                "SlotFVBManualFlagChanged(bool)", "SlotFVBSpeedingFlagChanged(bool)"})
@@ -147,7 +149,8 @@ void TestFocusInfo::DrawsOneMarkPerSpectralLine()
 void TestFocusInfo::ShorterListsLeaveMarksOut()
 {
     FocusInfo info(m_scene.get(), FocusAssistanceInfo);
-    info.AddFocusInfo({QRect(10, 20, 30, 200), QRect(100, 20, 30, 200)}, {QPoint(12, 22)}, {1.5F, 2.0F}, {0.0F, 1.0F});
+    info.AddFocusInfo({ QRect(10, 20, 30, 200), QRect(100, 20, 30, 200) }, { QPoint(12, 22) }, { 1.5F, 2.0F },
+                      { 0.0F, 1.0F });
     QCOMPARE(Rectangles(*m_scene).size(), 1);
     info.AddFocusInfo({}, {QPoint(12, 22)}, {1.5F}, {0.0F});
     QCOMPARE(Rectangles(*m_scene).size(), 0);

@@ -92,7 +92,8 @@ void TestFVBLine::TheBandFollowsTheService()
     info.AddFVBInfo({QPointF(0, 40), QPointF(0, 120)}, true);
     QGraphicsObject *band = Band(info);
     QSignalSpy changes(band, SIGNAL(SignalTopBottomChanged(int, int)));
-    QMetaObject::invokeMethod(band, "SetFVBArea", Q_ARG(QPointF, QPointF(0, 200)), Q_ARG(QPointF, QPointF(0, 100)));
+    QMetaObject::invokeMethod(band, "SetFVBArea", Q_ARG(QPointF, QPointF(0, 200)),
+                              Q_ARG(QPointF, QPointF(0, 100)));
     QVERIFY(band->shape().contains(QPointF(200, 100)));
     QVERIFY(band->shape().contains(QPointF(200, 200)));
     QVERIFY(!band->shape().contains(QPointF(200, 40)));
@@ -164,7 +165,8 @@ void TestFVBLine::ARetiredBandStaysAway()
     info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, true);
     QGraphicsObject *band = Band(info);
     info.Clear();
-    QMetaObject::invokeMethod(band, "SetFVBArea", Q_ARG(QPointF, QPointF(0, 10)), Q_ARG(QPointF, QPointF(0, 20)));
+    QMetaObject::invokeMethod(band, "SetFVBArea", Q_ARG(QPointF, QPointF(0, 10)),
+                              Q_ARG(QPointF, QPointF(0, 20)));
     QVERIFY(!band->isVisible());
     info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, true);
     QVERIFY(band->isVisible());

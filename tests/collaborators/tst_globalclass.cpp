@@ -107,7 +107,8 @@ private slots:
         file.write("no program");
         file.close();
         QCOMPARE(GlobalClass::GetSoftWareVersion(folder.path() + "\\Kelvo.dll", "ProductVersion"), QString());
-        QCOMPARE(GlobalClass::GetSoftWareVersion(folder.path() + "\\nowhere.dll", "ProductVersion"), QString());
+        QCOMPARE(GlobalClass::GetSoftWareVersion(folder.path() + "\\nowhere.dll", "ProductVersion"),
+                 QString());
     }
 };
 

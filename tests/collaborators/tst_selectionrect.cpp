@@ -31,7 +31,8 @@ void TestSelectionRect::ADragDrawsARectangleOfWholePixels_data()
     QTest::addColumn<QPointF>("from");
     QTest::addColumn<QPointF>("to");
     QTest::addColumn<QRect>("rect");
-    QTest::newRow("to the lower right") << QPointF(10.2, 20.4) << QPointF(50.3, 60.0) << QRect(10, 20, 40, 40);
+    QTest::newRow("to the lower right")
+        << QPointF(10.2, 20.4) << QPointF(50.3, 60.0) << QRect(10, 20, 40, 40);
     QTest::newRow("edges are rounded") << QPointF(10.6, 20.5) << QPointF(49.5, 59.4) << QRect(11, 21, 39, 38);
     QTest::newRow("to the upper left") << QPointF(50, 60) << QPointF(10, 20) << QRect(10, 20, 40, 40);
     QTest::newRow("beyond the picture") << QPointF(50, 60) << QPointF(1e12, -1e12) << QRect(50, 0, 50, 60);
@@ -61,15 +62,18 @@ void TestSelectionRect::ADragOfAGripChangesTheRectangle_data()
     QTest::addColumn<QRect>("rect");
     // The rectangle reaches from (20, 20) to (60, 50) in a picture of 100 x 80.
     QTest::newRow("body") << QPointF(40, 35) << QPointF(45.4, 30) << QRect(25, 15, 40, 30);
-    QTest::newRow("body, against the corner") << QPointF(40, 35) << QPointF(400, 350) << QRect(60, 50, 40, 30);
-    QTest::newRow("body, against the origin") << QPointF(40, 35) << QPointF(-400, -350) << QRect(0, 0, 40, 30);
+    QTest::newRow("body, against the corner")
+        << QPointF(40, 35) << QPointF(400, 350) << QRect(60, 50, 40, 30);
+    QTest::newRow("body, against the origin")
+        << QPointF(40, 35) << QPointF(-400, -350) << QRect(0, 0, 40, 30);
     QTest::newRow("left") << QPointF(20, 35) << QPointF(10, 70) << QRect(10, 20, 50, 30);
     QTest::newRow("right") << QPointF(61, 35) << QPointF(70, 0) << QRect(20, 20, 50, 30);
     QTest::newRow("top") << QPointF(40, 19) << QPointF(0, 5) << QRect(20, 5, 40, 45);
     QTest::newRow("bottom") << QPointF(40, 50) << QPointF(0, 99) << QRect(20, 20, 40, 60);
     QTest::newRow("top left") << QPointF(20, 20) << QPointF(5, 6) << QRect(5, 6, 55, 44);
     QTest::newRow("bottom right") << QPointF(60, 50) << QPointF(30, 30) << QRect(20, 20, 10, 10);
-    QTest::newRow("left, across the right edge") << QPointF(20, 35) << QPointF(80, 35) << QRect(60, 20, 20, 30);
+    QTest::newRow("left, across the right edge")
+        << QPointF(20, 35) << QPointF(80, 35) << QRect(60, 20, 20, 30);
     QTest::newRow("corner, turned over") << QPointF(60, 50) << QPointF(10, 10) << QRect(10, 10, 10, 10);
 }
 

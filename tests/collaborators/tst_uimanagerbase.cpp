@@ -149,7 +149,8 @@ void TestUIManagerBase::AnIdBelongsToOneManagerWhileItLives()
     LoadAll(first.get());
     TestPanels second;
     for (const char *file : {"a_tabpanel", "b_histogrampage", "c_calibrationpage"})
-        ExpectWarning(QRegularExpression(QString("%1\\.so is not loaded: another plug-in has the id").arg(file)));
+        ExpectWarning(
+            QRegularExpression(QString("%1\\.so is not loaded: another plug-in has the id").arg(file)));
     LoadAll(&second);
     QCOMPARE(second.Ids(), QList<int>());
 
@@ -172,7 +173,8 @@ void TestUIManagerBase::APanelStandsInATabUnderItsName()
 {
     TestPanels manager;
     LoadAll(&manager);
-    const std::unique_ptr<QWidget> panel(manager.GetScrollArea(4, 6, {"Adjustment", "Process", "Counting"}, "Image"));
+    const std::unique_ptr<QWidget> panel(
+        manager.GetScrollArea(4, 6, { "Adjustment", "Process", "Counting" }, "Image"));
     auto *tabs = qobject_cast<QTabWidget *>(panel.get());
     QVERIFY(tabs);
     QCOMPARE(tabs->objectName(), QString("ImageTabWidget"));

@@ -32,7 +32,8 @@ QByteArray Padded(QByteArray bytes)
 }
 
 /// A record of the version information: length, value length, type, key, value, children.
-QByteArray Record(const QString &key, int valueLength, int type, const QByteArray &value, const QByteArray &children)
+QByteArray Record(const QString &key, int valueLength, int type, const QByteArray &value,
+                  const QByteArray &children)
 {
     QByteArray content;
     AppendWord(&content, valueLength);
@@ -79,7 +80,8 @@ QByteArray ProgramFile(const QByteArray &sectionName, const QByteArray &section)
 QByteArray SampleStrings()
 {
     return StringRecord("CompanyName", "Someone") + StringRecord("FileVersion", "1.0")
-           + StringRecord("ProductVersion", "57.25.10.3") + StringRecord("ProductName", QString::fromUtf8("Kamera größe"));
+           + StringRecord("ProductVersion", "57.25.10.3")
+           + StringRecord("ProductName", QString::fromUtf8("Kamera größe"));
 }
 
 } // namespace
@@ -138,7 +140,8 @@ void TestVersionResource::FindsAStringByItsKey()
 
 void TestVersionResource::FindsTheInformationBehindOtherResources()
 {
-    const QByteArray section = QByteArray(1002, '\x11') + VersionInformation(SampleStrings()) + QByteArray(100, '\x22');
+    const QByteArray section =
+        QByteArray(1002, '\x11') + VersionInformation(SampleStrings()) + QByteArray(100, '\x22');
     QCOMPARE(VersionString(section, "ProductVersion"), QString("57.25.10.3"));
 }
 

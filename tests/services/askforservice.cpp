@@ -16,33 +16,38 @@ struct Service
     void (*installTwice)(); ///< a second one beside the first
 };
 
+template<class ServiceClass, class FakeClass>
+Service Row(const char *name)
+{
+    return {name, [] { ServiceClass::GetInstance(); }, [] { FakeClass first; FakeClass second; }};
+}
+
 const Service services[] = {
-    {"AdvancedProcessManager", [] { AdvancedProcessManager::GetInstance(); }, [] { FakeAdvancedProcessManager first; FakeAdvancedProcessManager second; }},
-    {"AlgSpectrometer", [] { AlgSpectrometer::GetInstance(); }, [] { FakeAlgSpectrometer first; FakeAlgSpectrometer second; }},
-    {"AutoCountManager", [] { AutoCountManager::GetInstance(); }, [] { FakeAutoCountManager first; FakeAutoCountManager second; }},
-    {"CameraConfigManager", [] { CameraConfigManager::GetInstance(); }, [] { FakeCameraConfigManager first; FakeCameraConfigManager second; }},
-    {"CameraNameManager", [] { CameraNameManager::GetInstance(); }, [] { FakeCameraNameManager first; FakeCameraNameManager second; }},
-    {"CoverConfigManager", [] { CoverConfigManager::GetInstance(); }, [] { FakeCoverConfigManager first; FakeCoverConfigManager second; }},
-    {"DisplayModeUIManager", [] { DisplayModeUIManager::GetInstance(); }, [] { FakeDisplayModeUIManager first; FakeDisplayModeUIManager second; }},
-    {"FileSaveManager", [] { FileSaveManager::GetInstance(); }, [] { FakeFileSaveManager first; FakeFileSaveManager second; }},
-    {"FluorescenceSynthesisManager", [] { FluorescenceSynthesisManager::GetInstance(); }, [] { FakeFluorescenceSynthesisManager first; FakeFluorescenceSynthesisManager second; }},
-    {"FrameManager", [] { FrameManager::GetInstance(); }, [] { FakeFrameManager first; FakeFrameManager second; }},
-    {"FrameProcessManager", [] { FrameProcessManager::GetInstance(); }, [] { FakeFrameProcessManager first; FakeFrameProcessManager second; }},
-    {"FrameSaveManager", [] { FrameSaveManager::GetInstance(); }, [] { FakeFrameSaveManager first; FakeFrameSaveManager second; }},
-    {"GlobalManager", [] { GlobalManager::GetInstance(); }, [] { FakeGlobalManager first; FakeGlobalManager second; }},
-    {"HistogramCalculateManager", [] { HistogramCalculateManager::GetInstance(); }, [] { FakeHistogramCalculateManager first; FakeHistogramCalculateManager second; }},
-    {"IntensityManager", [] { IntensityManager::GetInstance(); }, [] { FakeIntensityManager first; FakeIntensityManager second; }},
-    {"MeasureConfigManager", [] { MeasureConfigManager::GetInstance(); }, [] { FakeMeasureConfigManager first; FakeMeasureConfigManager second; }},
-    {"PixelInfoManager", [] { PixelInfoManager::GetInstance(); }, [] { FakePixelInfoManager first; FakePixelInfoManager second; }},
-    {"PreviewManager", [] { PreviewManager::GetInstance(); }, [] { FakePreviewManager first; FakePreviewManager second; }},
-    {"ROIManager", [] { ROIManager::GetInstance(); }, [] { FakeROIManager first; FakeROIManager second; }},
-    {"SpectrumManager", [] { SpectrumManager::GetInstance(); }, [] { FakeSpectrumManager first; FakeSpectrumManager second; }},
-    {"SpectrumUIManager", [] { SpectrumUIManager::GetInstance(); }, [] { FakeSpectrumUIManager first; FakeSpectrumUIManager second; }},
-    {"ThumbnailList", [] { ThumbnailList::GetInstance(); }, [] { FakeThumbnailList first; FakeThumbnailList second; }},
-    {"UIConfigManager", [] { UIConfigManager::GetInstance(); }, [] { FakeUIConfigManager first; FakeUIConfigManager second; }},
-    {"UseAreaManager", [] { UseAreaManager::GetInstance(); }, [] { FakeUseAreaManager first; FakeUseAreaManager second; }},
-    {"CameraMainManager", [] { CameraMainManager::GetInstance(); },
-     [] { FakeCameraMainManager first; FakeCameraMainManager second; }},
+    Row<AdvancedProcessManager, FakeAdvancedProcessManager>("AdvancedProcessManager"),
+    Row<AlgSpectrometer, FakeAlgSpectrometer>("AlgSpectrometer"),
+    Row<AutoCountManager, FakeAutoCountManager>("AutoCountManager"),
+    Row<CameraConfigManager, FakeCameraConfigManager>("CameraConfigManager"),
+    Row<CameraNameManager, FakeCameraNameManager>("CameraNameManager"),
+    Row<CoverConfigManager, FakeCoverConfigManager>("CoverConfigManager"),
+    Row<DisplayModeUIManager, FakeDisplayModeUIManager>("DisplayModeUIManager"),
+    Row<FileSaveManager, FakeFileSaveManager>("FileSaveManager"),
+    Row<FluorescenceSynthesisManager, FakeFluorescenceSynthesisManager>("FluorescenceSynthesisManager"),
+    Row<FrameManager, FakeFrameManager>("FrameManager"),
+    Row<FrameProcessManager, FakeFrameProcessManager>("FrameProcessManager"),
+    Row<FrameSaveManager, FakeFrameSaveManager>("FrameSaveManager"),
+    Row<GlobalManager, FakeGlobalManager>("GlobalManager"),
+    Row<HistogramCalculateManager, FakeHistogramCalculateManager>("HistogramCalculateManager"),
+    Row<IntensityManager, FakeIntensityManager>("IntensityManager"),
+    Row<MeasureConfigManager, FakeMeasureConfigManager>("MeasureConfigManager"),
+    Row<PixelInfoManager, FakePixelInfoManager>("PixelInfoManager"),
+    Row<PreviewManager, FakePreviewManager>("PreviewManager"),
+    Row<ROIManager, FakeROIManager>("ROIManager"),
+    Row<SpectrumManager, FakeSpectrumManager>("SpectrumManager"),
+    Row<SpectrumUIManager, FakeSpectrumUIManager>("SpectrumUIManager"),
+    Row<ThumbnailList, FakeThumbnailList>("ThumbnailList"),
+    Row<UIConfigManager, FakeUIConfigManager>("UIConfigManager"),
+    Row<UseAreaManager, FakeUseAreaManager>("UseAreaManager"),
+    Row<CameraMainManager, FakeCameraMainManager>("CameraMainManager"),
 };
 
 } // namespace

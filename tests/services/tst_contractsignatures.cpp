@@ -152,7 +152,8 @@ private:
         QTest::addColumn<QByteArray>("signature");
         for (const Contract &contract : contracts) {
             for (const char *name : contract.*names)
-                QTest::addRow("%s::%s", contract.service->className(), name) << contract.service << QByteArray(name);
+                QTest::addRow("%s::%s", contract.service->className(), name)
+                    << contract.service << QByteArray(name);
         }
     }
 

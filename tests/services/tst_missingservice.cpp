@@ -71,7 +71,8 @@ private slots:
         QFETCH(QString, service);
         const Ending ending = Ask({service, "twice"});
         QCOMPARE(ending.status, QProcess::CrashExit);
-        QVERIFY2(ending.log.contains("GlobalUI: a second " + service + " is installed"), qPrintable(ending.log));
+        QVERIFY2(ending.log.contains("GlobalUI: a second " + service + " is installed"),
+                 qPrintable(ending.log));
     }
 
     void NoCameraIsAStateThatTheProgramGoesOnIn()
