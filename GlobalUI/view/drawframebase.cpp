@@ -18,6 +18,7 @@ DrawFrameBase::DrawFrameBase(QWidget *parent)
     : QScrollArea(parent)
 {
     setAttribute(Qt::WA_MouseTracking);
+    setFrameShape(QFrame::NoFrame); // the picture is fitted to all of the host
     m_drawView = new DrawViewBase(this);
     setWidget(m_drawView);
 
@@ -44,6 +45,8 @@ void DrawFrameBase::SetCPUDraw(bool cpuFlag)
     const Qt::ScrollBarPolicy policy = cpuFlag ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
     setHorizontalScrollBarPolicy(policy);
     setVerticalScrollBarPolicy(policy);
+    if (!cpuFlag)
+        SetSliderPosition({0, 0}); // from here on the view scrolls
     m_drawView->SetCPUDraw(cpuFlag);
 }
 
@@ -74,4 +77,16 @@ void DrawFrameBase::mouseMoveEvent(QMouseEvent *event)
 void DrawFrameBase::resizeEvent(QResizeEvent *)
 {
     setAlignment(Qt::AlignCenter);
+    UpdateScrollRanges();
+}
+
+void DrawFrameBase::UpdateScrollRanges()
+{
+    const QSize viewSize = m_drawView->size();
+    const bool fitsWithoutBars = viewSize.boundedTo(maximumViewportSize()) == viewSize;
+    const QSize window = fitsWithoutBars ? maximumViewportSize() : viewport()->size();
+    horizontalScrollBar()->setRange(0, viewSize.width() - window.width());
+    horizontalScrollBar()->setPageStep(window.width());
+    verticalScrollBar()->setRange(0, viewSize.height() - window.height());
+    verticalScrollBar()->setPageStep(window.height());
 }

@@ -37,5 +37,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// All of the view can be scrolled into what the frame shows of it.
+    void UpdateScrollRanges();
+
     DrawViewBase *m_drawView;
 };

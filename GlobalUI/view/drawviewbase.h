@@ -123,6 +123,7 @@ private:
     void ZoomGPUByWheel(const QPoint &viewPos, int delta);
     void ZoomCPUByWheel(const QPoint &viewPos, int delta);
     void InstallGLViewport();
+    void InstallViewport(QWidget *widget, ViewportUpdateMode mode);
     void RemoveGPUItem();
 
     ReportManager *m_viewManager = nullptr;

@@ -64,11 +64,10 @@ void DrawViewBase::SetCPUDraw(bool cpuFlag)
     if (!m_glViewport)
         return;
     if (viewport() == m_glViewport)
-        setViewport(nullptr);
+        InstallViewport(nullptr, MinimalViewportUpdate);
     else
         m_glViewport->setParent(nullptr);
     m_glViewport = nullptr;
-    setViewportUpdateMode(MinimalViewportUpdate);
     UpdateViewportOpacity();
 
     if (!m_imageSize.isEmpty() && size() != ZoomLadder::ScaledSize(m_imageSize, Scale()))
@@ -105,22 +104,24 @@ void DrawViewBase::SetGPUDrawView()
 void DrawViewBase::InstallGLViewport()
 {
     m_glViewport = new QOpenGLWidget; // reparented by setViewport()
-    setViewport(m_glViewport);
     // The frame is always drawn anew as a whole, so the marks above it must be too.
-    setViewportUpdateMode(FullViewportUpdate);
+    InstallViewport(m_glViewport, FullViewportUpdate);
     qDebug("[%s:%d %s] DrawViewBase::SetGPUDrawView()", "drawviewbase.cpp", 589, "DrawViewBase::SetGPUDrawView");
+}
+
+void DrawViewBase::InstallViewport(QWidget *widget, ViewportUpdateMode mode)
+{
+    setViewport(widget);
+    viewport()->setMouseTracking(true); // a new viewport has not taken it from the view
+    setViewportUpdateMode(mode);
 }
 
 void DrawViewBase::RemoveGPUItem()
 {
     if (!m_gpuDrawItem)
         return;
-    if (m_glViewport)
-        m_glViewport->makeCurrent(); // the item's texture and buffers go with it
     if (scene())
         scene()->removeItem(m_gpuDrawItem);
     delete m_gpuDrawItem;
     m_gpuDrawItem = nullptr;
-    if (m_glViewport)
-        m_glViewport->doneCurrent();
 }

@@ -43,8 +43,7 @@ GPUDrawFrame::~GPUDrawFrame() = default;
 
 void GPUDrawFrame::SetupUi()
 {
-    if (objectName().isEmpty())
-        setObjectName("GPUDrawFrame");
+    setObjectName("GPUDrawFrame");
     resize(680, 576);
     setWindowTitle(tr("Form"));
 

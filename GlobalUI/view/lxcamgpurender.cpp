@@ -2,8 +2,11 @@
 #include "lxcamgpurender.h"
 
 #include <QDebug>
+#include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QTime>
+
+#include <memory>
 
 namespace {
 
@@ -34,6 +37,38 @@ constexpr int cornerCount = 4;
 static_assert(sizeof(vertexData) == unitSquareOffset + unitSquareBytes, "two squares");
 
 constexpr int singleLevel = 1;
+
+/// Makes a context current as long as it lives, then the one that was.
+class CurrentContext
+{
+public:
+    explicit CurrentContext(QOpenGLContext *context)
+        : m_previous(QOpenGLContext::currentContext())
+    {
+        if (m_previous == context)
+            return;
+        m_previousSurface = m_previous ? m_previous->surface() : nullptr;
+        m_surface = std::make_unique<QOffscreenSurface>();
+        m_surface->setFormat(context->format());
+        m_surface->create();
+        context->makeCurrent(m_surface.get());
+    }
+    ~CurrentContext()
+    {
+        if (!m_surface)
+            return;
+        if (m_previous)
+            m_previous->makeCurrent(m_previousSurface);
+        else
+            QOpenGLContext::currentContext()->doneCurrent();
+    }
+    Q_DISABLE_COPY(CurrentContext)
+
+private:
+    QOpenGLContext *m_previous;
+    QSurface *m_previousSurface = nullptr;
+    std::unique_ptr<QOffscreenSurface> m_surface;
+};
 
 } // namespace
 
@@ -173,7 +208,7 @@ void LxCamGPURender::PaintGL(const uchar *data, int width, int height, int chann
         qDebug("data NULL");
         return;
     }
-    if (!HandlePendingError() || !m_vbo.isCreated())
+    if (!IsContextCurrent() || !HandlePendingError() || !m_vbo.isCreated())
         return;
 
     if (m_vao.isCreated())
@@ -239,6 +274,9 @@ void LxCamGPURender::Unbind()
 
 void LxCamGPURender::ReleaseGL()
 {
+    if (!m_context)
+        return;
+    const CurrentContext current(m_context);
     m_vbo.destroy();
     m_vao.destroy();
     if (m_texture.isCreated())
