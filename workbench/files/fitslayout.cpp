@@ -9,6 +9,8 @@
 namespace {
 
 constexpr int mostAxes = 9;
+/// A file is made of blocks; the library reads whole ones only.
+constexpr qint64 blockBytes = 2880;
 
 QString Translate(const char *text)
 {
@@ -133,7 +135,7 @@ bool CheckPlain(const Axes &axes, qint64 dataBytes, FitsLayout &layout, FileFaul
     const double frameBytes = double(layout.FrameSamples()) * axes.SampleBytes();
     const double whole = std::floor(double(dataBytes) / frameBytes);
     if (whole < 1) {
-        return fault.Set(Translate("a frame of %1 x %2 pixels takes %3 bytes, but the file has only %4 after its header")
+        return fault.Set(Translate("a frame of %1 x %2 pixels takes %3 bytes, but the file has only %4 in whole blocks after its header")
                              .arg(layout.width).arg(layout.height).arg(frameBytes, 0, 'f', 0).arg(dataBytes),
                          DamagedAdvice());
     }
@@ -163,6 +165,6 @@ bool ReadFitsLayout(fitsfile *fits, qint64 fileSize, FitsLayout &layout, FileFau
     SetSampleType(fits, axes.bitpix, layout);
     if (!SetSize(axes, layout, fault))
         return false;
-    const qint64 dataBytes = std::max(qint64(0), std::min(fileSize, qint64(dataEnd)) - qint64(dataStart));
+    const qint64 dataBytes = std::max(qint64(0), std::min(fileSize, qint64(dataEnd)) - qint64(dataStart)) / blockBytes * blockBytes;
     return layout.isCompressed ? CheckCompressed(fits, axes, dataBytes, layout, fault) : CheckPlain(axes, dataBytes, layout, fault);
 }

@@ -57,20 +57,21 @@ bool FitsPictureFile::Open(qint64 fileSize, FileFault &fault)
         m_fits = nullptr;
         return fault.Set(Translate("its header makes no sense"), DamagedAdvice(), session.TakeMessages(status));
     }
+    if (!FindPicture(status)) {
+        const QString messages = session.TakeMessages(status);
+        return status == END_OF_FILE ? fault.Set(Translate("there is no picture in it, only tables or nothing"), UnsupportedAdvice())
+                                     : fault.Set(Translate("the header of its picture makes no sense"), DamagedAdvice(), messages);
+    }
     int extension = 0;
-    QString messages;
-    if (!FindPicture(messages))
-        return fault.Set(Translate("there is no picture in it, only tables or nothing"), UnsupportedAdvice(), messages);
-    fits_get_hdu_num(m_fits, &extension);
+    fits_get_hdu_num(m_fits, &extension); // from 1
     if (!ReadFitsLayout(m_fits, fileSize, m_layout, fault))
         return false;
     FillInfo(extension - 1);
     return true;
 }
 
-bool FitsPictureFile::FindPicture(QString &messages)
+bool FitsPictureFile::FindPicture(int &status)
 {
-    int status = 0;
     while (status == 0) {
         int type = 0;
         int axes = 0;
@@ -81,10 +82,6 @@ bool FitsPictureFile::FindPicture(QString &messages)
             return true;
         fits_movrel_hdu(m_fits, 1, nullptr, &status);
     }
-    char text[FLEN_ERRMSG] = "";
-    fits_get_errstatus(status, text);
-    if (status != END_OF_FILE)
-        messages = QString::fromLatin1(text);
     return false;
 }
 
@@ -120,8 +117,9 @@ bool FitsPictureFile::Decode(int index, Picture &frame, FileFault &fault)
 
     FitsSession session;
     int status = 0;
+    int anyUndefined = 0;
     fits_read_img(m_fits, m_layout.libraryType, 1 + index * m_layout.FrameSamples(), m_layout.FrameSamples(), undefined,
-                  frame.Data(), nullptr, &status);
+                  frame.Data(), &anyUndefined, &status);
     if (status != 0) {
         return fault.Set(Translate("frame %1 of %2 cannot be decoded").arg(index + 1).arg(m_layout.frames), DamagedAdvice(),
                          session.TakeMessages(status));

@@ -18,7 +18,8 @@ protected:
     bool Decode(int index, Picture &frame, FileFault &fault) override;
 
 private:
-    bool FindPicture(QString &messages);
+    /// Goes to the first picture; `status` says why there is none.
+    bool FindPicture(int &status);
     void FillInfo(int extension);
 
     fitsfile *m_fits = nullptr;

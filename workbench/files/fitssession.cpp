@@ -34,7 +34,7 @@ QString FitsSession::TakeMessages(int status)
     }
     while (fits_read_errmsg(text) != 0) {
         if (messages.size() <= keptMessages)
-            messages << QString::fromLatin1(text).simplified();
+            messages << QString::fromLocal8Bit(text).simplified();
     }
     return messages.join("; ");
 }

@@ -63,12 +63,11 @@ QString TiffHandle::TakeMessages()
 int TiffHandle::KeepError(TIFF *, void *handle, const char *, const char *format, va_list arguments)
 {
     QStringList &errors = static_cast<TiffHandle *>(handle)->m_errors;
-    if (errors.size() < keptMessages) {
-        QString text = QString::vasprintf(format, arguments);
-        while (text.endsWith('.'))
-            text.chop(1);
+    QString text = QString::vasprintf(format, arguments);
+    while (text.endsWith('.'))
+        text.chop(1);
+    if (errors.size() < keptMessages && !errors.contains(text))
         errors << text;
-    }
     return 1; // handled: the global handler is not called
 }
 

@@ -69,11 +69,11 @@ bool TiffPictureFile::Open(int fd, qint64 fileSize, FileFault &fault)
 {
     m_fileSize = fileSize;
     m_chain = ReadTiffChain(fd, fileSize);
-    if (!m_tiff.OpenForReading(fd, QFile::encodeName(Path()), fileSize))
+    const bool opened = m_tiff.OpenForReading(fd, QFile::encodeName(Path()), fileSize);
+    if (m_chain.pages.isEmpty())
+        return fault.Set(m_chain.fault, DamagedAdvice());
+    if (!opened)
         return fault.Set(Translate("its header makes no sense"), DamagedAdvice(), m_tiff.TakeMessages());
-    if (m_chain.pages.isEmpty()) {
-        return fault.Set(m_chain.fault.isEmpty() ? Translate("it has no page") : m_chain.fault, DamagedAdvice());
-    }
     TiffPage page;
     if (!SelectPage(0, page, fault))
         return false;
@@ -137,7 +137,9 @@ void TiffPictureFile::FindContiguousFrames(const TiffPage &page)
         return;
     const quint64 first = TIFFGetStrileOffset(m_tiff.Get(), 0);
     const qint64 frameBytes = page.BlockRowBytes() * page.height;
-    const qint64 present = IsPlain(m_tiff.Get(), page) ? (m_fileSize - qint64(first)) / frameBytes : 1;
+    const quint64 description = m_chain.pages.first(); // usually before the frames; behind them it ends them
+    const qint64 end = description > first ? qint64(description) : m_fileSize;
+    const qint64 present = IsPlain(m_tiff.Get(), page) ? (end - qint64(first)) / frameBytes : 1;
     info.frames = int(qMin(qint64(claimed), qMax(qint64(1), present)));
     if (info.frames < claimed) {
         AddWarning(ReadFaultText(Path(), {Translate("only the first %1 of its %2 frames are there").arg(info.frames).arg(claimed),

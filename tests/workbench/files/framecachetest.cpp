@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "framecache.h"
+#include "guardedtest.h"
+
+class FrameCacheTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void keepsAFrame();
+    void theFrameNotUsedForLongestGoesFirst();
+    void neverHoldsMoreThanItsBytes();
+    void aFrameLargerThanTheCacheIsNotKept();
+    void aFrameThatIsKeptAgainReplacesTheOldOne();
+    void framesOfAClosedFileAreDropped();
+    void writingToACopyLeavesTheKeptFrameAlone();
+};
+
+namespace {
+
+Picture Filled(int bytes, uchar value)
+{
+    Picture picture(bytes, 1, 1, SampleType::U8);
+    std::fill_n(picture.Data(), bytes, value);
+    return picture;
+}
+
+bool Has(FrameCache &cache, quint64 file, int frame)
+{
+    Picture picture;
+    return cache.Find(file, frame, picture);
+}
+
+} // namespace
+
+void FrameCacheTest::keepsAFrame()
+{
+    FrameCache cache(100);
+    cache.Insert(1, 5, Filled(10, 42));
+    Picture picture;
+    QVERIFY(cache.Find(1, 5, picture));
+    QVERIFY(picture == Filled(10, 42));
+    QVERIFY(!cache.Find(1, 4, picture));
+    QVERIFY(!cache.Find(2, 5, picture));
+    QCOMPARE(cache.UsedBytes(), qint64(10));
+}
+
+void FrameCacheTest::theFrameNotUsedForLongestGoesFirst()
+{
+    FrameCache cache(30);
+    for (int frame = 0; frame < 3; ++frame)
+        cache.Insert(1, frame, Filled(10, uchar(frame)));
+    QVERIFY(Has(cache, 1, 0)); // looked at again: frame 1 is the oldest now
+    cache.Insert(1, 3, Filled(10, 3));
+    QVERIFY(Has(cache, 1, 0));
+    QVERIFY(!Has(cache, 1, 1));
+    QVERIFY(Has(cache, 1, 2));
+    QVERIFY(Has(cache, 1, 3));
+}
+
+void FrameCacheTest::neverHoldsMoreThanItsBytes()
+{
+    FrameCache cache(1000);
+    for (int frame = 0; frame < 500; ++frame) {
+        cache.Insert(1, frame, Filled(1 + frame * 7 % 300, 0));
+        QVERIFY(cache.UsedBytes() <= cache.CapacityBytes());
+        QVERIFY(Has(cache, 1, frame));
+    }
+}
+
+void FrameCacheTest::aFrameLargerThanTheCacheIsNotKept()
+{
+    FrameCache cache(30);
+    cache.Insert(1, 0, Filled(10, 0));
+    cache.Insert(1, 1, Filled(31, 0));
+    QVERIFY(Has(cache, 1, 0));
+    QVERIFY(!Has(cache, 1, 1));
+    QCOMPARE(cache.UsedBytes(), qint64(10));
+}
+
+void FrameCacheTest::aFrameThatIsKeptAgainReplacesTheOldOne()
+{
+    FrameCache cache(30);
+    cache.Insert(1, 0, Filled(10, 1));
+    cache.Insert(1, 0, Filled(20, 2));
+    Picture picture;
+    QVERIFY(cache.Find(1, 0, picture));
+    QVERIFY(picture == Filled(20, 2));
+    QCOMPARE(cache.UsedBytes(), qint64(20));
+}
+
+void FrameCacheTest::framesOfAClosedFileAreDropped()
+{
+    FrameCache cache(100);
+    cache.Insert(1, 0, Filled(10, 0));
+    cache.Insert(2, 0, Filled(10, 0));
+    cache.Insert(1, 1, Filled(10, 0));
+    cache.RemoveFile(1);
+    QVERIFY(!Has(cache, 1, 0));
+    QVERIFY(!Has(cache, 1, 1));
+    QVERIFY(Has(cache, 2, 0));
+    QCOMPARE(cache.UsedBytes(), qint64(10));
+}
+
+void FrameCacheTest::writingToACopyLeavesTheKeptFrameAlone()
+{
+    FrameCache cache(100);
+    Picture picture = Filled(10, 1);
+    cache.Insert(1, 0, picture);
+    picture.Data()[0] = 99;
+    Picture kept;
+    QVERIFY(cache.Find(1, 0, kept));
+    QVERIFY(kept == Filled(10, 1));
+    picture = kept;
+    picture.Reshape(10, 1, 1, SampleType::U8); // a shared buffer is not written over
+    picture.Data()[0] = 77;
+    QVERIFY(kept == Filled(10, 1));
+}
+
+GUARDED_TEST_MAIN(FrameCacheTest)
+#include "framecachetest.moc"
