@@ -124,6 +124,6 @@ void CapturePreviewUI::onFrameSaveThreadRunningChanged(bool saveRunning)
 
 void CapturePreviewUI::ShowCaptureState(bool active)
 {
-    m_capture->setChecked(active); // the button is not checkable: only a style that makes it so sees this
+    m_capture->setChecked(active); // without effect while the button is not checkable
     RenameAndRestyle(m_capture, active ? "pushButtonCaptureChecked" : "pushButtonCapture");
 }
