@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "hostservices.h"
 
-#include "viewcodes.h"
-
 int HostConfig::GetLeftStackedWidgetIndex() const
 {
     switch (m_view) {

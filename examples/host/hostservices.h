@@ -7,6 +7,7 @@
 #include "globalmanager.h"
 #include "previewmanager.h"
 #include "uiconfigmanager.h"
+#include "viewcodes.h"
 
 /// The current view, in memory only: a real host keeps indices and flags in its settings.
 class HostConfig : public UIConfigManager

@@ -50,6 +50,7 @@ class PlainReportManager : public ReportManager
 public:
     void ClearAll() override {}
     void LineProfileMouseMoveEvent(QMouseEvent *) override {}
+    void slotFinishSetBrush() override {}
     MeasureManager *GetMeasureManager() const override { return &m_measure; }
     QSize GetImageSize() const override { return m_imageSize; }
     QString GetFileName() const override { return {}; }
@@ -74,6 +75,7 @@ class PlainImageManager : public ImageManager
 public:
     void ClearAll() override {}
     void LineProfileMouseMoveEvent(QMouseEvent *) override {}
+    void slotFinishSetBrush() override {}
     MeasureManager *GetMeasureManager() const override { return &m_measure; }
     QSize GetImageSize() const override { return {}; }
     QString GetFileName() const override { return {}; }
