@@ -25,35 +25,38 @@ void NamedImageManager::Log(const QString &operation, const QStringList &argumen
 }
 
 void NamedImageManager::CloseImage() { Log("CloseImage"); }
-void NamedImageManager::SetProcessType(int type) { Log("SetProcessType", {QString::number(type)}); }
-void NamedImageManager::SetAdjustApply(int type) { Log("SetAdjustApply", {QString::number(type)}); }
+void NamedImageManager::SetProcessType(int type) { Log("SetProcessType", { QString::number(type) }); }
+void NamedImageManager::SetAdjustApply(int type) { Log("SetAdjustApply", { QString::number(type) }); }
 
 void NamedImageManager::ConnectWidthDrawView(QObject *view, bool spectrum)
 {
     connectedViews << view;
-    Log("ConnectWidthDrawView", {Text(spectrum)});
+    Log("ConnectWidthDrawView", { Text(spectrum) });
 }
 
 void NamedImageManager::slotFinishSetBrush() { Log("slotFinishSetBrush"); }
 void NamedImageManager::slotSaveImageAs() { Log("slotSaveImageAs"); }
-void NamedImageManager::slotRotateImage(int type) { Log("slotRotateImage", {QString::number(type)}); }
+void NamedImageManager::slotRotateImage(int type) { Log("slotRotateImage", { QString::number(type) }); }
 void NamedImageManager::slotImageCrop() { Log("slotImageCrop"); }
 void NamedImageManager::slotImageInfo() { Log("slotImageInfo"); }
 
 void NamedImageManager::slotCrop(int x, int y, int width, int height, bool apply)
 {
-    Log("slotCrop", {Text(QRect(x, y, width, height)), Text(apply)});
+    Log("slotCrop", { Text(QRect(x, y, width, height)), Text(apply) });
 }
 
 void NamedImageManager::slotNewImageCopy(void *) { Log("slotNewImageCopy"); }
 void NamedImageManager::slotMouseMoveEvent(QMouseEvent *) { Log("slotMouseMoveEvent"); }
-void NamedImageManager::slotMousePressEvent(QMouseEvent *, QPointF pos) { Log("slotMousePressEvent", {Text(pos)}); }
+void NamedImageManager::slotMousePressEvent(QMouseEvent *, QPointF pos)
+{
+    Log("slotMousePressEvent", { Text(pos) });
+}
 void NamedImageManager::slotMouseReleaseEvent(QMouseEvent *) { Log("slotMouseReleaseEvent"); }
 void NamedImageManager::slotMouseDoubleClickEvent(QMouseEvent *) { Log("slotMouseDoubleClickEvent"); }
 
 ShellServices::ShellServices()
 {
-    for (NamedImageManager *image : {&active, &main, &compare}) {
+    for (NamedImageManager *image : { &active, &main, &compare }) {
         image->measureManager = &mainMeasure;
         image->imageCore = &imageCore;
     }
@@ -70,10 +73,7 @@ ShellHost::ShellHost(Panels panels)
     ui = GlobalUI::GetInstance();
 }
 
-ShellHost::~ShellHost()
-{
-    delete ui;
-}
+ShellHost::~ShellHost() { delete ui; }
 
 void ShellHost::UsePanels(Panels panels)
 {
@@ -99,23 +99,17 @@ void ShellHost::Build()
 void ShellHost::SwitchTo(int view)
 {
     // The pages that belong to the views.
-    const int leftPages[] = {0, 1, 2, 0, 1};
-    const int centerPages[] = {0, 1, 2, 0, 1};
+    const int leftPages[] = { 0, 1, 2, 0, 1 };
+    const int centerPages[] = { 0, 1, 2, 0, 1 };
     services.uiConfig.currentView = view;
     services.uiConfig.leftStackedWidgetIndex = leftPages[view];
     services.uiConfig.centerStackedWidgetIndex = centerPages[view];
     emit services.uiConfig.signalSwitchView();
 }
 
-CameraStackedWidget *ShellHost::CameraStack() const
-{
-    return window.findChild<CameraStackedWidget *>();
-}
+CameraStackedWidget *ShellHost::CameraStack() const { return window.findChild<CameraStackedWidget *>(); }
 
-ImageStackedWidget *ShellHost::ImageStack() const
-{
-    return window.findChild<ImageStackedWidget *>();
-}
+ImageStackedWidget *ShellHost::ImageStack() const { return window.findChild<ImageStackedWidget *>(); }
 
 CompareFrame *ShellHost::Compare() const
 {

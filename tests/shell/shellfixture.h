@@ -49,15 +49,19 @@ struct ShellServices : FakeServices
 {
     ShellServices();
 
-    NamedImageManager active{"active"};
-    NamedImageManager main{"main"};
-    NamedImageManager compare{"compare"};
+    NamedImageManager active{ "active" };
+    NamedImageManager main{ "main" };
+    NamedImageManager compare{ "compare" };
 };
 
 /// A host as it is meant: services, a main window, and the facade in it.
 struct ShellHost
 {
-    enum Panels { WithoutPanels, WithPanels };
+    enum Panels
+    {
+        WithoutPanels,
+        WithPanels
+    };
 
     explicit ShellHost(Panels panels = WithoutPanels);
     ~ShellHost();
@@ -73,7 +77,7 @@ struct ShellHost
     ImageStackedWidget *ImageStack() const;
     CompareFrame *Compare() const;
 
-    DisplayScale scale{1.0};
+    DisplayScale scale{ 1.0 };
     ShellServices services;
     QMainWindow window;
     GlobalUI *ui = nullptr;

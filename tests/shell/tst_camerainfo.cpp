@@ -25,7 +25,7 @@ private slots:
 void CameraInfoTest::withoutCamera()
 {
     FakeServices services;
-    QCOMPARE(CameraInfo(), QStringList({"Name", "No Camera"}));
+    QCOMPARE(CameraInfo(), QStringList({ "Name", "No Camera" }));
 }
 
 void CameraInfoTest::withCamera_data()
@@ -33,13 +33,13 @@ void CameraInfoTest::withCamera_data()
     QTest::addColumn<int>("interfaceId");
     QTest::addColumn<bool>("showSerial");
     QTest::addColumn<QStringList>("info");
-    const QStringList serials{"Firmware Serial No.", "1.2.3", "SN", "A-42"};
-    const QStringList begin{"Name", "Model One"};
-    const QStringList ids{"VID", "0x0547", "PID", "0x0A1B"};
-    const QStringList end{"SDK Serial No.", ""};
-    QTest::newRow("USB") << 0 << true << begin + QStringList{"USB", "USB 3.0"} + ids + serials + end;
-    QTest::newRow("USB, no serials") << 0 << false << begin + QStringList{"USB", "USB 3.0"} + ids + end;
-    QTest::newRow("other") << 1 << true << begin + QStringList{"Type", "USB 3.0"} + ids + serials + end;
+    const QStringList serials{ "Firmware Serial No.", "1.2.3", "SN", "A-42" };
+    const QStringList begin{ "Name", "Model One" };
+    const QStringList ids{ "VID", "0x0547", "PID", "0x0A1B" };
+    const QStringList end{ "SDK Serial No.", "" };
+    QTest::newRow("USB") << 0 << true << begin + QStringList{ "USB", "USB 3.0" } + ids + serials + end;
+    QTest::newRow("USB, no serials") << 0 << false << begin + QStringList{ "USB", "USB 3.0" } + ids + end;
+    QTest::newRow("other") << 1 << true << begin + QStringList{ "Type", "USB 3.0" } + ids + serials + end;
 }
 
 void CameraInfoTest::withCamera()

@@ -106,13 +106,13 @@ void CameraOverlaysTest::bandIsFoundBetweenEndPoints()
     ShellServices services;
     services.spectrumUI.fvbOnFlag = 1;
     services.spectrumUI.fvbModeAuto = true;
-    services.spectrum.endPointList = {QPointF(0, first), QPointF(399, second), QPointF(5, 1)};
+    services.spectrum.endPointList = { QPointF(0, first), QPointF(399, second), QPointF(5, 1) };
     Page page;
     Observer observer;
     emit services.spectrum.SignalSpectralineFVB();
-    QCOMPARE(CallLog::Calls(), QStringList({QString("SpectrumUIManager::SetTop(%1)").arg(top),
-                                            QString("SpectrumUIManager::SetBottom(%1)").arg(bottom)}));
-    QCOMPARE(observer.ids, QVector<int>{90});
+    QCOMPARE(CallLog::Calls(), QStringList({ QString("SpectrumUIManager::SetTop(%1)").arg(top),
+                                             QString("SpectrumUIManager::SetBottom(%1)").arg(bottom) }));
+    QCOMPARE(observer.ids, QVector<int>{ 90 });
     QVERIFY(!observer.withData);
     QCOMPARE(page.Overlays().size(), 1);
     QVERIFY(page.VisibleMarks() > 0);
@@ -126,14 +126,14 @@ void CameraOverlaysTest::bandSetByHandIsShownOnce()
     services.spectrumUI.fvbModeAuto = true;
     services.spectrumUI.top = 30;
     services.spectrumUI.bottom = 80;
-    services.spectrum.endPointList = {QPointF(0, 1), QPointF(0, 2)};
+    services.spectrum.endPointList = { QPointF(0, 1), QPointF(0, 2) };
     Page page;
     Observer observer;
     emit services.spectrum.SignalSpectralineFVB();
-    QCOMPARE(observer.ids, QVector<int>{90});
+    QCOMPARE(observer.ids, QVector<int>{ 90 });
     QCOMPARE(page.Overlays().size(), 1);
     emit services.spectrum.SignalSpectralineFVB();
-    QCOMPARE(observer.ids, QVector<int>{90});
+    QCOMPARE(observer.ids, QVector<int>{ 90 });
     QCOMPARE(page.Overlays().size(), 1);
     QCOMPARE(CallLog::Calls(), QStringList());
     DragBand(page.Overlays().first(), 31, 81); // connected once
@@ -174,7 +174,7 @@ void CameraOverlaysTest::oneEndPointIsNoBand()
     ShellServices services;
     services.spectrumUI.fvbOnFlag = 1;
     services.spectrumUI.fvbModeAuto = true;
-    services.spectrum.endPointList = {QPointF(3, 4)};
+    services.spectrum.endPointList = { QPointF(3, 4) };
     Page page;
     Observer observer;
     emit services.spectrum.SignalSpectralineFVB();
@@ -188,13 +188,13 @@ void CameraOverlaysTest::everyBandSignalConnectsAgain()
     ShellServices services;
     services.spectrumUI.fvbOnFlag = 1;
     services.spectrumUI.fvbModeAuto = true;
-    services.spectrum.endPointList = {QPointF(0, 10), QPointF(0, 20)};
+    services.spectrum.endPointList = { QPointF(0, 10), QPointF(0, 20) };
     Page page;
     Observer observer;
     emit services.spectrum.SignalSpectralineFVB();
     emit services.spectrum.SignalSpectralineFVB();
     QCOMPARE(page.Overlays().size(), 1);
-    QCOMPARE(observer.ids, QVector<int>({90, 90}));
+    QCOMPARE(observer.ids, QVector<int>({ 90, 90 }));
     DragBand(page.Overlays().first(), 11, 19);
     QCOMPARE(CallLog::Count("SpectrumUIManager::SetTop(11)"), 2);
 }
@@ -204,18 +204,19 @@ void CameraOverlaysTest::bandLineIsWired()
     ShellServices services;
     services.spectrumUI.fvbOnFlag = 1;
     services.spectrumUI.fvbModeAuto = true;
-    services.spectrum.endPointList = {QPointF(0, 10), QPointF(0, 20)};
+    services.spectrum.endPointList = { QPointF(0, 10), QPointF(0, 20) };
     Page page;
     emit services.spectrum.SignalSpectralineFVB();
     QObject *line = page.Overlays().first()->GetFVBLineObject();
     QCOMPARE(MissingWires({
-                 {line, SIGNAL(SignalTopBottomChanged(int,int)), &page.stack, SLOT(SlotTopBottomChanged(int,int))},
-                 {&services.spectrumUI, SIGNAL(SignalTopBottomChanged(QPointF,QPointF)), line,
-                  SLOT(SetFVBArea(QPointF,QPointF))},
-                 {&services.spectrumUI, SIGNAL(SignalFVBManualFlagChanged(bool)), line,
-                  SLOT(SlotFVBManualFlagChanged(bool))},
-                 {&services.spectrumUI, SIGNAL(SignalFVBSpeedingFlagChanged(bool)), line,
-                  SLOT(SlotFVBSpeedingFlagChanged(bool))},
+                 { line, SIGNAL(SignalTopBottomChanged(int, int)), &page.stack,
+                   SLOT(SlotTopBottomChanged(int, int)) },
+                 { &services.spectrumUI, SIGNAL(SignalTopBottomChanged(QPointF, QPointF)), line,
+                   SLOT(SetFVBArea(QPointF, QPointF)) },
+                 { &services.spectrumUI, SIGNAL(SignalFVBManualFlagChanged(bool)), line,
+                   SLOT(SlotFVBManualFlagChanged(bool)) },
+                 { &services.spectrumUI, SIGNAL(SignalFVBSpeedingFlagChanged(bool)), line,
+                   SLOT(SlotFVBSpeedingFlagChanged(bool)) },
              }),
              QStringList());
 }
@@ -227,8 +228,8 @@ void CameraOverlaysTest::draggedBandIsStored()
     Observer observer;
     page.stack.SlotTopBottomChanged(17, 93);
     QCOMPARE(CallLog::Calls(),
-             QStringList({"SpectrumUIManager::SetTop(17)", "SpectrumUIManager::SetBottom(93)"}));
-    QCOMPARE(observer.ids, QVector<int>{90});
+             QStringList({ "SpectrumUIManager::SetTop(17)", "SpectrumUIManager::SetBottom(93)" }));
+    QCOMPARE(observer.ids, QVector<int>{ 90 });
     QVERIFY(!observer.withData);
 }
 
@@ -237,7 +238,7 @@ void CameraOverlaysTest::closingTheBandTwice()
     ShellServices services;
     services.spectrumUI.fvbOnFlag = 1;
     services.spectrumUI.fvbModeAuto = true;
-    services.spectrum.endPointList = {QPointF(0, 10), QPointF(0, 20)};
+    services.spectrum.endPointList = { QPointF(0, 10), QPointF(0, 20) };
     Page page;
     emit services.spectrum.SignalSpectralineFVB();
     QVERIFY(page.VisibleMarks() > 0);
@@ -258,7 +259,7 @@ void CameraOverlaysTest::modeAllClosesTheBand()
     ShellServices services;
     services.spectrumUI.fvbOnFlag = 1;
     services.spectrumUI.fvbModeAuto = true;
-    services.spectrum.endPointList = {QPointF(0, 10), QPointF(0, 20)};
+    services.spectrum.endPointList = { QPointF(0, 10), QPointF(0, 20) };
     Page page;
     emit services.spectrum.SignalSpectralineFVB();
     emit services.spectrumUI.SignalFVBModeAll();
@@ -269,7 +270,7 @@ void CameraOverlaysTest::tracksAreShownAndTakenAway()
 {
     ShellServices services;
     services.spectrumUI.multiTrackOnFlag = true;
-    services.spectrumUI.multiTrackList = {QRectF(0, 10, 400, 20), QRectF(0, 50, 400, 20)};
+    services.spectrumUI.multiTrackList = { QRectF(0, 10, 400, 20), QRectF(0, 50, 400, 20) };
     Page page;
     emit services.spectrumUI.SignalMultiTrackOnFlagChanged();
     QVERIFY(page.VisibleMarks() >= 2);
@@ -296,10 +297,10 @@ void CameraOverlaysTest::focusLinesAreShown()
 {
     ShellServices services;
     services.spectrumUI.focusAssitanceFlag = true;
-    services.spectrum.angleList = {1.5F};
-    services.spectrum.distanceList = {12.0F};
-    services.spectrum.linePointList = {QPoint(50, 60)};
-    services.spectrum.extendRectList = {QRect(40, 0, 20, 300)};
+    services.spectrum.angleList = { 1.5F };
+    services.spectrum.distanceList = { 12.0F };
+    services.spectrum.linePointList = { QPoint(50, 60) };
+    services.spectrum.extendRectList = { QRect(40, 0, 20, 300) };
     Page page;
     emit services.spectrum.SignalSpectralineAutoDetectFinish();
     QCOMPARE(page.Overlays().size(), 1);
@@ -313,10 +314,10 @@ void CameraOverlaysTest::focusWithoutAngles()
 {
     ShellServices services;
     services.spectrumUI.focusAssitanceFlag = true;
-    services.spectrum.angleList = {1.5F};
-    services.spectrum.distanceList = {12.0F};
-    services.spectrum.linePointList = {QPoint(50, 60)};
-    services.spectrum.extendRectList = {QRect(40, 0, 20, 300)};
+    services.spectrum.angleList = { 1.5F };
+    services.spectrum.distanceList = { 12.0F };
+    services.spectrum.linePointList = { QPoint(50, 60) };
+    services.spectrum.extendRectList = { QRect(40, 0, 20, 300) };
     Page page;
     emit services.spectrum.SignalSpectralineAutoDetectFinish();
     services.spectrum.angleList.clear();
@@ -338,10 +339,10 @@ void CameraOverlaysTest::closingFocusAssistance()
 {
     ShellServices services;
     services.spectrumUI.focusAssitanceFlag = true;
-    services.spectrum.angleList = {1.5F};
-    services.spectrum.distanceList = {12.0F};
-    services.spectrum.linePointList = {QPoint(50, 60)};
-    services.spectrum.extendRectList = {QRect(40, 0, 20, 300)};
+    services.spectrum.angleList = { 1.5F };
+    services.spectrum.distanceList = { 12.0F };
+    services.spectrum.linePointList = { QPoint(50, 60) };
+    services.spectrum.extendRectList = { QRect(40, 0, 20, 300) };
     Page page;
     emit services.spectrumUI.SignalAssitanceFocusClose(); // nothing is open
     emit services.spectrum.SignalSpectralineAutoDetectFinish();
@@ -360,11 +361,11 @@ void CameraOverlaysTest::crossLineIsWired()
     emit services.spectrum.SignalSpectralineAutoDetectFinish();
     QObject *cross = page.Overlays().first()->GetCrossLineObject();
     QCOMPARE(MissingWires({
-                 {&services.preview, SIGNAL(signalImageSizeChanged()), cross, SLOT(SlotImageSizeChanged())},
-                 {&services.spectrumUI, SIGNAL(SignalFocusOnChanged(bool)), cross,
-                  SLOT(SlotCrossLineVisiable(bool))},
-                 {&services.spectrumUI, SIGNAL(SignalFocusCrossLineFlagChanged(bool)), cross,
-                  SLOT(SlotCrossLineEnable(bool))},
+                 { &services.preview, SIGNAL(signalImageSizeChanged()), cross, SLOT(SlotImageSizeChanged()) },
+                 { &services.spectrumUI, SIGNAL(SignalFocusOnChanged(bool)), cross,
+                   SLOT(SlotCrossLineVisiable(bool)) },
+                 { &services.spectrumUI, SIGNAL(SignalFocusCrossLineFlagChanged(bool)), cross,
+                   SLOT(SlotCrossLineEnable(bool)) },
              }),
              QStringList());
 }

@@ -89,22 +89,23 @@ private slots:
 
 void CameraStackedWidgetTest::declaresSignalsAndSlotsInOrder()
 {
-    QCOMPARE(OwnMethods(StackedWidgetBase::staticMetaObject),
-             QStringList({"signalScaleView(ReportManager*,int)", "signalSetScaleFactor(ReportManager*,double)",
-                          "slotUpdateToolBarPosition()", "slotCloseCompare()", "slotUpdateImageInfoUI()",
-                          "slotScaleView(int)", "slotSetScaleFactor(double)"}));
+    QCOMPARE(
+        OwnMethods(StackedWidgetBase::staticMetaObject),
+        QStringList({ "signalScaleView(ReportManager*,int)", "signalSetScaleFactor(ReportManager*,double)",
+                      "slotUpdateToolBarPosition()", "slotCloseCompare()", "slotUpdateImageInfoUI()",
+                      "slotScaleView(int)", "slotSetScaleFactor(double)" }));
     QCOMPARE(OwnMethods(CameraStackedWidget::staticMetaObject),
-             QStringList({"SlotSpectralineAutoDetectFinish()", "SlotAssitanceFocusClose()", "SlotSpectralineFVB()",
-                          "SlotTopBottomChanged(int,int)", "SlotMultiTrackFlagChanged()", "SlotFVBClose()",
-                          "slotUpdateImageInfoUI()"}));
+             QStringList({ "SlotSpectralineAutoDetectFinish()", "SlotAssitanceFocusClose()",
+                           "SlotSpectralineFVB()", "SlotTopBottomChanged(int,int)",
+                           "SlotMultiTrackFlagChanged()", "SlotFVBClose()", "slotUpdateImageInfoUI()" }));
 }
 
 void CameraStackedWidgetTest::asksTheServicesInOrder()
 {
     ShellServices services;
     Page page;
-    QCOMPARE(CallLog::Calls(), QStringList({"UIConfigManager::SetCPUDraw(true, true)",
-                                            "GlobalManager::SetCameraGraphicsScene()"}));
+    QCOMPARE(CallLog::Calls(), QStringList({ "UIConfigManager::SetCPUDraw(true, true)",
+                                             "GlobalManager::SetCameraGraphicsScene()" }));
     QVERIFY(DebugLines().contains("CameraStackedWidget"));
     QCOMPARE(page.stack.count(), 1);
     QCOMPARE(page.stack.widget(0), static_cast<QWidget *>(page.frame));
@@ -121,22 +122,23 @@ void CameraStackedWidgetTest::isWiredToItsBars()
     Page page;
     DrawFrameBase *drawFrame = page.frame->GetDrawFrame();
     QCOMPARE(MissingWires({
-                 {&page.stack, SIGNAL(signalScaleView(ReportManager*,int)), page.view,
-                  SLOT(slotScaleView(ReportManager*,int))},
-                 {&page.stack, SIGNAL(signalSetScaleFactor(ReportManager*,double)), page.view,
-                  SLOT(slotSetScaleFactor(ReportManager*,double))},
-                 {page.toolBar, SIGNAL(signalSetZoomType(int)), &page.stack, SLOT(slotScaleView(int))},
-                 {page.toolBar, SIGNAL(signalUpdatePos()), &page.stack, SLOT(slotUpdateToolBarPosition())},
-                 {page.toolBar, SIGNAL(signalCloseCompare()), &page.stack, SLOT(slotCloseCompare())},
-                 {page.infoBar, SIGNAL(signalSetZoomRatio(double)), &page.stack, SLOT(slotSetScaleFactor(double))},
-                 {page.view, SIGNAL(signalEnableScaleFactor(QPoint)), page.infoBar,
-                  SLOT(slotEnableScaleFactor(QPoint))},
-                 {drawFrame, SIGNAL(signalEnableScaleFactor(QPoint)), page.infoBar,
-                  SLOT(slotEnableScaleFactor(QPoint))},
-                 {page.view, SIGNAL(signalUpdateImageSize(QString)), page.infoBar,
-                  SLOT(slotUpdateImageSize(QString))},
-                 {&services.uiConfig, SIGNAL(signalImageInfoChanged()), &page.stack,
-                  SLOT(slotUpdateImageInfoUI())},
+                 { &page.stack, SIGNAL(signalScaleView(ReportManager *, int)), page.view,
+                   SLOT(slotScaleView(ReportManager *, int)) },
+                 { &page.stack, SIGNAL(signalSetScaleFactor(ReportManager *, double)), page.view,
+                   SLOT(slotSetScaleFactor(ReportManager *, double)) },
+                 { page.toolBar, SIGNAL(signalSetZoomType(int)), &page.stack, SLOT(slotScaleView(int)) },
+                 { page.toolBar, SIGNAL(signalUpdatePos()), &page.stack, SLOT(slotUpdateToolBarPosition()) },
+                 { page.toolBar, SIGNAL(signalCloseCompare()), &page.stack, SLOT(slotCloseCompare()) },
+                 { page.infoBar, SIGNAL(signalSetZoomRatio(double)), &page.stack,
+                   SLOT(slotSetScaleFactor(double)) },
+                 { page.view, SIGNAL(signalEnableScaleFactor(QPoint)), page.infoBar,
+                   SLOT(slotEnableScaleFactor(QPoint)) },
+                 { drawFrame, SIGNAL(signalEnableScaleFactor(QPoint)), page.infoBar,
+                   SLOT(slotEnableScaleFactor(QPoint)) },
+                 { page.view, SIGNAL(signalUpdateImageSize(QString)), page.infoBar,
+                   SLOT(slotUpdateImageSize(QString)) },
+                 { &services.uiConfig, SIGNAL(signalImageInfoChanged()), &page.stack,
+                   SLOT(slotUpdateImageInfoUI()) },
              }),
              QStringList());
 }
@@ -145,58 +147,61 @@ void CameraStackedWidgetTest::isWiredToThePreviewAndCamera()
 {
     ShellServices services;
     Page page;
-    QCOMPARE(MissingWires({
-                 {&services.preview, SIGNAL(signalPreviewImage(QImage)), page.view, SLOT(slotPaintPreview(QImage))},
-                 {&services.preview, SIGNAL(signalSetUpdatesEnabled(bool)), page.view,
-                  SLOT(slotSetUpdatesEnabled(bool))},
-                 {&services.uiConfig, SIGNAL(signalSetCPUDraw(bool)), page.frame, SLOT(slotSetCPUDraw(bool))},
-                 {page.toolBar, SIGNAL(signalRotateImage(int)), &services.cameraManager,
-                  SLOT(slotSetMirrorRotate(int))},
-                 {page.view, SIGNAL(signalUpdateMousePosition(QPointF)), &services.pixelInfo,
-                  SLOT(slotUpdateMousePosition(QPointF))},
-                 {&services.cameraReport, SIGNAL(signalSetBrush()), page.view, SLOT(slotSetBrush())},
-                 {page.view, SIGNAL(signalFinishSetBrush()), &services.cameraReport, SLOT(slotFinishSetBrush())},
-                 {&services.cameraManager, SIGNAL(signalUpdateRotateDegree(int)), page.infoBar,
-                  SLOT(slotUpdateRotateDegree(int))},
-                 {&services.pixelInfo, SIGNAL(signalUpdatePixelInfo(QPointF,QString)), page.infoBar,
-                  SLOT(slotUpdatePixelInfo(QPointF,QString))},
-             }),
-             QStringList());
+    QCOMPARE(
+        MissingWires({
+            { &services.preview, SIGNAL(signalPreviewImage(QImage)), page.view,
+              SLOT(slotPaintPreview(QImage)) },
+            { &services.preview, SIGNAL(signalSetUpdatesEnabled(bool)), page.view,
+              SLOT(slotSetUpdatesEnabled(bool)) },
+            { &services.uiConfig, SIGNAL(signalSetCPUDraw(bool)), page.frame, SLOT(slotSetCPUDraw(bool)) },
+            { page.toolBar, SIGNAL(signalRotateImage(int)), &services.cameraManager,
+              SLOT(slotSetMirrorRotate(int)) },
+            { page.view, SIGNAL(signalUpdateMousePosition(QPointF)), &services.pixelInfo,
+              SLOT(slotUpdateMousePosition(QPointF)) },
+            { &services.cameraReport, SIGNAL(signalSetBrush()), page.view, SLOT(slotSetBrush()) },
+            { page.view, SIGNAL(signalFinishSetBrush()), &services.cameraReport, SLOT(slotFinishSetBrush()) },
+            { &services.cameraManager, SIGNAL(signalUpdateRotateDegree(int)), page.infoBar,
+              SLOT(slotUpdateRotateDegree(int)) },
+            { &services.pixelInfo, SIGNAL(signalUpdatePixelInfo(QPointF, QString)), page.infoBar,
+              SLOT(slotUpdatePixelInfo(QPointF, QString)) },
+        }),
+        QStringList());
 }
 
 void CameraStackedWidgetTest::isWiredToSpectrumAndCropFrame()
 {
     ShellServices services;
     Page page;
-    QCOMPARE(MissingWires({
-                 {&services.spectrum, SIGNAL(SignalSpectralineAutoDetectFinish()), &page.stack,
-                  SLOT(SlotSpectralineAutoDetectFinish())},
-                 {&services.spectrumUI, SIGNAL(SignalAssitanceFocusClose()), &page.stack,
-                  SLOT(SlotAssitanceFocusClose())},
-                 {&services.spectrum, SIGNAL(SignalSpectralineFVB()), &page.stack, SLOT(SlotSpectralineFVB())},
-                 {&services.spectrumUI, SIGNAL(SignalMultiTrackOnFlagChanged()), &page.stack,
-                  SLOT(SlotMultiTrackFlagChanged())},
-                 {&services.spectrumUI, SIGNAL(SignalFVBClose()), &page.stack, SLOT(SlotFVBClose())},
-                 {&services.spectrumUI, SIGNAL(SignalFVBModeAll()), &page.stack, SLOT(SlotFVBClose())},
-                 {&services.cover, SIGNAL(signalSetCoverFrameVisible(bool)), page.cropFrame,
-                  SLOT(slotSetCoverFrameVisible(bool))},
-                 {&services.cover, SIGNAL(signalFinishFillCover(QRect)), page.cropFrame,
-                  SLOT(slotFinishFillCover(QRect))},
-                 {page.cropFrame, SIGNAL(signalStopManualCover()), &services.cover, SLOT(slotStopManualCover())},
-                 {page.cropFrame, SIGNAL(signalManualCoverFinished(QRect)), &services.cover,
-                  SLOT(slotManualCoverFinished(QRect))},
-                 {&services.cover, SIGNAL(signalSetOpacity(float)), page.cropFrame, SLOT(slotSetOpacity(float))},
-                 {&services.roi, SIGNAL(signalSetROIFrameVisible(bool,bool)), page.cropFrame,
-                  SLOT(slotSetROIFrameVisible(bool,bool))},
-                 {page.cropFrame, SIGNAL(signalSetSelectRegion(int,int,int,int,bool)), &services.preview,
-                  SLOT(slotManualROI(int,int,int,int,bool))},
-                 {page.cropFrame, SIGNAL(signalStopRegionSelected()), &services.roi, SLOT(slotStopManualROI())},
-                 {page.view, SIGNAL(signalScaleFactorChanged(double)), &services.roi,
-                  SLOT(slotScaleFactorChanged(double))},
-                 {page.view, SIGNAL(signalScaleFactorChanged(double)), &services.cover,
-                  SLOT(slotScaleFactorChanged(double))},
-             }),
-             QStringList());
+    QCOMPARE(
+        MissingWires({
+            { &services.spectrum, SIGNAL(SignalSpectralineAutoDetectFinish()), &page.stack,
+              SLOT(SlotSpectralineAutoDetectFinish()) },
+            { &services.spectrumUI, SIGNAL(SignalAssitanceFocusClose()), &page.stack,
+              SLOT(SlotAssitanceFocusClose()) },
+            { &services.spectrum, SIGNAL(SignalSpectralineFVB()), &page.stack, SLOT(SlotSpectralineFVB()) },
+            { &services.spectrumUI, SIGNAL(SignalMultiTrackOnFlagChanged()), &page.stack,
+              SLOT(SlotMultiTrackFlagChanged()) },
+            { &services.spectrumUI, SIGNAL(SignalFVBClose()), &page.stack, SLOT(SlotFVBClose()) },
+            { &services.spectrumUI, SIGNAL(SignalFVBModeAll()), &page.stack, SLOT(SlotFVBClose()) },
+            { &services.cover, SIGNAL(signalSetCoverFrameVisible(bool)), page.cropFrame,
+              SLOT(slotSetCoverFrameVisible(bool)) },
+            { &services.cover, SIGNAL(signalFinishFillCover(QRect)), page.cropFrame,
+              SLOT(slotFinishFillCover(QRect)) },
+            { page.cropFrame, SIGNAL(signalStopManualCover()), &services.cover, SLOT(slotStopManualCover()) },
+            { page.cropFrame, SIGNAL(signalManualCoverFinished(QRect)), &services.cover,
+              SLOT(slotManualCoverFinished(QRect)) },
+            { &services.cover, SIGNAL(signalSetOpacity(float)), page.cropFrame, SLOT(slotSetOpacity(float)) },
+            { &services.roi, SIGNAL(signalSetROIFrameVisible(bool, bool)), page.cropFrame,
+              SLOT(slotSetROIFrameVisible(bool, bool)) },
+            { page.cropFrame, SIGNAL(signalSetSelectRegion(int, int, int, int, bool)), &services.preview,
+              SLOT(slotManualROI(int, int, int, int, bool)) },
+            { page.cropFrame, SIGNAL(signalStopRegionSelected()), &services.roi, SLOT(slotStopManualROI()) },
+            { page.view, SIGNAL(signalScaleFactorChanged(double)), &services.roi,
+              SLOT(slotScaleFactorChanged(double)) },
+            { page.view, SIGNAL(signalScaleFactorChanged(double)), &services.cover,
+              SLOT(slotScaleFactorChanged(double)) },
+        }),
+        QStringList());
 }
 
 void CameraStackedWidgetTest::zoomCommandsCarryTheActiveReportManager()
@@ -204,8 +209,8 @@ void CameraStackedWidgetTest::zoomCommandsCarryTheActiveReportManager()
     qRegisterMetaType<ReportManager *>();
     ShellServices services;
     Page page;
-    QSignalSpy scale(&page.stack, SIGNAL(signalScaleView(ReportManager*,int)));
-    QSignalSpy factor(&page.stack, SIGNAL(signalSetScaleFactor(ReportManager*,double)));
+    QSignalSpy scale(&page.stack, SIGNAL(signalScaleView(ReportManager *, int)));
+    QSignalSpy factor(&page.stack, SIGNAL(signalSetScaleFactor(ReportManager *, double)));
     services.global.reportManager = &services.main;
     emit page.toolBar->signalSetZoomType(ZoomTypeFit);
     emit page.infoBar->signalSetZoomRatio(2.5);
@@ -222,7 +227,7 @@ void CameraStackedWidgetTest::otherManagersZoomDoesNotTouchTheView()
     ShellServices services;
     FakeCameraMainManager camera;
     Page page;
-    page.Show({600, 500});
+    page.Show({ 600, 500 });
     emit services.preview.signalPreviewImage(QImage(300, 200, QImage::Format_Grayscale8));
     page.stack.slotSetScaleFactor(1.0);
     QCOMPARE(page.view->transform().m11(), 1.0);
@@ -240,7 +245,7 @@ void CameraStackedWidgetTest::typedZoomReachesTheView()
     FakeCameraMainManager camera;
     services.cameraReport.imageSize = QSize(300, 200);
     Page page;
-    page.Show({600, 500});
+    page.Show({ 600, 500 });
     emit services.preview.signalPreviewImage(QImage(300, 200, QImage::Format_Grayscale8));
     auto *zoom = page.infoBar->findChild<QLineEdit *>("lineEditZoom");
     zoom->setText("400%");
@@ -256,7 +261,7 @@ void CameraStackedWidgetTest::liveFrameIsShownAndAnnounced()
     FakeCameraMainManager camera;
     services.cameraReport.imageSize = QSize(300, 200);
     Page page;
-    page.Show({600, 500});
+    page.Show({ 600, 500 });
     QImage frame(300, 200, QImage::Format_Grayscale8);
     frame.fill(130);
     CallLog::Clear();
@@ -364,7 +369,7 @@ void CameraStackedWidgetTest::compareButtonOnlyInCameraCompare()
     ShellServices services;
     FakeCameraMainManager camera;
     Page page;
-    for (int view : {CameraView, ImageView, FileView, CameraCompareView, ImageCompareView}) {
+    for (int view : { CameraView, ImageView, FileView, CameraCompareView, ImageCompareView }) {
         services.uiConfig.currentView = view;
         page.stack.UpdateViewOverlays();
         QCOMPARE(!page.Tool("pushButtonCloseCompare")->isHidden(), view == CameraCompareView);
@@ -427,7 +432,7 @@ void CameraStackedWidgetTest::placesItsBars()
     ShellServices services;
     DisplayScale scale(1.0);
     Page page;
-    page.Show({701, 601});
+    page.Show({ 701, 601 });
     QCOMPARE(page.infoBar->pos(), QPoint(0, 601 - 5 - page.infoBar->height()));
     const QPoint toolPos(701 - 30 - page.toolBar->width(), 601 / 2 - page.toolBar->height() / 2);
     QCOMPARE(page.toolBar->pos(), toolPos);
@@ -449,7 +454,7 @@ void CameraStackedWidgetTest::progressPanelTakesTheWholePage()
     ShellServices services;
     DisplayScale scale(1.0);
     Page page;
-    page.Show({600, 500});
+    page.Show({ 600, 500 });
     AcquireProgressUI *panel = page.stack.GetProgressPanel();
     panel->move(40, 30);
     page.stack.resize(610, 510);
@@ -469,7 +474,7 @@ void CameraStackedWidgetTest::resizeFitsThePicture()
     ShellServices services;
     FakeCameraMainManager camera;
     Page page;
-    page.Show({600, 500});
+    page.Show({ 600, 500 });
     emit services.preview.signalPreviewImage(QImage(300, 200, QImage::Format_Grayscale8));
     QCOMPARE(page.view->transform().m11(), 2.0);
     page.stack.resize(900, 800);
@@ -480,7 +485,7 @@ void CameraStackedWidgetTest::restoresItsMainPage()
 {
     ShellServices services;
     Page page;
-    page.Show({600, 500});
+    page.Show({ 600, 500 });
     emit services.preview.signalPreviewImage(QImage(300, 200, QImage::Format_Grayscale8));
     QWidget elsewhere;
     page.stack.addWidget(new QWidget(&page.stack));
@@ -495,7 +500,7 @@ void CameraStackedWidgetTest::restoresItsMainPage()
     QVERIFY(page.frame->isVisible());
     QCOMPARE(page.view->transform().m11(), 2.0);
     const QObjectList top = page.stack.children().mid(page.stack.children().size() - 2);
-    QCOMPARE(top, QObjectList({page.infoBar, page.toolBar}));
+    QCOMPARE(top, QObjectList({ page.infoBar, page.toolBar }));
 }
 
 void CameraStackedWidgetTest::restoredPageFollowsDisplayMode()

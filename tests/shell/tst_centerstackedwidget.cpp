@@ -71,16 +71,17 @@ void CenterStackedWidgetTest::madeWithFiveFloatingButtons()
         QVERIFY(button->text().isEmpty());
         checkable << button->isCheckable();
     }
-    QCOMPARE(checkable, QList<bool>({true, false, false, true, true}));
+    QCOMPARE(checkable, QList<bool>({ true, false, false, true, true }));
 }
 
 void CenterStackedWidgetTest::declaresItsSlotsInOrder()
 {
-    QCOMPARE(OwnMethods(CenterStackedWidget::staticMetaObject),
-             QStringList({"signalUpdateDockWidget()", "slotSetLeftPanelVisible(bool)", "slotSetRightPanelVisible()",
-                          "slotSetAnalysisPanelVisible()", "slotSetBottomPanelVisible(bool)", "slotUpdateUI()",
-                          "slotSetBlackBackground(bool)", "slotCaptureClicked()",
-                          "onFrameSaveThreadRunningChanged(bool)"}));
+    QCOMPARE(
+        OwnMethods(CenterStackedWidget::staticMetaObject),
+        QStringList({ "signalUpdateDockWidget()", "slotSetLeftPanelVisible(bool)",
+                      "slotSetRightPanelVisible()", "slotSetAnalysisPanelVisible()",
+                      "slotSetBottomPanelVisible(bool)", "slotUpdateUI()", "slotSetBlackBackground(bool)",
+                      "slotCaptureClicked()", "onFrameSaveThreadRunningChanged(bool)" }));
 }
 
 void CenterStackedWidgetTest::foldsAndUnfoldsPanels()
@@ -110,11 +111,12 @@ void CenterStackedWidgetTest::foldsAndUnfoldsPanels()
     centre.Bottom()->click();
     QCOMPARE(centre.Bottom()->objectName(), QString("pushButtonBottom"));
 
-    QCOMPARE(CallLog::Calls(),
-             QStringList({"UIConfigManager::SetLeftUIChecked(false)", "UIConfigManager::SetLeftUIChecked(true)",
-                          "UIConfigManager::SetRightUIChecked(false)", "UIConfigManager::SetRightUIChecked(true)",
-                          "UIConfigManager::SetBottomUIChecked(false)",
-                          "UIConfigManager::SetBottomUIChecked(true)"}));
+    QCOMPARE(
+        CallLog::Calls(),
+        QStringList({ "UIConfigManager::SetLeftUIChecked(false)", "UIConfigManager::SetLeftUIChecked(true)",
+                      "UIConfigManager::SetRightUIChecked(false)", "UIConfigManager::SetRightUIChecked(true)",
+                      "UIConfigManager::SetBottomUIChecked(false)",
+                      "UIConfigManager::SetBottomUIChecked(true)" }));
     QCOMPARE(docks.count(), 6);
 }
 
@@ -137,7 +139,8 @@ void CenterStackedWidgetTest::showsWhatTheFlagsSay()
     FakeServices services;
     services.uiConfig.leftToggleVisible = services.uiConfig.rightButtonsAvailable = available;
     services.uiConfig.bottomToggleVisible = available;
-    services.uiConfig.leftUIChecked = services.uiConfig.rightUIChecked = services.uiConfig.bottomUIChecked = shown;
+    services.uiConfig.leftUIChecked = services.uiConfig.rightUIChecked = services.uiConfig.bottomUIChecked =
+        shown;
     Centre centre;
     QCOMPARE(!centre.Left()->isHidden(), available);
     QCOMPARE(centre.Left()->isChecked(), shown);
@@ -282,7 +285,8 @@ void CenterStackedWidgetTest::keepsButtonsAbovePages()
     centre.widget.addWidget(page);
     page->raise();
     centre.widget.RaiseFloatingButtons();
-    const QList<QObject *> top{centre.Left(), centre.Bottom(), centre.Right(), centre.Analysis(), centre.Capture()};
+    const QList<QObject *> top{ centre.Left(), centre.Bottom(), centre.Right(), centre.Analysis(),
+                                centre.Capture() };
     QCOMPARE(centre.widget.children().mid(centre.widget.children().size() - 5), top);
 
     page->raise();

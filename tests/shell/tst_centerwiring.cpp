@@ -64,51 +64,54 @@ void CenterWiringTest::isWired()
     QObject *global = &services.global;
     QObject *config = &services.uiConfig;
     QVector<Wire> wires{
-        {fileSystem, SIGNAL(sglSwitchToPreviousView()), config, SLOT(slotFileViewReturn())},
-        {config, SIGNAL(signalSetMergeButtonVisible(bool)), thumbnail, SLOT(slotSetMergeButtonVisible(bool))},
-        {config, SIGNAL(signalSetSelectButtonVisible(bool)), list, SLOT(slotSetSelectButtonVisible(bool))},
-        {thumbnail, SIGNAL(signalMergeImages(QList<QString>)), &services.advancedProcess,
-         SLOT(slotMergeImages(QList<QString>))},
-        {list, SIGNAL(sglShowFileThumbnail(QString)), thumbnail, SLOT(slotOpenFileDirectory(QString))},
-        {list, SIGNAL(signalSetFileView()), config, SLOT(slotSetFileView())},
-        {list, SIGNAL(signalCompare()), global, SLOT(slotSetCompareView())},
-        {list, SIGNAL(signalSwitchToPreviousView()), config, SLOT(slotFileViewReturn())},
-        {list, SIGNAL(signalRename(QObject*,QString)), global, SLOT(slotRename(QObject*,QString))},
-        {list, SIGNAL(signalCloseAllOpenedImage()), global, SLOT(slotCloseAllImage())},
-        {list, SIGNAL(signalCloseImage(QObject*)), global, SLOT(slotCloseImage(QObject*))},
-        {list, SIGNAL(signalSetImageChecked(QObject*,bool)), global, SLOT(slotSetImageChecked(QObject*,bool))},
-        {list, SIGNAL(signalSetAllImageChecked(bool)), global, SLOT(slotSetAllImageChecked(bool))},
-        {&services.compareSaver, SIGNAL(signalSaveCompare()), global, SLOT(slotSaveCompare())},
-        {list, SIGNAL(signalOpenImage(QString,QObject*)), global, SLOT(slotOpenImage(QString,QObject*))},
-        {saveKey, SIGNAL(activated()), &services.active, SLOT(slotSaveImageAs())},
-        {&services.active, SIGNAL(sglAddThumbnail(QImage)), list, SLOT(slotAddThumbnail(QImage))},
-        {config, SIGNAL(signalAddToThumbnailList(QString)), list, SLOT(slotAddToThumbnailList(QString))},
-        {cameraView, SIGNAL(signalGraphicsViewPressed(QGraphicsScene*)), global,
-         SLOT(slotSetGraphicsScene(QGraphicsScene*))},
-        {imageView, SIGNAL(signalGraphicsViewPressed(QGraphicsScene*)), global,
-         SLOT(slotSetGraphicsScene(QGraphicsScene*))},
-        {&services.advancedProcess, SIGNAL(signalNewImageCopy(void*)), &services.main,
-         SLOT(slotNewImageCopy(void*))},
-        {&services.fluorescence, SIGNAL(signalNewImageCopy(void*)), &services.main,
-         SLOT(slotNewImageCopy(void*))},
-        {&services.useArea, SIGNAL(signalUpdateUseArea()), host.ui, SLOT(slotUpdateUseArea())},
-        {config, SIGNAL(signalSwitchView()), host.ui, SLOT(slotSwitchView())},
-        {global, SIGNAL(signalUpdateImageCompareFrame()), host.ui, SLOT(slotUpdateImageCompareFrame())},
-        {&services.spectrumUI, SIGNAL(signalDisplayModeChange()), host.ui, SLOT(slotDisplayModeChange())},
+        { fileSystem, SIGNAL(sglSwitchToPreviousView()), config, SLOT(slotFileViewReturn()) },
+        { config, SIGNAL(signalSetMergeButtonVisible(bool)), thumbnail,
+          SLOT(slotSetMergeButtonVisible(bool)) },
+        { config, SIGNAL(signalSetSelectButtonVisible(bool)), list, SLOT(slotSetSelectButtonVisible(bool)) },
+        { thumbnail, SIGNAL(signalMergeImages(QList<QString>)), &services.advancedProcess,
+          SLOT(slotMergeImages(QList<QString>)) },
+        { list, SIGNAL(sglShowFileThumbnail(QString)), thumbnail, SLOT(slotOpenFileDirectory(QString)) },
+        { list, SIGNAL(signalSetFileView()), config, SLOT(slotSetFileView()) },
+        { list, SIGNAL(signalCompare()), global, SLOT(slotSetCompareView()) },
+        { list, SIGNAL(signalSwitchToPreviousView()), config, SLOT(slotFileViewReturn()) },
+        { list, SIGNAL(signalRename(QObject *, QString)), global, SLOT(slotRename(QObject *, QString)) },
+        { list, SIGNAL(signalCloseAllOpenedImage()), global, SLOT(slotCloseAllImage()) },
+        { list, SIGNAL(signalCloseImage(QObject *)), global, SLOT(slotCloseImage(QObject *)) },
+        { list, SIGNAL(signalSetImageChecked(QObject *, bool)), global,
+          SLOT(slotSetImageChecked(QObject *, bool)) },
+        { list, SIGNAL(signalSetAllImageChecked(bool)), global, SLOT(slotSetAllImageChecked(bool)) },
+        { &services.compareSaver, SIGNAL(signalSaveCompare()), global, SLOT(slotSaveCompare()) },
+        { list, SIGNAL(signalOpenImage(QString, QObject *)), global,
+          SLOT(slotOpenImage(QString, QObject *)) },
+        { saveKey, SIGNAL(activated()), &services.active, SLOT(slotSaveImageAs()) },
+        { &services.active, SIGNAL(sglAddThumbnail(QImage)), list, SLOT(slotAddThumbnail(QImage)) },
+        { config, SIGNAL(signalAddToThumbnailList(QString)), list, SLOT(slotAddToThumbnailList(QString)) },
+        { cameraView, SIGNAL(signalGraphicsViewPressed(QGraphicsScene *)), global,
+          SLOT(slotSetGraphicsScene(QGraphicsScene *)) },
+        { imageView, SIGNAL(signalGraphicsViewPressed(QGraphicsScene *)), global,
+          SLOT(slotSetGraphicsScene(QGraphicsScene *)) },
+        { &services.advancedProcess, SIGNAL(signalNewImageCopy(void *)), &services.main,
+          SLOT(slotNewImageCopy(void *)) },
+        { &services.fluorescence, SIGNAL(signalNewImageCopy(void *)), &services.main,
+          SLOT(slotNewImageCopy(void *)) },
+        { &services.useArea, SIGNAL(signalUpdateUseArea()), host.ui, SLOT(slotUpdateUseArea()) },
+        { config, SIGNAL(signalSwitchView()), host.ui, SLOT(slotSwitchView()) },
+        { global, SIGNAL(signalUpdateImageCompareFrame()), host.ui, SLOT(slotUpdateImageCompareFrame()) },
+        { &services.spectrumUI, SIGNAL(signalDisplayModeChange()), host.ui, SLOT(slotDisplayModeChange()) },
     };
-    const QVector<QPair<DrawViewBase *, QObject *>> mouseReceivers{
-        {imageView, &services.main},
-        {host.ImageStack()->GetSecondDrawView(), &services.compare},
-        {cameraView, host.ui}};
+    const QVector<QPair<DrawViewBase *, QObject *>> mouseReceivers{ { imageView, &services.main },
+                                                                    { host.ImageStack()->GetSecondDrawView(),
+                                                                      &services.compare },
+                                                                    { cameraView, host.ui } };
     for (const auto &pair : mouseReceivers) {
-        wires << Wire{pair.first, SIGNAL(signalMouseMoveEvent(QMouseEvent*)), pair.second,
-                      SLOT(slotMouseMoveEvent(QMouseEvent*))}
-              << Wire{pair.first, SIGNAL(signalMousePressEvent(QMouseEvent*,QPointF)), pair.second,
-                      SLOT(slotMousePressEvent(QMouseEvent*,QPointF))}
-              << Wire{pair.first, SIGNAL(signalMouseReleaseEvent(QMouseEvent*)), pair.second,
-                      SLOT(slotMouseReleaseEvent(QMouseEvent*))}
-              << Wire{pair.first, SIGNAL(signalMouseDoubleClickEvent(QMouseEvent*)), pair.second,
-                      SLOT(slotMouseDoubleClickEvent(QMouseEvent*))};
+        wires << Wire{ pair.first, SIGNAL(signalMouseMoveEvent(QMouseEvent *)), pair.second,
+                       SLOT(slotMouseMoveEvent(QMouseEvent *)) }
+              << Wire{ pair.first, SIGNAL(signalMousePressEvent(QMouseEvent *, QPointF)), pair.second,
+                       SLOT(slotMousePressEvent(QMouseEvent *, QPointF)) }
+              << Wire{ pair.first, SIGNAL(signalMouseReleaseEvent(QMouseEvent *)), pair.second,
+                       SLOT(slotMouseReleaseEvent(QMouseEvent *)) }
+              << Wire{ pair.first, SIGNAL(signalMouseDoubleClickEvent(QMouseEvent *)), pair.second,
+                       SLOT(slotMouseDoubleClickEvent(QMouseEvent *)) };
     }
     QCOMPARE(MissingWires(wires), QStringList());
 }
@@ -130,12 +133,12 @@ void CenterWiringTest::thumbnailCommandsReachTheManagers()
     emit host.services.compareSaver.signalSaveCompare();
     emit list->signalOpenImage("b.tif", nullptr);
     QCOMPARE(CallLog::Calls(),
-             QStringList({"UIConfigManager::slotSetFileView()", "GlobalManager::slotSetCompareView()",
-                          "UIConfigManager::slotFileViewReturn()", "GlobalManager::slotRename(a.tif)",
-                          "GlobalManager::slotCloseAllImage()", "GlobalManager::slotCloseImage()",
-                          "GlobalManager::slotSetImageChecked(true)",
-                          "GlobalManager::slotSetAllImageChecked(false)", "GlobalManager::slotSaveCompare()",
-                          "GlobalManager::slotOpenImage(b.tif)"}));
+             QStringList({ "UIConfigManager::slotSetFileView()", "GlobalManager::slotSetCompareView()",
+                           "UIConfigManager::slotFileViewReturn()", "GlobalManager::slotRename(a.tif)",
+                           "GlobalManager::slotCloseAllImage()", "GlobalManager::slotCloseImage()",
+                           "GlobalManager::slotSetImageChecked(true)",
+                           "GlobalManager::slotSetAllImageChecked(false)", "GlobalManager::slotSaveCompare()",
+                           "GlobalManager::slotOpenImage(b.tif)" }));
 }
 
 void CenterWiringTest::newPicturesAndThumbnails()
@@ -148,11 +151,12 @@ void CenterWiringTest::newPicturesAndThumbnails()
     emit host.services.uiConfig.signalSetSelectButtonVisible(true);
     emit host.services.advancedProcess.signalNewImageCopy(nullptr);
     emit host.services.fluorescence.signalNewImageCopy(nullptr);
-    emit host.window.findChild<FileThumbnail *>()->signalMergeImages({"a", "b"});
-    QCOMPARE(CallLog::Calls(),
-             QStringList({"ThumbnailList::slotAddThumbnail()", "ThumbnailList::slotAddToThumbnailList(c.tif)",
-                          "ThumbnailList::slotSetSelectButtonVisible(true)", "main slotNewImageCopy()",
-                          "main slotNewImageCopy()", "AdvancedProcessManager::slotMergeImages()"}));
+    emit host.window.findChild<FileThumbnail *>()->signalMergeImages({ "a", "b" });
+    QCOMPARE(
+        CallLog::Calls(),
+        QStringList({ "ThumbnailList::slotAddThumbnail()", "ThumbnailList::slotAddToThumbnailList(c.tif)",
+                      "ThumbnailList::slotSetSelectButtonVisible(true)", "main slotNewImageCopy()",
+                      "main slotNewImageCopy()", "AdvancedProcessManager::slotMergeImages()" }));
 }
 
 void CenterWiringTest::f8SavesTheActiveImage()
@@ -168,8 +172,8 @@ void CenterWiringTest::f8SavesTheActiveImage()
     QCOMPARE(saveKey->context(), Qt::WindowShortcut);
     CallLog::Clear();
     // Wherever in the window the focus is.
-    for (QWidget *focus : {static_cast<QWidget *>(&host.window),
-                           static_cast<QWidget *>(host.ui->GetLeftStackedWidget()->currentWidget())}) {
+    for (QWidget *focus : { static_cast<QWidget *>(&host.window),
+                            static_cast<QWidget *>(host.ui->GetLeftStackedWidget()->currentWidget()) }) {
         focus->setFocus();
         QTest::keyClick(focus, Qt::Key_F8);
     }
@@ -180,8 +184,8 @@ void CenterWiringTest::pressedViewGetsTheFocus()
 {
     ShellHost host;
     host.Build();
-    for (DrawViewBase *view : {host.CameraStack()->GetMainDrawView(), host.ImageStack()->GetMainDrawView(),
-                               host.ImageStack()->GetSecondDrawView()}) {
+    for (DrawViewBase *view : { host.CameraStack()->GetMainDrawView(), host.ImageStack()->GetMainDrawView(),
+                                host.ImageStack()->GetSecondDrawView() }) {
         CallLog::Clear();
         emit view->signalGraphicsViewPressed(view->scene());
         QCOMPARE(CallLog::Calls(), QStringList("GlobalManager::slotSetGraphicsScene()"));
@@ -195,9 +199,9 @@ void CenterWiringTest::mouseOnTheLiveView()
     CallLog::Clear();
     EmitMouse(host.CameraStack()->GetMainDrawView());
     QCOMPARE(CallLog::Calls(), // the release has no effect
-             QStringList({"ReportManager::LineProfileMouseMoveEvent()", "MeasureManager::mouseMoveEvent()",
-                          "GlobalManager::MousePressEvent((3.5, 2.5))",
-                          "MeasureManager::mouseDoubleClickEvent()"}));
+             QStringList({ "ReportManager::LineProfileMouseMoveEvent()", "MeasureManager::mouseMoveEvent()",
+                           "GlobalManager::MousePressEvent((3.5, 2.5))",
+                           "MeasureManager::mouseDoubleClickEvent()" }));
 }
 
 void CenterWiringTest::mouseOnTheImageViews()
@@ -208,9 +212,9 @@ void CenterWiringTest::mouseOnTheImageViews()
     EmitMouse(host.ImageStack()->GetMainDrawView());
     EmitMouse(host.ImageStack()->GetSecondDrawView());
     QStringList calls;
-    for (const char *name : {"main", "compare"}) {
-        for (const char *call : {"slotMouseMoveEvent()", "slotMousePressEvent((3.5, 2.5))",
-                                 "slotMouseReleaseEvent()", "slotMouseDoubleClickEvent()"})
+    for (const char *name : { "main", "compare" }) {
+        for (const char *call : { "slotMouseMoveEvent()", "slotMousePressEvent((3.5, 2.5))",
+                                  "slotMouseReleaseEvent()", "slotMouseDoubleClickEvent()" })
             calls << QString("%1 %2").arg(name, call);
     }
     QCOMPARE(CallLog::Calls(), calls);

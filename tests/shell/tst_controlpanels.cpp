@@ -30,7 +30,7 @@ QStringList TabTexts(const QTabWidget *tabs)
 }
 
 /// Services, the tests' panels and a window around one manager.
-template<class Manager>
+template <class Manager>
 struct Bench
 {
     Bench()
@@ -61,15 +61,15 @@ struct Bench
         return page->findChild<QTabWidget *>();
     }
 
-    DisplayScale scale{1.0};
+    DisplayScale scale{ 1.0 };
     ShellServices services;
     QWidget window;
     QScopedPointer<Manager> manager;
 };
 
-const QList<int> cameraIds{0, 1, 2, 3, 20};
-const QList<int> imageIds{4, 5, 6};
-const QList<int> measureIds{7, 8, 13, 64, 9, 11, 21, 22, 23};
+const QList<int> cameraIds{ 0, 1, 2, 3, 20 };
+const QList<int> imageIds{ 4, 5, 6 };
+const QList<int> measureIds{ 7, 8, 13, 64, 9, 11, 21, 22, 23 };
 
 } // namespace
 
@@ -113,12 +113,12 @@ private slots:
 void ControlPanelsTest::slotsInOrder()
 {
     QCOMPARE(OwnMethods(CameraUI::staticMetaObject),
-             QStringList({"slotCameraTabWidgetCurrentChanged(int)", "slotUpdateUI()"}));
+             QStringList({ "slotCameraTabWidgetCurrentChanged(int)", "slotUpdateUI()" }));
     QCOMPARE(OwnMethods(ImageUI::staticMetaObject),
-             QStringList({"slotImageTabWidgetCurrentChanged(int)", "slotUpdateImageControlUI()"}));
+             QStringList({ "slotImageTabWidgetCurrentChanged(int)", "slotUpdateImageControlUI()" }));
     QCOMPARE(OwnMethods(MeasureUI::staticMetaObject),
-             QStringList({"slotUpdateMeasureControlUI()", "slotMeasureGraphicsListChanged()",
-                          "slotRaiseAutoCountUI()"}));
+             QStringList({ "slotUpdateMeasureControlUI()", "slotMeasureGraphicsListChanged()",
+                           "slotRaiseAutoCountUI()" }));
 }
 
 void ControlPanelsTest::cameraPage()
@@ -134,7 +134,7 @@ void ControlPanelsTest::cameraPage()
     QCOMPARE(column->itemAt(0)->widget()->objectName(), QString("CapturePreviewUI"));
     QTabWidget *tabs = bench.Place(page);
     QCOMPARE(column->itemAt(1)->widget(), static_cast<QWidget *>(tabs));
-    QCOMPARE(TabTexts(tabs), QStringList({"Camera", "Adjustment", "Hardware", "Acquisition"}));
+    QCOMPARE(TabTexts(tabs), QStringList({ "Camera", "Adjustment", "Hardware", "Acquisition" }));
     for (int i = 0; i < 4; ++i)
         QVERIFY(tabs->widget(i)->isAncestorOf(bench.Panel(i)));
     QVERIFY(!TakePanelUpdates().isEmpty());
@@ -162,8 +162,8 @@ void ControlPanelsTest::cameraTabs_data()
     QTest::addColumn<QStringList>("texts");
     QTest::addColumn<int>("width");
     QTest::newRow("with hardware settings")
-        << true << QStringList{"Camera", "Adjustment", "Hardware", "Acquisition"} << 93;
-    QTest::newRow("without") << false << QStringList{"Camera", "Adjustment", "Acquisition"} << 124;
+        << true << QStringList{ "Camera", "Adjustment", "Hardware", "Acquisition" } << 93;
+    QTest::newRow("without") << false << QStringList{ "Camera", "Adjustment", "Acquisition" } << 124;
 }
 
 void ControlPanelsTest::cameraTabs()
@@ -221,7 +221,7 @@ void ControlPanelsTest::cameraUpdate()
     FakeCameraMainManager camera;
     bench.manager->slotUpdateUI();
     // Loaded in the order of their file names: 0, 1, 2, 20, 3.
-    QCOMPARE(TakePanelUpdates(), QVector<int>({3, 20, 2, 1, 0}));
+    QCOMPARE(TakePanelUpdates(), QVector<int>({ 3, 20, 2, 1, 0 }));
     QVERIFY(capture->findChild<QWidget *>("CapturePreviewUI")->isEnabled());
     QVERIFY(bench.manager->GetImageStack()->GetMainFrame()->isEnabled());
     QCOMPARE(CallLog::Calls(), QStringList("CameraConfigManager::UpdateGraphicsRegionItem()"));
@@ -288,7 +288,7 @@ void ControlPanelsTest::displayModeChoosesPage()
     auto *image = qobject_cast<QStackedWidget *>(imageUI->GetImageStack()->parentWidget());
     QVERIFY(wrapper->isAncestorOf(image));
     cameraBench.services.spectrumUI.displayMode2D = true;
-    for (int mode : {0, 1, 4, 0}) {
+    for (int mode : { 0, 1, 4, 0 }) {
         cameraBench.services.displayModeUI.currentDisplayMode = mode;
         cameraBench.manager->OnDisplayModeChange();
         imageUI->OnDisplayModeChange();
@@ -313,7 +313,7 @@ void ControlPanelsTest::imagePage()
     QVERIFY(qobject_cast<ImageNavigateUI *>(column->itemAt(0)->widget()));
     QTabWidget *tabs = bench.Place(page);
     QCOMPARE(column->itemAt(1)->widget(), static_cast<QWidget *>(tabs));
-    QCOMPARE(TabTexts(tabs), QStringList({"Adjustment", "Process", "Automatic Counting"}));
+    QCOMPARE(TabTexts(tabs), QStringList({ "Adjustment", "Process", "Automatic Counting" }));
     QCOMPARE(tabs->currentIndex(), 1);
     QCOMPARE(CallLog::Calls(), QStringList()); // restoring is no choice of the user's
     for (int i = 0; i < 3; ++i)
@@ -354,8 +354,8 @@ void ControlPanelsTest::imageUpdate()
     TakePanelUpdates();
     QVERIFY(!back->isEnabled());
     emit bench.services.uiConfig.signalUpdateImageControlUI();
-    QCOMPARE(TakePanelUpdates(), QVector<int>({6, 5, 4}));
-    QCOMPARE(bench.Disabled(imageIds), enabled ? QSet<int>() : QSet<int>({4, 5, 6}));
+    QCOMPARE(TakePanelUpdates(), QVector<int>({ 6, 5, 4 }));
+    QCOMPARE(bench.Disabled(imageIds), enabled ? QSet<int>() : QSet<int>({ 4, 5, 6 }));
     QVERIFY(back->isEnabled());
 }
 
@@ -365,14 +365,14 @@ void ControlPanelsTest::imagePanelsRestWhileCounting()
     bench.Load();
     bench.manager->CreateCenterWidget(&bench.window);
     bench.manager->slotUpdateImageControlUI();
-    QCOMPARE(bench.Disabled(imageIds), QSet<int>({4, 5, 6}));
+    QCOMPARE(bench.Disabled(imageIds), QSet<int>({ 4, 5, 6 }));
     TakePanelUpdates();
     bench.services.autoCount.counting = true;
     bench.services.global.imageEnabled = true;
     bench.services.active.senImage = true;
     bench.manager->slotUpdateImageControlUI();
     QCOMPARE(TakePanelUpdates(), QVector<int>());
-    QCOMPARE(bench.Disabled(imageIds), QSet<int>({4, 5, 6}));
+    QCOMPARE(bench.Disabled(imageIds), QSet<int>({ 4, 5, 6 }));
     // The page's own bars are refreshed all the same.
     QVERIFY(!bench.manager->GetImageStack()->findChild<QWidget *>("pushButtonImageInfo")->isHidden());
 }
@@ -418,12 +418,12 @@ void ControlPanelsTest::measureConstruction()
     Bench<MeasureUI> bench;
     QVERIFY(CallLog::Count("MeasureManager::InitMeasuring()") > 0);
     QCOMPARE(MissingWires({
-                 {&bench.services.uiConfig, SIGNAL(signalUpdateMeasureControlUI()), bench.manager.data(),
-                  SLOT(slotUpdateMeasureControlUI())},
-                 {&bench.services.measureConfig, SIGNAL(signalMeasureGraphicsListChanged()), bench.manager.data(),
-                  SLOT(slotMeasureGraphicsListChanged())},
-                 {&bench.services.autoCount, SIGNAL(signalAutoCountDataChanged()), bench.manager.data(),
-                  SLOT(slotRaiseAutoCountUI())},
+                 { &bench.services.uiConfig, SIGNAL(signalUpdateMeasureControlUI()), bench.manager.data(),
+                   SLOT(slotUpdateMeasureControlUI()) },
+                 { &bench.services.measureConfig, SIGNAL(signalMeasureGraphicsListChanged()),
+                   bench.manager.data(), SLOT(slotMeasureGraphicsListChanged()) },
+                 { &bench.services.autoCount, SIGNAL(signalAutoCountDataChanged()), bench.manager.data(),
+                   SLOT(slotRaiseAutoCountUI()) },
              }),
              QStringList());
 }
@@ -446,7 +446,7 @@ void ControlPanelsTest::measureUpdate_data()
     QTest::addColumn<QSet<int>>("disabled");
     const QSet<int> all(measureIds.begin(), measureIds.end());
     const QSet<int> none;
-    const QSet<int> needImage{13, 64};
+    const QSet<int> needImage{ 13, 64 };
     QTest::newRow("camera") << true << true << false << false << none;
     QTest::newRow("camera, no measuring") << false << true << true << false << all;
     QTest::newRow("image") << true << false << true << false << none;
@@ -470,7 +470,7 @@ void ControlPanelsTest::measureUpdate()
         bench.services.global.reportManager = &bench.services.main;
     bench.manager->ActivateControlUI();
     // Loaded folder by folder, in the order of their file names.
-    QCOMPARE(TakePanelUpdates(), QVector<int>({11, 9, 8, 7, 64, 23, 22, 21, 13}));
+    QCOMPARE(TakePanelUpdates(), QVector<int>({ 11, 9, 8, 7, 64, 23, 22, 21, 13 }));
     QTEST(bench.Disabled(measureIds), "disabled");
 }
 
@@ -519,7 +519,7 @@ void ControlPanelsTest::measureIgnoresOtherNotifications()
     QTabWidget bottom;
     bottom.addTab(new QWidget, "File Preview");
     bench.manager->SetBottomControlUIPanel(&bottom);
-    for (int id : {0, 11, 13, 14, 16, 64, 65, 71, 90})
+    for (int id : { 0, 11, 13, 14, 16, 64, 65, 71, 90 })
         GlobalNotifyObserver(id, nullptr);
     QCOMPARE(bottom.currentIndex(), 0);
     bench.manager.reset();

@@ -16,7 +16,7 @@ private slots:
 void ExportedSymbolsTest::oneClassLeavesTheLibrary()
 {
     QProcess nm;
-    nm.start(NM_PROGRAM, {"-D", "--defined-only", "-C", GLOBALUI_LIBRARY_FILE});
+    nm.start(NM_PROGRAM, { "-D", "--defined-only", "-C", GLOBALUI_LIBRARY_FILE });
     QVERIFY2(nm.waitForFinished(), qPrintable(nm.errorString()));
     QCOMPARE(nm.exitCode(), 0);
 
@@ -24,16 +24,17 @@ void ExportedSymbolsTest::oneClassLeavesTheLibrary()
     const QRegularExpression ofGlobalUI(
         "^((vtable|typeinfo|typeinfo name|VTT) for GlobalUI|(non-virtual thunk to |guard variable for )?GlobalUI::.*)$");
     QStringList symbols;
-    for (const QString &text : QString::fromUtf8(nm.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts)) {
+    for (const QString &text :
+         QString::fromUtf8(nm.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts)) {
         const QRegularExpressionMatch match = line.match(text);
         QVERIFY2(match.hasMatch(), qPrintable(text));
         symbols << match.captured(1);
         QVERIFY2(ofGlobalUI.match(symbols.last()).hasMatch(), qPrintable(symbols.last()));
     }
-    for (const char *needed : {"GlobalUI::GetInstance()", "GlobalUI::InitMainUI(QWidget*)",
-                               "GlobalUI::GetCenterStackedWidget()", "GlobalUI::GetCenterStackedWidget(QWidget*)",
-                               "GlobalUI::UpdateObserver(int, void*)", "GlobalUI::staticMetaObject",
-                               "vtable for GlobalUI", "typeinfo for GlobalUI"})
+    for (const char *needed :
+         { "GlobalUI::GetInstance()", "GlobalUI::InitMainUI(QWidget*)", "GlobalUI::GetCenterStackedWidget()",
+           "GlobalUI::GetCenterStackedWidget(QWidget*)", "GlobalUI::UpdateObserver(int, void*)",
+           "GlobalUI::staticMetaObject", "vtable for GlobalUI", "typeinfo for GlobalUI" })
         QVERIFY2(symbols.contains(needed), needed);
 }
 

@@ -66,11 +66,11 @@ void GlobalUITest::isOneObjectUntilItIsDeleted()
 void GlobalUITest::declaresItsSlotsInOrder()
 {
     QCOMPARE(OwnMethods(GlobalUI::staticMetaObject),
-             QStringList({"slotRightTabWidgetCurrentChanged(int)", "slotBottomTabWidgetCurrentChanged(int)",
-                          "slotSwitchView()", "slotMouseMoveEvent(QMouseEvent*)",
-                          "slotMousePressEvent(QMouseEvent*,QPointF)", "slotMouseReleaseEvent(QMouseEvent*)",
-                          "slotMouseDoubleClickEvent(QMouseEvent*)", "slotUpdateUseArea()",
-                          "slotUpdateImageCompareFrame()", "slotDisplayModeChange()"}));
+             QStringList({ "slotRightTabWidgetCurrentChanged(int)", "slotBottomTabWidgetCurrentChanged(int)",
+                           "slotSwitchView()", "slotMouseMoveEvent(QMouseEvent*)",
+                           "slotMousePressEvent(QMouseEvent*,QPointF)", "slotMouseReleaseEvent(QMouseEvent*)",
+                           "slotMouseDoubleClickEvent(QMouseEvent*)", "slotUpdateUseArea()",
+                           "slotUpdateImageCompareFrame()", "slotDisplayModeChange()" }));
     for (int i = GlobalUI::staticMetaObject.methodOffset(); i < GlobalUI::staticMetaObject.methodCount(); ++i)
         QCOMPARE(GlobalUI::staticMetaObject.method(i).access(), QMetaMethod::Private);
 }
@@ -78,7 +78,7 @@ void GlobalUITest::declaresItsSlotsInOrder()
 void GlobalUITest::makesItsWidgetsWithoutParent()
 {
     ShellHost host;
-    for (const char *name : {"FileSystemView", "CompareFrame", "CapturePreviewUI"})
+    for (const char *name : { "FileSystemView", "CompareFrame", "CapturePreviewUI" })
         QVERIFY2(FindTopLevel(name), name);
     QVERIFY(!FindTopLevel("FileThumbnail"));
     QVERIFY(CallLog::Count("MeasureManager::InitMeasuring()") > 0);
@@ -99,16 +99,16 @@ void GlobalUITest::deletesInOrder()
     WatchDestruction(host.window.findChild<FileSystemView *>(), "file system view");
     WatchDestruction(host.Compare(), "compare frame");
     WatchDestruction(host.window.findChild<FileThumbnail *>(), "file thumbnail view");
-    for (QWidget *area : {static_cast<QWidget *>(host.ui->GetCenterStackedWidget()),
-                          static_cast<QWidget *>(host.ui->GetLeftStackedWidget()),
-                          static_cast<QWidget *>(host.ui->GetRightTabWidget()),
-                          static_cast<QWidget *>(host.ui->GetBottomTabWidget())})
+    for (QWidget *area : { static_cast<QWidget *>(host.ui->GetCenterStackedWidget()),
+                           static_cast<QWidget *>(host.ui->GetLeftStackedWidget()),
+                           static_cast<QWidget *>(host.ui->GetRightTabWidget()),
+                           static_cast<QWidget *>(host.ui->GetBottomTabWidget()) })
         WatchDestruction(area, "area");
     CallLog::Clear();
     delete host.ui;
     host.ui = nullptr;
-    QCOMPARE(CallLog::Calls(), QStringList({"destroyed file system view()", "destroyed compare frame()",
-                                            "destroyed file thumbnail view()"}));
+    QCOMPARE(CallLog::Calls(), QStringList({ "destroyed file system view()", "destroyed compare frame()",
+                                             "destroyed file thumbnail view()" }));
 }
 
 void GlobalUITest::hostWindowMayGoFirst()
@@ -144,7 +144,7 @@ void GlobalUITest::hostWindowMayStayBehind()
     host.services.spectrumUI.multiTrackOnFlag = true;
     host.services.spectrumUI.fvbOnFlag = 1;
     host.services.spectrumUI.fvbModeAuto = true;
-    host.services.spectrum.endPointList = {QPointF(0, 1), QPointF(0, 2)};
+    host.services.spectrum.endPointList = { QPointF(0, 1), QPointF(0, 2) };
     host.SwitchTo(view);
     delete host.ui;
     host.ui = nullptr;
@@ -187,8 +187,8 @@ void GlobalUITest::updateReachesCameraAndMeasurePanels()
     host.Build();
     TakePanelUpdates();
     host.ui->UpdateUI();
-    const QVector<int> camera{3, 20, 2, 1, 0};
-    const QVector<int> measure{11, 9, 8, 7, 64, 23, 22, 21, 13};
+    const QVector<int> camera{ 3, 20, 2, 1, 0 };
+    const QVector<int> measure{ 11, 9, 8, 7, 64, 23, 22, 21, 13 };
     QCOMPARE(TakePanelUpdates(), camera + measure);
     host.ui->ActivateMeasureControlUI();
     QCOMPARE(TakePanelUpdates(), measure);

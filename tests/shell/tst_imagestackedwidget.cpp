@@ -63,19 +63,20 @@ private slots:
 void ImageStackedWidgetTest::declaresItsSlotsInOrder()
 {
     QCOMPARE(OwnMethods(ImageStackedWidget::staticMetaObject),
-             QStringList({"slotUpdateImageInfoUI()", "slotRotateImage(int)", "slotSaveImageAs()", "slotImageCrop()",
-                          "slotImageInfo()"}));
+             QStringList({ "slotUpdateImageInfoUI()", "slotRotateImage(int)", "slotSaveImageAs()",
+                           "slotImageCrop()", "slotImageInfo()" }));
 }
 
 void ImageStackedWidgetTest::asksTheServicesInOrder()
 {
     ShellServices services;
     Page page;
-    QCOMPARE(CallLog::Calls(),
-             QStringList({"GlobalManager::SetImageGraphicsScene()", "active ConnectWidthDrawView(false)",
-                          "GlobalManager::SetImageGraphicsSceneEx()", "compare ConnectWidthDrawView(false)"}));
-    QCOMPARE(services.active.connectedViews, QVector<QObject *>{page.view});
-    QCOMPARE(services.compare.connectedViews, QVector<QObject *>{page.second});
+    QCOMPARE(
+        CallLog::Calls(),
+        QStringList({ "GlobalManager::SetImageGraphicsScene()", "active ConnectWidthDrawView(false)",
+                      "GlobalManager::SetImageGraphicsSceneEx()", "compare ConnectWidthDrawView(false)" }));
+    QCOMPARE(services.active.connectedViews, QVector<QObject *>{ page.view });
+    QCOMPARE(services.compare.connectedViews, QVector<QObject *>{ page.second });
     QCOMPARE(page.view->GetViewManager(), static_cast<ReportManager *>(&services.main));
     QCOMPARE(page.second->GetViewManager(), static_cast<ReportManager *>(&services.compare));
     QVERIFY(!page.Tool("pushButtonSaveAs")->isHidden());
@@ -97,32 +98,33 @@ void ImageStackedWidgetTest::isWired()
     ShellServices services;
     Page page;
     CropFrame *cropFrame = page.view->GetCropFrame();
-    QCOMPARE(MissingWires({
-                 {&services.main, SIGNAL(signalSetBrush()), page.view, SLOT(slotSetBrush())},
-                 {page.view, SIGNAL(signalFinishSetBrush()), &services.main, SLOT(slotFinishSetBrush())},
-                 {&services.frameProcess, SIGNAL(signalDraw(QImage)), page.view, SLOT(slotPaintPreview(QImage))},
-                 {page.view, SIGNAL(signalScaleFactorChanged(double)), &services.frameProcess,
-                  SLOT(slotScaleFactorChanged(double))},
-                 {&services.active, SIGNAL(signalSetCropState(int,bool)), cropFrame,
-                  SLOT(slotSetCropState(int,bool))},
-                 {cropFrame, SIGNAL(signalSetSelectRegion(int,int,int,int,bool)), &services.active,
-                  SLOT(slotCrop(int,int,int,int,bool))},
-                 {page.toolBar, SIGNAL(signalRotateImage(int)), &page.stack, SLOT(slotRotateImage(int))},
-                 {page.toolBar, SIGNAL(signalSaveAs()), &page.stack, SLOT(slotSaveImageAs())},
-                 {page.toolBar, SIGNAL(signalCrop()), &page.stack, SLOT(slotImageCrop())},
-                 {page.toolBar, SIGNAL(signalImageInfo()), &page.stack, SLOT(slotImageInfo())},
-                 {&services.active, SIGNAL(signalUpdateFileName(QString)), page.infoBar,
-                  SLOT(slotUpdateFileName(QString))},
-                 {&services.compare, SIGNAL(signalSetBrush()), page.second, SLOT(slotSetBrush())},
-                 {page.second, SIGNAL(signalFinishSetBrush()), &services.compare, SLOT(slotFinishSetBrush())},
-                 {page.second, SIGNAL(signalGraphicsViewPressed(QGraphicsScene*)), &services.global,
-                  SLOT(slotSetGraphicsScene(QGraphicsScene*))},
-                 {&page.stack, SIGNAL(signalScaleView(ReportManager*,int)), page.second,
-                  SLOT(slotScaleView(ReportManager*,int))},
-                 {&page.stack, SIGNAL(signalSetScaleFactor(ReportManager*,double)), page.second,
-                  SLOT(slotSetScaleFactor(ReportManager*,double))},
-             }),
-             QStringList());
+    QCOMPARE(
+        MissingWires({
+            { &services.main, SIGNAL(signalSetBrush()), page.view, SLOT(slotSetBrush()) },
+            { page.view, SIGNAL(signalFinishSetBrush()), &services.main, SLOT(slotFinishSetBrush()) },
+            { &services.frameProcess, SIGNAL(signalDraw(QImage)), page.view, SLOT(slotPaintPreview(QImage)) },
+            { page.view, SIGNAL(signalScaleFactorChanged(double)), &services.frameProcess,
+              SLOT(slotScaleFactorChanged(double)) },
+            { &services.active, SIGNAL(signalSetCropState(int, bool)), cropFrame,
+              SLOT(slotSetCropState(int, bool)) },
+            { cropFrame, SIGNAL(signalSetSelectRegion(int, int, int, int, bool)), &services.active,
+              SLOT(slotCrop(int, int, int, int, bool)) },
+            { page.toolBar, SIGNAL(signalRotateImage(int)), &page.stack, SLOT(slotRotateImage(int)) },
+            { page.toolBar, SIGNAL(signalSaveAs()), &page.stack, SLOT(slotSaveImageAs()) },
+            { page.toolBar, SIGNAL(signalCrop()), &page.stack, SLOT(slotImageCrop()) },
+            { page.toolBar, SIGNAL(signalImageInfo()), &page.stack, SLOT(slotImageInfo()) },
+            { &services.active, SIGNAL(signalUpdateFileName(QString)), page.infoBar,
+              SLOT(slotUpdateFileName(QString)) },
+            { &services.compare, SIGNAL(signalSetBrush()), page.second, SLOT(slotSetBrush()) },
+            { page.second, SIGNAL(signalFinishSetBrush()), &services.compare, SLOT(slotFinishSetBrush()) },
+            { page.second, SIGNAL(signalGraphicsViewPressed(QGraphicsScene *)), &services.global,
+              SLOT(slotSetGraphicsScene(QGraphicsScene *)) },
+            { &page.stack, SIGNAL(signalScaleView(ReportManager *, int)), page.second,
+              SLOT(slotScaleView(ReportManager *, int)) },
+            { &page.stack, SIGNAL(signalSetScaleFactor(ReportManager *, double)), page.second,
+              SLOT(slotSetScaleFactor(ReportManager *, double)) },
+        }),
+        QStringList());
 }
 
 void ImageStackedWidgetTest::toolBarCommandsReachTheActiveImage()
@@ -136,8 +138,8 @@ void ImageStackedWidgetTest::toolBarCommandsReachTheActiveImage()
     emit page.toolBar->signalImageInfo();
     emit page.view->GetCropFrame()->signalSetSelectRegion(1, 2, 30, 40, true);
     QCOMPARE(CallLog::Calls(),
-             QStringList({"active slotRotateImage(2)", "active slotSaveImageAs()", "active slotImageCrop()",
-                          "active slotImageInfo()", "active slotCrop((1, 2, 30, 40), true)"}));
+             QStringList({ "active slotRotateImage(2)", "active slotSaveImageAs()", "active slotImageCrop()",
+                           "active slotImageInfo()", "active slotCrop((1, 2, 30, 40), true)" }));
 
     // The manager that is active now, not the one at the start.
     services.global.activeImageManager = &services.compare;
@@ -209,7 +211,7 @@ void ImageStackedWidgetTest::barFollowsViewAndFile()
 {
     ShellServices services;
     Page page;
-    for (int view : {CameraView, ImageView, FileView, CameraCompareView, ImageCompareView}) {
+    for (int view : { CameraView, ImageView, FileView, CameraCompareView, ImageCompareView }) {
         services.uiConfig.currentView = view;
         page.stack.UpdateViewOverlays();
         QCOMPARE(!page.Tool("pushButtonCloseCompare")->isHidden(), view == ImageCompareView);

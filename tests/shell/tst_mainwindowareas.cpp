@@ -25,7 +25,7 @@ QStringList TabTexts(const QTabWidget *tabs)
     return texts;
 }
 
-const QStringList tabsWithSpectrum{"Spectrum", "Analysis", "Tool Properties", "Report"};
+const QStringList tabsWithSpectrum{ "Spectrum", "Analysis", "Tool Properties", "Report" };
 
 QString TabStyle(int width)
 {
@@ -76,14 +76,12 @@ void MainWindowAreasTest::buildsInOrder()
     CallLog::Clear();
     host.Build();
     const QStringList calls = CallLog::Calls();
-    const QStringList inOrder{"MeasureManager::SetDialogParent()",
-                              "UIConfigManager::SetCPUDraw(true, true)",
-                              "GlobalManager::SetCameraGraphicsScene()",
-                              "GlobalManager::SetImageGraphicsScene()",
-                              "active ConnectWidthDrawView(false)",
-                              "GlobalManager::SetImageGraphicsSceneEx()",
-                              "compare ConnectWidthDrawView(false)",
-                              "CameraConfigManager::UpdateGraphicsRegionItem()"};
+    const QStringList inOrder{
+        "MeasureManager::SetDialogParent()",       "UIConfigManager::SetCPUDraw(true, true)",
+        "GlobalManager::SetCameraGraphicsScene()", "GlobalManager::SetImageGraphicsScene()",
+        "active ConnectWidthDrawView(false)",      "GlobalManager::SetImageGraphicsSceneEx()",
+        "compare ConnectWidthDrawView(false)",     "CameraConfigManager::UpdateGraphicsRegionItem()"
+    };
     int last = -1;
     for (const QString &call : inOrder) {
         QVERIFY2(calls.indexOf(call) > last, qPrintable(call + " in " + calls.join("\n")));
@@ -94,7 +92,7 @@ void MainWindowAreasTest::buildsInOrder()
         if (line == "CameraStackedWidget" || line.startsWith("LoadUIPluginAndInit"))
             lines << line;
     }
-    QCOMPARE(lines, QStringList({"CameraStackedWidget", "LoadUIPluginAndInit", "LoadUIPluginAndInit end"}));
+    QCOMPARE(lines, QStringList({ "CameraStackedWidget", "LoadUIPluginAndInit", "LoadUIPluginAndInit end" }));
 }
 
 void MainWindowAreasTest::centrePages()
@@ -146,7 +144,7 @@ void MainWindowAreasTest::rightTabs()
     QTabWidget *right = host.ui->GetRightTabWidget();
     QCOMPARE(TabTexts(right), tabsWithSpectrum);
     QCOMPARE(right->styleSheet(), TabStyle(93));
-    const char *panels[] = {"panel11", "panel7", "panel8", "panel9"};
+    const char *panels[] = { "panel11", "panel7", "panel8", "panel9" };
     for (int i = 0; i < 4; ++i)
         QVERIFY2(right->widget(i)->findChild<QWidget *>(panels[i]), panels[i]);
     QCOMPARE(host.ui->GetSpectrumWidget(), right->widget(0));
@@ -247,8 +245,8 @@ void MainWindowAreasTest::storesTabIndices()
     QCOMPARE(CallLog::Calls(), QStringList("UIConfigManager::SetRightUIIndex(3)"));
     CallLog::Clear();
     host.ui->GetBottomTabWidget()->setCurrentIndex(2);
-    QCOMPARE(CallLog::Calls(), QStringList({"HistogramCalculateManager::SetHistogramStatisticsState(false)",
-                                            "UIConfigManager::SetBottomUIIndex(2)"}));
+    QCOMPARE(CallLog::Calls(), QStringList({ "HistogramCalculateManager::SetHistogramStatisticsState(false)",
+                                             "UIConfigManager::SetBottomUIIndex(2)" }));
 }
 
 void MainWindowAreasTest::bottomTabs()
@@ -259,8 +257,8 @@ void MainWindowAreasTest::bottomTabs()
     QCOMPARE(bottom->objectName(), QString("BottomTabWidget"));
     QCOMPARE(bottom->styleSheet(), QString("QTabBar::tab:selected{color:black;}"));
     QVERIFY(qobject_cast<WidgetSwitchUI *>(bottom->widget(0)));
-    QCOMPARE(TabTexts(bottom), QStringList({"File Preview", "Histogram(Live)", "Calibration Table",
-                                            "Class Counting", "Automatic Counting Table"}));
+    QCOMPARE(TabTexts(bottom), QStringList({ "File Preview", "Histogram(Live)", "Calibration Table",
+                                             "Class Counting", "Automatic Counting Table" }));
     QVERIFY(bottom->widget(0)->isAncestorOf(host.services.thumbnails));
 }
 
@@ -269,13 +267,13 @@ void MainWindowAreasTest::histogramOnlyWhileItsTabIsShown()
     ShellHost host(ShellHost::WithPanels);
     host.Build();
     QTabWidget *bottom = host.ui->GetBottomTabWidget();
-    for (int i : {1, 2, 1, 0, 4}) {
+    for (int i : { 1, 2, 1, 0, 4 }) {
         CallLog::Clear();
         bottom->setCurrentIndex(i);
         const QString state = bottom->tabText(i) == "Histogram(Live)" ? "true" : "false";
         QCOMPARE(CallLog::Calls(),
-                 QStringList({"HistogramCalculateManager::SetHistogramStatisticsState(" + state + ")",
-                              QString("UIConfigManager::SetBottomUIIndex(%1)").arg(i)}));
+                 QStringList({ "HistogramCalculateManager::SetHistogramStatisticsState(" + state + ")",
+                               QString("UIConfigManager::SetBottomUIIndex(%1)").arg(i) }));
     }
     bottom->setTabText(2, "histogram(live)"); // case counts
     CallLog::Clear();

@@ -41,17 +41,17 @@ void NavigationBarsTest::imageBarForm()
     QVERIFY(row);
     QCOMPARE(row->objectName(), QString("horizontalLayout"));
     QCOMPARE(row->count(), 5);
-    const int spacerWidths[] = {71, 72, 68};
+    const int spacerWidths[] = { 71, 72, 68 };
     for (int i = 0; i < 3; ++i) {
         const QSpacerItem *spacer = row->itemAt(2 * i)->spacerItem();
         QVERIFY(spacer);
         QCOMPARE(spacer->sizeHint(), QSize(spacerWidths[i], 20));
         QCOMPARE(spacer->sizePolicy(), QSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum));
     }
-    const char *columns[] = {"verticalLayout_2", "verticalLayout"};
-    const char *buttons[] = {"pushButtonCamera", "pushButtonNewImageCopy"};
-    const char *labels[] = {"labelLive", "labelCapture"};
-    const char *texts[] = {"Return Camera", "Apply"};
+    const char *columns[] = { "verticalLayout_2", "verticalLayout" };
+    const char *buttons[] = { "pushButtonCamera", "pushButtonNewImageCopy" };
+    const char *labels[] = { "labelLive", "labelCapture" };
+    const char *texts[] = { "Return Camera", "Apply" };
     for (int i = 0; i < 2; ++i) {
         auto *column = qobject_cast<QVBoxLayout *>(row->itemAt(2 * i + 1)->layout());
         QVERIFY(column);
@@ -94,7 +94,8 @@ void NavigationBarsTest::imageBarCommands()
     CallLog::Clear();
     bar.findChild<QPushButton *>("pushButtonCamera")->click();
     bar.findChild<QPushButton *>("pushButtonNewImageCopy")->click();
-    QCOMPARE(CallLog::Calls(), QStringList({"UIConfigManager::SetCameraView()", "active SetAdjustApply(0)"}));
+    QCOMPARE(CallLog::Calls(),
+             QStringList({ "UIConfigManager::SetCameraView()", "active SetAdjustApply(0)" }));
 }
 
 void NavigationBarsTest::imageBarFollowsTheCamera()
@@ -144,9 +145,9 @@ void NavigationBarsTest::switchBarForm()
         names << button->objectName();
         toolTips << button->toolTip();
     }
-    QCOMPARE(names, QStringList({"pushButtonShowFileDirTreeView", "pushButtonReturn", "pushButtonModifyDPI",
-                                 "pushButtonConvertCSV"}));
-    QCOMPARE(toolTips, QStringList({"Show File Directory(Ctrl+P)", "", "Modify DPI", "Convert to CSV"}));
+    QCOMPARE(names, QStringList({ "pushButtonShowFileDirTreeView", "pushButtonReturn", "pushButtonModifyDPI",
+                                  "pushButtonConvertCSV" }));
+    QCOMPARE(toolTips, QStringList({ "Show File Directory(Ctrl+P)", "", "Modify DPI", "Convert to CSV" }));
     const QSpacerItem *spacer = column->itemAt(4)->spacerItem();
     QVERIFY(spacer);
     QCOMPARE(spacer->sizeHint(), QSize(20, 40));
@@ -173,9 +174,9 @@ void NavigationBarsTest::switchBarIconSizes()
     DisplayScale displayScale(scale);
     WidgetSwitchUI bar(nullptr);
     const auto button = [&](const char *name) { return bar.findChild<QPushButton *>(name); };
-    for (const char *name : {"pushButtonShowFileDirTreeView", "pushButtonReturn"})
+    for (const char *name : { "pushButtonShowFileDirTreeView", "pushButtonReturn" })
         QCOMPARE(button(name)->iconSize(), QSize(largeIcon, largeIcon));
-    for (const char *name : {"pushButtonModifyDPI", "pushButtonConvertCSV"})
+    for (const char *name : { "pushButtonModifyDPI", "pushButtonConvertCSV" })
         QCOMPARE(button(name)->iconSize(), QSize(smallIcon, smallIcon));
     for (const QPushButton *each : bar.findChildren<QPushButton *>()) {
         QCOMPARE(each->minimumSize(), QSize(side, side));
@@ -188,12 +189,12 @@ void NavigationBarsTest::switchBarCommands()
     FakeServices services;
     WidgetSwitchUI bar(nullptr);
     CallLog::Clear();
-    for (const char *name : {"pushButtonShowFileDirTreeView", "pushButtonReturn", "pushButtonModifyDPI",
-                             "pushButtonConvertCSV"})
+    for (const char *name : { "pushButtonShowFileDirTreeView", "pushButtonReturn", "pushButtonModifyDPI",
+                              "pushButtonConvertCSV" })
         bar.findChild<QPushButton *>(name)->click();
     QCOMPARE(CallLog::Calls(),
-             QStringList({"UIConfigManager::SetFileView()", "UIConfigManager::FileViewReturn()",
-                          "UIConfigManager::slotModifyDPI()", "UIConfigManager::slotConvertToCSV()"}));
+             QStringList({ "UIConfigManager::SetFileView()", "UIConfigManager::FileViewReturn()",
+                           "UIConfigManager::slotModifyDPI()", "UIConfigManager::slotConvertToCSV()" }));
 }
 
 void NavigationBarsTest::switchBarSwapsItsFirstButton()
@@ -204,7 +205,7 @@ void NavigationBarsTest::switchBarSwapsItsFirstButton()
     auto *back = bar.findChild<QPushButton *>("pushButtonReturn");
     QVERIFY(!show->isHidden());
     QVERIFY(back->isHidden());
-    for (int view : {FileView, CameraView, ImageView, FileView, CameraCompareView, ImageCompareView}) {
+    for (int view : { FileView, CameraView, ImageView, FileView, CameraCompareView, ImageCompareView }) {
         services.uiConfig.currentView = view;
         emit services.uiConfig.signalSwitchView();
         QCOMPARE(back->isHidden(), view != FileView);
@@ -215,12 +216,12 @@ void NavigationBarsTest::switchBarSwapsItsFirstButton()
 void NavigationBarsTest::slotsInOrder()
 {
     QCOMPARE(OwnMethods(ImageNavigateUI::staticMetaObject),
-             QStringList({"slotUpdateUI()", "on_pushButtonCamera_clicked()",
-                          "on_pushButtonNewImageCopy_clicked()"}));
+             QStringList({ "slotUpdateUI()", "on_pushButtonCamera_clicked()",
+                           "on_pushButtonNewImageCopy_clicked()" }));
     QCOMPARE(OwnMethods(WidgetSwitchUI::staticMetaObject),
-             QStringList({"on_pushButtonShowFileDirTreeView_clicked()", "on_pushButtonReturn_clicked()",
-                          "slotUpdateUI()", "on_pushButtonModifyDPI_clicked()",
-                          "on_pushButtonConvertCSV_clicked()"}));
+             QStringList({ "on_pushButtonShowFileDirTreeView_clicked()", "on_pushButtonReturn_clicked()",
+                           "slotUpdateUI()", "on_pushButtonModifyDPI_clicked()",
+                           "on_pushButtonConvertCSV_clicked()" }));
 }
 
 GUARDED_TEST_MAIN(NavigationBarsTest)

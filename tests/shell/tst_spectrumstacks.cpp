@@ -26,9 +26,9 @@ void SpectrumStacksTest::slotsInOrder()
 {
     QCOMPARE(OwnMethods(SpectrumStackedWidgetBase::staticMetaObject), QStringList("slotDisplayModeChange()"));
     QCOMPARE(OwnMethods(CameraSpectrumStackedWidget::staticMetaObject),
-             QStringList({"SlotNewArea(double,double,double,double)", "SlotUpdateUseArea()"}));
+             QStringList({ "SlotNewArea(double,double,double,double)", "SlotUpdateUseArea()" }));
     QCOMPARE(OwnMethods(ImageSpectrumStackedWidget::staticMetaObject),
-             QStringList({"slotNewArea(double,double,double,double)", "slotOpenSpefile()"}));
+             QStringList({ "slotNewArea(double,double,double,double)", "slotOpenSpefile()" }));
 }
 
 void SpectrumStacksTest::pageFollowsDisplayMode_data()
@@ -86,8 +86,8 @@ void SpectrumStacksTest::newAreaOfTheLivePicture()
     CameraSpectrumStackedWidget stack(nullptr);
     CallLog::Clear();
     stack.SlotNewArea(1, 2, 3, 4);
-    QCOMPARE(CallLog::Calls(), QStringList({"DisplayModeUIManager::SetImageExpansionAreaFlag(false)",
-                                            "SpectrumUIManager::SlotNewArea(1, 2, 3, 4)"}));
+    QCOMPARE(CallLog::Calls(), QStringList({ "DisplayModeUIManager::SetImageExpansionAreaFlag(false)",
+                                             "SpectrumUIManager::SlotNewArea(1, 2, 3, 4)" }));
 }
 
 void SpectrumStacksTest::useAreaChange_data()
@@ -111,8 +111,9 @@ void SpectrumStacksTest::useAreaChange()
     CameraSpectrumStackedWidget stack(nullptr);
     CallLog::Clear();
     emit services.useArea.signalUpdateUseArea();
-    QStringList calls{"SpectrumUIManager::SetFocusAssitanceFlag(false)", "SpectrumUIManager::SetFVBOnFlag(0)",
-                      "SpectrumUIManager::SetMultiTrackOnFlag(false)"};
+    QStringList calls{ "SpectrumUIManager::SetFocusAssitanceFlag(false)",
+                       "SpectrumUIManager::SetFVBOnFlag(0)",
+                       "SpectrumUIManager::SetMultiTrackOnFlag(false)" };
     if (general)
         calls << "SpectrumUIManager::SetDisplayModeGeneral()";
     calls << "UIConfigManager::UpdateCameraControlUI()";
@@ -141,10 +142,9 @@ void SpectrumStacksTest::newAreaOfTheOpenFile()
     ImageSpectrumStackedWidget stack(nullptr);
     CallLog::Clear();
     stack.slotNewArea(1, 2, 3, 4);
-    QCOMPARE(CallLog::Calls(),
-             QStringList({"DisplayModeUIManager::SetImageExpansionAreaFlag(" + valid + ")",
-                          "DisplayModeUIManager::SetImageExpansionArea(" + area + ")",
-                          "SpectrumUIManager::SlotImageNewArea(1, 2, 3, 4)"}));
+    QCOMPARE(CallLog::Calls(), QStringList({ "DisplayModeUIManager::SetImageExpansionAreaFlag(" + valid + ")",
+                                             "DisplayModeUIManager::SetImageExpansionArea(" + area + ")",
+                                             "SpectrumUIManager::SlotImageNewArea(1, 2, 3, 4)" }));
 }
 
 void SpectrumStacksTest::spectrumFileStartsHorizontal()

@@ -36,10 +36,10 @@ struct Window : ShellHost
     GPUDrawFrame *CameraFrame() const { return CameraStack()->GetMainFrame(); }
     GPUDrawFrame *ImageFrame() const { return ImageStack()->GetMainFrame(); }
     GPUDrawFrame *SecondFrame() const { return ImageStack()->GetSecondFrame(); }
-    QList<GPUDrawFrame *> Lent() const { return {halves.at(0)->GetFrame(), halves.at(1)->GetFrame()}; }
+    QList<GPUDrawFrame *> Lent() const { return { halves.at(0)->GetFrame(), halves.at(1)->GetFrame() }; }
     QCheckBox *Name(int half) const { return halves.at(half)->findChild<QCheckBox *>(); }
-    QStringList Names() const { return {Name(0)->text(), Name(1)->text()}; }
-    QList<bool> Checked() const { return {Name(0)->isChecked(), Name(1)->isChecked()}; }
+    QStringList Names() const { return { Name(0)->text(), Name(1)->text() }; }
+    QList<bool> Checked() const { return { Name(0)->isChecked(), Name(1)->isChecked() }; }
 
     /// The pages of both stacks as they are without a comparison.
     void VerifyAtHome() const
@@ -50,7 +50,7 @@ struct Window : ShellHost
         QCOMPARE(ImageStack()->currentIndex(), 0);
         QVERIFY(Compare()->isHidden());
         QVERIFY(SecondFrame()->isHidden());
-        QCOMPARE(Lent(), QList<GPUDrawFrame *>({nullptr, nullptr}));
+        QCOMPARE(Lent(), QList<GPUDrawFrame *>({ nullptr, nullptr }));
     }
 
     FakeCameraMainManager camera;
@@ -69,7 +69,7 @@ QStringList Calls(const QStringList &classes)
     return calls;
 }
 
-const QList<GPUDrawFrame *> nobody{nullptr, nullptr};
+const QList<GPUDrawFrame *> nobody{ nullptr, nullptr };
 
 } // namespace
 
@@ -107,9 +107,10 @@ private slots:
 void SwitchViewTest::followsThePages()
 {
     Window host;
-    for (int view : {FileView, ImageView, CameraView, ImageCompareView, CameraCompareView}) {
+    for (int view : { FileView, ImageView, CameraView, ImageCompareView, CameraCompareView }) {
         host.SwitchTo(view);
-        QCOMPARE(host.ui->GetLeftStackedWidget()->currentIndex(), host.services.uiConfig.leftStackedWidgetIndex);
+        QCOMPARE(host.ui->GetLeftStackedWidget()->currentIndex(),
+                 host.services.uiConfig.leftStackedWidgetIndex);
         QCOMPARE(host.ui->GetCenterStackedWidget()->currentIndex(),
                  host.services.uiConfig.centerStackedWidgetIndex);
     }
@@ -125,7 +126,7 @@ void SwitchViewTest::logsThePageCount()
         if (line.startsWith("camera"))
             lines << line;
     }
-    QCOMPARE(lines, QStringList({"camera  1", "camera  1"})); // the main frame is lent meanwhile
+    QCOMPARE(lines, QStringList({ "camera  1", "camera  1" })); // the main frame is lent meanwhile
     QCOMPARE(host.CameraStack()->count(), 2);
 }
 
@@ -147,18 +148,18 @@ void SwitchViewTest::previewRunsOnlyWhileLive()
     Window host;
     CallLog::Clear();
     host.SwitchTo(view);
-    QCOMPARE(Calls({"PreviewManager", "SpectrumUIManager"}),
-             QStringList({call, "SpectrumUIManager::UpdateDisplayModeProperty()"}));
+    QCOMPARE(Calls({ "PreviewManager", "SpectrumUIManager" }),
+             QStringList({ call, "SpectrumUIManager::UpdateDisplayModeProperty()" }));
 }
 
 void SwitchViewTest::previewIsLeftAloneWithoutCamera()
 {
     ShellHost host;
     host.Build();
-    for (int view : {ImageView, FileView, CameraCompareView, CameraView, ImageCompareView, CameraView}) {
+    for (int view : { ImageView, FileView, CameraCompareView, CameraView, ImageCompareView, CameraView }) {
         CallLog::Clear();
         host.SwitchTo(view);
-        QCOMPARE(Calls({"PreviewManager", "SpectrumUIManager"}), QStringList());
+        QCOMPARE(Calls({ "PreviewManager", "SpectrumUIManager" }), QStringList());
     }
 }
 
@@ -166,7 +167,7 @@ void SwitchViewTest::countingEndsOnTheLivePage()
 {
     Window host;
     host.services.autoCount.counting = true;
-    for (int view : {ImageView, FileView, CameraCompareView, ImageCompareView}) {
+    for (int view : { ImageView, FileView, CameraCompareView, ImageCompareView }) {
         CallLog::Clear();
         host.SwitchTo(view);
         QCOMPARE(CallLog::Count("main SetProcessType(0)"), 0);
@@ -183,11 +184,11 @@ void SwitchViewTest::countingEndsOnTheLivePage()
 void SwitchViewTest::compareMenuFollows()
 {
     Window host;
-    for (int view : {CameraView, CameraCompareView, FileView, ImageCompareView, ImageView}) {
+    for (int view : { CameraView, CameraCompareView, FileView, ImageCompareView, ImageView }) {
         CallLog::Clear();
         host.SwitchTo(view);
         const bool comparing = view == CameraCompareView || view == ImageCompareView;
-        QCOMPARE(Calls({"ThumbnailList"}),
+        QCOMPARE(Calls({ "ThumbnailList" }),
                  QStringList("ThumbnailList::SetCompareSubMenuChecked(" + Text(comparing) + ")"));
     }
 }
@@ -200,10 +201,10 @@ void SwitchViewTest::asksTheServicesInOrder()
     CallLog::Clear();
     host.SwitchTo(CameraView);
     QCOMPARE(CallLog::Calls(),
-             QStringList({"GlobalManager::QuitCompare()", "compare CloseImage()", "main SetProcessType(0)",
-                          "GlobalManager::UpdateReportManager()", "PreviewManager::StartPreview()",
-                          "SpectrumUIManager::UpdateDisplayModeProperty()",
-                          "ThumbnailList::SetCompareSubMenuChecked(false)"}));
+             QStringList({ "GlobalManager::QuitCompare()", "compare CloseImage()", "main SetProcessType(0)",
+                           "GlobalManager::UpdateReportManager()", "PreviewManager::StartPreview()",
+                           "SpectrumUIManager::UpdateDisplayModeProperty()",
+                           "ThumbnailList::SetCompareSubMenuChecked(false)" }));
 }
 
 void SwitchViewTest::cameraCompareLendsTheFrames()
@@ -212,19 +213,21 @@ void SwitchViewTest::cameraCompareLendsTheFrames()
     host.SwitchTo(CameraCompareView);
     QCOMPARE(host.CameraStack()->currentWidget(), static_cast<QWidget *>(host.Compare()));
     QVERIFY(host.Compare()->isVisible());
-    QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({host.CameraFrame(), host.ImageFrame()}));
-    QCOMPARE(host.Names(), QStringList({"", "active 10x20"}));
-    QCOMPARE(host.Checked(), QList<bool>({true, false}));
+    QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({ host.CameraFrame(), host.ImageFrame() }));
+    QCOMPARE(host.Names(), QStringList({ "", "active 10x20" }));
+    QCOMPARE(host.Checked(), QList<bool>({ true, false }));
     QCOMPARE(host.CameraStack()->indexOf(host.CameraFrame()), -1);
     QVERIFY(host.CameraFrame()->isVisible());
     QVERIFY(host.ImageFrame()->isVisible());
     QVERIFY(host.SecondFrame()->isHidden());
     // The picture's name follows its manager.
     emit host.services.active.signalUpdateFileNameAndSize("other 1x1");
-    QCOMPARE(host.Names(), QStringList({"", "other 1x1"}));
+    QCOMPARE(host.Names(), QStringList({ "", "other 1x1" }));
     const QObjectList &children = host.CameraStack()->children();
-    QVERIFY(children.indexOf(host.CameraStack()->findChild<ViewToolBar *>()) > children.indexOf(host.Compare()));
-    QVERIFY(children.indexOf(host.CameraStack()->findChild<ImageInfoUI *>()) > children.indexOf(host.Compare()));
+    QVERIFY(children.indexOf(host.CameraStack()->findChild<ViewToolBar *>())
+            > children.indexOf(host.Compare()));
+    QVERIFY(children.indexOf(host.CameraStack()->findChild<ImageInfoUI *>())
+            > children.indexOf(host.Compare()));
 }
 
 void SwitchViewTest::cameraCompareTwiceDoesNotRebind()
@@ -233,18 +236,18 @@ void SwitchViewTest::cameraCompareTwiceDoesNotRebind()
     host.SwitchTo(CameraCompareView);
     host.Compare()->SetLeftChecked(false);
     emit host.services.active.signalUpdateFileNameAndSize("renamed");
-    for (int view : {CameraCompareView, FileView, CameraCompareView}) {
+    for (int view : { CameraCompareView, FileView, CameraCompareView }) {
         host.SwitchTo(view);
-        QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({host.CameraFrame(), host.ImageFrame()}));
-        QCOMPARE(host.Names(), QStringList({"", "renamed"}));
-        QCOMPARE(host.Checked(), QList<bool>({false, true}));
+        QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({ host.CameraFrame(), host.ImageFrame() }));
+        QCOMPARE(host.Names(), QStringList({ "", "renamed" }));
+        QCOMPARE(host.Checked(), QList<bool>({ false, true }));
     }
     QCOMPARE(host.CameraStack()->currentWidget(), static_cast<QWidget *>(host.Compare()));
 }
 
 void SwitchViewTest::leavingCameraCompare()
 {
-    for (int view : {CameraView, ImageView}) {
+    for (int view : { CameraView, ImageView }) {
         Window host;
         host.SwitchTo(CameraCompareView);
         CallLog::Clear();
@@ -263,15 +266,15 @@ void SwitchViewTest::imageCompareLendsTheFrames()
     host.SwitchTo(ImageCompareView);
     QCOMPARE(host.ImageStack()->currentWidget(), static_cast<QWidget *>(host.Compare()));
     QVERIFY(host.Compare()->isVisible());
-    QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({host.ImageFrame(), host.SecondFrame()}));
-    QCOMPARE(host.Names(), QStringList({"main 30x40", "compare 50x60"}));
-    QCOMPARE(host.Checked(), QList<bool>({true, false}));
+    QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({ host.ImageFrame(), host.SecondFrame() }));
+    QCOMPARE(host.Names(), QStringList({ "main 30x40", "compare 50x60" }));
+    QCOMPARE(host.Checked(), QList<bool>({ true, false }));
     QVERIFY(host.ImageFrame()->isVisible());
     QVERIFY(host.SecondFrame()->isVisible());
     QCOMPARE(host.CameraStack()->widget(0), static_cast<QWidget *>(host.CameraFrame()));
     emit host.services.main.signalUpdateFileNameAndSize("left");
     emit host.services.compare.signalUpdateFileNameAndSize("right");
-    QCOMPARE(host.Names(), QStringList({"left", "right"}));
+    QCOMPARE(host.Names(), QStringList({ "left", "right" }));
 }
 
 void SwitchViewTest::imageCompareTwiceDoesNotRebind()
@@ -279,10 +282,10 @@ void SwitchViewTest::imageCompareTwiceDoesNotRebind()
     Window host;
     host.SwitchTo(ImageCompareView);
     emit host.services.main.signalUpdateFileNameAndSize("left");
-    for (int view : {ImageCompareView, FileView, ImageCompareView}) {
+    for (int view : { ImageCompareView, FileView, ImageCompareView }) {
         host.SwitchTo(view);
-        QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({host.ImageFrame(), host.SecondFrame()}));
-        QCOMPARE(host.Names(), QStringList({"left", "compare 50x60"}));
+        QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({ host.ImageFrame(), host.SecondFrame() }));
+        QCOMPARE(host.Names(), QStringList({ "left", "compare 50x60" }));
     }
     QVERIFY(host.Compare()->isVisible());
     QVERIFY(host.SecondFrame()->isVisible());
@@ -290,15 +293,15 @@ void SwitchViewTest::imageCompareTwiceDoesNotRebind()
 
 void SwitchViewTest::leavingImageCompare()
 {
-    for (int view : {ImageView, CameraView}) {
+    for (int view : { ImageView, CameraView }) {
         Window host;
         host.SwitchTo(ImageCompareView);
         CallLog::Clear();
         host.SwitchTo(view);
         host.VerifyAtHome();
-        QCOMPARE(Calls({"GlobalManager", "compare "}),
-                 QStringList({"GlobalManager::QuitCompare()", "compare CloseImage()",
-                              "GlobalManager::UpdateReportManager()"}));
+        QCOMPARE(Calls({ "GlobalManager", "compare " }),
+                 QStringList({ "GlobalManager::QuitCompare()", "compare CloseImage()",
+                               "GlobalManager::UpdateReportManager()" }));
         CallLog::Clear();
         host.SwitchTo(view); // nothing is left to leave
         QCOMPARE(CallLog::Count("GlobalManager::QuitCompare()"), 0);
@@ -307,7 +310,7 @@ void SwitchViewTest::leavingImageCompare()
 
 void SwitchViewTest::fileViewLeavesTheCompareFrameInPlace()
 {
-    for (int view : {CameraCompareView, ImageCompareView}) {
+    for (int view : { CameraCompareView, ImageCompareView }) {
         Window host;
         host.SwitchTo(view);
         const QList<GPUDrawFrame *> lent = host.Lent();
@@ -326,8 +329,8 @@ void SwitchViewTest::fromImageCompareToCameraCompare()
     Window host;
     host.SwitchTo(ImageCompareView);
     host.SwitchTo(CameraCompareView);
-    QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({host.CameraFrame(), host.ImageFrame()}));
-    QCOMPARE(host.Names(), QStringList({"", "active 10x20"}));
+    QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({ host.CameraFrame(), host.ImageFrame() }));
+    QCOMPARE(host.Names(), QStringList({ "", "active 10x20" }));
     QVERIFY(host.SecondFrame()->isHidden());
     QCOMPARE(host.CameraStack()->currentWidget(), static_cast<QWidget *>(host.Compare()));
     host.SwitchTo(CameraView);
@@ -339,7 +342,7 @@ void SwitchViewTest::fromCameraCompareToImageCompare()
     Window host;
     host.SwitchTo(CameraCompareView);
     host.SwitchTo(ImageCompareView);
-    QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({host.ImageFrame(), host.SecondFrame()}));
+    QCOMPARE(host.Lent(), QList<GPUDrawFrame *>({ host.ImageFrame(), host.SecondFrame() }));
     // The live frame is back on its own page.
     QCOMPARE(host.CameraStack()->currentWidget(), static_cast<QWidget *>(host.CameraFrame()));
     host.SwitchTo(ImageView);
@@ -349,7 +352,7 @@ void SwitchViewTest::fromCameraCompareToImageCompare()
 void SwitchViewTest::allViewsAndBack()
 {
     Window host(ShellHost::WithPanels);
-    const QVector<int> round{CameraView, ImageView, FileView, CameraCompareView, ImageCompareView};
+    const QVector<int> round{ CameraView, ImageView, FileView, CameraCompareView, ImageCompareView };
     for (int from : round) {
         for (int to : round) {
             host.SwitchTo(from);
@@ -384,15 +387,15 @@ void SwitchViewTest::activeHalfFollowsTheActiveManager()
     host.SwitchTo(ImageCompareView);
     host.services.global.activeImageManager = &host.services.compare;
     emit host.services.global.signalUpdateImageCompareFrame();
-    QCOMPARE(host.Checked(), QList<bool>({false, true}));
+    QCOMPARE(host.Checked(), QList<bool>({ false, true }));
     host.services.global.activeImageManager = &host.services.main;
     emit host.services.global.signalUpdateImageCompareFrame();
-    QCOMPARE(host.Checked(), QList<bool>({true, false}));
+    QCOMPARE(host.Checked(), QList<bool>({ true, false }));
 
     host.SwitchTo(CameraCompareView);
     host.services.global.activeImageManager = &host.services.compare;
     emit host.services.global.signalUpdateImageCompareFrame(); // not in this view
-    QCOMPARE(host.Checked(), QList<bool>({true, false}));
+    QCOMPARE(host.Checked(), QList<bool>({ true, false }));
 }
 
 void SwitchViewTest::pressedHalfGetsTheFocus()
@@ -401,14 +404,14 @@ void SwitchViewTest::pressedHalfGetsTheFocus()
     CallLog::Clear();
     for (CompareChildFrame *half : qAsConst(host.halves))
         emit half->signalFramePressed(nullptr);
-    QCOMPARE(CallLog::Calls(), QStringList({"GlobalManager::slotSetGraphicsScene()",
-                                            "GlobalManager::slotSetGraphicsScene()"}));
+    QCOMPARE(CallLog::Calls(), QStringList({ "GlobalManager::slotSetGraphicsScene()",
+                                             "GlobalManager::slotSetGraphicsScene()" }));
 }
 
 void SwitchViewTest::floatingPanelsStayOnTop()
 {
     Window host;
-    for (int view : {ImageView, FileView, CameraView}) {
+    for (int view : { ImageView, FileView, CameraView }) {
         host.SwitchTo(view);
         QStackedWidget *centre = host.ui->GetCenterStackedWidget();
         const QObjectList top = centre->children().mid(centre->children().size() - 5);
