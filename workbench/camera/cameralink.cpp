@@ -31,6 +31,7 @@ CameraLink::CameraLink(Opener opener, QObject *parent)
 {
     m_worker.setMaxThreadCount(1);
     m_tryTimer.setSingleShot(true);
+    m_tryTimer.setTimerType(Qt::PreciseTimer); // the seconds that are left are shown
     m_watchTimer.setInterval(WatchPeriodMs);
     connect(&m_tryTimer, SIGNAL(timeout()), this, SLOT(slotTryAgain()));
     connect(&m_watchTimer, SIGNAL(timeout()), this, SLOT(slotWatchFrames()));
