@@ -46,14 +46,11 @@ void DrawFrameBase::SetCPUDraw(bool cpuFlag)
     setHorizontalScrollBarPolicy(policy);
     setVerticalScrollBarPolicy(policy);
     if (!cpuFlag)
-        SetSliderPosition({0, 0}); // from here on the view scrolls
+        SetSliderPosition({ 0, 0 }); // from here on the view scrolls
     m_drawView->SetCPUDraw(cpuFlag);
 }
 
-DrawViewBase *DrawFrameBase::GetDrawView() const
-{
-    return m_drawView;
-}
+DrawViewBase *DrawFrameBase::GetDrawView() const { return m_drawView; }
 
 void DrawFrameBase::slotMoveImage(QPointF point)
 {

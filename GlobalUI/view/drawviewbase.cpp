@@ -19,10 +19,7 @@
 
 namespace {
 
-QWidget *ParentOf(const QWidget *widget)
-{
-    return widget ? widget->parentWidget() : nullptr;
-}
+QWidget *ParentOf(const QWidget *widget) { return widget ? widget->parentWidget() : nullptr; }
 
 } // namespace
 
@@ -44,7 +41,8 @@ DrawViewBase::DrawViewBase(QWidget *parent)
     m_imageSize = QSize(0, 0);
 
     connect(scene(), SIGNAL(sceneRectChanged(QRectF)), this, SLOT(slotSceneRectChanged(QRectF)));
-    connect(m_cropFrame, SIGNAL(signalUpdateMousePosition(QPoint)), this, SLOT(slotUpdateMousePosition(QPoint)));
+    connect(m_cropFrame, SIGNAL(signalUpdateMousePosition(QPoint)), this,
+            SLOT(slotUpdateMousePosition(QPoint)));
 }
 
 DrawViewBase::~DrawViewBase()
@@ -59,24 +57,21 @@ void DrawViewBase::ConnectHost(QWidget *host)
 {
     if (!host)
         return; // nobody to show scroll bars for GPU drawing
-    connect(this, SIGNAL(signalSetHorizontalScrollBarVisible(bool)),
-            host, SLOT(slotSetHorizontalScrollBarVisible(bool)));
-    connect(this, SIGNAL(signalSetVerticalScrollBarVisible(bool)),
-            host, SLOT(slotSetVerticalScrollBarVisible(bool)));
-    connect(this, SIGNAL(signalUpdateHorizontalScrollBar(QScrollBar *)),
-            host, SLOT(slotUpdateHorizontalScrollBar(QScrollBar *)));
-    connect(this, SIGNAL(signalUpdateVerticalScrollBar(QScrollBar *)),
-            host, SLOT(slotUpdateVerticalScrollBar(QScrollBar *)));
-    connect(host, SIGNAL(signalHorizontalScrollBarValueChanged(int)),
-            this, SLOT(slotHorizontalScrollBarValueChanged(int)));
-    connect(host, SIGNAL(signalVerticalScrollBarValueChanged(int)),
-            this, SLOT(slotVerticalScrollBarValueChanged(int)));
+    connect(this, SIGNAL(signalSetHorizontalScrollBarVisible(bool)), host,
+            SLOT(slotSetHorizontalScrollBarVisible(bool)));
+    connect(this, SIGNAL(signalSetVerticalScrollBarVisible(bool)), host,
+            SLOT(slotSetVerticalScrollBarVisible(bool)));
+    connect(this, SIGNAL(signalUpdateHorizontalScrollBar(QScrollBar *)), host,
+            SLOT(slotUpdateHorizontalScrollBar(QScrollBar *)));
+    connect(this, SIGNAL(signalUpdateVerticalScrollBar(QScrollBar *)), host,
+            SLOT(slotUpdateVerticalScrollBar(QScrollBar *)));
+    connect(host, SIGNAL(signalHorizontalScrollBarValueChanged(int)), this,
+            SLOT(slotHorizontalScrollBarValueChanged(int)));
+    connect(host, SIGNAL(signalVerticalScrollBarValueChanged(int)), this,
+            SLOT(slotVerticalScrollBarValueChanged(int)));
 }
 
-QWidget *DrawViewBase::Host() const
-{
-    return ParentOf(ParentOf(parentWidget()));
-}
+QWidget *DrawViewBase::Host() const { return ParentOf(ParentOf(parentWidget())); }
 
 QSize DrawViewBase::HostSize() const
 {
@@ -84,35 +79,17 @@ QSize DrawViewBase::HostSize() const
     return host ? host->size() : size();
 }
 
-void DrawViewBase::SetViewManager(ReportManager *viewManager)
-{
-    m_viewManager = viewManager;
-}
+void DrawViewBase::SetViewManager(ReportManager *viewManager) { m_viewManager = viewManager; }
 
-ReportManager *DrawViewBase::GetViewManager() const
-{
-    return m_viewManager;
-}
+ReportManager *DrawViewBase::GetViewManager() const { return m_viewManager; }
 
-CropFrame *DrawViewBase::GetCropFrame() const
-{
-    return m_cropFrame;
-}
+CropFrame *DrawViewBase::GetCropFrame() const { return m_cropFrame; }
 
-QSize DrawViewBase::GetImageSize() const
-{
-    return m_imageSize;
-}
+QSize DrawViewBase::GetImageSize() const { return m_imageSize; }
 
-QRectF DrawViewBase::GetGPUViewRect() const
-{
-    return m_gpuViewRect;
-}
+QRectF DrawViewBase::GetGPUViewRect() const { return m_gpuViewRect; }
 
-bool DrawViewBase::IsGPUDraw() const
-{
-    return m_gpuDrawItem != nullptr;
-}
+bool DrawViewBase::IsGPUDraw() const { return m_gpuDrawItem != nullptr; }
 
 // Showing a frame
 
@@ -196,15 +173,13 @@ void DrawViewBase::slotSetUpdatesEnabled(bool value)
     setUpdatesEnabled(value);
     if (QWidget *frame = ParentOf(parentWidget()))
         frame->update();
-    qDebug("[%s:%d %s] slotSetUpdatesEnabled %d", "drawviewbase.cpp", 304, "DrawViewBase::slotSetUpdatesEnabled", value);
+    qDebug("[%s:%d %s] slotSetUpdatesEnabled %d", "drawviewbase.cpp", 304,
+           "DrawViewBase::slotSetUpdatesEnabled", value);
 }
 
 // Zoom
 
-double DrawViewBase::Scale() const
-{
-    return transform().m11();
-}
+double DrawViewBase::Scale() const { return transform().m11(); }
 
 void DrawViewBase::ZoomIn()
 {
@@ -249,15 +224,9 @@ void DrawViewBase::slotScale(int type)
     }
 }
 
-void DrawViewBase::slotZoomIn()
-{
-    ZoomIn();
-}
+void DrawViewBase::slotZoomIn() { ZoomIn(); }
 
-void DrawViewBase::slotZoomOut()
-{
-    ZoomOut();
-}
+void DrawViewBase::slotZoomOut() { ZoomOut(); }
 
 void DrawViewBase::slotZoom1v1()
 {
@@ -265,10 +234,7 @@ void DrawViewBase::slotZoom1v1()
         SetScale(ZoomLadder(m_imageSize).OneToOne());
 }
 
-void DrawViewBase::slotZoomFit()
-{
-    ZoomFit();
-}
+void DrawViewBase::slotZoomFit() { ZoomFit(); }
 
 void DrawViewBase::slotScaleView(ReportManager *viewManager, int type)
 {

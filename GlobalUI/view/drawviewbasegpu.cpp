@@ -15,12 +15,12 @@
 
 void DrawViewBase::slotHorizontalScrollBarValueChanged(int value)
 {
-    UpdateGPUViewRect({value, verticalScrollBar()->value()});
+    UpdateGPUViewRect({ value, verticalScrollBar()->value() });
 }
 
 void DrawViewBase::slotVerticalScrollBarValueChanged(int value)
 {
-    UpdateGPUViewRect({horizontalScrollBar()->value(), value});
+    UpdateGPUViewRect({ horizontalScrollBar()->value(), value });
 }
 
 QPoint DrawViewBase::ScrollPosition() const
@@ -106,7 +106,8 @@ void DrawViewBase::InstallGLViewport()
     m_glViewport = new QOpenGLWidget; // reparented by setViewport()
     // The frame is always drawn anew as a whole, so the marks above it must be too.
     InstallViewport(m_glViewport, FullViewportUpdate);
-    qDebug("[%s:%d %s] DrawViewBase::SetGPUDrawView()", "drawviewbase.cpp", 589, "DrawViewBase::SetGPUDrawView");
+    qDebug("[%s:%d %s] DrawViewBase::SetGPUDrawView()", "drawviewbase.cpp", 589,
+           "DrawViewBase::SetGPUDrawView");
 }
 
 void DrawViewBase::InstallViewport(QWidget *widget, ViewportUpdateMode mode)

@@ -22,10 +22,7 @@ int WheelDelta(const QWheelEvent *event)
 
 } // namespace
 
-void DrawViewBase::slotUpdateMousePosition(QPoint point)
-{
-    ReportMousePosition(mapToScene(point));
-}
+void DrawViewBase::slotUpdateMousePosition(QPoint point) { ReportMousePosition(mapToScene(point)); }
 
 void DrawViewBase::ReportMousePosition(const QPointF &scenePos)
 {
@@ -104,10 +101,10 @@ void DrawViewBase::ZoomGPUByWheel(const QPoint &viewPos, int delta)
     // What was under the mouse stays there.
     const QPointF scaledPos = transform().map(scenePos);
     const QSizeF viewportSize = maximumViewportSize();
-    UpdateGPUViewRect({int(scaledPos.x() - viewportSize.width() * fractionX),
-                       int(scaledPos.y() - viewportSize.height() * fractionY)});
-    emit signalCompareScale(delta, QPointF(horizontalScrollBar()->sliderPosition(),
-                                           verticalScrollBar()->sliderPosition()));
+    UpdateGPUViewRect({ int(scaledPos.x() - viewportSize.width() * fractionX),
+                        int(scaledPos.y() - viewportSize.height() * fractionY) });
+    emit signalCompareScale(
+        delta, QPointF(horizontalScrollBar()->sliderPosition(), verticalScrollBar()->sliderPosition()));
 }
 
 void DrawViewBase::ZoomCPUByWheel(const QPoint &viewPos, int delta)

@@ -32,8 +32,10 @@ GPUDrawFrame::GPUDrawFrame(QWidget *parent)
     m_drawFrame = new DrawFrameBase(this);
     static_cast<QGridLayout *>(layout())->addWidget(m_drawFrame, 0, 0);
 
-    connect(m_horizontalScrollBar, SIGNAL(valueChanged(int)), this, SLOT(slotHorizontalScrollBarValueChanged(int)));
-    connect(m_verticalScrollBar, SIGNAL(valueChanged(int)), this, SLOT(slotVerticalScrollBarValueChanged(int)));
+    connect(m_horizontalScrollBar, SIGNAL(valueChanged(int)), this,
+            SLOT(slotHorizontalScrollBarValueChanged(int)));
+    connect(m_verticalScrollBar, SIGNAL(valueChanged(int)), this,
+            SLOT(slotVerticalScrollBarValueChanged(int)));
 
     m_horizontalScrollBar->hide();
     m_verticalScrollBar->hide();
@@ -78,10 +80,7 @@ void GPUDrawFrame::ConnectSetBrush(QObject *receiver)
     connect(m_drawFrame->GetDrawView(), SIGNAL(signalFinishSetBrush()), receiver, SLOT(slotFinishSetBrush()));
 }
 
-DrawFrameBase *GPUDrawFrame::GetDrawFrame() const
-{
-    return m_drawFrame;
-}
+DrawFrameBase *GPUDrawFrame::GetDrawFrame() const { return m_drawFrame; }
 
 void GPUDrawFrame::slotSetCPUDraw(bool cpuFlag)
 {
@@ -92,15 +91,9 @@ void GPUDrawFrame::slotSetCPUDraw(bool cpuFlag)
     m_drawFrame->SetCPUDraw(cpuFlag);
 }
 
-void GPUDrawFrame::slotSetHorizontalScrollBarVisible(bool value)
-{
-    m_horizontalScrollBar->setVisible(value);
-}
+void GPUDrawFrame::slotSetHorizontalScrollBarVisible(bool value) { m_horizontalScrollBar->setVisible(value); }
 
-void GPUDrawFrame::slotSetVerticalScrollBarVisible(bool value)
-{
-    m_verticalScrollBar->setVisible(value);
-}
+void GPUDrawFrame::slotSetVerticalScrollBarVisible(bool value) { m_verticalScrollBar->setVisible(value); }
 
 void GPUDrawFrame::slotUpdateHorizontalScrollBar(QScrollBar *scrollBar)
 {

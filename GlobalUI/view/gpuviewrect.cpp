@@ -16,12 +16,13 @@ VisibleSpan ComputeVisibleSpan(int scroll, int viewportLength, float scaledLengt
 {
     const float first = scaledLength > viewportLength ? scroll / scaledLength : 0.0F;
     const float last = first + viewportLength / scaledLength;
-    return {first, last == 0.0F ? 1.0F : std::min(last, 1.0F)};
+    return { first, last == 0.0F ? 1.0F : std::min(last, 1.0F) };
 }
 
 } // namespace
 
-QRectF ComputeGPUViewRect(const QPoint &scroll, const QSize &viewportSize, const QSizeF &sceneSize, double scale)
+QRectF ComputeGPUViewRect(const QPoint &scroll, const QSize &viewportSize, const QSizeF &sceneSize,
+                          double scale)
 {
     const VisibleSpan across =
         ComputeVisibleSpan(scroll.x(), viewportSize.width(), float(sceneSize.width()) * float(scale));

@@ -10,7 +10,8 @@
 /// top, right and bottom stand in the x, y, width and height slots of the rectangle.
 /// `scroll` is the view's scroll position in screen pixels, `sceneSize` the picture's size in picture
 /// pixels.
-QRectF ComputeGPUViewRect(const QPoint &scroll, const QSize &viewportSize, const QSizeF &sceneSize, double scale);
+QRectF ComputeGPUViewRect(const QPoint &scroll, const QSize &viewportSize, const QSizeF &sceneSize,
+                          double scale);
 
 /// Whether the rectangle shows some part of the picture and nothing beside it.
 bool IsGPUViewRectInside(const QRectF &viewRect);

@@ -29,8 +29,8 @@ const char fragmentShader[] = "varying mediump vec2 texc;\n"
 
 // The drawn quad is the unit square of the second half: the projection maps its visible part onto
 // the viewport, so one set of corners serves as position and as texture coordinate.
-const float vertexData[16] = {-1, -1, 1, -1, -1, 1, 1, 1, //
-                              0,  1,  1, 1,  0,  0, 1, 0};
+const float vertexData[16] = { -1, -1, 1, -1, -1, 1, 1, 1, //
+                               0,  1,  1, 1,  0,  0, 1, 0 };
 constexpr int unitSquareOffset = 32; // bytes
 constexpr int unitSquareBytes = 32;
 constexpr int cornerCount = 4;
@@ -84,20 +84,15 @@ LxCamGPURender::~LxCamGPURender()
     ReleaseGL();
 }
 
-void LxCamGPURender::SetComparing(bool comparing)
-{
-    m_isComparing = comparing;
-}
+void LxCamGPURender::SetComparing(bool comparing) { m_isComparing = comparing; }
 
-void LxCamGPURender::SetRefreshOnError(bool refresh)
-{
-    m_refreshOnError = refresh;
-}
+void LxCamGPURender::SetRefreshOnError(bool refresh) { m_refreshOnError = refresh; }
 
 void LxCamGPURender::InitializeGL()
 {
     m_context = QOpenGLContext::currentContext();
-    connect(m_context, &QOpenGLContext::aboutToBeDestroyed, this, &LxCamGPURender::ReleaseGL, Qt::UniqueConnection);
+    connect(m_context, &QOpenGLContext::aboutToBeDestroyed, this, &LxCamGPURender::ReleaseGL,
+            Qt::UniqueConnection);
 
     initializeOpenGLFunctions();
     m_program.removeAllShaders();
@@ -190,8 +185,8 @@ void LxCamGPURender::ResizeGL(int width, int height, const QRectF &viewRect)
             m_viewRect = viewRect;
     }
     m_matrix.setToIdentity();
-    m_matrix.ortho(float(viewRect.x()), float(viewRect.width()), float(viewRect.height()), float(viewRect.y()),
-                   -1.0F, 1.0F);
+    m_matrix.ortho(float(viewRect.x()), float(viewRect.width()), float(viewRect.height()),
+                   float(viewRect.y()), -1.0F, 1.0F);
 }
 
 void LxCamGPURender::PaintGL(const uchar *data, int width, int height, int channels)
@@ -255,10 +250,11 @@ void LxCamGPURender::Upload(const uchar *data)
     glPixelStorei(GL_UNPACK_ALIGNMENT, 1); // rows are packed, whatever their width
     if (m_needFullUpload) {
         m_needFullUpload = false;
-        glTexImage2D(GL_TEXTURE_2D, 0, GLint(format), m_textureWidth, m_textureHeight, 0, format, GL_UNSIGNED_BYTE,
-                     data);
+        glTexImage2D(GL_TEXTURE_2D, 0, GLint(format), m_textureWidth, m_textureHeight, 0, format,
+                     GL_UNSIGNED_BYTE, data);
     } else {
-        glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, m_textureWidth, m_textureHeight, format, GL_UNSIGNED_BYTE, data);
+        glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, m_textureWidth, m_textureHeight, format, GL_UNSIGNED_BYTE,
+                        data);
     }
     glPixelStorei(GL_UNPACK_ALIGNMENT, 4); // as the paint engine expects it
 }

@@ -60,7 +60,8 @@ QRectF LxGPUDrawItem::boundingRect() const
 
 void LxGPUDrawItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
-    if (!CameraMainManager::GetInstance() || m_viewportWidth < smallestViewport || m_viewportHeight < smallestViewport)
+    if (!CameraMainManager::GetInstance() || m_viewportWidth < smallestViewport
+        || m_viewportHeight < smallestViewport)
         return;
     if (painter->paintEngine()->type() != QPaintEngine::OpenGL2)
         return; // the scene is being drawn into a picture: there is no OpenGL to draw with
@@ -69,8 +70,8 @@ void LxGPUDrawItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, Q
     PrepareRender();
     if (const RawCameraFrame *frame = PreviewManager::GetInstance()->GetCurrentRawFrame()) {
         m_render->ResizeGL(m_viewportWidth, m_viewportHeight, m_viewRect);
-        m_render->PaintGL(frame->buffer ? frame->buffer + frame->headerLength : nullptr, frame->width, frame->height,
-                          frame->channels);
+        m_render->PaintGL(frame->buffer ? frame->buffer + frame->headerLength : nullptr, frame->width,
+                          frame->height, frame->channels);
     }
     // The marks are painted at the same depth as the frame.
     QOpenGLContext::currentContext()->functions()->glDisable(GL_DEPTH_TEST);
@@ -96,7 +97,4 @@ QGraphicsView *LxGPUDrawItem::OwningView() const
     return scene() ? qobject_cast<QGraphicsView *>(scene()->parent()) : nullptr;
 }
 
-bool LxGPUDrawItem::HasViewport() const
-{
-    return m_viewportWidth != 0 && m_viewportHeight != 0;
-}
+bool LxGPUDrawItem::HasViewport() const { return m_viewportWidth != 0 && m_viewportHeight != 0; }

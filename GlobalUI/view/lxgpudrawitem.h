@@ -35,7 +35,7 @@ private:
     std::unique_ptr<LxCamGPURender> m_render;
     qint32 m_viewportWidth = 0;
     qint32 m_viewportHeight = 0;
-    QRectF m_viewRect{0, 0, 1, 1};
+    QRectF m_viewRect{ 0, 0, 1, 1 };
     bool m_glInitialized = false;
     bool m_comparing;
 };

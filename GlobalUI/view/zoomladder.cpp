@@ -11,7 +11,8 @@ constexpr double largestWidgetSide = 16777215.0;
 
 double ComputeMinimum(const QSize &imageSize)
 {
-    const double minimum = std::min(smallestLongSide / imageSize.width(), smallestLongSide / imageSize.height());
+    const double minimum =
+        std::min(smallestLongSide / imageSize.width(), smallestLongSide / imageSize.height());
     return imageSize.height() * minimum < 1.0 ? 1.0 / imageSize.height() : minimum;
 }
 
@@ -23,10 +24,7 @@ ZoomLadder::ZoomLadder(const QSize &imageSize)
 {
 }
 
-double ZoomLadder::Minimum() const
-{
-    return m_minimum;
-}
+double ZoomLadder::Minimum() const { return m_minimum; }
 
 double ZoomLadder::In(double scale) const
 {
@@ -49,10 +47,7 @@ double ZoomLadder::Out(double scale) const
     return target;
 }
 
-double ZoomLadder::OneToOne() const
-{
-    return m_minimum > 1.0 ? std::trunc(m_minimum) : 1.0;
-}
+double ZoomLadder::OneToOne() const { return m_minimum > 1.0 ? std::trunc(m_minimum) : 1.0; }
 
 double ZoomLadder::Fit(const QSize &hostSize) const
 {
@@ -62,10 +57,7 @@ double ZoomLadder::Fit(const QSize &hostSize) const
     return std::min(std::max(scale, m_minimum), MaximumScale);
 }
 
-double ZoomLadder::Bounded(double scale) const
-{
-    return std::max(m_minimum, scale);
-}
+double ZoomLadder::Bounded(double scale) const { return std::max(m_minimum, scale); }
 
 QSize ZoomLadder::ScaledSize(const QSize &imageSize, double scale)
 {

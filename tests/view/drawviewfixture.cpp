@@ -21,19 +21,19 @@ QString ArgumentText(bool value) { return Text(value); }
 QString ArgumentText(const QPoint &value) { return Text(value); }
 QString ArgumentText(const QPointF &value) { return Text(value); }
 
-template<class Argument>
+template <class Argument>
 void Append(QStringList &texts, const Argument &argument)
 {
     texts << ArgumentText(argument);
 }
 
-template<class Pointed>
+template <class Pointed>
 void Append(QStringList &, Pointed *const &)
 {
     // pointers are left out
 }
 
-template<class Sender, class... Arguments>
+template <class Sender, class... Arguments>
 void LogSignal(Sender *sender, void (Sender::*signal)(Arguments...), const QString &name)
 {
     QObject::connect(sender, signal, [name](Arguments... arguments) {
@@ -80,7 +80,8 @@ void DrawViewFixture::LogSignals()
     LogSignal(view, &DrawViewBase::signalMousePressEvent, "signalMousePressEvent");
     LogSignal(view, &DrawViewBase::signalMouseReleaseEvent, "signalMouseReleaseEvent");
     LogSignal(view, &DrawViewBase::signalMouseDoubleClickEvent, "signalMouseDoubleClickEvent");
-    LogSignal(view, &DrawViewBase::signalSetHorizontalScrollBarVisible, "signalSetHorizontalScrollBarVisible");
+    LogSignal(view, &DrawViewBase::signalSetHorizontalScrollBarVisible,
+              "signalSetHorizontalScrollBarVisible");
     LogSignal(view, &DrawViewBase::signalSetVerticalScrollBarVisible, "signalSetVerticalScrollBarVisible");
     LogSignal(view, &DrawViewBase::signalUpdateHorizontalScrollBar, "signalUpdateHorizontalScrollBar");
     LogSignal(view, &DrawViewBase::signalUpdateVerticalScrollBar, "signalUpdateVerticalScrollBar");
@@ -110,7 +111,8 @@ void DrawViewFixture::SendMouse(QEvent::Type type, const QPoint &viewPos, Qt::Mo
     QApplication::sendEvent(viewport, &event);
 }
 
-void DrawViewFixture::SendWheel(const QPoint &viewPos, const QPoint &angleDelta, Qt::KeyboardModifiers modifiers)
+void DrawViewFixture::SendWheel(const QPoint &viewPos, const QPoint &angleDelta,
+                                Qt::KeyboardModifiers modifiers)
 {
     QWidget *viewport = view->viewport();
     QWheelEvent event(viewPos, viewport->mapToGlobal(viewPos), QPoint(), angleDelta, Qt::NoButton, modifiers,
@@ -172,7 +174,8 @@ void StartOpenGLDriver()
 QImage GrabFromScreen(QWidget *widget)
 {
     const QPoint pos = widget->mapToGlobal(QPoint(0, 0));
-    return widget->screen()->grabWindow(0, pos.x(), pos.y(), widget->width(), widget->height())
+    return widget->screen()
+        ->grabWindow(0, pos.x(), pos.y(), widget->width(), widget->height())
         .toImage()
         .convertToFormat(QImage::Format_RGB32);
 }

@@ -37,7 +37,8 @@ public:
     QPoint ViewScroll() const;
     /// A mouse or wheel event at a place of the view, as the window system sends it.
     void SendMouse(QEvent::Type type, const QPoint &viewPos, Qt::MouseButtons buttons = Qt::NoButton);
-    void SendWheel(const QPoint &viewPos, const QPoint &angleDelta, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void SendWheel(const QPoint &viewPos, const QPoint &angleDelta,
+                   Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 };
 
 /// A grey picture in which neighbouring pixels differ: (17 x + 29 y + seed) mod 256.

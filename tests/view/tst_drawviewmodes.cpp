@@ -11,7 +11,8 @@
 
 namespace {
 
-const char glViewportLine[] = "[drawviewbase.cpp:589 DrawViewBase::SetGPUDrawView] DrawViewBase::SetGPUDrawView()";
+const char glViewportLine[] =
+    "[drawviewbase.cpp:589 DrawViewBase::SetGPUDrawView] DrawViewBase::SetGPUDrawView()";
 
 } // namespace
 
@@ -42,7 +43,7 @@ private slots:
 void TestDrawViewModes::switchingToGPUDrawing()
 {
     DrawViewFixture fixture;
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
     fixture.LogSignals();
     fixture.view->SetGPUDrawView();
     QVERIFY(fixture.view->IsGPUDraw());
@@ -51,7 +52,8 @@ void TestDrawViewModes::switchingToGPUDrawing()
     QCOMPARE(fixture.view->viewport()->geometry(), fixture.view->rect());
     QCOMPARE(fixture.view->scene()->items().size(), 1);
     QCOMPARE(DebugLines(), QStringList(glViewportLine));
-    QCOMPARE(CallLog::Calls(), (QStringList{"signalUpdateHorizontalScrollBar()", "signalUpdateVerticalScrollBar()"}));
+    QCOMPARE(CallLog::Calls(),
+             (QStringList{ "signalUpdateHorizontalScrollBar()", "signalUpdateVerticalScrollBar()" }));
     QCOMPARE(fixture.view->GetGPUViewRect(), QRectF(0, 0, 1, 1));
     // The crop frame is the topmost child.
     QCOMPARE(fixture.view->children().last(), static_cast<QObject *>(fixture.view->GetCropFrame()));
@@ -84,13 +86,13 @@ void TestDrawViewModes::switchingBackAndForthLeavesNothingBehind()
 {
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
     const int children = fixture.view->findChildren<QObject *>().size();
     for (int i = 0; i < 20; ++i) {
         fixture.host.slotSetCPUDraw(false);
         QVERIFY(fixture.view->IsGPUDraw());
         const QPointer<QWidget> viewport = fixture.view->viewport();
-        fixture.view->slotPaintPreview(GreyPicture({800, 400}, i));
+        fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }, i));
         QApplication::processEvents();
 
         fixture.host.slotSetCPUDraw(true);
@@ -109,7 +111,7 @@ void TestDrawViewModes::zoomedPictureIsTakenIntoTheHostAndBack()
 {
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->slotPaintPreview(GreyPicture({4096, 4096}));
+    fixture.view->slotPaintPreview(GreyPicture({ 4096, 4096 }));
     fixture.view->slotSetScaleFactor(32.0);
     fixture.host.slotSetCPUDraw(false);
     // No viewport of 131072 pixels for OpenGL.
@@ -128,40 +130,40 @@ void TestDrawViewModes::sayingsOfAFrameOfANewSize()
     DrawViewFixture fixture;
     fixture.view->SetGPUDrawView();
     fixture.LogSignals();
-    fixture.view->slotPaintPreview(GreyPicture({1000, 500}));
+    fixture.view->slotPaintPreview(GreyPicture({ 1000, 500 }));
     QCOMPARE(CallLog::Calls(), (QStringList{
-        "CoverConfigManager::ResetCover()",
-        "ROIManager::SetManualROIChecked(false)",
-        "signalSetHorizontalScrollBarVisible(false)",
-        "signalSetVerticalScrollBarVisible(false)",
-        "signalUpdateHorizontalScrollBar()",
-        "signalUpdateVerticalScrollBar()",
-        "UIConfigManager::signalImageInfoChanged()",
-        "signalScaleFactorChanged(0.4)",
-        "signalUpdateHorizontalScrollBar()",
-        "signalUpdateVerticalScrollBar()",
-        "signalUpdateImageSize(1000x500)",
-        "MeasureManager::SetScaleFactor()",
-        "ReportManager::ClearAll()",
-        "signalImageSizeChanged()",
-        "MeasureConfigManager::signalUpdateScaleUI()",
-    }));
+                                   "CoverConfigManager::ResetCover()",
+                                   "ROIManager::SetManualROIChecked(false)",
+                                   "signalSetHorizontalScrollBarVisible(false)",
+                                   "signalSetVerticalScrollBarVisible(false)",
+                                   "signalUpdateHorizontalScrollBar()",
+                                   "signalUpdateVerticalScrollBar()",
+                                   "UIConfigManager::signalImageInfoChanged()",
+                                   "signalScaleFactorChanged(0.4)",
+                                   "signalUpdateHorizontalScrollBar()",
+                                   "signalUpdateVerticalScrollBar()",
+                                   "signalUpdateImageSize(1000x500)",
+                                   "MeasureManager::SetScaleFactor()",
+                                   "ReportManager::ClearAll()",
+                                   "signalImageSizeChanged()",
+                                   "MeasureConfigManager::signalUpdateScaleUI()",
+                               }));
     QCOMPARE(fixture.view->size(), QSize(400, 200));
     CallLog::Clear();
-    fixture.view->slotPaintPreview(GreyPicture({1000, 500}, 1));
+    fixture.view->slotPaintPreview(GreyPicture({ 1000, 500 }, 1));
     QCOMPARE(CallLog::Calls(), QStringList());
 }
 
 void TestDrawViewModes::newSizeHidesTheCropFrame()
 {
-    for (bool cpuDraw : {true, false}) {
+    for (bool cpuDraw : { true, false }) {
         DrawViewFixture fixture;
         fixture.host.slotSetCPUDraw(cpuDraw);
-        fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+        fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
         fixture.view->GetCropFrame()->show();
-        fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+        fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
         QVERIFY(fixture.view->GetCropFrame()->isVisibleTo(fixture.view));
-        fixture.view->slotPaintPreview(GreyPicture({800, 600}));
+        fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
         QCOMPARE(fixture.view->GetCropFrame()->isVisibleTo(fixture.view), cpuDraw);
     }
 }
@@ -170,18 +172,18 @@ void TestDrawViewModes::frameGoesIntoTheBackgroundOnRequestOnly()
 {
     DrawViewFixture fixture;
     fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
     QCOMPARE(fixture.view->scene()->backgroundBrush().style(), Qt::NoBrush);
 
     QSignalSpy finished(fixture.view, SIGNAL(signalFinishSetBrush()));
     fixture.view->slotSetBrush();
     QCOMPARE(finished.count(), 0);
-    const QImage wanted = GreyPicture({800, 400}, 1);
+    const QImage wanted = GreyPicture({ 800, 400 }, 1);
     fixture.view->slotPaintPreview(wanted);
     QCOMPARE(finished.count(), 1);
     QCOMPARE(fixture.view->scene()->backgroundBrush().texture().toImage(), wanted);
 
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}, 2));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }, 2));
     QCOMPARE(finished.count(), 1);
     QCOMPARE(fixture.view->scene()->backgroundBrush().texture().toImage(), wanted);
 }
@@ -191,7 +193,7 @@ void TestDrawViewModes::zoomUpdatesTheVisiblePart()
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
     fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({800, 600}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
     QCOMPARE(fixture.view->GetGPUViewRect(), QRectF(0, 0, 1, 1));
     fixture.view->slotZoom1v1();
     // The host's 400 x 300 pixels of 800 x 600; zooming keeps the middle but for a pixel or two.
@@ -214,7 +216,7 @@ void TestDrawViewModes::smallerPictureThanTheHostIsShownWhole()
 {
     DrawViewFixture fixture;
     fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({200, 100}));
+    fixture.view->slotPaintPreview(GreyPicture({ 200, 100 }));
     fixture.view->slotZoom1v1();
     QCOMPARE(fixture.view->size(), QSize(200, 100));
     QCOMPARE(fixture.view->GetGPUViewRect(), QRectF(0, 0, 1, 1));
@@ -225,7 +227,7 @@ void TestDrawViewModes::cropFrameHoldsTheGeometry()
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
     fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({800, 600}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
     fixture.view->GetCropFrame()->show();
     const QSize size = fixture.view->size();
     fixture.LogSignals();
@@ -256,7 +258,7 @@ void TestDrawViewModes::scrollBarValuesAreBounded()
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
     fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({800, 600}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
     fixture.view->slotZoom1v1();
     fixture.view->slotHorizontalScrollBarValueChanged(value);
     QCOMPARE(fixture.ViewScroll().x(), reached);
@@ -267,7 +269,7 @@ void TestDrawViewModes::hiddenViewKnowsItsVisiblePart()
 {
     DrawViewFixture fixture;
     fixture.host.slotSetCPUDraw(false);
-    fixture.view->slotPaintPreview(GreyPicture({800, 600}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
     fixture.view->slotZoom1v1();
     const QRectF hidden = fixture.view->GetGPUViewRect();
     QVERIFY(fixture.Show());
@@ -282,7 +284,7 @@ void TestDrawViewModes::removedWithItsItem()
         DrawViewFixture fixture;
         QVERIFY(fixture.Show());
         fixture.view->SetGPUDrawView();
-        fixture.view->slotPaintPreview(GreyPicture({800, 600}));
+        fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
         QApplication::processEvents();
     }
     QCOMPARE(DebugLines().last(), QString("LxCamGPURender::~LxCamGPURender()"));

@@ -39,16 +39,16 @@ private slots:
 void TestDrawViewMouse::sayingsOfAMove()
 {
     DrawViewFixture fixture;
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
     fixture.LogSignals();
-    fixture.SendMouse(QEvent::MouseMove, {100, 30});
+    fixture.SendMouse(QEvent::MouseMove, { 100, 30 });
     QCOMPARE(CallLog::Calls(), (QStringList{
-        "signalEnableScaleFactor((100, 30))",
-        "signalUpdateMousePosition((200, 60))",
-        "UIConfigManager::signalImageInfoChanged()",
-        "signalUpdateImageGrayValueInfo()",
-        "signalMouseMoveEvent()",
-    }));
+                                   "signalEnableScaleFactor((100, 30))",
+                                   "signalUpdateMousePosition((200, 60))",
+                                   "UIConfigManager::signalImageInfoChanged()",
+                                   "signalUpdateImageGrayValueInfo()",
+                                   "signalMouseMoveEvent()",
+                               }));
     QCOMPARE(fixture.report.GetMousePosition(), QPoint(200, 60));
     QCOMPARE(fixture.services.cameraReport.GetMousePosition(), QPoint(0, 0));
 }
@@ -56,20 +56,20 @@ void TestDrawViewMouse::sayingsOfAMove()
 void TestDrawViewMouse::moveWhileMeasuringLeavesTheScaleFactorAlone()
 {
     DrawViewFixture fixture;
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
     fixture.services.cameraMeasure.measurementInProgress = true;
     fixture.LogSignals();
-    fixture.SendMouse(QEvent::MouseMove, {100, 30});
+    fixture.SendMouse(QEvent::MouseMove, { 100, 30 });
     QCOMPARE(CallLog::Calls().first(), QString("signalUpdateMousePosition((200, 60))"));
 }
 
 void TestDrawViewMouse::positionIsRounded()
 {
     DrawViewFixture fixture;
-    fixture.view->slotPaintPreview(GreyPicture({1600, 1200}));
+    fixture.view->slotPaintPreview(GreyPicture({ 1600, 1200 }));
     fixture.view->slotSetScaleFactor(4.0);
     QSignalSpy position(fixture.view, SIGNAL(signalUpdateMousePosition(QPointF)));
-    fixture.view->slotUpdateMousePosition({11, 9});
+    fixture.view->slotUpdateMousePosition({ 11, 9 });
     QCOMPARE(position.first().first().toPointF(), QPointF(2.75, 2.25));
     QCOMPARE(fixture.report.GetMousePosition(), QPoint(3, 2));
 }
@@ -87,18 +87,18 @@ void TestDrawViewMouse::pressShowsTheHandOnlyWhenThePictureMayMove()
     QFETCH(bool, canMove);
     QFETCH(int, pressed);
     DrawViewFixture fixture;
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
     fixture.services.global.drawViewCanMove = canMove;
     QSignalSpy scenes(fixture.view, SIGNAL(signalGraphicsViewPressed(QGraphicsScene *)));
     fixture.LogSignals();
-    fixture.SendMouse(QEvent::MouseButtonPress, {100, 30}, Qt::LeftButton);
+    fixture.SendMouse(QEvent::MouseButtonPress, { 100, 30 }, Qt::LeftButton);
     QCOMPARE(CallLog::Calls(), (QStringList{
-        "signalGraphicsViewPressed()",
-        "signalMousePressEvent((200, 60))",
-    }));
+                                   "signalGraphicsViewPressed()",
+                                   "signalMousePressEvent((200, 60))",
+                               }));
     QCOMPARE(scenes.first().first().value<QGraphicsScene *>(), fixture.view->scene());
     QCOMPARE(int(fixture.view->viewport()->cursor().shape()), pressed);
-    fixture.SendMouse(QEvent::MouseButtonRelease, {100, 30});
+    fixture.SendMouse(QEvent::MouseButtonRelease, { 100, 30 });
     QCOMPARE(int(fixture.view->viewport()->cursor().shape()), int(Qt::ArrowCursor));
 }
 
@@ -106,21 +106,22 @@ void TestDrawViewMouse::dragPansThePicture()
 {
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->slotPaintPreview(GreyPicture({2000, 1600}));
+    fixture.view->slotPaintPreview(GreyPicture({ 2000, 1600 }));
     fixture.view->slotZoom1v1();
-    fixture.frame->SetSliderPosition({500, 400});
-    const QPoint start = fixture.view->mapFrom(fixture.frame->viewport(), {150, 150});
+    fixture.frame->SetSliderPosition({ 500, 400 });
+    const QPoint start = fixture.view->mapFrom(fixture.frame->viewport(), { 150, 150 });
     fixture.SendMouse(QEvent::MouseButtonPress, start, Qt::LeftButton);
     fixture.LogSignals();
 
     // 30 to the right and 20 up: the picture follows.
     fixture.SendMouse(QEvent::MouseMove, start + QPoint(30, -20), Qt::LeftButton);
-    QCOMPARE(CallLog::Calls().mid(1, 2), (QStringList{"signalMoveImage((30, -20))", "signalCompareMove((30, -20))"}));
+    QCOMPARE(CallLog::Calls().mid(1, 2),
+             (QStringList{ "signalMoveImage((30, -20))", "signalCompareMove((30, -20))" }));
     QCOMPARE(fixture.FrameScroll(), QPoint(470, 420));
     QCOMPARE(fixture.view->mapTo(fixture.frame->viewport(), start), QPoint(180, 130));
 
     // The mouse rests: the picture does too.
-    const QPoint rest = fixture.view->mapFrom(fixture.frame->viewport(), {180, 130});
+    const QPoint rest = fixture.view->mapFrom(fixture.frame->viewport(), { 180, 130 });
     fixture.SendMouse(QEvent::MouseMove, rest, Qt::LeftButton);
     QCOMPARE(fixture.FrameScroll(), QPoint(470, 420));
 
@@ -135,34 +136,34 @@ void TestDrawViewMouse::dragStopsWhenAnotherToolTakesTheMouse()
 {
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->slotPaintPreview(GreyPicture({2000, 1600}));
+    fixture.view->slotPaintPreview(GreyPicture({ 2000, 1600 }));
     fixture.view->slotZoom1v1();
-    fixture.SendMouse(QEvent::MouseButtonPress, {150, 150}, Qt::LeftButton);
+    fixture.SendMouse(QEvent::MouseButtonPress, { 150, 150 }, Qt::LeftButton);
     fixture.services.global.drawViewCanMove = false;
-    fixture.SendMouse(QEvent::MouseMove, {100, 100}, Qt::LeftButton);
+    fixture.SendMouse(QEvent::MouseMove, { 100, 100 }, Qt::LeftButton);
     QCOMPARE(fixture.FrameScroll(), QPoint(0, 0));
 }
 
 void TestDrawViewMouse::releaseAndDoubleClickAreSaid()
 {
     DrawViewFixture fixture;
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
     fixture.LogSignals();
-    fixture.SendMouse(QEvent::MouseButtonRelease, {1, 1});
-    fixture.SendMouse(QEvent::MouseButtonDblClick, {1, 1}, Qt::LeftButton);
-    QCOMPARE(CallLog::Calls(), (QStringList{"signalMouseReleaseEvent()", "signalMouseDoubleClickEvent()"}));
+    fixture.SendMouse(QEvent::MouseButtonRelease, { 1, 1 });
+    fixture.SendMouse(QEvent::MouseButtonDblClick, { 1, 1 }, Qt::LeftButton);
+    QCOMPARE(CallLog::Calls(), (QStringList{ "signalMouseReleaseEvent()", "signalMouseDoubleClickEvent()" }));
 }
 
 void TestDrawViewMouse::dragPansWithGPUDrawing()
 {
     DrawViewFixture fixture;
     fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({2000, 1600}));
+    fixture.view->slotPaintPreview(GreyPicture({ 2000, 1600 }));
     fixture.view->slotZoom1v1();
     fixture.view->slotHorizontalScrollBarValueChanged(500);
     fixture.view->slotVerticalScrollBarValueChanged(400);
-    fixture.SendMouse(QEvent::MouseButtonPress, {100, 100}, Qt::LeftButton);
-    fixture.SendMouse(QEvent::MouseMove, {70, 120}, Qt::LeftButton);
+    fixture.SendMouse(QEvent::MouseButtonPress, { 100, 100 }, Qt::LeftButton);
+    fixture.SendMouse(QEvent::MouseMove, { 70, 120 }, Qt::LeftButton);
     QCOMPARE(fixture.ViewScroll(), QPoint(530, 380));
     const QRectF viewRect = fixture.view->GetGPUViewRect();
     QCOMPARE(float(viewRect.x()), 530.0F / 2000);
@@ -190,13 +191,13 @@ void TestDrawViewMouse::wheelZoomsAndNeverScrolls()
     QFETCH(int, modifiers);
     QFETCH(double, scale);
     QFETCH(int, delta);
-    for (bool cpuDraw : {true, false}) {
+    for (bool cpuDraw : { true, false }) {
         DrawViewFixture fixture;
         fixture.host.slotSetCPUDraw(cpuDraw);
-        fixture.view->slotPaintPreview(GreyPicture({2000, 1600}));
+        fixture.view->slotPaintPreview(GreyPicture({ 2000, 1600 }));
         fixture.view->slotZoom1v1();
         QSignalSpy compare(fixture.view, SIGNAL(signalCompareScale(int, QPointF)));
-        fixture.SendWheel({10, 10}, angleDelta, Qt::KeyboardModifiers(modifiers));
+        fixture.SendWheel({ 10, 10 }, angleDelta, Qt::KeyboardModifiers(modifiers));
         QCOMPARE(fixture.Scale(), scale);
         QCOMPARE(compare.count(), 1);
         QCOMPARE(compare.first().first().toInt(), delta);
@@ -217,17 +218,18 @@ void TestDrawViewMouse::wheelKeepsThePointUnderTheMouse()
     QFETCH(int, bias);
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->slotPaintPreview(GreyPicture({4000, 3200}));
+    fixture.view->slotPaintPreview(GreyPicture({ 4000, 3200 }));
     fixture.view->slotSetScaleFactor(2.0);
-    fixture.frame->SetSliderPosition({3000, 2500});
+    fixture.frame->SetSliderPosition({ 3000, 2500 });
     const QPoint mouse(123, 77); // in the frame
     const QPoint viewPos = fixture.view->mapFrom(fixture.frame->viewport(), mouse);
     const QPointF before = fixture.view->mapToScene(viewPos);
-    fixture.SendWheel(viewPos, {0, angle});
+    fixture.SendWheel(viewPos, { 0, angle });
 
     const QPointF after = fixture.view->mapToScene(fixture.view->mapFrom(fixture.frame->viewport(), mouse));
     // A screen pixel is 1 / scale picture pixels; the vertical position goes 60 screen pixels further.
-    QVERIFY2(qAbs(after.x() - before.x()) * fixture.Scale() <= 1.0, qPrintable(QString::number(after.x() - before.x())));
+    QVERIFY2(qAbs(after.x() - before.x()) * fixture.Scale() <= 1.0,
+             qPrintable(QString::number(after.x() - before.x())));
     QVERIFY2(qAbs((after.y() - before.y()) * fixture.Scale() - bias) <= 1.0,
              qPrintable(QString::number(after.y() - before.y())));
 }
@@ -244,16 +246,18 @@ void TestDrawViewMouse::wheelKeepsThePointUnderTheMouseWithGPUDrawing()
     QFETCH(int, angle);
     DrawViewFixture fixture;
     fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({4000, 3200}));
+    fixture.view->slotPaintPreview(GreyPicture({ 4000, 3200 }));
     fixture.view->slotSetScaleFactor(2.0);
     fixture.view->slotHorizontalScrollBarValueChanged(3000);
     fixture.view->slotVerticalScrollBarValueChanged(2500);
     const QPoint mouse(123, 77);
     const QPointF before = fixture.view->mapToScene(mouse);
-    fixture.SendWheel(mouse, {0, angle});
+    fixture.SendWheel(mouse, { 0, angle });
     const QPointF after = fixture.view->mapToScene(mouse);
-    QVERIFY2(qAbs(after.x() - before.x()) * fixture.Scale() <= 1.0, qPrintable(QString::number(after.x() - before.x())));
-    QVERIFY2(qAbs(after.y() - before.y()) * fixture.Scale() <= 1.0, qPrintable(QString::number(after.y() - before.y())));
+    QVERIFY2(qAbs(after.x() - before.x()) * fixture.Scale() <= 1.0,
+             qPrintable(QString::number(after.x() - before.x())));
+    QVERIFY2(qAbs(after.y() - before.y()) * fixture.Scale() <= 1.0,
+             qPrintable(QString::number(after.y() - before.y())));
     // What the GPU draws is what the view shows.
     const QRectF viewRect = fixture.view->GetGPUViewRect();
     const QPointF corner = fixture.view->mapToScene(QPoint(0, 0));
@@ -264,32 +268,32 @@ void TestDrawViewMouse::wheelKeepsThePointUnderTheMouseWithGPUDrawing()
 void TestDrawViewMouse::sayingsOfTheWheel()
 {
     DrawViewFixture fixture;
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
     fixture.LogSignals();
     // At 0.5 the mouse is at 0.25 of the width and 0.5 of the height; the view lies at the frame's (1, 51).
-    fixture.SendWheel({100, 100}, {0, 120});
+    fixture.SendWheel({ 100, 100 }, { 0, 120 });
     const QPoint origin = fixture.view->pos();
     const QPointF slider(800 * 0.25 - (100 + origin.x()), 400 * 0.5 - (100 + origin.y()));
     QCOMPARE(CallLog::Calls(), (QStringList{
-        "UIConfigManager::signalImageInfoChanged()",
-        "signalScaleFactorChanged(1)",
-        "signalSetSliderPosition(" + Text(slider) + ")",
-        "signalCompareScale(120, " + Text(slider) + ")",
-    }));
+                                   "UIConfigManager::signalImageInfoChanged()",
+                                   "signalScaleFactorChanged(1)",
+                                   "signalSetSliderPosition(" + Text(slider) + ")",
+                                   "signalCompareScale(120, " + Text(slider) + ")",
+                               }));
 }
 
 void TestDrawViewMouse::sayingsOfTheWheelWithGPUDrawing()
 {
     DrawViewFixture fixture;
     fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
     fixture.LogSignals();
-    fixture.SendWheel({100, 100}, {0, 120});
+    fixture.SendWheel({ 100, 100 }, { 0, 120 });
     // At 1.0 picture (200, 200) stays under the mouse, at a quarter of the old width 400 and half of
     // the old height 200; the new viewport is 400 x 300.
-    const QStringList updates{"signalUpdateHorizontalScrollBar()", "signalUpdateVerticalScrollBar()"};
-    QCOMPARE(CallLog::Calls().mid(0, 2), (QStringList{"signalSetHorizontalScrollBarVisible(true)",
-                                                      "signalSetVerticalScrollBarVisible(true)"}));
+    const QStringList updates{ "signalUpdateHorizontalScrollBar()", "signalUpdateVerticalScrollBar()" };
+    QCOMPARE(CallLog::Calls().mid(0, 2), (QStringList{ "signalSetHorizontalScrollBarVisible(true)",
+                                                       "signalSetVerticalScrollBarVisible(true)" }));
     QCOMPARE(CallLog::Calls().last(), QString("signalCompareScale(120, (100, 50))"));
     QCOMPARE(CallLog::Count("signalScaleFactorChanged(1)"), 1);
     QCOMPARE(CallLog::Count("signalSetSliderPosition((100, 50))"), 0);
@@ -313,9 +317,9 @@ void TestDrawViewMouse::verticalSliderGoesFurther()
     QFETCH(QPoint, reached);
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->slotPaintPreview(GreyPicture({2000, 2000}));
+    fixture.view->slotPaintPreview(GreyPicture({ 2000, 2000 }));
     fixture.view->slotZoom1v1();
-    fixture.frame->SetSliderPosition({300, 300});
+    fixture.frame->SetSliderPosition({ 300, 300 });
     emit fixture.view->signalSetSliderPosition(wanted);
     QCOMPARE(fixture.FrameScroll(), reached);
 }
@@ -324,14 +328,14 @@ void TestDrawViewMouse::framePositionsAreCut()
 {
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->slotPaintPreview(GreyPicture({2000, 2000}));
+    fixture.view->slotPaintPreview(GreyPicture({ 2000, 2000 }));
     fixture.view->slotZoom1v1();
-    fixture.frame->SetSliderPosition({300.9, 200.9});
+    fixture.frame->SetSliderPosition({ 300.9, 200.9 });
     QCOMPARE(fixture.FrameScroll(), QPoint(300, 200));
     // 300 - 10.5 and 200 + 10.5, towards zero.
-    fixture.frame->slotMoveImage({10.5, -10.5});
+    fixture.frame->slotMoveImage({ 10.5, -10.5 });
     QCOMPARE(fixture.FrameScroll(), QPoint(289, 210));
-    fixture.frame->MoveImage({-0.5, 0.5});
+    fixture.frame->MoveImage({ -0.5, 0.5 });
     QCOMPARE(fixture.FrameScroll(), QPoint(289, 209));
 }
 
@@ -355,7 +359,7 @@ void TestDrawViewMouse::frameCentresASmallPicture()
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
     QCOMPARE(fixture.frame->alignment(), Qt::AlignCenter);
-    fixture.view->slotPaintPreview(GreyPicture({200, 100}));
+    fixture.view->slotPaintPreview(GreyPicture({ 200, 100 }));
     fixture.view->slotZoom1v1();
     const QSize window = fixture.frame->viewport()->size();
     QCOMPARE(fixture.view->pos(), QPoint((window.width() - 200) / 2, (window.height() - 100) / 2));

@@ -12,7 +12,9 @@ QImage ScaledPart(const QImage &picture, double scale, const QPoint &scroll, con
     QImage part(size, QImage::Format_RGB32);
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
-            part.setPixel(x, y, picture.pixel(int((scroll.x() + x + 0.5) / scale), int((scroll.y() + y + 0.5) / scale)));
+            part.setPixel(
+                x, y,
+                picture.pixel(int((scroll.x() + x + 0.5) / scale), int((scroll.y() + y + 0.5) / scale)));
         }
     }
     return part;
@@ -42,7 +44,7 @@ void TestDrawViewPixels::pictureIsShownPixelByPixel_data()
     QTest::addColumn<QSize>("pictureSize");
     QTest::addColumn<bool>("colour");
     QTest::addColumn<double>("scale");
-    for (bool colour : {false, true}) {
+    for (bool colour : { false, true }) {
         const QByteArray kind = colour ? "colour, " : "grey, ";
         QTest::newRow(kind + "zoom 1") << QSize(300, 200) << colour << 1.0;
         QTest::newRow(kind + "zoom 8") << QSize(300, 200) << colour << 8.0;
@@ -66,7 +68,7 @@ void TestDrawViewPixels::pictureIsShownPixelByPixel()
     const QSize size = pictureSize * scale; // whole numbers in all rows
     QCOMPARE(fixture.view->size(), size);
     const QImage shown = fixture.view->grab().toImage().convertToFormat(QImage::Format_RGB32);
-    QCOMPARE(shown, ScaledPart(picture, scale, {0, 0}, size));
+    QCOMPARE(shown, ScaledPart(picture, scale, { 0, 0 }, size));
 }
 
 void TestDrawViewPixels::scrolledPartIsOnTheScreen_data()
@@ -104,11 +106,11 @@ void TestDrawViewPixels::farCornerCanBeScrolledTo()
 {
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    const QImage picture = GreyPicture({800, 600});
+    const QImage picture = GreyPicture({ 800, 600 });
     fixture.view->slotPaintPreview(picture);
     fixture.view->slotZoom1v1();
     QTRY_VERIFY(fixture.frame->verticalScrollBar()->isVisible());
-    fixture.frame->SetSliderPosition({10000, 10000});
+    fixture.frame->SetSliderPosition({ 10000, 10000 });
     const QSize window = fixture.frame->viewport()->size();
     const QPoint scroll(800 - window.width(), 600 - window.height());
     QTRY_COMPARE(GrabFromScreen(fixture.frame->viewport()), ScaledPart(picture, 1.0, scroll, window));
@@ -118,7 +120,7 @@ void TestDrawViewPixels::fittedPictureNeedsNoScrollBars()
 {
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    const QImage picture = GreyPicture({800, 400});
+    const QImage picture = GreyPicture({ 800, 400 });
     fixture.view->slotPaintPreview(picture);
     fixture.view->slotZoom1v1();
     QTRY_VERIFY(fixture.frame->horizontalScrollBar()->isVisible());
@@ -133,10 +135,10 @@ void TestDrawViewPixels::nextFrameReplacesThePicture()
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
     for (int seed = 0; seed < 5; ++seed) {
-        const QImage picture = GreyPicture({350, 250}, 50 * seed);
+        const QImage picture = GreyPicture({ 350, 250 }, 50 * seed);
         fixture.view->slotPaintPreview(picture);
         fixture.view->slotZoom1v1();
-        QTRY_COMPARE(GrabFromScreen(fixture.view), ScaledPart(picture, 1.0, {0, 0}, {350, 250}));
+        QTRY_COMPARE(GrabFromScreen(fixture.view), ScaledPart(picture, 1.0, { 0, 0 }, { 350, 250 }));
     }
 }
 
@@ -150,12 +152,12 @@ void TestDrawViewPixels::smallerPictureLeavesNothingOfTheLargerOne()
     large.fill(0);
     fixture.view->slotPaintPreview(large);
     fixture.view->slotZoom1v1();
-    QTRY_COMPARE(GrabFromScreen(fixture.view), ScaledPart(large, 1.0, {0, 0}, large.size()));
+    QTRY_COMPARE(GrabFromScreen(fixture.view), ScaledPart(large, 1.0, { 0, 0 }, large.size()));
 
-    const QImage small = GreyPicture({256, 128});
+    const QImage small = GreyPicture({ 256, 128 });
     fixture.view->slotPaintPreview(small);
     fixture.view->slotZoom1v1();
-    QTRY_COMPARE(GrabFromScreen(fixture.view), ScaledPart(small, 1.0, {0, 0}, small.size()));
+    QTRY_COMPARE(GrabFromScreen(fixture.view), ScaledPart(small, 1.0, { 0, 0 }, small.size()));
     // Beside the picture the frame is as empty as at the start.
     const QImage shown = GrabFromScreen(window);
     QCOMPARE(shown.pixel(5, 5), empty.pixel(5, 5));
@@ -168,10 +170,10 @@ void TestDrawViewPixels::transparentPictureShowsWhatIsBehind()
     QVERIFY(fixture.Show());
     QWidget *window = fixture.frame->viewport();
     const QRgb behind = GrabFromScreen(window).pixel(5, 5);
-    const QImage opaque = GreyPicture({300, 200});
+    const QImage opaque = GreyPicture({ 300, 200 });
     fixture.view->slotPaintPreview(opaque);
     fixture.view->slotZoom1v1();
-    QTRY_COMPARE(GrabFromScreen(fixture.view), ScaledPart(opaque, 1.0, {0, 0}, opaque.size()));
+    QTRY_COMPARE(GrabFromScreen(fixture.view), ScaledPart(opaque, 1.0, { 0, 0 }, opaque.size()));
 
     QImage picture(300, 200, QImage::Format_ARGB32);
     picture.fill(Qt::transparent);

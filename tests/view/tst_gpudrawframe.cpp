@@ -96,7 +96,7 @@ void TestGPUDrawFrame::barsMirrorTheViewsBars()
 
     const auto *horizontal = fixture.host.findChild<QScrollBar *>("horizontalScrollBar");
     const auto *vertical = fixture.host.findChild<QScrollBar *>("verticalScrollBar");
-    for (const QScrollBar *external : {horizontal, vertical}) {
+    for (const QScrollBar *external : { horizontal, vertical }) {
         QCOMPARE(external->minimum(), 10);
         QCOMPARE(external->maximum(), 500);
         QCOMPARE(external->pageStep(), 70);
@@ -125,7 +125,7 @@ void TestGPUDrawFrame::barsScrollTheView()
 {
     DrawViewFixture fixture;
     fixture.host.slotSetCPUDraw(false);
-    fixture.view->slotPaintPreview(GreyPicture({800, 600}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
     fixture.view->slotZoom1v1();
     QSignalSpy horizontal(&fixture.host, SIGNAL(signalHorizontalScrollBarValueChanged(int)));
     QSignalSpy vertical(&fixture.host, SIGNAL(signalVerticalScrollBarValueChanged(int)));
@@ -161,16 +161,16 @@ void TestGPUDrawFrame::moveImageMovesFrameAndBars()
 {
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->slotPaintPreview(GreyPicture({2000, 1600}));
+    fixture.view->slotPaintPreview(GreyPicture({ 2000, 1600 }));
     fixture.view->slotZoom1v1();
-    fixture.frame->SetSliderPosition({500, 400});
+    fixture.frame->SetSliderPosition({ 500, 400 });
     auto *horizontal = fixture.host.findChild<QScrollBar *>("horizontalScrollBar");
     auto *vertical = fixture.host.findChild<QScrollBar *>("verticalScrollBar");
     horizontal->setRange(0, 1000);
     horizontal->setValue(300);
     vertical->setRange(0, 1000);
     vertical->setValue(200);
-    fixture.host.MoveImage({10.5, -20.5});
+    fixture.host.MoveImage({ 10.5, -20.5 });
     QCOMPARE(fixture.FrameScroll(), QPoint(489, 420));
     QCOMPARE(horizontal->sliderPosition(), 289);
     QCOMPARE(vertical->sliderPosition(), 220);
@@ -188,7 +188,7 @@ void TestGPUDrawFrame::brushConversation()
     fixture.host.slotSetCPUDraw(false);
     emit receiver.signalSetBrush();
     QCOMPARE(receiver.finished, 1);
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
     QCOMPARE(receiver.finished, 2);
 }
 
@@ -196,7 +196,7 @@ void TestGPUDrawFrame::barsFollowZoomWithGPUDrawing()
 {
     DrawViewFixture fixture;
     fixture.host.slotSetCPUDraw(false);
-    fixture.view->slotPaintPreview(GreyPicture({800, 600}));
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
     const auto *horizontal = fixture.host.findChild<QScrollBar *>("horizontalScrollBar");
     QVERIFY(!horizontal->isVisibleTo(&fixture.host));
     fixture.view->slotSetScaleFactor(2.0);

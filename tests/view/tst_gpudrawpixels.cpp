@@ -26,14 +26,15 @@ void TestGPUDrawPixels::sameAsCPUDrawing_data()
     QTest::addColumn<bool>("colour");
     QTest::addColumn<double>("scale");
     QTest::addColumn<QPoint>("scroll");
-    for (bool colour : {false, true}) {
+    for (bool colour : { false, true }) {
         const QByteArray kind = colour ? "RGB, " : "mono, ";
         QTest::newRow(kind + "zoom 1") << QSize(256, 200) << colour << 1.0 << QPoint(0, 0);
         QTest::newRow(kind + "odd width") << QSize(257, 201) << colour << 1.0 << QPoint(0, 0);
         QTest::newRow(kind + "enlarged") << QSize(64, 32) << colour << 4.0 << QPoint(0, 0);
         QTest::newRow(kind + "scrolled, zoom 1") << QSize(1601, 999) << colour << 1.0 << QPoint(701, 333);
         QTest::newRow(kind + "scrolled, zoom 8") << QSize(640, 512) << colour << 8.0 << QPoint(1600, 2400);
-        QTest::newRow(kind + "largest camera, zoom 32") << QSize(4096, 4096) << colour << 32.0 << QPoint(65536, 32768);
+        QTest::newRow(kind + "largest camera, zoom 32")
+            << QSize(4096, 4096) << colour << 32.0 << QPoint(65536, 32768);
     }
 }
 
@@ -74,7 +75,7 @@ void TestGPUDrawPixels::marksLieOnThePicture()
     FakeCameraMainManager camera;
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    const QImage picture = GreyPicture({256, 200});
+    const QImage picture = GreyPicture({ 256, 200 });
     const RawFrame frame(picture);
     fixture.services.preview.currentRawFrame = frame.Record();
     // There before the GPU item is.
@@ -105,7 +106,7 @@ void TestGPUDrawPixels::newWindowGetsThePictureToo()
     FakeCameraMainManager camera;
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    const QImage picture = GreyPicture({256, 200});
+    const QImage picture = GreyPicture({ 256, 200 });
     const RawFrame frame(picture);
     fixture.services.preview.currentRawFrame = frame.Record();
     fixture.view->SetGPUDrawView();

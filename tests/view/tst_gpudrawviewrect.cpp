@@ -23,19 +23,24 @@ void TestGPUDrawViewRect::visiblePartOfThePicture_data()
     QTest::addColumn<QRectF>("edges");
 
     const QSizeF scene(1024, 512);
-    QTest::newRow("the whole picture") << QPoint(0, 0) << QSize(512, 256) << scene << 0.5 << QRectF(0, 0, 1, 1);
-    QTest::newRow("top left quarter") << QPoint(0, 0) << QSize(512, 256) << scene << 1.0 << QRectF(0, 0, 0.5, 0.5);
+    QTest::newRow("the whole picture")
+        << QPoint(0, 0) << QSize(512, 256) << scene << 0.5 << QRectF(0, 0, 1, 1);
+    QTest::newRow("top left quarter")
+        << QPoint(0, 0) << QSize(512, 256) << scene << 1.0 << QRectF(0, 0, 0.5, 0.5);
     QTest::newRow("bottom right quarter")
         << QPoint(512, 256) << QSize(512, 256) << scene << 1.0 << QRectF(0.5, 0.5, 1, 1);
-    QTest::newRow("scrolled across only") << QPoint(256, 0) << QSize(512, 512) << scene << 1.0 << QRectF(0.25, 0, 0.75, 1);
-    QTest::newRow("scrolled down only") << QPoint(0, 128) << QSize(1024, 256) << scene << 1.0 << QRectF(0, 0.25, 1, 0.75);
+    QTest::newRow("scrolled across only")
+        << QPoint(256, 0) << QSize(512, 512) << scene << 1.0 << QRectF(0.25, 0, 0.75, 1);
+    QTest::newRow("scrolled down only")
+        << QPoint(0, 128) << QSize(1024, 256) << scene << 1.0 << QRectF(0, 0.25, 1, 0.75);
     QTest::newRow("smaller than the viewport: position does not count")
         << QPoint(10, 10) << QSize(2048, 1024) << scene << 1.0 << QRectF(0, 0, 1, 1);
-    QTest::newRow("far edges are cut off at 1") << QPoint(900, 0) << QSize(512, 512) << scene << 1.0
-                                                << QRectF(900.0F / 1024.0F, 0, 1, 1);
+    QTest::newRow("far edges are cut off at 1")
+        << QPoint(900, 0) << QSize(512, 512) << scene << 1.0 << QRectF(900.0F / 1024.0F, 0, 1, 1);
     QTest::newRow("zoom 32") << QPoint(16384, 0) << QSize(512, 512) << scene << 32.0
                              << QRectF(0.5, 0, 0.5 + 512.0 / 32768, 512.0 / 16384);
-    QTest::newRow("viewport without a size") << QPoint(0, 0) << QSize(0, 0) << scene << 1.0 << QRectF(0, 0, 1, 1);
+    QTest::newRow("viewport without a size")
+        << QPoint(0, 0) << QSize(0, 0) << scene << 1.0 << QRectF(0, 0, 1, 1);
 }
 
 void TestGPUDrawViewRect::visiblePartOfThePicture()

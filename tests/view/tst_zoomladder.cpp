@@ -108,12 +108,12 @@ void TestZoomLadder::wholeLadderUpAndDown()
     QVector<double> scales;
     for (double scale = 1.0; scales.size() < 6;)
         scales << (scale = ladder.In(scale));
-    QCOMPARE(scales, (QVector<double>{2, 4, 8, 16, 32, 32}));
+    QCOMPARE(scales, (QVector<double>{ 2, 4, 8, 16, 32, 32 }));
 
     scales.clear();
     for (double scale = 1.0; scales.size() < 5;)
         scales << (scale = ladder.Out(scale));
-    QCOMPARE(scales, (QVector<double>{0.5, 0.25, 0.125, 0.0625, 0.0625}));
+    QCOMPARE(scales, (QVector<double>{ 0.5, 0.25, 0.125, 0.0625, 0.0625 }));
 }
 
 void TestZoomLadder::oneToOne_data()

@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "drawviewfixture.h"
-#include "fakecameramainmanager.h"
 #include "guardedtest.h"
 #include "lxcamgpurender.h"
-#include "lxgpudrawitem.h"
 #include "rawcameraframe.h"
 
-#include <QGraphicsScene>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QOpenGLFramebufferObject>
-#include <QPainter>
 #include <QtGui/qopengl.h>
 
 namespace {
@@ -58,7 +54,8 @@ public:
     }
     GLint BoundTexture(GLenum parameter)
     {
-        const auto get = reinterpret_cast<GetTexLevelParameter>(m_context.getProcAddress("glGetTexLevelParameteriv"));
+        const auto get =
+            reinterpret_cast<GetTexLevelParameter>(m_context.getProcAddress("glGetTexLevelParameteriv"));
         GLint value = 0;
         get(GL_TEXTURE_2D, 0, parameter, &value);
         return value;
@@ -85,15 +82,12 @@ const QStringList initLines{
     "[LxCamGPURender]: initializeGL success!\n",
 };
 
-QImage AsColour(const QImage &grey)
-{
-    return grey.convertToFormat(QImage::Format_RGB888);
-}
+QImage AsColour(const QImage &grey) { return grey.convertToFormat(QImage::Format_RGB888); }
 
 } // namespace
 
-/// The renderer in a context of its own, and the item that owns one.
-class TestGPUDraw : public GuardedTest
+/// The renderer in a context of its own.
+class TestGPUDrawRender : public GuardedTest
 {
     Q_OBJECT
 
@@ -111,17 +105,9 @@ private slots:
     void pendingErrorWhileComparingGivesUpTheFrame();
     void withoutInitialisationNothingIsDrawn();
     void endOfTheContextReleasesEverything();
-
-    void itemBounds();
-    void itemNeedsAViewportOfTwoPixels_data();
-    void itemNeedsAViewportOfTwoPixels();
-    void itemNeedsACamera();
-    void itemInitialisesOnceAndDrawsEveryFrame();
-    void itemWithoutAFrameDrawsNothing();
-    void itemIsSkippedInAPictureOfTheScene();
 };
 
-void TestGPUDraw::initialisationIsLogged()
+void TestGPUDrawRender::initialisationIsLogged()
 {
     OffscreenGL offscreen;
     QVERIFY(offscreen.isValid);
@@ -136,7 +122,7 @@ void TestGPUDraw::initialisationIsLogged()
     QCOMPARE(offscreen.BindFrameTexture(), 0U);
 }
 
-void TestGPUDraw::resizeIsLoggedOnce()
+void TestGPUDrawRender::resizeIsLoggedOnce()
 {
     LxCamGPURender render;
     render.ResizeGL(8, 4, wholePicture);
@@ -151,13 +137,13 @@ void TestGPUDraw::resizeIsLoggedOnce()
     QVERIFY(DebugLines().last().startsWith("resizeGL width:9, height:5,time:"));
 }
 
-void TestGPUDraw::drawsTheVisiblePart()
+void TestGPUDrawRender::drawsTheVisiblePart()
 {
     OffscreenGL offscreen;
     QVERIFY(offscreen.isValid);
     LxCamGPURender render;
     render.InitializeGL();
-    const QImage picture = GreyPicture({16, 8});
+    const QImage picture = GreyPicture({ 16, 8 });
     const RawFrame frame(picture);
     const uchar *pixels = frame.Record()->buffer + frame.Record()->headerLength;
 
@@ -171,7 +157,7 @@ void TestGPUDraw::drawsTheVisiblePart()
     QCOMPARE(offscreen.Picture(), AsColour(picture.copy(0, 0, 8, 4)));
 }
 
-void TestGPUDraw::missingFrameIsLogged()
+void TestGPUDrawRender::missingFrameIsLogged()
 {
     OffscreenGL offscreen;
     QVERIFY(offscreen.isValid);
@@ -180,22 +166,22 @@ void TestGPUDraw::missingFrameIsLogged()
     const int lines = DebugLines().size();
     render.PaintGL(nullptr, 8, 4, 1);
     render.PaintGL(nullptr, 8, 4, 1);
-    QCOMPARE(DebugLines().mid(lines), (QStringList{"data NULL", "data NULL"}));
+    QCOMPARE(DebugLines().mid(lines), (QStringList{ "data NULL", "data NULL" }));
 }
 
-void TestGPUDraw::colourAfterGreyAllocatesAnew()
+void TestGPUDrawRender::colourAfterGreyAllocatesAnew()
 {
     OffscreenGL offscreen;
     QVERIFY(offscreen.isValid);
     LxCamGPURender render;
     render.InitializeGL();
     render.ResizeGL(8, 4, wholePicture);
-    const QImage grey = GreyPicture({8, 4});
+    const QImage grey = GreyPicture({ 8, 4 });
     render.PaintGL(grey.constBits(), 8, 4, 1);
     QVERIFY(offscreen.BindFrameTexture() != 0);
     QCOMPARE(offscreen.BoundTexture(textureInternalFormat), GLint(GL_LUMINANCE));
 
-    const QImage colour = ColourPicture({8, 4});
+    const QImage colour = ColourPicture({ 8, 4 });
     render.PaintGL(colour.constBits(), 8, 4, 3);
     QVERIFY(offscreen.BindFrameTexture() != 0);
     QCOMPARE(offscreen.BoundTexture(textureInternalFormat), GLint(GL_RGB));
@@ -205,55 +191,56 @@ void TestGPUDraw::colourAfterGreyAllocatesAnew()
     QCOMPARE(offscreen.Picture(), AsColour(grey));
 }
 
-void TestGPUDraw::sameSizeReplacesTheContentsOnly()
+void TestGPUDrawRender::sameSizeReplacesTheContentsOnly()
 {
     OffscreenGL offscreen;
     QVERIFY(offscreen.isValid);
     LxCamGPURender render;
     render.InitializeGL();
     render.ResizeGL(8, 4, wholePicture);
-    render.PaintGL(GreyPicture({8, 4}).constBits(), 8, 4, 1);
+    render.PaintGL(GreyPicture({ 8, 4 }).constBits(), 8, 4, 1);
     // Twice as wide behind the renderer's back: a new allocation would undo it.
     QVERIFY(offscreen.BindFrameTexture() != 0);
-    offscreen.gl()->glTexImage2D(GL_TEXTURE_2D, 0, GL_LUMINANCE, 16, 4, 0, GL_LUMINANCE, GL_UNSIGNED_BYTE, nullptr);
-    render.PaintGL(GreyPicture({8, 4}, 1).constBits(), 8, 4, 1);
+    offscreen.gl()->glTexImage2D(GL_TEXTURE_2D, 0, GL_LUMINANCE, 16, 4, 0, GL_LUMINANCE, GL_UNSIGNED_BYTE,
+                                 nullptr);
+    render.PaintGL(GreyPicture({ 8, 4 }, 1).constBits(), 8, 4, 1);
     offscreen.BindFrameTexture();
     QCOMPARE(offscreen.BoundTexture(textureWidth), 16);
 }
 
-void TestGPUDraw::otherSizeAllocatesAnew()
+void TestGPUDrawRender::otherSizeAllocatesAnew()
 {
     OffscreenGL offscreen;
     QVERIFY(offscreen.isValid);
     LxCamGPURender render;
     render.InitializeGL();
     render.ResizeGL(8, 4, wholePicture);
-    render.PaintGL(GreyPicture({8, 4}).constBits(), 8, 4, 1);
-    render.PaintGL(GreyPicture({8, 5}).constBits(), 8, 5, 1);
-    const RawFrame odd(GreyPicture({7, 5}, 3)); // rows that are no multiple of four bytes
+    render.PaintGL(GreyPicture({ 8, 4 }).constBits(), 8, 4, 1);
+    render.PaintGL(GreyPicture({ 8, 5 }).constBits(), 8, 5, 1);
+    const RawFrame odd(GreyPicture({ 7, 5 }, 3)); // rows that are no multiple of four bytes
     render.PaintGL(odd.Record()->buffer + odd.Record()->headerLength, 7, 5, 1);
     offscreen.BindFrameTexture();
     QCOMPARE(offscreen.BoundTexture(textureWidth), 7);
 }
 
-void TestGPUDraw::pendingErrorRebuildsEverything()
+void TestGPUDrawRender::pendingErrorRebuildsEverything()
 {
     OffscreenGL offscreen;
     QVERIFY(offscreen.isValid);
     LxCamGPURender render;
     render.InitializeGL();
     render.ResizeGL(8, 4, wholePicture);
-    render.PaintGL(GreyPicture({8, 4}).constBits(), 8, 4, 1);
+    render.PaintGL(GreyPicture({ 8, 4 }).constBits(), 8, 4, 1);
     const int lines = DebugLines().size();
 
     offscreen.LeaveErrorPending();
-    const QImage next = GreyPicture({8, 4}, 77);
+    const QImage next = GreyPicture({ 8, 4 }, 77);
     render.PaintGL(next.constBits(), 8, 4, 1);
     QCOMPARE(DebugLines().mid(lines), QStringList(QString("errcode :%1").arg(invalidEnum)) + initLines);
     QCOMPARE(offscreen.Picture(), AsColour(next));
 }
 
-void TestGPUDraw::pendingErrorWithoutRefreshGivesUpTheFrame()
+void TestGPUDrawRender::pendingErrorWithoutRefreshGivesUpTheFrame()
 {
     OffscreenGL offscreen;
     QVERIFY(offscreen.isValid);
@@ -261,17 +248,17 @@ void TestGPUDraw::pendingErrorWithoutRefreshGivesUpTheFrame()
     render.SetRefreshOnError(false);
     render.InitializeGL();
     render.ResizeGL(8, 4, wholePicture);
-    const QImage shown = GreyPicture({8, 4});
+    const QImage shown = GreyPicture({ 8, 4 });
     render.PaintGL(shown.constBits(), 8, 4, 1);
     const int lines = DebugLines().size();
 
     offscreen.LeaveErrorPending();
-    render.PaintGL(GreyPicture({8, 4}, 77).constBits(), 8, 4, 1);
-    QCOMPARE(DebugLines().mid(lines), (QStringList{"errcode :1280", "errcode :1280, paintGL not refresh"}));
+    render.PaintGL(GreyPicture({ 8, 4 }, 77).constBits(), 8, 4, 1);
+    QCOMPARE(DebugLines().mid(lines), (QStringList{ "errcode :1280", "errcode :1280, paintGL not refresh" }));
     QCOMPARE(offscreen.Picture(), AsColour(shown));
 }
 
-void TestGPUDraw::pendingErrorWhileComparingGivesUpTheFrame()
+void TestGPUDrawRender::pendingErrorWhileComparingGivesUpTheFrame()
 {
     OffscreenGL offscreen;
     QVERIFY(offscreen.isValid);
@@ -279,28 +266,28 @@ void TestGPUDraw::pendingErrorWhileComparingGivesUpTheFrame()
     render.SetComparing(true);
     render.InitializeGL();
     render.ResizeGL(8, 4, wholePicture);
-    const QImage shown = GreyPicture({8, 4});
+    const QImage shown = GreyPicture({ 8, 4 });
     render.PaintGL(shown.constBits(), 8, 4, 1);
     const int lines = DebugLines().size();
 
     offscreen.LeaveErrorPending();
-    render.PaintGL(GreyPicture({8, 4}, 77).constBits(), 8, 4, 1);
+    render.PaintGL(GreyPicture({ 8, 4 }, 77).constBits(), 8, 4, 1);
     QCOMPARE(DebugLines().mid(lines), QStringList("errcode :1280, paintGL isComparing = true"));
     QCOMPARE(offscreen.Picture(), AsColour(shown));
 
-    const QImage next = GreyPicture({8, 4}, 78);
+    const QImage next = GreyPicture({ 8, 4 }, 78);
     render.PaintGL(next.constBits(), 8, 4, 1);
     QCOMPARE(offscreen.Picture(), AsColour(next));
 }
 
-void TestGPUDraw::withoutInitialisationNothingIsDrawn()
+void TestGPUDrawRender::withoutInitialisationNothingIsDrawn()
 {
     LxCamGPURender render;
-    render.PaintGL(GreyPicture({8, 4}).constBits(), 8, 4, 1);
+    render.PaintGL(GreyPicture({ 8, 4 }).constBits(), 8, 4, 1);
     QCOMPARE(DebugLines(), QStringList());
 }
 
-void TestGPUDraw::endOfTheContextReleasesEverything()
+void TestGPUDrawRender::endOfTheContextReleasesEverything()
 {
     auto offscreen = std::make_unique<OffscreenGL>();
     QVERIFY(offscreen->isValid);
@@ -311,132 +298,5 @@ void TestGPUDraw::endOfTheContextReleasesEverything()
     // The guard fails this test if the texture is still there when the renderer goes.
 }
 
-void TestGPUDraw::itemBounds()
-{
-    DrawViewFixture fixture;
-    fixture.view->slotPaintPreview(GreyPicture({800, 400}));
-    LxGPUDrawItem item(false);
-    QCOMPARE(item.boundingRect(), QRectF(0, 0, 200, 200));
-    QVERIFY(!item.acceptDrops());
-    item.SetViewRect(300, 0, wholePicture);
-    QCOMPARE(item.boundingRect(), QRectF(0, 0, 200, 200));
-    item.SetViewRect(300, 200, wholePicture);
-    QCOMPARE(item.boundingRect(), QRectF());
-    item.UpdateView(); // in no scene: nobody to ask
-
-    fixture.view->scene()->addItem(&item);
-    QCOMPARE(item.boundingRect(), QRectF(0, 0, 800, 400));
-    fixture.view->slotPaintPreview(GreyPicture({500, 300}));
-    QCOMPARE(item.boundingRect(), QRectF(0, 0, 500, 300));
-    fixture.view->scene()->removeItem(&item);
-}
-
-void TestGPUDraw::itemNeedsAViewportOfTwoPixels_data()
-{
-    QTest::addColumn<QSize>("viewportSize");
-    QTest::addColumn<bool>("drawn");
-    QTest::newRow("1 x 100") << QSize(1, 100) << false;
-    QTest::newRow("100 x 1") << QSize(100, 1) << false;
-    QTest::newRow("0 x 0") << QSize(0, 0) << false;
-    QTest::newRow("2 x 2") << QSize(2, 2) << true;
-}
-
-void TestGPUDraw::itemNeedsAViewportOfTwoPixels()
-{
-    QFETCH(QSize, viewportSize);
-    QFETCH(bool, drawn);
-    FakeCameraMainManager camera;
-    DrawViewFixture fixture;
-    QOpenGLWidget viewport;
-    viewport.setWindowFlag(Qt::FramelessWindowHint);
-    viewport.resize(20, 20);
-    viewport.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&viewport));
-    {
-        LxGPUDrawItem item(false);
-        item.SetViewRect(viewportSize.width(), viewportSize.height(), wholePicture);
-        viewport.makeCurrent();
-        QPainter painter(&viewport);
-        item.paint(&painter, nullptr, nullptr);
-    }
-    viewport.doneCurrent();
-    QCOMPARE(DebugLines().contains(initLines.last()), drawn);
-}
-
-void TestGPUDraw::itemNeedsACamera()
-{
-    DrawViewFixture fixture;
-    const RawFrame frame(GreyPicture({300, 200}));
-    fixture.services.preview.currentRawFrame = frame.Record();
-    fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({300, 200}));
-    QVERIFY(fixture.Show());
-    GrabFromScreen(&fixture.host);
-    QVERIFY(!DebugLines().contains(initLines.first()));
-
-    FakeCameraMainManager camera;
-    fixture.view->slotPaintPreview(GreyPicture({300, 200}));
-    QTRY_VERIFY(DebugLines().contains(initLines.last()));
-}
-
-void TestGPUDraw::itemInitialisesOnceAndDrawsEveryFrame()
-{
-    FakeCameraMainManager camera;
-    DrawViewFixture fixture;
-    QVERIFY(fixture.Show());
-    fixture.view->SetGPUDrawView();
-    QImage shown;
-    for (int seed = 0; seed < 3; ++seed) {
-        const QImage picture = GreyPicture({400, 300}, 60 * seed);
-        const RawFrame frame(picture);
-        fixture.services.preview.currentRawFrame = frame.Record();
-        fixture.view->slotPaintPreview(picture);
-        QTRY_COMPARE(GrabFromScreen(fixture.view).copy(0, 0, 300, 200),
-                     picture.convertToFormat(QImage::Format_RGB32).copy(0, 0, 300, 200));
-        fixture.services.preview.currentRawFrame = nullptr;
-    }
-    QCOMPARE(DebugLines().count(initLines.last()), 1);
-    QCOMPARE(DebugLines().filter("errcode").size(), 0);
-}
-
-void TestGPUDraw::itemWithoutAFrameDrawsNothing()
-{
-    FakeCameraMainManager camera;
-    DrawViewFixture fixture;
-    QVERIFY(fixture.Show());
-    fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({400, 300}));
-    QTRY_VERIFY(DebugLines().contains(initLines.last()));
-    QVERIFY(!DebugLines().contains("data NULL"));
-
-    RawCameraFrame empty{};
-    empty.width = 400;
-    empty.height = 300;
-    empty.channels = 1;
-    empty.headerLength = 64;
-    fixture.services.preview.currentRawFrame = &empty;
-    fixture.view->slotPaintPreview(GreyPicture({400, 300}));
-    QTRY_VERIFY(DebugLines().contains("data NULL"));
-}
-
-void TestGPUDraw::itemIsSkippedInAPictureOfTheScene()
-{
-    FakeCameraMainManager camera;
-    DrawViewFixture fixture;
-    const RawFrame frame(GreyPicture({300, 200}));
-    fixture.services.preview.currentRawFrame = frame.Record();
-    fixture.view->SetGPUDrawView();
-    fixture.view->slotSetBrush();
-    const QImage background = GreyPicture({300, 200}, 5);
-    fixture.view->slotPaintPreview(background);
-
-    QImage picture(300, 200, QImage::Format_RGB32);
-    QPainter painter(&picture);
-    fixture.view->scene()->render(&painter);
-    painter.end();
-    QCOMPARE(picture, background.convertToFormat(QImage::Format_RGB32));
-    QVERIFY(!DebugLines().contains(initLines.first()));
-}
-
-GUARDED_TEST_MAIN(TestGPUDraw)
-#include "tst_gpudraw.moc"
+GUARDED_TEST_MAIN(TestGPUDrawRender)
+#include "tst_gpudrawrender.moc"
