@@ -2,25 +2,29 @@
 #pragma once
 
 #include "displaylevels.h"
+#include "gammatable.h"
 
 #include <QImage>
 #include <vector>
 
 struct SampleView;
 
-/// Makes the picture that a display shows from raw samples: Grayscale8 from mono, RGB888 from colour.
-/// Straight levels cost about as much as copying the samples; a gamma goes through a table that is kept until the
-/// levels change. One converter for one thread.
+/// Makes the picture that a display shows from raw samples: Grayscale8 from mono, RGB888 from colour and from mono
+/// with saturated samples marked. Straight levels cost about as much as copying the samples; a gamma goes through a
+/// table. One converter for one thread.
 class LevelsConverter
 {
 public:
     /// Writes into `picture`, whose memory is used again when it fits and nobody shares it. Empty samples give a null
-    /// picture. Levels that make no sense are guarded, see DisplayLevels::Guarded().
-    void Convert(const SampleView &samples, const DisplayLevels &levels, QImage *picture);
+    /// picture. Levels that make no sense are guarded, see DisplayLevels::Guarded(). With `marksSaturated` a pixel with
+    /// a sample at full scale is pure red, whatever the levels.
+    void Convert(const SampleView &samples, const DisplayLevels &levels, QImage *picture,
+                 bool marksSaturated = false);
 
 private:
-    void PrepareTable(const DisplayLevels &levels, size_t size);
+    void ConvertRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *grey) const;
+    void MarkRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *rgb);
 
-    std::vector<uchar> m_table; ///< grey of every sample value
-    DisplayLevels m_tableLevels;
+    GammaTable m_gammaTable;
+    std::vector<uchar> m_greyRow; ///< of a mono row that is marked
 };

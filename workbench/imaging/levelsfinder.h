@@ -13,6 +13,6 @@ public:
     /// From the darkest sample to the brightest.
     static DisplayLevels FromRange(const SampleView &samples);
     /// Leaves out the darkest `low` and the brightest 1 - `high` of the samples, both 0 to 1: a few hot pixels do not
-    /// make the picture dark.
-    static DisplayLevels FromPercentiles(const SampleView &samples, double low, double high);
+    /// make the picture dark. Looks at every `rowStep`th row only.
+    static DisplayLevels FromPercentiles(const SampleView &samples, double low, double high, int rowStep = 1);
 };

@@ -11,7 +11,7 @@ struct SampleView
     int height = 0;
     int strideBytes = 0;   ///< from one row to the next
     int bitDepth = 8;      ///< 8 to 16; more than 8 bits take a 16-bit sample in host byte order
-    bool isColour = false; ///< red, green and blue, 8 bits each
+    bool isColour = false; ///< red, green and blue, interleaved
 
     bool IsEmpty() const { return !samples || width <= 0 || height <= 0; }
     int SamplesPerRow() const { return width * (isColour ? 3 : 1); }

@@ -21,6 +21,12 @@ private slots:
     void PictureMemoryIsUsedAgainUnlessShared();
     void NothingGivesANullPicture();
     void TableFollowsTheLevels();
+    void GammaOfEveryValueIsThatOfTheFormula_data();
+    void GammaOfEveryValueIsThatOfTheFormula();
+    void SaturatedSamplesAreRedWhenMarked_data();
+    void SaturatedSamplesAreRedWhenMarked();
+    void SaturatedColourIsRedWhenMarked();
+    void MarkTakesTheTrueBitDepth();
 };
 
 namespace {
@@ -222,6 +228,108 @@ void LevelsConverterTest::TableFollowsTheLevels()
         LevelsConverter().Convert(samples.View(), levels, &fresh);
         QCOMPARE(picture, fresh);
     }
+}
+
+void LevelsConverterTest::GammaOfEveryValueIsThatOfTheFormula_data()
+{
+    QTest::addColumn<int>("left");
+    QTest::addColumn<int>("right");
+    QTest::addColumn<double>("gamma");
+    for (const double gamma : { 0.1, 0.5, 0.9, 1.1, 1.8, 2.2, 10.0 }) {
+        for (const auto &range : { qMakePair(0, 65535), qMakePair(300, 52000), qMakePair(1000, 1300),
+                                   qMakePair(65534, 65535), qMakePair(0, 1) })
+            QTest::addRow("%d..%d gamma %g", range.first, range.second, gamma)
+                << range.first << range.second << gamma;
+    }
+}
+
+void LevelsConverterTest::GammaOfEveryValueIsThatOfTheFormula()
+{
+    QFETCH(int, left);
+    QFETCH(int, right);
+    QFETCH(double, gamma);
+    RandomSamples samples(QSize(65536, 1), 16, false, 1);
+    for (int value = 0; value < 65536; ++value)
+        samples.Set(value, 0, value);
+    QImage picture;
+    LevelsConverter().Convert(samples.View(), { left, right, gamma }, &picture);
+    const uchar *grey = picture.constScanLine(0);
+    for (int value = 0; value < 65536; ++value) {
+        const double exact = ExactGrey(value, left, right, gamma);
+        if (!IsRounded(grey[value], exact, left, right, gamma))
+            QFAIL(qPrintable(QString("%1 became %2, not %3").arg(value).arg(grey[value]).arg(exact)));
+    }
+}
+
+void LevelsConverterTest::SaturatedSamplesAreRedWhenMarked_data()
+{
+    QTest::addColumn<int>("bitDepth");
+    QTest::addColumn<double>("gamma");
+    for (const int bitDepth : { 8, 12, 16 }) {
+        for (const double gamma : { 1.0, 2.2 })
+            QTest::addRow("%d bits gamma %g", bitDepth, gamma) << bitDepth << gamma;
+    }
+}
+
+void LevelsConverterTest::SaturatedSamplesAreRedWhenMarked()
+{
+    QFETCH(int, bitDepth);
+    QFETCH(double, gamma);
+    const int fullScale = (1 << bitDepth) - 1;
+    RandomSamples samples(QSize(53, 17), bitDepth, false, 8);
+    samples.Set(0, 0, fullScale);
+    samples.Set(52, 16, fullScale);
+    samples.Set(1, 0, fullScale - 1);
+    // White begins below full scale: the mark looks at the sample, not at the grey.
+    const DisplayLevels levels{ 10, fullScale / 2, gamma };
+    LevelsConverter converter;
+    QImage plain;
+    QImage marked;
+    converter.Convert(samples.View(), levels, &plain);
+    converter.Convert(samples.View(), levels, &marked, true);
+    QCOMPARE(marked.format(), QImage::Format_RGB888);
+    QCOMPARE(marked.pixel(1, 0), qRgb(255, 255, 255));
+    for (int y = 0; y < 17; ++y) {
+        for (int x = 0; x < 53; ++x)
+            QCOMPARE(marked.pixel(x, y), samples.At(x, y) == fullScale ? qRgb(255, 0, 0) : plain.pixel(x, y));
+    }
+}
+
+void LevelsConverterTest::SaturatedColourIsRedWhenMarked()
+{
+    RandomSamples samples(QSize(40, 30), 8, true, 6);
+    const DisplayLevels levels{ 0, 200, 1.0 };
+    LevelsConverter converter;
+    QImage plain;
+    QImage marked;
+    converter.Convert(samples.View(), levels, &plain);
+    converter.Convert(samples.View(), levels, &marked, true);
+    int markedCount = 0;
+    for (int y = 0; y < 30; ++y) {
+        for (int x = 0; x < 40; ++x) {
+            const bool isSaturated =
+                samples.At(x, y, 0) == 255 || samples.At(x, y, 1) == 255 || samples.At(x, y, 2) == 255;
+            QCOMPARE(marked.pixel(x, y), isSaturated ? qRgb(255, 0, 0) : plain.pixel(x, y));
+            markedCount += isSaturated;
+        }
+    }
+    QVERIFY(markedCount > 0);
+}
+
+void LevelsConverterTest::MarkTakesTheTrueBitDepth()
+{
+    RandomSamples samples(QSize(2, 1), 16, false, 1);
+    samples.Set(0, 0, 4095);
+    samples.Set(1, 0, 4094);
+    SampleView view = samples.View();
+    view.bitDepth = 12;
+    QImage picture;
+    LevelsConverter().Convert(view, DisplayLevels::FullRange(12), &picture, true);
+    QCOMPARE(picture.pixel(0, 0), qRgb(255, 0, 0));
+    QCOMPARE(picture.pixel(1, 0), qRgb(255, 255, 255));
+    view.bitDepth = 16;
+    LevelsConverter().Convert(view, DisplayLevels::FullRange(16), &picture, true);
+    QCOMPARE(picture.pixel(0, 0), qRgb(16, 16, 16));
 }
 
 GUARDED_TEST_MAIN(LevelsConverterTest)
