@@ -90,7 +90,8 @@ void FVBLine::mousePressEvent(QGraphicsSceneMouseEvent *event)
 
 void FVBLine::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
-    const int row = qRound(qBound(m_picture.top(), event->scenePos().y(), m_picture.bottom()));
+    const qreal lastRow = m_picture.bottom() - 1;
+    const int row = qRound(qBound(m_picture.top(), event->scenePos().y(), lastRow));
     if (m_dragged == Edge::Top)
         SetRows(qMin(row, m_bottom), m_bottom);
     else if (m_dragged == Edge::Bottom)

@@ -116,7 +116,9 @@ void TestFVBLine::AnEdgeOfTheBandIsDragged_data()
     QTest::addColumn<int>("bottom");
     QTest::newRow("top") << QPointF(200, 101) << QPointF(220, 60) << 60 << 200;
     QTest::newRow("bottom") << QPointF(200, 199) << QPointF(200, 240) << 100 << 240;
-    QTest::newRow("bottom, out of the picture") << QPointF(200, 200) << QPointF(200, 299) << 100 << 299;
+    QTest::newRow("bottom, to the last row") << QPointF(200, 200) << QPointF(200, 299) << 100 << 299;
+    QTest::newRow("bottom, out of the picture") << QPointF(200, 200) << QPointF(200, 340) << 100 << 299;
+    QTest::newRow("top, out of the picture") << QPointF(200, 100) << QPointF(200, -40) << 0 << 200;
     QTest::newRow("top, beyond the bottom") << QPointF(200, 100) << QPointF(200, 250) << 200 << 200;
 }
 
