@@ -63,7 +63,7 @@ public:
         UIPluginEntry entry;
     };
 
-    bool Load(const QString &filePath, QWidget *parent, UIManagerBase *manager);
+    void Load(const QString &filePath, QWidget *parent, UIManagerBase *manager);
     QWidget *PanelOf(int id) const;
     const Source *SourceOf(int id) const;
 
@@ -73,8 +73,7 @@ public:
     QPointer<QTabWidget> bottomTabs;
 };
 
-/// True when the plug-in was loaded and has a panel.
-bool UIManagerBase::Private::Load(const QString &filePath, QWidget *parent, UIManagerBase *manager)
+void UIManagerBase::Private::Load(const QString &filePath, QWidget *parent, UIManagerBase *manager)
 {
     UIPluginReport report;
     Source source;
@@ -86,7 +85,7 @@ bool UIManagerBase::Private::Load(const QString &filePath, QWidget *parent, UIMa
     }
     AddReport(report);
     if (!panel)
-        return false;
+        return;
 
     panel->setParent(parent);
     panel->hide();
@@ -96,7 +95,6 @@ bool UIManagerBase::Private::Load(const QString &filePath, QWidget *parent, UIMa
     source.id = report.id;
     source.version = report.version;
     sources.push_back(std::move(source));
-    return true;
 }
 
 QWidget *UIManagerBase::Private::PanelOf(int id) const
