@@ -40,6 +40,17 @@ Qt::CursorShape CursorOf(SelectionRect::Grip grip)
     return Qt::ArrowCursor;
 }
 
+bool IsApplyKey(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+/// Applies or leaves.
+bool TakesKey(int key)
+{
+    return IsApplyKey(key) || key == Qt::Key_Escape;
+}
+
 } // namespace
 
 CropFrame::CropFrame(QGraphicsScene *scene, QWidget *parent)
@@ -61,12 +72,12 @@ CropFrame::CropFrame(QGraphicsScene *scene, QWidget *parent)
 
 void CropFrame::slotSetCoverFrameVisible(bool visible)
 {
-    ShowFor(Mode::Cover, visible);
+    ShowFor(Cover, visible);
 }
 
 void CropFrame::slotFinishFillCover(QRect rect)
 {
-    m_selection.SetRect(rect);
+    m_selections[Cover].SetRect(rect);
     update();
 }
 
@@ -79,15 +90,15 @@ void CropFrame::slotSetOpacity(float opacity)
 void CropFrame::slotSetROIFrameVisible(bool visible, bool reset)
 {
     if (reset)
-        m_selection.Clear();
-    ShowFor(Mode::Region, visible);
+        m_selections[Region].Clear();
+    ShowFor(Region, visible);
 }
 
 void CropFrame::slotSetCropState(int state, bool visible)
 {
     if (state == 0)
-        m_selection.Clear();
-    ShowFor(Mode::Crop, visible);
+        m_selections[Crop].Clear();
+    ShowFor(Crop, visible);
 }
 
 void CropFrame::ShowFor(Mode mode, bool visible)
@@ -109,7 +120,8 @@ void CropFrame::ShowFor(Mode mode, bool visible)
 
 void CropFrame::slotSceneRectChanged(QRectF sceneRect)
 {
-    m_selection.SetBounds(sceneRect.toAlignedRect());
+    for (SelectionRect &selection : m_selections)
+        selection.SetBounds(sceneRect.toAlignedRect());
     update();
 }
 
@@ -132,22 +144,31 @@ qreal CropFrame::HandleReach() const
     return GlobalClass::GetActualSize(HandleSize) / 2.0 / (scale > 0.0 ? scale : 1.0);
 }
 
+bool CropFrame::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && TakesKey(static_cast<QKeyEvent *>(event)->key())) {
+        event->accept(); // the frame takes it before a shortcut of the window does
+        return true;
+    }
+    return QWidget::event(event);
+}
+
 void CropFrame::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    m_selection.Press(ToScene(event->localPos()), HandleReach());
+    Selection().Press(ToScene(event->localPos()), HandleReach());
 }
 
 void CropFrame::mouseMoveEvent(QMouseEvent *event)
 {
     if (!event->buttons().testFlag(Qt::LeftButton))
-        m_selection.Release(); // the frame was hidden in the middle of a drag
-    if (m_selection.Drag(ToScene(event->localPos()))) {
+        Selection().Release(); // the frame was hidden in the middle of a drag
+    if (Selection().Drag(ToScene(event->localPos()))) {
         AnnounceRegion(false);
         update();
     }
-    if (!m_selection.IsDragging())
+    if (!Selection().IsDragging())
         UpdateCursor(event->localPos());
     emit signalUpdateMousePosition(event->pos());
 }
@@ -156,7 +177,7 @@ void CropFrame::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    m_selection.Release();
+    Selection().Release();
     update();
 }
 
@@ -185,7 +206,7 @@ void CropFrame::wheelEvent(QWheelEvent *event)
 
 void CropFrame::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (IsApplyKey(event->key()))
         Apply();
     else if (event->key() == Qt::Key_Escape)
         Cancel();
@@ -195,48 +216,50 @@ void CropFrame::keyPressEvent(QKeyEvent *event)
 
 void CropFrame::Apply()
 {
-    m_selection.Release();
-    if (m_selection.IsEmpty())
+    Selection().Release();
+    if (Selection().IsEmpty())
         return; // nothing selected: the frame waits for a drag
     hide();
-    if (m_mode == Mode::Cover)
-        emit signalManualCoverFinished(m_selection.Rect());
+    if (m_mode == Cover)
+        emit signalManualCoverFinished(Selection().Rect());
     else
         AnnounceRegion(true);
 }
 
 void CropFrame::Cancel()
 {
-    m_selection.Clear();
+    Selection().Clear();
     hide();
-    if (m_mode == Mode::Cover)
+    if (m_mode == Cover)
         emit signalStopManualCover();
+    else if (m_mode == Crop)
+        AnnounceRegion(false);
     else
         emit signalStopRegionSelected();
 }
 
 void CropFrame::AnnounceRegion(bool apply)
 {
-    if (m_mode == Mode::Cover)
+    if (m_mode == Cover)
         return; // a cover is announced when it is finished
-    const QRect rect = m_selection.Rect();
+    const QRect rect = Selection().Rect();
     emit signalSetSelectRegion(rect.x(), rect.y(), rect.width(), rect.height(), apply);
 }
 
 void CropFrame::UpdateCursor(const QPointF &viewPos)
 {
-    setCursor(CursorOf(m_selection.GripAt(ToScene(viewPos), HandleReach())));
+    setCursor(CursorOf(Selection().GripAt(ToScene(viewPos), HandleReach())));
 }
 
 void CropFrame::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QRectF selection = SceneToFrame().mapRect(QRectF(m_selection.Rect()));
-    if (m_mode == Mode::Cover)
+    const QRectF selection = SceneToFrame().mapRect(QRectF(Selection().Rect()));
+    if (m_mode == Cover)
         painter.fillRect(selection, QColor(0, 0, 0, qRound(255 * m_opacity)));
     else
         DrawSurroundings(painter, selection);
-    if (m_selection.IsEmpty())
+    if (Selection().IsEmpty())
         return;
     painter.setPen(QPen(Qt::yellow, GlobalClass::GetActualSize(1)));
     painter.drawRect(selection);
@@ -269,7 +292,7 @@ void CropFrame::DrawHandles(QPainter &painter, const QRectF &selection) const
 
 void CropFrame::DrawSizeText(QPainter &painter, const QRectF &selection) const
 {
-    const QString text = QString("%1 x %2").arg(m_selection.Rect().width()).arg(m_selection.Rect().height());
+    const QString text = QString("%1 x %2").arg(Selection().Rect().width()).arg(Selection().Rect().height());
     const QPointF above = selection.topLeft() - QPointF(0, GlobalClass::GetActualSize(HandleSize));
     const qreal top = qMax<qreal>(above.y(), painter.fontMetrics().height());
     painter.drawText(QPointF(qMax<qreal>(above.x(), 0), top), text);

@@ -9,12 +9,15 @@
 #include <QTransform>
 #include <QWidget>
 
+#include <array>
+
 class QGraphicsScene;
 class QGraphicsView;
 
 /// The crop rectangle over a draw view: selects a region of interest, a cover or a crop by mouse.
 /// A drag draws it, moves it or resizes it by its handles; a double click or Enter applies it, Esc
-/// leaves. Hidden until one of the slots shows it. Owned by the view it lies on, whose size it takes.
+/// leaves. Each of the three has a selection of its own. Hidden until one of the slots shows it.
+/// Owned by the view it lies on, whose size it takes.
 class GLOBALUI_COLLABORATORS_EXPORT CropFrame : public QWidget
 {
     Q_OBJECT
@@ -41,11 +44,13 @@ signals:
     void signalUpdateMousePosition(QPoint viewPos);
     void signalStopManualCover();
     void signalManualCoverFinished(QRect rect);
-    /// The selected region in picture pixels; `apply` is false while it is still being drawn.
+    /// The selected region in picture pixels; `apply` is false while it is still being drawn. It is
+    /// empty when a crop is left without one.
     void signalSetSelectRegion(int x, int y, int width, int height, bool apply);
     void signalStopRegionSelected();
 
 protected:
+    bool event(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -58,12 +63,15 @@ private slots:
     void slotSceneRectChanged(QRectF sceneRect);
 
 private:
-    enum class Mode { Region, Cover, Crop };
+    enum Mode { Region, Cover, Crop, ModeCount };
 
     void ShowFor(Mode mode, bool visible);
     void Apply();
     void Cancel();
     void AnnounceRegion(bool apply);
+    /// Of the mode at work.
+    SelectionRect &Selection() { return m_selections[m_mode]; }
+    const SelectionRect &Selection() const { return m_selections[m_mode]; }
     void UpdateCursor(const QPointF &viewPos);
     /// From picture pixels to this widget's pixels.
     QTransform SceneToFrame() const;
@@ -76,7 +84,7 @@ private:
 
     QPointer<QGraphicsScene> m_scene;
     QGraphicsView *m_view; ///< the parent; null when it is another kind of widget
-    Mode m_mode = Mode::Region;
-    SelectionRect m_selection;
+    Mode m_mode = Region;
+    std::array<SelectionRect, ModeCount> m_selections;
     qreal m_opacity = 0.5;
 };

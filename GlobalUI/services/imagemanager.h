@@ -62,6 +62,7 @@ public slots:
     virtual void slotSaveImageAs() = 0;
     virtual void slotImageCrop() = 0;
     virtual void slotImageInfo() = 0;
+    /// The region drawn so far, and the one to cut out with `apply`; an empty one ends the cropping.
     virtual void slotCrop(int x, int y, int width, int height, bool apply) = 0;
     virtual void slotNewImageCopy(void *image) = 0;
     virtual void slotMouseMoveEvent(QMouseEvent *event) = 0;

@@ -7,8 +7,10 @@
 #include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalSpy>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <memory>
 
@@ -45,12 +47,17 @@ private slots:
     void ARegionIsAppliedBy_data();
     void ARegionIsAppliedBy();
     void AnEmptyRegionIsNotApplied();
+    void ItsKeysGoBeforeShortcutsOfTheWindow_data();
+    void ItsKeysGoBeforeShortcutsOfTheWindow();
+    void ShortcutsOfTheWindowWorkWhileItIsHidden();
     void EscLeavesTheMode_data();
     void EscLeavesTheMode();
     void ACoverIsAnnouncedWhenItIsFinished();
     void AFinishedCoverIsShown();
     void ACropBeginsAnewInStateZero();
     void ARegionIsKeptUnlessReset();
+    void EachModeHasItsOwnSelection();
+    void AFinishedCoverLeavesTheRegionAlone();
     void HidingAnotherModeChangesNothing();
     void TellsWhereTheMouseIs();
     void TheRightButtonDrawsNothing();
@@ -181,14 +188,48 @@ void TestCropFrame::AnEmptyRegionIsNotApplied()
     QVERIFY(m_frame->isVisible());
 }
 
+void TestCropFrame::ItsKeysGoBeforeShortcutsOfTheWindow_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<bool>("taken");
+    QTest::newRow("Esc") << int(Qt::Key_Escape) << true;
+    QTest::newRow("Return") << int(Qt::Key_Return) << true;
+    QTest::newRow("Enter") << int(Qt::Key_Enter) << true;
+    QTest::newRow("F8") << int(Qt::Key_F8) << false;
+}
+
+void TestCropFrame::ItsKeysGoBeforeShortcutsOfTheWindow()
+{
+    QFETCH(int, key);
+    QFETCH(bool, taken);
+    QShortcut shortcut(QKeySequence(key), m_view.get());
+    QSignalSpy activated(&shortcut, SIGNAL(activated()));
+    m_frame->slotSetROIFrameVisible(true, true);
+    Drag(QPoint(40, 20), QPoint(240, 120));
+    QTest::keyClick(m_view->windowHandle(), Qt::Key(key));
+    QTRY_COMPARE(m_frame->isHidden(), taken);
+    QTRY_COMPARE(activated.count(), taken ? 0 : 1);
+}
+
+void TestCropFrame::ShortcutsOfTheWindowWorkWhileItIsHidden()
+{
+    QShortcut shortcut(QKeySequence(Qt::Key_Escape), m_view.get());
+    QSignalSpy activated(&shortcut, SIGNAL(activated()));
+    m_frame->slotSetROIFrameVisible(true, true);
+    m_frame->slotSetROIFrameVisible(false, true);
+    QTest::keyClick(m_view->windowHandle(), Qt::Key_Escape);
+    QTRY_COMPARE(activated.count(), 1);
+}
+
 void TestCropFrame::EscLeavesTheMode_data()
 {
     QTest::addColumn<QString>("mode");
     QTest::addColumn<int>("regionStops");
     QTest::addColumn<int>("coverStops");
-    QTest::newRow("region of interest") << "roi" << 1 << 0;
-    QTest::newRow("cover") << "cover" << 0 << 1;
-    QTest::newRow("crop") << "crop" << 1 << 0;
+    QTest::addColumn<int>("emptyRegions");
+    QTest::newRow("region of interest") << "roi" << 1 << 0 << 0;
+    QTest::newRow("cover") << "cover" << 0 << 1 << 0;
+    QTest::newRow("crop") << "crop" << 0 << 0 << 1;
 }
 
 void TestCropFrame::EscLeavesTheMode()
@@ -196,6 +237,7 @@ void TestCropFrame::EscLeavesTheMode()
     QFETCH(QString, mode);
     QFETCH(int, regionStops);
     QFETCH(int, coverStops);
+    QFETCH(int, emptyRegions);
     QSignalSpy regionStopped(m_frame, SIGNAL(signalStopRegionSelected()));
     QSignalSpy coverStopped(m_frame, SIGNAL(signalStopManualCover()));
     if (mode == "roi")
@@ -209,7 +251,9 @@ void TestCropFrame::EscLeavesTheMode()
     QTest::keyClick(m_frame, Qt::Key_Escape);
     QCOMPARE(regionStopped.count(), regionStops);
     QCOMPARE(coverStopped.count(), coverStops);
-    QCOMPARE(m_regions->count(), 0);
+    QCOMPARE(m_regions->count(), emptyRegions);
+    for (const QList<QVariant> &region : qAsConst(*m_regions))
+        QCOMPARE(region, QList<QVariant>({0, 0, 0, 0, false}));
     QVERIFY(!m_frame->isVisible());
 }
 
@@ -257,6 +301,29 @@ void TestCropFrame::ARegionIsKeptUnlessReset()
     QCOMPARE(AppliedRegion(), QRect(20, 10, 100, 50));
     m_frame->slotSetROIFrameVisible(true, true);
     QCOMPARE(AppliedRegion(), QRect());
+}
+
+void TestCropFrame::EachModeHasItsOwnSelection()
+{
+    QSignalSpy covers(m_frame, SIGNAL(signalManualCoverFinished(QRect)));
+    m_frame->slotSetROIFrameVisible(true, true);
+    Drag(QPoint(40, 20), QPoint(240, 120));
+    m_frame->slotSetCoverFrameVisible(true);
+    QTest::keyClick(m_frame, Qt::Key_Return); // nothing is drawn for the cover yet
+    QCOMPARE(covers.count(), 0);
+    QVERIFY(m_frame->isVisible());
+    m_frame->slotSetCropState(1, true);
+    QCOMPARE(AppliedRegion(), QRect());
+    m_frame->slotSetROIFrameVisible(true, false);
+    QCOMPARE(AppliedRegion(), QRect(20, 10, 100, 50));
+}
+
+void TestCropFrame::AFinishedCoverLeavesTheRegionAlone()
+{
+    m_frame->slotSetROIFrameVisible(true, true);
+    Drag(QPoint(40, 20), QPoint(240, 120));
+    m_frame->slotFinishFillCover(QRect(1, 2, 3, 4));
+    QCOMPARE(AppliedRegion(), QRect(20, 10, 100, 50));
 }
 
 void TestCropFrame::HidingAnotherModeChangesNothing()
