@@ -8,11 +8,11 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QTreeView>
 
 FileSystemView::FileSystemView(QWidget *parent)
     : QWidget(parent)
-    , m_model(new QFileSystemModel(this))
     , m_tree(new QTreeView(this))
     , m_path(new QLineEdit(this))
 {
@@ -27,13 +27,8 @@ FileSystemView::FileSystemView(QWidget *parent)
     column->addLayout(row);
     column->addWidget(m_tree);
 
-    m_model->setFilter(QDir::Dirs | QDir::Drives | QDir::NoDotAndDotDot);
-    m_model->setOption(QFileSystemModel::DontWatchForChanges);
-    m_model->setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
-    m_tree->setModel(m_model);
     m_tree->setHeaderHidden(true);
-    for (int column = 1; column < m_model->columnCount(); ++column)
-        m_tree->hideColumn(column);
+    ReadFolders(false);
 
     connect(m_tree, SIGNAL(clicked(QModelIndex)), this, SLOT(slotFolderClicked(QModelIndex)));
     connect(m_tree, SIGNAL(activated(QModelIndex)), this, SLOT(slotFolderClicked(QModelIndex)));
@@ -43,17 +38,48 @@ FileSystemView::FileSystemView(QWidget *parent)
 
 void FileSystemView::StartFolderChecked()
 {
-    m_model->setOption(QFileSystemModel::DontWatchForChanges, false);
-    m_model->setRootPath(QDir::rootPath());
-    if (!m_folder.isEmpty())
+    if (m_checked)
         return;
+    m_checked = true;
+    ReadFolders(true);
+    m_model->setRootPath(QDir::rootPath());
+    if (!m_folder.isEmpty()) {
+        ShowCurrentFolder();
+        return;
+    }
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
     slotShowFolder(QDir(pictures).exists() ? pictures : QDir::homePath());
 }
 
 void FileSystemView::StopFolderChecked()
 {
-    m_model->setOption(QFileSystemModel::DontWatchForChanges, true);
+    m_checked = false;
+    m_model->setOption(QFileSystemModel::DontWatchForChanges);
+}
+
+// A model that has stopped watching never watches again what it has read by then, so each start takes
+// a new one.
+void FileSystemView::ReadFolders(bool watch)
+{
+    auto *model = new QFileSystemModel(this);
+    model->setFilter(QDir::Dirs | QDir::Drives | QDir::NoDotAndDotDot);
+    model->setOption(QFileSystemModel::DontWatchForChanges, !watch);
+    model->setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
+    connect(model, SIGNAL(directoryLoaded(QString)), this, SLOT(slotFolderRead(QString)));
+    m_tree->setModel(model);
+    for (int column = 1; column < model->columnCount(); ++column)
+        m_tree->hideColumn(column);
+    delete m_model;
+    m_model = model;
+    m_foldersRead.clear();
+}
+
+void FileSystemView::ShowCurrentFolder()
+{
+    const QModelIndex index = m_model->index(m_folder);
+    m_tree->setCurrentIndex(index);
+    m_tree->expand(index);
+    m_tree->scrollTo(index);
 }
 
 void FileSystemView::BindingConnectionsWithWidget(QWidget *fileThumbnail)
@@ -69,10 +95,7 @@ void FileSystemView::slotShowFolder(QString folder)
         return;
     m_folder = path;
     m_path->setText(QDir::toNativeSeparators(path));
-    const QModelIndex index = m_model->index(path);
-    m_tree->setCurrentIndex(index);
-    m_tree->expand(index);
-    m_tree->scrollTo(index);
+    ShowCurrentFolder();
     emit signalFolderChanged(path);
 }
 
@@ -85,4 +108,15 @@ void FileSystemView::slotPathEntered()
 {
     slotShowFolder(QDir::fromNativeSeparators(m_path->text()));
     m_path->setText(QDir::toNativeSeparators(m_folder)); // a folder that is not there was refused
+}
+
+// Folders are read one after the other; what comes before the shown one pushes it out of sight.
+void FileSystemView::slotFolderRead(QString folder)
+{
+    const bool isFirstTime = !m_foldersRead.contains(folder);
+    m_foldersRead.insert(folder);
+    if (!isFirstTime || !m_folder.startsWith(folder))
+        return;
+    // The model puts what it has read into order a moment later.
+    QTimer::singleShot(0, this, [this] { m_tree->scrollTo(m_tree->currentIndex()); });
 }

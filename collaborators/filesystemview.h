@@ -3,6 +3,8 @@
 
 #include "collaboratorsexport.h"
 
+#include <QSet>
+#include <QString>
 #include <QWidget>
 
 class QFileSystemModel;
@@ -35,10 +37,17 @@ signals:
 private slots:
     void slotFolderClicked(const QModelIndex &index);
     void slotPathEntered();
+    void slotFolderRead(QString folder);
 
 private:
-    QFileSystemModel *m_model;
+    /// The tree begins again with what is on the disk now.
+    void ReadFolders(bool watch);
+    void ShowCurrentFolder();
+
+    QFileSystemModel *m_model = nullptr;
     QTreeView *m_tree;
     QLineEdit *m_path;
     QString m_folder;
+    QSet<QString> m_foldersRead; ///< by the model, since it began
+    bool m_checked = false;      ///< the folders are being watched
 };

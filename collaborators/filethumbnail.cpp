@@ -11,7 +11,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSet>
-#include <QSignalBlocker>
+#include <QTimer>
 
 namespace {
 
@@ -21,6 +21,15 @@ constexpr int IconSize = 64;   // design pixels
 constexpr int GridWidth = 130; // design pixels
 constexpr int GridHeight = 100;
 constexpr int FewestToMerge = 2;
+constexpr int UpdateDelayMs = 200;
+
+QListWidgetItem *NewItem(const QFileInfo &file, const QIcon &icon)
+{
+    auto *item = new QListWidgetItem(icon, file.fileName());
+    item->setData(Qt::UserRole, file.absoluteFilePath());
+    item->setToolTip(file.fileName());
+    return item;
+}
 
 } // namespace
 
@@ -29,6 +38,7 @@ FileThumbnail::FileThumbnail(QWidget *parent)
     , m_files(new QListWidget(this))
     , m_mergeButton(new QPushButton(tr("Merge"), this))
     , m_watcher(new QFileSystemWatcher(this))
+    , m_updateTimer(new QTimer(this))
 {
     m_files->setObjectName("listWidgetFiles");
     m_files->setViewMode(QListView::IconMode);
@@ -53,7 +63,10 @@ FileThumbnail::FileThumbnail(QWidget *parent)
             this, SLOT(slotFileActivated(QListWidgetItem*)));
     connect(m_files, SIGNAL(itemSelectionChanged()), this, SLOT(slotSelectionChanged()));
     connect(m_mergeButton, SIGNAL(clicked()), this, SLOT(slotMergeClicked()));
-    connect(m_watcher, SIGNAL(directoryChanged(QString)), this, SLOT(slotUpdateFiles()));
+    m_updateTimer->setSingleShot(true);
+    m_updateTimer->setInterval(UpdateDelayMs);
+    connect(m_watcher, SIGNAL(directoryChanged(QString)), this, SLOT(slotFolderChanged()));
+    connect(m_updateTimer, SIGNAL(timeout()), this, SLOT(slotUpdateFiles()));
 }
 
 void FileThumbnail::StartFolderChecked()
@@ -66,6 +79,7 @@ void FileThumbnail::StartFolderChecked()
 void FileThumbnail::StopFolderChecked()
 {
     m_checked = false;
+    m_updateTimer->stop();
     WatchFolder();
 }
 
@@ -86,41 +100,56 @@ void FileThumbnail::slotOpenFileDirectory(QString folder)
     if (folder.isEmpty() || path == m_folder || !QDir(path).exists())
         return;
     m_folder = path;
+    m_files->clear();
     WatchFolder();
     slotUpdateFiles();
     emit signalFolderChanged(path);
 }
 
+/// The folder itself; while it is gone the nearest one above it, which sees it come back.
 void FileThumbnail::WatchFolder()
 {
     const QStringList watched = m_watcher->directories();
     if (!watched.isEmpty())
         m_watcher->removePaths(watched);
-    if (m_checked && !m_folder.isEmpty())
-        m_watcher->addPath(m_folder);
+    if (!m_checked || m_folder.isEmpty())
+        return;
+    QString path = m_folder;
+    while (!m_watcher->addPath(path) && !QDir(path).isRoot())
+        path = QFileInfo(path).path();
 }
 
-/// Lists the folder anew; files that are still there stay selected.
+void FileThumbnail::slotFolderChanged()
+{
+    if (!m_updateTimer->isActive())
+        m_updateTimer->start();
+}
+
+/// Lists what is new and drops what is gone; the others stay as they are, selected or current.
 void FileThumbnail::slotUpdateFiles()
 {
     if (m_folder.isEmpty())
         return;
-    const QList<QString> selectedBefore = SelectedFiles();
-    const QSet<QString> selected(selectedBefore.begin(), selectedBefore.end());
-    {
-        const QSignalBlocker quiet(m_files);
-        const QFileIconProvider icons;
-        m_files->clear();
-        const QDir::SortFlags order = QDir::Name | QDir::IgnoreCase;
-        for (const QFileInfo &file :
-             QDir(m_folder).entryInfoList(PictureNames, QDir::Files | QDir::Readable, order)) {
-            auto *item = new QListWidgetItem(icons.icon(file), file.fileName(), m_files);
-            item->setData(Qt::UserRole, file.absoluteFilePath());
-            item->setToolTip(file.fileName());
-            item->setSelected(selected.contains(file.absoluteFilePath()));
-        }
+    if (m_checked && !m_watcher->directories().contains(m_folder))
+        WatchFolder();
+    const QFileInfoList files = QDir(m_folder).entryInfoList(PictureNames, QDir::Files | QDir::Readable,
+                                                             QDir::Name | QDir::IgnoreCase);
+    QSet<QString> names;
+    for (const QFileInfo &file : files)
+        names.insert(file.fileName());
+    for (int row = m_files->count() - 1; row >= 0; --row) {
+        if (!names.contains(m_files->item(row)->text()))
+            delete m_files->takeItem(row);
     }
-    slotSelectionChanged();
+    const QFileIconProvider icons;
+    for (int row = 0; row < files.size(); ++row) {
+        const QListWidgetItem *item = m_files->item(row);
+        if (!item || item->text() != files.at(row).fileName())
+            m_files->insertItem(row, NewItem(files.at(row), icons.icon(files.at(row))));
+    }
+    // Names that differ in case only may have changed places.
+    while (m_files->count() > files.size())
+        delete m_files->takeItem(files.size());
 }
 
 void FileThumbnail::slotFileActivated(QListWidgetItem *item)

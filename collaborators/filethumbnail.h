@@ -11,6 +11,7 @@ class QFileSystemWatcher;
 class QListWidget;
 class QListWidgetItem;
 class QPushButton;
+class QTimer;
 
 /// The pictures of a folder, in the centre of the file page.
 class GLOBALUI_COLLABORATORS_EXPORT FileThumbnail : public QWidget
@@ -38,6 +39,7 @@ signals:
     void signalFolderChanged(QString folder);
 
 private slots:
+    void slotFolderChanged();
     void slotUpdateFiles();
     void slotFileActivated(QListWidgetItem *item);
     void slotSelectionChanged();
@@ -50,6 +52,7 @@ private:
     QListWidget *m_files;
     QPushButton *m_mergeButton;
     QFileSystemWatcher *m_watcher;
+    QTimer *m_updateTimer; ///< many changes one after the other are shown together
     QString m_folder;
     bool m_checked = false; ///< the folder is being watched
 };

@@ -6,7 +6,9 @@
 #include "filethumbnail.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QFileSystemWatcher>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -31,8 +33,13 @@ private slots:
     void MergesTheSelectedFiles();
     void FollowsTheFolderWhileItIsWatched();
     void KeepsTheSelectionWhenAFileComes();
+    void KeepsTheSelectionOfFilesThatStay();
+    void ShowsManyChangesTogether();
+    void FollowsAFolderThatComesBack();
     void TheTreeShowsTheFolderTyped();
     void TheTreeShowsTheFolderClicked();
+    void TheTreeFollowsTheFoldersWhileItIsWatched();
+    void TheTreeShowsItsFolderAgain();
     void BackLeadsToTheViewBefore();
     void BothFollowEachOther();
 
@@ -163,11 +170,76 @@ void TestFilePage::KeepsTheSelectionWhenAFileComes()
 {
     m_thumbnails->slotOpenFileDirectory(m_folder->path());
     m_thumbnails->StartFolderChecked();
-    m_list->item(1)->setSelected(true);
+    m_list->setCurrentRow(1);
     WriteFile("aa.bmp");
     QTRY_COMPARE(m_list->count(), 6);
+    QCOMPARE(Listed(), QStringList({"a.tif", "aa.bmp", "b.PNG", "c.fits", "d.spe", "e.jpg"}));
     QCOMPARE(m_list->selectedItems().size(), 1);
     QCOMPARE(m_list->selectedItems().first()->text(), QString("b.PNG"));
+    QCOMPARE(m_list->currentItem()->text(), QString("b.PNG"));
+}
+
+void TestFilePage::KeepsTheSelectionOfFilesThatStay()
+{
+    auto *merge = m_thumbnails->findChild<QPushButton *>("pushButtonMerge");
+    m_thumbnails->slotOpenFileDirectory(m_folder->path());
+    m_thumbnails->StartFolderChecked();
+    m_list->item(0)->setSelected(true);
+    m_list->item(2)->setSelected(true);
+    QVERIFY(merge->isEnabled());
+    QVERIFY(QFile::remove(m_folder->filePath("a.tif")));
+    QTRY_COMPARE(Listed(), QStringList({"b.PNG", "c.fits", "d.spe", "e.jpg"}));
+    QVERIFY(!merge->isEnabled()); // one file alone is nothing to merge
+    QCOMPARE(m_list->selectedItems().first()->text(), QString("c.fits"));
+
+    // The same names in another folder are other files.
+    QVERIFY(QFile::copy(m_folder->filePath("c.fits"), m_folder->filePath("below/c.fits")));
+    m_thumbnails->slotOpenFileDirectory(m_folder->filePath("below"));
+    QCOMPARE(Listed(), QStringList("c.fits"));
+    QVERIFY(m_list->selectedItems().isEmpty());
+    QCOMPARE(m_list->item(0)->data(Qt::UserRole).toString(), m_folder->filePath("below/c.fits"));
+}
+
+void TestFilePage::ShowsManyChangesTogether()
+{
+    m_thumbnails->slotOpenFileDirectory(m_folder->path());
+    m_thumbnails->StartFolderChecked();
+    auto *watcher = m_thumbnails->findChild<QFileSystemWatcher *>();
+    QSignalSpy changes(watcher, SIGNAL(directoryChanged(QString)));
+    for (int i = 0; i < 3; ++i) {
+        changes.clear();
+        WriteFile(QString("run%1.tif").arg(i));
+        QVERIFY(changes.wait());
+        if (i == 0)
+            QCOMPARE(m_list->count(), 5); // more may come
+    }
+    QTRY_COMPARE(m_list->count(), 8);
+
+    // While files keep coming the list does not wait for the last one.
+    QElapsedTimer time;
+    time.start();
+    for (int i = 3; m_list->count() == 8; ++i) {
+        QVERIFY2(time.elapsed() < 5000, "no file was shown");
+        changes.clear();
+        WriteFile(QString("run%1.tif").arg(i));
+        QVERIFY(changes.wait());
+    }
+}
+
+void TestFilePage::FollowsAFolderThatComesBack()
+{
+    const QString folder = m_folder->filePath("below");
+    m_thumbnails->slotOpenFileDirectory(folder);
+    m_thumbnails->StartFolderChecked();
+    WriteFile("below/a.tif");
+    QTRY_COMPARE(m_list->count(), 1);
+    QVERIFY(QDir(folder).removeRecursively());
+    QTRY_COMPARE(m_list->count(), 0);
+    QVERIFY(QDir().mkdir(folder));
+    WriteFile("below/b.tif");
+    QTRY_COMPARE(Listed(), QStringList("b.tif"));
+    WriteFile("below/c.tif");
+    QTRY_COMPARE(Listed(), QStringList({"b.tif", "c.tif"}));
 }
 
 void TestFilePage::TheTreeShowsTheFolderTyped()
@@ -204,6 +276,46 @@ void TestFilePage::TheTreeShowsTheFolderClicked()
     QCOMPARE(folders.count(), 1);
     QCOMPARE(folders.first().at(0).toString(), m_folder->filePath("below"));
     view.StopFolderChecked();
+}
+
+void TestFilePage::TheTreeFollowsTheFoldersWhileItIsWatched()
+{
+    FileSystemView view(nullptr);
+    view.slotShowFolder(m_folder->path());
+    auto *tree = view.findChild<QTreeView *>("treeViewFolders");
+    const auto folders = [tree] { return tree->model()->rowCount(tree->currentIndex()); };
+    int expected = 1;
+    for (const QString &visit : {QString("first"), QString("second"), QString("third")}) {
+        view.StartFolderChecked();
+        QTRY_COMPARE(folders(), expected);
+        QVERIFY(QDir(m_folder->path()).mkdir(visit + " here"));
+        QTRY_COMPARE(folders(), expected + 1);
+        view.StopFolderChecked();
+        QVERIFY(QDir(m_folder->path()).mkdir(visit + " away"));
+        expected += 2;
+    }
+}
+
+void TestFilePage::TheTreeShowsItsFolderAgain()
+{
+    // Many neighbours, so that the folder is out of sight unless the tree goes there.
+    for (int i = 0; i < 100; ++i)
+        QVERIFY(QDir(m_folder->path()).mkdir(QString("a%1").arg(i)));
+    FileSystemView view(nullptr);
+    view.resize(500, 300);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    auto *tree = view.findChild<QTreeView *>("treeViewFolders");
+    view.slotShowFolder(m_folder->filePath("below"));
+    QSignalSpy folders(&view, SIGNAL(signalFolderChanged(QString)));
+    for (int visit = 0; visit < 2; ++visit) {
+        view.StartFolderChecked();
+        QTRY_COMPARE(tree->model()->rowCount(tree->currentIndex().parent()), 101);
+        QCOMPARE(tree->currentIndex().data().toString(), QString("below"));
+        QTRY_VERIFY(tree->viewport()->rect().contains(tree->visualRect(tree->currentIndex()).center()));
+        view.StopFolderChecked();
+    }
+    QCOMPARE(folders.count(), 0); // it is the same folder
 }
 
 void TestFilePage::BackLeadsToTheViewBefore()
