@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "camerainfo.h"
 
+#include "globalui.h"
 #include "guardedtest.h"
 #include "shellfixture.h"
 
 #include <QLabel>
-
-#include "globalui.h"
 
 class CameraInfoTest : public GuardedTest
 {
