@@ -5,21 +5,11 @@
 #include "framesavemanager.h"
 #include "globalclass.h"
 #include "previewmanager.h"
+#include "restyle.h"
 #include "uiconfigmanager.h"
 #include "viewcodes.h"
 
 #include <QPushButton>
-
-namespace {
-
-/// The style sheet selects by object name; setting an empty one makes the style look again.
-void Restyle(QPushButton *button, const char *objectName)
-{
-    button->setObjectName(objectName);
-    button->setStyleSheet("");
-}
-
-} // namespace
 
 CenterStackedWidget::CenterStackedWidget(QWidget *parent)
     : QStackedWidget(parent)
@@ -126,7 +116,7 @@ void CenterStackedWidget::slotUpdateUI()
     const bool leftShown = config->IsLeftUIChecked();
     m_leftButton->setVisible(config->IsLeftToggleVisible());
     m_leftButton->setChecked(leftShown);
-    Restyle(m_leftButton, leftShown ? "pushButtonLeft" : "pushButtonRight");
+    RenameAndRestyle(m_leftButton, leftShown ? "pushButtonLeft" : "pushButtonRight");
 
     const bool rightShown = config->IsRightUIChecked();
     m_rightButton->setVisible(config->IsRightButtonsAvailable() && rightShown);
@@ -135,7 +125,7 @@ void CenterStackedWidget::slotUpdateUI()
     const bool bottomShown = config->IsBottomUIChecked();
     m_bottomButton->setVisible(config->IsBottomToggleVisible());
     m_bottomButton->setChecked(bottomShown);
-    Restyle(m_bottomButton, bottomShown ? "pushButtonBottom" : "pushButtonTop");
+    RenameAndRestyle(m_bottomButton, bottomShown ? "pushButtonBottom" : "pushButtonTop");
 
     UpdateCaptureButton();
     m_captureButton->setVisible(!leftShown && config->GetCurrentView() == CameraView);
@@ -154,7 +144,7 @@ void CenterStackedWidget::UpdateCaptureButton()
 void CenterStackedWidget::ShowCaptureState(bool saving)
 {
     m_captureButton->setChecked(saving);
-    Restyle(m_captureButton, saving ? "pushButtonCustomCaptureChecked" : "pushButtonCustomCapture");
+    RenameAndRestyle(m_captureButton, saving ? "pushButtonCustomCaptureChecked" : "pushButtonCustomCapture");
 }
 
 void CenterStackedWidget::slotSetBlackBackground(bool value)

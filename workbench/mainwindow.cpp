@@ -8,7 +8,6 @@
 #include "informationdialog.h"
 #include "shownframes.h"
 #include "statusline.h"
-#include "stylesheet.h"
 #include "viewcodes.h"
 #include "viewmenu.h"
 #include "workbenchservices.h"
@@ -43,7 +42,6 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
 {
     setObjectName("MainWindow");
     setWindowTitle(tr("Workbench"));
-    StyleSheet::FollowNameChanges(this);
 
     BuildAreas();
     m_shown = new ShownFrames(services->Preview(), services->GetWorkspace(), this);

@@ -7,20 +7,12 @@
 #include "globalclass.h"
 #include "loglocation.h"
 #include "previewmanager.h"
+#include "restyle.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-namespace {
-/// The name selects the look; the empty style sheet makes the style read it again.
-void RenameAndRestyle(QPushButton *button, const char *name)
-{
-    button->setObjectName(name);
-    button->setStyleSheet("");
-}
-} // namespace
 
 CapturePreviewUI::CapturePreviewUI(QWidget *parent)
     : QWidget(parent)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "capturepreviewui.h"
 
+#include "applicationstylesheet.h"
 #include "displayscale.h"
 #include "fakecameraconfigmanager.h"
 #include "fakecameramainmanager.h"
@@ -347,10 +348,10 @@ void TestCapturePreviewUI::namesSelectTheLook()
 {
     Services services;
     FakeCameraMainManager camera;
+    const ApplicationStyleSheet sheet("QPushButton { border: none; background: rgb(10, 20, 30); }"
+                                      "QPushButton#pushButtonCaptureChecked { background: rgb(200, 0, 0); }"
+                                      "QPushButton#pushButtonPreviewChecked { background: rgb(0, 200, 0); }");
     QWidget window;
-    window.setStyleSheet("QPushButton { border: none; background: rgb(10, 20, 30); }"
-                         "QPushButton#pushButtonCaptureChecked { background: rgb(200, 0, 0); }"
-                         "QPushButton#pushButtonPreviewChecked { background: rgb(0, 200, 0); }");
     auto *ui = new CapturePreviewUI(&window);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "centerstackedwidget.h"
 
+#include "applicationstylesheet.h"
 #include "displayscale.h"
 #include "guardedtest.h"
 #include "shellfixture.h"
@@ -47,6 +48,7 @@ private slots:
     void captureButtonOnlyOnLivePageWithLeftPanelFolded_data();
     void captureButtonOnlyOnLivePageWithLeftPanelFolded();
     void captureFollowsTheSaving();
+    void namesSelectTheLook();
     void captureStaysWithoutCamera();
     void capturesOnClick();
     void refreshesQueuedWhenAsked();
@@ -198,6 +200,40 @@ void CenterStackedWidgetTest::captureFollowsTheSaving()
     services.frameSave.SetRunning(false);
     centre.Update();
     QCOMPARE(centre.Capture()->objectName(), QString("pushButtonCustomCapture"));
+}
+
+void CenterStackedWidgetTest::namesSelectTheLook()
+{
+    FakeServices services;
+    FakeCameraMainManager camera;
+    const ApplicationStyleSheet sheet("QPushButton { border: none; background: rgb(10, 20, 30); }"
+                                      "QPushButton#pushButtonRight { background: rgb(200, 0, 0); }"
+                                      "QPushButton#pushButtonTop { background: rgb(0, 200, 0); }"
+                                      "QPushButton#pushButtonCustomCaptureChecked"
+                                      " { background: rgb(0, 0, 200); }");
+    Centre centre;
+    centre.widget.resize(800, 600);
+    centre.widget.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&centre.widget));
+    const auto colour = [](QPushButton *button) { return button->grab().toImage().pixelColor(5, 5); };
+    const QColor plain(10, 20, 30);
+    for (QPushButton *button : { centre.Left(), centre.Bottom(), centre.Capture() })
+        QCOMPARE(colour(button), plain);
+
+    centre.Left()->click();
+    QCOMPARE(colour(centre.Left()), QColor(200, 0, 0));
+    centre.Bottom()->click();
+    QCOMPARE(colour(centre.Bottom()), QColor(0, 200, 0));
+    services.frameSave.SetRunning(true);
+    centre.Update();
+    QCOMPARE(colour(centre.Capture()), QColor(0, 0, 200));
+
+    centre.Left()->click();
+    centre.Bottom()->click();
+    services.frameSave.SetRunning(false);
+    centre.Update();
+    for (QPushButton *button : { centre.Left(), centre.Bottom(), centre.Capture() })
+        QCOMPARE(colour(button), plain);
 }
 
 void CenterStackedWidgetTest::captureStaysWithoutCamera()

@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QPalette>
 #include <QRegularExpression>
-#include <QWidget>
 
 namespace {
 
@@ -122,10 +121,4 @@ void StyleSheet::Apply(QApplication &application) const
     application.setStyle(new WorkbenchStyle); // the application takes it
     application.setPalette(Palette());
     application.setStyleSheet(m_text);
-}
-
-void StyleSheet::FollowNameChanges(QWidget *window)
-{
-    // The rule itself changes nothing; that there is one gives every child a style that re-reads its name.
-    window->setStyleSheet(QStringLiteral("QMainWindow{}"));
 }

@@ -6,7 +6,6 @@
 
 class QApplication;
 class QPalette;
-class QWidget;
 
 /// The look of the application: a style sheet template filled with the colours of a token table.
 /// The table has one "name = value" a line and "#" comments; the template writes a value as @name@.
@@ -30,11 +29,6 @@ public:
     QPalette Palette() const;
     /// Base style, palette and sheet for the whole application.
     void Apply(QApplication &application) const;
-
-    /// Makes renaming take effect below `window`: a widget that changes its object name and sets an
-    /// empty style sheet is styled anew only if a window above it has a style sheet of its own.
-    /// Call before the window gets its children.
-    static void FollowNameChanges(QWidget *window);
 
 private:
     bool ReadTokens(const QString &fileName);

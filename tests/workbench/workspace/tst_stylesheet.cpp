@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "guardedtest.h"
+#include "restyle.h"
 #include "stylesheet.h"
 
 #include <QFile>
 #include <QFrame>
-#include <QMainWindow>
 #include <QPalette>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -209,19 +209,15 @@ void StyleSheetTest::everyButtonHasAnIconOfItsOwn()
 
 void StyleSheetTest::renamedButtonChangesItsIcon()
 {
-    QMainWindow window;
-    StyleSheet::FollowNameChanges(&window);
-    QPushButton button(&window);
+    QPushButton button;
     button.setObjectName("pushButtonPreview");
     button.ensurePolished();
     const QImage idle = IconImage(button);
 
-    button.setObjectName("pushButtonPreviewChecked");
-    button.setStyleSheet("");
+    RenameAndRestyle(&button, "pushButtonPreviewChecked");
     QVERIFY(IconImage(button) != idle);
 
-    button.setObjectName("pushButtonPreview");
-    button.setStyleSheet("");
+    RenameAndRestyle(&button, "pushButtonPreview");
     QCOMPARE(IconImage(button), idle);
 }
 
