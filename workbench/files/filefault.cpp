@@ -11,11 +11,21 @@ QString Translate(const char *text)
     return QCoreApplication::translate("FileFault", text);
 }
 
+/// Libraries quote what stands in a damaged file.
+QString Printable(QString text)
+{
+    for (QChar &letter : text) {
+        if (!letter.isPrint())
+            letter = '?';
+    }
+    return text;
+}
+
 QString FaultText(const QString &verb, const QString &path, const FileFault &fault)
 {
     QString text = verb.arg(QFileInfo(path).fileName(), fault.what);
     if (!fault.detail.isEmpty())
-        text += QString(" (%1)").arg(fault.detail);
+        text += QString(" (%1)").arg(Printable(fault.detail));
     return text + ". " + fault.advice;
 }
 

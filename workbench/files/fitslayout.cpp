@@ -1,142 +1,112 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fitslayout.h"
 
+#include "fitsheader.h"
+
 #include <QCoreApplication>
+#include <QVector>
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr int mostAxes = 9;
-/// A file is made of blocks; the library reads whole ones only.
-constexpr qint64 blockBytes = 2880;
-
 QString Translate(const char *text)
 {
     return QCoreApplication::translate("FitsLayout", text);
 }
 
-struct Axes
+bool IsCompressed(const FitsHeader &header)
 {
-    int bitpix = 0;
-    int count = 0;
-    LONGLONG sizes[mostAxes] = {};
+    return header.Text("XTENSION") == "BINTABLE" && header.IsTrue("ZIMAGE");
+}
 
-    /// As a floating point number: a damaged header can claim more than 64 bits hold.
-    double Samples() const
-    {
-        double samples = 1;
-        for (int i = 0; i < count; ++i)
-            samples *= double(sizes[i]);
-        return samples;
-    }
-    int SampleBytes() const { return std::abs(bitpix) / 8; }
-};
+/// The cards of a compressed picture have a Z before the name that they have in a plain one.
+QString PictureKey(const FitsHeader &header, const char *key)
+{
+    return IsCompressed(header) ? QString("Z") + key : QString(key);
+}
+
+/// As floating point numbers: a damaged header can claim more than 64 bits hold.
+QVector<double> SizesOf(const FitsHeader &header)
+{
+    constexpr double mostAxes = 999;
+    QVector<double> sizes(int(qBound(0.0, header.Number(PictureKey(header, "NAXIS"), 0), mostAxes)));
+    for (int axis = 0; axis < sizes.size(); ++axis)
+        sizes[axis] = std::floor(header.Number(PictureKey(header, "NAXIS") + QString::number(axis + 1), 0));
+    return sizes;
+}
 
 struct TypeRow
 {
-    int bitpix;
+    int storedBits;
     double zero;
     SampleType type;
-    int libraryType;
 };
 
-// Integers that stay integers: as stored, or with the offset that stands for the other sign.
-const TypeRow integerTable[] = {
-    {BYTE_IMG, 0, SampleType::U8, TBYTE},
-    {BYTE_IMG, -128, SampleType::S8, TSBYTE},
-    {SHORT_IMG, 0, SampleType::S16, TSHORT},
-    {SHORT_IMG, 32768, SampleType::U16, TUSHORT},
-    {LONG_IMG, 0, SampleType::S32, TINT},
-    {LONG_IMG, 2147483648.0, SampleType::U32, TUINT},
+// Samples that stay what they are: as stored, or with the offset that stands for the other sign.
+const TypeRow directTable[] = {
+    {8, 0, SampleType::U8},      {8, -128, SampleType::S8},
+    {16, 0, SampleType::S16},    {16, 32768, SampleType::U16},
+    {32, 0, SampleType::S32},    {32, 2147483648.0, SampleType::U32},
+    {-32, 0, SampleType::F32},   {-64, 0, SampleType::F64},
 };
 
-double NumberOf(fitsfile *fits, const char *key, double otherwise)
+bool SetSampleType(const FitsHeader &header, FitsLayout &layout, FileFault &fault)
 {
-    int status = 0;
-    double value = otherwise;
-    fits_write_errmark();
-    fits_read_key(fits, TDOUBLE, key, &value, nullptr, &status);
-    fits_clear_errmark();
-    return status == 0 ? value : otherwise;
-}
-
-void SetSampleType(fitsfile *fits, int bitpix, FitsLayout &layout)
-{
-    const double zero = NumberOf(fits, "BZERO", 0);
-    const double scale = NumberOf(fits, "BSCALE", 1);
-    const auto row = std::find_if(std::begin(integerTable), std::end(integerTable), [&](const TypeRow &candidate) {
-        return candidate.bitpix == bitpix && candidate.zero == zero && scale == 1;
+    const double bits = header.Number(PictureKey(header, "BITPIX"), 0);
+    static const QVector<double> knownBits{8, 16, 32, 64, -32, -64};
+    if (!knownBits.contains(bits))
+        return fault.Set(Translate("its samples of %1 bits make no sense").arg(bits), DamagedAdvice());
+    layout.storedBits = int(bits);
+    layout.zero = header.Number("BZERO", 0);
+    layout.scale = header.Number("BSCALE", 1);
+    const auto row = std::find_if(std::begin(directTable), std::end(directTable), [&](const TypeRow &candidate) {
+        return candidate.storedBits == layout.storedBits && candidate.zero == layout.zero && layout.scale == 1;
     });
-    if (row != std::end(integerTable)) {
-        layout.type = row->type;
-        layout.libraryType = row->libraryType;
-        return;
-    }
+    layout.isDirect = row != std::end(directTable);
     // A 32-bit integer does not fit into the 24 bits of a float.
-    const bool isDouble = bitpix == LONG_IMG || bitpix == LONGLONG_IMG || bitpix == DOUBLE_IMG;
-    layout.type = isDouble ? SampleType::F64 : SampleType::F32;
-    layout.libraryType = isDouble ? TDOUBLE : TFLOAT;
-    layout.marksUndefined = bitpix > 0 || layout.isCompressed;
+    const bool isDouble = layout.storedBits == 32 || std::abs(layout.storedBits) == 64;
+    layout.type = layout.isDirect ? row->type : isDouble ? SampleType::F64 : SampleType::F32;
+    return true;
 }
 
-bool SetSize(const Axes &axes, FitsLayout &layout, FileFault &fault)
+bool SetSize(const QVector<double> &sizes, FitsLayout &layout, FileFault &fault)
 {
-    const double frames = axes.Samples() / double(axes.sizes[0]) / double(axes.count > 1 ? axes.sizes[1] : 1);
-    if (axes.sizes[0] > INT_MAX / 8 || (axes.count > 1 && axes.sizes[1] > INT_MAX / 8) || frames > INT_MAX) {
-        return fault.Set(Translate("its size, %1 x %2 pixels in %3 frames, is beyond any picture")
-                             .arg(axes.sizes[0]).arg(axes.sizes[1]).arg(frames, 0, 'g', 3),
+    const double width = sizes[0];
+    const double height = sizes.size() > 1 ? sizes[1] : 1; // a spectrum is a picture of one row
+    double frames = 1;
+    for (int axis = 2; axis < sizes.size(); ++axis)
+        frames *= sizes[axis];
+    constexpr double largestSide = 1 << 28; // keeps products of two in 64 bits
+    if (width < 1 || height < 1 || frames < 1 || width > largestSide || height > largestSide || frames > INT_MAX) {
+        return fault.Set(Translate("its size, %1 x %2 pixels in %3 frames, makes no sense").arg(width).arg(height).arg(frames),
                          DamagedAdvice());
     }
-    layout.width = int(axes.sizes[0]);
-    layout.height = axes.count > 1 ? int(axes.sizes[1]) : 1; // a spectrum is a picture of one row
+    layout.width = int(width);
+    layout.height = int(height);
     layout.frames = int(frames);
     return true;
 }
 
-/// Decoded bytes that one stored byte can become. PLIO writes runs of up to 4095 samples in two
-/// bytes, HCOMPRESS an empty tile in a few bytes.
-double LargestRatio(fitsfile *fits)
+bool CheckCompressed(double dataBytes, const FitsLayout &layout, FileFault &fault)
 {
-    char method[FLEN_VALUE] = "";
-    int status = 0;
-    fits_write_errmark();
-    fits_read_key(fits, TSTRING, "ZCMPTYPE", method, nullptr, &status);
-    fits_clear_errmark();
-    const QString name = method;
-    if (name.startsWith("RICE"))
-        return 260; // five bits for a block of 32 equal samples
-    if (name.startsWith("GZIP"))
-        return 1032;
-    return 8192;
-}
-
-bool CheckCompressed(fitsfile *fits, const Axes &axes, qint64 dataBytes, const FitsLayout &layout, FileFault &fault)
-{
-    double tileSamples = 1;
-    for (int i = 0; i < axes.count; ++i) {
-        const double size = NumberOf(fits, qPrintable(QString("ZTILE%1").arg(i + 1)), i == 0 ? double(axes.sizes[0]) : 1);
-        if (!(size >= 1))
-            return fault.Set(Translate("its compressed tiles have no size"), DamagedAdvice());
-        tileSamples *= size;
-    }
-    constexpr double extraBytes = 65536; // small pictures in a tile larger than they are
-    const double possible = double(dataBytes) * LargestRatio(fits) + extraBytes;
-    if (axes.Samples() * axes.SampleBytes() <= possible && tileSamples * axes.SampleBytes() <= possible)
+    // Five bits for a block of 32 equal samples (RICE), 258 bytes from two bits (GZIP).
+    constexpr double largestRatio = 1032;
+    if (double(layout.FrameSamples()) * layout.frames * layout.StoredBytes() <= dataBytes * largestRatio)
         return true;
     return fault.Set(Translate("its size, %1 x %2 pixels in %3 frames, is more than its %4 compressed bytes can hold")
-                         .arg(layout.width).arg(layout.height).arg(layout.frames).arg(dataBytes),
+                         .arg(layout.width).arg(layout.height).arg(layout.frames).arg(dataBytes, 0, 'f', 0),
                      DamagedAdvice());
 }
 
-bool CheckPlain(const Axes &axes, qint64 dataBytes, FitsLayout &layout, FileFault &fault)
+bool CheckPlain(double dataBytes, FitsLayout &layout, FileFault &fault)
 {
-    const double frameBytes = double(layout.FrameSamples()) * axes.SampleBytes();
-    const double whole = std::floor(double(dataBytes) / frameBytes);
+    const double frameBytes = double(layout.FrameSamples()) * layout.StoredBytes();
+    const double whole = std::floor(dataBytes / frameBytes);
     if (whole < 1) {
-        return fault.Set(Translate("a frame of %1 x %2 pixels takes %3 bytes, but the file has only %4 in whole blocks after its header")
-                             .arg(layout.width).arg(layout.height).arg(frameBytes, 0, 'f', 0).arg(dataBytes),
+        return fault.Set(Translate("a frame of %1 x %2 pixels takes %3 bytes, but the file has only %4 after its header")
+                             .arg(layout.width).arg(layout.height).arg(frameBytes, 0, 'f', 0).arg(dataBytes, 0, 'f', 0),
                          DamagedAdvice());
     }
     if (whole < layout.frames) {
@@ -148,23 +118,22 @@ bool CheckPlain(const Axes &axes, qint64 dataBytes, FitsLayout &layout, FileFaul
 
 } // namespace
 
-bool ReadFitsLayout(fitsfile *fits, qint64 fileSize, FitsLayout &layout, FileFault &fault)
+bool IsFitsPicture(const FitsHeader &header)
+{
+    const QString extension = header.Text("XTENSION");
+    const bool isImage = extension.isEmpty() || extension == "IMAGE";
+    return (isImage && header.Number("NAXIS", 0) >= 1) || IsCompressed(header);
+}
+
+bool ReadFitsLayout(const FitsHeader &header, qint64 fileSize, FitsLayout &layout, FileFault &fault)
 {
     layout = FitsLayout();
-    int status = 0;
-    Axes axes;
-    fits_get_img_paramll(fits, mostAxes, &axes.bitpix, &axes.count, axes.sizes, &status);
-    LONGLONG dataStart = 0;
-    LONGLONG dataEnd = 0;
-    fits_get_hduaddrll(fits, nullptr, &dataStart, &dataEnd, &status);
-    if (status != 0 || axes.count < 1 || axes.count > mostAxes
-        || std::any_of(axes.sizes, axes.sizes + axes.count, [](LONGLONG size) { return size < 1; }))
+    layout.isCompressed = IsCompressed(header);
+    const QVector<double> sizes = SizesOf(header);
+    if (sizes.isEmpty())
         return fault.Set(Translate("its header describes no picture"), DamagedAdvice());
-
-    layout.isCompressed = fits_is_compressed_image(fits, &status) != 0;
-    SetSampleType(fits, axes.bitpix, layout);
-    if (!SetSize(axes, layout, fault))
+    if (!SetSampleType(header, layout, fault) || !SetSize(sizes, layout, fault))
         return false;
-    const qint64 dataBytes = std::max(qint64(0), std::min(fileSize, qint64(dataEnd)) - qint64(dataStart)) / blockBytes * blockBytes;
-    return layout.isCompressed ? CheckCompressed(fits, axes, dataBytes, layout, fault) : CheckPlain(axes, dataBytes, layout, fault);
+    const double dataBytes = std::max(0.0, std::min(header.DataBytes(), double(fileSize - header.DataOffset())));
+    return layout.isCompressed ? CheckCompressed(dataBytes, layout, fault) : CheckPlain(dataBytes, layout, fault);
 }

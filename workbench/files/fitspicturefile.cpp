@@ -2,13 +2,14 @@
 #include "fitspicturefile.h"
 
 #include "fitsheader.h"
-#include "fitssession.h"
+#include "fitssamples.h"
+#include "sampleswap.h"
 
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
+#include <QtGlobal>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -27,72 +28,78 @@ void FlipRows(Picture &picture)
         std::swap_ranges(top, top + rowBytes, bottom);
 }
 
+/// Adding half of the range is the same as turning the highest bit around.
+template <typename Unsigned>
+void TurnHighestBit(Picture &picture)
+{
+    constexpr Unsigned highest = Unsigned(Unsigned(1) << (8 * sizeof(Unsigned) - 1));
+    auto *samples = picture.Samples<Unsigned>(0);
+    const qint64 count = picture.ByteCount() / qint64(sizeof(Unsigned));
+    for (qint64 i = 0; i < count; ++i)
+        samples[i] ^= highest;
+}
+
+void AddUsualOffset(Picture &picture)
+{
+    switch (BytesPerSample(picture.Type())) {
+    case 1: TurnHighestBit<quint8>(picture); break;
+    case 2: TurnHighestBit<quint16>(picture); break;
+    default: TurnHighestBit<quint32>(picture); break;
+    }
+}
+
 } // namespace
 
 FitsPictureFile::FitsPictureFile(const QString &path)
     : PictureFile(path)
+    , m_file(path)
 {
 }
 
-FitsPictureFile::~FitsPictureFile()
+bool FitsPictureFile::Open(FileFault &fault)
 {
-    if (!m_fits)
-        return;
-    FitsSession session;
-    int status = 0;
-    fits_close_file(m_fits, &status);
-}
-
-bool FitsPictureFile::Open(qint64 fileSize, FileFault &fault)
-{
-    // The library's own file name syntax (filters, pipes, addresses) must not be reached by a name.
-    const QByteArray name = QFile::encodeName(QFileInfo(Path()).absoluteFilePath());
-    if (name.size() >= FLEN_FILENAME)
-        return fault.Set(Translate("its path is longer than %1 bytes").arg(FLEN_FILENAME - 1), Translate("Move it to a folder with a shorter path."));
-
-    FitsSession session;
-    int status = 0;
-    fits_open_diskfile(&m_fits, name.constData(), READONLY, &status);
-    if (status != 0) {
-        m_fits = nullptr;
-        return fault.Set(Translate("its header makes no sense"), DamagedAdvice(), session.TakeMessages(status));
-    }
-    if (!FindPicture(status)) {
-        const QString messages = session.TakeMessages(status);
-        return status == END_OF_FILE ? fault.Set(Translate("there is no picture in it, only tables or nothing"), UnsupportedAdvice())
-                                     : fault.Set(Translate("the header of its picture makes no sense"), DamagedAdvice(), messages);
-    }
+    if (!m_file.open(QIODevice::ReadOnly))
+        return fault.Set(m_file.errorString(), DamagedAdvice());
+    FitsHeader header;
     int extension = 0;
-    fits_get_hdu_num(m_fits, &extension); // from 1
-    if (!ReadFitsLayout(m_fits, fileSize, m_layout, fault))
+    if (!FindPicture(header, extension, fault) || !ReadFitsLayout(header, m_file.size(), m_layout, fault))
         return false;
-    FillInfo(extension - 1);
+    if (m_layout.isCompressed) {
+        m_tiles = std::make_unique<FitsTiles>();
+        if (!m_tiles->Open(header, m_layout, fault))
+            return false;
+    }
+    m_dataOffset = header.DataOffset();
+    m_blank = m_layout.storedBits > 0 ? header.Number("BLANK", std::numeric_limits<double>::quiet_NaN())
+                                      : std::numeric_limits<double>::quiet_NaN();
+    FillInfo(header, extension);
     return true;
 }
 
-bool FitsPictureFile::FindPicture(int &status)
+bool FitsPictureFile::FindPicture(FitsHeader &header, int &extension, FileFault &fault)
 {
-    while (status == 0) {
-        int type = 0;
-        int axes = 0;
-        fits_get_hdu_type(m_fits, &type, &status);
-        if (type == IMAGE_HDU)
-            fits_get_img_dim(m_fits, &axes, &status);
-        if (status == 0 && axes > 0)
+    qint64 offset = 0;
+    for (extension = 0; offset < m_file.size(); ++extension) {
+        if (!header.Read(m_file, offset, fault))
+            return false;
+        if (IsFitsPicture(header))
             return true;
-        fits_movrel_hdu(m_fits, 1, nullptr, &status);
+        const double blocks = std::ceil(header.DataBytes() / FitsHeader::blockBytes);
+        if (!(blocks >= 0) || blocks * FitsHeader::blockBytes >= double(m_file.size()))
+            break;
+        offset = header.DataOffset() + qint64(blocks) * FitsHeader::blockBytes;
     }
-    return false;
+    return fault.Set(Translate("there is no picture in it, only tables or nothing"), UnsupportedAdvice());
 }
 
-void FitsPictureFile::FillInfo(int extension)
+void FitsPictureFile::FillInfo(const FitsHeader &header, int extension)
 {
     PictureInfo &info = MutableInfo();
     info.format = PictureFormat::Fits;
     info.frames = m_layout.frames;
     info.size = QSize(m_layout.width, m_layout.height);
     info.sampleType = m_layout.type;
-    info.metadata = ReadFitsCards(m_fits);
+    info.metadata = header.Metadata();
     QStringList details;
     if (m_layout.isCompressed)
         details << Translate("compressed");
@@ -109,21 +116,36 @@ void FitsPictureFile::FillInfo(int extension)
 bool FitsPictureFile::Decode(int index, Picture &frame, FileFault &fault)
 {
     frame.Reshape(m_layout.width, m_layout.height, 1, m_layout.type);
-    float undefinedFloat = std::numeric_limits<float>::quiet_NaN();
-    double undefinedDouble = std::numeric_limits<double>::quiet_NaN();
-    void *undefined = nullptr;
-    if (m_layout.marksUndefined)
-        undefined = m_layout.type == SampleType::F32 ? static_cast<void *>(&undefinedFloat) : &undefinedDouble;
+    if (m_tiles)
+        return m_tiles->ReadFrame(m_file, index, frame, fault);
+    m_file.seek(m_dataOffset + index * m_layout.FrameSamples() * m_layout.StoredBytes());
+    if (m_layout.isDirect ? DecodeDirect(frame) : DecodeScaled(frame))
+        return true;
+    return fault.Set(Translate("frame %1 of %2 is not whole").arg(index + 1).arg(m_layout.frames), DamagedAdvice());
+}
 
-    FitsSession session;
-    int status = 0;
-    int anyUndefined = 0;
-    fits_read_img(m_fits, m_layout.libraryType, 1 + index * m_layout.FrameSamples(), m_layout.FrameSamples(), undefined,
-                  frame.Data(), &anyUndefined, &status);
-    if (status != 0) {
-        return fault.Set(Translate("frame %1 of %2 cannot be decoded").arg(index + 1).arg(m_layout.frames), DamagedAdvice(),
-                         session.TakeMessages(status));
-    }
+bool FitsPictureFile::DecodeDirect(Picture &frame)
+{
+    if (m_file.read(reinterpret_cast<char *>(frame.Data()), frame.ByteCount()) != frame.ByteCount())
+        return false;
+    if (Q_BYTE_ORDER == Q_LITTLE_ENDIAN)
+        SwapSampleBytes(frame);
+    if (m_layout.zero != 0)
+        AddUsualOffset(frame);
     FlipRows(frame);
+    return true;
+}
+
+bool FitsPictureFile::DecodeScaled(Picture &frame)
+{
+    const qint64 rowBytes = qint64(m_layout.width) * m_layout.StoredBytes();
+    std::vector<double> values(size_t(m_layout.width));
+    for (int y = m_layout.height - 1; y >= 0; --y) {
+        if (!ConvertFitsSamples(m_file.read(rowBytes), m_layout.storedBits < 0, values))
+            return false;
+        for (double &value : values)
+            value = value == m_blank ? std::numeric_limits<double>::quiet_NaN() : value * m_layout.scale + m_layout.zero;
+        StoreSamples(values.data(), m_layout.width, frame, 0, y);
+    }
     return true;
 }

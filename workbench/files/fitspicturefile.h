@@ -2,7 +2,14 @@
 #pragma once
 
 #include "fitslayout.h"
+#include "fitstiles.h"
 #include "picturefile.h"
+
+#include <QFile>
+
+#include <memory>
+
+class FitsHeader;
 
 /// The first picture of a FITS file, plain or tile-compressed; the planes of a cube are its frames.
 /// FITS counts rows from the bottom of the picture: the last row of the file is row 0 here.
@@ -10,18 +17,23 @@ class FitsPictureFile : public PictureFile
 {
 public:
     explicit FitsPictureFile(const QString &path);
-    ~FitsPictureFile() override;
 
-    bool Open(qint64 fileSize, FileFault &fault);
+    bool Open(FileFault &fault);
 
 protected:
     bool Decode(int index, Picture &frame, FileFault &fault) override;
 
 private:
-    /// Goes to the first picture; `status` says why there is none.
-    bool FindPicture(int &status);
-    void FillInfo(int extension);
+    /// Goes from header to header until one has a picture.
+    bool FindPicture(FitsHeader &header, int &extension, FileFault &fault);
+    void FillInfo(const FitsHeader &header, int extension);
+    /// From where the file stands.
+    bool DecodeDirect(Picture &frame);
+    bool DecodeScaled(Picture &frame);
 
-    fitsfile *m_fits = nullptr;
+    QFile m_file;
     FitsLayout m_layout;
+    qint64 m_dataOffset = 0;
+    double m_blank = 0; ///< stands for "undefined" in scaled integers; NaN if nothing does
+    std::unique_ptr<FitsTiles> m_tiles; ///< of a compressed picture only
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fitspicturewriter.h"
 
-#include "fitsheader.h"
+#include "fitscardwriter.h"
 #include "fitssession.h"
 
 #include <QCoreApplication>

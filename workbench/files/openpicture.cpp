@@ -98,7 +98,7 @@ std::unique_ptr<PictureFile> OpenContent(const QString &path, FileFault &fault)
     case PictureFormat::Tiff:
         return Opened(std::make_unique<TiffPictureFile>(path), fault, opened.Take(), opened.Size());
     case PictureFormat::Fits:
-        return Opened(std::make_unique<FitsPictureFile>(path), fault, opened.Size());
+        return Opened(std::make_unique<FitsPictureFile>(path), fault);
     case PictureFormat::Unknown:
         SetUnknown(firstBytes, fault);
         return nullptr;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tiffpicturefile.h"
 
+#include "sampleswap.h"
 #include "tiffdecode.h"
 #include "tiffmetadata.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QtEndian>
 
 #include <unistd.h>
 
@@ -28,20 +28,6 @@ bool ReadBytes(int fd, quint64 offset, uchar *bytes, qint64 size)
         size -= got;
     }
     return true;
-}
-
-void SwapSamples(Picture &picture)
-{
-    VisitSampleType(picture.Type(), [&](auto sample) {
-        using Sample = decltype(sample);
-        const qint64 count = picture.ByteCount() / qint64(sizeof(Sample));
-        if constexpr (sizeof(Sample) == 2)
-            qbswap<2>(picture.Data(), count, picture.Data());
-        else if constexpr (sizeof(Sample) == 4)
-            qbswap<4>(picture.Data(), count, picture.Data());
-        else if constexpr (sizeof(Sample) == 8)
-            qbswap<8>(picture.Data(), count, picture.Data());
-    });
 }
 
 /// The page is one run of bytes that are the samples of a Picture, but for the byte order.
@@ -171,6 +157,6 @@ bool TiffPictureFile::DecodeContiguous(int index, Picture &frame, FileFault &fau
     if (!ReadBytes(TIFFFileno(m_tiff.Get()), offset, frame.Data(), frame.ByteCount()))
         return fault.Set(Translate("frame %1 of %2 is not whole").arg(index + 1).arg(info.frames), DamagedAdvice());
     if (TIFFIsByteSwapped(m_tiff.Get()))
-        SwapSamples(frame);
+        SwapSampleBytes(frame);
     return true;
 }

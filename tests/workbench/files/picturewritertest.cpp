@@ -3,11 +3,14 @@
 #include "guardedtest.h"
 #include "picturefolder.h"
 
+#include <atomic>
 #include <cmath>
 #include <csignal>
 #include <sys/fsuid.h>
 #include <sys/resource.h>
+#include <thread>
 #include <unistd.h>
+#include <vector>
 
 /// What is saved comes back as it was, and what could not be saved has done no harm.
 class PictureWriterTest : public GuardedTest
@@ -29,6 +32,7 @@ private slots:
     void aFullDiskLeavesTheOldFileWhole();
     void aFolderWithoutRightsIsToldAtOnce();
     void aLinkStaysALinkAndRightsStay();
+    void threadsWriteAndReadAtOnce();
 };
 
 namespace {
@@ -346,6 +350,32 @@ void PictureWriterTest::aLinkStaysALinkAndRightsStay()
     QVERIFY(read == picture);
     const QFile::Permissions ofThisUser = QFile::ReadUser | QFile::WriteUser | QFile::ExeUser; // whoever runs the test
     QCOMPARE(QFile::permissions(path) & ~ofThisUser, rights);
+}
+
+void PictureWriterTest::threadsWriteAndReadAtOnce()
+{
+    PictureFolder folder;
+    std::atomic<int> wrong{0};
+    std::vector<std::thread> workers;
+    for (int i = 0; i < 4; ++i) {
+        workers.emplace_back([&folder, &wrong, i] {
+            for (const char *ending : {"fits", "tif", "png"}) {
+                for (int round = 0; round < 5; ++round) {
+                    const QString path = folder.Path(QString("thread%1.%2").arg(i).arg(ending));
+                    const Picture picture = Patterned(200, 100, 1, SampleType::U16, 100 * i + round);
+                    QString error;
+                    Picture read;
+                    const bool saved = SavePicture(path, picture, SaveOptions(), error);
+                    const auto file = OpenPicture(path, error);
+                    if (!saved || !file || !file->ReadFrame(0, read, error) || read != picture)
+                        ++wrong;
+                }
+            }
+        });
+    }
+    for (std::thread &worker : workers)
+        worker.join();
+    QCOMPARE(wrong.load(), 0);
 }
 
 GUARDED_TEST_MAIN(PictureWriterTest)

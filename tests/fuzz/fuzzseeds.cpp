@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Writes small pictures of every kind for the fuzzers to begin with: fuzzseeds FOLDER
+#include "createpicture.h"
+
+#include <QDir>
+
+#include <cstdio>
+#include <fitsio.h>
+#include <tiffio.h>
+
+namespace {
+
+Picture Ramp(int channels, SampleType type)
+{
+    Picture picture(17, 9, channels, type);
+    for (qint64 i = 0; i < picture.ByteCount(); ++i)
+        picture.Data()[i] = uchar(i);
+    return picture;
+}
+
+bool Save(const QString &path, const Picture &picture, int frames, bool compress)
+{
+    SaveOptions options;
+    options.frameCount = frames;
+    options.compress = compress;
+    options.dpiX = options.dpiY = 300;
+    options.metadata = {{"ImageDescription", QString("ImageJ=1.53t\nimages=%1\n").arg(frames), QString(), true},
+                        {"EXPTIME", "12.5", "seconds", false}};
+    QString error;
+    const auto writer = CreatePicture(path, options, error);
+    bool done = writer != nullptr;
+    for (int i = 0; i < frames && done; ++i)
+        done = writer->Append(picture, error);
+    done = done && writer->Commit(error);
+    if (!done)
+        std::fprintf(stderr, "%s\n", qPrintable(error));
+    return done;
+}
+
+/// Kinds that our own writer does not write.
+bool SaveCompressedFits(const QString &path, int method)
+{
+    Picture picture = Ramp(1, SampleType::U8);
+    long sizes[] = {picture.Width(), picture.Height()};
+    fitsfile *fits = nullptr;
+    int status = 0;
+    QFile::remove(path);
+    fits_create_diskfile(&fits, QFile::encodeName(path).constData(), &status);
+    fits_set_compression_type(fits, method, &status);
+    fits_create_img(fits, BYTE_IMG, 2, sizes, &status);
+    fits_write_img(fits, TBYTE, 1, picture.Width() * picture.Height(), picture.Data(), &status);
+    fits_close_file(fits, &status);
+    return status == 0;
+}
+
+bool SaveTiles(const QString &path, int compression, int planarConfiguration)
+{
+    constexpr int side = 16;
+    std::vector<uchar> samples(side * side * 3, 7);
+    TIFF *tiff = TIFFOpen(QFile::encodeName(path).constData(), "w");
+    if (!tiff)
+        return false;
+    TIFFSetField(tiff, TIFFTAG_IMAGEWIDTH, 20);
+    TIFFSetField(tiff, TIFFTAG_IMAGELENGTH, 18);
+    TIFFSetField(tiff, TIFFTAG_BITSPERSAMPLE, 8);
+    TIFFSetField(tiff, TIFFTAG_SAMPLESPERPIXEL, 3);
+    TIFFSetField(tiff, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB);
+    TIFFSetField(tiff, TIFFTAG_PLANARCONFIG, planarConfiguration);
+    TIFFSetField(tiff, TIFFTAG_TILEWIDTH, side);
+    TIFFSetField(tiff, TIFFTAG_TILELENGTH, side);
+    TIFFSetField(tiff, TIFFTAG_COMPRESSION, compression);
+    bool done = true;
+    for (uint32_t i = 0; i < TIFFNumberOfTiles(tiff); ++i)
+        done = TIFFWriteEncodedTile(tiff, i, samples.data(), TIFFTileSize(tiff)) > 0 && done;
+    TIFFClose(tiff);
+    return done;
+}
+
+bool SaveOtherKinds(const QDir &folder)
+{
+    bool done = true;
+    for (const int method : {RICE_1, GZIP_1, GZIP_2, PLIO_1, HCOMPRESS_1})
+        done = done && SaveCompressedFits(folder.filePath(QString("seed-compressed-%1.fits").arg(method)), method);
+    for (const int compression : {COMPRESSION_NONE, COMPRESSION_LZW, COMPRESSION_PACKBITS, COMPRESSION_ADOBE_DEFLATE}) {
+        for (const int planar : {PLANARCONFIG_CONTIG, PLANARCONFIG_SEPARATE})
+            done = done && SaveTiles(folder.filePath(QString("seed-tiles-%1-%2.tif").arg(compression).arg(planar)), compression, planar);
+    }
+    return done;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QDir folder(argc == 2 ? argv[1] : "");
+    bool done = argc == 2;
+    for (int type = 0; type <= int(SampleType::F64); ++type) {
+        for (const int channels : {1, 3}) {
+            const Picture picture = Ramp(channels, SampleType(type));
+            const QString name = folder.filePath(QString("seed-%1-%2").arg(type).arg(channels));
+            done = done && Save(name + ".tif", picture, 2, false) && Save(name + "-deflate.tif", picture, 1, true)
+                && Save(name + ".fits", picture, 2, false);
+            if (SampleType(type) == SampleType::U8 || SampleType(type) == SampleType::U16)
+                done = done && Save(name + ".png", picture, 1, false);
+        }
+    }
+    return done && SaveOtherKinds(folder) ? 0 : 1;
+}
