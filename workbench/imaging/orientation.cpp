@@ -1,10 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "orientation.h"
 
+#include "viewcodes.h"
+
 Orientation::Orientation(bool isFlipped, int quarterTurns)
     : m_isFlipped(isFlipped)
     , m_quarterTurns(quarterTurns % 4)
 {
+}
+
+Orientation Orientation::After(int rotateType) const
+{
+    switch (rotateType) {
+    case RotateBy90: return RotatedRight();
+    case FlipHorizontal: return FlippedHorizontally();
+    case FlipVertical: return FlippedVertically();
+    default: return *this;
+    }
 }
 
 Orientation Orientation::Inverse() const

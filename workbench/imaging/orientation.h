@@ -15,6 +15,8 @@ public:
     bool IsFlipped() const { return m_isFlipped; }
     /// Clockwise, 0 to 3.
     int QuarterTurns() const { return m_quarterTurns; }
+    /// The same, clockwise: 0, 90, 180 or 270.
+    int Degrees() const { return m_quarterTurns * 90; }
     bool SwapsSides() const { return m_quarterTurns % 2 != 0; }
 
     Orientation RotatedRight() const { return Orientation(m_isFlipped, m_quarterTurns + 1); }
@@ -23,6 +25,8 @@ public:
     Orientation FlippedHorizontally() const { return Orientation(!m_isFlipped, 4 - m_quarterTurns); }
     /// Top becomes bottom, as seen now.
     Orientation FlippedVertically() const { return Orientation(!m_isFlipped, 6 - m_quarterTurns); }
+    /// After a command of the tool bar, a RotateType.
+    Orientation After(int rotateType) const;
     /// Leads from the turned picture back to the samples as they were measured.
     Orientation Inverse() const;
 

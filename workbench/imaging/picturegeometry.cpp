@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "picturegeometry.h"
 
+#include "pixelmove.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -9,53 +11,6 @@
 #include <vector>
 
 namespace {
-
-/// A pixel as bytes; what they mean does not matter when it only moves.
-template <int Size>
-struct PixelBytes
-{
-    uchar bytes[Size];
-};
-
-/// How the source is walked, in pixels, while the target is filled row by row.
-struct Walk
-{
-    qint64 start;
-    qint64 perColumn;
-    qint64 perRow;
-};
-
-Walk WalkThrough(const QSize &source, Orientation orientation)
-{
-    const Orientation back = orientation.Inverse();
-    const QSize target = orientation.Map(source);
-    const auto indexOf = [&](const QPoint &pixel) {
-        const QPoint from = back.Map(pixel, target);
-        return qint64(from.y()) * source.width() + from.x();
-    };
-    const qint64 start = indexOf(QPoint(0, 0));
-    return {start, indexOf(QPoint(1, 0)) - start, indexOf(QPoint(0, 1)) - start};
-}
-
-template <int Size>
-void MovePixels(const Picture &source, const Walk &walk, Picture &target)
-{
-    using Pixel = PixelBytes<Size>;
-    // Square pieces keep the rows that a rotation walks across in the processor's cache.
-    constexpr int side = 64;
-    const auto *from = reinterpret_cast<const Pixel *>(source.Data()) + walk.start;
-    auto *to = reinterpret_cast<Pixel *>(target.Data());
-    const int width = target.Width();
-    const int height = target.Height();
-    for (int top = 0; top < height; top += side) {
-        for (int left = 0; left < width; left += side) {
-            for (int y = top; y < std::min(top + side, height); ++y) {
-                for (int x = left; x < std::min(left + side, width); ++x)
-                    to[qint64(y) * width + x] = from[y * walk.perRow + x * walk.perColumn];
-            }
-        }
-    }
-}
 
 /// Bins of one row of the target: the samples of `rows` source rows added up.
 template <typename Sample, typename Sum>
@@ -108,17 +63,8 @@ Picture Oriented(const Picture &picture, Orientation orientation)
         return picture;
     const QSize size = orientation.Map(picture.Size());
     Picture target(size.width(), size.height(), picture.Channels(), picture.Type());
-    const Walk walk = WalkThrough(picture.Size(), orientation);
-    switch (picture.BytesPerPixel()) {
-    case 1: MovePixels<1>(picture, walk, target); break;
-    case 2: MovePixels<2>(picture, walk, target); break;
-    case 3: MovePixels<3>(picture, walk, target); break;
-    case 4: MovePixels<4>(picture, walk, target); break;
-    case 6: MovePixels<6>(picture, walk, target); break;
-    case 8: MovePixels<8>(picture, walk, target); break;
-    case 12: MovePixels<12>(picture, walk, target); break;
-    default: MovePixels<24>(picture, walk, target); break;
-    }
+    const PixelRows source{ picture.Data(), picture.Size(), picture.BytesPerRow(), picture.BytesPerPixel() };
+    MovePixels(source, orientation, target.Data(), target.BytesPerRow());
     return target;
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "liveorientation.h"
 
-#include "viewcodes.h"
-
 LiveOrientation::LiveOrientation(QObject *parent)
     : CameraManager(parent)
 {
@@ -21,21 +19,9 @@ void LiveOrientation::Reset()
 
 void LiveOrientation::slotSetMirrorRotate(int type)
 {
-    Orientation orientation = Get();
-    switch (type) {
-    case RotateBy90:
-        orientation.Rotate90();
-        break;
-    case FlipHorizontal:
-        orientation.FlipHorizontal();
-        break;
-    case FlipVertical:
-        orientation.FlipVertical();
-        break;
-    default:
-        return;
-    }
-    Set(orientation);
+    const Orientation orientation = Get().After(type);
+    if (orientation != Get())
+        Set(orientation);
 }
 
 void LiveOrientation::Set(const Orientation &orientation)

@@ -32,12 +32,12 @@ QString PixelReadout::ValueAt(const QPointF &scenePos) const
 {
     const CameraFrame &frame = m_preview->ShownFrame();
     const Orientation orientation = m_orientation->Get();
-    const QSize frameSize(frame.width, frame.height);
+    const QSize seenSize = orientation.Map(QSize(frame.width, frame.height));
     const QPoint seen(int(std::floor(scenePos.x())), int(std::floor(scenePos.y())));
-    if (frame.IsNull() || !QRect(QPoint(0, 0), orientation.Applied(frameSize)).contains(seen))
+    if (frame.IsNull() || !QRect(QPoint(0, 0), seenSize).contains(seen))
         return QString();
 
-    const QPoint pixel = orientation.FramePixel(seen, frameSize);
+    const QPoint pixel = orientation.Inverse().Map(seen, seenSize);
     const uchar *sample = frame.Row(pixel.y()) + pixel.x() * BytesPerPixel(frame.layout);
     if (frame.layout == PixelLayout::Rgb8)
         return QString("(%1, %2, %3)").arg(sample[0]).arg(sample[1]).arg(sample[2]);
