@@ -4,6 +4,7 @@
 #include "cameralink.h"
 #include "cameramenu.h"
 #include "cameranotice.h"
+#include "drawingguard.h"
 #include "globalui.h"
 #include "informationdialog.h"
 #include "shownframes.h"
@@ -11,11 +12,14 @@
 #include "viewcodes.h"
 #include "viewmenu.h"
 #include "workbenchservices.h"
+#include "workspace.h"
 #include "workspaceconfig.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
@@ -39,15 +43,18 @@ constexpr int BottomPanelHeight = 170;
 MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     : m_services(services)
     , m_settings(settings)
+    , m_drawingGuard(new DrawingGuard(services->Config(), this))
 {
     setObjectName("MainWindow");
     setWindowTitle(tr("Workbench"));
 
     BuildAreas();
+    m_drawingGuard->Watch(services->GetWorkspace()->GetCameraScene()->views().first());
     m_shown = new ShownFrames(services->Preview(), services->GetWorkspace(), this);
     BuildMenus();
     m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);
     connect(services, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
+    connect(m_drawingGuard, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
     auto *leaveFullScreen = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     connect(leaveFullScreen, SIGNAL(activated()), this, SLOT(slotLeaveFullScreen()));
 
@@ -105,6 +112,7 @@ void MainWindow::BuildMenus()
     m_viewMenu = new ViewMenu(m_services, this);
     menuBar()->addMenu(m_viewMenu);
     connect(m_viewMenu, SIGNAL(signalRestoreDefaultLayout()), this, SLOT(slotRestoreDefaultLayout()));
+    connect(m_viewMenu, SIGNAL(signalDrawingChosen(bool)), m_drawingGuard, SLOT(slotSetCPUDraw(bool)));
 
     QMenu *help = menuBar()->addMenu(tr("&Help"));
     help->addAction(tr("&About"), [this] { InformationDialog::ShowAbout(this); });

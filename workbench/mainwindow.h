@@ -5,6 +5,7 @@
 
 #include <QMainWindow>
 
+class DrawingGuard;
 class QDockWidget;
 class QSettings;
 class QStackedWidget;
@@ -58,6 +59,7 @@ private:
 
     WorkbenchServices *m_services;
     QSettings *m_settings;
+    DrawingGuard *m_drawingGuard;
     QStackedWidget *m_centre = nullptr;
     QDockWidget *m_leftDock = nullptr;
     QDockWidget *m_rightDock = nullptr;

@@ -3,6 +3,9 @@
 
 #include "cameralink.h"
 #include "globalnotify.h"
+#include "levelsdialog.h"
+#include "levelsmodel.h"
+#include "livelevels.h"
 #include "scenecatalogue.h"
 #include "workbenchservices.h"
 #include "workspaceconfig.h"
@@ -25,6 +28,7 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     addSeparator();
     AddPanels();
     addSeparator();
+    AddPicture();
     AddDrawing();
     AddScenes();
     addSeparator();
@@ -34,6 +38,7 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     connect(m_drawingGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetDrawing(QAction *)));
     connect(m_sceneGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetScene(QAction *)));
     connect(m_config, SIGNAL(signalSetCPUDraw(bool)), this, SLOT(slotUpdate()));
+    connect(services->Levels()->Model(), SIGNAL(signalChanged()), this, SLOT(slotUpdate()));
     connect(services->Link(), SIGNAL(signalFormatChanged()), this, SLOT(slotUpdate()));
     slotUpdate();
 }
@@ -50,6 +55,15 @@ void ViewMenu::AddPanels()
     AddChoice(m_panelGroup, this, tr("&Left Panel"), LeftPanel);
     AddChoice(m_panelGroup, this, tr("&Right Panel"), RightPanel);
     AddChoice(m_panelGroup, this, tr("&Bottom Panel"), BottomPanel);
+}
+
+void ViewMenu::AddPicture()
+{
+    addAction(tr("L&evels…"), this, SLOT(slotShowLevels()), QKeySequence("Ctrl+L"));
+    m_markSaturated = addAction(tr("&Mark Saturated Pixels"));
+    m_markSaturated->setCheckable(true);
+    m_markSaturated->setShortcut(QKeySequence("Ctrl+M"));
+    connect(m_markSaturated, SIGNAL(toggled(bool)), m_services->Levels()->Model(), SLOT(slotSetMarksSaturated(bool)));
 }
 
 void ViewMenu::AddDrawing()
@@ -92,6 +106,7 @@ void ViewMenu::slotUpdate()
         action->setChecked(isShown[action->data().toInt()]);
     for (QAction *action : m_drawingGroup->actions())
         action->setChecked(action->data().toBool() == m_config->IsCPUDraw());
+    m_markSaturated->setChecked(m_services->Levels()->Model()->MarksSaturated());
     for (QAction *action : m_sceneGroup->actions())
         action->setChecked(action->data().toString() == m_services->Link()->SceneName());
 }
@@ -124,7 +139,16 @@ void ViewMenu::slotSetPanel(QAction *action)
 
 void ViewMenu::slotSetDrawing(QAction *action)
 {
-    m_config->SetCPUDraw(action->data().toBool(), false);
+    emit signalDrawingChosen(action->data().toBool());
+}
+
+void ViewMenu::slotShowLevels()
+{
+    if (!m_levelsDialog)
+        m_levelsDialog = new LevelsDialog(m_services->Levels(), parentWidget());
+    m_levelsDialog->show();
+    m_levelsDialog->raise();
+    m_levelsDialog->activateWindow();
 }
 
 void ViewMenu::slotSetScene(QAction *action)

@@ -3,12 +3,13 @@
 
 #include <QMenu>
 
+class LevelsDialog;
 class QActionGroup;
 class WorkbenchServices;
 class WorkspaceConfig;
 
-/// The View menu: which view and panels are shown, how the picture is drawn and what the simulated
-/// camera looks at. What concerns the window itself it leaves to the window. GUI thread.
+/// The View menu: which view and panels are shown, how the picture is drawn, its levels, and what the
+/// simulated camera looks at. What concerns the window itself it leaves to the window. GUI thread.
 class ViewMenu : public QMenu
 {
     Q_OBJECT
@@ -24,16 +25,20 @@ public slots:
     void slotSetBlackBackgroundChecked(bool checked);
 
 signals:
+    /// True for the CPU.
+    void signalDrawingChosen(bool cpuFlag);
     void signalRestoreDefaultLayout();
 
 private slots:
     void slotSetDrawing(QAction *action);
+    void slotShowLevels();
     void slotSetScene(QAction *action);
     void slotSetPanel(QAction *action);
 
 private:
     void AddViews();
     void AddPanels();
+    void AddPicture();
     void AddDrawing();
     void AddScenes();
     void AddWindow();
@@ -44,6 +49,8 @@ private:
     QActionGroup *m_panelGroup;
     QActionGroup *m_drawingGroup;
     QActionGroup *m_sceneGroup;
+    LevelsDialog *m_levelsDialog = nullptr;
+    QAction *m_markSaturated = nullptr;
     QAction *m_blackBackground = nullptr;
     QAction *m_fullScreen = nullptr;
 };

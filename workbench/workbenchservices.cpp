@@ -11,8 +11,10 @@
 #include "connectedcameras.h"
 #include "coversettings.h"
 #include "framesaving.h"
+#include "levelsmodel.h"
 #include "liveframesize.h"
 #include "livehistogram.h"
+#include "livelevels.h"
 #include "liveorientation.h"
 #include "livepreview.h"
 #include "liveprofiles.h"
@@ -38,6 +40,7 @@ WorkbenchServices::WorkbenchServices(QSettings *settings, CameraLink *link)
     : m_link(link)
     , m_config(std::make_unique<WorkspaceConfig>(settings))
     , m_useArea(std::make_unique<UseArea>(settings))
+    , m_levelsModel(std::make_unique<LevelsModel>(settings))
 {
     StartMeasuring();
     StartPictures();
@@ -94,7 +97,8 @@ void WorkbenchServices::StartCamera()
 void WorkbenchServices::StartPreview()
 {
     m_orientation = std::make_unique<LiveOrientation>();
-    m_preview = std::make_unique<LivePreview>(m_link, m_orientation.get());
+    m_levels = std::make_unique<LiveLevels>(m_levelsModel.get());
+    m_preview = std::make_unique<LivePreview>(m_link, m_orientation.get(), m_levels.get());
     m_pixelReadout = std::make_unique<PixelReadout>(m_preview.get(), m_orientation.get());
     m_frameSize = std::make_unique<LiveFrameSize>();
     m_histogram = std::make_unique<LiveHistogram>();

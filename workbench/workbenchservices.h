@@ -17,8 +17,10 @@ class ChannelSynthesis;
 class ConnectedCameras;
 class CoverSettings;
 class FrameSaving;
+class LevelsModel;
 class LiveFrameSize;
 class LiveHistogram;
+class LiveLevels;
 class LiveOrientation;
 class LivePreview;
 class LiveProfiles;
@@ -54,6 +56,7 @@ public:
 
     CameraLink *Link() const { return m_link; }
     LivePreview *Preview() const { return m_preview.get(); }
+    LiveLevels *Levels() const { return m_levels.get(); }
     WorkspaceConfig *Config() const { return m_config.get(); }
     Workspace *GetWorkspace() const { return m_workspace.get(); }
     ConnectedCameras *Cameras() const { return m_cameras.get(); }
@@ -81,6 +84,7 @@ private:
 
     std::unique_ptr<WorkspaceConfig> m_config;
     std::unique_ptr<UseArea> m_useArea;
+    std::unique_ptr<LevelsModel> m_levelsModel;
     std::unique_ptr<LiveReport> m_liveReport;
     std::unique_ptr<MeasureSettings> m_measureSettings;
     std::unique_ptr<AutoCounting> m_autoCounting;
@@ -102,6 +106,7 @@ private:
     std::unique_ptr<CoverSettings> m_coverSettings;
     std::unique_ptr<RegionOfInterest> m_region;
     std::unique_ptr<LiveOrientation> m_orientation;
+    std::unique_ptr<LiveLevels> m_levels;
     std::unique_ptr<LivePreview> m_preview;
     std::unique_ptr<PixelReadout> m_pixelReadout;
     std::unique_ptr<LiveFrameSize> m_frameSize;

@@ -2,21 +2,23 @@
 #include "livepreview.h"
 
 #include "framesource.h"
+#include "livelevels.h"
 #include "liveorientation.h"
-#include "orientedimage.h"
 
 namespace {
 /// How long the thread waits for a frame before it looks again whether it is to go on.
 constexpr int TakeTimeoutMs = 500;
 }
 
-LivePreview::LivePreview(FrameSource *source, LiveOrientation *orientation, QObject *parent)
+LivePreview::LivePreview(FrameSource *source, LiveOrientation *orientation, LiveLevels *levels, QObject *parent)
     : PreviewManager(parent)
     , m_source(source)
     , m_orientation(orientation)
+    , m_maker(levels)
 {
     setObjectName("LivePreview");
     connect(m_orientation, SIGNAL(signalOrientationChanged()), this, SLOT(slotShowAgain()));
+    connect(levels, SIGNAL(signalPictureWanted()), this, SLOT(slotShowAgain()));
 }
 
 LivePreview::~LivePreview()
@@ -90,7 +92,7 @@ void LivePreview::run()
 /// Inside the gate; the GUI thread leaves it. The three deliveries stay in this order.
 void LivePreview::SendPicture(const CameraFrame &frame)
 {
-    const QImage picture = OrientedImage(m_maker.Make(frame), m_orientation->Get());
+    const QImage picture = m_orientation->Get().Applied(m_maker.Make(frame));
     m_rawFrames.FillBack(picture);
     m_frameOnItsWay = frame;
     m_sizeOnItsWay = picture.size();
@@ -118,7 +120,7 @@ void LivePreview::slotPictureDelivered()
     emit signalPictureDelivered();
 }
 
-/// A standing picture is laid anew; a running preview does it with its next frame.
+/// A standing picture is made anew; a running preview does it with its next frame.
 void LivePreview::slotShowAgain()
 {
     if (isRunning() || m_shownFrame.IsNull())
@@ -138,7 +140,7 @@ void LivePreview::slotManualROI(int x, int y, int width, int height, bool apply)
         return;
     const QSize frameSize(m_shownFrame.width, m_shownFrame.height);
     const Orientation orientation = m_orientation->Get();
-    const QSize seenSize = orientation.Map(frameSize);
-    const QRect seen = QRect(x, y, width, height) & QRect(QPoint(0, 0), seenSize);
-    emit signalRegionWanted(orientation.Inverse().Map(seen, seenSize));
+    const QPoint first = orientation.FramePixel(QPoint(x, y), frameSize);
+    const QPoint last = orientation.FramePixel(QPoint(x + width - 1, y + height - 1), frameSize);
+    emit signalRegionWanted(QRect(first, last).normalized() & QRect(QPoint(0, 0), frameSize));
 }

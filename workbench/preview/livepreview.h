@@ -13,6 +13,7 @@
 #include <QSize>
 
 class FrameSource;
+class LiveLevels;
 class LiveOrientation;
 
 /// The live picture. The camera's stream thread puts frames into a one-place slot; this thread takes
@@ -24,8 +25,9 @@ class LivePreview : public PreviewManager, public FrameSink
     Q_OBJECT
 
 public:
-    /// Both are borrowed and outlive this object.
-    LivePreview(FrameSource *source, LiveOrientation *orientation, QObject *parent = nullptr);
+    /// All are borrowed and outlive this object.
+    LivePreview(FrameSource *source, LiveOrientation *orientation, LiveLevels *levels,
+                QObject *parent = nullptr);
     ~LivePreview() override;
 
     bool StartPreview() override;

@@ -2,15 +2,12 @@
 #include "picturemaker.h"
 
 #include "cameraframe.h"
-#include "levelsfinder.h"
+#include "livelevels.h"
 #include "sampleview.h"
 
-#include <QImage>
-
-namespace {
-/// A few dead and hot pixels don't set the levels.
-constexpr double DarkestPart = 0.001;
-constexpr double BrightestPart = 0.999;
+PictureMaker::PictureMaker(LiveLevels *levels)
+    : m_levels(levels)
+{
 }
 
 QImage PictureMaker::Make(const CameraFrame &frame)
@@ -23,10 +20,7 @@ QImage PictureMaker::Make(const CameraFrame &frame)
     samples.bitDepth = frame.BitDepth();
     samples.isColour = frame.layout == PixelLayout::Rgb8;
 
-    const DisplayLevels levels = samples.Has16BitSamples()
-        ? LevelsFinder::FromPercentiles(samples, DarkestPart, BrightestPart)
-        : DisplayLevels::FullRange(samples.bitDepth);
     QImage picture;
-    m_converter.Convert(samples, levels, &picture);
+    m_converter.Convert(samples, m_levels->Next(samples), &picture, m_levels->MarksSaturated());
     return picture;
 }

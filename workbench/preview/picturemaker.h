@@ -3,17 +3,20 @@
 
 #include "levelsconverter.h"
 
+class LiveLevels;
 struct CameraFrame;
-class QImage;
 
-/// Makes the picture of a frame for the screen, Grayscale8 or RGB888: 8-bit samples as they are,
-/// deeper ones through levels that follow the frame's own darkest and brightest parts. One maker for
-/// one thread at a time.
+/// Makes the picture of a frame for the screen, Grayscale8 or RGB888, through the live levels. One
+/// maker for one thread at a time.
 class PictureMaker
 {
 public:
+    /// `levels` is borrowed and outlives this object.
+    explicit PictureMaker(LiveLevels *levels);
+
     QImage Make(const CameraFrame &frame);
 
 private:
+    LiveLevels *m_levels;
     LevelsConverter m_converter;
 };

@@ -52,7 +52,8 @@ private slots:
     {
         TestFrameSource source;
         LiveOrientation orientation;
-        LivePreview preview(&source, &orientation);
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
         source.hasCamera = false;
         QVERIFY(!preview.StartPreview());
         QVERIFY(!preview.isRunning());
@@ -68,7 +69,8 @@ private slots:
     {
         TestFrameSource source;
         LiveOrientation orientation;
-        LivePreview preview(&source, &orientation);
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
         preview.StartPreview();
         QElapsedTimer timer;
         timer.start();
@@ -80,7 +82,8 @@ private slots:
     {
         TestFrameSource source;
         LiveOrientation orientation;
-        LivePreview preview(&source, &orientation);
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
         QSignalSpy sent(&preview, SIGNAL(signalPreviewImage(QImage)));
         preview.StartPreview();
         preview.OnFrame(TestFrames::Make(8, 8, PixelLayout::Mono8));
@@ -98,7 +101,8 @@ private slots:
         constexpr int Frames = 10000;
         TestFrameSource source;
         LiveOrientation orientation;
-        LivePreview preview(&source, &orientation);
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
         QueueWatch watch(&preview);
         preview.StartPreview();
 
@@ -122,7 +126,8 @@ private slots:
     {
         TestFrameSource source;
         LiveOrientation orientation;
-        LivePreview preview(&source, &orientation);
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
         QueueWatch watch(&preview);
         preview.StartPreview();
         // Nothing is fetched here meanwhile: one picture waits, the newest frame behind it.
@@ -177,7 +182,8 @@ private slots:
     {
         TestFrameSource source;
         LiveOrientation orientation;
-        LivePreview preview(&source, &orientation);
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
         QStringList order;
         connect(&preview, &LivePreview::signalImageSizeChanged, this, [&] { order << "size"; });
         connect(&preview, &PreviewManager::signalPreviewImage, this, [&](const QImage &picture) {
@@ -200,7 +206,8 @@ private slots:
     {
         TestFrameSource source;
         LiveOrientation orientation;
-        LivePreview preview(&source, &orientation);
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
         preview.StartPreview();
         preview.OnFrame(TestFrames::Make(6, 3, PixelLayout::Mono8));
         QTRY_COMPARE(preview.DeliveredCount(), quint64(1));
@@ -221,7 +228,8 @@ private slots:
         TestFrameSource source;
         LiveOrientation orientation;
         orientation.slotSetMirrorRotate(RotateBy90);
-        LivePreview preview(&source, &orientation);
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
         preview.StartPreview();
         preview.OnFrame(TestFrames::Make(60, 30, PixelLayout::Mono8));
         QTRY_COMPARE(preview.DeliveredCount(), quint64(1));
@@ -239,7 +247,8 @@ private slots:
     {
         TestFrameSource source;
         LiveOrientation orientation;
-        LivePreview preview(&source, &orientation);
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
         QSignalSpy messages(&preview, SIGNAL(signalMessage(QString)));
         preview.FrameSave(false, false);
         QCOMPARE(messages.count(), 1);
@@ -252,7 +261,8 @@ private:
     {
         TestFrameSource source;
         LiveOrientation orientation;
-        LivePreview preview(&source, &orientation);
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
         QSignalSpy shown(&preview, SIGNAL(signalPreviewImage(QImage)));
         preview.StartPreview();
         preview.OnFrame(frame);

@@ -63,7 +63,8 @@ private slots:
     {
         TestFrameSource source;
         LiveOrientation orientation;
-        LivePreview preview(&source, &orientation);
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
         PixelReadout readout(&preview, &orientation);
         QSignalSpy spy(&readout, SIGNAL(signalUpdatePixelInfo(QPointF, QString)));
         readout.slotUpdateMousePosition(QPointF(0, 0));

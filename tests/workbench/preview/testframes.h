@@ -3,6 +3,8 @@
 
 #include "cameraframe.h"
 #include "framesource.h"
+#include "levelsmodel.h"
+#include "livelevels.h"
 
 /// Frames of known samples.
 namespace TestFrames {
@@ -12,6 +14,13 @@ namespace TestFrames {
 CameraFrame Make(int width, int height, PixelLayout layout, int shift = 0);
 
 } // namespace TestFrames
+
+/// The levels as a first start has them.
+struct TestLevels
+{
+    LevelsModel model;
+    LiveLevels live{&model};
+};
 
 /// A camera that sends what the test hands to the sink.
 class TestFrameSource : public FrameSource

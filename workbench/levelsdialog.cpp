@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "levelsdialog.h"
+
+#include "levelshistogram.h"
+#include "levelsmodel.h"
+#include "livelevels.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDoubleSpinBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+namespace {
+constexpr double LeastGamma = 0.1;
+constexpr double MostGamma = 10.0;
+constexpr double GammaStep = 0.1;
+}
+
+LevelsDialog::LevelsDialog(LiveLevels *levels, QWidget *parent)
+    : QDialog(parent)
+    , m_levels(levels)
+    , m_histogram(new LevelsHistogram)
+    , m_depth(new QLabel)
+    , m_mode(new QComboBox)
+    , m_gamma(new QDoubleSpinBox)
+{
+    setObjectName("LevelsDialog");
+    setWindowTitle(tr("Levels"));
+    auto *column = new QVBoxLayout(this);
+    column->addWidget(m_histogram, 1);
+    m_depth->setObjectName("labelLevelsDepth");
+    column->addWidget(m_depth);
+    AddFields();
+    AddButtons();
+    SetUsable(false);
+
+    connect(m_mode, SIGNAL(activated(int)), this, SLOT(slotModeChosen()));
+    connect(m_left, SIGNAL(valueChanged(int)), this, SLOT(slotValueEdited()));
+    connect(m_right, SIGNAL(valueChanged(int)), this, SLOT(slotValueEdited()));
+    connect(m_gamma, SIGNAL(valueChanged(double)), this, SLOT(slotValueEdited()));
+    connect(m_levels, SIGNAL(signalReport(LevelsReport)), this, SLOT(slotReport(LevelsReport)));
+}
+
+void LevelsDialog::AddFields()
+{
+    auto *form = new QFormLayout;
+    static_cast<QVBoxLayout *>(layout())->addLayout(form);
+    m_mode->setObjectName("comboBoxLevelsMode");
+    m_mode->addItem(tr("Automatic (0.1 % to 99.9 %)"), int(LevelsMode::Automatic));
+    m_mode->addItem(tr("Minimum and maximum"), int(LevelsMode::MinimumMaximum));
+    m_mode->addItem(tr("Manual"), int(LevelsMode::Manual));
+    m_mode->addItem(tr("Full range"), int(LevelsMode::FullRange));
+    form->addRow(tr("&Mode"), m_mode);
+    m_left = AddValue(form, tr("&Black"), "spinBoxLevelsLeft");
+    m_right = AddValue(form, tr("&White"), "spinBoxLevelsRight");
+
+    m_gamma->setObjectName("doubleSpinBoxLevelsGamma");
+    m_gamma->setRange(LeastGamma, MostGamma);
+    m_gamma->setSingleStep(GammaStep);
+    m_gamma->setKeyboardTracking(false);
+    form->addRow(tr("&Gamma"), m_gamma);
+}
+
+QSpinBox *LevelsDialog::AddValue(QFormLayout *form, const QString &label, const char *name)
+{
+    auto *value = new QSpinBox;
+    value->setObjectName(name);
+    value->setAccelerated(true);
+    value->setKeyboardTracking(false); // a number that is still being typed is no level
+    form->addRow(label, value);
+    return value;
+}
+
+void LevelsDialog::AddButtons()
+{
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Reset | QDialogButtonBox::Close);
+    for (QAbstractButton *button : buttons->buttons())
+        static_cast<QPushButton *>(button)->setAutoDefault(false); // Enter ends a number, not the dialog
+    connect(buttons, SIGNAL(rejected()), this, SLOT(close()));
+    connect(buttons->button(QDialogButtonBox::Reset), SIGNAL(clicked()), this, SLOT(slotReset()));
+    layout()->addWidget(buttons);
+}
+
+void LevelsDialog::showEvent(QShowEvent *event)
+{
+    m_levels->SetWatched(true);
+    QDialog::showEvent(event);
+}
+
+void LevelsDialog::hideEvent(QHideEvent *event)
+{
+    m_levels->SetWatched(false);
+    QDialog::hideEvent(event);
+}
+
+void LevelsDialog::slotReport(LevelsReport report)
+{
+    m_report = report;
+    m_histogram->SetReport(report);
+    SetUsable(true);
+    ShowSetting();
+    if (Setting().mode != LevelsMode::Manual)
+        ShowLevels();
+}
+
+/// Manual levels start from what is seen.
+void LevelsDialog::slotModeChosen()
+{
+    LevelsSetting setting = Setting();
+    setting.mode = LevelsMode(m_mode->currentData().toInt());
+    if (setting.mode == LevelsMode::Manual) {
+        setting.left = m_report.levels.left;
+        setting.right = m_report.levels.right;
+    }
+    Apply(setting);
+}
+
+void LevelsDialog::slotValueEdited()
+{
+    LevelsSetting setting = Setting();
+    setting.gamma = m_gamma->value();
+    if (setting.mode == LevelsMode::Manual) {
+        setting.left = m_left->value();
+        setting.right = m_right->value();
+    }
+    Apply(setting);
+}
+
+void LevelsDialog::slotReset()
+{
+    Apply(LevelsSetting::Default(m_report.bitDepth));
+}
+
+LevelsSetting LevelsDialog::Setting() const
+{
+    return m_levels->Model()->Setting(m_report.bitDepth);
+}
+
+void LevelsDialog::Apply(const LevelsSetting &setting)
+{
+    m_levels->Model()->SetSetting(m_report.bitDepth, setting);
+    ShowSetting();
+}
+
+void LevelsDialog::SetUsable(bool usable)
+{
+    m_mode->setEnabled(usable);
+    m_gamma->setEnabled(usable);
+    if (usable) {
+        m_depth->setText(tr("%1 bit samples, 0 to %2")
+                             .arg(m_report.bitDepth)
+                             .arg(DisplayLevels::FullRange(m_report.bitDepth).right));
+    } else {
+        m_depth->setText(tr("There is no live picture."));
+        m_left->setEnabled(false);
+        m_right->setEnabled(false);
+    }
+}
+
+void LevelsDialog::ShowSetting()
+{
+    const LevelsSetting setting = Setting();
+    const QSignalBlocker mode(m_mode);
+    const QSignalBlocker left(m_left);
+    const QSignalBlocker right(m_right);
+    const QSignalBlocker gamma(m_gamma);
+    const bool isManual = setting.mode == LevelsMode::Manual;
+    const int fullScale = DisplayLevels::FullRange(m_report.bitDepth).right;
+    m_mode->setCurrentIndex(m_mode->findData(int(setting.mode)));
+    m_left->setRange(0, fullScale - 1);
+    m_right->setRange(1, fullScale);
+    m_left->setEnabled(isManual);
+    m_right->setEnabled(isManual);
+    if (isManual) {
+        m_left->setValue(setting.left);
+        m_right->setValue(setting.right);
+    }
+    m_gamma->setValue(setting.gamma);
+}
+
+void LevelsDialog::ShowLevels()
+{
+    const QSignalBlocker left(m_left);
+    const QSignalBlocker right(m_right);
+    m_left->setValue(m_report.levels.left);
+    m_right->setValue(m_report.levels.right);
+}

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "levelsreport.h"
+#include "levelssetting.h"
+
+#include <QDialog>
+
+class LevelsHistogram;
+class LiveLevels;
+class QComboBox;
+class QDoubleSpinBox;
+class QFormLayout;
+class QLabel;
+class QSpinBox;
+
+/// Sets the levels of the live picture beside the picture itself: mode, black, white and gamma, with the histogram of
+/// the raw samples. Shows the levels of the present picture in every mode and lets them be edited in manual mode, which
+/// starts from what is seen. GUI thread.
+class LevelsDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// `levels` is borrowed and outlives this object.
+    LevelsDialog(LiveLevels *levels, QWidget *parent);
+
+public slots:
+    void slotReport(LevelsReport report);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private slots:
+    void slotModeChosen();
+    void slotValueEdited();
+    void slotReset();
+
+private:
+    void AddFields();
+    void AddButtons();
+    QSpinBox *AddValue(QFormLayout *form, const QString &label, const char *name);
+    LevelsSetting Setting() const;
+    void Apply(const LevelsSetting &setting);
+    void SetUsable(bool usable);
+    void ShowSetting();
+    void ShowLevels();
+
+    LiveLevels *m_levels;
+    LevelsReport m_report;
+    LevelsHistogram *m_histogram;
+    QLabel *m_depth;
+    QComboBox *m_mode;
+    QSpinBox *m_left = nullptr;
+    QSpinBox *m_right = nullptr;
+    QDoubleSpinBox *m_gamma;
+};

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "levelsreport.h"
+
+#include <QWidget>
+
+/// A strip with the histogram of the raw samples and the levels in it: what lies left of the first mark is black, right
+/// of the second white, and the curve between them is the grey. GUI thread.
+class LevelsHistogram : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LevelsHistogram(QWidget *parent = nullptr);
+
+    void SetReport(const LevelsReport &report);
+    QSize sizeHint() const override;
+
+    /// Height of a column for its count, 0 to 1: the logarithm, so that the few bright samples of a dark picture are
+    /// seen too.
+    static double ColumnHeight(qint64 count, qint64 mostCount);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    double PositionOf(double value) const;
+    void PaintColumns(QPainter &painter);
+    void PaintLevels(QPainter &painter);
+
+    LevelsReport m_report;
+};

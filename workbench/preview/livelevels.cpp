@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "livelevels.h"
+
+#include "levelsmodel.h"
+#include "samplehistogram.h"
+#include "sampleview.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int ReportPeriodMs = 100;
+/// A picture of the histogram needs no more rows than these.
+constexpr int RowsForReport = 256;
+
+} // namespace
+
+LiveLevels::LiveLevels(LevelsModel *model, QObject *parent)
+    : QObject(parent)
+    , m_model(model)
+{
+    qRegisterMetaType<LevelsReport>();
+    connect(m_model, SIGNAL(signalChanged()), this, SIGNAL(signalPictureWanted()));
+}
+
+DisplayLevels LiveLevels::Next(const SampleView &samples)
+{
+    const LevelsSetting setting = m_model->Setting(samples.bitDepth);
+    if (setting != m_setting) {
+        m_setting = setting;
+        m_follower.Reset();
+        m_reportsNext = true;
+    }
+    const DisplayLevels levels = m_follower.Next(samples, setting);
+    const bool isTime = !m_sinceReport.isValid() || m_sinceReport.elapsed() >= ReportPeriodMs;
+    if (m_isWatched && (m_reportsNext.exchange(false) || isTime))
+        Report(samples, levels);
+    return levels;
+}
+
+bool LiveLevels::MarksSaturated() const
+{
+    return m_model->MarksSaturated();
+}
+
+void LiveLevels::SetWatched(bool watched)
+{
+    m_isWatched = watched;
+    m_reportsNext = watched;
+    if (watched)
+        emit signalPictureWanted();
+}
+
+void LiveLevels::Report(const SampleView &samples, const DisplayLevels &levels)
+{
+    const SampleHistogram histogram(samples, std::max(1, samples.height / RowsForReport));
+    const std::vector<qint64> columns = histogram.Condensed(HistogramColumns);
+    m_sinceReport.start();
+    emit signalReport({samples.bitDepth, levels, QVector<qint64>(columns.begin(), columns.end())});
+}
