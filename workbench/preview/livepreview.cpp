@@ -4,6 +4,7 @@
 #include "framesource.h"
 #include "livelevels.h"
 #include "liveorientation.h"
+#include "orientedimage.h"
 
 namespace {
 /// How long the thread waits for a frame before it looks again whether it is to go on.
@@ -92,7 +93,7 @@ void LivePreview::run()
 /// Inside the gate; the GUI thread leaves it. The three deliveries stay in this order.
 void LivePreview::SendPicture(const CameraFrame &frame)
 {
-    const QImage picture = m_orientation->Get().Applied(m_maker.Make(frame));
+    const QImage picture = OrientedImage(m_maker.Make(frame), m_orientation->Get());
     m_rawFrames.FillBack(picture);
     m_frameOnItsWay = frame;
     m_sizeOnItsWay = picture.size();
@@ -140,7 +141,7 @@ void LivePreview::slotManualROI(int x, int y, int width, int height, bool apply)
         return;
     const QSize frameSize(m_shownFrame.width, m_shownFrame.height);
     const Orientation orientation = m_orientation->Get();
-    const QPoint first = orientation.FramePixel(QPoint(x, y), frameSize);
-    const QPoint last = orientation.FramePixel(QPoint(x + width - 1, y + height - 1), frameSize);
-    emit signalRegionWanted(QRect(first, last).normalized() & QRect(QPoint(0, 0), frameSize));
+    const QSize seenSize = orientation.Map(frameSize);
+    const QRect seen = QRect(x, y, width, height) & QRect(QPoint(0, 0), seenSize);
+    emit signalRegionWanted(orientation.Inverse().Map(seen, seenSize));
 }
