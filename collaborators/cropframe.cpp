@@ -40,16 +40,10 @@ Qt::CursorShape CursorOf(SelectionRect::Grip grip)
     return Qt::ArrowCursor;
 }
 
-bool IsApplyKey(int key)
-{
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
-}
+bool IsApplyKey(int key) { return key == Qt::Key_Return || key == Qt::Key_Enter; }
 
 /// Applies or leaves.
-bool TakesKey(int key)
-{
-    return IsApplyKey(key) || key == Qt::Key_Escape;
-}
+bool TakesKey(int key) { return IsApplyKey(key) || key == Qt::Key_Escape; }
 
 } // namespace
 
@@ -70,10 +64,7 @@ CropFrame::CropFrame(QGraphicsScene *scene, QWidget *parent)
     }
 }
 
-void CropFrame::slotSetCoverFrameVisible(bool visible)
-{
-    ShowFor(Cover, visible);
-}
+void CropFrame::slotSetCoverFrameVisible(bool visible) { ShowFor(Cover, visible); }
 
 void CropFrame::slotFinishFillCover(QRect rect)
 {

@@ -63,7 +63,13 @@ private slots:
     void slotSceneRectChanged(QRectF sceneRect);
 
 private:
-    enum Mode { Region, Cover, Crop, ModeCount };
+    enum Mode
+    {
+        Region,
+        Cover,
+        Crop,
+        ModeCount
+    };
 
     void ShowFor(Mode mode, bool visible);
     void Apply();

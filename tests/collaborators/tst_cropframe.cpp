@@ -253,7 +253,7 @@ void TestCropFrame::EscLeavesTheMode()
     QCOMPARE(coverStopped.count(), coverStops);
     QCOMPARE(m_regions->count(), emptyRegions);
     for (const QList<QVariant> &region : qAsConst(*m_regions))
-        QCOMPARE(region, QList<QVariant>({0, 0, 0, 0, false}));
+        QCOMPARE(region, QList<QVariant>({ 0, 0, 0, 0, false }));
     QVERIFY(!m_frame->isVisible());
 }
 

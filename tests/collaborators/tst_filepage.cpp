@@ -173,10 +173,10 @@ void TestFilePage::KeepsTheSelectionWhenAFileComes()
     m_list->setCurrentRow(1);
     WriteFile("aa.bmp");
     QTRY_COMPARE(m_list->count(), 6);
-    QCOMPARE(Listed(), QStringList({"a.tif", "aa.bmp", "b.PNG", "c.fits", "d.spe", "e.jpg"}));
+    QCOMPARE(Listed(), QStringList({ "a.tif", "aa.bmp", "b.PNG", "c.fits", "d.spe", "e.jpg" }));
     QCOMPARE(m_list->selectedItems().size(), 1);
     QCOMPARE(m_list->selectedItems().first()->text(), QString("b.PNG"));
-    QCOMPARE(m_list->currentItem()->text(), QString("b.PNG"));
+    QCOMPARE(m_list->currentRow(), 2);
 }
 
 void TestFilePage::KeepsTheSelectionOfFilesThatStay()
@@ -188,7 +188,7 @@ void TestFilePage::KeepsTheSelectionOfFilesThatStay()
     m_list->item(2)->setSelected(true);
     QVERIFY(merge->isEnabled());
     QVERIFY(QFile::remove(m_folder->filePath("a.tif")));
-    QTRY_COMPARE(Listed(), QStringList({"b.PNG", "c.fits", "d.spe", "e.jpg"}));
+    QTRY_COMPARE(Listed(), QStringList({ "b.PNG", "c.fits", "d.spe", "e.jpg" }));
     QVERIFY(!merge->isEnabled()); // one file alone is nothing to merge
     QCOMPARE(m_list->selectedItems().first()->text(), QString("c.fits"));
 
@@ -239,7 +239,7 @@ void TestFilePage::FollowsAFolderThatComesBack()
     WriteFile("below/b.tif");
     QTRY_COMPARE(Listed(), QStringList("b.tif"));
     WriteFile("below/c.tif");
-    QTRY_COMPARE(Listed(), QStringList({"b.tif", "c.tif"}));
+    QTRY_COMPARE(Listed(), QStringList({ "b.tif", "c.tif" }));
 }
 
 void TestFilePage::TheTreeShowsTheFolderTyped()
@@ -285,7 +285,7 @@ void TestFilePage::TheTreeFollowsTheFoldersWhileItIsWatched()
     auto *tree = view.findChild<QTreeView *>("treeViewFolders");
     const auto folders = [tree] { return tree->model()->rowCount(tree->currentIndex()); };
     int expected = 1;
-    for (const QString &visit : {QString("first"), QString("second"), QString("third")}) {
+    for (const QString &visit : { QString("first"), QString("second"), QString("third") }) {
         view.StartFolderChecked();
         QTRY_COMPARE(folders(), expected);
         QVERIFY(QDir(m_folder->path()).mkdir(visit + " here"));

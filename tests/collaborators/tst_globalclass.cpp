@@ -3,6 +3,7 @@
 
 #include "displayscale.h"
 #include "globalclass.h"
+#include "programfile.h"
 
 #include <QFile>
 #include <QFontMetrics>
@@ -97,6 +98,20 @@ private slots:
     {
         const std::unique_ptr<QWidget> properties(GlobalClass::GetPropertyUI({}));
         QVERIFY(properties->findChildren<QLabel *>().isEmpty());
+    }
+
+    void AProgramFileTellsItsVersions()
+    {
+        QTemporaryDir folder;
+        QFile file(folder.filePath("Kelvo.dll"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(ProgramFile(".rsrc", VersionInformation(StringRecord("FileVersion", "1.0")
+                                                           + StringRecord("ProductVersion", "57.25.10.3"))));
+        file.close();
+        const QString path = folder.path() + "\\Kelvo.dll";
+        QCOMPARE(GlobalClass::GetSoftWareVersion(path, "ProductVersion"), QString("57.25.10.3"));
+        QCOMPARE(GlobalClass::GetSoftWareVersion(path, "FileVersion"), QString("1.0"));
+        QCOMPARE(GlobalClass::GetSoftWareVersion(path, "Comments"), QString());
     }
 
     void AFileWithoutVersionResourceHasNoVersion()

@@ -15,10 +15,7 @@ const QColor plain(10, 20, 30);
 const QColor on(200, 0, 0);
 const QColor off(0, 0, 200);
 
-QColor Colour(QWidget *widget)
-{
-    return widget->grab().toImage().pixelColor(5, 5);
-}
+QColor Colour(QWidget *widget) { return widget->grab().toImage().pixelColor(5, 5); }
 
 } // namespace
 

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCoreApplication>
+#include <QJsonObject>
+#include <QSet>
+#include <QString>
+
+/// What a plug-in file says of itself, readable without running any of its code.
+class UIPluginMetaData
+{
+    Q_DECLARE_TR_FUNCTIONS(UIPluginMetaData)
+
+public:
+    /// As QPluginLoader::metaData() gives it.
+    explicit UIPluginMetaData(const QJsonObject &information);
+
+    /// Why this does not describe a panel that can be placed; empty when it does.
+    QString Fault(const QSet<int> &takenIds) const;
+    /// -1 when there is none.
+    int Id() const;
+    QString Version() const;
+    /// A page of the bottom tab widget, otherwise a tab of a control panel.
+    bool IsBottomPage() const;
+    /// Of the bottom page.
+    QString Title() const;
+    /// The left pages that a bottom page is shown with.
+    bool BelongsToCamera() const;
+    bool BelongsToImage() const;
+
+private:
+    QString Page() const;
+
+    QJsonObject m_information;
+    QJsonObject m_metaData;
+};
