@@ -48,11 +48,19 @@ constexpr int TabsWithoutSpectrum = 3;
 /// Titles of the measure side's pages are texts of its own.
 QString MeasureText(const char *text) { return QCoreApplication::translate("MeasureUI", text); }
 
-template <class Object>
-void DeleteAndClear(Object &object)
+/// The page's text is translated by the camera side, whose panel it is.
+bool IsHistogramTitle(const QString &tabText)
 {
-    delete object;
+    return tabText == GlobalUI::tr("Histogram(Live)") || tabText == CameraUI::tr("Histogram(Live)");
+}
+
+/// Cleared first: what goes may still announce something that we hear.
+template <class Object>
+void ClearAndDelete(Object &object)
+{
+    const Object leaving = object;
     object = nullptr;
+    delete leaving;
 }
 
 } // namespace
@@ -87,15 +95,15 @@ GlobalUI::~GlobalUI()
 {
     QObject::disconnect(this, nullptr, nullptr, nullptr);
     // What the host's window has destroyed already is null by now.
-    DeleteAndClear(m_fileSystemView);
-    DeleteAndClear(m_cameraUI);
-    DeleteAndClear(m_imageUI);
-    DeleteAndClear(m_measureUI);
-    DeleteAndClear(m_compareFrame);
-    DeleteAndClear(m_fileThumbnail);
-    DeleteAndClear(m_reserved1);
-    DeleteAndClear(m_reserved2);
-    DeleteAndClear(m_reserved3);
+    ClearAndDelete(m_fileSystemView);
+    ClearAndDelete(m_cameraUI);
+    ClearAndDelete(m_imageUI);
+    ClearAndDelete(m_measureUI);
+    ClearAndDelete(m_compareFrame);
+    ClearAndDelete(m_fileThumbnail);
+    ClearAndDelete(m_reserved1);
+    ClearAndDelete(m_reserved2);
+    ClearAndDelete(m_reserved3);
     instance = nullptr;
 }
 
@@ -287,8 +295,8 @@ void GlobalUI::UpdateOverlays()
 
 bool GlobalUI::IsBuilt() const
 {
-    return m_centerStackedWidget && m_leftStackedWidget && m_cameraUI->GetImageStack()
-           && m_imageUI->GetImageStack();
+    return m_centerStackedWidget && m_leftStackedWidget && m_cameraUI && m_cameraUI->GetImageStack()
+           && m_imageUI && m_imageUI->GetImageStack();
 }
 
 void GlobalUI::slotRightTabWidgetCurrentChanged(int index)
@@ -298,15 +306,15 @@ void GlobalUI::slotRightTabWidgetCurrentChanged(int index)
 
 void GlobalUI::slotBottomTabWidgetCurrentChanged(int index)
 {
-    const bool histogramShown = m_bottomTabWidget->tabText(index) == tr("Histogram(Live)");
+    const bool histogramShown = IsHistogramTitle(m_bottomTabWidget->tabText(index));
     HistogramCalculateManager::GetInstance()->SetHistogramStatisticsState(histogramShown);
     UIConfigManager::GetInstance()->SetBottomUIIndex(index);
 }
 
 void GlobalUI::slotUpdateUseArea()
 {
-    if (!m_rightTabWidget)
-        return; // went with the host's window
+    if (!m_rightTabWidget || !m_measureUI)
+        return; // went with the host's window, or we are going
     const bool spectrumPresent = UseAreaManager::GetInstance()->IsSpectrumPagePresent();
     if (spectrumPresent && m_rightTabWidget->count() == TabsWithoutSpectrum)
         m_rightTabWidget->insertTab(0, GetSpectrumWidget(), tr("Spectrum"));
@@ -370,6 +378,8 @@ void GlobalUI::slotUpdateImageCompareFrame()
 
 void GlobalUI::slotDisplayModeChange()
 {
+    if (!IsBuilt())
+        return;
     m_cameraUI->OnDisplayModeChange();
     m_imageUI->OnDisplayModeChange();
 }

@@ -54,7 +54,8 @@ public:
 
     /// A new widget with what is known of the camera; the caller owns it.
     QWidget *GetCameraInfoUI();
-    /// New control pages; the caller owns them.
+    /// New control pages; the caller owns them. The panels and the buttons above them move there from
+    /// the page they were on, and are deleted with the new one.
     QWidget *GetCameraControlUIScrollArea();
     QWidget *GetImageControlUIScrollArea();
 
@@ -96,7 +97,7 @@ private:
     void UpdateFolderWatch(bool fileView);
     void UpdatePreview(int view);
     void UpdateOverlays();
-    /// InitMainUI() was called and the window still lives.
+    /// InitMainUI() was called, and the window and the control panels still live.
     bool IsBuilt() const;
 
     static GlobalUI *instance;

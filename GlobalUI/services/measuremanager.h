@@ -9,7 +9,7 @@ class QMouseEvent;
 class QWidget;
 
 /// Measuring in one view; each ReportManager hands out its own. The static operations speak to all
-/// that live.
+/// that live, so a host creates them all before it creates the module.
 class GLOBALUI_SERVICES_EXPORT MeasureManager : public QObject
 {
     Q_OBJECT

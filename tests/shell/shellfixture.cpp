@@ -14,6 +14,19 @@
 #include <QTabWidget>
 #include <QTest>
 
+namespace {
+
+/// How many connections a signal has, of any object.
+struct ReceiverCount : QObject
+{
+    static int Of(const QObject *sender, const char *signal)
+    {
+        return (sender->*(&ReceiverCount::receivers))(signal);
+    }
+};
+
+} // namespace
+
 NamedImageManager::NamedImageManager(const QString &name)
     : m_name(name)
 {
@@ -122,7 +135,12 @@ CompareFrame *ShellHost::Compare() const
 
 bool TakeConnection(QObject *sender, const char *signal, QObject *receiver, const char *slot)
 {
-    return sender && receiver && QObject::disconnect(sender, signal, receiver, slot);
+    if (!sender || !receiver)
+        return false;
+    const int before = ReceiverCount::Of(sender, signal);
+    // Takes away all equal connections at once.
+    return QObject::disconnect(sender, signal, receiver, slot)
+           && ReceiverCount::Of(sender, signal) == before - 1;
 }
 
 QStringList MissingWires(const QVector<Wire> &wires)
@@ -141,6 +159,20 @@ QStringList OwnMethods(const QMetaObject &metaObject)
     for (int i = metaObject.methodOffset(); i < metaObject.methodCount(); ++i)
         methods << QString::fromLatin1(metaObject.method(i).methodSignature());
     return methods;
+}
+
+QObject *PanelRoot(const QWidget &window, int id)
+{
+    const auto *panel = window.findChild<QWidget *>("panel" + QString::number(id));
+    return panel ? panel->property("plugin").value<QObject *>() : nullptr;
+}
+
+QStringList TabTexts(const QTabWidget *tabs)
+{
+    QStringList texts;
+    for (int i = 0; i < tabs->count(); ++i)
+        texts << tabs->tabText(i);
+    return texts;
 }
 
 QVector<int> TakePanelUpdates()

@@ -12,6 +12,7 @@ class CameraStackedWidget;
 class CompareFrame;
 class GlobalUI;
 class ImageStackedWidget;
+class QTabWidget;
 
 /// An image manager whose calls carry its own name in the log: "main slotSaveImageAs()".
 class NamedImageManager : public FakeImageManager
@@ -83,7 +84,7 @@ struct ShellHost
     GlobalUI *ui = nullptr;
 };
 
-/// True when this connection exists; it does not exist afterwards.
+/// True when this connection exists, and only once; it does not exist afterwards.
 bool TakeConnection(QObject *sender, const char *signal, QObject *receiver, const char *slot);
 /// A row of a table of wires.
 struct Wire
@@ -93,9 +94,13 @@ struct Wire
     QObject *receiver;
     const char *slot;
 };
-/// Those wires that do not exist, as text; takes away the ones that do.
+/// Those wires that do not exist exactly once, as text; takes away the ones that do.
 QStringList MissingWires(const QVector<Wire> &wires);
 /// What the class adds to its base: signals and slots in their order.
 QStringList OwnMethods(const QMetaObject &metaObject);
+/// The root object of the plug-in with this id.
+QObject *PanelRoot(const QWidget &window, int id);
+/// The texts of all tabs.
+QStringList TabTexts(const QTabWidget *tabs);
 /// The ids of the panels updated since the last call.
 QVector<int> TakePanelUpdates();

@@ -3,8 +3,10 @@
 
 #include "globalui.h"
 #include "guardedtest.h"
+#include "programfile.h"
 #include "shellfixture.h"
 
+#include <QFile>
 #include <QLabel>
 
 class CameraInfoTest : public GuardedTest
@@ -18,6 +20,7 @@ private slots:
     void numbersHaveFourHexDigits();
     void missingInterfaceTextIsEmpty();
     void textsAreDecoded();
+    void tellsTheVersionOfTheCameraLibrary();
     void panelIsNewOnEachCall();
 };
 
@@ -89,6 +92,21 @@ void CameraInfoTest::textsAreDecoded()
     const QStringList info = CameraInfo();
     QCOMPARE(info.at(info.indexOf("Firmware Serial No.") + 1), QString(QChar(0xB5)));
     QCOMPARE(info.at(info.indexOf("SN") + 1), QString::fromLocal8Bit(serial.toLocal8Bit()));
+}
+
+void CameraInfoTest::tellsTheVersionOfTheCameraLibrary()
+{
+    FakeServices services;
+    FakeCameraMainManager camera;
+    QFile library(QCoreApplication::applicationDirPath() + "/Kelvo.dll");
+    QVERIFY(!library.exists());
+    QVERIFY(library.open(QIODevice::WriteOnly));
+    library.write(ProgramFile(".rsrc", VersionInformation(StringRecord("FileVersion", "1.0")
+                                                          + StringRecord("ProductVersion", "57.25.10.3"))));
+    library.close();
+    const QStringList info = CameraInfo();
+    QVERIFY(library.remove());
+    QCOMPARE(info.mid(info.size() - 2), QStringList({ "SDK Serial No.", "57.25.10.3" }));
 }
 
 void CameraInfoTest::panelIsNewOnEachCall()

@@ -9,10 +9,14 @@
 #include "shellfixture.h"
 #include "viewcodes.h"
 
+#include <QDir>
 #include <QGraphicsScene>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QShortcut>
+#include <QSignalSpy>
 #include <QStackedWidget>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -44,6 +48,8 @@ private slots:
     void isWired();
     void thumbnailCommandsReachTheManagers();
     void newPicturesAndThumbnails();
+    void fileViewsFollowEachOther();
+    void openedFileReachesTheManager();
     void f8SavesTheActiveImage();
     void pressedViewGetsTheFocus();
     void mouseOnTheLiveView();
@@ -157,6 +163,36 @@ void CenterWiringTest::newPicturesAndThumbnails()
         QStringList({ "ThumbnailList::slotAddThumbnail()", "ThumbnailList::slotAddToThumbnailList(c.tif)",
                       "ThumbnailList::slotSetSelectButtonVisible(true)", "main slotNewImageCopy()",
                       "main slotNewImageCopy()", "AdvancedProcessManager::slotMergeImages()" }));
+}
+
+void CenterWiringTest::fileViewsFollowEachOther()
+{
+    QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    QFile picture(folder.filePath("a.tif"));
+    QVERIFY(picture.open(QIODevice::WriteOnly));
+    QVERIFY(QDir(folder.path()).mkdir("below"));
+    ShellHost host;
+    host.Build();
+    auto *thumbnail = host.window.findChild<FileThumbnail *>();
+    auto *fileSystem = host.window.findChild<FileSystemView *>();
+    auto *files = thumbnail->findChild<QListWidget *>();
+    emit fileSystem->signalFolderChanged(folder.path());
+    QCOMPARE(files->count(), 1);
+    QSignalSpy folders(fileSystem, SIGNAL(signalFolderChanged(QString)));
+    emit host.services.thumbnails->sglShowFileThumbnail(folder.filePath("below"));
+    QCOMPARE(files->count(), 0);
+    QCOMPARE(folders.count(), 1);
+    QCOMPARE(folders.first().first().toString(), folder.filePath("below"));
+}
+
+void CenterWiringTest::openedFileReachesTheManager()
+{
+    ShellHost host;
+    host.Build();
+    CallLog::Clear();
+    emit host.window.findChild<FileThumbnail *>()->signalOpenImage("d.tif", nullptr);
+    QCOMPARE(CallLog::Calls(), QStringList("GlobalManager::slotOpenImage(d.tif)"));
 }
 
 void CenterWiringTest::f8SavesTheActiveImage()

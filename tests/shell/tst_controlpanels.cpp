@@ -11,6 +11,7 @@
 #include "imagestackedwidget.h"
 #include "multiimagewidget.h"
 #include "shellfixture.h"
+#include "viewcodes.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -20,14 +21,6 @@
 #include <QVBoxLayout>
 
 namespace {
-
-QStringList TabTexts(const QTabWidget *tabs)
-{
-    QStringList texts;
-    for (int i = 0; i < tabs->count(); ++i)
-        texts << tabs->tabText(i);
-    return texts;
-}
 
 /// Services, the tests' panels and a window around one manager.
 template <class Manager>
@@ -503,6 +496,7 @@ void ControlPanelsTest::measureRaisesBottomPages()
     QTabWidget bottom;
     bottom.addTab(new QWidget, "File Preview");
     bench.manager->SetBottomControlUIPanel(&bottom);
+    UIManagerBase::UpdateBottomTabWidget(ImageControlPage); // all three pages belong to it
     QCOMPARE(bottom.currentIndex(), 0);
     if (id >= 0)
         GlobalNotifyObserver(id, nullptr);

@@ -10,7 +10,9 @@
 #include "shellfixture.h"
 #include "viewcodes.h"
 
+#include <QLabel>
 #include <QTabWidget>
+#include <QTranslator>
 
 namespace {
 
@@ -19,6 +21,23 @@ void WatchDestruction(QObject *object, const QString &name)
 {
     QObject::connect(object, &QObject::destroyed, [name] { CallLog::Add("destroyed " + name, {}); });
 }
+
+/// While it lives, each text is translated as its context, a slash and itself.
+class ContextTranslator : public QTranslator
+{
+public:
+    ContextTranslator() { QCoreApplication::installTranslator(this); }
+    ~ContextTranslator() override { QCoreApplication::removeTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        // Panels that are missing say so with their title.
+        if (qstrcmp(context, "UIManagerBase") == 0)
+            return QString();
+        return QString("%1/%2").arg(context, source);
+    }
+};
 
 QObject *FindTopLevel(const char *className)
 {
@@ -39,8 +58,11 @@ private slots:
     void isOneObjectUntilItIsDeleted();
     void declaresItsSlotsInOrder();
     void makesItsWidgetsWithoutParent();
-    void translatesInItsOwnContext();
+    void translatesInTheContextsOfItsParts();
+    void histogramRunsUnderItsTranslatedTitle();
     void deletesInOrder();
+    void panelMayAnnounceWhileItGoes_data();
+    void panelMayAnnounceWhileItGoes();
     void hostWindowMayGoFirst();
     void hostWindowMayStayBehind_data();
     void hostWindowMayStayBehind();
@@ -86,17 +108,61 @@ void GlobalUITest::makesItsWidgetsWithoutParent()
                            &host.services.uiConfig, SLOT(slotFileViewReturn())));
 }
 
-void GlobalUITest::translatesInItsOwnContext()
+void GlobalUITest::translatesInTheContextsOfItsParts()
 {
-    QCOMPARE(GlobalUI::tr("Spectrum"), QString("Spectrum"));
-    QCOMPARE(QByteArray(GlobalUI::staticMetaObject.className()), QByteArray("GlobalUI"));
+    const ContextTranslator translator;
+    ShellHost host;
+    host.Build();
+    QCOMPARE(TabTexts(host.ui->GetRightTabWidget()),
+             QStringList({ "GlobalUI/Spectrum", "GlobalUI/Analysis", "GlobalUI/Tool Properties",
+                           "GlobalUI/Report" }));
+    QCOMPARE(host.ui->GetBottomTabWidget()->tabText(0), QString("GlobalUI/File Preview"));
+    // The title of a panel that is not installed stands in its place.
+    const QPair<QWidget *, QString> pages[] = { { host.ui->GetSpectrumWidget(), "MeasureUI/Spectrum" },
+                                                { host.ui->GetDataAnalysisWidget(), "MeasureUI/Analysis" },
+                                                { host.ui->GetToolPropertyWidget(),
+                                                  "MeasureUI/Tool Properties" },
+                                                { host.ui->GetReportWidget(), "MeasureUI/Report" } };
+    for (const auto &page : pages) {
+        const QString text = page.first->findChild<QLabel *>()->text();
+        QVERIFY2(text.contains('"' + page.second + '"'), qPrintable(text));
+    }
+    const QScopedPointer<QWidget> cameraInfo(host.ui->GetCameraInfoUI());
+    QStringList labels;
+    for (const QLabel *label : cameraInfo->findChildren<QLabel *>())
+        labels << label->text();
+    labels.sort();
+    QCOMPARE(labels, QStringList({ "GlobalUI/Name", "GlobalUI/No Camera" }));
+}
+
+void GlobalUITest::histogramRunsUnderItsTranslatedTitle()
+{
+    const ContextTranslator translator;
+    ShellHost host(ShellHost::WithPanels);
+    host.Build();
+    QTabWidget *bottom = host.ui->GetBottomTabWidget();
+    QCOMPARE(bottom->tabText(1), QString("CameraUI/Histogram(Live)"));
+    for (int i : { 1, 2 }) {
+        CallLog::Clear();
+        bottom->setCurrentIndex(i);
+        QCOMPARE(
+            CallLog::Count("HistogramCalculateManager::SetHistogramStatisticsState(" + Text(i == 1) + ")"),
+            1);
+    }
+    bottom->setTabText(1, "GlobalUI/Histogram(Live)");
+    CallLog::Clear();
+    bottom->setCurrentIndex(1);
+    QCOMPARE(CallLog::Count("HistogramCalculateManager::SetHistogramStatisticsState(true)"), 1);
 }
 
 void GlobalUITest::deletesInOrder()
 {
-    ShellHost host;
+    ShellHost host(ShellHost::WithPanels);
     host.Build();
     WatchDestruction(host.window.findChild<FileSystemView *>(), "file system view");
+    WatchDestruction(PanelRoot(host.window, 0), "camera panel");
+    WatchDestruction(PanelRoot(host.window, 4), "image panel");
+    WatchDestruction(PanelRoot(host.window, 7), "measure panel");
     WatchDestruction(host.Compare(), "compare frame");
     WatchDestruction(host.window.findChild<FileThumbnail *>(), "file thumbnail view");
     for (QWidget *area : { static_cast<QWidget *>(host.ui->GetCenterStackedWidget()),
@@ -107,8 +173,40 @@ void GlobalUITest::deletesInOrder()
     CallLog::Clear();
     delete host.ui;
     host.ui = nullptr;
-    QCOMPARE(CallLog::Calls(), QStringList({ "destroyed file system view()", "destroyed compare frame()",
-                                             "destroyed file thumbnail view()" }));
+    QCOMPARE(CallLog::Calls(),
+             QStringList({ "destroyed file system view()", "destroyed camera panel()",
+                           "destroyed image panel()", "destroyed measure panel()",
+                           "destroyed compare frame()", "destroyed file thumbnail view()" }));
+}
+
+void GlobalUITest::panelMayAnnounceWhileItGoes_data()
+{
+    QTest::addColumn<int>("id");
+    QTest::newRow("camera") << 0;
+    QTest::newRow("image") << 4;
+    QTest::newRow("measure") << 7;
+}
+
+void GlobalUITest::panelMayAnnounceWhileItGoes()
+{
+    QFETCH(int, id);
+    ShellHost host(ShellHost::WithPanels);
+    host.services.useArea.spectrumHidden = true;
+    host.Build();
+    QObject *root = PanelRoot(host.window, id);
+    QVERIFY(root);
+    int announced = 0;
+    connect(root, &QObject::destroyed, this, [&host, &announced] {
+        host.services.useArea.spectrumHidden = false;
+        GlobalNotifyObserver(71, nullptr);
+        emit host.services.spectrumUI.signalDisplayModeChange();
+        emit host.services.useArea.signalUpdateUseArea();
+        emit host.services.uiConfig.signalSwitchView();
+        ++announced;
+    });
+    delete host.ui;
+    host.ui = nullptr;
+    QCOMPARE(announced, 1);
 }
 
 void GlobalUITest::hostWindowMayGoFirst()
@@ -157,6 +255,7 @@ void GlobalUITest::hostWindowMayStayBehind()
     emit host.services.spectrum.SignalSpectralineFVB();
     emit host.services.spectrum.SignalSpectralineAutoDetectFinish();
     emit host.services.spectrumUI.SignalMultiTrackOnFlagChanged();
+    GlobalNotifyObserver(71, nullptr);
     QCoreApplication::processEvents();
     QCOMPARE(host.CameraStack()->GetMainFrame() == nullptr, view == CameraCompareView);
     QCOMPARE(host.ImageStack()->GetMainFrame() == nullptr, view != CameraView);
@@ -207,7 +306,7 @@ void GlobalUITest::bottomPagesCanBePutIntoAnotherTabWidget()
     QCOMPARE(camera.count(), 1);
     QCOMPARE(camera.tabText(0), QString("Histogram(Live)"));
     QCOMPARE(image.count(), 0);
-    QCOMPARE(measure.count(), 3);
+    QCOMPARE(TabTexts(&measure), QStringList({ "Calibration Table", "Class Counting" }));
     delete host.ui;
     host.ui = nullptr;
 }
@@ -218,7 +317,7 @@ void GlobalUITest::canBeBuiltAgain()
         ShellHost host(ShellHost::WithPanels);
         host.Build();
         QCOMPARE(host.ui->GetCenterStackedWidget()->count(), 3);
-        QCOMPARE(host.ui->GetBottomTabWidget()->count(), 5);
+        QCOMPARE(host.ui->GetBottomTabWidget()->count(), 4);
     }
 }
 

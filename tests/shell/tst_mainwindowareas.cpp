@@ -17,14 +17,6 @@
 
 namespace {
 
-QStringList TabTexts(const QTabWidget *tabs)
-{
-    QStringList texts;
-    for (int i = 0; i < tabs->count(); ++i)
-        texts << tabs->tabText(i);
-    return texts;
-}
-
 const QStringList tabsWithSpectrum{ "Spectrum", "Analysis", "Tool Properties", "Report" };
 
 QString TabStyle(int width)
@@ -257,8 +249,8 @@ void MainWindowAreasTest::bottomTabs()
     QCOMPARE(bottom->objectName(), QString("BottomTabWidget"));
     QCOMPARE(bottom->styleSheet(), QString("QTabBar::tab:selected{color:black;}"));
     QVERIFY(qobject_cast<WidgetSwitchUI *>(bottom->widget(0)));
-    QCOMPARE(TabTexts(bottom), QStringList({ "File Preview", "Histogram(Live)", "Calibration Table",
-                                             "Class Counting", "Automatic Counting Table" }));
+    QCOMPARE(TabTexts(bottom),
+             QStringList({ "File Preview", "Histogram(Live)", "Calibration Table", "Class Counting" }));
     QVERIFY(bottom->widget(0)->isAncestorOf(host.services.thumbnails));
 }
 
@@ -267,7 +259,7 @@ void MainWindowAreasTest::histogramOnlyWhileItsTabIsShown()
     ShellHost host(ShellHost::WithPanels);
     host.Build();
     QTabWidget *bottom = host.ui->GetBottomTabWidget();
-    for (int i : { 1, 2, 1, 0, 4 }) {
+    for (int i : { 1, 2, 1, 0, 3 }) {
         CallLog::Clear();
         bottom->setCurrentIndex(i);
         const QString state = bottom->tabText(i) == "Histogram(Live)" ? "true" : "false";

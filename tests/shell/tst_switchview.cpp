@@ -4,6 +4,7 @@
 #include "compareframe.h"
 #include "drawviewbase.h"
 #include "filesystemview.h"
+#include "filethumbnail.h"
 #include "globalnotify.h"
 #include "globalui.h"
 #include "gpudrawframe.h"
@@ -15,8 +16,14 @@
 #include "viewtoolbar.h"
 
 #include <QCheckBox>
+#include <QDir>
+#include <QFileSystemModel>
+#include <QFileSystemWatcher>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTreeView>
 
 namespace {
 
@@ -79,6 +86,10 @@ class SwitchViewTest : public GuardedTest
 
 private slots:
     void followsThePages();
+    void bottomPagesFollow();
+    void cameraUpdateBringsItsBottomPages();
+    void foldersAreWatchedInTheFileView();
+    void overlaysFollow();
     void logsThePageCount();
     void previewRunsOnlyWhileLive_data();
     void previewRunsOnlyWhileLive();
@@ -113,6 +124,90 @@ void SwitchViewTest::followsThePages()
                  host.services.uiConfig.leftStackedWidgetIndex);
         QCOMPARE(host.ui->GetCenterStackedWidget()->currentIndex(),
                  host.services.uiConfig.centerStackedWidgetIndex);
+    }
+}
+
+void SwitchViewTest::bottomPagesFollow()
+{
+    Window host(ShellHost::WithPanels);
+    const QStringList camera{ "File Preview", "Histogram(Live)", "Calibration Table", "Class Counting" };
+    const QStringList image{ "File Preview", "Calibration Table", "Class Counting",
+                             "Automatic Counting Table" };
+    const QStringList file{ "File Preview", "Calibration Table", "Class Counting" };
+    const QStringList expected[] = { camera, image, file, camera, image };
+    for (int view : { ImageView, CameraView, FileView, ImageCompareView, CameraCompareView, FileView }) {
+        host.SwitchTo(view);
+        QCOMPARE(TabTexts(host.ui->GetBottomTabWidget()), expected[view]);
+    }
+}
+
+void SwitchViewTest::cameraUpdateBringsItsBottomPages()
+{
+    Window host(ShellHost::WithPanels);
+    const QTabWidget *bottom = host.ui->GetBottomTabWidget();
+    host.services.global.cameraView = false;
+    host.ui->UpdateUI();
+    QVERIFY(TabTexts(bottom).contains("Automatic Counting Table"));
+    QVERIFY(!TabTexts(bottom).contains("Histogram(Live)"));
+    host.services.global.cameraView = true;
+    host.ui->UpdateUI();
+    QVERIFY(!TabTexts(bottom).contains("Automatic Counting Table"));
+    QVERIFY(TabTexts(bottom).contains("Histogram(Live)"));
+}
+
+void SwitchViewTest::foldersAreWatchedInTheFileView()
+{
+    QTemporaryDir folder;
+    QVERIFY(folder.isValid());
+    const auto write = [&folder](const QString &name) {
+        QFile file(folder.filePath(name));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+    };
+    Window host;
+    auto *tree = host.window.findChild<FileSystemView *>()->findChild<QTreeView *>();
+    auto *thumbnails = host.window.findChild<FileThumbnail *>();
+    auto *files = thumbnails->findChild<QListWidget *>();
+    auto *watcher = thumbnails->findChild<QFileSystemWatcher *>();
+    thumbnails->slotOpenFileDirectory(folder.path());
+    QCOMPARE(watcher->directories(), QStringList());
+    const auto folders = [tree] { return tree->model()->rowCount(tree->currentIndex()); };
+
+    for (int visit = 1; visit <= 2; ++visit) {
+        host.SwitchTo(FileView);
+        QCOMPARE(watcher->directories(), QStringList(folder.path()));
+        QTRY_COMPARE(folders(), visit - 1);
+        QCOMPARE(files->count(), visit * 2 - 2);
+        write(QString("seen%1.tif").arg(visit));
+        QVERIFY(QDir(folder.path()).mkdir(QString::number(visit)));
+        QTRY_COMPARE(files->count(), visit * 2 - 1);
+        QTRY_COMPARE(folders(), visit);
+
+        host.SwitchTo(ImageView);
+        QCOMPARE(watcher->directories(), QStringList());
+        write(QString("unseen%1.tif").arg(visit));
+        QCOMPARE(files->count(), visit * 2 - 1);
+    }
+    auto *model = qobject_cast<QFileSystemModel *>(tree->model());
+    QVERIFY(model->testOption(QFileSystemModel::DontWatchForChanges));
+}
+
+void SwitchViewTest::overlaysFollow()
+{
+    Window host;
+    const auto closeButtons = [&host] {
+        QList<bool> visible;
+        for (const QWidget *stack :
+             { static_cast<QWidget *>(host.CameraStack()), static_cast<QWidget *>(host.ImageStack()) })
+            visible << !stack->findChild<QPushButton *>("pushButtonCloseCompare")->isHidden();
+        return visible;
+    };
+    for (int view : { CameraCompareView, FileView, ImageCompareView, ImageView, CameraCompareView,
+                      ImageCompareView, CameraView }) {
+        host.services.useArea.infoBarVisible = !host.services.useArea.infoBarVisible;
+        host.SwitchTo(view);
+        QCOMPARE(closeButtons(), QList<bool>({ view == CameraCompareView, view == ImageCompareView }));
+        for (const ImageInfoUI *bar : host.window.findChildren<ImageInfoUI *>())
+            QCOMPARE(!bar->isHidden(), host.services.useArea.infoBarVisible);
     }
 }
 

@@ -10,6 +10,7 @@ QWidget *TestPanel::GetWidget()
     if (!m_widget) {
         m_widget = new QWidget; // reparented by the manager
         m_widget->setObjectName("panel" + QString::number(TEST_PANEL_ID));
+        m_widget->setProperty("plugin", QVariant::fromValue<QObject *>(this));
     }
     return m_widget;
 }

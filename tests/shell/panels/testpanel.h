@@ -6,8 +6,8 @@
 #include <QObject>
 #include <QPointer>
 
-/// A panel whose widget is named "panel<id>". Each update adds the id to the application's property
-/// "panelUpdates".
+/// A panel whose widget is named "panel<id>"; the widget's property "plugin" is the plug-in's root
+/// object. Each update adds the id to the application's property "panelUpdates".
 class TestPanel : public QObject, public UIPlugin
 {
     Q_OBJECT
