@@ -7,6 +7,13 @@
 #include "viewrules.h"
 #include "workspaceconfig.h"
 
+namespace {
+
+/// A mark in the picture has the mouse: an edge of a band, a measurement's handle.
+bool IsItemDragged(const QGraphicsScene *scene) { return scene && scene->mouseGrabberItem(); }
+
+} // namespace
+
 Workspace::Workspace(const Parts &parts, QObject *parent)
     : GlobalManager(parent)
     , m_parts(parts)
@@ -67,7 +74,8 @@ bool Workspace::IsMeasureEnabled() const
 
 bool Workspace::IsDrawViewCanMove() const
 {
-    return !MeasureManager::IsMeasuring();
+    return !MeasureManager::IsMeasuring() && !IsItemDragged(m_cameraScene) && !IsItemDragged(m_imageScene)
+           && !IsItemDragged(m_secondImageScene);
 }
 
 void Workspace::MousePressEvent(QMouseEvent *, const QPointF &) {}

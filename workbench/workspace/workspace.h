@@ -3,6 +3,9 @@
 
 #include "globalmanager.h"
 
+#include <QGraphicsScene>
+#include <QPointer>
+
 class WorkspaceConfig;
 
 /// What is being worked on: which view has the focus, and with it which report and image manager.
@@ -68,7 +71,8 @@ private:
     const Parts m_parts;
     ReportManager *m_report;
     ImageManager *m_activeImage;
-    QGraphicsScene *m_cameraScene = nullptr;
-    QGraphicsScene *m_imageScene = nullptr;
-    QGraphicsScene *m_secondImageScene = nullptr;
+    // They belong to the views, and go with them.
+    QPointer<QGraphicsScene> m_cameraScene;
+    QPointer<QGraphicsScene> m_imageScene;
+    QPointer<QGraphicsScene> m_secondImageScene;
 };
