@@ -55,8 +55,9 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);
     connect(services, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
     connect(m_drawingGuard, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
-    auto *leaveFullScreen = new QShortcut(QKeySequence(Qt::Key_Escape), this);
-    connect(leaveFullScreen, SIGNAL(activated()), this, SLOT(slotLeaveFullScreen()));
+    m_leaveFullScreen = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    m_leaveFullScreen->setEnabled(false);
+    connect(m_leaveFullScreen, SIGNAL(activated()), this, SLOT(slotLeaveFullScreen()));
 
     GlobalAttachObserver(this);
     RestoreLayout();
@@ -167,7 +168,7 @@ void MainWindow::slotShowMessage(QString text)
 void MainWindow::UpdateObserver(int id, void *)
 {
     if (id == NotifyFullScreen)
-        SetFullScreen(!isFullScreen());
+        SetFullScreen(!m_isFullScreen);
     else if (id == NotifyBlackBackground)
         SetBlackBackground(!m_isBlackBackground);
 }
@@ -180,8 +181,9 @@ void MainWindow::slotLeaveFullScreen()
 /// The panels fold away for the picture; their buttons stay, and they come back with the window.
 void MainWindow::SetFullScreen(bool full)
 {
-    if (full == isFullScreen())
+    if (full == m_isFullScreen)
         return;
+    m_isFullScreen = full;
     const WorkspaceConfig *config = m_services->Config();
     if (full) {
         m_panelsBeforeFullScreen.left = config->IsLeftUIChecked();
@@ -191,6 +193,8 @@ void MainWindow::SetFullScreen(bool full)
     } else {
         SetPanels(m_panelsBeforeFullScreen);
     }
+    // Outside of it the key belongs to whatever tool is at work over the picture.
+    m_leaveFullScreen->setEnabled(full);
     menuBar()->setVisible(!full);
     statusBar()->setVisible(!full);
     setWindowState(windowState().setFlag(Qt::WindowFullScreen, full));
@@ -212,6 +216,14 @@ void MainWindow::SetBlackBackground(bool black)
     m_settings->setValue(BlackBackgroundKey, black);
     QMetaObject::invokeMethod(m_centre, "slotSetBlackBackground", Q_ARG(bool, black));
     m_viewMenu->slotSetBlackBackgroundChecked(black);
+}
+
+/// The window manager has ways of its own to leave it.
+void MainWindow::changeEvent(QEvent *event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && !isFullScreen())
+        SetFullScreen(false);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

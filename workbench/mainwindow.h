@@ -8,6 +8,7 @@
 class DrawingGuard;
 class QDockWidget;
 class QSettings;
+class QShortcut;
 class QStackedWidget;
 class ShownFrames;
 class StatusLine;
@@ -33,6 +34,7 @@ public slots:
     void slotRestoreDefaultLayout();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private slots:
@@ -68,5 +70,7 @@ private:
     ShownFrames *m_shown = nullptr;
     StatusLine *m_statusLine = nullptr;
     PanelsShown m_panelsBeforeFullScreen;
+    QShortcut *m_leaveFullScreen = nullptr;
+    bool m_isFullScreen = false;
     bool m_isBlackBackground = false;
 };
