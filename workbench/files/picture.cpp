@@ -9,22 +9,23 @@ Picture::Picture(int width, int height, int channels, SampleType type)
     , m_channels(channels)
     , m_type(type)
 {
-    m_samples = std::make_shared<Buffer>(size_t(ByteCount()));
+    m_samples.reset(new uchar[size_t(ByteCount())]);
 }
 
 uchar *Picture::Data()
 {
-    if (!m_samples)
-        return nullptr;
-    if (m_samples.use_count() > 1)
-        m_samples = std::make_shared<Buffer>(*m_samples);
-    return m_samples->data();
+    if (m_samples.use_count() > 1) {
+        const std::shared_ptr<uchar[]> shared = m_samples;
+        m_samples.reset(new uchar[size_t(ByteCount())]);
+        std::memcpy(m_samples.get(), shared.get(), size_t(ByteCount()));
+    }
+    return m_samples.get();
 }
 
 void Picture::Reshape(int width, int height, int channels, SampleType type)
 {
     const qint64 bytes = qint64(width) * height * channels * BytesPerSample(type);
-    if (!m_samples || m_samples.use_count() > 1 || qint64(m_samples->size()) != bytes) {
+    if (!m_samples || m_samples.use_count() > 1 || ByteCount() != bytes) {
         m_samples.reset(); // the old frame goes before the new one is allocated
         *this = Picture(width, height, channels, type);
         return;

@@ -6,20 +6,6 @@
 #include <QSize>
 
 #include <memory>
-#include <vector>
-
-/// Leaves new bytes as they are: a frame is always written whole, so clearing it first is lost time.
-template <typename T>
-struct UninitialisedAllocator : std::allocator<T>
-{
-    template <typename U>
-    struct rebind { using other = UninitialisedAllocator<U>; };
-
-    template <typename U>
-    void construct(U *place) noexcept { ::new (static_cast<void *>(place)) U; }
-    template <typename U, typename... Args>
-    void construct(U *place, Args &&...args) { ::new (static_cast<void *>(place)) U(std::forward<Args>(args)...); }
-};
 
 /// The samples of one frame, as measured: one channel (mono) or three (red, green, blue, interleaved),
 /// rows packed without padding, the top row first. Implicitly shared: a copy is cheap, writing detaches.
@@ -41,7 +27,7 @@ public:
     qint64 BytesPerRow() const { return qint64(m_width) * BytesPerPixel(); }
     qint64 ByteCount() const { return BytesPerRow() * m_height; }
 
-    const uchar *Data() const { return m_samples ? m_samples->data() : nullptr; }
+    const uchar *Data() const { return m_samples.get(); }
     uchar *Data();
     const uchar *Row(int y) const { return Data() + y * BytesPerRow(); }
     uchar *Row(int y) { return Data() + y * BytesPerRow(); }
@@ -59,11 +45,10 @@ public:
     bool operator!=(const Picture &other) const { return !(*this == other); }
 
 private:
-    using Buffer = std::vector<uchar, UninitialisedAllocator<uchar>>;
-
     int m_width = 0;
     int m_height = 0;
     int m_channels = 1;
     SampleType m_type = SampleType::U8;
-    std::shared_ptr<Buffer> m_samples;
+    /// No vector: a frame is always written whole, and clearing it first is lost time.
+    std::shared_ptr<uchar[]> m_samples;
 };

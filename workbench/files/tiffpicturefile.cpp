@@ -138,24 +138,34 @@ void TiffPictureFile::FindContiguousFrames(const TiffPage &page)
 bool TiffPictureFile::Decode(int index, Picture &frame, FileFault &fault)
 {
     m_tiff.TakeMessages();
-    if (m_contiguousOffset != 0)
-        return DecodeContiguous(index, frame, fault);
+    if (m_contiguousOffset != 0) {
+        const PictureInfo &info = Info();
+        frame.Reshape(info.size.width(), info.size.height(), info.channels, info.sampleType);
+        if (ReadRun(m_contiguousOffset + quint64(index) * quint64(frame.ByteCount()), frame))
+            return true;
+        return fault.Set(Translate("frame %1 of %2 is not whole").arg(index + 1).arg(info.frames), DamagedAdvice());
+    }
     TiffPage page;
     if (!SelectPage(index, page, fault))
         return false;
-    if (DecodeTiffPage(m_tiff, page, frame, fault))
+    if (DecodePage(page, frame, fault))
         return true;
     fault.what = Translate("page %1 of %2: %3").arg(index + 1).arg(m_chain.pages.size()).arg(fault.what);
     return false;
 }
 
-bool TiffPictureFile::DecodeContiguous(int index, Picture &frame, FileFault &fault)
+bool TiffPictureFile::DecodePage(const TiffPage &page, Picture &frame, FileFault &fault)
 {
-    const PictureInfo &info = Info();
-    frame.Reshape(info.size.width(), info.size.height(), info.channels, info.sampleType);
-    const quint64 offset = m_contiguousOffset + quint64(index) * quint64(frame.ByteCount());
+    if (!IsPlain(m_tiff.Get(), page))
+        return DecodeTiffPage(m_tiff, page, frame, fault);
+    frame.Reshape(page.width, page.height, page.channels, page.type);
+    return ReadRun(TIFFGetStrileOffset(m_tiff.Get(), 0), frame) || fault.Set(Translate("its samples are not whole"), DamagedAdvice());
+}
+
+bool TiffPictureFile::ReadRun(quint64 offset, Picture &frame)
+{
     if (!ReadBytes(TIFFFileno(m_tiff.Get()), offset, frame.Data(), frame.ByteCount()))
-        return fault.Set(Translate("frame %1 of %2 is not whole").arg(index + 1).arg(info.frames), DamagedAdvice());
+        return false;
     if (TIFFIsByteSwapped(m_tiff.Get()))
         SwapSampleBytes(frame);
     return true;

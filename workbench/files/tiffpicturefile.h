@@ -26,7 +26,10 @@ private:
     bool SelectPage(int index, TiffPage &page, FileFault &fault);
     void FillInfo(const TiffPage &page);
     void FindContiguousFrames(const TiffPage &page);
-    bool DecodeContiguous(int index, Picture &frame, FileFault &fault);
+    /// The page that was selected.
+    bool DecodePage(const TiffPage &page, Picture &frame, FileFault &fault);
+    /// Samples that lie in the file as they are in a Picture, but for the byte order.
+    bool ReadRun(quint64 offset, Picture &frame);
 
     TiffHandle m_tiff;
     TiffChain m_chain;
