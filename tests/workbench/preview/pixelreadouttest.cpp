@@ -83,7 +83,7 @@ private:
     void ShowFrame(const CameraFrame &frame)
     {
         m_orientation = std::make_unique<LiveOrientation>();
-        m_preview = std::make_unique<LivePreview>(&m_source, m_orientation.get());
+        m_preview = std::make_unique<LivePreview>(&m_source, m_orientation.get(), &m_levels.live);
         m_readout = std::make_unique<PixelReadout>(m_preview.get(), m_orientation.get());
         m_preview->StartPreview();
         m_preview->OnFrame(frame);
@@ -91,6 +91,7 @@ private:
     }
 
     TestFrameSource m_source;
+    TestLevels m_levels;
     std::unique_ptr<LiveOrientation> m_orientation;
     std::unique_ptr<LivePreview> m_preview;
     std::unique_ptr<PixelReadout> m_readout;

@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "camerasession.h"
+#include "guardedtest.h"
+#include "levelsmodel.h"
+#include "livelevels.h"
+#include "pixelinfomanager.h"
+#include "runningworkbench.h"
+#include "testchartscene.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace {
+
+constexpr int SensorSize = 2048;
+constexpr int PatchSize = SensorSize / 8;
+/// Places in the darkest, a middle and the saturated patch of the chart.
+constexpr QPoint Dark(PatchSize / 2, PatchSize / 2);
+constexpr QPoint Middle(3 * PatchSize + PatchSize / 2, 4 * PatchSize + PatchSize / 3);
+constexpr QPoint Saturated(7 * PatchSize + PatchSize / 2, 7 * PatchSize + PatchSize / 3);
+
+int Sample(const QPoint &place, int bitDepth)
+{
+    return TestChartScene::ExpectedValue(place.x(), place.y(), SensorSize, SensorSize, bitDepth);
+}
+
+} // namespace
+
+/// A person sets how the live picture is shown; the values under the mouse stay those of the camera.
+class LevelsScenario : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        // The OpenGL driver starts threads with its first context and keeps them.
+        QOffscreenSurface surface;
+        surface.create();
+        QOpenGLContext context;
+        QVERIFY(context.create() && context.makeCurrent(&surface));
+    }
+
+    void init() override
+    {
+        StartGuard();
+        m_folder = std::make_unique<QTemporaryDir>();
+        Start();
+    }
+
+    void cleanup() override
+    {
+        End();
+        EndGuard();
+    }
+
+    void saturatedPixelsTurnRedAndStaySoAfterARestart_data()
+    {
+        QTest::addColumn<QString>("drawing");
+        QTest::addColumn<PixelLayout>("layout");
+        for (const char *drawing : {"CPU", "GPU (OpenGL)"}) {
+            QTest::addRow("%s, 8 bit", drawing) << QString(drawing) << PixelLayout::Mono8;
+            QTest::addRow("%s, 12 bit", drawing) << QString(drawing) << PixelLayout::Mono12;
+            QTest::addRow("%s, RGB", drawing) << QString(drawing) << PixelLayout::Rgb8;
+        }
+    }
+
+    void saturatedPixelsTurnRedAndStaySoAfterARestart()
+    {
+        QFETCH(QString, drawing);
+        QFETCH(PixelLayout, layout);
+        m_workbench->link.SetPixelLayout(layout);
+        m_workbench->Action(drawing)->trigger();
+        QTRY_COMPARE(m_workbench->OnScreen(Saturated), QColor(Qt::white));
+
+        m_workbench->Action("Mark Saturated Pixels")->trigger();
+        QTRY_COMPARE(m_workbench->OnScreen(Saturated), QColor(255, 0, 0));
+        QVERIFY(m_workbench->OnScreen(Middle) != QColor(255, 0, 0));
+
+        End();
+        Start();
+        QVERIFY(m_workbench->Action("Mark Saturated Pixels")->isChecked());
+        QVERIFY(m_workbench->Action(drawing)->isChecked());
+        QTRY_COMPARE(m_workbench->OnScreen(Saturated), QColor(255, 0, 0));
+        m_workbench->Action("Mark Saturated Pixels")->trigger();
+        QTRY_COMPARE(m_workbench->OnScreen(Saturated), QColor(Qt::white));
+    }
+
+    void manualLevelsChangeThePictureAndNotTheValue()
+    {
+        m_workbench->link.SetPixelLayout(PixelLayout::Mono12);
+        QVERIFY(m_workbench->WaitForNextPicture());
+        m_workbench->Action("Levels…")->trigger();
+        auto *mode = m_workbench->window.findChild<QComboBox *>("comboBoxLevelsMode");
+        auto *left = m_workbench->window.findChild<QSpinBox *>("spinBoxLevelsLeft");
+        auto *right = m_workbench->window.findChild<QSpinBox *>("spinBoxLevelsRight");
+        QTRY_COMPARE(right->maximum(), 4095);
+        QTRY_VERIFY(mode->isEnabled());
+        while (mode->currentText() != "Manual")
+            QTest::keyClick(mode, Qt::Key_Down);
+        left->setValue(1000);
+        right->setValue(3000);
+        QVERIFY(m_workbench->WaitForNextPicture());
+        mode->window()->close();
+
+        QTRY_COMPARE(m_workbench->OnScreen(Dark), QColor(Qt::black));
+        QTRY_COMPARE(m_workbench->OnScreen(Saturated), QColor(Qt::white));
+        const int grey = qRound(255.0 * (Sample(Middle, 12) - 1000) / 2000);
+        QTRY_COMPARE(m_workbench->OnScreen(Middle), QColor(grey, grey, grey));
+
+        PixelInfoManager *readout = PixelInfoManager::GetInstance();
+        QSignalSpy values(readout, SIGNAL(signalUpdatePixelInfo(QPointF, QString)));
+        readout->slotUpdateMousePosition(Middle);
+        QCOMPARE(values.at(0).at(1).toString(), QString::number(Sample(Middle, 12)));
+    }
+
+    void fullRangeShowsTheGreyOfTheSample()
+    {
+        m_workbench->link.SetPixelLayout(PixelLayout::Mono16);
+        m_workbench->services.Levels()->Model()->SetSetting(16, {LevelsMode::FullRange, 0, 65535, 1.0});
+        QVERIFY(m_workbench->WaitForNextPicture());
+        const int grey = qRound(255.0 * Sample(Middle, 16) / 65535);
+        QTRY_COMPARE(m_workbench->OnScreen(Middle), QColor(grey, grey, grey));
+    }
+
+private:
+    void Start()
+    {
+        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
+        QVERIFY(m_workbench->WaitForPicture());
+    }
+
+    void End()
+    {
+        m_workbench.reset();
+        QVERIFY(CameraSession::WaitForTeardown(5000));
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<RunningWorkbench> m_workbench;
+};
+
+GUARDED_TEST_MAIN(LevelsScenario)
+#include "tst_levels.moc"

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "camerasession.h"
+#include "guardedtest.h"
+#include "runningworkbench.h"
+#include "workspaceconfig.h"
+
+#include <QAction>
+#include <QOpenGLWidget>
+#include <QGraphicsView>
+#include <QTemporaryDir>
+
+#include <memory>
+
+/// The workbench on a display that offers no OpenGL at all.
+class NoOpenGL : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() override
+    {
+        StartGuard();
+        m_folder = std::make_unique<QTemporaryDir>();
+    }
+
+    void cleanup() override
+    {
+        m_workbench.reset();
+        QVERIFY(CameraSession::WaitForTeardown(5000));
+        EndGuard();
+    }
+
+    void choiceOfTheGpuIsTakenBackWithAWord()
+    {
+        Start();
+        ExpectOpenGLWarning();
+        m_workbench->Action("GPU (OpenGL)")->trigger();
+        QTRY_COMPARE(m_workbench->StatusText(), Sentence());
+        CheckThatTheCpuDraws();
+    }
+
+    void startWithTheGpuStoredGoesOnWithTheCpuForGood()
+    {
+        {
+            SettingsFile settings(m_folder->filePath("workbench.ini"));
+            WorkspaceConfig(settings.Settings()).SetCPUDraw(false, false);
+        }
+        ExpectOpenGLWarning();
+        Start();
+        QCOMPARE(m_workbench->StatusText(), Sentence());
+        CheckThatTheCpuDraws();
+
+        // Not a word at the next start.
+        m_workbench.reset();
+        QVERIFY(CameraSession::WaitForTeardown(5000));
+        Start();
+        QCOMPARE(m_workbench->StatusText(), QString());
+        CheckThatTheCpuDraws();
+    }
+
+private:
+    static QString Sentence()
+    {
+        return "OpenGL can't be started: the display offers none. The picture is drawn by the CPU.";
+    }
+
+    /// The platform says it too.
+    void ExpectOpenGLWarning() { ExpectWarning(QRegularExpression("Cannot create platform OpenGL context")); }
+
+    void Start()
+    {
+        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
+        QVERIFY(m_workbench->WaitForPicture());
+    }
+
+    void CheckThatTheCpuDraws()
+    {
+        QVERIFY(m_workbench->services.Config()->IsCPUDraw());
+        QVERIFY(m_workbench->Action("CPU")->isChecked());
+        QVERIFY(!m_workbench->Action("GPU (OpenGL)")->isChecked());
+        QVERIFY(!qobject_cast<QOpenGLWidget *>(m_workbench->View()->viewport()));
+        QVERIFY(m_workbench->WaitForNextPicture());
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<RunningWorkbench> m_workbench;
+};
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    QApplication application(argc, argv);
+    NoOpenGL test;
+    return GuardedTest::Run(&test, argc, argv);
+}
+
+#include "tst_noopengl.moc"
