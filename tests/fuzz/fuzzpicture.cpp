@@ -6,27 +6,29 @@
 #include <QString>
 
 #include <cstdlib>
-#include <fcntl.h>
-#include <string>
+#include <sys/mman.h>
 #include <unistd.h>
 
 namespace {
 
 constexpr int framesToRead = 3;
 
-/// A file in memory that every run fills anew.
-const std::string &InputPath()
+/// A file in memory that every run fills anew and that goes with the process.
+int InputFile()
 {
-    static const std::string path = "/dev/shm/fuzzpicture." + std::to_string(::getpid());
-    return path;
+    static const int fd = ::memfd_create("fuzzpicture", MFD_CLOEXEC);
+    return fd;
+}
+
+QString InputPath()
+{
+    return QString("/proc/self/fd/%1").arg(InputFile());
 }
 
 void WriteInput(const uint8_t *data, size_t size)
 {
-    const int fd = ::open(InputPath().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
-    if (fd < 0 || ::write(fd, data, size) != ssize_t(size))
+    if (::ftruncate(InputFile(), 0) != 0 || ::pwrite(InputFile(), data, size, 0) != ssize_t(size))
         std::abort();
-    ::close(fd);
 }
 
 void ReadFrame(PictureFile &file, int index)
@@ -48,7 +50,6 @@ void ReadFrame(PictureFile &file, int index)
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-    std::atexit([] { ::unlink(InputPath().c_str()); });
     return 0;
 }
 
@@ -59,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
     WriteInput(data, size);
     QString error;
-    const auto file = OpenPicture(QString::fromStdString(InputPath()), error);
+    const auto file = OpenPicture(InputPath(), error);
     if (!file) {
         if (error.isEmpty())
             std::abort();
