@@ -42,12 +42,26 @@ void DrawFrameBase::SetSliderPosition(QPointF pos)
 
 void DrawFrameBase::SetCPUDraw(bool cpuFlag)
 {
+    const QPoint picturePos = PicturePosition();
     const Qt::ScrollBarPolicy policy = cpuFlag ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
     setHorizontalScrollBarPolicy(policy);
     setVerticalScrollBarPolicy(policy);
     if (!cpuFlag)
         SetSliderPosition({ 0, 0 }); // from here on the view scrolls
     m_drawView->SetCPUDraw(cpuFlag);
+
+    if (cpuFlag) {
+        SetSliderPosition(picturePos);
+    } else {
+        m_drawView->slotHorizontalScrollBarValueChanged(picturePos.x());
+        m_drawView->slotVerticalScrollBarValueChanged(picturePos.y());
+    }
+}
+
+QPoint DrawFrameBase::PicturePosition() const
+{
+    return QPoint(horizontalScrollBar()->value() + m_drawView->horizontalScrollBar()->value(),
+                  verticalScrollBar()->value() + m_drawView->verticalScrollBar()->value());
 }
 
 DrawViewBase *DrawFrameBase::GetDrawView() const { return m_drawView; }

@@ -20,6 +20,7 @@ public:
     void MoveImage(QPointF delta);
     /// Scrolls to a position in screen pixels.
     void SetSliderPosition(QPointF pos);
+    /// The same part of the picture is shown after it.
     void SetCPUDraw(bool cpuFlag);
 
     DrawViewBase *GetDrawView() const;
@@ -37,6 +38,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// Of the picture in what the frame shows, by whichever bars; screen pixels.
+    QPoint PicturePosition() const;
     /// All of the view can be scrolled into what the frame shows of it.
     void UpdateScrollRanges();
 

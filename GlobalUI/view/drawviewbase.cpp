@@ -14,7 +14,9 @@
 #include "zoomladder.h"
 
 #include <QDebug>
+#include <QEvent>
 #include <QGraphicsScene>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 namespace {
@@ -43,6 +45,9 @@ DrawViewBase::DrawViewBase(QWidget *parent)
     connect(scene(), SIGNAL(sceneRectChanged(QRectF)), this, SLOT(slotSceneRectChanged(QRectF)));
     connect(m_cropFrame, SIGNAL(signalUpdateMousePosition(QPoint)), this,
             SLOT(slotUpdateMousePosition(QPoint)));
+    connect(horizontalScrollBar(), SIGNAL(valueChanged(int)), this, SLOT(slotOwnScrollBarMoved()));
+    connect(verticalScrollBar(), SIGNAL(valueChanged(int)), this, SLOT(slotOwnScrollBarMoved()));
+    m_cropFrame->installEventFilter(this);
 }
 
 DrawViewBase::~DrawViewBase()
@@ -95,17 +100,17 @@ bool DrawViewBase::IsGPUDraw() const { return m_gpuDrawItem != nullptr; }
 
 void DrawViewBase::slotPaintPreview(QImage image)
 {
-    const QBrush brush(QPixmap::fromImage(image, Qt::NoFormatConversion));
+    m_pictureBrush = QBrush(QPixmap::fromImage(image, Qt::NoFormatConversion));
     if (m_gpuDrawItem) {
         HandViewRectToItem();
         m_gpuDrawItem->UpdateView();
         if (m_setBrushPending) {
-            scene()->setBackgroundBrush(brush);
+            scene()->setBackgroundBrush(m_pictureBrush);
             m_setBrushPending = false;
             emit signalFinishSetBrush();
         }
     } else {
-        ShowInBackground(brush);
+        ShowInBackground(m_pictureBrush);
     }
 
     // The rectangle of a scene without a picture has the size of a picture of one pixel.
@@ -132,6 +137,7 @@ void DrawViewBase::UpdateViewportOpacity()
 void DrawViewBase::TakeNewSize()
 {
     if (m_gpuDrawItem) {
+        m_geometryPending = false; // the fit brings all up to date
         m_cropFrame->hide();
         CoverConfigManager::GetInstance()->ResetCover();
         ROIManager::GetInstance()->SetManualROIChecked(false);
@@ -153,6 +159,7 @@ void DrawViewBase::SetPictureRect()
 {
     if (m_imageSize.isEmpty())
         return;
+    const QScopedValueRollback<bool> placing(m_isPlacing, true);
     const QRectF pictureRect(QPointF(0, 0), m_imageSize);
     scene()->setSceneRect(pictureRect);
     setSceneRect(pictureRect);
@@ -238,13 +245,13 @@ void DrawViewBase::slotZoomFit() { ZoomFit(); }
 
 void DrawViewBase::slotScaleView(ReportManager *viewManager, int type)
 {
-    if (viewManager == m_viewManager)
+    if (m_viewManager && viewManager == m_viewManager)
         slotScale(type);
 }
 
 void DrawViewBase::slotSetScaleFactor(ReportManager *viewManager, double scaleFactor)
 {
-    if (viewManager == m_viewManager)
+    if (m_viewManager && viewManager == m_viewManager)
         slotSetScaleFactor(scaleFactor);
 }
 
@@ -256,15 +263,27 @@ void DrawViewBase::slotSetScaleFactor(double scaleFactor)
 
 void DrawViewBase::SetScale(double scale)
 {
+    const QScopedValueRollback<bool> placing(m_isPlacing, true);
     // Set anew rather than multiplied, so that the steps of the ladder stay exact.
     setTransform(QTransform::fromScale(scale, scale));
-    UpdateViewGeometry();
+    if (m_cropFrame->isVisible() && m_gpuDrawItem)
+        m_geometryPending = true; // until the crop frame goes
+    else
+        UpdateViewGeometry();
+}
+
+bool DrawViewBase::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_cropFrame && event->type() == QEvent::Hide && m_cropFrame->isHidden()
+        && m_geometryPending)
+        UpdateViewGeometry();
+    return QGraphicsView::eventFilter(watched, event);
 }
 
 void DrawViewBase::UpdateViewGeometry()
 {
-    if (m_cropFrame->isVisible() && m_gpuDrawItem)
-        return;
+    const QScopedValueRollback<bool> placing(m_isPlacing, true);
+    m_geometryPending = false;
 
     QSize viewSize = ZoomLadder::ScaledSize(m_imageSize, Scale());
     if (m_gpuDrawItem) {
@@ -285,5 +304,5 @@ void DrawViewBase::UpdateViewGeometry()
         emit signalScaleFactorChanged(Scale());
     }
     m_cropFrame->resize(size());
-    UpdateGPUViewRect(ScrollPosition());
+    PlaceOwnScrollBars();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QBrush>
 #include <QGraphicsView>
 #include <QOpenGLWidget>
 #include <QPointF>
@@ -101,6 +102,11 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private slots:
+    /// The view's own bars moved, by whatever means: a key, touch, a change of their range.
+    void slotOwnScrollBarMoved();
 
 private:
     void ConnectHost(QWidget *host);
@@ -109,7 +115,10 @@ private:
     QSize HostSize() const;
     double Scale() const;
     void SetScale(double scale);
+    /// Takes the view, the crop frame and all who show the scale to the present scale.
     void UpdateViewGeometry();
+    /// Nothing is scrolled by the view itself unless with GPU drawing.
+    void PlaceOwnScrollBars();
     /// Scrolls with GPU drawing; `scroll` in screen pixels.
     void UpdateGPUViewRect(const QPoint &scroll);
     QPoint ScrollPosition() const;
@@ -135,4 +144,7 @@ private:
     LxGPUDrawItem *m_gpuDrawItem = nullptr; ///< owned; its presence is what GPU drawing means
     QRectF m_gpuViewRect;
     bool m_setBrushPending = false;
+    QBrush m_pictureBrush;          ///< the picture last shown
+    bool m_isPlacing = false;       ///< the view moves its own bars
+    bool m_geometryPending = false; ///< the crop frame held the geometry while the scale changed
 };

@@ -9,6 +9,7 @@
 
 #include <QDebug>
 #include <QGraphicsScene>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <memory>
@@ -32,6 +33,7 @@ void DrawViewBase::UpdateGPUViewRect(const QPoint &scroll)
 {
     if (!m_gpuDrawItem)
         return;
+    const QScopedValueRollback<bool> placing(m_isPlacing, true);
     const QPoint bounded(qBound(0, scroll.x(), horizontalScrollBar()->maximum()),
                          qBound(0, scroll.y(), verticalScrollBar()->maximum()));
     // The viewport of a hidden view has not taken its size yet; this is the size it will have.
@@ -46,6 +48,23 @@ void DrawViewBase::UpdateGPUViewRect(const QPoint &scroll)
         m_gpuViewRect = viewRect;
         HandViewRectToItem();
     }
+}
+
+void DrawViewBase::slotOwnScrollBarMoved()
+{
+    if (!m_isPlacing)
+        PlaceOwnScrollBars();
+}
+
+void DrawViewBase::PlaceOwnScrollBars()
+{
+    if (m_gpuDrawItem) {
+        UpdateGPUViewRect(ScrollPosition());
+        return;
+    }
+    // A view cut to whole screen pixels could be scrolled by the fraction that is missing.
+    horizontalScrollBar()->setValue(0);
+    verticalScrollBar()->setValue(0);
 }
 
 void DrawViewBase::HandViewRectToItem()
@@ -68,10 +87,13 @@ void DrawViewBase::SetCPUDraw(bool cpuFlag)
     else
         m_glViewport->setParent(nullptr);
     m_glViewport = nullptr;
-    UpdateViewportOpacity();
+    ShowInBackground(m_pictureBrush);
 
-    if (!m_imageSize.isEmpty() && size() != ZoomLadder::ScaledSize(m_imageSize, Scale()))
+    const bool isCut = !m_imageSize.isEmpty() && size() != ZoomLadder::ScaledSize(m_imageSize, Scale());
+    if (isCut || m_geometryPending)
         UpdateViewGeometry(); // the frame scrolls the whole picture now
+    else
+        PlaceOwnScrollBars();
 }
 
 void DrawViewBase::SetGPUDrawView()
@@ -95,10 +117,9 @@ void DrawViewBase::SetGPUDrawView()
     } else {
         qWarning("DrawViewBase::SetGPUDrawView(): Failed to create LxGPUDrawItem");
     }
-    m_cropFrame->raise();
 
     if (m_gpuDrawItem && isLarger)
-        UpdateViewGeometry(); // shows the host's scroll bars
+        UpdateViewGeometry(); // shows the host's scroll bars, and the crop frame is as large as the view
 }
 
 void DrawViewBase::InstallGLViewport()
@@ -115,6 +136,7 @@ void DrawViewBase::InstallViewport(QWidget *widget, ViewportUpdateMode mode)
     setViewport(widget);
     viewport()->setMouseTracking(true); // a new viewport has not taken it from the view
     setViewportUpdateMode(mode);
+    m_cropFrame->raise(); // a new viewport is the topmost child
 }
 
 void DrawViewBase::RemoveGPUItem()

@@ -13,11 +13,11 @@
 
 namespace {
 
-/// The component along the axis in which the wheel was turned, in eighths of a degree.
+/// In eighths of a degree; a turn across counts when there is none up or down.
 int WheelDelta(const QWheelEvent *event)
 {
     const QPoint angle = event->angleDelta();
-    return qAbs(angle.x()) > qAbs(angle.y()) ? angle.x() : angle.y();
+    return angle.y() != 0 ? angle.y() : angle.x();
 }
 
 } // namespace
@@ -76,19 +76,25 @@ void DrawViewBase::DragPicture(const QPoint &viewPos)
     const QPointF parentPos = mapToParent(viewPos);
     const QPointF delta = parentPos - m_lastMousePos;
     m_lastMousePos = parentPos;
+    const QPoint origin = pos();
     emit signalMoveImage(delta);
     emit signalCompareMove(delta);
-    UpdateGPUViewRect(ScrollPosition() - QPoint(int(delta.x()), int(delta.y())));
+    // The frame can move the view by as much as the host's scroll bars take from it; the rest is ours.
+    const QPoint moved = pos() - origin;
+    UpdateGPUViewRect(ScrollPosition() - QPoint(int(delta.x()), int(delta.y())) + moved);
 }
 
 void DrawViewBase::wheelEvent(QWheelEvent *event)
 {
+    event->accept(); // the frame around the view must not scroll
+    const int delta = WheelDelta(event);
+    if (delta == 0)
+        return; // a gesture begins or ends, or the second event of a slanting turn
     const QPoint viewPos = event->position().toPoint();
     if (m_gpuDrawItem)
-        ZoomGPUByWheel(viewPos, WheelDelta(event));
+        ZoomGPUByWheel(viewPos, delta);
     else
-        ZoomCPUByWheel(viewPos, WheelDelta(event));
-    event->accept(); // the frame around the view must not scroll
+        ZoomCPUByWheel(viewPos, delta);
 }
 
 void DrawViewBase::ZoomGPUByWheel(const QPoint &viewPos, int delta)

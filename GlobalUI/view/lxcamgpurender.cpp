@@ -43,7 +43,8 @@ class CurrentContext
 {
 public:
     explicit CurrentContext(QOpenGLContext *context)
-        : m_previous(QOpenGLContext::currentContext())
+        : m_context(context)
+        , m_previous(QOpenGLContext::currentContext())
     {
         if (m_previous == context)
             return;
@@ -51,7 +52,7 @@ public:
         m_surface = std::make_unique<QOffscreenSurface>();
         m_surface->setFormat(context->format());
         m_surface->create();
-        context->makeCurrent(m_surface.get());
+        m_isCurrent = context->makeCurrent(m_surface.get());
     }
     ~CurrentContext()
     {
@@ -60,12 +61,16 @@ public:
         if (m_previous)
             m_previous->makeCurrent(m_previousSurface);
         else
-            QOpenGLContext::currentContext()->doneCurrent();
+            m_context->doneCurrent();
     }
     Q_DISABLE_COPY(CurrentContext)
 
+    bool IsCurrent() const { return m_isCurrent; }
+
 private:
+    QOpenGLContext *m_context;
     QOpenGLContext *m_previous;
+    bool m_isCurrent = true;
     QSurface *m_previousSurface = nullptr;
     std::unique_ptr<QOffscreenSurface> m_surface;
 };
@@ -273,12 +278,14 @@ void LxCamGPURender::ReleaseGL()
     if (!m_context)
         return;
     const CurrentContext current(m_context);
+    m_context.clear();
+    if (!current.IsCurrent())
+        return; // a lost context: what is left in it ends with it
     m_vbo.destroy();
     m_vao.destroy();
     if (m_texture.isCreated())
         m_texture.destroy();
     m_program.removeAllShaders();
-    m_context.clear();
 }
 
 bool LxCamGPURender::IsContextCurrent() const

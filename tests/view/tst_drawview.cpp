@@ -4,8 +4,28 @@
 #include "guardedtest.h"
 
 #include <QGraphicsScene>
+#include <QPaintEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
+
+namespace {
+
+/// Remembers which part of a widget was painted.
+class PaintRecorder : public QObject
+{
+public:
+    QRegion painted;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            painted += static_cast<QPaintEvent *>(event)->region();
+        return false;
+    }
+};
+
+} // namespace
 
 /// The draw view with CPU drawing: construction, frames, and whom it tells.
 class TestDrawView : public GuardedTest
@@ -26,6 +46,7 @@ private slots:
     void setBrushIsFinishedAtOnce();
     void updatesEnabledIsLogged_data();
     void updatesEnabledIsLogged();
+    void updatesEnabledRepaintsTheFrame();
     void cropFrameReportsTheMouse();
 };
 
@@ -221,6 +242,25 @@ void TestDrawView::updatesEnabledIsLogged()
     fixture.view->slotSetUpdatesEnabled(value);
     QCOMPARE(fixture.view->updatesEnabled(), value);
     QCOMPARE(DebugLines(), QStringList(line));
+}
+
+void TestDrawView::updatesEnabledRepaintsTheFrame()
+{
+    DrawViewFixture fixture;
+    QVERIFY(fixture.Show());
+    fixture.view->slotPaintPreview(GreyPicture({ 200, 100 }));
+    fixture.view->slotZoom1v1();
+    QWidget *window = fixture.frame->viewport();
+    window->setAutoFillBackground(false); // else it is left out when what is below it is painted
+    PaintRecorder recorder;
+    window->installEventFilter(&recorder);
+    QTRY_VERIFY(!recorder.painted.isEmpty());
+    QApplication::processEvents();
+    recorder.painted = QRegion();
+
+    // Beside the picture too.
+    fixture.view->slotSetUpdatesEnabled(false);
+    QTRY_VERIFY(recorder.painted.contains(QPoint(5, 5)));
 }
 
 void TestDrawView::cropFrameReportsTheMouse()

@@ -14,9 +14,51 @@ namespace {
 const char glViewportLine[] =
     "[drawviewbase.cpp:589 DrawViewBase::SetGPUDrawView] DrawViewBase::SetGPUDrawView()";
 
+/// A view whose viewport somebody gave a margin.
+class MarginView : public DrawViewBase
+{
+public:
+    MarginView()
+        : DrawViewBase(nullptr)
+    {
+        setViewportMargins(5, 6, 7, 8);
+    }
+
+    using QAbstractScrollArea::viewportMargins;
+};
+
+/// A viewport that switches its view to CPU drawing as soon as it is there.
+class LeavingViewport : public QWidget
+{
+public:
+    explicit LeavingViewport(DrawViewBase *view)
+        : m_view(view)
+        , m_replaced(view->viewport())
+    {
+    }
+
+    bool detached = false; ///< the viewport before this one was taken out of the view
+
+protected:
+    void showEvent(QShowEvent *) override
+    {
+        m_view->SetCPUDraw(true);
+        detached = m_replaced && !m_replaced->parentWidget();
+    }
+
+private:
+    DrawViewBase *m_view;
+    QPointer<QWidget> m_replaced;
+};
+
+bool IsCropFrameOnTop(const DrawViewBase *view)
+{
+    return view->childAt(view->rect().center()) == view->GetCropFrame();
+}
+
 } // namespace
 
-/// GPU drawing as the draw view manages it: change of mode, visible part, scroll bars, frames.
+/// The change between CPU and GPU drawing.
 class TestDrawViewModes : public GuardedTest
 {
     Q_OBJECT
@@ -28,15 +70,14 @@ private slots:
     void switchingWithoutASceneIsWarnedOf();
     void switchingBackAndForthLeavesNothingBehind();
     void zoomedPictureIsTakenIntoTheHostAndBack();
-    void sayingsOfAFrameOfANewSize();
-    void newSizeHidesTheCropFrame();
-    void frameGoesIntoTheBackgroundOnRequestOnly();
-    void zoomUpdatesTheVisiblePart();
-    void smallerPictureThanTheHostIsShownWhole();
-    void cropFrameHoldsTheGeometry();
-    void scrollBarValuesAreBounded_data();
-    void scrollBarValuesAreBounded();
-    void hiddenViewKnowsItsVisiblePart();
+    void shownPartIsKept();
+    void cropFrameStaysOnTop();
+    void cropFrameFollowsTheViewIntoTheHost();
+    void pausedPictureIsShownAfterGPUDrawing();
+    void scaleSetUnderTheCropFrameIsTakenAlong();
+    void marginsAreTakenAway();
+    void replacedViewportIsMadeAnew();
+    void replacedViewportIsDetached();
     void removedWithItsItem();
 };
 
@@ -125,157 +166,116 @@ void TestDrawViewModes::zoomedPictureIsTakenIntoTheHostAndBack()
     QVERIFY(!fixture.host.findChild<QScrollBar *>("horizontalScrollBar")->isVisible());
 }
 
-void TestDrawViewModes::sayingsOfAFrameOfANewSize()
+void TestDrawViewModes::shownPartIsKept()
 {
     DrawViewFixture fixture;
-    fixture.view->SetGPUDrawView();
-    fixture.LogSignals();
-    fixture.view->slotPaintPreview(GreyPicture({ 1000, 500 }));
-    QCOMPARE(CallLog::Calls(), (QStringList{
-                                   "CoverConfigManager::ResetCover()",
-                                   "ROIManager::SetManualROIChecked(false)",
-                                   "signalSetHorizontalScrollBarVisible(false)",
-                                   "signalSetVerticalScrollBarVisible(false)",
-                                   "signalUpdateHorizontalScrollBar()",
-                                   "signalUpdateVerticalScrollBar()",
-                                   "UIConfigManager::signalImageInfoChanged()",
-                                   "signalScaleFactorChanged(0.4)",
-                                   "signalUpdateHorizontalScrollBar()",
-                                   "signalUpdateVerticalScrollBar()",
-                                   "signalUpdateImageSize(1000x500)",
-                                   "MeasureManager::SetScaleFactor()",
-                                   "ReportManager::ClearAll()",
-                                   "signalImageSizeChanged()",
-                                   "MeasureConfigManager::signalUpdateScaleUI()",
-                               }));
-    QCOMPARE(fixture.view->size(), QSize(400, 200));
-    CallLog::Clear();
-    fixture.view->slotPaintPreview(GreyPicture({ 1000, 500 }, 1));
-    QCOMPARE(CallLog::Calls(), QStringList());
+    QVERIFY(fixture.Show());
+    fixture.view->slotPaintPreview(GreyPicture({ 4000, 3200 }));
+    fixture.view->slotSetScaleFactor(2.0);
+    fixture.frame->SetSliderPosition({ 3000, 2500 });
+    fixture.host.slotSetCPUDraw(false);
+    QCOMPARE(fixture.FrameScroll(), QPoint(0, 0));
+    QCOMPARE(fixture.ViewScroll(), QPoint(3000, 2500));
+    QCOMPARE(float(fixture.view->GetGPUViewRect().x()), 3000.0F / 8000);
+    QCOMPARE(float(fixture.view->GetGPUViewRect().y()), 2500.0F / 6400);
+    QCOMPARE(fixture.host.findChild<QScrollBar *>("verticalScrollBar")->value(), 2500);
+
+    fixture.view->slotHorizontalScrollBarValueChanged(3100);
+    fixture.host.slotSetCPUDraw(true);
+    QCOMPARE(fixture.FrameScroll(), QPoint(3100, 2500));
+    QCOMPARE(fixture.ViewScroll(), QPoint(0, 0));
 }
 
-void TestDrawViewModes::newSizeHidesTheCropFrame()
+void TestDrawViewModes::cropFrameStaysOnTop()
 {
-    for (bool cpuDraw : { true, false }) {
-        DrawViewFixture fixture;
+    DrawViewFixture fixture;
+    QVERIFY(fixture.Show());
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
+    fixture.view->GetCropFrame()->show();
+    for (bool cpuDraw : { false, true, false, true }) {
         fixture.host.slotSetCPUDraw(cpuDraw);
-        fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
-        fixture.view->GetCropFrame()->show();
-        fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
-        QVERIFY(fixture.view->GetCropFrame()->isVisibleTo(fixture.view));
-        fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
-        QCOMPARE(fixture.view->GetCropFrame()->isVisibleTo(fixture.view), cpuDraw);
+        QVERIFY(IsCropFrameOnTop(fixture.view));
     }
 }
 
-void TestDrawViewModes::frameGoesIntoTheBackgroundOnRequestOnly()
-{
-    DrawViewFixture fixture;
-    fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
-    QCOMPARE(fixture.view->scene()->backgroundBrush().style(), Qt::NoBrush);
-
-    QSignalSpy finished(fixture.view, SIGNAL(signalFinishSetBrush()));
-    fixture.view->slotSetBrush();
-    QCOMPARE(finished.count(), 0);
-    const QImage wanted = GreyPicture({ 800, 400 }, 1);
-    fixture.view->slotPaintPreview(wanted);
-    QCOMPARE(finished.count(), 1);
-    QCOMPARE(fixture.view->scene()->backgroundBrush().texture().toImage(), wanted);
-
-    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }, 2));
-    QCOMPARE(finished.count(), 1);
-    QCOMPARE(fixture.view->scene()->backgroundBrush().texture().toImage(), wanted);
-}
-
-void TestDrawViewModes::zoomUpdatesTheVisiblePart()
+void TestDrawViewModes::cropFrameFollowsTheViewIntoTheHost()
 {
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
-    QCOMPARE(fixture.view->GetGPUViewRect(), QRectF(0, 0, 1, 1));
+    fixture.view->slotPaintPreview(GreyPicture({ 2000, 1600 }));
     fixture.view->slotZoom1v1();
-    // The host's 400 x 300 pixels of 800 x 600; zooming keeps the middle but for a pixel or two.
-    QCOMPARE(fixture.view->size(), QSize(400, 300));
-    QVERIFY((fixture.ViewScroll() - QPoint(200, 150)).manhattanLength() <= 4);
-    fixture.view->slotHorizontalScrollBarValueChanged(200);
-    fixture.view->slotVerticalScrollBarValueChanged(150);
-    QCOMPARE(fixture.view->GetGPUViewRect(), QRectF(0.25, 0.25, 0.75, 0.75));
-
-    fixture.view->slotHorizontalScrollBarValueChanged(0);
-    QCOMPARE(fixture.view->GetGPUViewRect(), QRectF(0, 0.25, 0.5, 0.75));
-    fixture.view->slotVerticalScrollBarValueChanged(300);
-    QCOMPARE(fixture.view->GetGPUViewRect(), QRectF(0, 0.5, 0.5, 1));
-    QCOMPARE(fixture.ViewScroll(), QPoint(0, 300));
-    fixture.view->slotZoomFit();
-    QCOMPARE(fixture.view->GetGPUViewRect(), QRectF(0, 0, 1, 1));
-}
-
-void TestDrawViewModes::smallerPictureThanTheHostIsShownWhole()
-{
-    DrawViewFixture fixture;
-    fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({ 200, 100 }));
-    fixture.view->slotZoom1v1();
-    QCOMPARE(fixture.view->size(), QSize(200, 100));
-    QCOMPARE(fixture.view->GetGPUViewRect(), QRectF(0, 0, 1, 1));
-}
-
-void TestDrawViewModes::cropFrameHoldsTheGeometry()
-{
-    DrawViewFixture fixture;
-    QVERIFY(fixture.Show());
-    fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
     fixture.view->GetCropFrame()->show();
-    const QSize size = fixture.view->size();
-    fixture.LogSignals();
-    fixture.view->slotZoomIn();
-    QCOMPARE(fixture.Scale(), 1.0);
-    QCOMPARE(fixture.view->size(), size);
-    QCOMPARE(CallLog::Calls(), QStringList());
-    QCOMPARE(fixture.report.GetScaleFactor(), 0.5F);
+    QCOMPARE(fixture.view->GetCropFrame()->size(), QSize(2000, 1600));
+    fixture.host.slotSetCPUDraw(false);
+    QCOMPARE(fixture.view->size(), QSize(400, 300));
+    QCOMPARE(fixture.view->GetCropFrame()->size(), QSize(400, 300));
+    QVERIFY(fixture.host.findChild<QScrollBar *>("horizontalScrollBar")->isVisible());
+    QVERIFY(fixture.host.findChild<QScrollBar *>("verticalScrollBar")->isVisible());
 
-    fixture.view->GetCropFrame()->hide();
-    fixture.view->slotZoomIn();
-    QCOMPARE(CallLog::Count("signalScaleFactorChanged(2)"), 1);
+    fixture.host.slotSetCPUDraw(true);
+    QCOMPARE(fixture.view->GetCropFrame()->size(), QSize(2000, 1600));
 }
 
-void TestDrawViewModes::scrollBarValuesAreBounded_data()
+void TestDrawViewModes::pausedPictureIsShownAfterGPUDrawing()
 {
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("reached");
-    QTest::newRow("below the start") << -50 << 0;
-    QTest::newRow("within") << 123 << 123;
-    QTest::newRow("beyond the end") << 5000 << 400;
+    DrawViewFixture fixture;
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
+    fixture.host.slotSetCPUDraw(false);
+    const QImage last = GreyPicture({ 250, 200 }, 5);
+    fixture.view->slotPaintPreview(last);
+    fixture.view->slotZoom1v1();
+    fixture.host.slotSetCPUDraw(true);
+    QCOMPARE(fixture.view->scene()->backgroundBrush().texture().toImage(), last);
+    QCOMPARE(fixture.view->grab().toImage().convertToFormat(QImage::Format_RGB32),
+             last.convertToFormat(QImage::Format_RGB32));
 }
 
-void TestDrawViewModes::scrollBarValuesAreBounded()
+void TestDrawViewModes::scaleSetUnderTheCropFrameIsTakenAlong()
 {
-    QFETCH(int, value);
-    QFETCH(int, reached);
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
-    fixture.view->slotZoom1v1();
-    fixture.view->slotHorizontalScrollBarValueChanged(value);
-    QCOMPARE(fixture.ViewScroll().x(), reached);
-    QCOMPARE(float(fixture.view->GetGPUViewRect().x()), reached / 800.0F);
-}
-
-void TestDrawViewModes::hiddenViewKnowsItsVisiblePart()
-{
-    DrawViewFixture fixture;
     fixture.host.slotSetCPUDraw(false);
     fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
     fixture.view->slotZoom1v1();
-    const QRectF hidden = fixture.view->GetGPUViewRect();
+    fixture.view->GetCropFrame()->show();
+    fixture.view->slotZoomOut();
+    QCOMPARE(fixture.report.GetScaleFactor(), 1.0F);
+    // At 0.5 the picture is as large as the view already is.
+    fixture.host.slotSetCPUDraw(true);
+    QCOMPARE(fixture.view->size(), QSize(400, 300));
+    QCOMPARE(fixture.report.GetScaleFactor(), 0.5F);
+}
+
+void TestDrawViewModes::marginsAreTakenAway()
+{
+    FakeServices services;
+    MarginView view;
+    view.SetGPUDrawView();
+    QCOMPARE(view.viewportMargins(), QMargins());
+}
+
+void TestDrawViewModes::replacedViewportIsMadeAnew()
+{
+    DrawViewFixture fixture;
+    fixture.view->SetGPUDrawView();
+    fixture.view->setViewport(new QWidget);
+    fixture.view->SetCPUDraw(true);
+    QVERIFY(!fixture.view->IsGPUDraw());
+    fixture.view->SetGPUDrawView();
+    QVERIFY(qobject_cast<QOpenGLWidget *>(fixture.view->viewport()));
+    QCOMPARE(DebugLines().count(glViewportLine), 2);
+}
+
+void TestDrawViewModes::replacedViewportIsDetached()
+{
+    DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->slotZoomFit();
-    fixture.view->slotZoom1v1();
-    QCOMPARE(fixture.view->GetGPUViewRect(), hidden);
+    fixture.view->SetGPUDrawView();
+    auto *viewport = new LeavingViewport(fixture.view);
+    fixture.view->setViewport(viewport);
+    QVERIFY(viewport->detached);
+    QVERIFY(!fixture.view->IsGPUDraw());
+    QCOMPARE(fixture.view->viewport(), static_cast<QWidget *>(viewport));
 }
 
 void TestDrawViewModes::removedWithItsItem()

@@ -2,16 +2,52 @@
 #include "drawviewfixture.h"
 #include "guardedtest.h"
 
+#include <QGraphicsRectItem>
 #include <QGraphicsScene>
+#include <QGraphicsSceneMouseEvent>
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QSignalSpy>
 
-/// Panning, wheel zoom and position reports of the draw view and its frame.
+namespace {
+
+/// A mark that remembers which mouse events the scene brought it.
+class RecordingMark : public QGraphicsRectItem
+{
+public:
+    using QGraphicsRectItem::QGraphicsRectItem;
+
+    QVector<QEvent::Type> events;
+
+protected:
+    bool sceneEvent(QEvent *event) override
+    {
+        events << event->type();
+        event->accept();
+        return true;
+    }
+};
+
+struct SentMouseEvent
+{
+    QEvent::Type type;
+    QPoint viewPos;
+
+    bool operator==(const SentMouseEvent &other) const
+    {
+        return type == other.type && viewPos == other.viewPos;
+    }
+};
+
+} // namespace
+
+/// Panning and position reports of the draw view and its frame.
 class TestDrawViewMouse : public GuardedTest
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { StartOpenGLDriver(); }
     void sayingsOfAMove();
     void moveWhileMeasuringLeavesTheScaleFactorAlone();
     void positionIsRounded();
@@ -20,15 +56,10 @@ private slots:
     void dragPansThePicture();
     void dragStopsWhenAnotherToolTakesTheMouse();
     void releaseAndDoubleClickAreSaid();
+    void mouseEventsAreHandedOn();
+    void marksGetTheMouseEvents();
     void dragPansWithGPUDrawing();
-    void wheelZoomsAndNeverScrolls_data();
-    void wheelZoomsAndNeverScrolls();
-    void wheelKeepsThePointUnderTheMouse_data();
-    void wheelKeepsThePointUnderTheMouse();
-    void wheelKeepsThePointUnderTheMouseWithGPUDrawing_data();
-    void wheelKeepsThePointUnderTheMouseWithGPUDrawing();
-    void sayingsOfTheWheel();
-    void sayingsOfTheWheelWithGPUDrawing();
+    void pictureStaysUnderADragBesideTheHostsBars();
     void verticalSliderGoesFurther_data();
     void verticalSliderGoesFurther();
     void framePositionsAreCut();
@@ -154,6 +185,42 @@ void TestDrawViewMouse::releaseAndDoubleClickAreSaid()
     QCOMPARE(CallLog::Calls(), (QStringList{ "signalMouseReleaseEvent()", "signalMouseDoubleClickEvent()" }));
 }
 
+void TestDrawViewMouse::mouseEventsAreHandedOn()
+{
+    DrawViewFixture fixture;
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
+    QVector<SentMouseEvent> seen;
+    const auto record = [&](QMouseEvent *event) { seen << SentMouseEvent{ event->type(), event->pos() }; };
+    connect(fixture.view, &DrawViewBase::signalMousePressEvent, record);
+    connect(fixture.view, &DrawViewBase::signalMouseMoveEvent, record);
+    connect(fixture.view, &DrawViewBase::signalMouseReleaseEvent, record);
+    connect(fixture.view, &DrawViewBase::signalMouseDoubleClickEvent, record);
+    const QVector<SentMouseEvent> sent{ { QEvent::MouseButtonPress, { 11, 12 } },
+                                        { QEvent::MouseMove, { 13, 14 } },
+                                        { QEvent::MouseButtonRelease, { 15, 16 } },
+                                        { QEvent::MouseButtonDblClick, { 17, 18 } } };
+    for (const SentMouseEvent &event : sent)
+        fixture.SendMouse(event.type, event.viewPos, Qt::LeftButton);
+    QVERIFY(seen == sent);
+}
+
+void TestDrawViewMouse::marksGetTheMouseEvents()
+{
+    DrawViewFixture fixture;
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
+    RecordingMark mark(QRectF(100, 100, 50, 50));
+    fixture.view->scene()->addItem(&mark);
+    // At 0.5, so that view (60, 60) is picture (120, 120).
+    fixture.SendMouse(QEvent::MouseButtonPress, { 60, 60 }, Qt::LeftButton);
+    fixture.SendMouse(QEvent::MouseMove, { 62, 63 }, Qt::LeftButton);
+    fixture.SendMouse(QEvent::MouseButtonRelease, { 62, 63 });
+    fixture.SendMouse(QEvent::MouseButtonDblClick, { 62, 63 }, Qt::LeftButton);
+    for (QEvent::Type type : { QEvent::GraphicsSceneMousePress, QEvent::GraphicsSceneMouseMove,
+                               QEvent::GraphicsSceneMouseRelease, QEvent::GraphicsSceneMouseDoubleClick })
+        QVERIFY2(mark.events.contains(type), qPrintable(QString::number(type)));
+    fixture.view->scene()->removeItem(&mark);
+}
+
 void TestDrawViewMouse::dragPansWithGPUDrawing()
 {
     DrawViewFixture fixture;
@@ -170,134 +237,32 @@ void TestDrawViewMouse::dragPansWithGPUDrawing()
     QCOMPARE(float(viewRect.y()), 380.0F / 1600);
 }
 
-void TestDrawViewMouse::wheelZoomsAndNeverScrolls_data()
+void TestDrawViewMouse::pictureStaysUnderADragBesideTheHostsBars()
 {
-    QTest::addColumn<QPoint>("angleDelta");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<double>("scale");
-    QTest::addColumn<int>("delta");
-    QTest::newRow("forward") << QPoint(0, 120) << int(Qt::NoModifier) << 2.0 << 120;
-    QTest::newRow("backward") << QPoint(0, -120) << int(Qt::NoModifier) << 0.5 << -120;
-    QTest::newRow("with Ctrl") << QPoint(0, 120) << int(Qt::ControlModifier) << 2.0 << 120;
-    QTest::newRow("with Alt, turned sideways") << QPoint(120, 0) << int(Qt::AltModifier) << 2.0 << 120;
-    QTest::newRow("the larger component counts") << QPoint(-240, 120) << int(Qt::NoModifier) << 0.5 << -240;
-    QTest::newRow("finest step forward") << QPoint(0, 1) << int(Qt::NoModifier) << 2.0 << 1;
-    QTest::newRow("no step is backward") << QPoint(0, 0) << int(Qt::NoModifier) << 0.5 << 0;
-}
-
-void TestDrawViewMouse::wheelZoomsAndNeverScrolls()
-{
-    QFETCH(QPoint, angleDelta);
-    QFETCH(int, modifiers);
-    QFETCH(double, scale);
-    QFETCH(int, delta);
-    for (bool cpuDraw : { true, false }) {
-        DrawViewFixture fixture;
-        fixture.host.slotSetCPUDraw(cpuDraw);
-        fixture.view->slotPaintPreview(GreyPicture({ 2000, 1600 }));
-        fixture.view->slotZoom1v1();
-        QSignalSpy compare(fixture.view, SIGNAL(signalCompareScale(int, QPointF)));
-        fixture.SendWheel({ 10, 10 }, angleDelta, Qt::KeyboardModifiers(modifiers));
-        QCOMPARE(fixture.Scale(), scale);
-        QCOMPARE(compare.count(), 1);
-        QCOMPARE(compare.first().first().toInt(), delta);
-    }
-}
-
-void TestDrawViewMouse::wheelKeepsThePointUnderTheMouse_data()
-{
-    QTest::addColumn<int>("angle");
-    QTest::addColumn<int>("bias"); // screen pixels, in the direction of travel
-    QTest::newRow("in: further down") << 120 << 60;
-    QTest::newRow("out: further up") << -120 << -60;
-}
-
-void TestDrawViewMouse::wheelKeepsThePointUnderTheMouse()
-{
-    QFETCH(int, angle);
-    QFETCH(int, bias);
     DrawViewFixture fixture;
     QVERIFY(fixture.Show());
-    fixture.view->slotPaintPreview(GreyPicture({ 4000, 3200 }));
-    fixture.view->slotSetScaleFactor(2.0);
-    fixture.frame->SetSliderPosition({ 3000, 2500 });
-    const QPoint mouse(123, 77); // in the frame
-    const QPoint viewPos = fixture.view->mapFrom(fixture.frame->viewport(), mouse);
-    const QPointF before = fixture.view->mapToScene(viewPos);
-    fixture.SendWheel(viewPos, { 0, angle });
+    fixture.host.slotSetCPUDraw(false);
+    fixture.view->slotPaintPreview(GreyPicture({ 2000, 1600 }));
+    fixture.view->slotZoom1v1();
+    fixture.view->slotHorizontalScrollBarValueChanged(500);
+    fixture.view->slotVerticalScrollBarValueChanged(400);
+    // The host's bars take room from the frame, which can then be scrolled by as much.
+    const QWidget *window = fixture.frame->viewport();
+    QTRY_VERIFY(fixture.frame->horizontalScrollBar()->maximum() > 0
+                && fixture.frame->verticalScrollBar()->maximum() > 0);
+    const auto shownAt = [&](const QPoint &framePos) {
+        return fixture.view->mapToScene(fixture.view->mapFrom(window, framePos));
+    };
 
-    const QPointF after = fixture.view->mapToScene(fixture.view->mapFrom(fixture.frame->viewport(), mouse));
-    // A screen pixel is 1 / scale picture pixels; the vertical position goes 60 screen pixels further.
-    QVERIFY2(qAbs(after.x() - before.x()) * fixture.Scale() <= 1.0,
-             qPrintable(QString::number(after.x() - before.x())));
-    QVERIFY2(qAbs((after.y() - before.y()) * fixture.Scale() - bias) <= 1.0,
-             qPrintable(QString::number(after.y() - before.y())));
-}
-
-void TestDrawViewMouse::wheelKeepsThePointUnderTheMouseWithGPUDrawing_data()
-{
-    QTest::addColumn<int>("angle");
-    QTest::newRow("in") << 120;
-    QTest::newRow("out") << -120;
-}
-
-void TestDrawViewMouse::wheelKeepsThePointUnderTheMouseWithGPUDrawing()
-{
-    QFETCH(int, angle);
-    DrawViewFixture fixture;
-    fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({ 4000, 3200 }));
-    fixture.view->slotSetScaleFactor(2.0);
-    fixture.view->slotHorizontalScrollBarValueChanged(3000);
-    fixture.view->slotVerticalScrollBarValueChanged(2500);
-    const QPoint mouse(123, 77);
-    const QPointF before = fixture.view->mapToScene(mouse);
-    fixture.SendWheel(mouse, { 0, angle });
-    const QPointF after = fixture.view->mapToScene(mouse);
-    QVERIFY2(qAbs(after.x() - before.x()) * fixture.Scale() <= 1.0,
-             qPrintable(QString::number(after.x() - before.x())));
-    QVERIFY2(qAbs(after.y() - before.y()) * fixture.Scale() <= 1.0,
-             qPrintable(QString::number(after.y() - before.y())));
-    // What the GPU draws is what the view shows.
-    const QRectF viewRect = fixture.view->GetGPUViewRect();
-    const QPointF corner = fixture.view->mapToScene(QPoint(0, 0));
-    QVERIFY(qAbs(viewRect.x() * 4000 - corner.x()) < 0.01);
-    QVERIFY(qAbs(viewRect.y() * 3200 - corner.y()) < 0.01);
-}
-
-void TestDrawViewMouse::sayingsOfTheWheel()
-{
-    DrawViewFixture fixture;
-    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
-    fixture.LogSignals();
-    // At 0.5 the mouse is at 0.25 of the width and 0.5 of the height; the view lies at the frame's (1, 51).
-    fixture.SendWheel({ 100, 100 }, { 0, 120 });
-    const QPoint origin = fixture.view->pos();
-    const QPointF slider(800 * 0.25 - (100 + origin.x()), 400 * 0.5 - (100 + origin.y()));
-    QCOMPARE(CallLog::Calls(), (QStringList{
-                                   "UIConfigManager::signalImageInfoChanged()",
-                                   "signalScaleFactorChanged(1)",
-                                   "signalSetSliderPosition(" + Text(slider) + ")",
-                                   "signalCompareScale(120, " + Text(slider) + ")",
-                               }));
-}
-
-void TestDrawViewMouse::sayingsOfTheWheelWithGPUDrawing()
-{
-    DrawViewFixture fixture;
-    fixture.view->SetGPUDrawView();
-    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
-    fixture.LogSignals();
-    fixture.SendWheel({ 100, 100 }, { 0, 120 });
-    // At 1.0 picture (200, 200) stays under the mouse, at a quarter of the old width 400 and half of
-    // the old height 200; the new viewport is 400 x 300.
-    const QStringList updates{ "signalUpdateHorizontalScrollBar()", "signalUpdateVerticalScrollBar()" };
-    QCOMPARE(CallLog::Calls().mid(0, 2), (QStringList{ "signalSetHorizontalScrollBarVisible(true)",
-                                                       "signalSetVerticalScrollBarVisible(true)" }));
-    QCOMPARE(CallLog::Calls().last(), QString("signalCompareScale(120, (100, 50))"));
-    QCOMPARE(CallLog::Count("signalScaleFactorChanged(1)"), 1);
-    QCOMPARE(CallLog::Count("signalSetSliderPosition((100, 50))"), 0);
-    QCOMPARE(CallLog::Calls().mid(CallLog::Calls().size() - 3, 2), updates);
+    QPoint mouse(200, 150);
+    const QPointF grabbed = shownAt(mouse);
+    QCOMPARE(grabbed, QPointF(700, 550));
+    fixture.SendMouse(QEvent::MouseButtonPress, fixture.view->mapFrom(window, mouse), Qt::LeftButton);
+    for (const QPoint &step : { QPoint(-10, -7), QPoint(-30, -40), QPoint(5, 3), QPoint(60, 60) }) {
+        mouse += step;
+        fixture.SendMouse(QEvent::MouseMove, fixture.view->mapFrom(window, mouse), Qt::LeftButton);
+        QCOMPARE(shownAt(mouse), grabbed);
+    }
 }
 
 void TestDrawViewMouse::verticalSliderGoesFurther_data()

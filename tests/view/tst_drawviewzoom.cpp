@@ -10,6 +10,7 @@ class TestDrawViewZoom : public GuardedTest
     Q_OBJECT
 
 private slots:
+    void initTestCase() { StartOpenGLDriver(); }
     void zoomWithoutAPictureDoesNothing();
     void zoomCommands_data();
     void zoomCommands();
@@ -18,7 +19,11 @@ private slots:
     void zoomByDelta_data();
     void zoomByDelta();
     void scaleIsReported();
+    void smallPictureOneToOne();
     void othersManagersAreNotObeyed();
+    void viewWithoutAManagerObeysNobody();
+    void fractionalScaleShowsTheFirstPixel_data();
+    void fractionalScaleShowsTheFirstPixel();
     void largestPictureAtTheHighestZoom();
 };
 
@@ -136,6 +141,58 @@ void TestDrawViewZoom::scaleIsReported()
                                    "UIConfigManager::signalImageInfoChanged()",
                                    "signalScaleFactorChanged(0.32)",
                                }));
+}
+
+void TestDrawViewZoom::smallPictureOneToOne()
+{
+    DrawViewFixture fixture;
+    fixture.view->slotPaintPreview(GreyPicture({ 100, 50 }));
+    // Its smallest scale is 256 / 100; one to one is the whole number below it.
+    fixture.view->slotZoom1v1();
+    QCOMPARE(fixture.Scale(), 2.0);
+    QCOMPARE(fixture.view->size(), QSize(200, 100));
+    fixture.view->slotSetScaleFactor(1.0);
+    QCOMPARE(fixture.Scale(), 2.56);
+    fixture.view->slotScale(2);
+    QCOMPARE(fixture.Scale(), 2.0);
+    QCOMPARE(fixture.view->size(), QSize(200, 100));
+}
+
+void TestDrawViewZoom::viewWithoutAManagerObeysNobody()
+{
+    DrawViewFixture fixture;
+    fixture.view->SetViewManager(nullptr);
+    fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }));
+    fixture.view->slotScaleView(nullptr, 0);
+    fixture.view->slotSetScaleFactor(nullptr, 4.0);
+    QCOMPARE(fixture.Scale(), 0.5);
+}
+
+void TestDrawViewZoom::fractionalScaleShowsTheFirstPixel_data()
+{
+    QTest::addColumn<double>("scale");
+    QTest::newRow("0.55") << 0.55;
+    QTest::newRow("0.77") << 0.77;
+    QTest::newRow("1.3") << 1.3;
+    QTest::newRow("smallest") << 0.0;
+}
+
+void TestDrawViewZoom::fractionalScaleShowsTheFirstPixel()
+{
+    QFETCH(double, scale);
+    DrawViewFixture fixture;
+    QVERIFY(fixture.Show());
+    fixture.view->slotPaintPreview(GreyPicture({ 1003, 701 }));
+    fixture.view->slotSetScaleFactor(scale);
+    QCOMPARE(fixture.view->mapToScene(QPoint(0, 0)), QPointF(0, 0));
+    // Nor does a key push it out.
+    QTest::keyClick(fixture.view, Qt::Key_Right);
+    QTest::keyClick(fixture.view, Qt::Key_Down);
+    QCOMPARE(fixture.view->mapToScene(QPoint(0, 0)), QPointF(0, 0));
+    // And GPU drawing leaves nothing of it behind.
+    fixture.host.slotSetCPUDraw(false);
+    fixture.host.slotSetCPUDraw(true);
+    QCOMPARE(fixture.view->mapToScene(QPoint(0, 0)), QPointF(0, 0));
 }
 
 void TestDrawViewZoom::othersManagersAreNotObeyed()

@@ -15,9 +15,15 @@ class BrushReceiver : public QObject
 
 public:
     int finished = 0;
+    bool asksAgain = false;
 
 public slots:
-    void slotFinishSetBrush() { ++finished; }
+    void slotFinishSetBrush()
+    {
+        ++finished;
+        if (asksAgain)
+            emit signalSetBrush();
+    }
 
 signals:
     void signalSetBrush();
@@ -39,6 +45,7 @@ private slots:
     void modeIsHandedDown();
     void moveImageMovesFrameAndBars();
     void brushConversation();
+    void brushCanBeAskedForAgainAtOnce();
     void barsFollowZoomWithGPUDrawing();
 };
 
@@ -192,18 +199,39 @@ void TestGPUDrawFrame::brushConversation()
     QCOMPARE(receiver.finished, 2);
 }
 
+void TestGPUDrawFrame::brushCanBeAskedForAgainAtOnce()
+{
+    DrawViewFixture fixture;
+    BrushReceiver receiver;
+    fixture.host.ConnectSetBrush(&receiver);
+    fixture.host.slotSetCPUDraw(false);
+    receiver.asksAgain = true;
+    emit receiver.signalSetBrush();
+    for (int frames = 1; frames <= 3; ++frames) {
+        fixture.view->slotPaintPreview(GreyPicture({ 800, 400 }, frames));
+        QCOMPARE(receiver.finished, frames);
+    }
+}
+
 void TestGPUDrawFrame::barsFollowZoomWithGPUDrawing()
 {
     DrawViewFixture fixture;
     fixture.host.slotSetCPUDraw(false);
     fixture.view->slotPaintPreview(GreyPicture({ 800, 600 }));
     const auto *horizontal = fixture.host.findChild<QScrollBar *>("horizontalScrollBar");
+    const auto *vertical = fixture.host.findChild<QScrollBar *>("verticalScrollBar");
     QVERIFY(!horizontal->isVisibleTo(&fixture.host));
+    QVERIFY(!vertical->isVisibleTo(&fixture.host));
     fixture.view->slotSetScaleFactor(2.0);
     QVERIFY(horizontal->isVisibleTo(&fixture.host));
     QCOMPARE(horizontal->maximum(), 1600 - 400);
     QCOMPARE(horizontal->pageStep(), 400);
     QCOMPARE(horizontal->value(), fixture.ViewScroll().x());
+    QVERIFY(vertical->isVisibleTo(&fixture.host));
+    QCOMPARE(vertical->maximum(), 1200 - 300);
+    QCOMPARE(vertical->pageStep(), 300);
+    fixture.view->slotVerticalScrollBarValueChanged(123);
+    QCOMPARE(vertical->value(), 123);
     fixture.view->slotZoomFit();
     QVERIFY(!horizontal->isVisibleTo(&fixture.host));
     QCOMPARE(fixture.ViewScroll(), QPoint(0, 0));

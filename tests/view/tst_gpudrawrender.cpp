@@ -2,73 +2,16 @@
 #include "drawviewfixture.h"
 #include "guardedtest.h"
 #include "lxcamgpurender.h"
+#include "offscreengl.h"
 #include "rawcameraframe.h"
-
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
-#include <QOpenGLFramebufferObject>
-#include <QtGui/qopengl.h>
 
 namespace {
 
-using GetTexLevelParameter = void(QOPENGLF_APIENTRYP)(GLenum, GLint, GLenum, GLint *);
 constexpr GLenum textureWidth = 0x1000;
 constexpr GLenum textureInternalFormat = 0x1003;
 constexpr GLenum invalidEnum = 0x0500;
 
 const QRectF wholePicture(0, 0, 1, 1);
-
-/// An OpenGL context of its own that draws into a buffer of 8 x 4 pixels.
-class OffscreenGL
-{
-public:
-    OffscreenGL()
-    {
-        m_surface.create();
-        isValid = m_context.create() && m_context.makeCurrent(&m_surface);
-        if (isValid) {
-            m_buffer = std::make_unique<QOpenGLFramebufferObject>(8, 4, QOpenGLFramebufferObject::Depth);
-            m_buffer->bind();
-            gl()->glViewport(0, 0, 8, 4);
-        }
-    }
-    ~OffscreenGL()
-    {
-        m_buffer.reset();
-        m_context.doneCurrent();
-    }
-
-    QOpenGLFunctions *gl() { return m_context.functions(); }
-    QImage Picture() { return m_buffer->toImage().convertToFormat(QImage::Format_RGB888); }
-
-    /// The only texture beside the buffer's own that lives in this context, left bound.
-    GLuint BindFrameTexture()
-    {
-        for (GLuint id = 1; id < 100; ++id) {
-            if (id != m_buffer->texture() && gl()->glIsTexture(id)) {
-                gl()->glBindTexture(GL_TEXTURE_2D, id);
-                return id;
-            }
-        }
-        return 0;
-    }
-    GLint BoundTexture(GLenum parameter)
-    {
-        const auto get =
-            reinterpret_cast<GetTexLevelParameter>(m_context.getProcAddress("glGetTexLevelParameteriv"));
-        GLint value = 0;
-        get(GL_TEXTURE_2D, 0, parameter, &value);
-        return value;
-    }
-    void LeaveErrorPending() { gl()->glEnable(0xffff); }
-
-    bool isValid = false;
-
-private:
-    QOffscreenSurface m_surface;
-    QOpenGLContext m_context;
-    std::unique_ptr<QOpenGLFramebufferObject> m_buffer;
-};
 
 const QStringList initLines{
     "addShaderFromSourceCode Vertex success",
@@ -110,7 +53,7 @@ private slots:
 void TestGPUDrawRender::initialisationIsLogged()
 {
     OffscreenGL offscreen;
-    QVERIFY(offscreen.isValid);
+    QVERIFY(offscreen.IsValid());
     {
         LxCamGPURender render;
         QVERIFY(!render.IsContextCurrent());
@@ -140,7 +83,7 @@ void TestGPUDrawRender::resizeIsLoggedOnce()
 void TestGPUDrawRender::drawsTheVisiblePart()
 {
     OffscreenGL offscreen;
-    QVERIFY(offscreen.isValid);
+    QVERIFY(offscreen.IsValid());
     LxCamGPURender render;
     render.InitializeGL();
     const QImage picture = GreyPicture({ 16, 8 });
@@ -160,7 +103,7 @@ void TestGPUDrawRender::drawsTheVisiblePart()
 void TestGPUDrawRender::missingFrameIsLogged()
 {
     OffscreenGL offscreen;
-    QVERIFY(offscreen.isValid);
+    QVERIFY(offscreen.IsValid());
     LxCamGPURender render;
     render.InitializeGL();
     const int lines = DebugLines().size();
@@ -172,7 +115,7 @@ void TestGPUDrawRender::missingFrameIsLogged()
 void TestGPUDrawRender::colourAfterGreyAllocatesAnew()
 {
     OffscreenGL offscreen;
-    QVERIFY(offscreen.isValid);
+    QVERIFY(offscreen.IsValid());
     LxCamGPURender render;
     render.InitializeGL();
     render.ResizeGL(8, 4, wholePicture);
@@ -194,7 +137,7 @@ void TestGPUDrawRender::colourAfterGreyAllocatesAnew()
 void TestGPUDrawRender::sameSizeReplacesTheContentsOnly()
 {
     OffscreenGL offscreen;
-    QVERIFY(offscreen.isValid);
+    QVERIFY(offscreen.IsValid());
     LxCamGPURender render;
     render.InitializeGL();
     render.ResizeGL(8, 4, wholePicture);
@@ -211,7 +154,7 @@ void TestGPUDrawRender::sameSizeReplacesTheContentsOnly()
 void TestGPUDrawRender::otherSizeAllocatesAnew()
 {
     OffscreenGL offscreen;
-    QVERIFY(offscreen.isValid);
+    QVERIFY(offscreen.IsValid());
     LxCamGPURender render;
     render.InitializeGL();
     render.ResizeGL(8, 4, wholePicture);
@@ -226,7 +169,7 @@ void TestGPUDrawRender::otherSizeAllocatesAnew()
 void TestGPUDrawRender::pendingErrorRebuildsEverything()
 {
     OffscreenGL offscreen;
-    QVERIFY(offscreen.isValid);
+    QVERIFY(offscreen.IsValid());
     LxCamGPURender render;
     render.InitializeGL();
     render.ResizeGL(8, 4, wholePicture);
@@ -243,7 +186,7 @@ void TestGPUDrawRender::pendingErrorRebuildsEverything()
 void TestGPUDrawRender::pendingErrorWithoutRefreshGivesUpTheFrame()
 {
     OffscreenGL offscreen;
-    QVERIFY(offscreen.isValid);
+    QVERIFY(offscreen.IsValid());
     LxCamGPURender render;
     render.SetRefreshOnError(false);
     render.InitializeGL();
@@ -261,7 +204,7 @@ void TestGPUDrawRender::pendingErrorWithoutRefreshGivesUpTheFrame()
 void TestGPUDrawRender::pendingErrorWhileComparingGivesUpTheFrame()
 {
     OffscreenGL offscreen;
-    QVERIFY(offscreen.isValid);
+    QVERIFY(offscreen.IsValid());
     LxCamGPURender render;
     render.SetComparing(true);
     render.InitializeGL();
@@ -290,7 +233,7 @@ void TestGPUDrawRender::withoutInitialisationNothingIsDrawn()
 void TestGPUDrawRender::endOfTheContextReleasesEverything()
 {
     auto offscreen = std::make_unique<OffscreenGL>();
-    QVERIFY(offscreen->isValid);
+    QVERIFY(offscreen->IsValid());
     LxCamGPURender render;
     render.InitializeGL();
     offscreen.reset();
