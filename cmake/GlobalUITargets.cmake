@@ -11,8 +11,9 @@ function(globalui_add_layer target)
 endfunction()
 
 # globalui_add_test(<name> SOURCES ... LINK ... [LABELS ...] [TIMEOUT seconds])
-# A QtTest program on the virtual display. LINK names folder libraries (whose objects are linked
-# in directly) and ordinary libraries alike; LABELS are ctest labels ("unit" unless given).
+# A QtTest program on a virtual display of its own, where no other test's window covers its pixels.
+# LINK names folder libraries (whose objects are linked in directly) and ordinary libraries alike;
+# LABELS are ctest labels ("unit" unless given).
 function(globalui_add_test name)
     cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LINK;LABELS" ${ARGN})
     if(NOT ARG_LABELS)
@@ -24,7 +25,7 @@ function(globalui_add_test name)
     add_executable(${name} ${ARG_SOURCES})
     target_link_libraries(${name} PRIVATE ${ARG_LINK} GlobalUITestSupport Qt5::Test)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
-    add_test(NAME ${name} COMMAND ${name})
+    add_test(NAME ${name} COMMAND "${PROJECT_SOURCE_DIR}/scripts/with-display" $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES LABELS "${ARG_LABELS}" TIMEOUT ${ARG_TIMEOUT}
         ENVIRONMENT "QT_QPA_PLATFORM=xcb;LIBGL_ALWAYS_SOFTWARE=1")
 endfunction()
