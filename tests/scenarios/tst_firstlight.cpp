@@ -94,6 +94,7 @@ private slots:
         QFETCH(bool, cpuDraw);
         m_workbench->link.SetPixelLayout(layout);
         m_workbench->services.Config()->SetCPUDraw(cpuDraw, false);
+        QTRY_COMPARE(m_workbench->services.Preview()->ShownFrame().layout, layout);
         QVERIFY(m_workbench->WaitForNextPicture());
         int seen = 0;
         for (int patch = 0; patch < Patches * Patches; ++patch) {
@@ -328,14 +329,14 @@ private slots:
     {
         ShowAllPanels();
         CentreButton("pushButtonLeft")->click();
-        m_workbench->window.resize(1200, 800);
-        QTRY_COMPARE(m_workbench->window.size(), QSize(1200, 800));
+        m_workbench->window.resize(1300, 800);
+        QTRY_COMPARE(m_workbench->window.size(), QSize(1300, 800));
         m_workbench->window.close();
         m_workbench.reset();
 
         m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
         QVERIFY(m_workbench->WaitForPicture());
-        QCOMPARE(m_workbench->window.size(), QSize(1200, 800));
+        QCOMPARE(m_workbench->window.size(), QSize(1300, 800));
         QVERIFY(!m_workbench->window.findChild<QWidget *>("DockLeft")->isVisible());
         QVERIFY(m_workbench->window.findChild<QWidget *>("DockRight")->isVisible());
         QVERIFY(m_workbench->window.findChild<QWidget *>("DockBottom")->isVisible());
