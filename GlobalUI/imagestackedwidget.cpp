@@ -109,7 +109,7 @@ void ImageStackedWidget::slotUpdateImageInfoUI()
         return;
     }
     m_infoBar->slotUpdateImageSize(image->GetImageSizeString());
-    m_infoBar->UpdatePixelText(image->GetPixelString());
+    m_infoBar->slotUpdatePixelInfo(report->GetMousePosition(), image->GetPixelString());
     m_infoBar->slotUpdateRotateDegree(image->GetRotateDegree());
     ShowSizeAndScale(*report);
     m_infoBar->slotUpdateFileName(report->GetFileName());

@@ -9,14 +9,14 @@ namespace {
 
 QString HelpText()
 {
-    return QString("Usage: workbench [options]\n"
-                   "Shows the live picture of a scientific camera.\n"
+    return QString("Usage: workbench [options] [FILE...]\n"
+                   "Shows the live picture of a scientific camera, and picture files.\n"
                    "\n"
                    "  --camera ID        open this camera instead of the simulated one\n"
                    "  --scene NAME       what the simulated camera looks at: %1\n"
                    "  --frames N         end after N frames were shown and print what was measured\n"
                    "  --screenshot FILE  save a picture of the window before the end; without --frames\n"
-                   "                     after the first frame\n"
+                   "                     after the first frame or, with a FILE, when that is shown\n"
                    "  --version          print the version and end\n"
                    "  --help             print this text and end\n")
         .arg(SceneCatalogue::Names().join(", "));
@@ -56,10 +56,9 @@ CommandLine CommandLine::Parse(const QStringList &arguments)
         return Printed(HelpText());
     if (parser.isSet(version))
         return Printed("workbench " WORKBENCH_VERSION "\n");
-    if (!parser.positionalArguments().isEmpty())
-        return Failure(QString("\"%1\" is not an option. Try --help.").arg(parser.positionalArguments().first()));
 
     CommandLine line;
+    line.files = parser.positionalArguments();
     line.cameraId = parser.value(camera);
     if (parser.isSet(camera) && line.cameraId.isEmpty())
         return Failure("--camera needs the id of a camera.");
@@ -74,7 +73,9 @@ CommandLine CommandLine::Parse(const QStringList &arguments)
         line.frames = parser.value(frames).toInt(&isNumber);
         if (!isNumber || line.frames < 1)
             return Failure(QString("--frames needs a whole number of 1 or more, not \"%1\".").arg(parser.value(frames)));
-    } else if (parser.isSet(screenshot)) {
+        if (!line.files.isEmpty())
+            return Failure("--frames counts live pictures. Leave out either it or the files.");
+    } else if (parser.isSet(screenshot) && line.files.isEmpty()) {
         line.frames = 1;
     }
     return line;

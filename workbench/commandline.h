@@ -25,4 +25,6 @@ struct CommandLine
     /// End after so many frames were shown; 0 runs until the user quits.
     int frames = 0;
     QString screenshot;
+    /// Pictures to be opened.
+    QStringList files;
 };

@@ -4,11 +4,14 @@
 #include "globalui.h"
 
 #include <QDialogButtonBox>
+#include <QHeaderView>
 #include <QLabel>
+#include <QTableWidget>
 #include <QVBoxLayout>
 
 namespace {
 constexpr int TextWidth = 380;
+constexpr QSize TableSize(520, 320);
 }
 
 void InformationDialog::ShowCamera(QWidget *parent)
@@ -28,6 +31,15 @@ void InformationDialog::ShowAbout(QWidget *parent)
                        "There is no warranty.</p>")
                         .arg(WORKBENCH_VERSION));
     dialog->AddCamera();
+    dialog->Finish();
+}
+
+void InformationDialog::ShowPicture(const QString &description, const QVector<MetadataEntry> &metadata, QWidget *parent)
+{
+    auto *dialog = new InformationDialog(tr("Image Information"), parent);
+    dialog->AddText(description.toHtmlEscaped().replace('\n', "<br>"));
+    if (!metadata.isEmpty())
+        dialog->AddMetadata(metadata);
     dialog->Finish();
 }
 
@@ -51,6 +63,25 @@ void InformationDialog::AddText(const QString &text)
 void InformationDialog::AddCamera()
 {
     m_column->addWidget(GlobalUI::GetInstance()->GetCameraInfoUI());
+}
+
+void InformationDialog::AddMetadata(const QVector<MetadataEntry> &metadata)
+{
+    auto *table = new QTableWidget(metadata.size(), 2);
+    table->setHorizontalHeaderLabels({tr("Name"), tr("Value")});
+    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    table->verticalHeader()->hide();
+    table->horizontalHeader()->setStretchLastSection(true);
+    table->setMinimumSize(TableSize);
+    for (int row = 0; row < metadata.size(); ++row) {
+        const MetadataEntry &entry = metadata.at(row);
+        table->setItem(row, 0, new QTableWidgetItem(entry.key));
+        auto *value = new QTableWidgetItem(entry.value.simplified());
+        value->setToolTip(entry.comment.isEmpty() ? entry.value : entry.comment);
+        table->setItem(row, 1, value);
+    }
+    table->resizeColumnToContents(0);
+    m_column->addWidget(table);
 }
 
 void InformationDialog::Finish()

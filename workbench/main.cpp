@@ -3,6 +3,7 @@
 #include "commandline.h"
 #include "devicelist.h"
 #include "mainwindow.h"
+#include "picturedesk.h"
 #include "settingsfile.h"
 #include "stylesheet.h"
 #include "timedrun.h"
@@ -52,8 +53,13 @@ int RunWorkbench(QApplication &application, const CommandLine &line)
     if (!settings.KeptAside().isEmpty())
         window.slotShowMessage(QObject::tr("The settings were not used: %1. They were kept as %2.")
                                    .arg(settings.Fault(), settings.KeptAside()));
-    if (line.frames > 0)
-        new TimedRun(&link, window.Shown(), &window, line.frames, line.screenshot, &window);
+    if (line.frames > 0 || !line.screenshot.isEmpty()) {
+        auto *run = new TimedRun(&link, window.Shown(), &window, line.frames, line.screenshot, &window);
+        QObject::connect(services.Desk(), SIGNAL(signalOpened()), run, SLOT(slotPictureOpened()));
+        QObject::connect(services.Desk(), SIGNAL(signalFault(QString)), run, SLOT(slotPictureFailed(QString)));
+    }
+    if (!line.files.isEmpty())
+        services.Desk()->Open(line.files, services.Desk()->MainPicture());
     return QApplication::exec();
 }
 

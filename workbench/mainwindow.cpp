@@ -5,8 +5,12 @@
 #include "cameramenu.h"
 #include "cameranotice.h"
 #include "drawingguard.h"
+#include "filedrop.h"
 #include "globalui.h"
 #include "informationdialog.h"
+#include "picturedesk.h"
+#include "picturedialogs.h"
+#include "picturemenus.h"
 #include "shownframes.h"
 #include "statusline.h"
 #include "viewcodes.h"
@@ -101,17 +105,30 @@ QDockWidget *MainWindow::AddDock(const char *name, QWidget *area, Qt::DockWidget
     return dock;
 }
 
+PictureMenus *MainWindow::BuildPictureCommands()
+{
+    auto *dialogs = new PictureDialogs(m_services, this);
+    auto *drop = new FileDrop(this);
+    connect(drop, SIGNAL(signalFilesDropped(QStringList)), dialogs, SLOT(slotOpenFiles(QStringList)));
+    connect(m_services->Desk(), SIGNAL(signalFault(QString)), this, SLOT(slotShowMessage(QString)));
+    return new PictureMenus(m_services, dialogs, this);
+}
+
 void MainWindow::BuildMenus()
 {
+    PictureMenus *pictures = BuildPictureCommands();
     QMenu *file = menuBar()->addMenu(tr("&File"));
-    file->addAction(tr("&Open…"))->setEnabled(false);
+    pictures->FillFileMenu(file);
     file->addSeparator();
     file->addAction(tr("&Quit"), this, SLOT(close()), QKeySequence("Ctrl+W"));
 
+    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
+    pictures->FillEditMenu(edit);
     auto *camera = new CameraMenu(m_services, this);
     menuBar()->addMenu(camera);
     m_viewMenu = new ViewMenu(m_services, this);
     menuBar()->addMenu(m_viewMenu);
+    pictures->AddCompare(m_viewMenu);
     connect(m_viewMenu, SIGNAL(signalRestoreDefaultLayout()), this, SLOT(slotRestoreDefaultLayout()));
     connect(m_viewMenu, SIGNAL(signalDrawingChosen(bool)), m_drawingGuard, SLOT(slotSetCPUDraw(bool)));
 
@@ -119,7 +136,7 @@ void MainWindow::BuildMenus()
     help->addAction(tr("&About"), [this] { InformationDialog::ShowAbout(this); });
 
     // While the window fills the screen the menu bar is hidden, and its keys would be with it.
-    for (QMenu *menu : {file, static_cast<QMenu *>(camera), static_cast<QMenu *>(m_viewMenu)})
+    for (QMenu *menu : {file, edit, static_cast<QMenu *>(camera), static_cast<QMenu *>(m_viewMenu)})
         addActions(menu->actions());
 }
 

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 
 class DrawingGuard;
+class PictureMenus;
 class QDockWidget;
 class QSettings;
 class QShortcut;
@@ -52,6 +53,7 @@ private:
 
     void BuildAreas();
     QDockWidget *AddDock(const char *name, QWidget *area, Qt::DockWidgetArea where);
+    PictureMenus *BuildPictureCommands();
     void BuildMenus();
     void RestoreLayout();
     void ArrangeDefault();

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QPixmap>
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -47,14 +48,31 @@ void TimedRun::slotFrameShown()
         m_firstFrameMs = ProcessFacts::AgeMs();
         m_sinceFirstFrame.start();
     }
-    if (m_shown->Count() >= m_frames)
+    if (m_frames > 0 && m_shown->Count() >= m_frames)
         End();
+}
+
+void TimedRun::slotPictureOpened()
+{
+    constexpr int settleMs = 500; // the thumbnails come, and the screen takes it all
+    QTimer::singleShot(settleMs, this, SLOT(slotEndWithPicture()));
+}
+
+void TimedRun::slotEndWithPicture()
+{
+    QCoreApplication::exit(SaveScreenshot() ? EXIT_SUCCESS : EXIT_FAILURE);
+}
+
+void TimedRun::slotPictureFailed(QString error)
+{
+    fprintf(stderr, "workbench: %s\n", qPrintable(error));
+    QCoreApplication::exit(EXIT_FAILURE);
 }
 
 void TimedRun::slotCameraStateChanged()
 {
     const bool isGone = m_link->GetState() == CameraLink::State::NoCamera || m_link->HasGivenUp();
-    if (m_ended || !isGone)
+    if (m_ended || !isGone || m_frames == 0)
         return;
     m_ended = true;
     fprintf(stderr, "workbench: the camera is gone after %llu of %llu frames.\n",

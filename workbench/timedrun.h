@@ -9,7 +9,7 @@ class CameraLink;
 class QWidget;
 class ShownFrames;
 
-/// A run that ends by itself: after so many frames it saves a picture of the window, prints what was
+/// A run that ends by itself: after so many frames, or with an opened picture, it saves a picture of the window, prints what was
 /// measured in one line and ends the program. GUI thread.
 class TimedRun : public QObject
 {
@@ -27,15 +27,22 @@ public:
         int peakMemoryMB = 0;
     };
 
-    /// All are borrowed and outlive this object. `screenshot` may be empty.
+    /// All are borrowed and outlive this object. `screenshot` may be empty; without `frames` the run
+    /// ends with an opened picture.
     TimedRun(const CameraLink *link, const ShownFrames *shown, QWidget *window, int frames,
              const QString &screenshot, QObject *parent);
 
     static QString Line(const Facts &facts);
 
+public slots:
+    /// A picture file is shown, for which alone the program was started.
+    void slotPictureOpened();
+    void slotPictureFailed(QString error);
+
 private slots:
     void slotFrameShown();
     void slotCameraStateChanged();
+    void slotEndWithPicture();
 
 private:
     Facts Measure() const;

@@ -23,9 +23,12 @@
 #include "opencamera.h"
 #include "openedpicture.h"
 #include "peakfinding.h"
+#include "picturedesk.h"
 #include "pictureframes.h"
 #include "picturelist.h"
+#include "pictureloader.h"
 #include "pictureprocessing.h"
+#include "pictureshelf.h"
 #include "pixelreadout.h"
 #include "regionofinterest.h"
 #include "savesettings.h"
@@ -66,12 +69,16 @@ void WorkbenchServices::StartMeasuring()
 
 void WorkbenchServices::StartPictures()
 {
-    m_mainPicture = std::make_unique<OpenedPicture>();
-    m_comparePicture = std::make_unique<OpenedPicture>();
+    m_pictureLoader = std::make_unique<PictureLoader>(m_levelsModel.get());
+    m_pictureShelf = std::make_unique<PictureShelf>(m_pictureLoader.get());
+    m_mainPicture = std::make_unique<OpenedPicture>(m_pictureLoader.get(), OpenedPicture::MainPlace);
+    m_comparePicture = std::make_unique<OpenedPicture>(m_pictureLoader.get(), OpenedPicture::ComparePlace);
+    m_pictureDesk = std::make_unique<PictureDesk>(m_pictureLoader.get(), m_pictureShelf.get(), m_mainPicture.get(),
+                                                  m_comparePicture.get());
     m_pictureProcessing = std::make_unique<PictureProcessing>();
     m_channelSynthesis = std::make_unique<ChannelSynthesis>();
-    m_pictureFrames = std::make_unique<PictureFrames>();
-    m_pictureList = new PictureList; // reparented by the "File Preview" tab
+    m_pictureFrames = std::make_unique<PictureFrames>(m_mainPicture.get());
+    m_pictureList = new PictureList(m_pictureShelf.get(), m_mainPicture.get()); // reparented by the "File Preview" tab
     m_frameSaving = std::make_unique<FrameSaving>();
     m_saveSettings = std::make_unique<SaveSettings>();
 }
@@ -114,6 +121,7 @@ void WorkbenchServices::StartWorkspace()
     parts.comparePicture = m_comparePicture.get();
     parts.cameraManager = m_orientation.get();
     parts.cameraList = m_cameras.get();
+    parts.desk = m_pictureDesk.get();
     m_workspace = std::make_unique<Workspace>(parts);
 }
 
@@ -124,10 +132,28 @@ void WorkbenchServices::Connect()
     connect(m_preview.get(), SIGNAL(signalPictureSizeChanged(QSize)), this, SLOT(slotPictureSizeChanged(QSize)));
     connect(m_preview.get(), SIGNAL(signalRegionWanted(QRect)), this, SLOT(slotRegionWanted(QRect)));
 
+    ConnectPictures();
+
     connect(m_link, SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_preview.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_config.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_workspace.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
+    connect(m_pictureDesk.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
+}
+
+void WorkbenchServices::ConnectPictures()
+{
+    connect(m_pictureDesk.get(), SIGNAL(signalOpened()), m_workspace.get(), SLOT(slotPictureOpened()));
+    connect(m_pictureDesk.get(), SIGNAL(signalLastClosed()), m_workspace.get(), SLOT(slotLastPictureClosed()));
+    connect(m_pictureDesk.get(), SIGNAL(signalCompareLost()), m_workspace.get(), SLOT(slotCompareLost()));
+    connect(m_workspace.get(), SIGNAL(signalUpdateImageCompareFrame()), m_pictureDesk.get(), SLOT(slotUpdateUndo()));
+    // The view may be about to change again.
+    connect(m_config.get(), SIGNAL(signalSwitchView()), m_workspace.get(), SLOT(slotLeaveEmptyPage()),
+            Qt::QueuedConnection);
+    connect(m_config.get(), SIGNAL(signalSwitchView()), m_pictureDesk.get(), SLOT(slotUpdateUndo()),
+            Qt::QueuedConnection);
+    for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()})
+        connect(m_levelsModel.get(), SIGNAL(signalChanged()), picture, SLOT(slotLevelsChanged()));
 }
 
 /// A camera that was opened gets its service and a fresh preview; one that was closed loses both. A

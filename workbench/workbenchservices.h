@@ -29,9 +29,12 @@ class MeasureSettings;
 class OpenCamera;
 class OpenedPicture;
 class PeakFinding;
+class PictureDesk;
 class PictureFrames;
 class PictureList;
+class PictureLoader;
 class PictureProcessing;
+class PictureShelf;
 class PixelReadout;
 class QSettings;
 class RegionOfInterest;
@@ -59,6 +62,8 @@ public:
     LiveLevels *Levels() const { return m_levels.get(); }
     WorkspaceConfig *Config() const { return m_config.get(); }
     Workspace *GetWorkspace() const { return m_workspace.get(); }
+    PictureDesk *Desk() const { return m_pictureDesk.get(); }
+    PictureLoader *Loader() const { return m_pictureLoader.get(); }
     ConnectedCameras *Cameras() const { return m_cameras.get(); }
     RegionOfInterest *Region() const { return m_region.get(); }
 
@@ -79,6 +84,7 @@ private:
     void StartPreview();
     void StartWorkspace();
     void Connect();
+    void ConnectPictures();
 
     CameraLink *m_link;
 
@@ -88,8 +94,11 @@ private:
     std::unique_ptr<LiveReport> m_liveReport;
     std::unique_ptr<MeasureSettings> m_measureSettings;
     std::unique_ptr<AutoCounting> m_autoCounting;
+    std::unique_ptr<PictureLoader> m_pictureLoader;
+    std::unique_ptr<PictureShelf> m_pictureShelf;
     std::unique_ptr<OpenedPicture> m_mainPicture;
     std::unique_ptr<OpenedPicture> m_comparePicture;
+    std::unique_ptr<PictureDesk> m_pictureDesk;
     std::unique_ptr<PictureProcessing> m_pictureProcessing;
     std::unique_ptr<ChannelSynthesis> m_channelSynthesis;
     std::unique_ptr<PictureFrames> m_pictureFrames;

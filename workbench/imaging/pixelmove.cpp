@@ -58,13 +58,29 @@ void Move(const PixelRows &source, Orientation orientation, uchar *target, qint6
 void MovePixels(const PixelRows &source, Orientation orientation, uchar *target, qint64 targetStride)
 {
     switch (source.bytesPerPixel) {
-    case 1: Move<1>(source, orientation, target, targetStride); break;
-    case 2: Move<2>(source, orientation, target, targetStride); break;
-    case 3: Move<3>(source, orientation, target, targetStride); break;
-    case 4: Move<4>(source, orientation, target, targetStride); break;
-    case 6: Move<6>(source, orientation, target, targetStride); break;
-    case 8: Move<8>(source, orientation, target, targetStride); break;
-    case 12: Move<12>(source, orientation, target, targetStride); break;
-    default: Move<24>(source, orientation, target, targetStride); break;
+    case 1:
+        Move<1>(source, orientation, target, targetStride);
+        break;
+    case 2:
+        Move<2>(source, orientation, target, targetStride);
+        break;
+    case 3:
+        Move<3>(source, orientation, target, targetStride);
+        break;
+    case 4:
+        Move<4>(source, orientation, target, targetStride);
+        break;
+    case 6:
+        Move<6>(source, orientation, target, targetStride);
+        break;
+    case 8:
+        Move<8>(source, orientation, target, targetStride);
+        break;
+    case 12:
+        Move<12>(source, orientation, target, targetStride);
+        break;
+    default:
+        Move<24>(source, orientation, target, targetStride);
+        break;
     }
 }

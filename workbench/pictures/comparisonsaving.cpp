@@ -5,3 +5,5 @@ ComparisonSaving::ComparisonSaving(QObject *parent)
     : CompareSaver(parent)
 {
 }
+
+void ComparisonSaving::slotSave() { emit signalSaveCompare(); }

@@ -3,11 +3,14 @@
 
 #include "comparesaver.h"
 
-/// Saving of a comparison, asked for in the list of opened pictures. Nothing asks yet. GUI thread.
+/// Saving of a comparison, asked for in the list of opened pictures. GUI thread.
 class ComparisonSaving : public CompareSaver
 {
     Q_OBJECT
 
 public:
     explicit ComparisonSaving(QObject *parent = nullptr);
+
+public slots:
+    void slotSave();
 };

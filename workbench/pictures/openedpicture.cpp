@@ -1,105 +1,300 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "openedpicture.h"
 
+#include "picturedocument.h"
 #include "picturelevels.h"
+#include "pictureloader.h"
+#include "pixeltext.h"
+#include "uiconfigmanager.h"
+#include "viewcodes.h"
 #include "viewmeasuring.h"
 
-OpenedPicture::OpenedPicture(QObject *parent)
+#include <cmath>
+
+namespace {
+
+enum CropState
+{
+    NewSelection = 0
+};
+
+} // namespace
+
+OpenedPicture::OpenedPicture(PictureLoader *loader, Place place, QObject *parent)
     : ImageManager(parent)
+    , m_loader(loader)
+    , m_place(place)
     , m_measuring(new ViewMeasuring(this))
     , m_levels(new PictureLevels(this))
 {
+    connect(loader, SIGNAL(signalLoaded(LoadedPicture)), this, SLOT(slotLoaded(LoadedPicture)));
+}
+
+// Asking and answering
+
+void OpenedPicture::Show(PictureDocument *document) { Request(document, 0); }
+
+void OpenedPicture::Request(PictureDocument *document, int frame)
+{
+    PictureRequest request;
+    request.place = m_place;
+    request.file = document->File();
+    request.frame = frame;
+    request.edit = document->Edit();
+    request.range = document->Range();
+    m_wanted = document;
+    m_wantedFrame = frame;
+    m_wantedTicket = m_loader->Load(request);
+}
+
+void OpenedPicture::slotLoaded(const LoadedPicture &picture)
+{
+    // While a stack is browsed quickly every frame that was read is shown, though a newer one is wanted already.
+    if (picture.request.place != m_place || !m_wanted || picture.request.file.id != m_wanted->File().id)
+        return;
+    if (picture.error.isEmpty()) {
+        Take(picture);
+    } else if (picture.request.ticket == m_wantedTicket) {
+        PictureDocument *failed = m_wanted;
+        GiveUp(failed);
+        emit signalFailed(failed, picture.error);
+    }
+    if (!picture.news.isEmpty())
+        emit signalMessage(picture.news);
+}
+
+void OpenedPicture::GiveUp(const PictureDocument *document)
+{
+    if (!document || m_wanted != document)
+        return;
+    m_wanted = m_document;
+    m_wantedFrame = m_shown.request.frame;
+    emit signalGivenUp();
+}
+
+void OpenedPicture::Take(const LoadedPicture &picture)
+{
+    const bool isOther = m_document != m_wanted;
+    m_shown = picture;
+    m_wanted->SetInfo(picture.info);
+    m_wanted->SetRange(picture.range);
+    if (isOther)
+        Follow(m_wanted);
+    m_levels->Set(picture.samples.Type(), picture.range);
+
+    emit signalSetCropState(NewSelection, false);
+    emit signalShowPicture(m_shown.image);
+    emit signalUpdateFileNameAndSize(GetFileInfo());
+    emit signalUpdateLevel(m_levels->GetLeftLevel(), m_levels->GetRightLevel());
+    if (isOther)
+        AnnounceDocument();
+    if (m_shown.request.frame == 0)
+        emit sglAddThumbnail(PictureLoader::ThumbnailOf(m_shown.image));
+    emit UIConfigManager::GetInstance()->signalImageInfoChanged();
+}
+
+void OpenedPicture::AnnounceDocument()
+{
+    emit signalUpdateFileName(m_document->Name());
+    emit signalCurrentFileFrameNumber(m_shown.info.frames);
+    emit signalShown();
+    if (!m_shown.info.warning.isEmpty())
+        emit signalMessage(m_shown.info.warning);
+}
+
+void OpenedPicture::Follow(PictureDocument *document)
+{
+    if (m_document)
+        disconnect(m_document, nullptr, this, nullptr);
+    m_document = document;
+    connect(document, SIGNAL(signalEdited()), this, SLOT(slotEdited()));
+    connect(document, SIGNAL(signalChanged()), this, SLOT(slotRenamed()));
+}
+
+void OpenedPicture::slotEdited() { Request(m_document, m_wantedFrame); }
+
+void OpenedPicture::slotRenamed()
+{
+    if (!m_document || m_shown.request.file.path == m_document->Path())
+        return;
+    m_shown.request.file.path = m_document->Path();
+    emit signalUpdateFileName(m_document->Name());
+    emit signalUpdateFileNameAndSize(GetFileInfo());
+}
+
+void OpenedPicture::slotLevelsChanged()
+{
+    if (!m_document)
+        return;
+    m_document->SetRange(SampleRange());
+    if (m_wanted == m_document)
+        Request(m_document, m_wantedFrame);
+}
+
+void OpenedPicture::SetImage(int index)
+{
+    if (!m_wanted || m_wanted != m_document || index < 0 || index >= m_shown.info.frames
+        || index == m_wantedFrame)
+        return;
+    Request(m_document, index);
+}
+
+void OpenedPicture::DrawImage()
+{
+    if (!IsNonImage())
+        emit signalShowPicture(m_shown.image);
+}
+
+void OpenedPicture::CloseImage()
+{
+    if (IsNonImage() && !m_wanted)
+        return;
+    Forget();
+    emit signalSetCropState(NewSelection, false);
+    emit signalShowPicture(QImage());
+    emit signalUpdateFileName(QString());
+    emit signalResetImageInfo();
+    emit signalResetImageSize();
+    emit signalCurrentFileFrameNumber(0);
+    emit UIConfigManager::GetInstance()->signalImageInfoChanged();
+}
+
+void OpenedPicture::Forget()
+{
+    if (m_document)
+        disconnect(m_document, nullptr, this, nullptr);
+    m_document.clear();
+    m_wanted.clear();
+    m_wantedFrame = 0;
+    m_shown = LoadedPicture();
+    m_levels->Set(SampleType::U8, { 0, 255 });
+}
+
+void OpenedPicture::ConnectWidthDrawView(QObject *view, bool spectrum)
+{
+    if (spectrum) {
+        connect(this, SIGNAL(signalShowPicture(QImage)), view, SLOT(slotPaintStaticPreview(QImage)));
+        return;
+    }
+    if (m_place != MainPlace) // the main picture reaches its view as processed frames
+        connect(this, SIGNAL(signalShowPicture(QImage)), view, SLOT(slotPaintPreview(QImage)));
+    connect(view, SIGNAL(signalUpdateMousePosition(QPointF)), this, SLOT(slotMouseAt(QPointF)));
+    connect(view, SIGNAL(signalUpdateImageGrayValueInfo()), this, SLOT(slotReadPixel()));
+}
+
+// What is shown
+
+PictureDocument *OpenedPicture::Document() const { return m_document; }
+
+PictureDocument *OpenedPicture::WantedDocument() const { return m_wanted; }
+
+bool OpenedPicture::IsNonImage() const { return !m_document; }
+
+bool OpenedPicture::IsSenImage() const { return false; }
+
+bool OpenedPicture::Is32BitMat() const
+{
+    return !IsNonImage() && BytesPerSample(m_shown.samples.Type()) >= 4;
+}
+
+QSize OpenedPicture::GetImageSize() const { return IsNonImage() ? QSize() : m_shown.samples.Size(); }
+
+QString OpenedPicture::GetFileName() const { return IsNonImage() ? QString() : m_document->Name(); }
+
+QString OpenedPicture::GetFileInfo() const
+{
+    return IsNonImage() ? QString() : QString("%1  %2").arg(m_document->Name(), GetImageSizeString());
+}
+
+QString OpenedPicture::GetImageSizeString() const
+{
+    const QSize size = GetImageSize();
+    return IsNonImage() ? QString() : QString("%1x%2").arg(size.width()).arg(size.height());
+}
+
+QString OpenedPicture::GetPixelString() const
+{
+    return PixelText(m_shown.samples,
+                     QPoint(int(std::floor(m_mousePos.x())), int(std::floor(m_mousePos.y()))));
+}
+
+QString OpenedPicture::GetExpansionArea() const { return QString(); }
+
+int OpenedPicture::GetRotateDegree() const { return m_shown.request.edit.GetOrientation().Degrees(); }
+
+ImageCore *OpenedPicture::GetImageCore() const { return m_levels; }
+
+void OpenedPicture::slotMouseAt(QPointF scenePos) { m_mousePos = scenePos; }
+
+/// The view keeps the nearest corner of a pixel; here it is the pixel that the mouse is on.
+void OpenedPicture::slotReadPixel()
+{
+    SetMousePosition(QPoint(int(std::floor(m_mousePos.x())), int(std::floor(m_mousePos.y()))));
+    emit UIConfigManager::GetInstance()->signalImageInfoChanged();
+}
+
+// Commands
+
+void OpenedPicture::slotRotateImage(int type)
+{
+    if (IsNonImage())
+        return;
+    const QString text = type == RotateBy90 ? tr("Rotate") : tr("Flip");
+    m_document->PushEdit(m_document->Edit().Turned(type), text);
+}
+
+void OpenedPicture::slotImageCrop()
+{
+    if (!IsNonImage())
+        emit signalSetCropState(NewSelection, true);
+}
+
+void OpenedPicture::slotCrop(int x, int y, int width, int height, bool apply)
+{
+    if (apply && !IsNonImage())
+        m_document->PushEdit(m_document->Edit().Cropped(QRect(x, y, width, height), m_shown.fileSize),
+                             tr("Crop"));
+}
+
+void OpenedPicture::slotSaveImageAs()
+{
+    if (IsNonImage())
+        emit signalMessage(tr("No picture is open that could be saved."));
+    else
+        emit signalSaveAsWanted();
+}
+
+void OpenedPicture::SaveAs(const QString &target, bool allFrames)
+{
+    SaveRequest request;
+    request.file = m_document->File();
+    request.firstFrame = allFrames ? 0 : m_shown.request.frame;
+    request.frameCount = allFrames ? m_shown.info.frames : 1;
+    request.edit = m_shown.request.edit;
+    request.range = m_shown.range;
+    request.target = target;
+    m_loader->Save(request);
+}
+
+void OpenedPicture::slotImageInfo()
+{
+    if (!IsNonImage())
+        emit signalInformationWanted();
 }
 
 void OpenedPicture::ClearAll() {}
 
 void OpenedPicture::LineProfileMouseMoveEvent(QMouseEvent *) {}
 
-MeasureManager *OpenedPicture::GetMeasureManager() const
-{
-    return m_measuring;
-}
-
-QSize OpenedPicture::GetImageSize() const
-{
-    return QSize();
-}
-
-QString OpenedPicture::GetFileName() const
-{
-    return QString();
-}
-
-QString OpenedPicture::GetFileInfo() const
-{
-    return QString();
-}
-
-QString OpenedPicture::GetImageSizeString() const
-{
-    return QString();
-}
-
-QString OpenedPicture::GetPixelString() const
-{
-    return QString();
-}
-
-QString OpenedPicture::GetExpansionArea() const
-{
-    return QString();
-}
-
-bool OpenedPicture::IsNonImage() const
-{
-    return true;
-}
-
-bool OpenedPicture::IsSenImage() const
-{
-    return false;
-}
-
-bool OpenedPicture::Is32BitMat() const
-{
-    return false;
-}
-
-int OpenedPicture::GetRotateDegree() const
-{
-    return 0;
-}
-
-ImageCore *OpenedPicture::GetImageCore() const
-{
-    return m_levels;
-}
-
-void OpenedPicture::SetImage(int) {}
-
-void OpenedPicture::DrawImage() {}
-
-void OpenedPicture::CloseImage() {}
+MeasureManager *OpenedPicture::GetMeasureManager() const { return m_measuring; }
 
 void OpenedPicture::SetProcessType(int) {}
 
 void OpenedPicture::SetAdjustApply(int) {}
 
-void OpenedPicture::ConnectWidthDrawView(QObject *, bool) {}
-
 void OpenedPicture::GetIntensityCurveHistogramData(QPointF, QRectF, int) {}
 
 void OpenedPicture::slotFinishSetBrush() {}
-
-void OpenedPicture::slotRotateImage(int) {}
-
-void OpenedPicture::slotSaveImageAs() {}
-
-void OpenedPicture::slotImageCrop() {}
-
-void OpenedPicture::slotImageInfo() {}
-
-void OpenedPicture::slotCrop(int, int, int, int, bool) {}
 
 void OpenedPicture::slotNewImageCopy(void *) {}
 

@@ -2,19 +2,41 @@
 #pragma once
 
 #include "imagemanager.h"
+#include "picturerequest.h"
 
+#include <QPointer>
+
+class PictureDocument;
 class PictureLevels;
+class PictureLoader;
 class ViewMeasuring;
 
-/// The picture of the image page, or the second one of a comparison. Files can't be opened yet, so
-/// nothing ever is: texts are empty and commands have nothing to work on. Owned by the services.
-/// GUI thread.
+/// The picture of the image page, or the second one of a comparison: shows one of the opened pictures at a time. What is
+/// shown stays until the next is ready, or for good when that cannot be read. Owned by the services. GUI thread.
 class OpenedPicture : public ImageManager
 {
     Q_OBJECT
 
 public:
-    explicit OpenedPicture(QObject *parent = nullptr);
+    enum Place
+    {
+        MainPlace,
+        ComparePlace
+    };
+
+    /// `loader` is borrowed and outlives this object.
+    OpenedPicture(PictureLoader *loader, Place place, QObject *parent = nullptr);
+
+    /// Shows the first frame of a picture of the shelf as soon as it was read.
+    void Show(PictureDocument *document);
+    /// What was asked for cannot be shown; what is shown stays.
+    void GiveUp(const PictureDocument *document);
+    /// The one that is shown; null without one.
+    PictureDocument *Document() const;
+    /// The one that was asked for last: that which is shown, or will be.
+    PictureDocument *WantedDocument() const;
+    const LoadedPicture &Shown() const { return m_shown; }
+    void SaveAs(const QString &target, bool allFrames);
 
     void ClearAll() override;
     void LineProfileMouseMoveEvent(QMouseEvent *event) override;
@@ -24,6 +46,7 @@ public:
 
     QString GetFileInfo() const override;
     QString GetImageSizeString() const override;
+    /// Of the pixel under the mouse.
     QString GetPixelString() const override;
     QString GetExpansionArea() const override;
     bool IsNonImage() const override;
@@ -51,8 +74,45 @@ public slots:
     void slotMousePressEvent(QMouseEvent *event, QPointF scenePos) override;
     void slotMouseReleaseEvent(QMouseEvent *event) override;
     void slotMouseDoubleClickEvent(QMouseEvent *event) override;
+    /// The levels were changed: makes the picture anew.
+    void slotLevelsChanged();
+
+signals:
+    /// A frame for the views.
+    void signalShowPicture(QImage image);
+    /// A picture, or another one than before, is on the screen.
+    void signalShown();
+    void signalFailed(PictureDocument *document, QString error);
+    /// The picture that was asked for will not come.
+    void signalGivenUp();
+    /// The user wants to say where to save what is shown, or to read about it.
+    void signalSaveAsWanted();
+    void signalInformationWanted();
+    /// A sentence for the status bar.
+    void signalMessage(QString text);
+
+private slots:
+    void slotLoaded(const LoadedPicture &picture);
+    void slotEdited();
+    void slotRenamed();
+    void slotMouseAt(QPointF scenePos);
+    void slotReadPixel();
 
 private:
+    void Request(PictureDocument *document, int frame);
+    void Take(const LoadedPicture &picture);
+    void AnnounceDocument();
+    void Follow(PictureDocument *document);
+    void Forget();
+
+    PictureLoader *m_loader;
+    const Place m_place;
     ViewMeasuring *m_measuring;
     PictureLevels *m_levels;
+    QPointer<PictureDocument> m_document;
+    QPointer<PictureDocument> m_wanted;
+    int m_wantedFrame = 0;
+    quint64 m_wantedTicket = 0;
+    LoadedPicture m_shown;
+    QPointF m_mousePos; ///< picture pixels
 };

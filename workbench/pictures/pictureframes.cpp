@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictureframes.h"
 
-PictureFrames::PictureFrames(QObject *parent)
+#include "openedpicture.h"
+
+PictureFrames::PictureFrames(const OpenedPicture *picture, QObject *parent)
     : FrameProcessManager(parent)
 {
+    connect(picture, SIGNAL(signalShowPicture(QImage)), this, SIGNAL(signalDraw(QImage)));
 }
 
 void PictureFrames::slotScaleFactorChanged(double) {}

@@ -3,14 +3,18 @@
 
 #include "frameprocessmanager.h"
 
-/// Frames of the opened picture, of which there are none yet. GUI thread.
+class OpenedPicture;
+
+/// Frames of the main picture, turned, cropped and brought to the screen's levels, on their way to its view. GUI thread.
 class PictureFrames : public FrameProcessManager
 {
     Q_OBJECT
 
 public:
-    explicit PictureFrames(QObject *parent = nullptr);
+    /// `picture` is borrowed.
+    explicit PictureFrames(const OpenedPicture *picture, QObject *parent = nullptr);
 
 public slots:
+    /// Frames are made in full size, whatever the scale.
     void slotScaleFactorChanged(double scaleFactor) override;
 };

@@ -3,7 +3,14 @@
 
 #include "cameramainmanager.h"
 #include "imagemanager.h"
+#include "joinedimages.h"
 #include "measuremanager.h"
+#include "openedpicture.h"
+#include "picturedesk.h"
+#include "picturedocument.h"
+#include "pictureshelf.h"
+#include "previewmanager.h"
+#include "rawcameraframe.h"
 #include "viewrules.h"
 #include "workspaceconfig.h"
 
@@ -11,6 +18,17 @@ namespace {
 
 /// A mark in the picture has the mouse: an edge of a band, a measurement's handle.
 bool IsItemDragged(const QGraphicsScene *scene) { return scene && scene->mouseGrabberItem(); }
+
+/// The live picture as it is on the screen; null before the first.
+QImage ImageOf(const RawCameraFrame *frame)
+{
+    if (!frame)
+        return QImage();
+    const QImage::Format format = frame->channels == 3 ? QImage::Format_RGB888 : QImage::Format_Grayscale8;
+    const QImage image(frame->buffer + frame->headerLength, frame->width, frame->height,
+                       frame->width * frame->channels, format);
+    return image.copy();
+}
 
 } // namespace
 
@@ -118,24 +136,99 @@ void Workspace::SetImageGraphicsSceneEx(QGraphicsScene *scene)
 
 void Workspace::slotSetCompareView()
 {
+    const ViewCode view = m_parts.config->WorkedView();
+    if (view == CameraView && !m_parts.desk->ChooseForLiveCompare())
+        return;
+    if (view == ImageView && !m_parts.desk->ChooseForCompare())
+        return;
     m_parts.config->SetCompareView();
 }
 
-void Workspace::slotRename(QObject *, QString) {}
-
-void Workspace::slotCloseAllImage() {}
-
-void Workspace::slotCloseImage(QObject *) {}
-
-void Workspace::slotSetImageChecked(QObject *, bool) {}
-
-void Workspace::slotSetAllImageChecked(bool) {}
-
-void Workspace::slotSaveCompare() {}
-
-void Workspace::slotOpenImage(QString fileName, QObject *)
+void Workspace::slotRename(QObject *image, QString fileName)
 {
-    emit signalMessage(tr("%1 was not opened: this version shows the live picture only.").arg(fileName));
+    if (PictureDocument *document = m_parts.desk->Shelf()->Find(image))
+        m_parts.desk->Rename(document, fileName);
+}
+
+void Workspace::slotCloseAllImage()
+{
+    m_parts.desk->CloseAll();
+}
+
+void Workspace::slotCloseImage(QObject *image)
+{
+    if (PictureDocument *document = m_parts.desk->Shelf()->Find(image))
+        m_parts.desk->Close(document);
+}
+
+void Workspace::slotSetImageChecked(QObject *image, bool checked)
+{
+    if (PictureDocument *document = m_parts.desk->Shelf()->Find(image))
+        document->SetChecked(checked);
+}
+
+void Workspace::slotSetAllImageChecked(bool checked)
+{
+    for (PictureDocument *document : m_parts.desk->Shelf()->Documents())
+        document->SetChecked(checked);
+}
+
+void Workspace::slotSaveCompare()
+{
+    const QImage mainImage = m_parts.desk->MainPicture()->Shown().image;
+    QImage joined;
+    if (m_parts.config->GetCurrentView() == CameraCompareView)
+        joined = JoinedImages(ImageOf(PreviewManager::GetInstance()->GetCurrentRawFrame()), mainImage);
+    else if (m_parts.config->GetCurrentView() == ImageCompareView)
+        joined = JoinedImages(mainImage, m_parts.desk->ComparePicture()->Shown().image);
+    if (joined.isNull())
+        emit signalMessage(tr("There is no comparison to be saved: choose View > Compare first."));
+    else
+        emit signalSaveComparisonWanted(joined);
+}
+
+void Workspace::slotOpenImage(QString fileName, QObject *image)
+{
+    if (PictureDocument *document = m_parts.desk->Shelf()->Find(image))
+        m_parts.desk->Show(document, PlaceForPictures());
+    else
+        m_parts.desk->Open({fileName}, PlaceForPictures());
+}
+
+OpenedPicture *Workspace::PlaceForPictures() const
+{
+    const bool isSecond = m_parts.config->GetCurrentView() == ImageCompareView
+                          && m_activeImage == m_parts.comparePicture;
+    return isSecond ? m_parts.desk->ComparePicture() : m_parts.desk->MainPicture();
+}
+
+void Workspace::slotPictureOpened()
+{
+    const int view = m_parts.config->GetCurrentView();
+    if (view == CameraView || view == FileView)
+        m_parts.config->SetImageView();
+    else
+        m_parts.config->UpdateAllControlUI();
+}
+
+void Workspace::slotLastPictureClosed()
+{
+    const int view = m_parts.config->GetCurrentView();
+    if (view == CameraCompareView || view == ImageCompareView)
+        m_parts.config->SetCompareView();
+    slotLeaveEmptyPage();
+}
+
+void Workspace::slotCompareLost()
+{
+    if (m_parts.config->GetCurrentView() == ImageCompareView)
+        m_parts.config->SetCompareView();
+}
+
+void Workspace::slotLeaveEmptyPage()
+{
+    if (m_parts.config->GetCurrentView() == ImageView && !m_parts.desk->MainPicture()->WantedDocument())
+        m_parts.config->SetCameraView();
 }
 
 void Workspace::slotSetGraphicsScene(QGraphicsScene *scene)

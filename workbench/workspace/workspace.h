@@ -4,8 +4,11 @@
 #include "globalmanager.h"
 
 #include <QGraphicsScene>
+#include <QImage>
 #include <QPointer>
 
+class OpenedPicture;
+class PictureDesk;
 class WorkspaceConfig;
 
 /// What is being worked on: which view has the focus, and with it which report and image manager.
@@ -24,12 +27,15 @@ public:
         ImageManager *comparePicture;
         CameraManager *cameraManager;
         CameraList *cameraList;
+        PictureDesk *desk = nullptr; ///< the managers of both pictures are its own
     };
 
     explicit Workspace(const Parts &parts, QObject *parent = nullptr);
 
     /// The scene the live picture is in; null before the camera page was built.
     QGraphicsScene *GetCameraScene() const { return m_cameraScene; }
+    /// Where a picture that is opened now is to be shown: in a comparison of two, the half that is worked on.
+    OpenedPicture *PlaceForPictures() const;
 
     ReportManager *GetReportManager() const override;
     ReportManager *GetCameraReportManager() const override;
@@ -61,7 +67,17 @@ public slots:
     void slotOpenImage(QString fileName, QObject *image) override;
     void slotSetGraphicsScene(QGraphicsScene *scene) override;
 
+    /// A picture was opened: shows it, unless a comparison does.
+    void slotPictureOpened();
+    void slotLastPictureClosed();
+    /// The second picture of the comparison is gone.
+    void slotCompareLost();
+    /// The page of opened pictures gives way to the camera while nothing is open.
+    void slotLeaveEmptyPage();
+
 signals:
+    /// Both pictures of the comparison side by side; the user says where to save them.
+    void signalSaveComparisonWanted(QImage image);
     /// A sentence for the status bar.
     void signalMessage(QString text);
 

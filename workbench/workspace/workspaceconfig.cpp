@@ -17,6 +17,11 @@ int WorkspaceConfig::GetCurrentView() const
     return m_view;
 }
 
+ViewCode WorkspaceConfig::WorkedView() const
+{
+    return m_view == FileView ? m_viewBeforeFiles : m_view;
+}
+
 int WorkspaceConfig::GetLeftStackedWidgetIndex() const
 {
     return ViewRules::PageOf(m_view);
@@ -153,8 +158,7 @@ void WorkspaceConfig::SetFileView()
 
 void WorkspaceConfig::SetCompareView()
 {
-    const ViewCode page = m_view == FileView ? m_viewBeforeFiles : m_view;
-    SwitchTo(ViewRules::AfterCompareCommand(page));
+    SwitchTo(ViewRules::AfterCompareCommand(WorkedView()));
 }
 
 void WorkspaceConfig::FileViewReturn()

@@ -18,6 +18,8 @@ public:
     explicit WorkspaceConfig(QSettings *settings, QObject *parent = nullptr);
 
     int GetCurrentView() const override;
+    /// The current view; while files are browsed the one before.
+    ViewCode WorkedView() const;
     int GetLeftStackedWidgetIndex() const override;
     int GetCenterStackedWidgetIndex() const override;
     int GetLeftUIIndex() const override;

@@ -34,6 +34,15 @@ private slots:
         QCOMPARE(CommandLine::Parse({"workbench", "--screenshot", "x.png"}).frames, 1);
     }
 
+    void filesAreOpened()
+    {
+        const CommandLine line = CommandLine::Parse({"workbench", "a b.tif", "--screenshot", "x.png", "c.fits"});
+        QCOMPARE(line.action, CommandLine::Action::Run);
+        QCOMPARE(line.files, QStringList({"a b.tif", "c.fits"}));
+        QCOMPARE(line.screenshot, QString("x.png"));
+        QCOMPARE(line.frames, 0);
+    }
+
     void mistakesAreSaidInOneLine_data()
     {
         QTest::addColumn<QStringList>("options");
@@ -54,8 +63,8 @@ private slots:
         QTest::newRow("screenshot: empty") << QStringList{"--screenshot", ""}
                                            << "workbench: --screenshot needs the name of a file.";
         QTest::newRow("unknown option") << QStringList{"--fast"} << "workbench: Unknown option 'fast'. Try --help.";
-        QTest::newRow("a file") << QStringList{"picture.tif"}
-                                << "workbench: \"picture.tif\" is not an option. Try --help.";
+        QTest::newRow("frames of a file") << QStringList{"--frames", "3", "picture.tif"}
+                                          << "workbench: --frames counts live pictures. Leave out either it or the files.";
     }
 
     void mistakesAreSaidInOneLine()

@@ -1,0 +1,257 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "guardedtest.h"
+#include "imagecore.h"
+#include "picturebench.h"
+#include "viewcodes.h"
+
+#include <QUndoStack>
+
+namespace {
+
+/// The mouse and the picture of a view.
+class View : public QObject
+{
+    Q_OBJECT
+
+public:
+    void Move(const QPointF &scenePos)
+    {
+        emit signalUpdateMousePosition(scenePos);
+        emit signalUpdateImageGrayValueInfo();
+    }
+
+    QImage image;
+
+public slots:
+    void slotPaintPreview(QImage shown) { image = shown; }
+
+signals:
+    void signalUpdateMousePosition(QPointF scenePos);
+    void signalUpdateImageGrayValueInfo();
+};
+
+} // namespace
+
+/// One picture on a page: what is shown, what is said of it, and what the tool bar does to it.
+class OpenedPictureTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void nothingIsSaidOfNothing()
+    {
+        PictureBench bench;
+        QVERIFY(bench.main.IsNonImage());
+        QCOMPARE(bench.main.GetFileInfo(), QString());
+        QCOMPARE(bench.main.GetImageSizeString(), QString());
+        QCOMPARE(bench.main.GetPixelString(), QString());
+        QCOMPARE(bench.main.GetImageSize(), QSize());
+        QCOMPARE(bench.main.GetImageCore()->GetRightLevel(), 255);
+        bench.main.slotRotateImage(RotateBy90);
+        bench.main.slotCrop(0, 0, 2, 2, true);
+        bench.main.SetImage(1);
+        bench.main.CloseImage();
+        QCOMPARE(bench.shown.size(), 0);
+        bench.main.slotSaveImageAs();
+        QCOMPARE(bench.LastMessage(), QString("No picture is open that could be saved."));
+    }
+
+    void anOpenedFileIsAnnounced()
+    {
+        PictureBench bench;
+        QSignalSpy names(&bench.main, SIGNAL(signalUpdateFileName(QString)));
+        QSignalSpy namesAndSizes(&bench.main, SIGNAL(signalUpdateFileNameAndSize(QString)));
+        QSignalSpy counts(&bench.main, SIGNAL(signalCurrentFileFrameNumber(int)));
+        QSignalSpy thumbnails(&bench.main, SIGNAL(sglAddThumbnail(QImage)));
+        QSignalSpy levels(&bench.main, SIGNAL(signalUpdateLevel(int, int)));
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 3));
+        QCOMPARE(names.last().first().toString(), QString("stack.tif"));
+        QCOMPARE(namesAndSizes.last().first().toString(), QString("stack.tif  6x4"));
+        QCOMPARE(counts.last().first().toInt(), 3);
+        QCOMPARE(thumbnails.size(), 1);
+        QCOMPARE(levels.last(), QVariantList({ 0, 65 }));
+        QCOMPARE(bench.main.GetFileInfo(), QString("stack.tif  6x4"));
+        QCOMPARE(bench.main.GetImageSizeString(), QString("6x4"));
+        QCOMPARE(bench.main.GetImageSize(), QSize(6, 4));
+        QCOMPARE(bench.main.GetImageCore()->GetDepth(), 2);
+        QVERIFY(!bench.main.Is32BitMat());
+        QVERIFY(!bench.main.IsNonImage());
+        QVERIFY(!bench.main.IsSenImage());
+        QCOMPARE(bench.shown.last().first().value<QImage>().size(), QSize(6, 4));
+    }
+
+    void thePixelUnderTheMouseIsRead()
+    {
+        PictureBench bench;
+        View view;
+        bench.compare.ConnectWidthDrawView(&view, false);
+        MadePictures::Write(bench.Path("numbers.tif"), QSize(6, 4));
+        bench.compare.Show(bench.shelf.Add(bench.Path("numbers.tif")));
+        QTRY_COMPARE(view.image.size(), QSize(6, 4));
+        QSignalSpy changes(&bench.services.uiConfig, SIGNAL(signalImageInfoChanged()));
+        view.Move(QPointF(4.9, 2.6));
+        QCOMPARE(bench.compare.GetPixelString(), QString::number(MadePictures::Value(4, 2, 0)));
+        QCOMPARE(bench.compare.GetMousePosition(), QPoint(4, 2));
+        QCOMPARE(changes.size(), 1);
+        view.Move(QPointF(-0.1, 2));
+        QCOMPARE(bench.compare.GetPixelString(), QString());
+    }
+
+    void framesAreBrowsed()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 12));
+        QSignalSpy counts(&bench.main, SIGNAL(signalCurrentFileFrameNumber(int)));
+        bench.main.SetImage(11);
+        QTRY_COMPARE(FirstSample(bench.main), 11000);
+        const int shown = bench.shown.size();
+        bench.main.SetImage(12);
+        bench.main.SetImage(-1);
+        bench.main.SetImage(11);
+        bench.main.SetImage(3);
+        QTRY_COMPARE(FirstSample(bench.main), 3000);
+        QCOMPARE(bench.shown.size(), shown + 1);
+        QCOMPARE(counts.size(), 0);
+        // Levels were found in the first frame.
+        QCOMPARE(bench.main.GetImageCore()->GetRightLevel(), 65);
+    }
+
+    void stepsAreDoneToTheSamplesAndUndone()
+    {
+        PictureBench bench;
+        View view;
+        QVERIFY(bench.Open("numbers.tif", QSize(6, 4)));
+        QUndoStack *steps = bench.main.Document()->UndoStack();
+        bench.main.slotRotateImage(RotateBy90);
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("4x6"));
+        QCOMPARE(FirstSample(bench.main), MadePictures::Value(0, 3, 0));
+        QCOMPARE(bench.main.GetRotateDegree(), 90);
+        bench.main.slotCrop(1, 2, 2, 3, false);
+        QCOMPARE(steps->count(), 1);
+        bench.main.slotCrop(1, 2, 2, 3, true);
+        QTRY_COMPARE(bench.main.GetFileInfo(), QString("numbers.tif  2x3"));
+        QCOMPARE(FirstSample(bench.main), MadePictures::Value(2, 2, 0));
+        bench.main.slotRotateImage(FlipHorizontal);
+        QTRY_COMPARE(FirstSample(bench.main), MadePictures::Value(2, 1, 0));
+        QCOMPARE(steps->undoText(), QString("Flip"));
+        steps->undo();
+        QTRY_COMPARE(FirstSample(bench.main), MadePictures::Value(2, 2, 0));
+        steps->setIndex(0);
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("6x4"));
+        QCOMPARE(FirstSample(bench.main), 0);
+        QCOMPARE(bench.main.GetRotateDegree(), 0);
+        steps->setIndex(3);
+        QTRY_COMPARE(FirstSample(bench.main), MadePictures::Value(2, 1, 0));
+    }
+
+    void aPictureThatCannotBeReadLeavesTheOneShown()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("good.tif", QSize(6, 4), 3));
+        MadePictures::WriteBytes(bench.Path("bad.tif"), QByteArray("II*\0\x08\0\0\0", 8));
+        bench.desk.Open({ bench.Path("bad.tif") }, &bench.main);
+        QVERIFY(bench.faults.wait());
+        QVERIFY2(bench.FirstFault().startsWith("\u201cbad.tif\u201d cannot be read:"),
+                 qPrintable(bench.FirstFault()));
+        QCOMPARE(bench.main.GetFileName(), QString("good.tif"));
+        QCOMPARE(bench.shelf.Documents().size(), 1);
+        bench.main.SetImage(2); // it is still alive
+        QTRY_COMPARE(FirstSample(bench.main), 2000);
+    }
+
+    void aDeletedFileIsBrowsedOnAndToldOnce()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 3));
+        QVERIFY(QFile::remove(bench.Path("stack.tif")));
+        bench.main.SetImage(1);
+        QTRY_COMPARE(FirstSample(bench.main), 1000);
+        QCOMPARE(bench.LastMessage(),
+                 QString("\u201cstack.tif\u201d was deleted or moved. It stays open; save it to keep it."));
+        bench.main.SetImage(2);
+        QTRY_COMPARE(FirstSample(bench.main), 2000);
+        QCOMPARE(bench.messages.size(), 1);
+    }
+
+    void whatIsSeenIsSavedAndOpensTheSame()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 3));
+        bench.main.SetImage(1);
+        bench.main.slotRotateImage(FlipVertical);
+        QTRY_COMPARE(FirstSample(bench.main), MadePictures::Value(0, 3, 1));
+        const Picture seen = bench.main.Shown().samples;
+        for (const char *name : { "one.tif", "one.fits", "one.png" }) {
+            bench.main.SaveAs(bench.Path(name), false);
+            QTRY_COMPARE(bench.LastMessage(), QString("\u201c%1\u201d was saved.").arg(name));
+            bench.desk.Open({ bench.Path(name) }, &bench.compare);
+            QTRY_COMPARE(bench.compare.GetFileName(), QString(name));
+            QVERIFY(bench.compare.Shown().samples == seen);
+        }
+        bench.main.SaveAs(bench.Path("all.tif"), true);
+        QTRY_COMPARE(bench.LastMessage(), QString("\u201call.tif\u201d was saved."));
+        QCOMPARE(MadePictures::Frames(bench.Path("all.tif")), 3);
+    }
+
+    void savingOverTheOpenFileShowsTheNewOne()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 3));
+        bench.main.slotRotateImage(RotateBy90);
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("4x6"));
+        bench.main.SaveAs(bench.Path("stack.tif"), false);
+        QTRY_COMPARE(bench.main.Shown().info.frames, 1);
+        QCOMPARE(bench.main.GetImageSizeString(), QString("4x6"));
+        QCOMPARE(FirstSample(bench.main), MadePictures::Value(0, 3, 0));
+        QVERIFY(bench.main.Document()->Edit().IsNone());
+        QVERIFY(!bench.main.Document()->UndoStack()->canUndo());
+        QCOMPARE(bench.messages.size(), 1); // nobody is told that the file was replaced
+    }
+
+    void changedLevelsShowAtOnce()
+    {
+        PictureBench bench;
+        QObject::connect(&bench.levels, SIGNAL(signalChanged()), &bench.main, SLOT(slotLevelsChanged()));
+        QVERIFY(bench.Open("numbers.tif", QSize(6, 4)));
+        bench.levels.SetSetting(16, { LevelsMode::Manual, 10, 520, 1.0 });
+        QTRY_COMPARE(bench.main.GetImageCore()->GetRightLevel(), 520);
+        QCOMPARE(qGray(bench.main.Shown().image.pixel(0, 3)), (60 - 10) / 2);
+        bench.levels.SetSetting(16, LevelsSetting::Default(16));
+        QTRY_COMPARE(bench.main.GetImageCore()->GetRightLevel(), 65);
+    }
+
+    void closingTakesThePictureAway()
+    {
+        PictureBench bench;
+        QSignalSpy resets(&bench.main, SIGNAL(signalResetImageInfo()));
+        QSignalSpy counts(&bench.main, SIGNAL(signalCurrentFileFrameNumber(int)));
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 3));
+        bench.main.CloseImage();
+        QVERIFY(bench.main.IsNonImage());
+        QVERIFY(bench.shown.last().first().value<QImage>().isNull());
+        QCOMPARE(resets.size(), 1);
+        QCOMPARE(counts.last().first().toInt(), 0);
+        QCOMPARE(bench.main.GetFileInfo(), QString());
+    }
+
+    void theCropFrameComesOnDemandAndGoesWithThePicture()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("one.tif", QSize(6, 4)));
+        QSignalSpy crop(&bench.main, SIGNAL(signalSetCropState(int, bool)));
+        bench.main.slotImageCrop();
+        QCOMPARE(crop.takeLast(), QVariantList({ 0, true }));
+        QVERIFY(bench.Open("two.tif", QSize(6, 4)));
+        QCOMPARE(crop.takeLast(), QVariantList({ 0, false }));
+    }
+
+private:
+    static int FirstSample(const OpenedPicture &picture)
+    {
+        const Picture &samples = picture.Shown().samples;
+        return samples.IsNull() ? -1 : samples.Samples<quint16>(0)[0];
+    }
+};
+
+GUARDED_TEST_MAIN(OpenedPictureTest)
+#include "openedpicturetest.moc"

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pictureedit.h"
+#include "guardedtest.h"
+#include "viewcodes.h"
+
+namespace {
+
+Picture Numbered(int width, int height)
+{
+    Picture picture(width, height, 1, SampleType::U16);
+    for (int i = 0; i < width * height; ++i)
+        picture.Samples<quint16>(0)[i] = quint16(i);
+    return picture;
+}
+
+/// A command of the user done sample by sample.
+Picture Turned(const Picture &from, int command)
+{
+    const QSize size = command == RotateBy90 ? from.Size().transposed() : from.Size();
+    Picture to(size.width(), size.height(), 1, SampleType::U16);
+    for (int y = 0; y < from.Height(); ++y) {
+        for (int x = 0; x < from.Width(); ++x) {
+            QPoint place(x, y);
+            if (command == RotateBy90)
+                place = QPoint(from.Height() - 1 - y, x);
+            else if (command == FlipHorizontal)
+                place.setX(from.Width() - 1 - x);
+            else
+                place.setY(from.Height() - 1 - y);
+            to.Samples<quint16>(place.y())[place.x()] = from.Samples<quint16>(y)[x];
+        }
+    }
+    return to;
+}
+
+Picture Part(const Picture &from, const QRect &region)
+{
+    Picture to(region.width(), region.height(), 1, SampleType::U16);
+    for (int y = 0; y < to.Height(); ++y) {
+        for (int x = 0; x < to.Width(); ++x)
+            to.Samples<quint16>(y)[x] = from.Samples<quint16>(region.top() + y)[region.left() + x];
+    }
+    return to;
+}
+
+} // namespace
+
+/// Any row of steps gives what doing them one by one gives.
+class PictureEditTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void stepsComeOutAsDoneOneByOne()
+    {
+        const Picture frame = Numbered(17, 11);
+        const int commands = 4; // the three commands, and a crop
+        for (int sequence = 0; sequence < commands * commands * commands * commands * commands; ++sequence) {
+            PictureEdit edit;
+            Picture expected = frame;
+            for (int rest = sequence, step = 0; step < 5; rest /= commands, ++step) {
+                const int command = rest % commands;
+                if (command < 3) {
+                    edit = edit.Turned(command);
+                    expected = Turned(expected, command);
+                } else {
+                    const QRect crop = QRect(QPoint(0, 0), expected.Size()).adjusted(1, 0, -1, -1);
+                    edit = edit.Cropped(crop, frame.Size());
+                    expected = Part(expected, crop);
+                }
+            }
+            QCOMPARE(edit.SeenSize(frame.Size()), expected.Size());
+            QVERIFY2(edit.Applied(frame) == expected, qPrintable(QString::number(sequence)));
+        }
+    }
+
+    void aCropOutsideOrOfEverythingIsNone()
+    {
+        const QSize size(8, 6);
+        PictureEdit edit;
+        QVERIFY(edit.IsNone());
+        QCOMPARE(edit.Cropped(QRect(8, 0, 3, 3), size), edit);
+        QCOMPARE(edit.Cropped(QRect(), size), edit);
+        QCOMPARE(edit.Cropped(QRect(-5, -5, 100, 100), size), edit);
+        QCOMPARE(edit.Cropped(QRect(-5, 2, 7, 100), size).SeenSize(size), QSize(2, 4));
+    }
+
+    void aFrameTooSmallForTheCropGivesNothing()
+    {
+        const PictureEdit edit = PictureEdit().Cropped(QRect(10, 5, 4, 4), QSize(20, 20));
+        QVERIFY(edit.Applied(Numbered(10, 20)).IsNull());
+        QCOMPARE(edit.Applied(Numbered(12, 20)).Size(), QSize(2, 4));
+    }
+};
+
+GUARDED_TEST_MAIN(PictureEditTest)
+#include "pictureedittest.moc"

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "picturedialogs.h"
+
+#include "faultnotice.h"
+#include "informationdialog.h"
+#include "openedpicture.h"
+#include "picturedesk.h"
+#include "picturedocument.h"
+#include "pictureloader.h"
+#include "savedialog.h"
+#include "workbenchservices.h"
+#include "workspace.h"
+
+#include <QFileInfo>
+
+namespace {
+
+QString OpenFilter()
+{
+    QStringList patterns;
+    for (const PictureFormat format : { PictureFormat::Tiff, PictureFormat::Fits, PictureFormat::Png,
+                                        PictureFormat::Jpeg, PictureFormat::Bmp }) {
+        for (const QString &suffix : FormatSuffixes(format))
+            patterns << "*." + suffix;
+    }
+    return PictureDialogs::tr("Pictures (%1)").arg(patterns.join(' '));
+}
+
+QString SuggestedPath(const PictureDocument *document)
+{
+    const QFileInfo file(document->Path());
+    return file.path() + '/' + file.completeBaseName();
+}
+
+} // namespace
+
+PictureDialogs::PictureDialogs(WorkbenchServices *services, QWidget *window)
+    : QObject(window)
+    , m_services(services)
+    , m_window(window)
+    , m_faultNotice(new FaultNotice(window))
+{
+    for (const OpenedPicture *picture :
+         { services->Desk()->MainPicture(), services->Desk()->ComparePicture() }) {
+        connect(picture, SIGNAL(signalSaveAsWanted()), this, SLOT(slotAskWhereToSave()));
+        connect(picture, SIGNAL(signalInformationWanted()), this, SLOT(slotShowInformation()));
+    }
+    connect(services->GetWorkspace(), SIGNAL(signalSaveComparisonWanted(QImage)), this,
+            SLOT(slotAskWhereToSaveComparison(QImage)));
+    connect(services->Desk(), SIGNAL(signalFault(QString)), m_faultNotice, SLOT(slotShowFault(QString)));
+}
+
+void PictureDialogs::slotAskForFiles()
+{
+    auto *dialog = new QFileDialog(m_window, tr("Open Pictures"));
+    dialog->setObjectName("OpenDialog");
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    dialog->setNameFilters({ OpenFilter(), tr("All files (*)") });
+    if (const PictureDocument *shown = m_services->Desk()->MainPicture()->Document())
+        dialog->setDirectory(QFileInfo(shown->Path()).path());
+    connect(dialog, SIGNAL(filesSelected(QStringList)), this, SLOT(slotOpenFiles(QStringList)));
+    dialog->open();
+}
+
+void PictureDialogs::slotOpenFiles(const QStringList &paths)
+{
+    m_services->Desk()->Open(paths, m_services->GetWorkspace()->PlaceForPictures());
+}
+
+void PictureDialogs::slotAskWhereToSave()
+{
+    m_pictureToSave = qobject_cast<OpenedPicture *>(sender());
+    SaveDialog::Subject subject;
+    subject.suggestedPath = SuggestedPath(m_pictureToSave->Document());
+    subject.type = m_pictureToSave->Shown().samples.Type();
+    subject.frames = m_pictureToSave->Shown().info.frames;
+    auto *dialog = new SaveDialog(subject, m_window);
+    connect(dialog, SIGNAL(accepted()), this, SLOT(slotSavePicture()));
+    dialog->open();
+}
+
+void PictureDialogs::slotSavePicture()
+{
+    const auto *dialog = qobject_cast<SaveDialog *>(sender());
+    if (!m_pictureToSave->IsNonImage())
+        m_pictureToSave->SaveAs(dialog->Path(), dialog->AllFrames());
+}
+
+void PictureDialogs::slotAskWhereToSaveComparison(const QImage &image)
+{
+    m_comparison = image;
+    SaveDialog::Subject subject;
+    const PictureDocument *document = m_services->Desk()->MainPicture()->Document();
+    subject.suggestedPath = tr("%1 compared").arg(SuggestedPath(document));
+    auto *dialog = new SaveDialog(subject, m_window);
+    connect(dialog, SIGNAL(accepted()), this, SLOT(slotSaveComparison()));
+    dialog->open();
+}
+
+void PictureDialogs::slotSaveComparison()
+{
+    SaveRequest request;
+    request.image = m_comparison;
+    request.target = qobject_cast<SaveDialog *>(sender())->Path();
+    m_services->Loader()->Save(request);
+}
+
+void PictureDialogs::slotShowInformation()
+{
+    const auto *picture = qobject_cast<OpenedPicture *>(sender());
+    InformationDialog::ShowPicture(picture->Document()->Description(), picture->Shown().info.metadata,
+                                   m_window);
+}

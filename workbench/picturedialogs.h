@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QImage>
+#include <QObject>
+
+class FaultNotice;
+class OpenedPicture;
+class SaveDialog;
+class WorkbenchServices;
+
+/// Asks the user which files to open and where to save, and shows what went wrong. None of its windows holds up the live
+/// picture. GUI thread.
+class PictureDialogs : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// `services` are borrowed and outlive this object; `window` owns it.
+    PictureDialogs(WorkbenchServices *services, QWidget *window);
+
+public slots:
+    void slotAskForFiles();
+    void slotOpenFiles(const QStringList &paths);
+
+private slots:
+    void slotAskWhereToSave();
+    void slotAskWhereToSaveComparison(const QImage &image);
+    void slotSavePicture();
+    void slotSaveComparison();
+    void slotShowInformation();
+
+private:
+    WorkbenchServices *m_services;
+    QWidget *m_window;
+    FaultNotice *m_faultNotice;
+    OpenedPicture *m_pictureToSave = nullptr;
+    QImage m_comparison;
+};

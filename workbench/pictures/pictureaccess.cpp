@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pictureaccess.h"
+
+#include "openpicture.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <sys/stat.h>
+
+namespace {
+
+QString Translate(const char *text) { return QCoreApplication::translate("PictureAccess", text); }
+
+} // namespace
+
+PictureAccess::PictureAccess(int mostOpenFiles, qint64 cacheBytes)
+    : m_mostOpenFiles(mostOpenFiles)
+    , m_cache(cacheBytes)
+{
+}
+
+bool PictureAccess::Identity::operator==(const Identity &other) const
+{
+    return device == other.device && inode == other.inode && size == other.size
+           && changedNs == other.changedNs;
+}
+
+PictureAccess::Identity PictureAccess::IdentityOf(const QString &path)
+{
+    constexpr qint64 nsPerSecond = 1000000000;
+    struct stat status = {};
+    Identity identity;
+    if (::stat(QFile::encodeName(path).constData(), &status) == 0) {
+        identity = { status.st_dev, status.st_ino, status.st_size,
+                     status.st_mtim.tv_sec * nsPerSecond + status.st_mtim.tv_nsec };
+    }
+    return identity;
+}
+
+PictureAccess::OpenFiles::iterator PictureAccess::Find(quint64 id)
+{
+    return std::find_if(m_files.begin(), m_files.end(),
+                        [id](const OpenFile &file) { return file.name.id == id; });
+}
+
+PictureFile *PictureAccess::Open(const FileName &name, QString &error)
+{
+    const auto present = Find(name.id);
+    if (present != m_files.end()) {
+        m_files.splice(m_files.begin(), m_files, present);
+        return m_files.front().file.get();
+    }
+    const Identity identity = IdentityOf(name.path);
+    std::unique_ptr<PictureFile> file = OpenPicture(name.path, error);
+    if (!file)
+        return nullptr;
+    // Frames that were kept are those of the file that was here before.
+    m_cache.RemoveFile(name.id);
+    m_files.push_front({ name, std::move(file), identity });
+    if (int(m_files.size()) > m_mostOpenFiles)
+        m_files.pop_back();
+    return m_files.front().file.get();
+}
+
+bool PictureAccess::ReadFrame(const FileName &name, int index, Picture &frame, QString &error)
+{
+    PictureFile *file = Open(name, error);
+    if (!file)
+        return false;
+    if (m_cache.Find(name.id, index, frame))
+        return true;
+    frame = Picture(); // its memory may belong to the cache
+    if (!file->ReadFrame(index, frame, error))
+        return false;
+    m_cache.Insert(name.id, index, frame);
+    return true;
+}
+
+QString PictureAccess::TakeNews(const FileName &name)
+{
+    const auto file = Find(name.id);
+    if (file == m_files.end())
+        return QString();
+    const Identity now = IdentityOf(file->name.path);
+    if (now == file->identity)
+        return QString();
+    const bool isSame = now.inode == file->identity.inode && now.device == file->identity.device;
+    const bool isGone = now.size < 0;
+    file->identity = now;
+    const QString fileName = QFileInfo(file->name.path).fileName();
+    if (isGone)
+        return Translate("\u201c%1\u201d was deleted or moved. It stays open; save it to keep it.")
+            .arg(fileName);
+    if (isSame)
+        return Translate("\u201c%1\u201d was changed on the disk. Open it again to see it as it is now.")
+            .arg(fileName);
+    return Translate(
+               "\u201c%1\u201d was replaced by another file. What you see is the old one; open it again to see the new one.")
+        .arg(fileName);
+}
+
+void PictureAccess::Close(quint64 id)
+{
+    m_cache.RemoveFile(id);
+    const auto file = Find(id);
+    if (file != m_files.end())
+        m_files.erase(file);
+}
+
+void PictureAccess::Rename(quint64 id, const QString &path)
+{
+    const auto file = Find(id);
+    if (file != m_files.end())
+        file->name.path = path;
+}

@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "picturedesk.h"
+
+#include "globalmanager.h"
+#include "openedpicture.h"
+#include "picturedocument.h"
+#include "pictureloader.h"
+#include "pictureshelf.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QUndoGroup>
+
+PictureDesk::PictureDesk(PictureLoader *loader, PictureShelf *shelf, OpenedPicture *mainPicture,
+                         OpenedPicture *comparePicture, QObject *parent)
+    : QObject(parent)
+    , m_loader(loader)
+    , m_shelf(shelf)
+    , m_main(mainPicture)
+    , m_compare(comparePicture)
+    , m_undoGroup(new QUndoGroup(this))
+{
+    connect(shelf, SIGNAL(signalFailed(PictureDocument *, QString)), this,
+            SLOT(slotFailed(PictureDocument *, QString)));
+    for (OpenedPicture *picture : { mainPicture, comparePicture }) {
+        connect(picture, SIGNAL(signalFailed(PictureDocument *, QString)), this,
+                SLOT(slotFailed(PictureDocument *, QString)));
+        connect(picture, SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
+    }
+    connect(mainPicture, SIGNAL(signalShown()), this, SLOT(slotMainShown()));
+    connect(comparePicture, SIGNAL(signalShown()), this, SLOT(slotUpdateUndo()));
+    connect(comparePicture, SIGNAL(signalGivenUp()), this, SLOT(slotCompareFailed()));
+    connect(shelf, SIGNAL(signalAdded(PictureDocument *)), this, SLOT(slotAdded(PictureDocument *)));
+    connect(loader, SIGNAL(signalSaved(QString, QString)), this, SLOT(slotSaved(QString, QString)));
+}
+
+void PictureDesk::Open(const QStringList &paths, OpenedPicture *place)
+{
+    PictureDocument *last = nullptr;
+    for (const QString &path : paths) {
+        PictureDocument *document = m_shelf->Find(path);
+        if (document)
+            Reread(document);
+        else
+            document = m_shelf->Add(path);
+        if (!QFileInfo(path).isDir())
+            last = document;
+    }
+    if (last)
+        Show(last, place);
+}
+
+void PictureDesk::Show(PictureDocument *document, OpenedPicture *place)
+{
+    m_isAskedFor = true;
+    if (place->WantedDocument() != document)
+        place->Show(document);
+    else if (place->Document() == document)
+        slotMainShown(); // it is there already
+}
+
+void PictureDesk::Close(PictureDocument *document)
+{
+    const bool isMain = m_main->WantedDocument() == document;
+    const bool isCompare = m_compare->WantedDocument() == document;
+    PictureDocument *next = m_shelf->Neighbour(document);
+    m_isAskedFor = false; // the one that takes its place is not
+    m_shelf->Remove(document);
+    if (isCompare || (isMain && next && next == m_compare->WantedDocument()))
+        emit signalCompareLost();
+    if (isMain && next)
+        m_main->Show(next);
+    if (m_shelf->IsEmpty()) {
+        m_main->CloseImage();
+        emit signalLastClosed();
+    }
+}
+
+void PictureDesk::CloseAll()
+{
+    const QVector<PictureDocument *> documents = m_shelf->Documents();
+    for (PictureDocument *document : documents)
+        m_shelf->Remove(document);
+    m_main->CloseImage();
+    m_compare->CloseImage();
+    emit signalLastClosed();
+}
+
+void PictureDesk::Rename(PictureDocument *document, const QString &name)
+{
+    if (name == document->Name())
+        return;
+    const QString path = QFileInfo(document->Path()).dir().filePath(name);
+    QFile file(document->Path());
+    QString reason;
+    if (name.isEmpty() || name.contains('/') || name == "." || name == "..")
+        reason = tr("that is no file name");
+    else if (QFileInfo::exists(path))
+        reason = tr("there is a file of that name already");
+    else if (!file.rename(path))
+        reason = file.errorString();
+
+    if (reason.isEmpty()) {
+        m_loader->Rename(document->File().id, path);
+        document->SetPath(path);
+        return;
+    }
+    emit document->signalChanged(); // the list takes the old name back
+    emit signalFault(
+        tr("\u201c%1\u201d was not renamed to \u201c%2\u201d: %3.").arg(document->Name(), name, reason));
+}
+
+bool PictureDesk::ChooseForLiveCompare()
+{
+    if (m_main->WantedDocument())
+        return true;
+    if (m_shelf->IsEmpty()) {
+        emit signalMessage(tr("Open a picture first: the live picture is compared with it."));
+        return false;
+    }
+    m_main->Show(m_shelf->Documents().last());
+    return true;
+}
+
+bool PictureDesk::ChooseForCompare()
+{
+    PictureDocument *left = m_main->WantedDocument();
+    PictureDocument *right = nullptr;
+    const QVector<PictureDocument *> chosen = m_shelf->Chosen();
+    if (chosen.size() == 2) {
+        left = chosen.contains(left) ? left : chosen.first();
+        right = chosen.first() == left ? chosen.last() : chosen.first();
+    } else if (left) {
+        right = PartnerOf(left);
+    }
+    if (!left || !right) {
+        emit signalMessage(tr("Open a second picture first: two are compared."));
+        return false;
+    }
+    if (left != m_main->WantedDocument())
+        m_main->Show(left);
+    m_compare->Show(right);
+    return true;
+}
+
+PictureDocument *PictureDesk::PartnerOf(const PictureDocument *document) const
+{
+    return m_before && m_before != document ? m_before.data() : m_shelf->Neighbour(document);
+}
+
+void PictureDesk::slotMainShown()
+{
+    if (m_shown != m_main->Document())
+        m_before = m_shown;
+    m_shown = m_main->Document();
+    slotUpdateUndo();
+    if (m_isAskedFor)
+        emit signalOpened();
+    m_isAskedFor = false;
+}
+
+/// A file that was never shown leaves the shelf again; one that was shown before stays.
+void PictureDesk::slotFailed(PictureDocument *document, QString error)
+{
+    if (!m_shelf->Find(static_cast<QObject *>(document)))
+        return; // told already
+    emit signalFault(error);
+    m_main->GiveUp(document);
+    m_compare->GiveUp(document);
+    if (document->Info().frames > 0)
+        return;
+    PictureDocument *next = m_shelf->Neighbour(document);
+    m_shelf->Remove(document);
+    if (m_main->WantedDocument())
+        return;
+    if (next)
+        m_main->Show(next);
+    else
+        m_isAskedFor = false;
+}
+
+void PictureDesk::slotCompareFailed()
+{
+    if (m_compare->IsNonImage())
+        emit signalCompareLost();
+}
+
+void PictureDesk::slotUpdateUndo()
+{
+    const bool isCompare = GlobalManager::GetInstance()->GetActiveImageManager() == m_compare;
+    const PictureDocument *document = (isCompare ? m_compare : m_main)->Document();
+    m_undoGroup->setActiveStack(document ? document->UndoStack() : nullptr);
+}
+
+void PictureDesk::slotAdded(PictureDocument *document) { m_undoGroup->addStack(document->UndoStack()); }
+
+void PictureDesk::slotSaved(QString target, QString error)
+{
+    if (!error.isEmpty()) {
+        emit signalFault(error);
+        return;
+    }
+    emit signalMessage(tr("\u201c%1\u201d was saved.").arg(QFileInfo(target).fileName()));
+    if (PictureDocument *document = m_shelf->Find(target))
+        Reread(document);
+}
+
+/// The file is another one now: what was done to the old one is in it, or is not wanted.
+void PictureDesk::Reread(PictureDocument *document)
+{
+    m_loader->Close(document->File().id);
+    document->Reset();
+    for (OpenedPicture *picture : { m_main, m_compare }) {
+        if (picture->WantedDocument() == document)
+            picture->Show(document);
+    }
+}

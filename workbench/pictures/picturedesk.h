@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+
+class OpenedPicture;
+class PictureDocument;
+class PictureLoader;
+class PictureShelf;
+class QUndoGroup;
+
+/// What the user does with opened pictures: opens and closes files, renames them, chooses which are compared. Which page
+/// is shown is not decided here. GUI thread.
+class PictureDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All are borrowed and outlive this object.
+    PictureDesk(PictureLoader *loader, PictureShelf *shelf, OpenedPicture *mainPicture,
+                OpenedPicture *comparePicture, QObject *parent = nullptr);
+
+    PictureShelf *Shelf() const { return m_shelf; }
+    OpenedPicture *MainPicture() const { return m_main; }
+    OpenedPicture *ComparePicture() const { return m_compare; }
+
+    /// The steps done to the picture that is worked on.
+    QUndoGroup *UndoGroup() const { return m_undoGroup; }
+
+    /// All go to the shelf; the last that is no folder is shown in `place`, the main or the compare picture. A file that
+    /// is open already is read anew.
+    void Open(const QStringList &paths, OpenedPicture *place);
+    void Show(PictureDocument *document, OpenedPicture *place);
+    /// The document's neighbour takes its place.
+    void Close(PictureDocument *document);
+    void CloseAll();
+    /// Renames the file on the disk; its folder stays.
+    void Rename(PictureDocument *document, const QString &name);
+
+    /// Sees to it that the main picture shows something to compare the live picture with; false when nothing is open.
+    bool ChooseForLiveCompare();
+    /// Lays out two pictures: those that are checked or selected in the list, else the main picture and the one before
+    /// it. False when there are no two.
+    bool ChooseForCompare();
+
+public slots:
+    /// Another picture is worked on.
+    void slotUpdateUndo();
+
+signals:
+    /// The main picture that the user asked for is ready.
+    void signalOpened();
+    /// The last picture was closed.
+    void signalLastClosed();
+    /// The second picture of a comparison is gone, or cannot be shown.
+    void signalCompareLost();
+    /// A sentence for the status bar.
+    void signalMessage(QString text);
+    /// What the user asked for was not done, and why.
+    void signalFault(QString text);
+
+private slots:
+    void slotFailed(PictureDocument *document, QString error);
+    void slotMainShown();
+    void slotCompareFailed();
+    void slotAdded(PictureDocument *document);
+    void slotSaved(QString target, QString error);
+
+private:
+    void Reread(PictureDocument *document);
+    PictureDocument *PartnerOf(const PictureDocument *document) const;
+
+    PictureLoader *m_loader;
+    PictureShelf *m_shelf;
+    OpenedPicture *m_main;
+    OpenedPicture *m_compare;
+    QUndoGroup *m_undoGroup;
+    bool m_isAskedFor = false;          ///< the next main picture is one that the user asked for
+    QPointer<PictureDocument> m_shown;  ///< in the main picture
+    QPointer<PictureDocument> m_before; ///< was shown there before
+};

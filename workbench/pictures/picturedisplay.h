@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "levelsconverter.h"
+#include "picture.h"
+#include "samplerange.h"
+
+class LevelsModel;
+struct LevelsSetting;
+
+/// Makes the picture for the screen of the samples of a file, whatever their type: unsigned 8 and 16 bit as the live
+/// picture is shown, all others between levels found from the finite samples; what is no number is black.
+/// One for one thread; the model may be changed meanwhile.
+class PictureDisplay
+{
+public:
+    /// `levels` is borrowed and outlives this object.
+    explicit PictureDisplay(const LevelsModel *levels);
+
+    /// Automatic levels are those of `range` when it is known. On return `range` is what was used. Throws
+    /// std::bad_alloc when there is no memory.
+    QImage Make(const Picture &samples, SampleRange &range);
+
+private:
+    QImage MakeUnsigned(const Picture &samples, SampleRange &range);
+    QImage MakeScaled(const Picture &samples, SampleRange &range) const;
+
+    const LevelsModel *m_levels;
+    LevelsConverter m_converter;
+};

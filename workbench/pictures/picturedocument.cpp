@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "picturedocument.h"
+
+#include <QFileInfo>
+#include <QUndoStack>
+
+/// One step from one state of the edit to another.
+class EditCommand : public QUndoCommand
+{
+public:
+    EditCommand(PictureDocument *document, const PictureEdit &after, const QString &text)
+        : QUndoCommand(text)
+        , m_document(document)
+        , m_before(document->Edit())
+        , m_after(after)
+    {
+    }
+
+    void undo() override { m_document->SetEdit(m_before); }
+    void redo() override { m_document->SetEdit(m_after); }
+
+private:
+    PictureDocument *m_document;
+    const PictureEdit m_before;
+    const PictureEdit m_after;
+};
+
+PictureDocument::PictureDocument(quint64 id, const QString &path, QObject *parent)
+    : QObject(parent)
+    , m_id(id)
+    , m_path(path)
+    , m_undoStack(new QUndoStack(this))
+{
+}
+
+QString PictureDocument::Name() const { return QFileInfo(m_path).fileName(); }
+
+void PictureDocument::SetPath(const QString &path)
+{
+    m_path = path;
+    emit signalChanged();
+}
+
+QString PictureDocument::Description() const
+{
+    if (m_info.frames == 0)
+        return m_path;
+    QStringList lines{ m_path };
+    const QString format = FormatName(m_info.format);
+    lines << (m_info.formatDetail.isEmpty() ? format : QString("%1 (%2)").arg(format, m_info.formatDetail));
+    lines << QString("%1x%2").arg(m_info.size.width()).arg(m_info.size.height());
+    lines << (m_info.channels == 3 ? tr("RGB, %1").arg(SampleTypeName(m_info.sampleType))
+                                   : SampleTypeName(m_info.sampleType));
+    if (m_info.frames > 1)
+        lines << tr("%1 frames").arg(m_info.frames);
+    return lines.join('\n');
+}
+
+void PictureDocument::SetThumbnail(const QImage &thumbnail)
+{
+    m_thumbnail = thumbnail;
+    emit signalChanged();
+}
+
+void PictureDocument::SetChecked(bool checked)
+{
+    if (m_isChecked == checked)
+        return;
+    m_isChecked = checked;
+    emit signalChanged();
+}
+
+void PictureDocument::PushEdit(const PictureEdit &edit, const QString &text)
+{
+    if (edit != m_edit)
+        m_undoStack->push(new EditCommand(this, edit, text));
+}
+
+void PictureDocument::Reset()
+{
+    m_undoStack->clear();
+    m_edit = PictureEdit();
+    m_range = SampleRange();
+}
+
+void PictureDocument::SetEdit(const PictureEdit &edit)
+{
+    m_edit = edit;
+    emit signalEdited();
+}

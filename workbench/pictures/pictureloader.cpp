@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pictureloader.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+#include <new>
+
+namespace {
+
+constexpr int MostOpenFiles = 8;
+constexpr qint64 CacheBytes = 256 << 20;
+constexpr QSize ThumbnailSize(128, 96);
+
+QString MemoryText(const QString &path)
+{
+    return QCoreApplication::translate(
+               "PictureLoader",
+               "There is not enough memory for \u201c%1\u201d. Close other pictures or programs.")
+        .arg(QFileInfo(path).fileName());
+}
+
+/// Calls `work`; a lack of memory is said in `error`.
+template <typename Function>
+void Guarded(const QString &path, QString &error, Function work)
+{
+    try {
+        work();
+    } catch (const std::bad_alloc &) {
+        error = MemoryText(path);
+    }
+}
+
+} // namespace
+
+PictureLoader::PictureLoader(const LevelsModel *levels, QObject *parent)
+    : QThread(parent)
+    , m_access(MostOpenFiles, CacheBytes)
+    , m_display(levels)
+{
+    qRegisterMetaType<LoadedPicture>();
+    qRegisterMetaType<PictureThumbnail>();
+    setObjectName("PictureLoader");
+    start();
+}
+
+PictureLoader::~PictureLoader()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_ends = true;
+    }
+    m_changed.notify_all();
+    wait();
+}
+
+quint64 PictureLoader::Load(PictureRequest request)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    request.ticket = ++m_lastTicket;
+    m_requests.insert(request.place, request);
+    m_changed.notify_all();
+    return request.ticket;
+}
+
+void PictureLoader::MakeThumbnail(const PictureAccess::FileName &file)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_thumbnails.push_back(file);
+    m_changed.notify_all();
+}
+
+void PictureLoader::Save(const SaveRequest &request)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_saves.emplace_back(request);
+    m_changed.notify_all();
+}
+
+void PictureLoader::Close(quint64 id) { Rename(id, QString()); }
+
+void PictureLoader::Rename(quint64 id, const QString &path)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_fileChanges.append({ id, path });
+    m_changed.notify_all();
+}
+
+PictureLoader::Work PictureLoader::NextWork() const
+{
+    if (!m_fileChanges.isEmpty())
+        return Work::Files;
+    if (!m_requests.isEmpty() && !m_ends)
+        return Work::Show;
+    if (!m_saves.empty())
+        return Work::Save;
+    if (m_ends)
+        return Work::End;
+    return m_thumbnails.empty() ? Work::None : Work::Thumbnail;
+}
+
+PictureLoader::Work PictureLoader::WaitForWork()
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    m_changed.wait(lock, [this] { return NextWork() != Work::None; });
+    return NextWork();
+}
+
+void PictureLoader::run()
+{
+    for (Work work = WaitForWork(); work != Work::End; work = WaitForWork()) {
+        switch (work) {
+        case Work::Files:
+            ChangeFiles();
+            break;
+        case Work::Show:
+            LoadNext();
+            break;
+        case Work::Save:
+            SaveStep();
+            break;
+        default:
+            ThumbnailNext();
+            break;
+        }
+    }
+}
+
+void PictureLoader::ChangeFiles()
+{
+    QVector<PictureAccess::FileName> changes;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        changes.swap(m_fileChanges);
+    }
+    for (const PictureAccess::FileName &change : qAsConst(changes)) {
+        if (change.path.isEmpty())
+            m_access.Close(change.id);
+        else
+            m_access.Rename(change.id, change.path);
+    }
+}
+
+void PictureLoader::LoadNext()
+{
+    PictureRequest request;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        // The one asked for first, so that no place waits for ever while another is browsed.
+        const auto oldest = std::min_element(
+            m_requests.begin(), m_requests.end(),
+            [](const PictureRequest &one, const PictureRequest &other) { return one.ticket < other.ticket; });
+        request = *oldest;
+        m_requests.erase(oldest);
+    }
+    emit signalLoaded(Loaded(request));
+}
+
+LoadedPicture PictureLoader::Loaded(const PictureRequest &request)
+{
+    LoadedPicture loaded;
+    loaded.request = request;
+    loaded.range = request.range;
+    Guarded(request.file.path, loaded.error, [&] {
+        Picture frame;
+        if (!m_access.ReadFrame(request.file, request.frame, frame, loaded.error))
+            return;
+        loaded.fileSize = frame.Size();
+        loaded.samples = request.edit.Applied(frame);
+        if (loaded.samples.IsNull()) {
+            loaded.error = tr("Frame %1 is too small to be cropped like the others. Undo the crop to see it.")
+                               .arg(request.frame + 1);
+            return;
+        }
+        loaded.image = m_display.Make(loaded.samples, loaded.range);
+        const PictureFile *file = m_access.Open(request.file, loaded.error);
+        loaded.info = file->Info();
+        loaded.frameDescription = file->FrameDescription(request.frame);
+    });
+    loaded.news = m_access.TakeNews(request.file);
+    return loaded;
+}
+
+void PictureLoader::SaveStep()
+{
+    SaveTask *task = nullptr;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        task = &m_saves.front(); // others only add behind it, which moves nothing
+    }
+    bool goesOn = false;
+    QString error;
+    Guarded(task->Request().target, error, [&] { goesOn = task->Step(m_access, m_display); });
+    if (goesOn)
+        return;
+    if (error.isEmpty())
+        error = task->Error();
+    const QString target = task->Request().target;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_saves.pop_front();
+    }
+    emit signalSaved(target, error);
+}
+
+void PictureLoader::ThumbnailNext()
+{
+    PictureAccess::FileName file;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        file = m_thumbnails.front();
+        m_thumbnails.pop_front();
+    }
+    emit signalThumbnail(Thumbnail(file));
+}
+
+PictureThumbnail PictureLoader::Thumbnail(const PictureAccess::FileName &file)
+{
+    PictureThumbnail thumbnail;
+    thumbnail.id = file.id;
+    Guarded(file.path, thumbnail.error, [&] {
+        // Opened apart, so that a long list does not push out the files that are looked at.
+        PictureAccess access(1, 0);
+        Picture frame;
+        if (!access.ReadFrame(file, 0, frame, thumbnail.error))
+            return;
+        SampleRange range;
+        thumbnail.image = ThumbnailOf(m_display.Make(frame, range));
+        thumbnail.info = access.Open(file, thumbnail.error)->Info();
+    });
+    return thumbnail;
+}
+
+QImage PictureLoader::ThumbnailOf(const QImage &image)
+{
+    return image.scaled(image.size().scaled(ThumbnailSize, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)),
+                        Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}

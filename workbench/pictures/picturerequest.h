@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "pictureaccess.h"
+#include "pictureedit.h"
+#include "samplerange.h"
+
+#include <QImage>
+#include <QMetaType>
+
+/// A frame of a file, wanted for the screen.
+struct PictureRequest
+{
+    quint64 ticket = 0; ///< grows from request to request
+    int place = 0; ///< where it is to be shown; a newer request for the same place replaces one that waits
+    PictureAccess::FileName file;
+    int frame = 0;
+    PictureEdit edit;
+    SampleRange range; ///< of the frame before, which automatic levels keep
+};
+
+/// The answer to a request: either `error` says why there is none, or all of it is there.
+struct LoadedPicture
+{
+    PictureRequest request;
+    QString error;
+    QString news; ///< what happened to the file meanwhile, or what is odd about it; may be empty
+    PictureInfo info;
+    QString frameDescription;
+    QSize fileSize;  ///< of the frame in the file
+    Picture samples; ///< as seen, after the edit
+    QImage image;    ///< the same, for the screen
+    SampleRange range;
+};
+Q_DECLARE_METATYPE(LoadedPicture)
+
+/// A small picture of a file for the list.
+struct PictureThumbnail
+{
+    quint64 id = 0;
+    QString error; ///< why there is none
+    PictureInfo info;
+    QImage image;
+};
+Q_DECLARE_METATYPE(PictureThumbnail)

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "savetask.h"
+
+#include "createpicture.h"
+#include "picturedisplay.h"
+
+#include <QCoreApplication>
+
+#include <cstring>
+
+namespace {
+
+QString Translate(const char *text) { return QCoreApplication::translate("SaveTask", text); }
+
+bool HoldsSamples(PictureFormat format, SampleType type)
+{
+    switch (format) {
+    case PictureFormat::Png:
+        return type == SampleType::U8 || type == SampleType::U16;
+    case PictureFormat::Jpeg:
+        return type == SampleType::U8;
+    default:
+        return true;
+    }
+}
+
+Picture FromImage(const QImage &image)
+{
+    const int channels = image.format() == QImage::Format_Grayscale8 ? 1 : 3;
+    Picture picture(image.width(), image.height(), channels, SampleType::U8);
+    for (int y = 0; y < image.height(); ++y)
+        std::memcpy(picture.Row(y), image.constScanLine(y), size_t(picture.BytesPerRow()));
+    return picture;
+}
+
+} // namespace
+
+SaveTask::SaveTask(const SaveRequest &request)
+    : m_request(request)
+{
+}
+
+bool SaveTask::Step(PictureAccess &access, PictureDisplay &display)
+{
+    if (!m_writer && !Begin(access))
+        return false;
+    Picture frame;
+    if (!Frame(access, display, frame) || !m_writer->Append(frame, m_error)) {
+        m_writer.reset();
+        return false;
+    }
+    if (++m_framesDone < m_request.frameCount)
+        return true;
+    m_writer->Commit(m_error);
+    m_writer.reset();
+    return false;
+}
+
+bool SaveTask::Begin(PictureAccess &access)
+{
+    SaveOptions options;
+    options.frameCount = m_request.frameCount;
+    options.compress = m_request.compress;
+    if (m_request.image.isNull()) {
+        const PictureFile *file = access.Open(m_request.file, m_error);
+        if (!file)
+            return false;
+        options.dpiX = file->Info().dpiX;
+        options.dpiY = file->Info().dpiY;
+        if (m_request.edit.GetOrientation().SwapsSides())
+            std::swap(options.dpiX, options.dpiY);
+        options.metadata = file->Info().metadata;
+    }
+    m_writer = CreatePicture(m_request.target, options, m_error);
+    return m_writer != nullptr;
+}
+
+bool SaveTask::Frame(PictureAccess &access, PictureDisplay &display, Picture &frame)
+{
+    if (!m_request.image.isNull()) {
+        frame = FromImage(m_request.image);
+        return true;
+    }
+    const int index = m_request.firstFrame + m_framesDone;
+    if (!access.ReadFrame(m_request.file, index, frame, m_error))
+        return false;
+    frame = m_request.edit.Applied(frame);
+    if (frame.IsNull()) {
+        m_error =
+            Translate(
+                "Frame %1 is too small to be cropped like the others; undo the crop or save a single frame.")
+                .arg(index + 1);
+        return false;
+    }
+    if (!HoldsSamples(FormatOfName(m_request.target), frame.Type()))
+        frame = FromImage(display.Make(frame, m_request.range));
+    return true;
+}
+
+QString SavingLossText(PictureFormat format, SampleType type)
+{
+    const QString holds = HoldsSamples(format, type)
+                              ? QString()
+                              : Translate("The %1 samples become 8 bits, with the levels of the screen.")
+                                    .arg(SampleTypeName(type));
+    if (format != PictureFormat::Jpeg)
+        return holds;
+    const QString changes = Translate("JPEG changes every sample a little.");
+    return holds.isEmpty() ? changes : changes + ' ' + holds;
+}

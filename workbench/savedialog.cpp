@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "savedialog.h"
+
+#include "pictureformat.h"
+#include "savetask.h"
+
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace {
+
+constexpr PictureFormat formats[] = { PictureFormat::Tiff, PictureFormat::Png, PictureFormat::Jpeg,
+                                      PictureFormat::Fits };
+
+QString FilterOf(PictureFormat format)
+{
+    return QString("%1 (*.%2)").arg(FormatName(format), FormatSuffixes(format).join(" *."));
+}
+
+PictureFormat FormatOfFilter(const QString &filter)
+{
+    for (const PictureFormat format : formats) {
+        if (filter == FilterOf(format))
+            return format;
+    }
+    return PictureFormat::Unknown;
+}
+
+bool HoldsStacks(PictureFormat format)
+{
+    return format == PictureFormat::Tiff || format == PictureFormat::Fits;
+}
+
+} // namespace
+
+SaveDialog::SaveDialog(const Subject &subject, QWidget *parent)
+    : QFileDialog(parent, tr("Save Image As"), QFileInfo(subject.suggestedPath).path())
+    , m_type(subject.type)
+    , m_frames(subject.frames)
+    , m_loss(new QLabel(this))
+    , m_allFrames(new QCheckBox(tr("All %1 frames").arg(subject.frames), this))
+{
+    setObjectName("SaveDialog");
+    setAttribute(Qt::WA_DeleteOnClose);
+    setOption(QFileDialog::DontUseNativeDialog);
+    setAcceptMode(QFileDialog::AcceptSave);
+    QStringList filters;
+    for (const PictureFormat format : formats)
+        filters << FilterOf(format);
+    setNameFilters(filters);
+    setDefaultSuffix(FormatSuffixes(formats[0]).first());
+    selectFile(QFileInfo(subject.suggestedPath).fileName() + '.' + defaultSuffix());
+
+    m_loss->setObjectName("labelLoss");
+    m_loss->setWordWrap(true);
+    m_allFrames->setObjectName("checkBoxAllFrames");
+    m_allFrames->setVisible(m_frames > 1);
+    auto *grid = qobject_cast<QGridLayout *>(layout());
+    grid->addWidget(m_allFrames, grid->rowCount(), 1);
+    grid->addWidget(m_loss, grid->rowCount(), 1, 1, -1);
+
+    connect(this, SIGNAL(filterSelected(QString)), this, SLOT(slotFilterSelected(QString)));
+    connect(findChild<QLineEdit *>("fileNameEdit"), SIGNAL(textChanged(QString)), this,
+            SLOT(slotUpdateNotes()));
+    slotUpdateNotes();
+}
+
+/// The name follows the format that was chosen.
+void SaveDialog::slotFilterSelected(const QString &filter)
+{
+    const QString suffix = FormatSuffixes(FormatOfFilter(filter)).first();
+    setDefaultSuffix(suffix);
+    const QFileInfo name(Path());
+    const bool hasSuffix = FormatOfName(name.fileName()) != PictureFormat::Unknown;
+    selectFile((hasSuffix ? name.completeBaseName() : name.fileName()) + '.' + suffix);
+    slotUpdateNotes();
+}
+
+void SaveDialog::slotUpdateNotes()
+{
+    const PictureFormat format = FormatOfName(Path());
+    m_loss->setText(SavingLossText(format, m_type));
+    m_allFrames->setEnabled(HoldsStacks(format));
+}
+
+QString SaveDialog::Path() const { return selectedFiles().value(0); }
+
+bool SaveDialog::AllFrames() const
+{
+    return m_allFrames->isVisibleTo(this) && m_allFrames->isEnabled() && m_allFrames->isChecked();
+}

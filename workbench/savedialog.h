@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "sampletype.h"
+
+#include <QFileDialog>
+
+class QCheckBox;
+class QLabel;
+
+/// Asks where to save a picture, and says what the chosen format cannot keep of it. GUI thread.
+class SaveDialog : public QFileDialog
+{
+    Q_OBJECT
+
+public:
+    /// What is to be saved.
+    struct Subject
+    {
+        QString suggestedPath; ///< without a suffix
+        SampleType type = SampleType::U8;
+        int frames = 1;
+    };
+
+    SaveDialog(const Subject &subject, QWidget *parent);
+
+    /// The path that was chosen.
+    QString Path() const;
+    /// The whole stack rather than the frame that is shown.
+    bool AllFrames() const;
+
+private slots:
+    void slotFilterSelected(const QString &filter);
+    void slotUpdateNotes();
+
+private:
+    const SampleType m_type;
+    const int m_frames;
+    QLabel *m_loss;
+    QCheckBox *m_allFrames;
+};
