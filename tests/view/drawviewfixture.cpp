@@ -117,7 +117,9 @@ void DrawViewFixture::SendWheel(const QPoint &viewPos, const QPoint &angleDelta,
     QWidget *viewport = view->viewport();
     QWheelEvent event(viewPos, viewport->mapToGlobal(viewPos), QPoint(), angleDelta, Qt::NoButton, modifiers,
                       Qt::NoScrollPhase, false);
-    QApplication::sendEvent(viewport, &event);
+    // Only such an event goes on to the parent when it is not accepted.
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(viewport, &event);
 }
 
 QImage GreyPicture(const QSize &size, int seed)
