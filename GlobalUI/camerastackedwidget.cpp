@@ -111,6 +111,7 @@ void CameraStackedWidget::UpdateViewOverlays()
     StackedWidgetBase::UpdateViewOverlays();
     if (cameraPresent)
         ShowCameraCapabilities();
+    slotUpdateToolBarPosition(); // its height goes with the buttons that it shows
 }
 
 void CameraStackedWidget::ShowCameraCapabilities()

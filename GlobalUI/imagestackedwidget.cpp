@@ -95,6 +95,7 @@ void ImageStackedWidget::UpdateViewOverlays()
     m_toolBar->SetCloseCompareVisible(IsImageCompareView());
     m_toolBar->slotSetImageInfoButtonVisible(ActiveImage()->IsSenImage());
     slotUpdateImageInfoUI();
+    slotUpdateToolBarPosition(); // its height goes with the buttons that it shows
 }
 
 void ImageStackedWidget::slotUpdateImageInfoUI()

@@ -14,6 +14,8 @@
 #include "useareamanager.h"
 #include "viewtoolbar.h"
 
+#include <QLayout>
+
 StackedWidgetBase::StackedWidgetBase(QWidget *parent)
     : QStackedWidget(parent)
 {
@@ -65,6 +67,7 @@ void StackedWidgetBase::RestoreMainPage()
         setCurrentIndex(0);
         m_mainFrame->raise();
         m_mainFrame->show();
+        layout()->setGeometry(rect()); // a hidden stack would leave the frame as wide as its compare half
         GetMainDrawView()->ZoomFit();
     } else {
         setCurrentIndex(spectrumUI->GetDisplayMode());

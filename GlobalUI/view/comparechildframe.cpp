@@ -45,6 +45,7 @@ void CompareChildFrame::AttachFrame(GPUDrawFrame *frame, QObject *infoSource, co
     m_layout->addWidget(frame);
     ConnectView();
 
+    m_scalePercent->clear(); // of the picture before, until this one announces its own
     frame->show();
     m_layout->activate(); // the view fits the size the frame has here
     FitView();
@@ -100,8 +101,13 @@ void CompareChildFrame::ApplyCompareScale(int delta, QPointF point)
 {
     if (!m_frame)
         return;
-    GetView()->ZoomByDelta(delta);
+    DrawViewBase *view = GetView();
+    view->ZoomByDelta(delta);
     m_frame->GetDrawFrame()->SetSliderPosition(point);
+    if (view->IsGPUDraw()) { // scrolls by itself: its frame has nothing to scroll
+        view->slotHorizontalScrollBarValueChanged(int(point.x()));
+        view->slotVerticalScrollBarValueChanged(int(point.y()));
+    }
 }
 
 void CompareChildFrame::ApplyCompareMove(QPointF delta)

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QRegExpValidator>
+#include <QSignalBlocker>
 
 #include <algorithm>
 
@@ -156,6 +157,7 @@ void ImageInfoUI::slotUpdateFileName(QString text)
 void ImageInfoUI::slotUpdateScaleFactor(double value)
 {
     const QString text = ZoomPercentText(value);
+    const QSignalBlocker blocker(m_zoom); // a zoom that is shown was not typed
     m_zoom->setText(text);
     SetRestingStyle();
     m_zoom->clearFocus();

@@ -2,6 +2,7 @@
 #include "camerastackedwidget.h"
 #include "comparechildframe.h"
 #include "compareframe.h"
+#include "drawframebase.h"
 #include "drawviewbase.h"
 #include "filesystemview.h"
 #include "filethumbnail.h"
@@ -100,6 +101,8 @@ private slots:
     void cameraCompareLendsTheFrames();
     void cameraCompareTwiceDoesNotRebind();
     void leavingCameraCompare();
+    void picturesFitTheirPagesAfterAComparison_data();
+    void picturesFitTheirPagesAfterAComparison();
     void imageCompareLendsTheFrames();
     void imageCompareTwiceDoesNotRebind();
     void leavingImageCompare();
@@ -353,6 +356,42 @@ void SwitchViewTest::leavingCameraCompare()
         QCOMPARE(host.CameraFrame()->isVisible(), view == CameraView);
         QCOMPARE(host.ImageFrame()->isVisible(), view == ImageView);
     }
+}
+
+void SwitchViewTest::picturesFitTheirPagesAfterAComparison_data()
+{
+    QTest::addColumn<int>("compareView");
+    QTest::addColumn<int>("nextView");
+    QTest::addColumn<int>("lastView");
+    QTest::newRow("camera compare, camera, image") << int(CameraCompareView) << int(CameraView) << int(ImageView);
+    QTest::newRow("camera compare, image, camera") << int(CameraCompareView) << int(ImageView) << int(CameraView);
+    QTest::newRow("image compare, camera, image") << int(ImageCompareView) << int(CameraView) << int(ImageView);
+    QTest::newRow("image compare, image, camera") << int(ImageCompareView) << int(ImageView) << int(CameraView);
+}
+
+void SwitchViewTest::picturesFitTheirPagesAfterAComparison()
+{
+    QFETCH(int, compareView);
+    QFETCH(int, nextView);
+    QFETCH(int, lastView);
+    Window host;
+    DrawViewBase *live = host.CameraFrame()->GetDrawFrame()->GetDrawView();
+    DrawViewBase *opened = host.ImageFrame()->GetDrawFrame()->GetDrawView();
+    const QImage picture(1600, 200, QImage::Format_Grayscale8); // as wide as it is shown
+    for (int view : { ImageView, CameraView }) {
+        host.SwitchTo(view);
+        (view == CameraView ? live : opened)->slotPaintPreview(picture);
+        (view == CameraView ? live : opened)->slotZoomFit();
+    }
+    const double fitted = live->transform().m11();
+    QCOMPARE(opened->transform().m11(), fitted);
+
+    host.SwitchTo(compareView);
+    QVERIFY(opened->transform().m11() < fitted);
+    host.SwitchTo(nextView);
+    host.SwitchTo(lastView);
+    QCOMPARE(live->transform().m11(), fitted);
+    QCOMPARE(opened->transform().m11(), fitted);
 }
 
 void SwitchViewTest::imageCompareLendsTheFrames()

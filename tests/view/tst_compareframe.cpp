@@ -571,6 +571,10 @@ void TestCompareFrame::wheelZoomIsRepeatedWithGPUDrawing()
     QCOMPARE(zoomed.first().at(1).toPointF(), sliders);
     QCOMPARE(c.left.Scale(), 2.0);
     QCOMPARE(c.right.Scale(), 2.0);
+    QVERIFY(sliders.x() > 0 && sliders.y() > 0);
+    const QPointF followed(c.right.View()->horizontalScrollBar()->value(),
+                           c.right.View()->verticalScrollBar()->value());
+    QCOMPARE(followed, sliders);
 }
 
 void TestCompareFrame::dragIsRepeated_data()
