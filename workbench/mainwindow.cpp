@@ -128,7 +128,7 @@ void MainWindow::BuildMenus()
     menuBar()->addMenu(camera);
     m_viewMenu = new ViewMenu(m_services, this);
     menuBar()->addMenu(m_viewMenu);
-    pictures->AddCompare(m_viewMenu);
+    pictures->FillViewMenu(m_viewMenu);
     connect(m_viewMenu, SIGNAL(signalRestoreDefaultLayout()), this, SLOT(slotRestoreDefaultLayout()));
     connect(m_viewMenu, SIGNAL(signalDrawingChosen(bool)), m_drawingGuard, SLOT(slotSetCPUDraw(bool)));
 

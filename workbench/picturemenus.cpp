@@ -12,6 +12,8 @@
 #include <QMenu>
 #include <QUndoGroup>
 
+#include <algorithm>
+
 PictureMenus::PictureMenus(WorkbenchServices *services, PictureDialogs *dialogs, QObject *parent)
     : QObject(parent)
     , m_services(services)
@@ -46,20 +48,19 @@ void PictureMenus::FillEditMenu(QMenu *menu)
     slotUpdate();
 }
 
-void PictureMenus::AddCompare(QMenu *viewMenu)
+void PictureMenus::FillViewMenu(QMenu *menu)
 {
-    m_compare = new QAction(tr("C&ompare"), viewMenu);
+    const QList<QAction *> actions = menu->actions();
+    const auto isSeparator = [](const QAction *action) { return action->isSeparator(); };
+    QAction *behindViews = *std::find_if(actions.begin(), actions.end(), isSeparator);
+
+    m_image = new QAction(tr("&Image"), menu);
+    m_image->setShortcut(QKeySequence("Ctrl+E"));
+    connect(m_image, SIGNAL(triggered()), this, SLOT(slotImage()));
+    m_compare = new QAction(tr("C&ompare"), menu);
     m_compare->setCheckable(true);
     connect(m_compare, SIGNAL(triggered()), this, SLOT(slotCompare()));
-    QAction *behindViews = nullptr;
-    const QList<QAction *> actions = viewMenu->actions();
-    for (QAction *action : actions) {
-        if (action->isSeparator()) {
-            behindViews = action;
-            break;
-        }
-    }
-    viewMenu->insertAction(behindViews, m_compare);
+    menu->insertActions(behindViews, { m_image, m_compare });
     slotUpdate();
 }
 
@@ -70,8 +71,10 @@ void PictureMenus::slotUpdate()
     const bool isImage = isImagePage && m_services->GetWorkspace()->IsImageEnabled();
     for (QAction *action : qAsConst(m_forPictures))
         action->setEnabled(isImage);
-    if (m_compare)
-        m_compare->setChecked(view == CameraCompareView || view == ImageCompareView);
+    if (!m_compare)
+        return; // the menus are still being filled
+    m_image->setEnabled(!m_services->Desk()->MainPicture()->IsNonImage());
+    m_compare->setChecked(view == CameraCompareView || view == ImageCompareView);
 }
 
 void PictureMenus::slotSaveAs() { m_services->GetWorkspace()->GetActiveImageManager()->slotSaveImageAs(); }
@@ -94,6 +97,8 @@ void PictureMenus::slotCrop()
     if (m_services->Config()->GetCurrentView() == ImageView)
         m_services->GetWorkspace()->GetActiveImageManager()->slotImageCrop();
 }
+
+void PictureMenus::slotImage() { m_services->Config()->SetImageView(); }
 
 void PictureMenus::slotCompare()
 {

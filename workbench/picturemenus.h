@@ -20,8 +20,8 @@ public:
 
     void FillFileMenu(QMenu *menu);
     void FillEditMenu(QMenu *menu);
-    /// Puts the comparison behind the views.
-    void AddCompare(QMenu *viewMenu);
+    /// Adds the page of opened pictures and the comparison to the views at the top of the menu.
+    void FillViewMenu(QMenu *menu);
 
 private slots:
     void slotUpdate();
@@ -29,11 +29,13 @@ private slots:
     void slotClose();
     void slotCrop();
     void slotInformation();
+    void slotImage();
     void slotCompare();
 
 private:
     WorkbenchServices *m_services;
     PictureDialogs *m_dialogs;
+    QAction *m_image = nullptr;
     QAction *m_compare = nullptr;
     QList<QAction *> m_forPictures; ///< need an opened picture on the image page
 };

@@ -54,6 +54,7 @@ SaveDialog::SaveDialog(const Subject &subject, QWidget *parent)
     setDefaultSuffix(FormatSuffixes(formats[0]).first());
     selectFile(QFileInfo(subject.suggestedPath).fileName() + '.' + defaultSuffix());
 
+    m_name = findChild<QLineEdit *>("fileNameEdit");
     m_loss->setObjectName("labelLoss");
     m_loss->setWordWrap(true);
     m_allFrames->setObjectName("checkBoxAllFrames");
@@ -75,8 +76,7 @@ void SaveDialog::slotFilterSelected(const QString &filter)
     setDefaultSuffix(suffix);
     const QFileInfo name(Path());
     const bool hasSuffix = FormatOfName(name.fileName()) != PictureFormat::Unknown;
-    selectFile((hasSuffix ? name.completeBaseName() : name.fileName()) + '.' + suffix);
-    slotUpdateNotes();
+    m_name->setText((hasSuffix ? name.completeBaseName() : name.fileName()) + '.' + suffix);
 }
 
 void SaveDialog::slotUpdateNotes()

@@ -7,6 +7,7 @@
 
 class QCheckBox;
 class QLabel;
+class QLineEdit;
 
 /// Asks where to save a picture, and says what the chosen format cannot keep of it. GUI thread.
 class SaveDialog : public QFileDialog
@@ -36,6 +37,7 @@ private slots:
 private:
     const SampleType m_type;
     const int m_frames;
+    QLineEdit *m_name = nullptr; ///< the dialog's own
     QLabel *m_loss;
     QCheckBox *m_allFrames;
 };

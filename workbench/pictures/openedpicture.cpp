@@ -75,6 +75,7 @@ void OpenedPicture::GiveUp(const PictureDocument *document)
 void OpenedPicture::Take(const LoadedPicture &picture)
 {
     const bool isOther = m_document != m_wanted;
+    const bool isEdited = m_shown.request.edit != picture.request.edit;
     m_shown = picture;
     m_wanted->SetInfo(picture.info);
     m_wanted->SetRange(picture.range);
@@ -88,7 +89,7 @@ void OpenedPicture::Take(const LoadedPicture &picture)
     emit signalUpdateLevel(m_levels->GetLeftLevel(), m_levels->GetRightLevel());
     if (isOther)
         AnnounceDocument();
-    if (m_shown.request.frame == 0)
+    if (isOther || isEdited)
         emit sglAddThumbnail(PictureLoader::ThumbnailOf(m_shown.image));
     emit UIConfigManager::GetInstance()->signalImageInfoChanged();
 }

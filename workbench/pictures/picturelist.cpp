@@ -8,6 +8,7 @@
 
 #include <QBoxLayout>
 #include <QFileInfo>
+#include <QItemSelectionModel>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
@@ -19,7 +20,8 @@ namespace {
 
 constexpr int DocumentRole = Qt::UserRole;
 constexpr QSize IconSize(96, 72);
-constexpr QSize ItemSize(128, 112);
+constexpr QSize ItemSize(150, 104);
+constexpr int ItemSpacing = 4;
 
 /// In the middle of a frame of one size for all, so that the names stand in one line.
 QIcon IconOf(const QImage &thumbnail)
@@ -32,7 +34,9 @@ QIcon IconOf(const QImage &thumbnail)
                       size);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(place, thumbnail);
-    return QIcon(framed);
+    QIcon icon(framed);
+    icon.addPixmap(framed, QIcon::Selected); // not tinted: its greys are the picture
+    return icon;
 }
 
 } // namespace
@@ -78,6 +82,7 @@ void PictureList::BuildList()
     m_list->setMovement(QListView::Static);
     m_list->setWrapping(false);
     m_list->setUniformItemSizes(true);
+    m_list->setSpacing(ItemSpacing);
     m_list->setIconSize(IconSize);
     m_list->setTextElideMode(Qt::ElideMiddle);
     m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -182,7 +187,7 @@ void PictureList::slotShown()
     if (!item)
         return;
     if (!item->isSelected())
-        m_list->setCurrentItem(item);
+        m_list->setCurrentItem(item, QItemSelectionModel::ClearAndSelect);
     m_list->scrollToItem(item);
 }
 

@@ -74,7 +74,7 @@ private slots:
         QTRY_COMPARE(bench.widget->item(0)->toolTip().split('\n').mid(2),
                      QStringList({ "6x4", "16-bit unsigned integer", "3 frames" }));
         QCOMPARE(bench.widget->item(0)->toolTip().split('\n').first(), bench.Path("a.tif"));
-        QVERIFY(bench.widget->item(1)->isSelected());
+        QCOMPARE(bench.widget->selectedItems(), QList<QListWidgetItem *>({ bench.widget->item(1) }));
     }
 
     void theThumbnailFollowsThePicture()
