@@ -206,12 +206,12 @@ void WorkspaceConfig::slotSetFileView()
 
 void WorkspaceConfig::slotConvertToCSV()
 {
-    emit signalMessage(tr("No picture is open that could be converted to CSV."));
+    emit signalMessage(tr("Pictures can't be converted to CSV by this version."));
 }
 
 void WorkspaceConfig::slotModifyDPI()
 {
-    emit signalMessage(tr("No picture is open whose DPI could be changed."));
+    emit signalMessage(tr("The DPI of a picture can't be changed by this version."));
 }
 
 void WorkspaceConfig::Load()

@@ -185,8 +185,8 @@ private slots:
         config.slotConvertToCSV();
         config.slotModifyDPI();
         QCOMPARE(messages.count(), 2);
-        QCOMPARE(messages.at(0).at(0).toString(), QString("No picture is open that could be converted to CSV."));
-        QCOMPARE(messages.at(1).at(0).toString(), QString("No picture is open whose DPI could be changed."));
+        QCOMPARE(messages.at(0).at(0).toString(), QString("Pictures can't be converted to CSV by this version."));
+        QCOMPARE(messages.at(1).at(0).toString(), QString("The DPI of a picture can't be changed by this version."));
     }
 
 private:
