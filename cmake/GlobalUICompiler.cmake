@@ -28,6 +28,11 @@ if(GLOBALUI_SANITIZE)
     add_link_options(-fsanitize=${GLOBALUI_SANITIZE})
 endif()
 
+# What each program needs to be judged by the leak check: $<TARGET_OBJECTS:GlobalUIKeepModules>.
+if(GLOBALUI_SANITIZE MATCHES address)
+    add_library(GlobalUIKeepModules OBJECT "${CMAKE_CURRENT_LIST_DIR}/keepmodules.cpp")
+endif()
+
 # Everything that runs from the build tree finds its libraries and plug-ins below one folder,
 # laid out like an installed program.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")

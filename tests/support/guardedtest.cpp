@@ -131,13 +131,3 @@ void GuardedTest::EndGuard()
     if (!left.isEmpty())
         QFAIL(qPrintable(left.join("\n")));
 }
-
-#if defined(__SANITIZE_ADDRESS__)
-/// Platform and OpenGL plug-ins that are unloaded at exit leave blocks behind that nobody can be
-/// named for any more; they stay loaded, so that the leak report shows their names and the
-/// suppressions know them.
-extern "C" Q_DECL_EXPORT int dlclose(void *)
-{
-    return 0;
-}
-#endif
