@@ -189,6 +189,9 @@ private slots:
         for (const int frame : { 0, file->Info().frames - 1 }) {
             bar->setValue(frame);
             QTRY_COMPARE(Main()->Shown().request.frame, frame);
+            const QString description = file->FrameDescription(frame);
+            if (frame > 0 && !description.isEmpty())
+                QTRY_VERIFY(m_workbench->StatusText().endsWith(description));
             Picture raw;
             QVERIFY2(file->ReadFrame(frame, raw, error), qPrintable(error));
             for (const QPointF &part : { QPointF(0.1, 0.1), QPointF(0.5, 0.3), QPointF(0.6, 0.2) }) {

@@ -42,6 +42,7 @@ void OpenedPicture::Request(PictureDocument *document, int frame)
     request.frame = frame;
     request.edit = document->Edit();
     request.range = document->Range();
+    request.wantsThumbnail = document != m_document || request.edit != m_shown.request.edit;
     m_wanted = document;
     m_wantedFrame = frame;
     m_wantedTicket = m_loader->Load(request);
@@ -75,7 +76,6 @@ void OpenedPicture::GiveUp(const PictureDocument *document)
 void OpenedPicture::Take(const LoadedPicture &picture)
 {
     const bool isOther = m_document != m_wanted;
-    const bool isEdited = m_shown.request.edit != picture.request.edit;
     m_shown = picture;
     m_wanted->SetInfo(picture.info);
     m_wanted->SetRange(picture.range);
@@ -89,8 +89,10 @@ void OpenedPicture::Take(const LoadedPicture &picture)
     emit signalUpdateLevel(m_levels->GetLeftLevel(), m_levels->GetRightLevel());
     if (isOther)
         AnnounceDocument();
-    if (isOther || isEdited)
-        emit sglAddThumbnail(PictureLoader::ThumbnailOf(m_shown.image));
+    else
+        AnnounceFrame();
+    if (!m_shown.thumbnail.isNull())
+        emit sglAddThumbnail(m_shown.thumbnail);
     emit UIConfigManager::GetInstance()->signalImageInfoChanged();
 }
 
@@ -101,6 +103,16 @@ void OpenedPicture::AnnounceDocument()
     emit signalShown();
     if (!m_shown.info.warning.isEmpty())
         emit signalMessage(m_shown.info.warning);
+}
+
+/// Where the frame belongs in a stack of several channels or slices.
+void OpenedPicture::AnnounceFrame()
+{
+    if (!m_shown.frameDescription.isEmpty())
+        emit signalMessage(tr("Frame %1 of %2: %3")
+                               .arg(m_shown.request.frame + 1)
+                               .arg(m_shown.info.frames)
+                               .arg(m_shown.frameDescription));
 }
 
 void OpenedPicture::Follow(PictureDocument *document)

@@ -102,6 +102,7 @@ private:
     void Request(PictureDocument *document, int frame);
     void Take(const LoadedPicture &picture);
     void AnnounceDocument();
+    void AnnounceFrame();
     void Follow(PictureDocument *document);
     void Forget();
 

@@ -6,6 +6,8 @@
 #include "picturedocument.h"
 #include "pictureloader.h"
 #include "pictureshelf.h"
+#include "uiconfigmanager.h"
+#include "viewcodes.h"
 
 #include <QDir>
 #include <QFile>
@@ -53,10 +55,10 @@ void PictureDesk::Open(const QStringList &paths, OpenedPicture *place)
 
 void PictureDesk::Show(PictureDocument *document, OpenedPicture *place)
 {
-    m_isAskedFor = true;
+    m_isAskedFor = place == m_main;
     if (place->WantedDocument() != document)
         place->Show(document);
-    else if (place->Document() == document)
+    else if (m_isAskedFor && place->Document() == document)
         slotMainShown(); // it is there already
 }
 
@@ -188,9 +190,11 @@ void PictureDesk::slotCompareFailed()
 
 void PictureDesk::slotUpdateUndo()
 {
+    const int view = UIConfigManager::GetInstance()->GetCurrentView();
+    const bool isSeen = view != CameraView && view != FileView;
     const bool isCompare = GlobalManager::GetInstance()->GetActiveImageManager() == m_compare;
     const PictureDocument *document = (isCompare ? m_compare : m_main)->Document();
-    m_undoGroup->setActiveStack(document ? document->UndoStack() : nullptr);
+    m_undoGroup->setActiveStack(isSeen && document ? document->UndoStack() : nullptr);
 }
 
 void PictureDesk::slotAdded(PictureDocument *document) { m_undoGroup->addStack(document->UndoStack()); }
@@ -202,15 +206,17 @@ void PictureDesk::slotSaved(QString target, QString error)
         return;
     }
     emit signalMessage(tr("\u201c%1\u201d was saved.").arg(QFileInfo(target).fileName()));
-    if (PictureDocument *document = m_shelf->Find(target))
+    if (PictureDocument *document = m_shelf->Find(target)) {
+        document->Reset(); // what was done to the old file is in the new one
         Reread(document);
+    }
 }
 
-/// The file is another one now: what was done to the old one is in it, or is not wanted.
+/// The file may be another one now.
 void PictureDesk::Reread(PictureDocument *document)
 {
     m_loader->Close(document->File().id);
-    document->Reset();
+    document->SetRange(SampleRange());
     for (OpenedPicture *picture : { m_main, m_compare }) {
         if (picture->WantedDocument() == document)
             picture->Show(document);

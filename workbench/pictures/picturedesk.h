@@ -45,7 +45,7 @@ public:
     bool ChooseForCompare();
 
 public slots:
-    /// Another picture is worked on.
+    /// Another picture is worked on, or another view is shown.
     void slotUpdateUndo();
 
 signals:

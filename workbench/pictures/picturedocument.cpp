@@ -80,7 +80,6 @@ void PictureDocument::Reset()
 {
     m_undoStack->clear();
     m_edit = PictureEdit();
-    m_range = SampleRange();
 }
 
 void PictureDocument::SetEdit(const PictureEdit &edit)

@@ -21,6 +21,12 @@ QString MemoryText(const QString &path)
         .arg(QFileInfo(path).fileName());
 }
 
+QImage ThumbnailOf(const QImage &image)
+{
+    return image.scaled(image.size().scaled(ThumbnailSize, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)),
+                        Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 /// Calls `work`; a lack of memory is said in `error`.
 template <typename Function>
 void Guarded(const QString &path, QString &error, Function work)
@@ -174,6 +180,8 @@ LoadedPicture PictureLoader::Loaded(const PictureRequest &request)
             return;
         }
         loaded.image = m_display.Make(loaded.samples, loaded.range);
+        if (request.wantsThumbnail)
+            loaded.thumbnail = ThumbnailOf(loaded.image);
         const PictureFile *file = m_access.Open(request.file, loaded.error);
         loaded.info = file->Info();
         loaded.frameDescription = file->FrameDescription(request.frame);
@@ -230,10 +238,4 @@ PictureThumbnail PictureLoader::Thumbnail(const PictureAccess::FileName &file)
         thumbnail.info = access.Open(file, thumbnail.error)->Info();
     });
     return thumbnail;
-}
-
-QImage PictureLoader::ThumbnailOf(const QImage &image)
-{
-    return image.scaled(image.size().scaled(ThumbnailSize, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)),
-                        Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }

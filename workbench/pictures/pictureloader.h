@@ -26,9 +26,6 @@ public:
     /// Saves that were begun are brought to an end first; everything else is dropped.
     ~PictureLoader() override;
 
-    /// As large as the list shows it.
-    static QImage ThumbnailOf(const QImage &image);
-
     /// Gives the request its ticket, which its answer bears.
     quint64 Load(PictureRequest request);
     void MakeThumbnail(const PictureAccess::FileName &file);

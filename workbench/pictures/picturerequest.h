@@ -16,7 +16,8 @@ struct PictureRequest
     PictureAccess::FileName file;
     int frame = 0;
     PictureEdit edit;
-    SampleRange range; ///< of the frame before, which automatic levels keep
+    SampleRange range;           ///< of the frame before, which automatic levels keep
+    bool wantsThumbnail = false; ///< another picture than before, for the list
 };
 
 /// The answer to a request: either `error` says why there is none, or all of it is there.
@@ -27,9 +28,10 @@ struct LoadedPicture
     QString news; ///< what happened to the file meanwhile, or what is odd about it; may be empty
     PictureInfo info;
     QString frameDescription;
-    QSize fileSize;  ///< of the frame in the file
-    Picture samples; ///< as seen, after the edit
-    QImage image;    ///< the same, for the screen
+    QSize fileSize;   ///< of the frame in the file
+    Picture samples;  ///< as seen, after the edit
+    QImage image;     ///< the same, for the screen
+    QImage thumbnail; ///< null unless it was wanted
     SampleRange range;
 };
 Q_DECLARE_METATYPE(LoadedPicture)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "guardedtest.h"
 #include "picturebench.h"
+#include "viewcodes.h"
 
 #include <QDir>
 #include <QUndoGroup>
+#include <QUndoStack>
 
 /// Opening, closing and renaming files, and choosing which are compared.
 class PictureDeskTest : public GuardedTest
@@ -62,6 +64,21 @@ private slots:
         QTRY_COMPARE(bench.main.GetImageSizeString(), QString("7x2"));
         QCOMPARE(bench.shelf.Documents().size(), 1);
         QCOMPARE(bench.messages.size(), 0);
+    }
+
+    void openingAgainKeepsWhatWasDone()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("one.tif", QSize(5, 3)));
+        bench.main.slotRotateImage(0);
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("3x5"));
+        QSignalSpy opened(&bench.desk, SIGNAL(signalOpened()));
+        const int shown = bench.shown.size();
+        bench.desk.Open({ bench.Path("one.tif") }, &bench.main);
+        QCOMPARE(opened.size(), 1);
+        QTRY_COMPARE(bench.shown.size(), shown + 1);
+        QCOMPARE(bench.main.GetImageSizeString(), QString("3x5"));
+        QVERIFY(bench.main.Document()->UndoStack()->canUndo());
     }
 
     void closingShowsTheNeighbour()
@@ -209,6 +226,7 @@ private slots:
     {
         PictureBench bench;
         bench.services.global.activeImageManager = &bench.main;
+        bench.services.uiConfig.currentView = ImageView;
         QVERIFY(bench.Open("a.tif", QSize(5, 3)));
         bench.main.slotRotateImage(0);
         QVERIFY(bench.desk.UndoGroup()->canUndo());
@@ -219,6 +237,9 @@ private slots:
         bench.services.global.activeImageManager = &bench.compare;
         bench.desk.slotUpdateUndo();
         QVERIFY(bench.desk.UndoGroup()->canUndo());
+        bench.services.uiConfig.currentView = CameraView; // it is not seen
+        bench.desk.slotUpdateUndo();
+        QVERIFY(!bench.desk.UndoGroup()->canUndo());
     }
 };
 
