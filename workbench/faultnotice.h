@@ -3,8 +3,8 @@
 
 #include <QMessageBox>
 
-/// Says what was not done and why, without holding up the work. Faults that come while it is open join the list in
-/// it. GUI thread.
+/// Says what was not done and why, without holding up the work. Faults that come while it is open join the
+/// list in it. GUI thread.
 class FaultNotice : public QMessageBox
 {
     Q_OBJECT

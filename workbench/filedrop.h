@@ -7,8 +7,8 @@
 class QDropEvent;
 class QWidget;
 
-/// Takes files that are dropped anywhere on a window. It watches the window itself, because the views in it would take
-/// a drag and then do nothing with it. GUI thread.
+/// Takes files that are dropped anywhere on a window. It watches the window itself, because the views in it
+/// would take a drag and then do nothing with it. GUI thread.
 class FileDrop : public QObject
 {
     Q_OBJECT

@@ -9,8 +9,8 @@ class OpenedPicture;
 class SaveDialog;
 class WorkbenchServices;
 
-/// Asks the user which files to open and where to save, and shows what went wrong. None of its windows holds up the live
-/// picture. GUI thread.
+/// Asks the user which files to open and where to save, and shows what went wrong. None of its windows
+/// holds up the live picture. GUI thread.
 class PictureDialogs : public QObject
 {
     Q_OBJECT

@@ -8,8 +8,8 @@ class QAction;
 class QMenu;
 class WorkbenchServices;
 
-/// The commands for opened pictures in the menus: open, save and close in File, undo and redo in Edit, compare in View.
-/// GUI thread.
+/// The commands for opened pictures in the menus: open, save and close in File, undo and redo in Edit,
+/// compare in View. GUI thread.
 class PictureMenus : public QObject
 {
     Q_OBJECT

@@ -50,7 +50,8 @@ void OpenedPicture::Request(PictureDocument *document, int frame)
 
 void OpenedPicture::slotLoaded(const LoadedPicture &picture)
 {
-    // While a stack is browsed quickly every frame that was read is shown, though a newer one is wanted already.
+    // While a stack is browsed quickly every frame that was read is shown, though a newer one is wanted
+    // already.
     if (picture.request.place != m_place || !m_wanted || picture.request.file.id != m_wanted->File().id)
         return;
     if (picture.error.isEmpty()) {

@@ -11,8 +11,9 @@ class PictureLevels;
 class PictureLoader;
 class ViewMeasuring;
 
-/// The picture of the image page, or the second one of a comparison: shows one of the opened pictures at a time. What is
-/// shown stays until the next is ready, or for good when that cannot be read. Owned by the services. GUI thread.
+/// The picture of the image page, or the second one of a comparison: shows one of the opened pictures at a
+/// time. What is shown stays until the next is ready, or for good when that cannot be read. Owned by the
+/// services. GUI thread.
 class OpenedPicture : public ImageManager
 {
     Q_OBJECT

@@ -7,8 +7,9 @@
 #include <list>
 #include <memory>
 
-/// Frames of opened files. A handful of files, those used last, is kept open, so that one that was deleted or replaced
-/// can still be browsed; frames already decoded are kept up to a set number of bytes. One thread.
+/// Frames of opened files. A handful of files, those used last, is kept open, so that one that was deleted
+/// or replaced can still be browsed; frames already decoded are kept up to a set number of bytes. One
+/// thread.
 class PictureAccess
 {
 public:
@@ -24,7 +25,8 @@ public:
     /// The open file; null when it cannot be opened, and then `error` says why.
     PictureFile *Open(const FileName &name, QString &error);
     bool ReadFrame(const FileName &name, int index, Picture &frame, QString &error);
-    /// What happened to the file on the disk since it was opened; empty when nothing did or when it was told already.
+    /// What happened to the file on the disk since it was opened; empty when nothing did or when it was
+    /// told already.
     QString TakeNews(const FileName &name);
     /// Forgets the file and its frames: the next read opens it anew.
     void Close(quint64 id);

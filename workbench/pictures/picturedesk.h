@@ -10,8 +10,8 @@ class PictureLoader;
 class PictureShelf;
 class QUndoGroup;
 
-/// What the user does with opened pictures: opens and closes files, renames them, chooses which are compared. Which page
-/// is shown is not decided here. GUI thread.
+/// What the user does with opened pictures: opens and closes files, renames them, chooses which are
+/// compared. Which page is shown is not decided here. GUI thread.
 class PictureDesk : public QObject
 {
     Q_OBJECT
@@ -28,8 +28,8 @@ public:
     /// The steps done to the picture that is worked on.
     QUndoGroup *UndoGroup() const { return m_undoGroup; }
 
-    /// All go to the shelf; the last that is no folder is shown in `place`, the main or the compare picture. A file that
-    /// is open already is read anew.
+    /// All go to the shelf; the last that is no folder is shown in `place`, the main or the compare
+    /// picture. A file that is open already is read anew.
     void Open(const QStringList &paths, OpenedPicture *place);
     void Show(PictureDocument *document, OpenedPicture *place);
     /// The document's neighbour takes its place.
@@ -38,10 +38,11 @@ public:
     /// Renames the file on the disk; its folder stays.
     void Rename(PictureDocument *document, const QString &name);
 
-    /// Sees to it that the main picture shows something to compare the live picture with; false when nothing is open.
+    /// Sees to it that the main picture shows something to compare the live picture with; false when
+    /// nothing is open.
     bool ChooseForLiveCompare();
-    /// Lays out two pictures: those that are checked or selected in the list, else the main picture and the one before
-    /// it. False when there are no two.
+    /// Lays out two pictures: those that are checked or selected in the list, else the main picture and the
+    /// one before it. False when there are no two.
     bool ChooseForCompare();
 
 public slots:

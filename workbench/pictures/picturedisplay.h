@@ -8,9 +8,9 @@
 class LevelsModel;
 struct LevelsSetting;
 
-/// Makes the picture for the screen of the samples of a file, whatever their type: unsigned 8 and 16 bit as the live
-/// picture is shown, all others between levels found from the finite samples; what is no number is black.
-/// One for one thread; the model may be changed meanwhile.
+/// Makes the picture for the screen of the samples of a file, whatever their type: unsigned 8 and 16 bit as
+/// the live picture is shown, all others between levels found from the finite samples; what is no number is
+/// black. One for one thread; the model may be changed meanwhile.
 class PictureDisplay
 {
 public:

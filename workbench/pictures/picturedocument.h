@@ -10,8 +10,8 @@
 
 class QUndoStack;
 
-/// A file in the list of opened pictures: its name, what is known of it, and what was done to it. Its frames are the
-/// loader's. Owned by the shelf. GUI thread.
+/// A file in the list of opened pictures: its name, what is known of it, and what was done to it. Its
+/// frames are the loader's. Owned by the shelf. GUI thread.
 class PictureDocument : public QObject
 {
     Q_OBJECT

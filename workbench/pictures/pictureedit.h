@@ -6,9 +6,9 @@
 
 #include <QMetaType>
 
-/// What was done to an opened picture. The user turns and crops what he sees; any row of such steps comes down to one
-/// region of the picture as it is in the file, laid in one of the eight ways. A value; samples are only looked at
-/// in Applied().
+/// What was done to an opened picture. The user turns and crops what he sees; any row of such steps comes
+/// down to one region of the picture as it is in the file, laid in one of the eight ways. A value; samples
+/// are only looked at in Applied().
 class PictureEdit
 {
 public:
@@ -18,8 +18,8 @@ public:
 
     /// After a command of the tool bar, a RotateType.
     PictureEdit Turned(int rotateType) const;
-    /// Only `seen` is left, in pixels of what is seen now; `fileSize` is that of the frame in the file. Unchanged when
-    /// nothing would be left.
+    /// Only `seen` is left, in pixels of what is seen now; `fileSize` is that of the frame in the file.
+    /// Unchanged when nothing would be left.
     PictureEdit Cropped(const QRect &seen, const QSize &fileSize) const;
 
     /// Size of what is seen of a frame.

@@ -5,7 +5,8 @@
 
 class OpenedPicture;
 
-/// Frames of the main picture, turned, cropped and brought to the screen's levels, on their way to its view. GUI thread.
+/// Frames of the main picture, turned, cropped and brought to the screen's levels, on their way to its
+/// view. GUI thread.
 class PictureFrames : public FrameProcessManager
 {
     Q_OBJECT

@@ -14,9 +14,10 @@ class QListWidgetItem;
 class QMenu;
 class QPushButton;
 
-/// The list of opened pictures: a row of thumbnails with their names. A click shows a picture, F2 renames its file, Del
-/// closes it; the menu of the right button has the rest. What the user wants leaves as signals; what is shown follows
-/// the shelf. Made by the services; the tab that shows it owns it. GUI thread.
+/// The list of opened pictures: a row of thumbnails with their names. A click shows a picture, F2 renames
+/// its file, Del closes it; the menu of the right button has the rest. What the user wants leaves as
+/// signals; what is shown follows the shelf. Made by the services; the tab that shows it owns it. GUI
+/// thread.
 class PictureList : public ThumbnailList
 {
     Q_OBJECT

@@ -13,9 +13,9 @@
 #include <deque>
 #include <mutex>
 
-/// Opens, reads, shows and saves picture files in a thread of its own, so that neither a slow disk nor a large file ever
-/// holds up the GUI. What is to be seen comes first, then a step of a save, then thumbnails. The operations are
-/// called by the GUI thread and return at once; the answers are signals.
+/// Opens, reads, shows and saves picture files in a thread of its own, so that neither a slow disk nor a
+/// large file ever holds up the GUI. What is to be seen comes first, then a step of a save, then
+/// thumbnails. The operations are called by the GUI thread and return at once; the answers are signals.
 class PictureLoader : public QThread
 {
     Q_OBJECT

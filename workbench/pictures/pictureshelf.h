@@ -9,8 +9,8 @@
 class PictureDocument;
 class PictureLoader;
 
-/// The opened pictures in the order in which they were opened; owns them, and has the loader make their thumbnails.
-/// GUI thread.
+/// The opened pictures in the order in which they were opened; owns them, and has the loader make their
+/// thumbnails. GUI thread.
 class PictureShelf : public QObject
 {
     Q_OBJECT

@@ -6,5 +6,6 @@
 class Picture;
 class QPoint;
 
-/// The samples of one pixel as measured: "123", "-0.6815", "nan", or "(r, g, b)"; empty outside of the picture.
+/// The samples of one pixel as measured: "123", "-0.6815", "nan", or "(r, g, b)"; empty outside of the
+/// picture.
 QString PixelText(const Picture &picture, const QPoint &pixel);

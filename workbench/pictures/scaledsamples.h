@@ -7,16 +7,16 @@
 
 class Picture;
 
-/// Showing samples whose type says nothing of the values to expect: signed, 32 bit and floating point. What is no number
-/// has no part in a range; a picture of one single value gets a range around it.
+/// Showing samples whose type says nothing of the values to expect: signed, 32 bit and floating point. What
+/// is no number has no part in a range; a picture of one single value gets a range around it.
 namespace ScaledSamples {
 
 /// From the smallest finite sample to the largest.
 SampleRange FullRange(const Picture &picture);
 /// Without the smallest and the largest thousandth, so that a few hot pixels don't make the picture dark.
 SampleRange TypicalRange(const Picture &picture);
-/// Grayscale8 or RGB888: black up to the left of the range and for what is no number, white from the right on. Null without
-/// memory for it.
+/// Grayscale8 or RGB888: black up to the left of the range and for what is no number, white from the right
+/// on. Null without memory for it.
 QImage Image(const Picture &picture, const SampleRange &range, double gamma);
 
 } // namespace ScaledSamples
