@@ -3,5 +3,6 @@
 
 QVector<BenchmarkGroup> BenchmarkGroups()
 {
-    return {{"cpuframe", BenchmarkCpuFrame}, {"levels", BenchmarkLevels}, {"start", BenchmarkStart}};
+    return {{"cpuframe", BenchmarkCpuFrame}, {"gpuframe", BenchmarkGpuFrame}, {"zoom", BenchmarkZoom},
+            {"levels", BenchmarkLevels},     {"stack", BenchmarkStack},       {"start", BenchmarkStart}};
 }

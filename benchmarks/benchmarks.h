@@ -14,7 +14,13 @@ QVector<BenchmarkGroup> BenchmarkGroups();
 
 /// One live frame in CPU mode against a bare graphics view with the same background brush.
 QVector<BenchmarkResult> BenchmarkCpuFrame();
+/// One live frame in GPU mode against the bare upload and drawing of it through the same driver.
+QVector<BenchmarkResult> BenchmarkGpuFrame();
+/// What the hand feels: wheel zoom and drag of a large picture, until it is painted.
+QVector<BenchmarkResult> BenchmarkZoom();
 /// 16-bit samples to display samples through levels, against memcpy of the frame.
 QVector<BenchmarkResult> BenchmarkLevels();
+/// The next frame of a stack, read and made a picture of, against libtiff's own read of the page.
+QVector<BenchmarkResult> BenchmarkStack();
 /// The whole program: first frame on screen, peak memory, growth over 10,000 frames.
 QVector<BenchmarkResult> BenchmarkStart();

@@ -1,32 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "benchmarkframes.h"
 #include "benchmarks.h"
-
-#include "drawframebase.h"
 #include "drawviewbase.h"
-#include "fakeservices.h"
-#include "gpudrawframe.h"
+#include "moduleview.h"
 
 #include <QApplication>
 #include <QGraphicsView>
-#include <QRandomGenerator>
 
 namespace {
 
-constexpr QSize HostSize(1200, 900);
 constexpr double CpuFrameBound = 1.2;
-
-/// Frames to show in turn, so that none is drawn from a cache.
-QVector<QImage> Frames(int side)
-{
-    QVector<QImage> frames;
-    QRandomGenerator random(1);
-    for (int i = 0; i < 4; ++i) {
-        QImage frame(side, side, QImage::Format_Grayscale8);
-        random.fillRange(reinterpret_cast<quint32 *>(frame.bits()), frame.sizeInBytes() / 4);
-        frames << frame;
-    }
-    return frames;
-}
 
 /// The least that Qt can do: a graphics view of the host's size whose scene has the frame as its
 /// background brush.
@@ -40,7 +23,7 @@ public:
         m_view.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         m_view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         m_scene.setSceneRect(0, 0, side, side);
-        m_view.setFixedSize(HostSize);
+        m_view.setFixedSize(ModuleView::HostSize);
         m_view.show();
     }
 
@@ -57,39 +40,15 @@ private:
     QGraphicsView m_view;
 };
 
-/// The module's draw frame in a host of the same size.
-class ModuleView
-{
-public:
-    ModuleView()
-    {
-        m_frame.setFixedSize(HostSize);
-        m_frame.show();
-    }
-
-    DrawViewBase *View() { return m_frame.GetDrawFrame()->GetDrawView(); }
-
-    void Show(const QImage &frame)
-    {
-        View()->slotPaintPreview(frame);
-        QApplication::processEvents();
-    }
-
-private:
-    GPUDrawFrame m_frame{nullptr};
-};
-
 } // namespace
 
 QVector<BenchmarkResult> BenchmarkCpuFrame()
 {
     QVector<BenchmarkResult> results;
     for (int side : {2048, 4096}) {
-        const QVector<QImage> frames = Frames(side);
-        FakeServices services;
+        const QVector<QImage> frames = RandomFrames(side, QImage::Format_Grayscale8);
         BareView bare(side);
-        ModuleView module;
-        module.View()->SetViewManager(&services.cameraReport);
+        ModuleView module(ModuleView::Drawing::Cpu);
         module.Show(frames.first());
         for (double zoom : {0.0, 1.0, 8.0, 32.0}) {
             if (zoom > 0.0)
@@ -99,7 +58,9 @@ QVector<BenchmarkResult> BenchmarkCpuFrame()
             bare.SetZoom(module.View()->transform().m11());
             QApplication::processEvents();
             int n = 0;
-            const QString name = QString("live frame, CPU, %1 x %1, %2").arg(side).arg(zoom > 0.0 ? QString("zoom %1").arg(zoom) : "fit");
+            const QString name = QString("live frame, CPU, %1 x %1, %2")
+                                     .arg(side)
+                                     .arg(zoom > 0.0 ? QString("zoom %1").arg(zoom) : "fit");
             results << MeasureRatio(
                 name, CpuFrameBound, 60, [&] { bare.Show(frames.at(n++ % frames.size())); },
                 [&] { module.Show(frames.at(n++ % frames.size())); });

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLoggingCategory>
 #include <QTextStream>
 
 #include <algorithm>
@@ -19,6 +20,7 @@ int main(int argc, char **argv)
     parser.addOptions({json, check, only});
     parser.process(application);
 
+    QLoggingCategory::setFilterRules("default.debug=false");
     QVector<BenchmarkResult> results;
     for (const BenchmarkGroup &group : BenchmarkGroups()) {
         if (QString(group.name).contains(parser.value(only)))

@@ -13,6 +13,8 @@
 namespace {
 
 constexpr int WarmUpRounds = 3;
+constexpr double LowerQuartile = 0.25;
+constexpr double Median = 0.5;
 
 double Microseconds(const std::function<void()> &work)
 {
@@ -22,11 +24,12 @@ double Microseconds(const std::function<void()> &work)
     return double(timer.nsecsElapsed()) / 1000.0;
 }
 
-double LowerQuartile(std::vector<double> times)
+/// The time that this part of the calls kept.
+double TimeKeptBy(double part, std::vector<double> times)
 {
-    const auto quartile = times.begin() + std::ptrdiff_t(times.size() / 4);
-    std::nth_element(times.begin(), quartile, times.end());
-    return *quartile;
+    const auto kept = times.begin() + std::ptrdiff_t(double(times.size()) * part);
+    std::nth_element(times.begin(), kept, times.end());
+    return *kept;
 }
 
 } // namespace
@@ -57,7 +60,18 @@ BenchmarkResult MeasureRatio(const QString &name, double bound, int rounds, cons
             subjectTimes.push_back(second);
         }
     }
-    return {name, "us", LowerQuartile(floorTimes), LowerQuartile(subjectTimes), bound};
+    return {name, "us", TimeKeptBy(LowerQuartile, floorTimes), TimeKeptBy(LowerQuartile, subjectTimes), bound};
+}
+
+BenchmarkResult MeasureTime(const QString &name, double boundMs, int rounds, const std::function<void()> &work)
+{
+    std::vector<double> times;
+    for (int round = -WarmUpRounds; round < rounds; ++round) {
+        const double time = Microseconds(work);
+        if (round >= 0)
+            times.push_back(time);
+    }
+    return {name, "ms", 0.0, TimeKeptBy(Median, times) / 1000.0, boundMs};
 }
 
 QString ResultTable(const QVector<BenchmarkResult> &results)

@@ -26,6 +26,9 @@ struct BenchmarkResult
 BenchmarkResult MeasureRatio(const QString &name, double bound, int rounds, const std::function<void()> &floor,
                              const std::function<void()> &subject);
 
+/// Times `work`, called `rounds` times after three to warm up, and gives the median in milliseconds.
+BenchmarkResult MeasureTime(const QString &name, double boundMs, int rounds, const std::function<void()> &work);
+
 /// The table for people, and the same as JSON.
 QString ResultTable(const QVector<BenchmarkResult> &results);
 QByteArray ResultJson(const QVector<BenchmarkResult> &results);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tiffpicturefile.h"
 
+#include "bothhalves.h"
 #include "sampleswap.h"
 #include "tiffdecode.h"
 #include "tiffmetadata.h"
@@ -8,9 +9,13 @@
 #include <QCoreApplication>
 #include <QFile>
 
+#include <atomic>
 #include <unistd.h>
 
 namespace {
+
+/// Reading this many bytes from the disk cache takes long enough to be shared by two threads.
+constexpr qint64 ReadByTwo = 2 << 20;
 
 QString Translate(const char *text)
 {
@@ -28,6 +33,16 @@ bool ReadBytes(int fd, quint64 offset, uchar *bytes, qint64 size)
         size -= got;
     }
     return true;
+}
+
+bool ReadBytesByTwo(int fd, quint64 offset, uchar *bytes, qint64 size)
+{
+    std::atomic<bool> isWhole{true};
+    ForBothHalves(size, ReadByTwo, [&](qint64 from, qint64 to) {
+        if (!ReadBytes(fd, offset + quint64(from), bytes + from, to - from))
+            isWhole = false;
+    });
+    return isWhole;
 }
 
 /// The page is one run of bytes that are the samples of a Picture, but for the byte order.
@@ -164,7 +179,7 @@ bool TiffPictureFile::DecodePage(const TiffPage &page, Picture &frame, FileFault
 
 bool TiffPictureFile::ReadRun(quint64 offset, Picture &frame)
 {
-    if (!ReadBytes(TIFFFileno(m_tiff.Get()), offset, frame.Data(), frame.ByteCount()))
+    if (!ReadBytesByTwo(TIFFFileno(m_tiff.Get()), offset, frame.Data(), frame.ByteCount()))
         return false;
     if (TIFFIsByteSwapped(m_tiff.Get()))
         SwapSampleBytes(frame);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "levelsconverter.h"
 
+#include "bothhalves.h"
 #include "levelskernel.h"
 #include "sampleview.h"
 #include "saturationmark.h"
@@ -8,6 +9,9 @@
 #include <cstring>
 
 namespace {
+
+/// Pixels of a picture that two threads convert sooner than one.
+constexpr qint64 ConvertByTwo = 1 << 20;
 
 void PreparePicture(const SampleView &samples, bool marksSaturated, QImage *picture)
 {
@@ -39,13 +43,19 @@ void LevelsConverter::Convert(const SampleView &samples, const DisplayLevels &le
     const DisplayLevels guarded = levels.Guarded(samples.bitDepth);
     if (guarded.gamma != 1.0)
         m_gammaTable.Prepare(guarded, samples.Has16BitSamples() ? 65536 : 256);
-    uchar *row = picture->bits();
-    for (int y = 0; y < samples.height; ++y, row += picture->bytesPerLine()) {
-        if (marksSaturated)
-            MarkRow(samples, guarded, y, row);
-        else
-            ConvertRow(samples, guarded, y, row);
-    }
+    uchar *rows = picture->bits();
+    const qptrdiff stride = picture->bytesPerLine();
+    const auto convertRows = [&](int from, int to) {
+        std::vector<uchar> greyRow(marksSaturated ? size_t(samples.width) : 0);
+        for (int y = from; y < to; ++y) {
+            if (marksSaturated)
+                MarkRow(samples, guarded, y, greyRow.data(), rows + y * stride);
+            else
+                ConvertRow(samples, guarded, y, rows + y * stride);
+        }
+    };
+    const bool isWorthwhile = qint64(samples.width) * samples.height >= ConvertByTwo;
+    ForBothHalves(samples.height, isWorthwhile ? 0 : samples.height + 1, convertRows);
 }
 
 void LevelsConverter::ConvertRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *grey) const
@@ -65,7 +75,8 @@ void LevelsConverter::ConvertRow(const SampleView &samples, const DisplayLevels 
     }
 }
 
-void LevelsConverter::MarkRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *rgb)
+void LevelsConverter::MarkRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *greyRow,
+                              uchar *rgb) const
 {
     const int fullScale = DisplayLevels::FullRange(samples.bitDepth).right;
     if (samples.isColour) {
@@ -76,10 +87,9 @@ void LevelsConverter::MarkRow(const SampleView &samples, const DisplayLevels &le
             SaturationMark::MarkColour(samples.Row8(y), samples.width, fullScale, rgb);
         return;
     }
-    m_greyRow.resize(size_t(samples.width));
-    ConvertRow(samples, levels, y, m_greyRow.data());
+    ConvertRow(samples, levels, y, greyRow);
     if (samples.Has16BitSamples())
-        SaturationMark::MarkGrey(samples.Row16(y), m_greyRow.data(), samples.width, fullScale, rgb);
+        SaturationMark::MarkGrey(samples.Row16(y), greyRow, samples.width, fullScale, rgb);
     else
-        SaturationMark::MarkGrey(samples.Row8(y), m_greyRow.data(), samples.width, fullScale, rgb);
+        SaturationMark::MarkGrey(samples.Row8(y), greyRow, samples.width, fullScale, rgb);
 }

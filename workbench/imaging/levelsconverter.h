@@ -5,13 +5,12 @@
 #include "gammatable.h"
 
 #include <QImage>
-#include <vector>
 
 struct SampleView;
 
 /// Makes the picture that a display shows from raw samples: Grayscale8 from mono, RGB888 from colour and from mono
 /// with saturated samples marked. Straight levels cost about as much as copying the samples; a gamma goes through a
-/// table. One converter for one thread.
+/// table. A large picture is shared with a second thread while it is made. One converter for one thread.
 class LevelsConverter
 {
 public:
@@ -23,8 +22,8 @@ public:
 
 private:
     void ConvertRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *grey) const;
-    void MarkRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *rgb);
+    /// `greyRow` is room for the greys of a mono row.
+    void MarkRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *greyRow, uchar *rgb) const;
 
     GammaTable m_gammaTable;
-    std::vector<uchar> m_greyRow; ///< of a mono row that is marked
 };

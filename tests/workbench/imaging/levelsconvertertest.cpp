@@ -27,6 +27,8 @@ private slots:
     void SaturatedSamplesAreRedWhenMarked();
     void SaturatedColourIsRedWhenMarked();
     void MarkTakesTheTrueBitDepth();
+    void LargePictureIsThatOfItsParts_data();
+    void LargePictureIsThatOfItsParts();
 };
 
 namespace {
@@ -330,6 +332,36 @@ void LevelsConverterTest::MarkTakesTheTrueBitDepth()
     view.bitDepth = 16;
     LevelsConverter().Convert(view, DisplayLevels::FullRange(16), &picture, true);
     QCOMPARE(picture.pixel(0, 0), qRgb(16, 16, 16));
+}
+
+void LevelsConverterTest::LargePictureIsThatOfItsParts_data()
+{
+    QTest::addColumn<double>("gamma");
+    QTest::addColumn<bool>("marks");
+    QTest::newRow("straight") << 1.0 << false;
+    QTest::newRow("gamma") << 1.8 << false;
+    QTest::newRow("marked") << 1.0 << true;
+}
+
+/// A large picture is made by two threads.
+void LevelsConverterTest::LargePictureIsThatOfItsParts()
+{
+    QFETCH(double, gamma);
+    QFETCH(bool, marks);
+    const RandomSamples samples(QSize(1301, 1003), 12, false, 17);
+    const DisplayLevels levels{ 100, 3000, gamma };
+    LevelsConverter converter;
+    QImage whole;
+    converter.Convert(samples.View(), levels, &whole, marks);
+    constexpr int rowsOfPart = 17;
+    for (int y = 0; y < 1003; y += rowsOfPart) {
+        SampleView part = samples.View();
+        part.samples = part.Row8(y);
+        part.height = qMin(rowsOfPart, 1003 - y);
+        QImage picture;
+        converter.Convert(part, levels, &picture, marks);
+        QCOMPARE(whole.copy(0, y, 1301, part.height), picture);
+    }
 }
 
 GUARDED_TEST_MAIN(LevelsConverterTest)
