@@ -3,7 +3,6 @@
 
 #include "levelshistogram.h"
 #include "levelsmodel.h"
-#include "livelevels.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -21,9 +20,9 @@ constexpr double MostGamma = 10.0;
 constexpr double GammaStep = 0.1;
 }
 
-LevelsDialog::LevelsDialog(LiveLevels *levels, QWidget *parent)
+LevelsDialog::LevelsDialog(LevelsModel *model, QWidget *parent)
     : QDialog(parent)
-    , m_levels(levels)
+    , m_model(model)
     , m_histogram(new LevelsHistogram)
     , m_depth(new QLabel)
     , m_mode(new QComboBox)
@@ -37,13 +36,12 @@ LevelsDialog::LevelsDialog(LiveLevels *levels, QWidget *parent)
     column->addWidget(m_depth);
     AddFields();
     AddButtons();
-    SetUsable(false);
+    slotNoReport(QString());
 
     connect(m_mode, SIGNAL(activated(int)), this, SLOT(slotModeChosen()));
     connect(m_left, SIGNAL(valueChanged(int)), this, SLOT(slotValueEdited()));
     connect(m_right, SIGNAL(valueChanged(int)), this, SLOT(slotValueEdited()));
     connect(m_gamma, SIGNAL(valueChanged(double)), this, SLOT(slotValueEdited()));
-    connect(m_levels, SIGNAL(signalReport(LevelsReport)), this, SLOT(slotReport(LevelsReport)));
 }
 
 void LevelsDialog::AddFields()
@@ -88,13 +86,13 @@ void LevelsDialog::AddButtons()
 
 void LevelsDialog::showEvent(QShowEvent *event)
 {
-    m_levels->SetWatched(true);
+    emit signalWatched(true);
     QDialog::showEvent(event);
 }
 
 void LevelsDialog::hideEvent(QHideEvent *event)
 {
-    m_levels->SetWatched(false);
+    emit signalWatched(false);
     QDialog::hideEvent(event);
 }
 
@@ -102,10 +100,23 @@ void LevelsDialog::slotReport(LevelsReport report)
 {
     m_report = report;
     m_histogram->SetReport(report);
-    SetUsable(true);
+    m_depth->setText(tr("%1 bit samples, 0 to %2")
+                         .arg(report.bitDepth)
+                         .arg(DisplayLevels::FullRange(report.bitDepth).right));
+    m_mode->setEnabled(true);
+    m_gamma->setEnabled(true);
     ShowSetting();
     if (Setting().mode != LevelsMode::Manual)
         ShowLevels();
+}
+
+void LevelsDialog::slotNoReport(QString reason)
+{
+    m_histogram->SetReport(LevelsReport());
+    m_depth->setText(reason);
+    for (QWidget *field : {static_cast<QWidget *>(m_mode), static_cast<QWidget *>(m_gamma),
+                           static_cast<QWidget *>(m_left), static_cast<QWidget *>(m_right)})
+        field->setEnabled(false);
 }
 
 /// Manual levels start from what is seen.
@@ -138,28 +149,13 @@ void LevelsDialog::slotReset()
 
 LevelsSetting LevelsDialog::Setting() const
 {
-    return m_levels->Model()->Setting(m_report.bitDepth);
+    return m_model->Setting(m_report.bitDepth);
 }
 
 void LevelsDialog::Apply(const LevelsSetting &setting)
 {
-    m_levels->Model()->SetSetting(m_report.bitDepth, setting);
+    m_model->SetSetting(m_report.bitDepth, setting);
     ShowSetting();
-}
-
-void LevelsDialog::SetUsable(bool usable)
-{
-    m_mode->setEnabled(usable);
-    m_gamma->setEnabled(usable);
-    if (usable) {
-        m_depth->setText(tr("%1 bit samples, 0 to %2")
-                             .arg(m_report.bitDepth)
-                             .arg(DisplayLevels::FullRange(m_report.bitDepth).right));
-    } else {
-        m_depth->setText(tr("There is no live picture."));
-        m_left->setEnabled(false);
-        m_right->setEnabled(false);
-    }
 }
 
 void LevelsDialog::ShowSetting()

@@ -7,26 +7,32 @@
 #include <QDialog>
 
 class LevelsHistogram;
-class LiveLevels;
+class LevelsModel;
 class QComboBox;
 class QDoubleSpinBox;
 class QFormLayout;
 class QLabel;
 class QSpinBox;
 
-/// Sets the levels of the live picture beside the picture itself: mode, black, white and gamma, with the histogram of
-/// the raw samples. Shows the levels of the present picture in every mode and lets them be edited in manual mode, which
+/// Sets the levels of the picture beside the picture itself: mode, black, white and gamma, with the histogram of the raw
+/// samples. Shows the levels of the present picture in every mode and lets them be edited in manual mode, which
 /// starts from what is seen. GUI thread.
 class LevelsDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    /// `levels` is borrowed and outlives this object.
-    LevelsDialog(LiveLevels *levels, QWidget *parent);
+    /// `model` is borrowed and outlives this object.
+    LevelsDialog(LevelsModel *model, QWidget *parent);
 
 public slots:
     void slotReport(LevelsReport report);
+    /// There is no picture whose levels can be set.
+    void slotNoReport(QString reason);
+
+signals:
+    /// Reports are wanted, or no longer.
+    void signalWatched(bool watched);
 
 protected:
     void showEvent(QShowEvent *event) override;
@@ -43,11 +49,10 @@ private:
     QSpinBox *AddValue(QFormLayout *form, const QString &label, const char *name);
     LevelsSetting Setting() const;
     void Apply(const LevelsSetting &setting);
-    void SetUsable(bool usable);
     void ShowSetting();
     void ShowLevels();
 
-    LiveLevels *m_levels;
+    LevelsModel *m_model;
     LevelsReport m_report;
     LevelsHistogram *m_histogram;
     QLabel *m_depth;

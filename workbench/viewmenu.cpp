@@ -5,6 +5,7 @@
 #include "globalnotify.h"
 #include "levelsdialog.h"
 #include "levelsmodel.h"
+#include "levelssource.h"
 #include "livelevels.h"
 #include "scenecatalogue.h"
 #include "workbenchservices.h"
@@ -142,10 +143,19 @@ void ViewMenu::slotSetDrawing(QAction *action)
     emit signalDrawingChosen(action->data().toBool());
 }
 
+void ViewMenu::BuildLevelsDialog()
+{
+    auto *source = new LevelsSource(m_services, this);
+    m_levelsDialog = new LevelsDialog(source->Model(), parentWidget());
+    connect(m_levelsDialog, SIGNAL(signalWatched(bool)), source, SLOT(slotSetWatched(bool)));
+    connect(source, SIGNAL(signalReport(LevelsReport)), m_levelsDialog, SLOT(slotReport(LevelsReport)));
+    connect(source, SIGNAL(signalNoReport(QString)), m_levelsDialog, SLOT(slotNoReport(QString)));
+}
+
 void ViewMenu::slotShowLevels()
 {
     if (!m_levelsDialog)
-        m_levelsDialog = new LevelsDialog(m_services->Levels(), parentWidget());
+        BuildLevelsDialog();
     m_levelsDialog->show();
     m_levelsDialog->raise();
     m_levelsDialog->activateWindow();

@@ -42,6 +42,7 @@ private:
     void AddDrawing();
     void AddScenes();
     void AddWindow();
+    void BuildLevelsDialog();
     QAction *AddChoice(QActionGroup *group, QMenu *menu, const QString &text, const QVariant &data);
 
     WorkbenchServices *m_services;

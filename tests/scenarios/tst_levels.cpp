@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "camerasession.h"
+#include "createpicture.h"
 #include "guardedtest.h"
 #include "levelsmodel.h"
 #include "livelevels.h"
+#include "openedpicture.h"
+#include "picturedesk.h"
 #include "pixelinfomanager.h"
 #include "runningworkbench.h"
 #include "testchartscene.h"
+#include "workspaceconfig.h"
 
 #include <QAction>
 #include <QComboBox>
+#include <QLabel>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QSignalSpy>
@@ -130,7 +135,45 @@ private slots:
         QTRY_COMPARE(m_workbench->OnScreen(Middle), QColor(grey, grey, grey));
     }
 
+    void openedPictureIsSetByTheSameDialog()
+    {
+        WriteRamp(m_folder->filePath("ramp.tif"));
+        m_workbench->Action("Levels…")->trigger();
+        auto *mode = m_workbench->window.findChild<QComboBox *>("comboBoxLevelsMode");
+        auto *depth = m_workbench->window.findChild<QLabel *>("labelLevelsDepth");
+        auto *right = m_workbench->window.findChild<QSpinBox *>("spinBoxLevelsRight");
+        OpenedPicture *picture = m_workbench->services.Desk()->MainPicture();
+        QTRY_COMPARE(depth->text(), QString("8 bit samples, 0 to 255")); // the live picture
+        m_workbench->services.Desk()->Open({m_folder->filePath("ramp.tif")}, picture);
+        QTRY_COMPARE(depth->text(), QString("16 bit samples, 0 to 65535"));
+        QTRY_COMPARE(right->value(), 99 * 40); // 0.1 % of a hundred columns is less than one
+        QCOMPARE(picture->Shown().image.pixelColor(99, 0), QColor(Qt::white));
+
+        while (mode->currentText() != "Manual")
+            QTest::keyClick(mode, Qt::Key_Down);
+        right->setValue(8000);
+        const int grey = qRound(255.0 * 99 * 40 / 8000);
+        QTRY_COMPARE(picture->Shown().image.pixelColor(99, 0), QColor(grey, grey, grey));
+        QCOMPARE(right->value(), 8000);
+
+        m_workbench->services.Config()->SetCameraView();
+        QTRY_COMPARE(depth->text(), QString("8 bit samples, 0 to 255"));
+        mode->window()->close();
+    }
+
 private:
+    /// A hundred columns of samples 40 apart.
+    static void WriteRamp(const QString &path)
+    {
+        Picture picture(100, 60, 1, SampleType::U16);
+        for (int y = 0; y < 60; ++y) {
+            for (int x = 0; x < 100; ++x)
+                picture.Samples<quint16>(y)[x] = quint16(40 * x);
+        }
+        QString error;
+        QVERIFY2(SavePicture(path, picture, SaveOptions(), error), qPrintable(error));
+    }
+
     void Start()
     {
         m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());

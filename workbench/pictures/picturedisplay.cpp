@@ -8,21 +8,22 @@
 
 #include <new>
 
-namespace {
-
-SampleView ViewOf(const Picture &picture)
+bool PictureDisplay::HasLevels(const Picture &samples)
 {
-    SampleView view;
-    view.samples = picture.Data();
-    view.width = picture.Width();
-    view.height = picture.Height();
-    view.strideBytes = int(picture.BytesPerRow());
-    view.bitDepth = 8 * BytesPerSample(picture.Type());
-    view.isColour = picture.Channels() == 3;
-    return view;
+    return samples.Type() == SampleType::U8 || samples.Type() == SampleType::U16;
 }
 
-} // namespace
+SampleView PictureDisplay::ViewOf(const Picture &samples)
+{
+    SampleView view;
+    view.samples = samples.Data();
+    view.width = samples.Width();
+    view.height = samples.Height();
+    view.strideBytes = int(samples.BytesPerRow());
+    view.bitDepth = 8 * BytesPerSample(samples.Type());
+    view.isColour = samples.Channels() == 3;
+    return view;
+}
 
 PictureDisplay::PictureDisplay(const LevelsModel *levels)
     : m_levels(levels)
@@ -31,8 +32,7 @@ PictureDisplay::PictureDisplay(const LevelsModel *levels)
 
 QImage PictureDisplay::Make(const Picture &samples, SampleRange &range)
 {
-    const bool isUnsigned = samples.Type() == SampleType::U8 || samples.Type() == SampleType::U16;
-    const QImage image = isUnsigned ? MakeUnsigned(samples, range) : MakeScaled(samples, range);
+    const QImage image = HasLevels(samples) ? MakeUnsigned(samples, range) : MakeScaled(samples, range);
     if (image.isNull())
         throw std::bad_alloc();
     return image;

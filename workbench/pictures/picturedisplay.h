@@ -6,7 +6,7 @@
 #include "samplerange.h"
 
 class LevelsModel;
-struct LevelsSetting;
+struct SampleView;
 
 /// Makes the picture for the screen of the samples of a file, whatever their type: unsigned 8 and 16 bit as
 /// the live picture is shown, all others between levels found from the finite samples; what is no number is
@@ -14,6 +14,11 @@ struct LevelsSetting;
 class PictureDisplay
 {
 public:
+    /// The levels of these samples can be set; those of all others are found.
+    static bool HasLevels(const Picture &samples);
+    /// Samples whose levels can be set.
+    static SampleView ViewOf(const Picture &samples);
+
     /// `levels` is borrowed and outlives this object.
     explicit PictureDisplay(const LevelsModel *levels);
 

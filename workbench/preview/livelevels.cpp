@@ -2,16 +2,11 @@
 #include "livelevels.h"
 
 #include "levelsmodel.h"
-#include "samplehistogram.h"
 #include "sampleview.h"
-
-#include <algorithm>
 
 namespace {
 
 constexpr int ReportPeriodMs = 100;
-/// A picture of the histogram needs no more rows than these.
-constexpr int RowsForReport = 256;
 
 } // namespace
 
@@ -33,8 +28,10 @@ DisplayLevels LiveLevels::Next(const SampleView &samples)
     }
     const DisplayLevels levels = m_follower.Next(samples, setting);
     const bool isTime = !m_sinceReport.isValid() || m_sinceReport.elapsed() >= ReportPeriodMs;
-    if (m_isWatched && (m_reportsNext.exchange(false) || isTime))
-        Report(samples, levels);
+    if (m_isWatched && (m_reportsNext.exchange(false) || isTime)) {
+        m_sinceReport.start();
+        emit signalReport(LevelsReport::Of(samples, levels));
+    }
     return levels;
 }
 
@@ -49,12 +46,4 @@ void LiveLevels::SetWatched(bool watched)
     m_reportsNext = watched;
     if (watched)
         emit signalPictureWanted();
-}
-
-void LiveLevels::Report(const SampleView &samples, const DisplayLevels &levels)
-{
-    const SampleHistogram histogram(samples, std::max(1, samples.height / RowsForReport));
-    const std::vector<qint64> columns = histogram.Condensed(HistogramColumns);
-    m_sinceReport.start();
-    emit signalReport({samples.bitDepth, levels, QVector<qint64>(columns.begin(), columns.end())});
 }

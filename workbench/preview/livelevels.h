@@ -18,8 +18,6 @@ class LiveLevels : public QObject
     Q_OBJECT
 
 public:
-    static constexpr int HistogramColumns = 256;
-
     /// `model` is borrowed and outlives this object.
     explicit LiveLevels(LevelsModel *model, QObject *parent = nullptr);
 
@@ -39,8 +37,6 @@ signals:
     void signalReport(LevelsReport report);
 
 private:
-    void Report(const SampleView &samples, const DisplayLevels &levels);
-
     LevelsModel *m_model;
     std::atomic<bool> m_isWatched{false};
     std::atomic<bool> m_reportsNext{false};

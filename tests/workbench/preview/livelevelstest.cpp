@@ -100,7 +100,7 @@ private slots:
         QCOMPARE(report.levels.right, 62);
         QCOMPARE(report.levels.gamma, 1.4);
         // 16 values to a column; the samples are x + 10 y.
-        QCOMPARE(report.histogram.size(), int(LiveLevels::HistogramColumns));
+        QCOMPARE(report.histogram.size(), int(LevelsReport::HistogramColumns));
         QCOMPARE(report.histogram.mid(0, 5), QVector<qint64>({16 + 6, 16 + 16 + 12 + 2, 1 + 11 + 16 + 16, 5 + 15, 0}));
     }
 

@@ -3,7 +3,6 @@
 #include "guardedtest.h"
 #include "levelshistogram.h"
 #include "levelsmodel.h"
-#include "livelevels.h"
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -20,7 +19,7 @@ LevelsReport ReportOf(int bitDepth, int left, int right, double gamma = 1.0)
     LevelsReport report;
     report.bitDepth = bitDepth;
     report.levels = {left, right, gamma};
-    report.histogram = QVector<qint64>(LiveLevels::HistogramColumns, 7);
+    report.histogram = QVector<qint64>(LevelsReport::HistogramColumns, 7);
     return report;
 }
 
@@ -35,14 +34,12 @@ private slots:
     {
         StartGuard();
         m_model = std::make_unique<LevelsModel>();
-        m_levels = std::make_unique<LiveLevels>(m_model.get());
-        m_dialog = std::make_unique<LevelsDialog>(m_levels.get(), nullptr);
+        m_dialog = std::make_unique<LevelsDialog>(m_model.get(), nullptr);
     }
 
     void cleanup() override
     {
         m_dialog.reset();
-        m_levels.reset();
         m_model.reset();
         EndGuard();
     }
@@ -52,7 +49,14 @@ private slots:
         QVERIFY(!Mode()->isEnabled());
         QVERIFY(!Left()->isEnabled());
         QVERIFY(!Gamma()->isEnabled());
-        QCOMPARE(Depth()->text(), QString("There is no live picture."));
+        m_dialog->slotReport(ReportOf(12, 130, 2750));
+        QVERIFY(Mode()->isEnabled());
+        Choose("Manual");
+        m_dialog->slotNoReport("No picture is open.");
+        QVERIFY(!Mode()->isEnabled());
+        QVERIFY(!Left()->isEnabled());
+        QVERIFY(!Gamma()->isEnabled());
+        QCOMPARE(Depth()->text(), QString("No picture is open."));
     }
 
     void presentLevelsAreSeenInEveryMode()
@@ -188,7 +192,6 @@ private:
     }
 
     std::unique_ptr<LevelsModel> m_model;
-    std::unique_ptr<LiveLevels> m_levels;
     std::unique_ptr<LevelsDialog> m_dialog;
 };
 

@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "levelssource.h"
+
+#include "levelsmodel.h"
+#include "livelevels.h"
+#include "openedpicture.h"
+#include "picturedesk.h"
+#include "picturedisplay.h"
+#include "samplehistogram.h"
+#include "sampleview.h"
+#include "workbenchservices.h"
+#include "workspace.h"
+#include "workspaceconfig.h"
+
+LevelsSource::LevelsSource(WorkbenchServices *services, QObject *parent)
+    : QObject(parent)
+    , m_live(services->Levels())
+    , m_picture(services->Desk()->MainPicture())
+    , m_workspace(services->GetWorkspace())
+{
+    connect(services->Config(), SIGNAL(signalSwitchView()), this, SLOT(slotViewSwitched()));
+    connect(m_live, SIGNAL(signalReport(LevelsReport)), this, SLOT(slotLiveReport(LevelsReport)));
+    connect(m_picture, SIGNAL(signalShowPicture(QImage)), this, SLOT(slotPictureShown()));
+}
+
+LevelsModel *LevelsSource::Model() const { return m_live->Model(); }
+
+void LevelsSource::slotSetWatched(bool watched)
+{
+    m_isWatched = watched;
+    slotViewSwitched();
+}
+
+void LevelsSource::slotViewSwitched()
+{
+    const bool isLive = m_workspace->IsCameraView();
+    if (m_isWatched && isLive)
+        emit signalNoReport(tr("There is no live picture."));
+    m_live->SetWatched(m_isWatched && isLive);
+    if (m_isWatched && !isLive)
+        ReportOpenedPicture();
+}
+
+void LevelsSource::slotLiveReport(LevelsReport report)
+{
+    // One may still be on its way when the view was switched.
+    if (m_isWatched && m_workspace->IsCameraView())
+        emit signalReport(report);
+}
+
+void LevelsSource::slotPictureShown()
+{
+    if (m_isWatched && !m_workspace->IsCameraView())
+        ReportOpenedPicture();
+}
+
+void LevelsSource::ReportOpenedPicture()
+{
+    const LoadedPicture &shown = m_picture->Shown();
+    if (shown.samples.IsNull()) {
+        emit signalNoReport(tr("No picture is open."));
+        return;
+    }
+    if (!PictureDisplay::HasLevels(shown.samples)) {
+        emit signalNoReport(tr("Levels are found from samples of this kind."));
+        return;
+    }
+    const SampleView samples = PictureDisplay::ViewOf(shown.samples);
+    const double gamma = Model()->Setting(samples.bitDepth).gamma;
+    emit signalReport(
+        LevelsReport::Of(samples, { int(shown.range.left), int(shown.range.right), gamma }));
+}
