@@ -77,8 +77,11 @@ QSpinBox *LevelsDialog::AddValue(QFormLayout *form, const QString &label, const 
 void LevelsDialog::AddButtons()
 {
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Reset | QDialogButtonBox::Close);
-    for (QAbstractButton *button : buttons->buttons())
+    for (QAbstractButton *button : buttons->buttons()) {
         static_cast<QPushButton *>(button)->setAutoDefault(false); // Enter ends a number, not the dialog
+        button->setIcon(QIcon());
+        button->setFocusPolicy(Qt::TabFocus); // the mode comes first
+    }
     connect(buttons, SIGNAL(rejected()), this, SLOT(close()));
     connect(buttons->button(QDialogButtonBox::Reset), SIGNAL(clicked()), this, SLOT(slotReset()));
     layout()->addWidget(buttons);
@@ -103,7 +106,10 @@ void LevelsDialog::slotReport(LevelsReport report)
     m_depth->setText(tr("%1 bit samples, 0 to %2")
                          .arg(report.bitDepth)
                          .arg(DisplayLevels::FullRange(report.bitDepth).right));
-    m_mode->setEnabled(true);
+    if (!m_mode->isEnabled()) {
+        m_mode->setEnabled(true);
+        m_mode->setFocus(); // nothing but the buttons could have it before
+    }
     m_gamma->setEnabled(true);
     ShowSetting();
     if (Setting().mode != LevelsMode::Manual)
@@ -170,8 +176,11 @@ void LevelsDialog::ShowSetting()
     m_mode->setCurrentIndex(m_mode->findData(int(setting.mode)));
     m_left->setRange(0, fullScale - 1);
     m_right->setRange(1, fullScale);
-    m_left->setEnabled(isManual);
-    m_right->setEnabled(isManual);
+    for (QSpinBox *value : {m_left, m_right}) {
+        value->setEnabled(true);
+        value->setReadOnly(!isManual);
+        value->setButtonSymbols(isManual ? QSpinBox::UpDownArrows : QSpinBox::NoButtons);
+    }
     if (isManual) {
         m_left->setValue(setting.left);
         m_right->setValue(setting.right);

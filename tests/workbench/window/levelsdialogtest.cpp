@@ -66,7 +66,8 @@ private slots:
         QCOMPARE(Mode()->currentText(), QString("Automatic (0.1 % to 99.9 %)"));
         QCOMPARE(Left()->value(), 130);
         QCOMPARE(Right()->value(), 2750);
-        QVERIFY(!Left()->isEnabled());
+        QVERIFY(Left()->isReadOnly());
+        QVERIFY(Right()->isReadOnly());
         m_dialog->slotReport(ReportOf(12, 140, 2800));
         QCOMPARE(Left()->value(), 140);
         QCOMPARE(Right()->value(), 2800);
@@ -78,7 +79,8 @@ private slots:
         m_dialog->slotReport(ReportOf(12, 130, 2750));
         Choose("Manual");
         QVERIFY(m_model->Setting(12) == (LevelsSetting{LevelsMode::Manual, 130, 2750, 1.0}));
-        QVERIFY(Left()->isEnabled());
+        QVERIFY(!Left()->isReadOnly());
+        QVERIFY(!Right()->isReadOnly());
         Left()->setValue(200);
         Right()->setValue(3000);
         Gamma()->setValue(1.8);

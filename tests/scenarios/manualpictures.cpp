@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Works with the program as a reader of the manual does, and saves the pictures of it.
+#include "camerasession.h"
+#include "createpicture.h"
+#include "levelsmodel.h"
+#include "livelevels.h"
+#include "openedpicture.h"
+#include "picturedesk.h"
+#include "runningworkbench.h"
+#include "specimenscene.h"
+#include "stylesheet.h"
+#include "viewcodes.h"
+#include "workspaceconfig.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QFrame>
+#include <QGraphicsView>
+#include <QLoggingCategory>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWheelEvent>
+
+namespace {
+
+constexpr QSize WindowSize(1280, 800);
+constexpr QSize StackSize(1024, 1024);
+constexpr int StackFrames = 12;
+constexpr int FramesApart = 20; ///< so that the cells have moved
+constexpr double BrightExposureUs = 25000;
+constexpr int WheelNotch = 120;
+constexpr int WaitMs = 10000;
+constexpr int SettleMs = 1000;
+
+/// Pictures of one run of the program.
+class Album
+{
+public:
+    Album(const QString &settingsFolder, const QDir &target)
+        : m_files(settingsFolder)
+        , m_target(target)
+        , m_workbench(settingsFolder)
+    {
+        m_workbench.window.resize(WindowSize);
+        if (!m_workbench.WaitForPicture())
+            qFatal("The program shows no picture.");
+        m_workbench.link.SetScene(SpecimenScene::SceneName());
+        Settle();
+    }
+
+    ~Album() { m_workbench.services.Config()->SetCameraView(); }
+
+    void TakeAll()
+    {
+        TakeLive();
+        TakeLevels();
+        TakeOpenedPicture();
+        TakeCompare();
+    }
+
+private:
+    void TakeLive()
+    {
+        Save("workbench");
+        ShowPanels(false, false);
+        m_workbench.View()->setFocus();
+        Zoom(3);
+        Save("zoom");
+        Press("Ctrl+F");
+        m_workbench.Action("Mark Saturated Pixels")->trigger();
+        const double exposureUs = m_workbench.link.Session()->Controls().ExposureUs();
+        m_workbench.link.Session()->Controls().SetExposureUs(BrightExposureUs);
+        Save("saturation");
+        m_workbench.Action("Mark Saturated Pixels")->trigger();
+        m_workbench.link.Session()->Controls().SetExposureUs(exposureUs);
+    }
+
+    void TakeLevels()
+    {
+        m_workbench.link.SetPixelLayout(PixelLayout::Mono12);
+        m_workbench.services.Levels()->Model()->SetSetting(12, { LevelsMode::Automatic, 0, 4095, 1.6 });
+        m_workbench.Action("Levels…")->trigger();
+        auto *dialog = m_workbench.window.findChild<QDialog *>("LevelsDialog");
+        const QRect window = m_workbench.window.geometry();
+        dialog->move(window.right() - dialog->width() - 120, window.top() + 60);
+        Save("levels");
+        dialog->close();
+        m_workbench.link.SetPixelLayout(PixelLayout::Mono8);
+    }
+
+    void TakeOpenedPicture()
+    {
+        const QString path = m_files.filePath("specimen.tif");
+        WriteStack(path);
+        OpenedPicture *picture = m_workbench.services.Desk()->MainPicture();
+        m_workbench.services.Desk()->Open({ path }, picture);
+        const auto isShown = [picture](int frame) {
+            return !picture->IsNonImage() && picture->Shown().request.frame == frame;
+        };
+        if (!QTest::qWaitFor([&] { return isShown(0); }, WaitMs))
+            qFatal("The stack does not open.");
+        ShowPanels(true, true);
+        auto *page = qobject_cast<QStackedWidget *>(m_workbench.window.centralWidget())->widget(ImageControlPage);
+        page->findChild<QFrame *>("MultiImageToolUI")->findChild<QScrollBar *>()->setValue(4);
+        if (!QTest::qWaitFor([&] { return isShown(4); }, WaitMs))
+            qFatal("The stack shows no other frame.");
+        Save("opened");
+    }
+
+    void TakeCompare()
+    {
+        m_workbench.services.Config()->SetCameraView();
+        ShowPanels(false, false);
+        m_workbench.Action("Compare")->trigger();
+        Save("compare");
+        m_workbench.Action("Compare")->trigger();
+    }
+
+    /// A drift of the cells under the microscope.
+    static void WriteStack(const QString &path)
+    {
+        SaveOptions options;
+        options.frameCount = StackFrames;
+        QString error;
+        const auto writer = CreatePicture(path, options, error);
+        SpecimenScene scene(1);
+        for (int number = 0; writer && number < StackFrames; ++number) {
+            Picture picture(StackSize.width(), StackSize.height(), 1, SampleType::U16);
+            SceneFrame frame;
+            frame.pixels = picture.Data();
+            frame.width = frame.sensorWidth = StackSize.width();
+            frame.height = frame.sensorHeight = StackSize.height();
+            frame.strideBytes = int(picture.BytesPerRow());
+            frame.bitDepth = 16;
+            frame.frameNumber = quint64(number) * FramesApart;
+            scene.Fill(frame);
+            writer->Append(picture, error);
+        }
+        if (!writer || !writer->Commit(error))
+            qFatal("%s", qPrintable(error));
+    }
+
+    /// The wheel over a cell, and the mouse at rest there.
+    void Zoom(int notches)
+    {
+        QWidget *viewport = m_workbench.View()->viewport();
+        const QPointF cell(1290, 1400); // picture pixels
+        for (int i = 0; i < qAbs(notches); ++i) {
+            const QPoint place = m_workbench.View()->mapFromScene(cell);
+            QWheelEvent event(place, viewport->mapToGlobal(place), QPoint(),
+                              QPoint(0, notches > 0 ? WheelNotch : -WheelNotch), Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QApplication::sendEvent(viewport, &event);
+        }
+        QTest::mouseMove(viewport, m_workbench.View()->mapFromScene(cell));
+    }
+
+    /// A key of the live page's tool bar.
+    void Press(const QString &key)
+    {
+        for (QAbstractButton *button : m_workbench.CameraPage()->findChildren<QAbstractButton *>()) {
+            if (button->shortcut() == QKeySequence(key))
+                button->click();
+        }
+    }
+
+    void ShowPanels(bool left, bool bottom)
+    {
+        m_workbench.services.Config()->SetLeftUIChecked(left);
+        m_workbench.services.Config()->SetBottomUIChecked(bottom);
+        m_workbench.services.Config()->UpdateCameraControlUI();
+        Settle();
+    }
+
+    /// Nothing tells that a window has come to rest.
+    static void Settle() { QTest::qWait(SettleMs); }
+
+    /// What the screen shows where the window is, its dialogs among it.
+    void Save(const QString &name)
+    {
+        Settle();
+        const QRect window = m_workbench.window.geometry();
+        const QPixmap picture = QGuiApplication::primaryScreen()->grabWindow(0, window.x(), window.y(),
+                                                                             window.width(), window.height());
+        if (!picture.save(m_target.filePath(name + ".png")))
+            qFatal("%s.png can't be written.", qPrintable(name));
+    }
+
+    QDir m_files;
+    QDir m_target;
+    RunningWorkbench m_workbench;
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QLoggingCategory::setFilterRules("default.debug=false");
+    QApplication application(argc, argv);
+    if (argc != 2 || !QDir().mkpath(argv[1]))
+        qFatal("Usage: manual_pictures FOLDER");
+    StyleSheet::Dark().Apply(application);
+    const QTemporaryDir folder;
+    {
+        Album album(folder.path(), QDir(argv[1]));
+        album.TakeAll();
+    }
+    return CameraSession::WaitForTeardown(WaitMs) ? EXIT_SUCCESS : EXIT_FAILURE;
+}
