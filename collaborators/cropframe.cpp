@@ -16,6 +16,7 @@
 namespace {
 
 constexpr int HandleSize = 8; // design pixels, side of a handle
+constexpr int SurroundingsAlpha = 128; // of the darkness around a selection
 
 Qt::CursorShape CursorOf(SelectionRect::Grip grip)
 {
@@ -264,7 +265,7 @@ void CropFrame::DrawSurroundings(QPainter &painter, const QRectF &selection) con
     surroundings.setFillRule(Qt::OddEvenFill);
     surroundings.addRect(rect());
     surroundings.addRect(selection);
-    painter.fillPath(surroundings, QColor(0, 0, 0, qRound(255 * m_opacity)));
+    painter.fillPath(surroundings, QColor(0, 0, 0, SurroundingsAlpha));
 }
 
 void CropFrame::DrawHandles(QPainter &painter, const QRectF &selection) const

@@ -31,7 +31,7 @@ public slots:
     void slotSetCoverFrameVisible(bool visible);
     /// The cover that was set; in picture pixels, empty for none.
     void slotFinishFillCover(QRect rect);
-    /// Of the cover and of the dimmed surroundings; 0 to 1.
+    /// Of the cover; 0 to 1.
     void slotSetOpacity(float opacity);
     /// With `reset` the selection starts anew.
     void slotSetROIFrameVisible(bool visible, bool reset);

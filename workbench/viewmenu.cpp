@@ -6,6 +6,7 @@
 #include "levelsdialog.h"
 #include "levelsmodel.h"
 #include "levelssource.h"
+#include "livecover.h"
 #include "livelevels.h"
 #include "scenecatalogue.h"
 #include "workbenchservices.h"
@@ -24,12 +25,14 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     , m_panelGroup(new QActionGroup(this))
     , m_drawingGroup(new QActionGroup(this))
     , m_sceneGroup(new QActionGroup(this))
+    , m_opacityGroup(new QActionGroup(this))
 {
     AddViews();
     addSeparator();
     AddPanels();
     addSeparator();
     AddPicture();
+    AddCover();
     AddDrawing();
     AddScenes();
     addSeparator();
@@ -38,10 +41,14 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     connect(m_panelGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetPanel(QAction *)));
     connect(m_drawingGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetDrawing(QAction *)));
     connect(m_sceneGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetScene(QAction *)));
+    connect(m_opacityGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetCoverOpacity(QAction *)));
+    connect(services->Cover(), SIGNAL(signalChanged()), this, SLOT(slotUpdateCover()));
     connect(m_config, SIGNAL(signalSetCPUDraw(bool)), this, SLOT(slotUpdate()));
     connect(services->Levels()->Model(), SIGNAL(signalChanged()), this, SLOT(slotUpdate()));
     connect(services->Link(), SIGNAL(signalFormatChanged()), this, SLOT(slotUpdate()));
+    connect(services->Link(), SIGNAL(signalStateChanged()), this, SLOT(slotUpdateCover()));
     slotUpdate();
+    slotUpdateCover();
 }
 
 void ViewMenu::AddViews()
@@ -65,6 +72,18 @@ void ViewMenu::AddPicture()
     m_markSaturated->setCheckable(true);
     m_markSaturated->setShortcut(QKeySequence("Ctrl+M"));
     connect(m_markSaturated, SIGNAL(toggled(bool)), m_services->Levels()->Model(), SLOT(slotSetMarksSaturated(bool)));
+}
+
+void ViewMenu::AddCover()
+{
+    QMenu *menu = addMenu(tr("C&over"));
+    m_drawCover = menu->addAction(tr("&Draw on Live Picture"));
+    m_drawCover->setCheckable(true);
+    connect(m_drawCover, SIGNAL(triggered(bool)), m_services->Cover(), SLOT(slotSetDrawing(bool)));
+    m_removeCover = menu->addAction(tr("&Remove"), m_services->Cover(), &LiveCover::ResetCover);
+    menu->addSeparator();
+    for (const int percent : {25, 50, 75, 100})
+        AddChoice(m_opacityGroup, menu, tr("%1 % dark").arg(percent), percent / 100.0F);
 }
 
 void ViewMenu::AddDrawing()
@@ -110,6 +129,21 @@ void ViewMenu::slotUpdate()
     m_markSaturated->setChecked(m_services->Levels()->Model()->MarksSaturated());
     for (QAction *action : m_sceneGroup->actions())
         action->setChecked(action->data().toString() == m_services->Link()->SceneName());
+}
+
+void ViewMenu::slotUpdateCover()
+{
+    const LiveCover *cover = m_services->Cover();
+    m_drawCover->setChecked(cover->IsDrawing());
+    m_drawCover->setEnabled(m_services->Link()->GetState() == CameraLink::State::Open);
+    m_removeCover->setEnabled(cover->HasCover());
+    for (QAction *action : m_opacityGroup->actions())
+        action->setChecked(qFuzzyCompare(action->data().toFloat(), cover->Opacity()));
+}
+
+void ViewMenu::slotSetCoverOpacity(QAction *action)
+{
+    m_services->Cover()->SetOpacity(action->data().toFloat());
 }
 
 void ViewMenu::slotSetFullScreenChecked(bool checked)

@@ -34,11 +34,14 @@ private slots:
     void slotShowLevels();
     void slotSetScene(QAction *action);
     void slotSetPanel(QAction *action);
+    void slotSetCoverOpacity(QAction *action);
+    void slotUpdateCover();
 
 private:
     void AddViews();
     void AddPanels();
     void AddPicture();
+    void AddCover();
     void AddDrawing();
     void AddScenes();
     void AddWindow();
@@ -50,8 +53,11 @@ private:
     QActionGroup *m_panelGroup;
     QActionGroup *m_drawingGroup;
     QActionGroup *m_sceneGroup;
+    QActionGroup *m_opacityGroup;
     LevelsDialog *m_levelsDialog = nullptr;
     QAction *m_markSaturated = nullptr;
+    QAction *m_drawCover = nullptr;
+    QAction *m_removeCover = nullptr;
     QAction *m_blackBackground = nullptr;
     QAction *m_fullScreen = nullptr;
 };

@@ -9,9 +9,9 @@
 #include "centredisplay.h"
 #include "channelsynthesis.h"
 #include "connectedcameras.h"
-#include "coversettings.h"
 #include "framesaving.h"
 #include "levelsmodel.h"
+#include "livecover.h"
 #include "liveframesize.h"
 #include "livehistogram.h"
 #include "livelevels.h"
@@ -40,7 +40,8 @@
 #include "workspaceconfig.h"
 
 WorkbenchServices::WorkbenchServices(QSettings *settings, CameraLink *link)
-    : m_link(link)
+    : m_settings(settings)
+    , m_link(link)
     , m_config(std::make_unique<WorkspaceConfig>(settings))
     , m_useArea(std::make_unique<UseArea>(settings))
     , m_levelsModel(std::make_unique<LevelsModel>(settings))
@@ -97,13 +98,13 @@ void WorkbenchServices::StartCamera()
     m_cameras = std::make_unique<ConnectedCameras>();
     m_cameraCaption = std::make_unique<CameraCaption>(m_link);
     m_cameraSettings = std::make_unique<CameraSettings>();
-    m_coverSettings = std::make_unique<CoverSettings>();
     m_region = std::make_unique<RegionOfInterest>();
 }
 
 void WorkbenchServices::StartPreview()
 {
     m_orientation = std::make_unique<LiveOrientation>();
+    m_cover = std::make_unique<LiveCover>(m_orientation.get(), m_settings);
     m_levels = std::make_unique<LiveLevels>(m_levelsModel.get());
     m_preview = std::make_unique<LivePreview>(m_link, m_orientation.get(), m_levels.get());
     m_pixelReadout = std::make_unique<PixelReadout>(m_preview.get(), m_orientation.get());
@@ -130,7 +131,9 @@ void WorkbenchServices::Connect()
     connect(m_link, SIGNAL(signalStateChanged()), this, SLOT(slotCameraStateChanged()));
     connect(m_preview.get(), SIGNAL(signalPictureSizeChanged(QSize)), m_frameSize.get(), SLOT(slotSetSize(QSize)));
     connect(m_preview.get(), SIGNAL(signalPictureSizeChanged(QSize)), this, SLOT(slotPictureSizeChanged(QSize)));
+    connect(m_preview.get(), SIGNAL(signalPictureSizeChanged(QSize)), m_cover.get(), SLOT(slotSetPictureSize(QSize)));
     connect(m_preview.get(), SIGNAL(signalRegionWanted(QRect)), this, SLOT(slotRegionWanted(QRect)));
+    connect(m_workspace.get(), &Workspace::signalCameraSceneSet, m_cover.get(), &LiveCover::ShowIn);
 
     ConnectPictures();
 

@@ -15,9 +15,9 @@ class CameraSettings;
 class CentreDisplay;
 class ChannelSynthesis;
 class ConnectedCameras;
-class CoverSettings;
 class FrameSaving;
 class LevelsModel;
+class LiveCover;
 class LiveFrameSize;
 class LiveHistogram;
 class LiveLevels;
@@ -66,6 +66,7 @@ public:
     PictureLoader *Loader() const { return m_pictureLoader.get(); }
     ConnectedCameras *Cameras() const { return m_cameras.get(); }
     RegionOfInterest *Region() const { return m_region.get(); }
+    LiveCover *Cover() const { return m_cover.get(); }
 
 signals:
     /// A sentence for the status bar, from any service.
@@ -86,6 +87,7 @@ private:
     void Connect();
     void ConnectPictures();
 
+    QSettings *m_settings;
     CameraLink *m_link;
 
     std::unique_ptr<WorkspaceConfig> m_config;
@@ -112,9 +114,9 @@ private:
     std::unique_ptr<ConnectedCameras> m_cameras;
     std::unique_ptr<CameraCaption> m_cameraCaption;
     std::unique_ptr<CameraSettings> m_cameraSettings;
-    std::unique_ptr<CoverSettings> m_coverSettings;
     std::unique_ptr<RegionOfInterest> m_region;
     std::unique_ptr<LiveOrientation> m_orientation;
+    std::unique_ptr<LiveCover> m_cover;
     std::unique_ptr<LiveLevels> m_levels;
     std::unique_ptr<LivePreview> m_preview;
     std::unique_ptr<PixelReadout> m_pixelReadout;

@@ -190,6 +190,44 @@ private slots:
         QTRY_COMPARE(m_workbench->OnScreen(PatchPoint(0, 0)).red(), topRight);
     }
 
+    void aCoverDrawnByMouseHidesItsPartOnly_data()
+    {
+        QTest::addColumn<bool>("cpuDraw");
+        QTest::newRow("CPU") << true;
+        QTest::newRow("OpenGL") << false;
+    }
+
+    void aCoverDrawnByMouseHidesItsPartOnly()
+    {
+        QFETCH(bool, cpuDraw);
+        m_workbench->services.Config()->SetCPUDraw(cpuDraw, false);
+        QVERIFY(m_workbench->WaitForNextPicture());
+        m_workbench->Action("100 % dark")->trigger();
+        m_workbench->Action("Draw on Live Picture")->trigger();
+        QWidget *frame = nullptr;
+        for (QWidget *child : m_workbench->View()->findChildren<QWidget *>()) {
+            if (child->inherits("CropFrame"))
+                frame = child;
+        }
+        QVERIFY(frame && frame->isVisible());
+        const QPoint from = frame->mapFromGlobal(GlobalPlace(QPointF(400, 400)));
+        const QPoint to = frame->mapFromGlobal(GlobalPlace(QPointF(1000, 900)));
+        QTest::mousePress(frame, Qt::LeftButton, Qt::NoModifier, from);
+        QMouseEvent move(QEvent::MouseMove, to, frame->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(frame, &move);
+        QTest::mouseRelease(frame, Qt::LeftButton, Qt::NoModifier, to);
+        QTest::keyClick(frame, Qt::Key_Return);
+
+        QVERIFY(!frame->isVisible());
+        QVERIFY(m_workbench->WaitForNextPicture());
+        QTRY_COMPARE(m_workbench->OnScreen(QPointF(700, 650)), QColor(Qt::black));
+        const QPoint beside = PatchPoint(6, 2);
+        QCOMPARE(m_workbench->OnScreen(beside).red(), ExpectedGrey(beside));
+        m_workbench->Action("Remove")->trigger();
+        const QPoint freed = PatchPoint(2, 2);
+        QTRY_COMPARE(m_workbench->OnScreen(freed).red(), ExpectedGrey(freed));
+    }
+
     void regionOfOddSizeInMidStreamIsShownRightly()
     {
         m_workbench->link.SetRegion(QRect(700, 300, 641, 479));
@@ -343,6 +381,13 @@ private slots:
     }
 
 private:
+    /// On the screen, of a place of the picture.
+    QPoint GlobalPlace(const QPointF &scenePos) const
+    {
+        const QGraphicsView *view = m_workbench->View();
+        return view->viewport()->mapToGlobal(view->mapFromScene(scenePos));
+    }
+
     QString StatusField(const char *name) const
     {
         return m_workbench->window.statusBar()->findChild<QLabel *>(name)->text();

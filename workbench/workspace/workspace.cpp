@@ -122,6 +122,7 @@ void Workspace::UpdateReportManager()
 void Workspace::SetCameraGraphicsScene(QGraphicsScene *scene)
 {
     m_cameraScene = scene;
+    emit signalCameraSceneSet(scene);
 }
 
 void Workspace::SetImageGraphicsScene(QGraphicsScene *scene)

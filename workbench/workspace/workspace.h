@@ -76,6 +76,8 @@ public slots:
     void slotLeaveEmptyPage();
 
 signals:
+    /// The scene of the live picture.
+    void signalCameraSceneSet(QGraphicsScene *scene);
     /// Both pictures of the comparison side by side; the user says where to save them.
     void signalSaveComparisonWanted(QImage image);
     /// A sentence for the status bar.
