@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <qcustomplot.h>
+
+#include <QVector>
+
+#include <utility>
+#include <vector>
+
+/// The spectrum now shown: each sample's calibrated x and its value (counts).
+class CurveSamples
+{
+public:
+    /// Calibrated x of a pixel; the pixel itself where the calibration gives no number.
+    static double PixelToX(int pixel);
+
+    void Assign(const unsigned int *data, int count);
+    void Clear();
+
+    int Count() const { return m_x.size(); }
+    /// In the order of the pixels.
+    const QVector<double> &X() const { return m_x; }
+    const QVector<double> &Values() const { return m_values; }
+    double Minimum() const { return m_minimum; }
+    double Maximum() const { return m_maximum; }
+
+    /// The x of pixel 0 and of the pixel behind the last sample, the lower one first; kept when the
+    /// samples are cleared.
+    const QCPRange &Ends() const { return m_ends; }
+
+    /// The value that the tracer tells at x. Between two samples the search leans to the upper one;
+    /// in front of all samples it is 0.
+    double TracerValue(double x) const;
+
+private:
+    QVector<double> m_x;
+    QVector<double> m_values;
+    std::vector<std::pair<double, double>> m_byX; ///< rising x, each x once
+    double m_minimum = 0.0;
+    double m_maximum = 0.0;
+    QCPRange m_ends;
+};

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "spectrum2ddrawframebase.h"
+
+#include "plotranges.h"
+#include "spectrumuimanager.h"
+
+#include <QDebug>
+#include <QMouseEvent>
+
+#include <qcustomplot.h>
+
+namespace {
+
+constexpr double shortestDrag = 10.0; // pixels; anything shorter is a click
+
+} // namespace
+
+void Spectrum2DDrawFrameBase::SlotCustomPlotMousePress(QMouseEvent *event)
+{
+    m_pressPoint = event->pos();
+    RemoveSelectionRect(); // of another button that is still held
+    m_selectionRect = new QCPItemRect(m_plot);
+    for (QCPItemPosition *corner : { m_selectionRect->topLeft, m_selectionRect->bottomRight }) {
+        corner->setType(QCPItemPosition::ptAbsolute);
+        corner->setCoords(m_pressPoint);
+    }
+    m_selectionRect->setPen(QPen(Qt::blue));
+    m_selectionRect->setBrush(QBrush(QColor(200, 200, 255, 100), Qt::SolidPattern));
+    m_selectionRect->setVisible(false);
+    m_pressed = true;
+}
+
+void Spectrum2DDrawFrameBase::SlotCustomPlotMouseMove(QMouseEvent *event)
+{
+    if (!m_pressed)
+        return;
+    m_dragging = true;
+    m_selectionRect->bottomRight->setCoords(event->pos());
+    m_selectionRect->setVisible(true);
+    m_plot->replot(QCustomPlot::rpQueuedReplot);
+}
+
+void Spectrum2DDrawFrameBase::SlotCustomPlotMouseRelease(QMouseEvent *event)
+{
+    m_releasePoint = event->pos();
+    qDebug() << "SlotCustomPlotMouseRelease" << m_releasePoint;
+    RemoveSelectionRect();
+    if (m_dragging && qAbs(m_pressPoint.x() - m_releasePoint.x()) >= shortestDrag) {
+        SpectrumUIManager::GetInstance()->SetZoomAutoFlag(false);
+        ZoomByDrag();
+    } else {
+        UpdateTracer();
+        m_plot->replot(QCustomPlot::rpQueuedReplot);
+    }
+    m_pressed = false;
+    m_dragging = false;
+}
+
+void Spectrum2DDrawFrameBase::RemoveSelectionRect()
+{
+    if (m_selectionRect)
+        m_plot->removeItem(m_selectionRect);
+    m_selectionRect = nullptr;
+}
+
+void Spectrum2DDrawFrameBase::ZoomByDrag()
+{
+    QCPAxis *axis = m_plot->xAxis;
+    if (m_releasePoint.x() > m_pressPoint.x()) {
+        const QCPRange range = DraggedRange(axis->pixelToCoord(m_pressPoint.x()),
+                                            axis->pixelToCoord(m_releasePoint.x()), m_samples.Ends());
+        if (range.lower >= range.upper)
+            return; // the drag was beside the curve
+        m_rangeHistory.Push(range);
+        axis->setRange(range);
+    } else {
+        m_rangeHistory.StepBack();
+        if (m_rangeHistory.IsAtFirst()) {
+            m_plot->graph(0)->rescaleAxes(false);
+            LeaveBlankAbove();
+        } else {
+            axis->setRange(m_rangeHistory.Newest());
+        }
+    }
+    m_plot->replot(QCustomPlot::rpQueuedReplot);
+}
+
+void Spectrum2DDrawFrameBase::UpdateTracer()
+{
+    m_tracerLabel->Remove();
+    if (m_releasePoint.isNull())
+        return;
+    const double x = m_plot->xAxis->pixelToCoord(m_releasePoint.x());
+    m_tracerLabel->Show(x, m_samples.TracerValue(x));
+}
