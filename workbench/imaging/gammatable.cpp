@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gammatable.h"
 
+#include <QtEndian>
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -9,18 +11,34 @@ namespace {
 
 constexpr int White = 255;
 
-constexpr int Together = 8;
+/// Greys that are put together in a register and stored at once: the loop is bound by its loads and stores.
+constexpr int Together = int(sizeof(quint64));
 
-/// Takes several samples out of the memory at once: the loop is bound by its loads.
+template <typename Sample>
+constexpr int SamplesInWord = int(sizeof(quint64) / sizeof(Sample));
+
+/// Grey of the k-th sample of a word of the memory.
+template <typename Sample>
+quint64 GreyIn(const uchar *greys, quint64 word, int k)
+{
+#if Q_BYTE_ORDER == Q_BIG_ENDIAN
+    k = SamplesInWord<Sample> - 1 - k;
+#endif
+    return greys[Sample(word >> (8 * int(sizeof(Sample)) * k))];
+}
+
 template <typename Sample>
 void LookUpIn(const uchar *greys, const Sample *samples, int count, uchar *grey)
 {
     int i = 0;
     for (; i + Together <= count; i += Together) {
-        Sample values[Together];
-        std::memcpy(values, samples + i, sizeof values);
+        quint64 words[sizeof(Sample)];
+        std::memcpy(words, samples + i, sizeof words);
+        quint64 packed = 0;
         for (int k = 0; k < Together; ++k)
-            grey[i + k] = greys[values[k]];
+            packed |= GreyIn<Sample>(greys, words[k / SamplesInWord<Sample>], k % SamplesInWord<Sample>) << (8 * k);
+        packed = qToLittleEndian(packed);
+        std::memcpy(grey + i, &packed, sizeof packed);
     }
     for (; i < count; ++i)
         grey[i] = greys[samples[i]];
