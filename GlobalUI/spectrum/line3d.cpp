@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "line3d.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace Qwt3D {
@@ -19,14 +20,25 @@ void Line3D::setLines(std::vector<TripleField> lines, const RGBA &color)
 
 void Line3D::drawBegin()
 {
-    glPushAttrib(GL_ENABLE_BIT | GL_LINE_BIT | GL_CURRENT_BIT | GL_COLOR_BUFFER_BIT);
+    glPushAttrib(GL_ENABLE_BIT | GL_LINE_BIT | GL_CURRENT_BIT | GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    glColor4d(m_color.r, m_color.g, m_color.b, m_color.a);
+    glDisable(GL_LINE_SMOOTH);
     if (m_smooth) {
+        // A smoothed piece that is shorter than a pixel covers little of it and is faint: the line gets a
+        // core that is not smoothed.
+        drawStrips(m_width - 1.0);
+        glDepthFunc(GL_LEQUAL);
         glEnable(GL_LINE_SMOOTH);
         glEnable(GL_BLEND);
         glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
     }
-    glLineWidth(GLfloat(m_width));
-    glColor4d(m_color.r, m_color.g, m_color.b, m_color.a);
+    drawStrips(m_width);
+    glPopAttrib();
+}
+
+void Line3D::drawStrips(double width) const
+{
+    glLineWidth(GLfloat(std::max(1.0, width)));
     glEnableClientState(GL_VERTEX_ARRAY);
     for (const TripleField &line : m_lines) {
         if (line.empty())
@@ -35,7 +47,6 @@ void Line3D::drawBegin()
         glDrawArrays(GL_LINE_STRIP, 0, GLsizei(line.size()));
     }
     glDisableClientState(GL_VERTEX_ARRAY);
-    glPopAttrib();
 }
 
 } // namespace Qwt3D

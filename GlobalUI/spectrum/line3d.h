@@ -22,6 +22,8 @@ public:
     void draw(const Triple &) override {}
 
 private:
+    void drawStrips(double width) const;
+
     std::vector<TripleField> m_lines;
     RGBA m_color;
     double m_width = 1.0; ///< pixels

@@ -117,8 +117,9 @@ void Spectrum2DDrawFrameBase::SlotMultitrackOnFlagChanged()
 
 void Spectrum2DDrawFrameBase::SlotScrollValueChanged(int value)
 {
-    if (m_staticMode)
-        GlobalManager::GetInstance()->GetActiveImageManager()->SetImage(value);
+    ImageManager *image = GlobalManager::GetInstance()->GetActiveImageManager();
+    if (m_staticMode && image)
+        image->SetImage(value);
 }
 
 void Spectrum2DDrawFrameBase::SlotDisplayModeUpdate()

@@ -11,20 +11,17 @@
 #include "spectrumuimanager.h"
 #include "spectrumzoomui.h"
 #include "tracklines.h"
+#include "trackplot.h"
 
 #include <QLabel>
 #include <QMutexLocker>
 #include <QOpenGLContext>
 #include <QVBoxLayout>
 
-#include <qwt3d_surfaceplot.h>
-
 #include <utility>
 
 namespace {
 
-/// Lines only: the library's own styles end at 6, and what it doesn't know it draws no surface for.
-constexpr auto linesOnly = Qwt3D::PLOTSTYLE(7);
 constexpr int majorTicks = 5;
 
 bool IsOpenGLOffered()
@@ -72,9 +69,8 @@ Spectrum3DDrawViewBase::~Spectrum3DDrawViewBase() = default;
 
 void Spectrum3DDrawViewBase::CreatePlot()
 {
-    m_plot = new Qwt3D::SurfacePlot; // reparented by the layout
+    m_plot = new TrackPlot; // reparented by the layout
     m_plot->setAttribute(Qt::WA_DontCreateNativeAncestors);
-    m_plot->setPlotStyle(linesOnly);
     layout()->addWidget(m_plot);
     connect(m_plot, SIGNAL(rotationChanged(double, double, double)), this,
             SLOT(Slot3DViewRotationChanged(double, double, double)));

@@ -7,8 +7,11 @@
 class FakeAlgSpectrometer : public AlgSpectrometer
 {
 public:
-    void Findcurvepeak(unsigned int *, int count, int peakNumber, std::vector<int> &, int window, float threshold, int mode) override
+    std::vector<int> foundPeaks;
+
+    void Findcurvepeak(unsigned int *, int count, int peakNumber, std::vector<int> &peaks, int window, float threshold, int mode) override
     {
+        peaks = foundPeaks;
         CallLog::Add("AlgSpectrometer::Findcurvepeak", {QString::number(count), QString::number(peakNumber), QString::number(window), QString::number(threshold), QString::number(mode)});
     }
 };
