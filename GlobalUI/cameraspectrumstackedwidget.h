@@ -16,4 +16,7 @@ public slots:
     void SlotNewArea(qreal xmin, qreal xmax, qreal ymin, qreal ymax);
     /// Another use area begins without focus assistance, FVB and multi-track.
     void SlotUpdateUseArea();
+
+private:
+    void ConnectPlot2D();
 };

@@ -4,14 +4,20 @@
 #include "displaymodeuimanager.h"
 #include "globalmanager.h"
 #include "imagemanager.h"
+#include "spectrum2ddrawframebase.h"
 #include "spectrumuimanager.h"
 
 ImageSpectrumStackedWidget::ImageSpectrumStackedWidget(QWidget *parent)
     : SpectrumStackedWidgetBase(parent)
 {
     ImageSpectrumStackedWidget::CreatePages();
-    connect(GlobalManager::GetInstance()->GetActiveImageManager(), SIGNAL(signalOpenSpefile()), this,
-            SLOT(slotOpenSpefile()));
+    m_plot2D->SetStaticMode(true);
+    const ImageManager *image = GlobalManager::GetInstance()->GetActiveImageManager();
+    connect(image, SIGNAL(sglUpdateHorizontalCurve(int *, int, int, int)), m_plot2D,
+            SLOT(SlotUpdateImageHorizontalCurve(int *, int, int, int)));
+    connect(image, SIGNAL(sglUpdateVerticalCurve(int *, int, int, int)), m_plot2D,
+            SLOT(SlotUpdateImageVerticalCurve(int *, int, int, int)));
+    connect(image, SIGNAL(signalOpenSpefile()), this, SLOT(slotOpenSpefile()));
 }
 
 void ImageSpectrumStackedWidget::slotNewArea(qreal xmin, qreal xmax, qreal ymin, qreal ymax)

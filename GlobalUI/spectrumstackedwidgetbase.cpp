@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectrumstackedwidgetbase.h"
 
+#include "spectrum2ddrawframebase.h"
+#include "spectrum3ddrawframebase.h"
 #include "spectrumuimanager.h"
 
 #include <QLabel>
@@ -12,13 +14,15 @@ SpectrumStackedWidgetBase::SpectrumStackedWidgetBase(QWidget *parent)
 
 void SpectrumStackedWidgetBase::CreatePages()
 {
-    for (int page = PhysicsPage; page <= Plot2DPage; ++page) {
-        auto *notice = new QLabel(tr("The spectrum display is not part of this version."), this);
-        notice->setAlignment(Qt::AlignCenter);
-        notice->setWordWrap(true);
-        insertWidget(page, notice);
-    }
-    insertWidget(Plot3DPage, new QWidget(this));
+    auto *notice = new QLabel(tr("The spectrum image is not part of this version."), this);
+    notice->setAlignment(Qt::AlignCenter);
+    notice->setWordWrap(true);
+    insertWidget(PhysicsPage, notice);
+    m_plot2D = new Spectrum2DDrawFrameBase(this);
+    insertWidget(Plot2DPage, m_plot2D);
+    insertWidget(Plot3DPage, new QWidget(this)); // until 3D is first shown
+    connect(SpectrumUIManager::GetInstance(), SIGNAL(SignalSpectralPropertyChanged()), m_plot2D,
+            SLOT(SlotSpectralPropertyChanged()));
 }
 
 void SpectrumStackedWidgetBase::slotDisplayModeChange()
@@ -29,7 +33,19 @@ void SpectrumStackedWidgetBase::slotDisplayModeChange()
     else if (spectrumUI->IsDisplayMode2D() || spectrumUI->IsDisplayMode2DPeak())
         setCurrentIndex(Plot2DPage);
     else if (spectrumUI->IsDisplayMode3D())
-        setCurrentIndex(Plot3DPage);
+        ShowPlot3D();
+}
+
+void SpectrumStackedWidgetBase::ShowPlot3D()
+{
+    QWidget *page = widget(Plot3DPage);
+    if (!page->inherits("Spectrum3DDrawFrameBase")) {
+        removeWidget(page); // remains our child
+        page = new Spectrum3DDrawFrameBase(this);
+        insertWidget(Plot3DPage, page);
+        page->resize(size());
+    }
+    setCurrentIndex(Plot3DPage);
 }
 
 void SpectrumStackedWidgetBase::resizeEvent(QResizeEvent *event)

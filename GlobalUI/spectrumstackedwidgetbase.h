@@ -3,6 +3,8 @@
 
 #include <QStackedWidget>
 
+class Spectrum2DDrawFrameBase;
+
 /// The spectrum page of a centre stack: image with curves, 2D plot and 3D plot, one page each, of
 /// which the display mode shows one. The subclasses feed them.
 class SpectrumStackedWidgetBase : public QStackedWidget
@@ -27,4 +29,10 @@ protected:
     virtual void CreatePages();
     /// All pages keep the stack's size, not only the current one.
     void resizeEvent(QResizeEvent *event) override;
+
+    Spectrum2DDrawFrameBase *m_plot2D = nullptr;
+
+private:
+    /// The 3D plot is made when it is first shown: many never need OpenGL for it.
+    void ShowPlot3D();
 };

@@ -2,18 +2,29 @@
 #include "cameraspectrumstackedwidget.h"
 #include "imagespectrumstackedwidget.h"
 
+#include "drawviewfixture.h"
 #include "guardedtest.h"
+#include "plotpage.h"
 #include "shellfixture.h"
+#include "spectrum3ddrawframebase.h"
 
 class SpectrumStacksTest : public GuardedTest
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { StartOpenGLDriver(); }
     void slotsInOrder();
     void pageFollowsDisplayMode_data();
     void pageFollowsDisplayMode();
+    void plot3DIsMadeOnce();
+    void plot3DHasTheSizeOfTheOthers();
     void resizesAllPages();
+    void wiresOfTheLivePlot();
+    void livePayloadsAreQueued();
+    void wiresOfThePicturesPlot();
+    void curveOfAPictureIsDrawn();
+    void newPropertiesReachThePlot();
     void newAreaOfTheLivePicture();
     void useAreaChange_data();
     void useAreaChange();
@@ -78,6 +89,133 @@ void SpectrumStacksTest::resizesAllPages()
     QVERIFY(QTest::qWaitForWindowExposed(&stack));
     for (int page = 0; page < 3; ++page)
         QCOMPARE(stack.widget(page)->size(), QSize(411, 305));
+}
+
+void SpectrumStacksTest::plot3DIsMadeOnce()
+{
+    ShellServices services;
+    CameraSpectrumStackedWidget stack(nullptr);
+    QPointer<QWidget> placeholder = stack.widget(2);
+    QCOMPARE(QString(placeholder->metaObject()->className()), QString("QWidget"));
+    services.spectrumUI.displayMode3D = true;
+    stack.slotDisplayModeChange();
+    QCOMPARE(stack.count(), 3);
+    auto *page = qobject_cast<Spectrum3DDrawFrameBase *>(stack.widget(2));
+    QVERIFY(page);
+    QCOMPARE(stack.currentWidget(), page);
+    QVERIFY(placeholder);
+    QCOMPARE(placeholder->parentWidget(), &stack);
+    services.spectrumUI.displayMode3D = false;
+    services.spectrumUI.displayMode2D = true;
+    stack.slotDisplayModeChange();
+    services.spectrumUI.displayMode2D = false;
+    services.spectrumUI.displayMode3D = true;
+    stack.slotDisplayModeChange();
+    QCOMPARE(stack.currentWidget(), page);
+    QCOMPARE(stack.findChildren<Spectrum3DDrawFrameBase *>().size(), 1);
+}
+
+void SpectrumStacksTest::plot3DHasTheSizeOfTheOthers()
+{
+    ShellServices services;
+    CameraSpectrumStackedWidget stack(nullptr);
+    stack.resize(500, 400);
+    stack.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&stack));
+    services.spectrumUI.displayMode3D = true;
+    stack.slotDisplayModeChange();
+    QTRY_COMPARE(stack.widget(2)->size(), QSize(500, 400));
+    stack.resize(600, 450);
+    QTRY_COMPARE(stack.widget(1)->size(), QSize(600, 450));
+    QCOMPARE(stack.widget(2)->size(), QSize(600, 450));
+}
+
+void SpectrumStacksTest::wiresOfTheLivePlot()
+{
+    ShellServices services;
+    CameraSpectrumStackedWidget stack(nullptr);
+    auto *plot = qobject_cast<Spectrum2DDrawFrameBase *>(stack.widget(1));
+    QVERIFY(plot);
+    const QVector<Wire> wires{
+        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), plot, SLOT(SlotSpectralPropertyChanged()) },
+        { &services.intensity, SIGNAL(SignalUpdateCurve(void *)), plot, SLOT(SlotUpdateCurve(void *)) },
+        { &services.spectrum, SIGNAL(SignalUpdateFVB(void *)), plot, SLOT(SlotUpdateFVB(void *)) },
+        { &services.spectrum, SIGNAL(SignalUpdateMultiTrack(void *)), plot, SLOT(SlotUpdateMultiTrack(void *)) },
+        { &services.spectrumUI, SIGNAL(SignalMultiTrackOnFlagChanged()), plot, SLOT(SlotMultitrackOnFlagChanged()) },
+        { &services.useArea, SIGNAL(signalUpdateUseArea()), &stack, SLOT(SlotUpdateUseArea()) },
+    };
+    QCOMPARE(MissingWires(wires), QStringList());
+}
+
+void SpectrumStacksTest::livePayloadsAreQueued()
+{
+    ShellServices services;
+    services.frame.frameWidth = 3;
+    services.spectrumUI.displayModeGeneral = false;
+    services.spectrumUI.displayMode2D = true;
+    CameraSpectrumStackedWidget stack(nullptr);
+    stack.resize(600, 400);
+    stack.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&stack));
+    auto *graph = stack.widget(1)->findChild<QCustomPlot *>()->graph(0);
+    const auto drawn = [graph] { return graph->data()->isEmpty() ? -1.0 : graph->data()->constBegin()->value; };
+
+    CurvePayload curve({ 11, 0, 0 }, { 12 });
+    LinePayload fvb({ 21, 0, 0 });
+    LinePayload tracks({ 31, 0, 0 });
+    emit services.intensity.SignalUpdateCurve(curve.Param());
+    QCOMPARE(drawn(), -1.0);
+    QCoreApplication::processEvents();
+    QCOMPARE(drawn(), 11.0);
+    emit services.spectrum.SignalUpdateFVB(fvb.Param());
+    QCOMPARE(drawn(), 11.0);
+    QCoreApplication::processEvents();
+    QCOMPARE(drawn(), 21.0);
+    emit services.spectrum.SignalUpdateMultiTrack(tracks.Param());
+    QCOMPARE(drawn(), 21.0);
+    QCoreApplication::processEvents();
+    QCOMPARE(drawn(), 31.0);
+}
+
+void SpectrumStacksTest::wiresOfThePicturesPlot()
+{
+    ShellServices services;
+    ImageSpectrumStackedWidget stack(nullptr);
+    auto *plot = qobject_cast<Spectrum2DDrawFrameBase *>(stack.widget(1));
+    QVERIFY(plot);
+    const QVector<Wire> wires{
+        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), plot, SLOT(SlotSpectralPropertyChanged()) },
+        { &services.active, SIGNAL(sglUpdateHorizontalCurve(int *, int, int, int)), plot,
+          SLOT(SlotUpdateImageHorizontalCurve(int *, int, int, int)) },
+        { &services.active, SIGNAL(sglUpdateVerticalCurve(int *, int, int, int)), plot,
+          SLOT(SlotUpdateImageVerticalCurve(int *, int, int, int)) },
+        { &services.active, SIGNAL(signalOpenSpefile()), &stack, SLOT(slotOpenSpefile()) },
+    };
+    QCOMPARE(MissingWires(wires), QStringList());
+}
+
+void SpectrumStacksTest::curveOfAPictureIsDrawn()
+{
+    ShellServices services;
+    ImageSpectrumStackedWidget stack(nullptr);
+    stack.resize(600, 400);
+    stack.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&stack));
+    int row[] = { 10, 4000, 200 };
+    CallLog::Clear();
+    emit services.active.sglUpdateHorizontalCurve(row, 3, 0, 3);
+    // The page knows that it shows a file: it looks for peaks in any mode.
+    QCOMPARE(CallLog::Calls(), QStringList("AlgSpectrometer::Findcurvepeak(3, 3, 15, 10, 0)"));
+    QCOMPARE(stack.widget(1)->findChild<QCustomPlot *>()->graph(0)->data()->size(), 3);
+}
+
+void SpectrumStacksTest::newPropertiesReachThePlot()
+{
+    ShellServices services;
+    CameraSpectrumStackedWidget stack(nullptr);
+    services.spectrumUI.linePen = QPen(Qt::magenta, 2);
+    emit services.spectrumUI.SignalSpectralPropertyChanged();
+    QCOMPARE(stack.widget(1)->findChild<QCustomPlot *>()->graph(0)->pen(), QPen(Qt::magenta, 2));
 }
 
 void SpectrumStacksTest::newAreaOfTheLivePicture()
