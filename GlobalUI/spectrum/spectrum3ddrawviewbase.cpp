@@ -50,8 +50,10 @@ Spectrum3DDrawViewBase::Spectrum3DDrawViewBase(QWidget *parent)
     }
 
     m_zoomBar = new SpectrumZoomUI(this, false);
-    if (m_plot)
-        m_zoomBar->setAttribute(Qt::WA_NativeWindow); // as the plot is: else it lies below
+    if (m_plot) { // a window of its own, as the plot is: else it lies below
+        m_zoomBar->setAttribute(Qt::WA_DontCreateNativeAncestors);
+        m_zoomBar->setAttribute(Qt::WA_NativeWindow);
+    }
     PlaceZoomBar();
     m_zoomBar->raise();
     connect(SpectrumManager::GetInstance(), SIGNAL(SignalUpdateMultiTrack(void *)), this,

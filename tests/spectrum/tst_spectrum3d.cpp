@@ -156,7 +156,10 @@ void TestSpectrum3D::page()
     QCOMPARE(column->count(), 1);
     QCOMPARE(column->itemAt(0)->widget(), page.plot);
     QCOMPARE(int(page.plot->plotStyle()), 7);
+    // Only plot and bar are windows of their own; the rest of the program stays as it is.
+    QVERIFY(!page.view->testAttribute(Qt::WA_NativeWindow));
     QVERIFY(page.Show());
+    QVERIFY(!page.view->internalWinId());
     auto *bar = page.view->findChild<SpectrumZoomUI *>();
     QCOMPARE(bar->geometry(), QRect(5, 220, 30, 170));
     QVERIFY(!bar->findChild<QPushButton *>("pushButtonRescaleAuto")->isVisible());
