@@ -10,7 +10,6 @@
 #include "spectrummanager.h"
 #include "spectrumuimanager.h"
 #include "spectrumzoomui.h"
-#include "tracklines.h"
 #include "trackplot.h"
 
 #include <QLabel>
@@ -119,6 +118,8 @@ void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
     const TrackSteps steps = ComputeTrackSteps(width, minimum, maximum);
     if (!m_function)
         SetUpPlot(tracks.size(), width, steps, minimum, maximum);
+    else if (steps != m_steps)
+        SetScales(steps); // the box stays, and its numbers remain true
     // The payload's tracks are as wide as the frame; a wider rectangle must not read past them.
     const int frameWidth = FrameManager::GetInstance()->GetFrameWidth();
     const int valueCount = tracks.size() * (frameWidth > 0 ? frameWidth : width);
@@ -175,11 +176,23 @@ void Spectrum3DDrawViewBase::SetUpAxes(int width, double depth, const TrackSteps
         axis->setLabelFont(family, pointSize);
         axis->setNumberFont(family, pointSize);
     }
-    // Each axis takes a scale of its own.
+    SetScales(steps);
+}
+
+void Spectrum3DDrawViewBase::SetScales(const TrackSteps &steps)
+{
+    m_steps = steps;
     for (Qwt3D::AXIS axis : { Qwt3D::Y1, Qwt3D::Y2, Qwt3D::Y3, Qwt3D::Y4 })
-        box->axes[axis].setScale(new CustomScale(steps.series, CustomScale::OverFactor));
+        SetScale(axis, steps.series, CustomScale::OverFactor);
     for (Qwt3D::AXIS axis : { Qwt3D::Z1, Qwt3D::Z2, Qwt3D::Z3, Qwt3D::Z4 })
-        box->axes[axis].setScale(new CustomScale(steps.countsDivisor, CustomScale::TimesFactor));
+        SetScale(axis, steps.countsDivisor, CustomScale::TimesFactor);
+}
+
+void Spectrum3DDrawViewBase::SetScale(int axis, double factor, int mode)
+{
+    Qwt3D::Axis &target = m_plot->coordinates()->axes[size_t(axis)];
+    target.setScale(new CustomScale(factor, mode)); // the axis owns it
+    target.setMajors(majorTicks);                   // painting has made it another number
 }
 
 void Spectrum3DDrawViewBase::ScalePlot(double xFactor, double zFactor)

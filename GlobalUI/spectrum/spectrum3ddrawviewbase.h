@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "tracklines.h"
+
 #include <QWidget>
 
 #include <memory>
 
 class Rosenbrock;
 class SpectrumZoomUI;
-struct TrackSteps;
 
 namespace Qwt3D {
 class Line3D;
@@ -45,10 +46,14 @@ private:
     /// Box, axes and view, for tracks of this width and the values of this payload.
     void SetUpPlot(int trackCount, int width, const TrackSteps &steps, int minimum, int maximum);
     void SetUpAxes(int width, double depth, const TrackSteps &steps);
+    /// What the numbers at the axes tell.
+    void SetScales(const TrackSteps &steps);
+    void SetScale(int axis, double factor, int mode);
     void ScalePlot(double xFactor, double zFactor);
 
     Qwt3D::SurfacePlot *m_plot = nullptr;
     std::unique_ptr<Rosenbrock> m_function; ///< null until the plot is set up
     Qwt3D::Line3D *m_lines = nullptr;       ///< the plot owns it
+    TrackSteps m_steps{};                   ///< of the axes
     SpectrumZoomUI *m_zoomBar = nullptr;
 };

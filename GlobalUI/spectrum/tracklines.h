@@ -12,6 +12,11 @@ struct TrackSteps
 {
     int series;
     int countsDivisor;
+
+    bool operator!=(const TrackSteps &other) const
+    {
+        return series != other.series || countsDivisor != other.countsDivisor;
+    }
 };
 
 /// For tracks `width` pixels wide whose values reach from `minimum` to `maximum`.

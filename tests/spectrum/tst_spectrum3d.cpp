@@ -126,6 +126,8 @@ private slots:
     void zoomButtons();
     void zoomBeforeTheFirstData();
     void resetSetsThePlotUpAgain();
+    void numbersStayTrueWhenTheStepsChange();
+    void mouseTurnsThePlot();
     void changesAreLogged();
     void flatDataHasABox();
     void manyTracks();
@@ -440,6 +442,43 @@ void TestSpectrum3D::resetSetsThePlotUpAgain()
     QCOMPARE(page.plot->zoom(), 0.9);
     QCOMPARE(page.plot->xRotation(), 20.0);
     QCOMPARE(PlotLines::Of(page.plot).size(), 1); // the old lines are gone
+}
+
+void TestSpectrum3D::numbersStayTrueWhenTheStepsChange()
+{
+    // The numbers at an axis aren't to be had from the plot; they stand in its picture. The lines lie on the
+    // ground, whatever the largest value is said to be.
+    Page3D page(5, 1000);
+    QVERIFY(page.Show());
+    const auto picture = [&page](int maximum) {
+        LinePayload payload(Values(5000, 0));
+        payload.record.maximum = maximum;
+        page.view->SlotUpdateMultiTrack(payload.Param());
+        page.plot->updateGL();
+        return page.plot->grabFrameBuffer();
+    };
+    const QImage first = picture(250000); // 500 counts a unit
+    const QString box = Text(page.plot->hull().maxVertex);
+    QVERIFY(picture(5000000) != first); // 1000 counts a unit
+    QCOMPARE(Text(page.plot->hull().maxVertex), box);
+    QVERIFY(picture(250000) == first);
+}
+
+void TestSpectrum3D::mouseTurnsThePlot()
+{
+    Page3D page;
+    QVERIFY(page.Show());
+    page.Update();
+    const double before = page.plot->zRotation();
+    const auto send = [&](QEvent::Type type, const QPoint &pos) {
+        QMouseEvent event(type, pos, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(page.plot, &event);
+    };
+    send(QEvent::MouseButtonPress, QPoint(100, 100));
+    send(QEvent::MouseMove, QPoint(180, 100));
+    send(QEvent::MouseButtonRelease, QPoint(180, 100));
+    QVERIFY(page.plot->zRotation() != before);
 }
 
 void TestSpectrum3D::changesAreLogged()
