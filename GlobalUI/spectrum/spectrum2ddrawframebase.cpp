@@ -80,7 +80,8 @@ void Spectrum2DDrawFrameBase::ConnectServices()
     connect(settings, SIGNAL(signalDisplayModePropertyChange()), this, SLOT(SlotDisplayModeUpdate()));
     connect(settings, SIGNAL(SignalFVBManualFlagChanged(bool)), this, SLOT(SlotUpdateResetFlag(bool)));
     connect(settings, SIGNAL(SignalFVBOnFlagChanged(bool)), this, SLOT(SlotUpdateResetFlag(bool)));
-    connect(settings, SIGNAL(SignalConversationFormulaChanged()), this, SLOT(SlotConversationFormulaChanged()));
+    connect(settings, SIGNAL(SignalConversationFormulaChanged()), this,
+            SLOT(SlotConversationFormulaChanged()));
     connect(m_zoomBar, SIGNAL(SignalZoomIn()), this, SLOT(SlotZoomIn()));
     connect(m_zoomBar, SIGNAL(SignalZoomOut()), this, SLOT(SlotZoomOut()));
     connect(m_zoomBar, SIGNAL(SignalZoomReset()), this, SLOT(SlotZoomReset()));
@@ -88,7 +89,8 @@ void Spectrum2DDrawFrameBase::ConnectServices()
     connect(m_zoomBar, SIGNAL(SignalHorizontalZoomOut()), this, SLOT(SlotHorizontalZoomOut()));
     connect(m_plot, SIGNAL(mousePress(QMouseEvent *)), this, SLOT(SlotCustomPlotMousePress(QMouseEvent *)));
     connect(m_plot, SIGNAL(mouseMove(QMouseEvent *)), this, SLOT(SlotCustomPlotMouseMove(QMouseEvent *)));
-    connect(m_plot, SIGNAL(mouseRelease(QMouseEvent *)), this, SLOT(SlotCustomPlotMouseRelease(QMouseEvent *)));
+    connect(m_plot, SIGNAL(mouseRelease(QMouseEvent *)), this,
+            SLOT(SlotCustomPlotMouseRelease(QMouseEvent *)));
     connect(UIConfigManager::GetInstance(), SIGNAL(signalUpdateImageControlUI()), this,
             SLOT(SlotUpdateResetFlag()));
 }
@@ -110,8 +112,9 @@ void Spectrum2DDrawFrameBase::SlotMultitrackOnFlagChanged()
 {
     const SpectrumUIManager *settings = SpectrumUIManager::GetInstance();
     m_trackScroll->setVisible(settings->GetMultiTrackOnFlag());
-    m_trackScroll->setRange(0, settings->IsDirectionHorinzontal() ? settings->GetMultiTrackList().size() - 1
-                                                                  : FrameManager::GetInstance()->GetFrameWidth());
+    m_trackScroll->setRange(0, settings->IsDirectionHorinzontal()
+                                   ? settings->GetMultiTrackList().size() - 1
+                                   : FrameManager::GetInstance()->GetFrameWidth());
     m_trackScroll->setValue(0);
 }
 

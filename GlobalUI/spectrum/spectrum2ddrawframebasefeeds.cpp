@@ -63,7 +63,8 @@ void Spectrum2DDrawFrameBase::SlotUpdateFVB(void *param)
 {
     if (!param || !IsShown())
         return;
-    DrawCurve(TakeLine(static_cast<SpectrumLinePayload *>(param)), FrameManager::GetInstance()->GetFrameWidth());
+    DrawCurve(TakeLine(static_cast<SpectrumLinePayload *>(param)),
+              FrameManager::GetInstance()->GetFrameWidth());
 }
 
 void Spectrum2DDrawFrameBase::SlotUpdateMultiTrack(void *param)
@@ -79,8 +80,9 @@ void Spectrum2DDrawFrameBase::SlotUpdateMultiTrack(void *param)
     else if (!settings->IsDirectionHorinzontal())
         DrawColumn(tracks, trackCount);
     else // the list may have become shorter than the scroll bar
-        DrawCurve(tracks + size_t(frameWidth) * size_t(qBound(0, m_trackScroll->value(), qMax(0, trackCount - 1))),
-                  frameWidth);
+        DrawCurve(
+            tracks + size_t(frameWidth) * size_t(qBound(0, m_trackScroll->value(), qMax(0, trackCount - 1))),
+            frameWidth);
 }
 
 void Spectrum2DDrawFrameBase::DrawColumn(const unsigned int *tracks, int trackCount)
@@ -164,7 +166,8 @@ void Spectrum2DDrawFrameBase::SetRangesOfCurve()
     if (!m_resetFlag && !settings->GetZoomAutoFlag())
         return;
     m_plot->xAxis->setRange(m_samples.X().first(), m_samples.X().last());
-    m_plot->yAxis->setRange(m_samples.Minimum(), UpperWithBlank(m_samples.Maximum(), settings->GetBlankRatio()));
+    m_plot->yAxis->setRange(m_samples.Minimum(),
+                            UpperWithBlank(m_samples.Maximum(), settings->GetBlankRatio()));
     m_plot->graph(0)->rescaleAxes(true);
     m_resetFlag = false;
 }

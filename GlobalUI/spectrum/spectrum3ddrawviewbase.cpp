@@ -129,7 +129,8 @@ void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
     m_plot->update();
 }
 
-void Spectrum3DDrawViewBase::SetUpPlot(int trackCount, int width, const TrackSteps &steps, int minimum, int maximum)
+void Spectrum3DDrawViewBase::SetUpPlot(int trackCount, int width, const TrackSteps &steps, int minimum,
+                                       int maximum)
 {
     const double depth = double(ComputeSeriesDepth(trackCount)) * steps.series;
     const double lowest = double(minimum) / steps.countsDivisor;
@@ -168,7 +169,11 @@ void Spectrum3DDrawViewBase::SetUpAxes(int width, double depth, const TrackSteps
     Qwt3D::Axis &counts = box->axes[Qwt3D::Z1];
     pixels.setLabelString(tr("Pixel Number"));
     series.setLabelString(tr("Series Position"));
-    counts.setLabelString(tr("Counts"));
+    // The counts stand at whichever upright edge is free; seen from the front it is not the first one.
+    for (Qwt3D::AXIS axis : { Qwt3D::Z1, Qwt3D::Z2, Qwt3D::Z3, Qwt3D::Z4 }) {
+        box->axes[axis].setLabelString(tr("Counts"));
+        box->axes[axis].setLabelFont(family, pointSize);
+    }
     pixels.setLabelPosition(Qwt3D::Triple(width, -200.0, 0.0), Qwt3D::BottomLeft);
     series.setLabelPosition(Qwt3D::Triple(-1000.0, depth / 2, 0.0), Qwt3D::CenterRight);
     counts.setLabelPosition(Qwt3D::Triple(0.0, depth, 0.0), Qwt3D::CenterRight);

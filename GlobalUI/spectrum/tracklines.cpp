@@ -21,7 +21,8 @@ int RoundedDownToLeadingDigit(int value)
 TrackSteps ComputeTrackSteps(int width, int minimum, int maximum)
 {
     const qint64 span = qint64(maximum) - minimum;
-    return { RoundedDownToLeadingDigit(qMax(width / 20, 20)), int(qMax(span / 5000, qint64(lowestCountsDivisor))) };
+    return { RoundedDownToLeadingDigit(qMax(width / 20, 20)),
+             int(qMax(span / 5000, qint64(lowestCountsDivisor))) };
 }
 
 int ComputeSeriesDepth(int trackCount) { return trackCount < 6 ? 5 : qMin(trackCount, 20); }
@@ -36,7 +37,8 @@ std::vector<Qwt3D::TripleField> ComputeTrackLines(const unsigned int *tracks, in
         Qwt3D::TripleField &line = lines[size_t(track)];
         line.reserve(size_t(count));
         for (int pixel = 0; pixel < count; ++pixel)
-            line.emplace_back(pixel, steps.series * track, double(tracks[first + pixel]) / steps.countsDivisor);
+            line.emplace_back(pixel, steps.series * track,
+                              double(tracks[first + pixel]) / steps.countsDivisor);
     }
     return lines;
 }

@@ -137,11 +137,14 @@ void SpectrumStacksTest::wiresOfTheLivePlot()
     auto *plot = qobject_cast<Spectrum2DDrawFrameBase *>(stack.widget(1));
     QVERIFY(plot);
     const QVector<Wire> wires{
-        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), plot, SLOT(SlotSpectralPropertyChanged()) },
+        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), plot,
+          SLOT(SlotSpectralPropertyChanged()) },
         { &services.intensity, SIGNAL(SignalUpdateCurve(void *)), plot, SLOT(SlotUpdateCurve(void *)) },
         { &services.spectrum, SIGNAL(SignalUpdateFVB(void *)), plot, SLOT(SlotUpdateFVB(void *)) },
-        { &services.spectrum, SIGNAL(SignalUpdateMultiTrack(void *)), plot, SLOT(SlotUpdateMultiTrack(void *)) },
-        { &services.spectrumUI, SIGNAL(SignalMultiTrackOnFlagChanged()), plot, SLOT(SlotMultitrackOnFlagChanged()) },
+        { &services.spectrum, SIGNAL(SignalUpdateMultiTrack(void *)), plot,
+          SLOT(SlotUpdateMultiTrack(void *)) },
+        { &services.spectrumUI, SIGNAL(SignalMultiTrackOnFlagChanged()), plot,
+          SLOT(SlotMultitrackOnFlagChanged()) },
         { &services.useArea, SIGNAL(signalUpdateUseArea()), &stack, SLOT(SlotUpdateUseArea()) },
     };
     QCOMPARE(MissingWires(wires), QStringList());
@@ -158,7 +161,9 @@ void SpectrumStacksTest::livePayloadsAreQueued()
     stack.show();
     QVERIFY(QTest::qWaitForWindowExposed(&stack));
     auto *graph = stack.widget(1)->findChild<QCustomPlot *>()->graph(0);
-    const auto drawn = [graph] { return graph->data()->isEmpty() ? -1.0 : graph->data()->constBegin()->value; };
+    const auto drawn = [graph] {
+        return graph->data()->isEmpty() ? -1.0 : graph->data()->constBegin()->value;
+    };
 
     CurvePayload curve({ 11, 0, 0 }, { 12 });
     LinePayload fvb({ 21, 0, 0 });
@@ -184,7 +189,8 @@ void SpectrumStacksTest::wiresOfThePicturesPlot()
     auto *plot = qobject_cast<Spectrum2DDrawFrameBase *>(stack.widget(1));
     QVERIFY(plot);
     const QVector<Wire> wires{
-        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), plot, SLOT(SlotSpectralPropertyChanged()) },
+        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), plot,
+          SLOT(SlotSpectralPropertyChanged()) },
         { &services.active, SIGNAL(sglUpdateHorizontalCurve(int *, int, int, int)), plot,
           SLOT(SlotUpdateImageHorizontalCurve(int *, int, int, int)) },
         { &services.active, SIGNAL(sglUpdateVerticalCurve(int *, int, int, int)), plot,

@@ -69,7 +69,7 @@ public:
     QCPRange X() const { return plot->xAxis->range(); }
     QCPRange Y() const { return plot->yAxis->range(); }
     /// Items of one class, in the order they were made.
-    template<class Item>
+    template <class Item>
     QList<Item *> Items() const
     {
         QList<Item *> items;

@@ -133,12 +133,12 @@ void TestCurveSamples::tracerValue_data()
     QTest::addColumn<double>("expected");
     const QVector<unsigned int> five{ 10, 11, 12, 13, 14 };
     // Steps of the search by hand: low, high -> middle.
-    QTest::newRow("left of all") << five << -0.5 << 0.0;  // (-1,4)->2, (-1,1)->0, low stays -1
-    QTest::newRow("first") << five << 0.0 << 11.0;        // (-1,4)->2, (-1,1)->0, low 1
-    QTest::newRow("second") << five << 1.0 << 11.0;       // (-1,4)->2, (-1,1)->0, low 1
-    QTest::newRow("third") << five << 2.0 << 13.0;        // (-1,4)->2, (3,4)->4, high 3, low 3
-    QTest::newRow("between") << five << 2.5 << 13.0;      // the same
-    QTest::newRow("fifth") << five << 4.0 << 14.0;        // (-1,4)->2, (3,4)->4, low 5: behind the last
+    QTest::newRow("left of all") << five << -0.5 << 0.0; // (-1,4)->2, (-1,1)->0, low stays -1
+    QTest::newRow("first") << five << 0.0 << 11.0;       // (-1,4)->2, (-1,1)->0, low 1
+    QTest::newRow("second") << five << 1.0 << 11.0;      // (-1,4)->2, (-1,1)->0, low 1
+    QTest::newRow("third") << five << 2.0 << 13.0;       // (-1,4)->2, (3,4)->4, high 3, low 3
+    QTest::newRow("between") << five << 2.5 << 13.0;     // the same
+    QTest::newRow("fifth") << five << 4.0 << 14.0;       // (-1,4)->2, (3,4)->4, low 5: behind the last
     QTest::newRow("right of all") << five << 99.0 << 14.0;
     QTest::newRow("one sample, at it") << QVector<unsigned int>{ 7 } << 0.0 << 7.0; // (-1,0)->0, low 1
     QTest::newRow("one sample, left of it") << QVector<unsigned int>{ 7 } << -1.0 << 0.0;

@@ -78,7 +78,8 @@ void TestPlotRanges::horizontalZoom_data()
     QTest::newRow("out to the ends") << false << QCPRange(10, 990) << QCPRange(0, 1000) << 0.0 << 1000.0;
     QTest::newRow("ends cut to whole numbers")
         << false << QCPRange(380.9, 780.9) << QCPRange(380.9, 780.9) << 380.0 << 780.0;
-    QTest::newRow("in, ends cut") << true << QCPRange(380.5, 780.5) << QCPRange(380.9, 780.9) << 400.5 << 760.5;
+    QTest::newRow("in, ends cut") << true << QCPRange(380.5, 780.5) << QCPRange(380.9, 780.9) << 400.5
+                                  << 760.5;
     QTest::newRow("no room for a step") << true << QCPRange(10, 20) << QCPRange(0, 1000) << 10.0 << 20.0;
     QTest::newRow("curve within one whole number")
         << true << QCPRange(0.4, 0.8) << QCPRange(0.4, 0.8) << 0.4 << 0.8;

@@ -5,7 +5,9 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
-#include <functional>
+#include <algorithm>
+#include <atomic>
+#include <thread>
 
 namespace {
 
@@ -56,6 +58,7 @@ private slots:
     void emptyPayloadsClearTheCurve_data();
     void emptyPayloadsClearTheCurve();
     void nothingAtAll();
+    void drawnLineIsNeverHalfWritten();
     void narrowPageDrawsNothing_data();
     void narrowPageDrawsNothing();
     void rowAndColumnOfAPicture_data();
@@ -235,7 +238,8 @@ void TestSpectrum2DFeeds::onlyIn2DModes()
     QFETCH(bool, modePeak);
     QFETCH(bool, drawn);
     using Feed = void (Spectrum2DDrawFrameBase::*)(void *);
-    for (Feed feed : { &Spectrum2DDrawFrameBase::SlotUpdateFVB, &Spectrum2DDrawFrameBase::SlotUpdateMultiTrack }) {
+    for (Feed feed :
+         { &Spectrum2DDrawFrameBase::SlotUpdateFVB, &Spectrum2DDrawFrameBase::SlotUpdateMultiTrack }) {
         PlotPage page;
         page.services.spectrumUI.displayMode2D = mode2D;
         page.services.spectrumUI.displayMode2DPeak = modePeak;
@@ -313,6 +317,36 @@ void TestSpectrum2DFeeds::nothingAtAll()
     page.page->SlotUpdateFVB(nullptr);
     page.page->SlotUpdateMultiTrack(nullptr);
     QCOMPARE(page.DrawnValues(), Doubles(Counting(10, 1)));
+}
+
+void TestSpectrum2DFeeds::drawnLineIsNeverHalfWritten()
+{
+    PlotPage page;
+    const int width = 2000;
+    page.services.frame.frameWidth = width;
+    LinePayload payload(Values(width, 0));
+    std::atomic<bool> stop{ false };
+    std::atomic<unsigned int> written{ 0 };
+    std::thread producer([&] {
+        while (!stop) {
+            QMutexLocker lock(&payload.lock);
+            ++written;
+            std::fill_n(payload.record.fill, width, written.load());
+        }
+    });
+    int drawn = 0;
+    QStringList torn;
+    while (drawn < 200 && torn.isEmpty()) {
+        page.page->SlotUpdateFVB(payload.Param());
+        const QVector<double> values = page.DrawnValues();
+        if (values.count(values.first()) != width)
+            torn << QString("line %1 of %2").arg(drawn).arg(written.load());
+        ++drawn;
+    }
+    stop = true;
+    producer.join();
+    QCOMPARE(torn, QStringList());
+    QVERIFY(written > 0);
 }
 
 void TestSpectrum2DFeeds::narrowPageDrawsNothing_data()

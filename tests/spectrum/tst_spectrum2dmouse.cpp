@@ -150,7 +150,8 @@ void TestSpectrum2DMouse::tracerAtTheClick()
     QCOMPARE(label->position->type(), QCPItemPosition::ptPlotCoords);
     QCOMPARE(label->position->key(), tracerX);
     QCOMPARE(label->position->value(), 10.0 * sample);
-    QCOMPARE(label->positionAlignment(), (labelOnTheLeft ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+    QCOMPARE(label->positionAlignment(),
+             (labelOnTheLeft ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     QCOMPARE(label->padding(), labelOnTheLeft ? QMargins(0, -20, 15, 0) : QMargins(15, -20, 0, 0));
     QCOMPARE(label->color(), QColor(Qt::black));
     QCOMPARE(label->font().family(), QString("Segoe UI"));
@@ -227,7 +228,8 @@ void TestSpectrum2DMouse::shortDragIsAClick()
     const QCPRange before = page.X();
     CallLog::Clear();
     Drag(page, QPoint(300, 100), QPoint(300, 100) + way);
-    QCOMPARE(CallLog::Calls(), zooms ? QStringList("SpectrumUIManager::SetZoomAutoFlag(false)") : QStringList());
+    QCOMPARE(CallLog::Calls(),
+             zooms ? QStringList("SpectrumUIManager::SetZoomAutoFlag(false)") : QStringList());
     QCOMPARE(page.Items<QCPItemTracer>().size(), zooms ? 0 : 1);
     if (!zooms)
         QCOMPARE(Text(page.X()), Text(before));

@@ -37,18 +37,32 @@ void TestSpectrum2DPage::methodsInOrder()
     QStringList methods;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
         methods << QString::fromLatin1(meta.method(i).methodSignature());
-    QCOMPARE(methods,
-             QStringList({ "sglUpdateCurve(void*)", "sglResetDisplayMode()", "SignalDisplayModeUpdate()",
-                           "SignalUpdateFVB(void*)", "SignalUpdateMultiTrack(void*)", "SlotUpdateCurve(void*)",
-                           "SlotDisplayModeUpdate()", "SlotUpdateFVB(void*)", "SlotUpdateMultiTrack(void*)",
-                           "SlotZoomIn()", "SlotZoomOut()", "SlotZoomReset()", "SlotHorizontalZoomIn()",
-                           "SlotHorizontalZoomOut()", "SlotUpdateResetFlag(bool)", "SlotMultitrackOnFlagChanged()",
-                           "SlotCustomPlotMousePress(QMouseEvent*)", "SlotCustomPlotMouseMove(QMouseEvent*)",
-                           "SlotCustomPlotMouseRelease(QMouseEvent*)",
-                           "SlotUpdateImageHorizontalCurve(int*,int,int,int)",
-                           "SlotUpdateImageVerticalCurve(int*,int,int,int)", "SlotScrollValueChanged(int)",
-                           "SlotSpectralPropertyChanged()", "SlotUpdateResetFlag()", "SlotUpdateLevels(int,int)",
-                           "SlotConversationFormulaChanged()" }));
+    QCOMPARE(methods, QStringList({ "sglUpdateCurve(void*)",
+                                    "sglResetDisplayMode()",
+                                    "SignalDisplayModeUpdate()",
+                                    "SignalUpdateFVB(void*)",
+                                    "SignalUpdateMultiTrack(void*)",
+                                    "SlotUpdateCurve(void*)",
+                                    "SlotDisplayModeUpdate()",
+                                    "SlotUpdateFVB(void*)",
+                                    "SlotUpdateMultiTrack(void*)",
+                                    "SlotZoomIn()",
+                                    "SlotZoomOut()",
+                                    "SlotZoomReset()",
+                                    "SlotHorizontalZoomIn()",
+                                    "SlotHorizontalZoomOut()",
+                                    "SlotUpdateResetFlag(bool)",
+                                    "SlotMultitrackOnFlagChanged()",
+                                    "SlotCustomPlotMousePress(QMouseEvent*)",
+                                    "SlotCustomPlotMouseMove(QMouseEvent*)",
+                                    "SlotCustomPlotMouseRelease(QMouseEvent*)",
+                                    "SlotUpdateImageHorizontalCurve(int*,int,int,int)",
+                                    "SlotUpdateImageVerticalCurve(int*,int,int,int)",
+                                    "SlotScrollValueChanged(int)",
+                                    "SlotSpectralPropertyChanged()",
+                                    "SlotUpdateResetFlag()",
+                                    "SlotUpdateLevels(int,int)",
+                                    "SlotConversationFormulaChanged()" }));
 }
 
 void TestSpectrum2DPage::page_data()
@@ -105,8 +119,8 @@ void TestSpectrum2DPage::plot()
     const QCPRange x = page.X();
     const QCPRange y = page.Y();
     const QPoint center = plot->axisRect()->center();
-    QWheelEvent wheel(center, plot->mapToGlobal(center), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
+    QWheelEvent wheel(center, plot->mapToGlobal(center), QPoint(), QPoint(0, 120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(plot, &wheel);
     QCOMPARE(Text(page.X()), Text(x));
     QVERIFY(page.Y().size() < y.size());

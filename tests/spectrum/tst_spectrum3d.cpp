@@ -8,8 +8,11 @@
 #include "spectrum3ddrawviewbase.h"
 #include "spectrumzoomui.h"
 
+#include <QFile>
 #include <QMetaMethod>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QVBoxLayout>
 
 #include <qwt3d_surfaceplot.h>
@@ -61,7 +64,8 @@ struct Page3D
     {
         const QList<QRectF> tracks = services.spectrumUI.multiTrackList;
         const size_t width = tracks.isEmpty() ? 1 : size_t(qMax(1.0, tracks.first().width()));
-        payload = std::make_unique<LinePayload>(Values(width * size_t(qMax(1, tracks.size())), unsigned(maximum)));
+        payload =
+            std::make_unique<LinePayload>(Values(width * size_t(qMax(1, tracks.size())), unsigned(maximum)));
         payload->record.maximum = maximum;
         view->SlotUpdateMultiTrack(payload->Param());
     }
@@ -87,6 +91,25 @@ struct Page3D
 QString Text(const Qwt3D::Triple &triple)
 {
     return QString("%1 %2 %3").arg(triple.x).arg(triple.y).arg(triple.z);
+}
+
+/// The texts in the plot, in the order they are drawn.
+QStringList Texts(Qwt3D::SurfacePlot *plot)
+{
+    QTemporaryDir folder;
+    const QString name = folder.filePath("plot.eps");
+    plot->saveVector(name, "EPS", Qwt3D::VectorWriter::NATIVE, Qwt3D::VectorWriter::NOSORT);
+    QFile file(name);
+    QStringList texts;
+    if (!file.open(QIODevice::ReadOnly))
+        return texts;
+    const QRegularExpression form("^\\((.+)\\) [-0-9.]+ [-0-9.]+ [0-9]+ /");
+    while (!file.atEnd()) {
+        const QRegularExpressionMatch match = form.match(QString::fromLatin1(file.readLine()));
+        if (match.hasMatch())
+            texts << match.captured(1);
+    }
+    return texts;
 }
 
 QStringList Positions(const Qwt3D::Axis &axis)
@@ -141,11 +164,13 @@ void TestSpectrum3D::methodsInOrder()
             methods << QString::fromLatin1(meta.method(i).methodSignature());
         return methods;
     };
-    QCOMPARE(ownMethods(Spectrum3DDrawFrameBase::staticMetaObject), QStringList("SignalUpdateMultiTrack(void*)"));
+    QCOMPARE(ownMethods(Spectrum3DDrawFrameBase::staticMetaObject),
+             QStringList("SignalUpdateMultiTrack(void*)"));
     QCOMPARE(ownMethods(Spectrum3DDrawViewBase::staticMetaObject),
              QStringList({ "SlotUpdateMultiTrack(void*)", "Slot3DViewRotationChanged(double,double,double)",
                            "Slot3DZoomChanged(double)", "SlotZoomIn()", "SlotZoomOut()", "SlotZoomReset()",
-                           "SlotHorizontalZoomIn()", "SlotHorizontalZoomOut()", "SlotSpectralPropertyChanged()" }));
+                           "SlotHorizontalZoomIn()", "SlotHorizontalZoomOut()",
+                           "SlotSpectralPropertyChanged()" }));
 }
 
 void TestSpectrum3D::page()
@@ -285,17 +310,22 @@ void TestSpectrum3D::box()
 void TestSpectrum3D::axes()
 {
     Page3D page(6, 1000); // series step 50, counts divisor 500
+    page.page.resize(1000, 600);
     QVERIFY(page.Show());
     page.Update(65500);
     page.plot->updateGL();
     Qwt3D::CoordinateSystem *box = page.plot->coordinates();
     QCOMPARE(box->style(), Qwt3D::BOX);
     QCOMPARE(box->grids(), 1);
-    QCOMPARE(Positions(box->axes[Qwt3D::X1]), QStringList({ "0 0 0", "200 0 0", "400 0 0", "600 0 0", "800 0 0",
-                                                            "1000 0 0" }));
+    QCOMPARE(Positions(box->axes[Qwt3D::X1]),
+             QStringList({ "0 0 0", "200 0 0", "400 0 0", "600 0 0", "800 0 0", "1000 0 0" }));
     // One tick per track.
-    QCOMPARE(Positions(box->axes[Qwt3D::Y1]), QStringList({ "0 0 0", "0 50 0", "0 100 0", "0 150 0", "0 200 0",
-                                                            "0 250 0", "0 300 0" }));
+    QCOMPARE(Positions(box->axes[Qwt3D::Y1]),
+             QStringList({ "0 0 0", "0 50 0", "0 100 0", "0 150 0", "0 200 0", "0 250 0", "0 300 0" }));
+    // What is seen from the side that the plot turns to the user first.
+    QCOMPARE(Texts(page.plot).join("|"),
+             QString("0|200|400|600|800|1000|Pixel Number|0|1|2|3|4|5|6|Series Position|"
+                     "0e+00|1e+04|2e+04|3e+04|4e+04|5e+04|6e+04|Counts"));
     for (Qwt3D::AXIS axis : { Qwt3D::X1, Qwt3D::Y1, Qwt3D::Z1 }) {
         QCOMPARE(box->axes[axis].labelFont().family(), QString("Segoe UI"));
         QCOMPARE(box->axes[axis].labelFont().pointSize(), 12);
@@ -446,22 +476,22 @@ void TestSpectrum3D::resetSetsThePlotUpAgain()
 
 void TestSpectrum3D::numbersStayTrueWhenTheStepsChange()
 {
-    // The numbers at an axis aren't to be had from the plot; they stand in its picture. The lines lie on the
-    // ground, whatever the largest value is said to be.
     Page3D page(5, 1000);
     QVERIFY(page.Show());
-    const auto picture = [&page](int maximum) {
-        LinePayload payload(Values(5000, 0));
-        payload.record.maximum = maximum;
-        page.view->SlotUpdateMultiTrack(payload.Param());
-        page.plot->updateGL();
-        return page.plot->grabFrameBuffer();
-    };
-    const QImage first = picture(250000); // 500 counts a unit
+    const QStringList first{ "0e+00", "5e+04", "1e+05", "2e+05", "2e+05", "3e+05" };
+    const QStringList second{ "0e+00", "1e+05", "2e+05", "3e+05", "4e+05", "5e+05" };
+    const auto counts = [&page] { return Texts(page.plot).filter("e+"); };
+    page.Update(250000); // 500 counts a unit, the box 500 units high
+    QCOMPARE(counts(), first);
     const QString box = Text(page.plot->hull().maxVertex);
-    QVERIFY(picture(5000000) != first); // 1000 counts a unit
+    page.Update(5000000); // 1000 counts a unit
     QCOMPARE(Text(page.plot->hull().maxVertex), box);
-    QVERIFY(picture(250000) == first);
+    QCOMPARE(counts(), second);
+    page.Update(250000);
+    QCOMPARE(counts(), first);
+    page.SetTracks(5, 600); // a series step of 30: the back edge is at 250 / 30
+    page.Update(250000);
+    QVERIFY(Texts(page.plot).contains("8.33333"));
 }
 
 void TestSpectrum3D::mouseTurnsThePlot()
@@ -471,8 +501,8 @@ void TestSpectrum3D::mouseTurnsThePlot()
     page.Update();
     const double before = page.plot->zRotation();
     const auto send = [&](QEvent::Type type, const QPoint &pos) {
-        QMouseEvent event(type, pos, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton, Qt::LeftButton,
-                          Qt::NoModifier);
+        QMouseEvent event(type, pos, type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(page.plot, &event);
     };
     send(QEvent::MouseButtonPress, QPoint(100, 100));

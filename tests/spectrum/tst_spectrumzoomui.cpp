@@ -12,7 +12,7 @@
 
 namespace {
 
-const QStringList buttonNames{ "pushButtonRescaleAuto", "pushButton2DHZoomIn",  "pushButton2DHZoomOut",
+const QStringList buttonNames{ "pushButtonRescaleAuto", "pushButton2DHZoomIn", "pushButton2DHZoomOut",
                                "pushButton2DZoomIn",    "pushButton2DZoomOut", "pushButton2DScaleReset" };
 
 /// Writes the bar's signals into the call log, with the flag that a receiver sees.
@@ -58,12 +58,13 @@ void TestSpectrumZoomUI::methodsInOrder()
     QStringList methods;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
         methods << QString::fromLatin1(meta.method(i).methodSignature());
-    QCOMPARE(methods,
-             QStringList({ "SignalZoomIn()", "SignalZoomOut()", "SignalZoomReset()", "SignalHorizontalZoomIn()",
-                           "SignalHorizontalZoomOut()", "SignalZoomAuto()", "SlotDisplayModePropertyChange()",
-                           "on_pushButton2DZoomIn_clicked(bool)", "on_pushButton2DZoomOut_clicked(bool)",
-                           "on_pushButton2DScaleReset_clicked(bool)", "on_pushButton2DHZoomIn_clicked(bool)",
-                           "on_pushButton2DHZoomOut_clicked(bool)", "on_pushButtonRescaleAuto_clicked(bool)" }));
+    QCOMPARE(
+        methods,
+        QStringList({ "SignalZoomIn()", "SignalZoomOut()", "SignalZoomReset()", "SignalHorizontalZoomIn()",
+                      "SignalHorizontalZoomOut()", "SignalZoomAuto()", "SlotDisplayModePropertyChange()",
+                      "on_pushButton2DZoomIn_clicked(bool)", "on_pushButton2DZoomOut_clicked(bool)",
+                      "on_pushButton2DScaleReset_clicked(bool)", "on_pushButton2DHZoomIn_clicked(bool)",
+                      "on_pushButton2DHZoomOut_clicked(bool)", "on_pushButtonRescaleAuto_clicked(bool)" }));
 }
 
 void TestSpectrumZoomUI::form()
@@ -120,12 +121,24 @@ void TestSpectrumZoomUI::buttons_data()
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("signal");
     QTest::addColumn<QString>("flag");
-    QTest::newRow("horizontal in") << "pushButton2DHZoomIn" << "SignalHorizontalZoomIn" << "false";
-    QTest::newRow("horizontal out") << "pushButton2DHZoomOut" << "SignalHorizontalZoomOut" << "false";
-    QTest::newRow("reset") << "pushButton2DScaleReset" << "SignalZoomReset" << "true";
-    QTest::newRow("in") << "pushButton2DZoomIn" << "SignalZoomIn" << "false";
-    QTest::newRow("out") << "pushButton2DZoomOut" << "SignalZoomOut" << "false";
-    QTest::newRow("auto") << "pushButtonRescaleAuto" << "SignalZoomAuto" << "true";
+    QTest::newRow("horizontal in") << "pushButton2DHZoomIn"
+                                   << "SignalHorizontalZoomIn"
+                                   << "false";
+    QTest::newRow("horizontal out") << "pushButton2DHZoomOut"
+                                    << "SignalHorizontalZoomOut"
+                                    << "false";
+    QTest::newRow("reset") << "pushButton2DScaleReset"
+                           << "SignalZoomReset"
+                           << "true";
+    QTest::newRow("in") << "pushButton2DZoomIn"
+                        << "SignalZoomIn"
+                        << "false";
+    QTest::newRow("out") << "pushButton2DZoomOut"
+                         << "SignalZoomOut"
+                         << "false";
+    QTest::newRow("auto") << "pushButtonRescaleAuto"
+                          << "SignalZoomAuto"
+                          << "true";
 }
 
 void TestSpectrumZoomUI::buttons()
@@ -140,8 +153,8 @@ void TestSpectrumZoomUI::buttons()
     LogSignals(&bar, &services.spectrumUI);
     CallLog::Clear();
     bar.findChild<QPushButton *>(button)->click();
-    QCOMPARE(CallLog::Calls(), QStringList({ "SpectrumUIManager::SetZoomAutoFlag(" + flag + ")",
-                                             signal + "(" + flag + ")" }));
+    QCOMPARE(CallLog::Calls(),
+             QStringList({ "SpectrumUIManager::SetZoomAutoFlag(" + flag + ")", signal + "(" + flag + ")" }));
 }
 
 void TestSpectrumZoomUI::autoButtonToggles()
@@ -186,7 +199,8 @@ void TestSpectrumZoomUI::lookFollowsTheFlag()
                      QString(automatic ? "pushButtonRescaleAuto" : "pushButtonAutoRescaleClose"));
             QCOMPARE(button->isChecked(), automatic);
             button->ensurePolished();
-            QCOMPARE(button->palette().color(QPalette::ButtonText), QColor(automatic ? "#010203" : "#040506"));
+            QCOMPARE(button->palette().color(QPalette::ButtonText),
+                     QColor(automatic ? "#010203" : "#040506"));
         }
     }
 }
