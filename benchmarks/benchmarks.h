@@ -22,5 +22,7 @@ QVector<BenchmarkResult> BenchmarkZoom();
 QVector<BenchmarkResult> BenchmarkLevels();
 /// The next frame of a stack, read and made a picture of, against libtiff's own read of the page.
 QVector<BenchmarkResult> BenchmarkStack();
+/// The lines of an intensity curve and the ticks of a ruler, each in its own time.
+QVector<BenchmarkResult> BenchmarkItems();
 /// The whole program: first frame on screen, peak memory, growth over 10,000 frames.
 QVector<BenchmarkResult> BenchmarkStart();
