@@ -55,6 +55,7 @@ private slots:
     void levelsLieAtTheirEdges();
     void equalLevelsGiveTheBaseline();
     void randomCurves();
+    void buffersAreKept();
     void tinyItems();
     void sixteenBitSamplesAreCopiedRaw();
     void reversedSamples();
@@ -175,6 +176,23 @@ void TestIntensityCurve::randomCurves()
             QCOMPARE(lines, expected);
         }
     }
+}
+
+void TestIntensityCurve::buffersAreKept()
+{
+    Horizontal curve;
+    curve.SetItemSize(1200, 50);
+    std::vector<int> row(4096, 7);
+    curve.updateCurve(row.data(), 4096, 0, 4096);
+    const QLineF *lines = curve.curveLines.constData();
+    const int *samples = curve.samples.data();
+    for (int &sample : row) {
+        sample = 200;
+        curve.updateCurve(row.data(), 4096, 0, 4096);
+        QCOMPARE(curve.curveLines.constData(), lines);
+        QCOMPARE(static_cast<const int *>(curve.samples.data()), samples);
+    }
+    QVERIFY(curve.curveLines.last().y2() < 20.0);
 }
 
 void TestIntensityCurve::tinyItems()
