@@ -51,14 +51,12 @@ bool LivePreview::StopPreview()
     return true;
 }
 
-void LivePreview::RestoreStopPreview()
-{
-    StartPreview();
-}
+/// Saving never stops the preview, so there is nothing to bring back; one that the user stopped stays so.
+void LivePreview::RestoreStopPreview() {}
 
-void LivePreview::FrameSave(bool, bool)
+void LivePreview::FrameSave(bool record, bool single)
 {
-    emit signalMessage(tr("Frames can't be saved by this version."));
+    emit signalCaptureWanted(record, single);
 }
 
 const RawCameraFrame *LivePreview::GetCurrentRawFrame() const

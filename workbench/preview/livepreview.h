@@ -55,10 +55,10 @@ signals:
     void signalPictureDelivered();
     /// The size of the picture as it is shown has changed; comes before the picture itself.
     void signalPictureSizeChanged(QSize size);
+    /// A capture is to begin, or the one that runs to end.
+    void signalCaptureWanted(bool record, bool single);
     /// A region to be read out of the camera, in pixels of the frame.
     void signalRegionWanted(QRect region);
-    /// A sentence for the status bar.
-    void signalMessage(QString text);
 
 protected:
     void run() override;

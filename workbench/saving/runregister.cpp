@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 #include <QUuid>
 
 namespace {
@@ -64,11 +63,6 @@ bool IsRunning(const QString &recording)
 RunRegister::RunRegister(const QString &folder)
     : m_folder(folder)
 {
-}
-
-QString RunRegister::StandardFolder()
-{
-    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/recordings";
 }
 
 bool RunRegister::Add(const QString &recording, QString *entry) const

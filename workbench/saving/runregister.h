@@ -12,9 +12,7 @@ class RunRegister
 {
 public:
     /// `folder` is made when needed.
-    explicit RunRegister(const QString &folder = StandardFolder());
-
-    static QString StandardFolder();
+    explicit RunRegister(const QString &folder);
 
     /// A recording begins; `entry` names it for Remove(). False when it could not be noted, which only the repair needs.
     bool Add(const QString &recording, QString *entry) const;

@@ -246,16 +246,31 @@ private slots:
         preview.StopPreview();
     }
 
-    void captureSaysThatNothingIsSaved()
+    void captureIsAskedFor()
     {
         TestFrameSource source;
         LiveOrientation orientation;
         TestLevels levels;
         LivePreview preview(&source, &orientation, &levels.live);
-        QSignalSpy messages(&preview, SIGNAL(signalMessage(QString)));
-        preview.FrameSave(false, false);
-        QCOMPARE(messages.count(), 1);
-        QCOMPARE(messages.at(0).at(0).toString(), QString("Frames can't be saved by this version."));
+        QSignalSpy captures(&preview, SIGNAL(signalCaptureWanted(bool, bool)));
+        preview.FrameSave(false, true);
+        QCOMPARE(captures.count(), 1);
+        QCOMPARE(captures.at(0), QList<QVariant>({false, true}));
+    }
+
+    /// A run that ends does not start a preview that the user had stopped.
+    void aStoppedPreviewStaysStoppedAfterARun()
+    {
+        TestFrameSource source;
+        LiveOrientation orientation;
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
+        preview.RestoreStopPreview();
+        QVERIFY(!preview.isRunning());
+        QVERIFY(preview.StartPreview());
+        preview.RestoreStopPreview();
+        QVERIFY(preview.isRunning());
+        preview.StopPreview();
     }
 
 private:
