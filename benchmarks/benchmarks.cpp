@@ -4,5 +4,6 @@
 QVector<BenchmarkGroup> BenchmarkGroups()
 {
     return {{"cpuframe", BenchmarkCpuFrame}, {"gpuframe", BenchmarkGpuFrame}, {"zoom", BenchmarkZoom},
-            {"levels", BenchmarkLevels},     {"stack", BenchmarkStack},       {"start", BenchmarkStart}};
+            {"levels", BenchmarkLevels},     {"stack", BenchmarkStack},       {"record", BenchmarkRecord},
+            {"start", BenchmarkStart}};
 }

@@ -22,5 +22,7 @@ QVector<BenchmarkResult> BenchmarkZoom();
 QVector<BenchmarkResult> BenchmarkLevels();
 /// The next frame of a stack, read and made a picture of, against libtiff's own read of the page.
 QVector<BenchmarkResult> BenchmarkStack();
+/// A recording: to disk against plain writing, while shown against not shown, and what fast and long runs lose.
+QVector<BenchmarkResult> BenchmarkRecord();
 /// The whole program: first frame on screen, peak memory, growth over 10,000 frames.
 QVector<BenchmarkResult> BenchmarkStart();

@@ -108,7 +108,7 @@ int main(int argc, char **argv)
     QLoggingCategory::setFilterRules("default.debug=false");
     QCoreApplication::setApplicationName("workbench");
     QCoreApplication::setApplicationVersion(WORKBENCH_VERSION);
-    if (!line.record.isEmpty() && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    if (!line.record.isEmpty() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen"); // nothing is shown, and there may be no display
     QApplication application(argc, argv);
     application.setWindowIcon(QIcon(":/icons/workbench.svg"));

@@ -191,6 +191,7 @@ void WorkbenchServices::Connect()
 
     connect(m_link, SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_preview.get(), SIGNAL(signalCaptureWanted(bool, bool)), m_recording.get(), SLOT(slotCapture(bool, bool)));
+    connect(m_recording.get(), SIGNAL(signalStateChanged()), this, SLOT(slotRecordingStateChanged()));
     connect(m_recording.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_config.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_workspace.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
@@ -237,6 +238,12 @@ void WorkbenchServices::slotCameraStateChanged()
 void WorkbenchServices::slotPictureSizeChanged(QSize size)
 {
     m_liveReport->SetImageSize(size);
+}
+
+/// What is saved comes before what is shown.
+void WorkbenchServices::slotRecordingStateChanged()
+{
+    m_preview->SetLeastPeriod(m_recording->IsBusy() ? LivePreview::PeriodBesideRecordingMs : 0);
 }
 
 /// `region` counts from the corner of the region that is read out now.

@@ -80,6 +80,7 @@ private slots:
     void slotCameraStateChanged();
     void slotPictureSizeChanged(QSize size);
     void slotRegionWanted(QRect region);
+    void slotRecordingStateChanged();
 
 private:
     void StartMeasuring();

@@ -77,7 +77,9 @@ void LivePreview::OnFrame(const CameraFrame &frame)
 
 void LivePreview::run()
 {
+    QElapsedTimer sinceLast;
     while (!isInterruptionRequested() && m_gate.Enter()) {
+        KeepPeriod(&sinceLast);
         CameraFrame frame;
         while (frame.IsNull() && !isInterruptionRequested())
             frame = m_slot.Take(TakeTimeoutMs);
@@ -86,6 +88,13 @@ void LivePreview::run()
         else
             SendPicture(frame);
     }
+}
+
+void LivePreview::KeepPeriod(QElapsedTimer *sinceLast) const
+{
+    if (sinceLast->isValid() && sinceLast->elapsed() < m_leastPeriodMs)
+        msleep(ulong(m_leastPeriodMs - sinceLast->elapsed()));
+    sinceLast->start();
 }
 
 /// Inside the gate; the GUI thread leaves it. The three deliveries stay in this order.

@@ -258,6 +258,25 @@ private slots:
         QCOMPARE(captures.at(0), QList<QVariant>({false, true}));
     }
 
+    void picturesKeepTheirDistance()
+    {
+        TestFrameSource source;
+        LiveOrientation orientation;
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
+        preview.SetLeastPeriod(100);
+        QVERIFY(preview.StartPreview());
+        QSignalSpy delivered(&preview, SIGNAL(signalPictureDelivered()));
+        QElapsedTimer timer;
+        timer.start();
+        while (delivered.count() < 4) {
+            preview.OnFrame(TestFrames::Make(20, 10, PixelLayout::Mono8, delivered.count()));
+            QCoreApplication::processEvents();
+        }
+        QVERIFY(timer.elapsed() >= 300); // three distances between four pictures
+        preview.StopPreview();
+    }
+
     /// A run that ends does not start a preview that the user had stopped.
     void aStoppedPreviewStaysStoppedAfterARun()
     {
