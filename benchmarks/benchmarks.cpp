@@ -5,5 +5,6 @@ QVector<BenchmarkGroup> BenchmarkGroups()
 {
     return {{"cpuframe", BenchmarkCpuFrame}, {"gpuframe", BenchmarkGpuFrame}, {"zoom", BenchmarkZoom},
             {"levels", BenchmarkLevels},     {"stack", BenchmarkStack},       {"items", BenchmarkItems},
+            {"record", BenchmarkRecord},
             {"start", BenchmarkStart}};
 }

@@ -24,5 +24,7 @@ QVector<BenchmarkResult> BenchmarkLevels();
 QVector<BenchmarkResult> BenchmarkStack();
 /// The lines of an intensity curve and the ticks of a ruler, each in its own time.
 QVector<BenchmarkResult> BenchmarkItems();
+/// A recording: to disk against plain writing, while shown against not shown, and what fast and long runs lose.
+QVector<BenchmarkResult> BenchmarkRecord();
 /// The whole program: first frame on screen, peak memory, growth over 10,000 frames.
 QVector<BenchmarkResult> BenchmarkStart();

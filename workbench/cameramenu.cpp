@@ -6,7 +6,7 @@
 #include "connectedcameras.h"
 #include "devicelist.h"
 #include "informationdialog.h"
-#include "livepreview.h"
+#include "recordingguard.h"
 #include "regionofinterest.h"
 #include "workbenchservices.h"
 
@@ -33,9 +33,10 @@ void RemoveActions(QActionGroup *group, QMenu *menu)
 
 } // namespace
 
-CameraMenu::CameraMenu(WorkbenchServices *services, QWidget *parent)
+CameraMenu::CameraMenu(WorkbenchServices *services, RecordingGuard *guard, QWidget *parent)
     : QMenu(tr("&Camera"), parent)
     , m_services(services)
+    , m_guard(guard)
     , m_cameraGroup(new QActionGroup(this))
     , m_layoutGroup(new QActionGroup(this))
 {
@@ -63,15 +64,11 @@ void CameraMenu::AddCameraActions()
     m_reconnect = addAction(tr("Re&connect"));
     connect(m_reconnect, &QAction::triggered, m_services->Link(), &CameraLink::Reconnect);
     m_close = addAction(tr("C&lose Camera"));
-    connect(m_close, &QAction::triggered, m_services->Link(), &CameraLink::Close);
+    connect(m_close, SIGNAL(triggered()), this, SLOT(slotCloseCamera()));
 }
 
 void CameraMenu::AddFormatActions()
 {
-    m_capture = addAction(tr("Capture &Frames"));
-    m_capture->setShortcut(QKeySequence("F10"));
-    connect(m_capture, &QAction::triggered, m_services->Preview(),
-            [preview = m_services->Preview()] { preview->FrameSave(false, false); });
     m_layouts = addMenu(tr("&Pixel Format"));
     m_selectRegion = addAction(tr("&Select Region"), this, SLOT(slotSelectRegion(bool)));
     m_selectRegion->setCheckable(true);
@@ -117,7 +114,6 @@ void CameraMenu::slotUpdateActions()
 {
     const CameraLink::State state = m_services->Link()->GetState();
     const bool isOpen = state == CameraLink::State::Open;
-    m_capture->setEnabled(isOpen);
     m_reconnect->setEnabled(state == CameraLink::State::Lost);
     m_close->setEnabled(state != CameraLink::State::NoCamera);
     m_layouts->setEnabled(isOpen);
@@ -142,7 +138,15 @@ void CameraMenu::UpdateLayouts()
 
 void CameraMenu::slotOpenCamera(QAction *action)
 {
-    m_services->Link()->Open(action->data().toString());
+    CameraLink *link = m_services->Link();
+    m_guard->Do(tr("Another camera ends it."), [link, id = action->data().toString()] { link->Open(id); });
+    slotUpdateCameras();
+}
+
+void CameraMenu::slotCloseCamera()
+{
+    CameraLink *link = m_services->Link();
+    m_guard->Do(tr("Closing the camera ends it."), [link] { link->Close(); });
 }
 
 void CameraMenu::slotSetPixelLayout(QAction *action)

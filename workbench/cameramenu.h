@@ -5,6 +5,7 @@
 
 #include <QMenu>
 
+class RecordingGuard;
 class WorkbenchServices;
 
 /// The Camera menu: which camera, what it sends and what part of its sensor. Looks for cameras in
@@ -14,8 +15,8 @@ class CameraMenu : public QMenu
     Q_OBJECT
 
 public:
-    /// `services` are borrowed and outlive this object.
-    CameraMenu(WorkbenchServices *services, QWidget *parent);
+    /// `services` and `guard` are borrowed and outlive this object.
+    CameraMenu(WorkbenchServices *services, RecordingGuard *guard, QWidget *parent);
 
 public slots:
     /// Looks for cameras; the list follows when they were found.
@@ -27,6 +28,7 @@ private slots:
     void slotUpdateCameras();
     void slotUpdateActions();
     void slotOpenCamera(QAction *action);
+    void slotCloseCamera();
     void slotSetPixelLayout(QAction *action);
     void slotSelectRegion(bool checked);
     void slotFullSensor();
@@ -38,12 +40,12 @@ private:
     void UpdateLayouts();
 
     WorkbenchServices *m_services;
+    RecordingGuard *m_guard;
     CameraDiscovery m_discovery;
     QActionGroup *m_cameraGroup;
     QActionGroup *m_layoutGroup;
     QAction *m_endOfCameras = nullptr;
     QAction *m_refresh = nullptr;
-    QAction *m_capture = nullptr;
     QAction *m_reconnect = nullptr;
     QAction *m_close = nullptr;
     QMenu *m_layouts = nullptr;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "runfacts.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -17,6 +19,10 @@ struct CommandLine
     /// The line for a name that is not among the choices.
     static QString NoSuchText(const QString &what, const QString &name, const QStringList &choices);
 
+private:
+    static CommandLine ForRecording(CommandLine line, const QString &path, const QString &format);
+
+public:
     Action action = Action::Run;
     QString text;
     /// Empty: the simulated camera.
@@ -25,6 +31,10 @@ struct CommandLine
     /// End after so many frames were shown; 0 runs until the user quits.
     int frames = 0;
     QString screenshot;
+    /// Record into this file instead of showing a window: so many frames (`frames`) or seconds, whichever is given.
+    QString record;
+    int seconds = 0;
+    RunFormat format = RunFormat::Tiff;
     /// Pictures to be opened.
     QStringList files;
 };

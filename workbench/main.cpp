@@ -4,6 +4,7 @@
 #include "devicelist.h"
 #include "mainwindow.h"
 #include "picturedesk.h"
+#include "recordrun.h"
 #include "settingsfile.h"
 #include "stylesheet.h"
 #include "timedrun.h"
@@ -33,6 +34,27 @@ int Fail(const QString &text)
 {
     fprintf(stderr, "%s\n", qPrintable(text));
     return CommandLine::UsageExitCode;
+}
+
+RecordingSettings SettingsOf(const CommandLine &line)
+{
+    RecordingSettings settings;
+    settings.mode = line.frames > 0 ? RecordingSettings::Mode::Count : RecordingSettings::Mode::Duration;
+    settings.frames = qMax(1, line.frames);
+    settings.seconds = qMax(1, line.seconds);
+    settings.format = line.format;
+    return settings;
+}
+
+int Record(const CommandLine &line)
+{
+    SettingsFile settings(SettingsFile::StandardPath());
+    CameraLink link;
+    link.SetScene(line.scene);
+    WorkbenchServices services(settings.Settings(), &link);
+    const RecordRun run(&link, services.Recording(), SettingsOf(line), line.record);
+    link.Open(line.cameraId.isEmpty() ? SimulatedCameraInfo().id : line.cameraId);
+    return QApplication::exec();
 }
 
 int RunWorkbench(QApplication &application, const CommandLine &line)
@@ -86,7 +108,9 @@ int main(int argc, char **argv)
     QLoggingCategory::setFilterRules("default.debug=false");
     QCoreApplication::setApplicationName("workbench");
     QCoreApplication::setApplicationVersion(WORKBENCH_VERSION);
+    if (!line.record.isEmpty() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // nothing is shown, and there may be no display
     QApplication application(argc, argv);
     application.setWindowIcon(QIcon(":/icons/workbench.svg"));
-    return RunWorkbench(application, line);
+    return line.record.isEmpty() ? RunWorkbench(application, line) : Record(line);
 }

@@ -11,6 +11,10 @@
 #include "picturedesk.h"
 #include "picturedialogs.h"
 #include "picturemenus.h"
+#include "recordingdesk.h"
+#include "recordingguard.h"
+#include "recordingmenu.h"
+#include "recordingstatus.h"
 #include "shownframes.h"
 #include "statusline.h"
 #include "viewcodes.h"
@@ -24,6 +28,7 @@
 #include <QDockWidget>
 #include <QGraphicsScene>
 #include <QGraphicsView>
+#include <QLabel>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
@@ -48,6 +53,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     : m_services(services)
     , m_settings(settings)
     , m_drawingGuard(new DrawingGuard(services->Config(), this))
+    , m_recordingGuard(new RecordingGuard(services->Recording(), this))
 {
     setObjectName("MainWindow");
     setWindowTitle(tr("Workbench"));
@@ -56,6 +62,10 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     m_drawingGuard->Watch(services->GetWorkspace()->GetCameraScene()->views().first());
     m_shown = new ShownFrames(services->Preview(), services->GetWorkspace(), this);
     BuildMenus();
+    auto *recordingLabel = new QLabel(this);
+    recordingLabel->setObjectName("labelStatusRecording");
+    statusBar()->addPermanentWidget(recordingLabel);
+    new RecordingStatus(services->Recording(), recordingLabel, this);
     m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);
     connect(services, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
     connect(m_drawingGuard, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
@@ -124,8 +134,10 @@ void MainWindow::BuildMenus()
 
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
     pictures->FillEditMenu(edit);
-    auto *camera = new CameraMenu(m_services, this);
+    auto *camera = new CameraMenu(m_services, m_recordingGuard, this);
     menuBar()->addMenu(camera);
+    auto *recording = new RecordingMenu(m_services, this);
+    menuBar()->addMenu(recording);
     m_viewMenu = new ViewMenu(m_services, this);
     menuBar()->addMenu(m_viewMenu);
     pictures->FillViewMenu(m_viewMenu);
@@ -136,7 +148,7 @@ void MainWindow::BuildMenus()
     help->addAction(tr("&About"), [this] { InformationDialog::ShowAbout(this); });
 
     // While the window fills the screen the menu bar is hidden, and its keys would be with it.
-    for (QMenu *menu : {file, edit, static_cast<QMenu *>(camera), static_cast<QMenu *>(m_viewMenu)})
+    for (QMenu *menu : {file, edit, static_cast<QMenu *>(camera), static_cast<QMenu *>(recording), static_cast<QMenu *>(m_viewMenu)})
         addActions(menu->actions());
 }
 
@@ -245,6 +257,11 @@ void MainWindow::changeEvent(QEvent *event)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (m_services->Recording()->IsBusy()) {
+        event->ignore();
+        m_recordingGuard->Do(tr("Closing the program ends it."), [this] { close(); });
+        return;
+    }
     slotLeaveFullScreen();
     m_settings->setValue(GeometryKey, saveGeometry());
     m_settings->setValue(StateKey, saveState(StateVersion));

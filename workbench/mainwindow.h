@@ -11,6 +11,7 @@ class QDockWidget;
 class QSettings;
 class QShortcut;
 class QStackedWidget;
+class RecordingGuard;
 class ShownFrames;
 class StatusLine;
 class ViewMenu;
@@ -64,6 +65,7 @@ private:
     WorkbenchServices *m_services;
     QSettings *m_settings;
     DrawingGuard *m_drawingGuard;
+    RecordingGuard *m_recordingGuard;
     QStackedWidget *m_centre = nullptr;
     QDockWidget *m_leftDock = nullptr;
     QDockWidget *m_rightDock = nullptr;

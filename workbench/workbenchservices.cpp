@@ -10,6 +10,7 @@
 #include "channelsynthesis.h"
 #include "connectedcameras.h"
 #include "framesaving.h"
+#include "frametee.h"
 #include "levelsmodel.h"
 #include "livecover.h"
 #include "liveframesize.h"
@@ -30,7 +31,9 @@
 #include "pictureprocessing.h"
 #include "pictureshelf.h"
 #include "pixelreadout.h"
+#include "recordingdesk.h"
 #include "regionofinterest.h"
+#include "runregister.h"
 #include "savesettings.h"
 #include "spectrumpipeline.h"
 #include "spectrumranges.h"
@@ -38,6 +41,28 @@
 #include "usearea.h"
 #include "workspace.h"
 #include "workspaceconfig.h"
+
+#include <QFileInfo>
+#include <QSettings>
+
+namespace {
+
+/// Beside the settings.
+QString RegisterFolder(const QSettings &settings)
+{
+    return QFileInfo(settings.fileName()).path() + "/recordings";
+}
+
+QString RepairText(const RepairedRun &run)
+{
+    if (!run.fault.isEmpty())
+        return WorkbenchServices::tr("A recording that was cut off could not be repaired: %1").arg(run.fault);
+    if (run.frames == 0)
+        return WorkbenchServices::tr("A recording that was cut off held no whole frame: %1").arg(run.path);
+    return WorkbenchServices::tr("A recording that was cut off was repaired: %1 frames in %2").arg(run.frames).arg(run.path);
+}
+
+} // namespace
 
 WorkbenchServices::WorkbenchServices(QSettings *settings, CameraLink *link)
     : m_settings(settings)
@@ -51,12 +76,15 @@ WorkbenchServices::WorkbenchServices(QSettings *settings, CameraLink *link)
     StartSpectrum();
     StartCamera();
     StartPreview();
+    StartRecording();
     StartWorkspace();
     Connect();
+    RepairRecordings();
 }
 
 WorkbenchServices::~WorkbenchServices()
 {
+    m_repair.waitForDone();
     m_preview->StopPreview();
     delete m_pictureList;
 }
@@ -80,8 +108,6 @@ void WorkbenchServices::StartPictures()
     m_channelSynthesis = std::make_unique<ChannelSynthesis>();
     m_pictureFrames = std::make_unique<PictureFrames>(m_mainPicture.get());
     m_pictureList = new PictureList(m_pictureShelf.get(), m_mainPicture.get()); // reparented by the "File Preview" tab
-    m_frameSaving = std::make_unique<FrameSaving>();
-    m_saveSettings = std::make_unique<SaveSettings>();
 }
 
 void WorkbenchServices::StartSpectrum()
@@ -106,11 +132,37 @@ void WorkbenchServices::StartPreview()
     m_orientation = std::make_unique<LiveOrientation>();
     m_cover = std::make_unique<LiveCover>(m_orientation.get(), m_settings);
     m_levels = std::make_unique<LiveLevels>(m_levelsModel.get());
-    m_preview = std::make_unique<LivePreview>(m_link, m_orientation.get(), m_levels.get());
+    m_frameTee = std::make_unique<FrameTee>(m_link);
+    m_preview = std::make_unique<LivePreview>(m_frameTee.get(), m_orientation.get(), m_levels.get());
     m_pixelReadout = std::make_unique<PixelReadout>(m_preview.get(), m_orientation.get());
     m_frameSize = std::make_unique<LiveFrameSize>();
     m_histogram = std::make_unique<LiveHistogram>();
     m_profiles = std::make_unique<LiveProfiles>();
+}
+
+void WorkbenchServices::StartRecording()
+{
+    m_saveSettings = std::make_unique<SaveSettings>(m_settings);
+    m_frameSaving = std::make_unique<FrameSaving>(RunRegister(RegisterFolder(*m_settings)));
+    RecordingDesk::Parts parts;
+    parts.link = m_link;
+    parts.tee = m_frameTee.get();
+    parts.saving = m_frameSaving.get();
+    parts.settings = m_saveSettings.get();
+    parts.orientation = m_orientation.get();
+    m_recording = std::make_unique<RecordingDesk>(parts);
+}
+
+/// What a program that died has left is finished in the background.
+void WorkbenchServices::RepairRecordings()
+{
+    m_repair.start([this, folder = RegisterFolder(*m_settings)] {
+        const QVector<RepairedRun> runs = RepairRuns(RunRegister(folder));
+        QMetaObject::invokeMethod(this, [this, runs] {
+            for (const RepairedRun &run : runs)
+                emit signalMessage(RepairText(run));
+        }, Qt::QueuedConnection);
+    });
 }
 
 void WorkbenchServices::StartWorkspace()
@@ -138,7 +190,9 @@ void WorkbenchServices::Connect()
     ConnectPictures();
 
     connect(m_link, SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
-    connect(m_preview.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
+    connect(m_preview.get(), SIGNAL(signalCaptureWanted(bool, bool)), m_recording.get(), SLOT(slotCapture(bool, bool)));
+    connect(m_recording.get(), SIGNAL(signalStateChanged()), this, SLOT(slotRecordingStateChanged()));
+    connect(m_recording.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_config.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_workspace.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_pictureDesk.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
@@ -184,6 +238,12 @@ void WorkbenchServices::slotCameraStateChanged()
 void WorkbenchServices::slotPictureSizeChanged(QSize size)
 {
     m_liveReport->SetImageSize(size);
+}
+
+/// What is saved comes before what is shown.
+void WorkbenchServices::slotRecordingStateChanged()
+{
+    m_preview->SetLeastPeriod(m_recording->IsBusy() ? LivePreview::PeriodBesideRecordingMs : 0);
 }
 
 /// `region` counts from the corner of the region that is read out now.

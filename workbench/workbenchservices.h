@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QRect>
 #include <QSize>
+#include <QThreadPool>
 
 #include <memory>
 
@@ -16,6 +17,7 @@ class CentreDisplay;
 class ChannelSynthesis;
 class ConnectedCameras;
 class FrameSaving;
+class FrameTee;
 class LevelsModel;
 class LiveCover;
 class LiveFrameSize;
@@ -37,6 +39,7 @@ class PictureProcessing;
 class PictureShelf;
 class PixelReadout;
 class QSettings;
+class RecordingDesk;
 class RegionOfInterest;
 class SaveSettings;
 class SpectrumPipeline;
@@ -66,6 +69,7 @@ public:
     PictureLoader *Loader() const { return m_pictureLoader.get(); }
     ConnectedCameras *Cameras() const { return m_cameras.get(); }
     RegionOfInterest *Region() const { return m_region.get(); }
+    RecordingDesk *Recording() const { return m_recording.get(); }
     LiveCover *Cover() const { return m_cover.get(); }
 
 signals:
@@ -76,6 +80,7 @@ private slots:
     void slotCameraStateChanged();
     void slotPictureSizeChanged(QSize size);
     void slotRegionWanted(QRect region);
+    void slotRecordingStateChanged();
 
 private:
     void StartMeasuring();
@@ -83,9 +88,11 @@ private:
     void StartSpectrum();
     void StartCamera();
     void StartPreview();
+    void StartRecording();
     void StartWorkspace();
     void Connect();
     void ConnectPictures();
+    void RepairRecordings();
 
     QSettings *m_settings;
     CameraLink *m_link;
@@ -118,14 +125,17 @@ private:
     std::unique_ptr<LiveOrientation> m_orientation;
     std::unique_ptr<LiveCover> m_cover;
     std::unique_ptr<LiveLevels> m_levels;
+    std::unique_ptr<FrameTee> m_frameTee;
     std::unique_ptr<LivePreview> m_preview;
     std::unique_ptr<PixelReadout> m_pixelReadout;
     std::unique_ptr<LiveFrameSize> m_frameSize;
     std::unique_ptr<LiveHistogram> m_histogram;
     std::unique_ptr<LiveProfiles> m_profiles;
+    std::unique_ptr<RecordingDesk> m_recording;
     std::unique_ptr<Workspace> m_workspace;
     /// Only while a camera is open.
     std::unique_ptr<OpenCamera> m_openCamera;
     /// The tab that shows it owns it.
     QPointer<PictureList> m_pictureList;
+    QThreadPool m_repair;
 };

@@ -188,7 +188,7 @@ void CameraLink::SetScene(const QString &name)
 
 void CameraLink::SetPixelLayout(PixelLayout layout)
 {
-    if (!m_session)
+    if (!MayChangeFormat())
         return;
     QString error;
     Report(m_session->SetPixelLayout(layout, &error), error);
@@ -197,7 +197,7 @@ void CameraLink::SetPixelLayout(PixelLayout layout)
 
 void CameraLink::SetRegion(const QRect &region)
 {
-    if (!m_session)
+    if (!MayChangeFormat())
         return;
     QString error;
     Report(m_session->SetRegion(region, &error), error);
@@ -240,6 +240,15 @@ FrameCounts CameraLink::Counts() const
     for (size_t stage = 0; stage < sum.lostAt.size(); ++stage)
         sum.lostAt[stage] += now.lostAt[stage];
     return sum;
+}
+
+bool CameraLink::MayChangeFormat()
+{
+    if (m_session && m_isFormatHeld) {
+        emit signalMessage(tr("The size and format of the frames stay as they are while a recording runs. Stop it first."));
+        emit signalFormatChanged(); // who asked shows what holds
+    }
+    return m_session && !m_isFormatHeld;
 }
 
 bool CameraLink::Report(bool succeeded, const QString &error)

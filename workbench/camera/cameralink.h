@@ -68,6 +68,8 @@ public:
     void SetPixelLayout(PixelLayout layout);
     /// In sensor pixels; the camera takes the nearest region it can.
     void SetRegion(const QRect &region);
+    /// While held, the size and layout of frames stay as they are, and who wants to change them is told so.
+    void HoldFormat(bool held) { m_isFormatHeld = held; }
 
     bool StartFrames(FrameSink *sink) override;
     void StopFrames() override;
@@ -103,6 +105,7 @@ private:
     void Lose();
     void ScheduleTry();
     void SetState(State state);
+    bool MayChangeFormat();
     bool Report(bool succeeded, const QString &error);
     void KeepSettings();
     void GiveSettingsBack();
@@ -120,4 +123,5 @@ private:
     QTimer m_tryTimer;
     QTimer m_watchTimer;
     bool m_isTrying = false;
+    bool m_isFormatHeld = false;
 };

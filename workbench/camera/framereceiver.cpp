@@ -46,6 +46,7 @@ void FrameReceiver::OpenGate(FrameSink *sink)
 {
     std::lock_guard<std::mutex> lock(m_gate);
     m_frameIds.Reset();
+    m_incomplete = 0;
     m_lastFrameMs = SteadyMs();
     m_sink = sink;
 }
@@ -85,10 +86,13 @@ bool FrameReceiver::Deliver(ArvBuffer *buffer)
     m_lastFrameMs = SteadyMs();
     if (!IsComplete(buffer)) {
         m_ledger.AddLost(LossStage::Transfer);
+        ++m_incomplete;
         return false;
     }
     m_ledger.AddCaptured();
-    m_sink->OnFrame(FrameFrom(buffer, step.id));
+    CameraFrame frame = FrameFrom(buffer, step.id);
+    frame.incompleteBefore = std::exchange(m_incomplete, 0);
+    m_sink->OnFrame(frame);
     return true;
 }
 

@@ -49,5 +49,6 @@ private:
     std::mutex m_gate; ///< held during a delivery
     FrameSink *m_sink = nullptr;
     FrameIdUnwrapper m_frameIds;
+    quint64 m_incomplete = 0; ///< since the last frame that was delivered
     std::atomic<qint64> m_lastFrameMs{ 0 }; ///< steady clock
 };

@@ -51,14 +51,12 @@ bool LivePreview::StopPreview()
     return true;
 }
 
-void LivePreview::RestoreStopPreview()
-{
-    StartPreview();
-}
+/// Saving never stops the preview, so there is nothing to bring back; one that the user stopped stays so.
+void LivePreview::RestoreStopPreview() {}
 
-void LivePreview::FrameSave(bool, bool)
+void LivePreview::FrameSave(bool record, bool single)
 {
-    emit signalMessage(tr("Frames can't be saved by this version."));
+    emit signalCaptureWanted(record, single);
 }
 
 const RawCameraFrame *LivePreview::GetCurrentRawFrame() const
@@ -79,7 +77,9 @@ void LivePreview::OnFrame(const CameraFrame &frame)
 
 void LivePreview::run()
 {
+    QElapsedTimer sinceLast;
     while (!isInterruptionRequested() && m_gate.Enter()) {
+        KeepPeriod(&sinceLast);
         CameraFrame frame;
         while (frame.IsNull() && !isInterruptionRequested())
             frame = m_slot.Take(TakeTimeoutMs);
@@ -88,6 +88,13 @@ void LivePreview::run()
         else
             SendPicture(frame);
     }
+}
+
+void LivePreview::KeepPeriod(QElapsedTimer *sinceLast) const
+{
+    if (sinceLast->isValid() && sinceLast->elapsed() < m_leastPeriodMs)
+        msleep(ulong(m_leastPeriodMs - sinceLast->elapsed()));
+    sinceLast->start();
 }
 
 /// Inside the gate; the GUI thread leaves it. The three deliveries stay in this order.

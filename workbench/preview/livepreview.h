@@ -9,8 +9,11 @@
 #include "previewmanager.h"
 #include "rawframebuffers.h"
 
+#include <QElapsedTimer>
 #include <QRect>
 #include <QSize>
+
+#include <atomic>
 
 class FrameSource;
 class LiveLevels;
@@ -25,6 +28,9 @@ class LivePreview : public PreviewManager, public FrameSink
     Q_OBJECT
 
 public:
+    /// 15 pictures a second are enough to see what is recorded.
+    static constexpr int PeriodBesideRecordingMs = 66;
+
     /// All are borrowed and outlive this object.
     LivePreview(FrameSource *source, LiveOrientation *orientation, LiveLevels *levels,
                 QObject *parent = nullptr);
@@ -42,6 +48,8 @@ public:
     quint64 DeliveredCount() const { return m_delivered; }
     /// Frames that were too many for the display.
     quint64 SkippedCount() const { return m_slot.SkippedCount(); }
+    /// Pictures come no faster than that, so that other work finds the processor free; 0 sets no limit.
+    void SetLeastPeriod(int milliseconds) { m_leastPeriodMs = milliseconds; }
     /// Forgets the frame and its size: the camera was closed.
     void Forget();
 
@@ -55,10 +63,10 @@ signals:
     void signalPictureDelivered();
     /// The size of the picture as it is shown has changed; comes before the picture itself.
     void signalPictureSizeChanged(QSize size);
+    /// A capture is to begin, or the one that runs to end.
+    void signalCaptureWanted(bool record, bool single);
     /// A region to be read out of the camera, in pixels of the frame.
     void signalRegionWanted(QRect region);
-    /// A sentence for the status bar.
-    void signalMessage(QString text);
 
 protected:
     void run() override;
@@ -70,6 +78,7 @@ private slots:
 
 private:
     void SendPicture(const CameraFrame &frame);
+    void KeepPeriod(QElapsedTimer *sinceLast) const;
 
     FrameSource *m_source;
     LiveOrientation *m_orientation;
@@ -84,4 +93,5 @@ private:
     CameraFrame m_shownFrame;
     QSize m_shownSize;
     quint64 m_delivered = 0;
+    std::atomic<int> m_leastPeriodMs{0};
 };

@@ -1,18 +1,139 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "capturequeue.h"
 #include "framesavemanager.h"
+#include "framesink.h"
+#include "orientation.h"
+#include "runcounter.h"
+#include "runregister.h"
+#include "runschedule.h"
+#include "runwriter.h"
 
-/// Saving of captured frames. Nothing is saved yet, so the thread never runs. GUI thread.
-class FrameSaving : public FrameSaveManager
+#include <QStringList>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+
+/// What a run begins with.
+struct RunOrder
+{
+    RecordingSettings settings;
+    RunFacts facts; ///< the size as the camera sends it
+    Orientation orientation; ///< frames are saved as they are seen
+    QString camera; ///< for the name
+    QString path;   ///< empty: the next free name of the pattern
+    qint64 ramBytes = -1; ///< for frames kept in memory; -1 sets no limit
+    bool isRecord = false;
+};
+
+/// What a run has come to, for the user.
+struct RunReceipt
+{
+    QStringList files; ///< the summary last; empty when nothing was saved
+    RunFacts facts;
+    RunOutcome outcome;
+    QVector<FrameStamp> stamps;
+    QString error; ///< in words, when something went wrong
+
+    bool IsWhole() const { return error.isEmpty() && outcome.counts.Lost() == 0; }
+    /// A line each, as the command line prints them.
+    QString Text() const;
+};
+
+/// A run: waits for its delay, takes the frames of its schedule out of the camera's thread through a bounded queue, and
+/// saves them in a thread of its own, which runs just as long. Start, stop and questions belong to the GUI thread;
+/// frames come in the camera's thread and never wait.
+class FrameSaving : public FrameSaveManager, public FrameSink
 {
     Q_OBJECT
 
 public:
-    explicit FrameSaving(QObject *parent = nullptr);
+    using WriterMaker = std::function<std::unique_ptr<RunWriter>(RunFormat format, const QString &path)>;
 
-    bool IsAutoStop() const override;
-    bool IsTotalFrameChecked() const override;
+    explicit FrameSaving(const RunRegister &runs, WriterMaker maker = CreateRunWriter, QObject *parent = nullptr);
+    ~FrameSaving() override;
+
+    /// False while a run is going on.
+    bool StartRun(const RunOrder &order);
+    /// From StartRun() until the receipt was delivered.
+    bool IsBusy() const { return m_isBusy; }
+    /// The run ends with what was captured until now; twice does no harm.
+    void StopRun(RunEnd end = RunEnd::Stopped, const QString &reason = QString());
+    /// The run ends and leaves nothing.
+    void DiscardRun();
+
+    /// Frames that wait for the disk, and the memory they take and may take.
+    const CaptureQueue &Queue() const { return m_queue; }
+    FrameCounts Counts() const { return m_counter.Counts(); }
+    /// Of the run, or the last one.
+    const RunOrder &Order() const { return m_order; }
+
+    bool IsAutoStop() const override { return m_order.settings.EndsByItself(); }
+    bool IsTotalFrameChecked() const override { return m_order.settings.EndsByFrames(); }
     int GetProgressBarMaxValue() const override;
-    bool IsRecordMode() const override;
+    bool IsRecordMode() const override { return m_order.isRecord; }
+
+    void OnFrame(const CameraFrame &frame) override;
+
+signals:
+    /// The thread has ended; delivered in the GUI thread after signalSaveThreadRunningChanged(false).
+    void signalRunEnded(RunReceipt receipt);
+
+protected:
+    void run() override;
+
+private slots:
+    void slotFinished();
+
+private:
+    class Pace;
+
+    void Reset(const RunOrder &order);
+    QString ChoosePath() const;
+    bool Begin();
+    bool WaitForDelay();
+    void OpenGate();
+    void CloseGate();
+    void TakeFrames();
+    void Keep(const CameraFrame &frame);
+    void KeepInRam(const CameraFrame &frame);
+    bool WriteFrame(const CameraFrame &frame);
+    void Convert();
+    void Finish();
+    void Discard();
+    void Fail(const QString &error);
+    void AnnounceTime();
+    CameraFrame AsSeen(const CameraFrame &frame) const;
+    RunEnd End(QString *reason) const;
+    bool IsDiscarded() const;
+
+    const RunRegister m_register;
+    const WriterMaker m_maker;
+    bool m_isBusy = false; ///< the GUI thread's
+
+    // The thread's, and the GUI thread's while it does not run.
+    RunOrder m_order;
+    std::unique_ptr<RunWriter> m_writer;
+    QString m_entry;
+    std::vector<CameraFrame> m_inRam;
+    qint64 m_ramBytes = 0;
+    RunReceipt m_receipt;
+    std::unique_ptr<Pace> m_pace;
+
+    CaptureQueue m_queue;
+    RunCounter m_counter;
+
+    mutable std::mutex m_mutex;
+    std::condition_variable m_changed;
+    bool m_isStopped = false;
+    bool m_isDiscarded = false;
+    RunEnd m_end = RunEnd::Complete;
+    QString m_reason;
+    bool m_takesFrames = false;
+    RunSchedule m_schedule; ///< from the gate's opening on
+    qint64 m_startMs = 0;
 };
+
+Q_DECLARE_METATYPE(RunReceipt)

@@ -5,9 +5,21 @@
 #include "frameledger.h"
 
 #include <QDateTime>
+#include <QJsonObject>
+#include <QMetaType>
 #include <QRect>
 #include <QSize>
 #include <QString>
+#include <QVector>
+
+#include <utility>
+
+enum class RunFormat
+{
+    Tiff,
+    Fits,
+    Png
+};
 
 /// What a recording is taken with; known before its first frame and written into its file.
 struct RunFacts
@@ -17,16 +29,37 @@ struct RunFacts
     QString serial;
     QString firmware;
     double exposureUs = 0;
-    double gain = 0;          ///< in the camera's unit
+    double gain = 0; ///< in the camera's unit
     double framesPerSecond = 0;
-    QRect region;             ///< of the sensor, in unbinned pixels
-    QSize binning{ 1, 1 };
-    QSize frameSize;          ///< of every frame of the run
+    QRect region; ///< of the sensor, in unbinned pixels
+    QSize binning{1, 1};
+    QSize frameSize; ///< of every frame of the run
     PixelLayout layout = PixelLayout::Mono8;
-    int bitDepth = 8;         ///< bits of a sample that carry light
-    double pixelSizeUm = 0;   ///< in the object; 0 when not calibrated
+    double pixelSizeUm = 0; ///< of a frame's pixel, in the object; 0 when not calibrated
     QDateTime start;
-    QString software;         ///< name and version of the program
+    QString software; ///< name and version of the program
+
+    /// Of one frame without padding.
+    qint64 FrameBytes() const { return qint64(frameSize.width()) * frameSize.height() * BytesPerPixel(layout); }
+    int Channels() const { return layout == PixelLayout::Rgb8 ? 3 : 1; }
+    int BitsPerSample() const { return ::BitDepth(layout) > 8 ? 16 : 8; }
+    /// Bits of a sample that carry light.
+    int BitDepth() const { return ::BitDepth(layout); }
+    /// For people: what it is, and its value with the unit.
+    QVector<std::pair<QString, QString>> Lines() const;
+
+    QJsonObject ToJson() const;
+    /// False when the size or the layout makes no sense.
+    static bool FromJson(const QJsonObject &json, RunFacts *facts);
+};
+
+/// What is known of one frame of a recording.
+struct FrameStamp
+{
+    quint64 frameId = 0;
+    qint64 cameraTimeNs = 0; ///< by the camera's clock
+    qint64 hostTimeNs = 0;   ///< since 1970
+    quint64 checksum = 0;    ///< of the frame's samples, see RunChecksum
 };
 
 /// The reason for which a run ended.
@@ -35,7 +68,7 @@ enum class RunEnd
     Complete, ///< all that was asked for
     Stopped,  ///< by the user
     CameraLost,
-    DiskFault,
+    Fault,   ///< a frame could not be kept
     Repaired ///< left behind by a program that died; found and closed later
 };
 
@@ -45,5 +78,9 @@ struct RunOutcome
     RunEnd end = RunEnd::Complete;
     QString reason;     ///< in words, empty when complete
     FrameCounts counts; ///< of this run alone
-    double seconds = 0; ///< from the first frame to the last one
+    QVector<quint64> lostIds; ///< of frames that arrived and could not be kept; the first ones, if many
+
+    QString EndText() const;
 };
+
+Q_DECLARE_METATYPE(RunFormat)

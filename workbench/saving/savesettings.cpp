@@ -6,9 +6,18 @@ constexpr int MsPerSecond = 1000;
 constexpr int SecondsPerMinute = 60;
 }
 
-SaveSettings::SaveSettings(QObject *parent)
+SaveSettings::SaveSettings(QSettings *settings, QObject *parent)
     : FileSaveManager(parent)
+    , m_settings(settings)
+    , m_recording(RecordingSettings::Read(settings))
 {
+}
+
+void SaveSettings::Set(const RecordingSettings &recording)
+{
+    m_recording = recording.Valid();
+    m_recording.Write(m_settings);
+    emit signalChanged();
 }
 
 int SaveSettings::GetTimeInMs(const TIME_MIN_S_MS &time) const
@@ -18,10 +27,17 @@ int SaveSettings::GetTimeInMs(const TIME_MIN_S_MS &time) const
 
 TIME_MIN_S_MS SaveSettings::GetConfiguredTime() const
 {
-    return TIME_MIN_S_MS();
+    return Current().delay;
 }
 
 bool SaveSettings::IsSaveToRAM() const
 {
-    return false;
+    return Current().toRam;
+}
+
+void SaveSettings::SetRun(const RecordingSettings *run)
+{
+    m_hasRun = run != nullptr;
+    if (run)
+        m_run = *run;
 }

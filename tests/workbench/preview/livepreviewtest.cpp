@@ -246,16 +246,50 @@ private slots:
         preview.StopPreview();
     }
 
-    void captureSaysThatNothingIsSaved()
+    void captureIsAskedFor()
     {
         TestFrameSource source;
         LiveOrientation orientation;
         TestLevels levels;
         LivePreview preview(&source, &orientation, &levels.live);
-        QSignalSpy messages(&preview, SIGNAL(signalMessage(QString)));
-        preview.FrameSave(false, false);
-        QCOMPARE(messages.count(), 1);
-        QCOMPARE(messages.at(0).at(0).toString(), QString("Frames can't be saved by this version."));
+        QSignalSpy captures(&preview, SIGNAL(signalCaptureWanted(bool, bool)));
+        preview.FrameSave(false, true);
+        QCOMPARE(captures.count(), 1);
+        QCOMPARE(captures.at(0), QList<QVariant>({false, true}));
+    }
+
+    void picturesKeepTheirDistance()
+    {
+        TestFrameSource source;
+        LiveOrientation orientation;
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
+        preview.SetLeastPeriod(100);
+        QVERIFY(preview.StartPreview());
+        QSignalSpy delivered(&preview, SIGNAL(signalPictureDelivered()));
+        QElapsedTimer timer;
+        timer.start();
+        while (delivered.count() < 4) {
+            preview.OnFrame(TestFrames::Make(20, 10, PixelLayout::Mono8, delivered.count()));
+            QCoreApplication::processEvents();
+        }
+        QVERIFY(timer.elapsed() >= 300); // three distances between four pictures
+        preview.StopPreview();
+    }
+
+    /// A run that ends does not start a preview that the user had stopped.
+    void aStoppedPreviewStaysStoppedAfterARun()
+    {
+        TestFrameSource source;
+        LiveOrientation orientation;
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
+        preview.RestoreStopPreview();
+        QVERIFY(!preview.isRunning());
+        QVERIFY(preview.StartPreview());
+        preview.RestoreStopPreview();
+        QVERIFY(preview.isRunning());
+        preview.StopPreview();
     }
 
 private:

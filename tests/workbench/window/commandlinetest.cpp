@@ -43,6 +43,30 @@ private slots:
         QCOMPARE(line.frames, 0);
     }
 
+    void recordingsAreToldTheirFormat_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<int>("format");
+        QTest::newRow("tif") << QStringList{"--record", "a.tif"} << int(RunFormat::Tiff);
+        QTest::newRow("TIFF") << QStringList{"--record", "a.TIFF"} << int(RunFormat::Tiff);
+        QTest::newRow("fits") << QStringList{"--record", "a.fits"} << int(RunFormat::Fits);
+        QTest::newRow("fit") << QStringList{"--record", "a.fit"} << int(RunFormat::Fits);
+        QTest::newRow("png") << QStringList{"--record", "a.png"} << int(RunFormat::Png);
+        QTest::newRow("the option wins") << QStringList{"--record", "a.tif", "--format", "fits"} << int(RunFormat::Fits);
+    }
+
+    void recordingsAreToldTheirFormat()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(int, format);
+        const CommandLine line = CommandLine::Parse(QStringList{"workbench"} + options + QStringList{"--seconds", "7"});
+        QCOMPARE(line.action, CommandLine::Action::Run);
+        QCOMPARE(line.record, options.at(1));
+        QCOMPARE(line.seconds, 7);
+        QCOMPARE(line.frames, 0);
+        QCOMPARE(int(line.format), format);
+    }
+
     void mistakesAreSaidInOneLine_data()
     {
         QTest::addColumn<QStringList>("options");
@@ -63,6 +87,19 @@ private slots:
         QTest::newRow("screenshot: empty") << QStringList{"--screenshot", ""}
                                            << "workbench: --screenshot needs the name of a file.";
         QTest::newRow("unknown option") << QStringList{"--fast"} << "workbench: Unknown option 'fast'. Try --help.";
+        QTest::newRow("record: empty") << QStringList{"--record", ""} << "workbench: --record needs the name of a file.";
+        QTest::newRow("record: no end") << QStringList{"--record", "a.tif"}
+                                        << "workbench: --record needs --frames N or --seconds S.";
+        QTest::newRow("record: unknown ending") << QStringList{"--record", "a.avi", "--frames", "3"}
+                                                << "workbench: no format is called \"avi\". Choose one of: tif, fits, png";
+        QTest::newRow("record: unknown format") << QStringList{"--record", "a.tif", "--frames", "3", "--format", "avi"}
+                                                << "workbench: no format is called \"avi\". Choose one of: tif, fits, png";
+        QTest::newRow("record and a window") << QStringList{"--record", "a.tif", "--frames", "3", "--screenshot", "b.png"}
+                                             << "workbench: --record shows no window. Leave out --screenshot and other files.";
+        QTest::newRow("seconds: word") << QStringList{"--record", "a.tif", "--seconds", "long"}
+                                       << "workbench: --seconds needs a whole number of 1 or more, not \"long\".";
+        QTest::newRow("seconds without record") << QStringList{"--seconds", "3"} << "workbench: --seconds goes with --record.";
+        QTest::newRow("format without record") << QStringList{"--format", "tif"} << "workbench: --format goes with --record.";
         QTest::newRow("frames of a file") << QStringList{"--frames", "3", "picture.tif"}
                                           << "workbench: --frames counts live pictures. Leave out either it or the files.";
     }

@@ -45,6 +45,20 @@ private slots:
         }
     }
 
+    void recordsWithoutHandsOrDisplay()
+    {
+        const QString path = m_folder.filePath("hands.tif");
+        const Outcome outcome = Run({"--record", path, "--frames", "8"}, {"DISPLAY=", "QT_QPA_PLATFORM="});
+        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
+        QVERIFY2(outcome.output.contains("Run: complete\nFrames captured: 8\nFrames saved: 8\nFrames lost: 0\nFrame ids missing: none\n"),
+                 qPrintable(outcome.output));
+        QVERIFY(QFile::exists(path) && QFile::exists(m_folder.filePath("hands.txt")));
+
+        const Outcome again = Run({"--record", path, "--frames", "8"}, {"DISPLAY=", "QT_QPA_PLATFORM="});
+        QCOMPARE(again.exitCode, 1);
+        QVERIFY2(again.errors.contains("hands.tif") && again.errors.contains("is there already"), qPrintable(again.errors));
+    }
+
     void framesAreShownMeasuredAndPictured()
     {
         const QString pictureName = m_folder.filePath("window.png");

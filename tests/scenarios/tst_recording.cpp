@@ -1,0 +1,257 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "camerasession.h"
+#include "framesaving.h"
+#include "guardedtest.h"
+#include "livepreview.h"
+#include "openpicture.h"
+#include "recordingdesk.h"
+#include "runningworkbench.h"
+#include "savesettings.h"
+#include "shownframes.h"
+#include "testchartscene.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QLabel>
+#include <QMessageBox>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <memory>
+
+namespace {
+constexpr int MsToWait = 60000;
+constexpr QRect SmallRegion(512, 512, 256, 128);
+}
+
+/// A person records what the camera delivers.
+class Recording : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        // The OpenGL driver starts threads with its first context and keeps them.
+        QOffscreenSurface surface;
+        surface.create();
+        QOpenGLContext context;
+        QVERIFY(context.create() && context.makeCurrent(&surface));
+    }
+
+    void init() override
+    {
+        StartGuard();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
+        QVERIFY(m_workbench->WaitForPicture());
+        m_workbench->link.SetRegion(SmallRegion);
+        QVERIFY(m_workbench->WaitForNextPicture());
+        m_settings = RecordingSettings();
+        m_settings.folder = m_folder->path();
+        m_settings.pattern = "run{number}";
+        m_settings.frames = 20;
+        m_ended = std::make_unique<QSignalSpy>(Desk(), SIGNAL(signalRunEnded(RunReceipt)));
+    }
+
+    void cleanup() override
+    {
+        m_ended.reset();
+        m_workbench.reset();
+        QVERIFY(CameraSession::WaitForTeardown(5000));
+        m_folder.reset();
+        EndGuard();
+    }
+
+    void theCaptureButtonRecordsAndThePanelFollows()
+    {
+        Apply();
+        auto *panel = m_workbench->window.findChild<QWidget *>("AcquireProgressUI");
+        auto *frames = panel->findChild<QLabel *>("labelFrames");
+        QVERIFY(!panel->isVisible());
+        QTest::mouseClick(Button("pushButtonCapture"), Qt::LeftButton);
+        QTRY_VERIFY_WITH_TIMEOUT(panel->isVisible(), MsToWait);
+        QVERIFY2(frames->text().startsWith("To Disk : ") && frames->text().endsWith(" / 20"), qPrintable(frames->text()));
+        QTRY_VERIFY(Button("pushButtonCaptureChecked"));
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(frames->text(), QString("To Disk : 20 / 20"));
+        QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
+        QTRY_VERIFY_WITH_TIMEOUT(!panel->isVisible(), MsToWait);
+        QVERIFY(Button("pushButtonCapture"));
+        CompareWithTheScene(receipt, 20);
+        QVERIFY2(m_workbench->StatusText().contains("20 frames saved as run1.tif, none lost."), qPrintable(m_workbench->StatusText()));
+        QVERIFY(m_workbench->services.Preview()->isRunning());
+    }
+
+    void f10RecordsIntoMemoryAndConverts()
+    {
+        m_settings.toRam = true;
+        Apply();
+        auto *frames = m_workbench->window.findChild<QLabel *>("labelFrames");
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(frames->text(), QString("Converting to TIF : 20 / 20"));
+        CompareWithTheScene(receipt, 20);
+    }
+
+    void anInvisiblePreviewRecordsAllTheSame()
+    {
+        Apply();
+        m_workbench->services.Preview()->StopPreview();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        CompareWithTheScene(Receipt(), 20);
+        QVERIFY(!m_workbench->services.Preview()->isRunning()); // as the user left it
+    }
+
+    void aTimeLapseKeepsOneFrameAnInterval()
+    {
+        m_settings.frames = 4;
+        m_settings.intervalMs = 200;
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
+        QCOMPARE(receipt.stamps.size(), 4);
+        QVERIFY(receipt.stamps.last().hostTimeNs - receipt.stamps.first().hostTimeNs > 300000000); // the third of three intervals began
+        CompareWithTheScene(receipt, 4);
+    }
+
+    void theDelayIsShown()
+    {
+        m_settings.delay.seconds = 1;
+        Apply();
+        auto *time = m_workbench->window.findChild<QLabel *>("labelTime");
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_COMPARE_WITH_TIMEOUT(time->text(), QString("Delaying : 00 : 00 / 00 : 01"), MsToWait);
+        CompareWithTheScene(Receipt(), 20);
+    }
+
+    void theSizeOfFramesStaysWhileARunGoesOn()
+    {
+        m_settings.mode = RecordingSettings::Mode::UntilStopped;
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 3, MsToWait);
+        m_workbench->link.SetRegion(QRect(0, 0, 64, 64));
+        QVERIFY2(m_workbench->StatusText().contains("while a recording runs"), qPrintable(m_workbench->StatusText()));
+        QCOMPARE(m_workbench->link.Session()->Format().Region(), SmallRegion);
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.outcome.end, RunEnd::Stopped);
+        QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
+        CompareWithTheScene(receipt, receipt.stamps.size());
+        m_workbench->link.SetRegion(QRect(0, 0, 64, 64)); // allowed again
+        QCOMPARE(m_workbench->link.Session()->Format().Region(), QRect(0, 0, 64, 64));
+    }
+
+    void closingTheProgramAsks_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("closes");
+        QTest::addColumn<int>("files");
+        QTest::newRow("finish") << "Finish It" << true << 1;
+        QTest::newRow("discard") << "Discard It" << true << 0;
+        QTest::newRow("go on") << "Go On Recording" << false << 1;
+    }
+
+    void closingTheProgramAsks()
+    {
+        QFETCH(QString, answer);
+        QFETCH(bool, closes);
+        QFETCH(int, files);
+        m_settings.mode = RecordingSettings::Mode::UntilStopped;
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 3, MsToWait);
+        Answer(answer);
+        m_workbench->window.close();
+        if (!closes) {
+            QVERIFY(m_workbench->window.isVisible() && Desk()->IsBusy());
+            Desk()->slotStop();
+        }
+        Receipt();
+        QTRY_COMPARE_WITH_TIMEOUT(m_workbench->window.isVisible(), !closes, MsToWait);
+        QCOMPARE(QDir(m_folder->path()).entryList({"run*.tif"}).size(), files);
+    }
+
+    void aLostCameraLeavesWhatWasRecorded()
+    {
+        m_settings.mode = RecordingSettings::Mode::UntilStopped;
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 3, MsToWait);
+        emit m_workbench->link.Session()->signalControlLost();
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.outcome.end, RunEnd::CameraLost);
+        CompareWithTheScene(receipt, receipt.stamps.size());
+        QTRY_VERIFY_WITH_TIMEOUT(m_workbench->link.GetState() == CameraLink::State::Open, MsToWait);
+        QCOMPARE(m_workbench->link.Session()->Format().Region(), SmallRegion);
+    }
+
+private:
+    RecordingDesk *Desk() const { return m_workbench->services.Recording(); }
+    void Apply() { Desk()->Settings()->Set(m_settings); }
+    QPushButton *Button(const char *name) const { return m_workbench->window.findChild<QPushButton *>(name); }
+
+    RunReceipt Receipt()
+    {
+        if (m_ended->isEmpty() && !m_ended->wait(MsToWait))
+            qFatal("the run did not end");
+        return m_ended->takeFirst().at(0).value<RunReceipt>();
+    }
+
+    /// Presses that button of the question as soon as it is there.
+    void Answer(const QString &text)
+    {
+        auto *timer = new QTimer(&m_workbench->window);
+        connect(timer, &QTimer::timeout, this, [timer, text] {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            timer->stop();
+            timer->deleteLater();
+            for (QAbstractButton *button : box->buttons()) {
+                if (button->text().remove('&') == text)
+                    button->click();
+            }
+        });
+        timer->start(20);
+    }
+
+    /// The chart stands still: every frame shows it.
+    void CompareWithTheScene(const RunReceipt &receipt, int frames)
+    {
+        QVERIFY2(!receipt.files.isEmpty(), qPrintable(receipt.Text()));
+        QString error;
+        const auto file = OpenPicture(receipt.files.first(), error);
+        QVERIFY2(file, qPrintable(error));
+        QCOMPARE(file->Info().frames, frames);
+        QVERIFY(frames > 0);
+        for (const int index : {0, frames - 1}) {
+            Picture picture;
+            QVERIFY2(file->ReadFrame(index, picture, error), qPrintable(error));
+            QCOMPARE(picture.Size(), SmallRegion.size());
+            const Picture &seen = picture;
+            for (int y = 0; y < SmallRegion.height(); ++y) {
+                for (int x = 0; x < SmallRegion.width(); ++x) {
+                    const QPoint place = SmallRegion.topLeft() + QPoint(x, y);
+                    QCOMPARE(int(seen.Row(y)[x]), TestChartScene::ExpectedValue(place.x(), place.y(), 2048, 2048, 8));
+                }
+            }
+        }
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<RunningWorkbench> m_workbench;
+    std::unique_ptr<QSignalSpy> m_ended;
+    RecordingSettings m_settings;
+};
+
+GUARDED_TEST_MAIN(Recording)
+#include "tst_recording.moc"

@@ -1,0 +1,396 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "framesaving.h"
+#include "guardedtest.h"
+#include "openpicture.h"
+#include "runchecksum.h"
+#include "runsample.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSemaphore>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <cstring>
+#include <thread>
+
+namespace {
+
+constexpr QSize Size(32, 16);
+constexpr int FrameBytes = 32 * 16;
+constexpr int MsToWait = 20000;
+
+/// A disk that writes a frame only when the test lets it, and may fail.
+class SlowDisk : public RunWriter
+{
+public:
+    SlowDisk(const QString &path, QSemaphore *permits, int failsAt)
+        : RunWriter(path, RunFormat::Tiff)
+        , m_permits(permits)
+        , m_failsAt(failsAt)
+    {
+    }
+
+protected:
+    bool CreateData(FileFault &) override { return true; }
+    bool ReopenData(int *, FileFault &) override { return true; }
+    bool AppendFrame(const uchar *, const FrameStamp &, FileFault &fault) override
+    {
+        m_permits->acquire();
+        return FramesWritten() != m_failsAt || fault.Set("the disk is full", "Free some space.");
+    }
+    bool CutTo(int, FileFault &) override { return true; }
+    bool Complete(const RunOutcome &, FileFault &) override { return true; }
+    bool Place(FileFault &) override { return true; }
+    void RemoveData() override {}
+
+private:
+    QSemaphore *m_permits;
+    const int m_failsAt;
+};
+
+} // namespace
+
+/// A run from its order to its receipt. Frames come from a thread of the test's.
+class FrameSavingTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() override
+    {
+        StartGuard();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_order = RunOrder();
+        m_order.facts = RunSample::Facts(Size, PixelLayout::Mono8);
+        m_order.path = m_folder->filePath("run.tif");
+        m_order.settings.mode = RecordingSettings::Mode::Count;
+        m_order.settings.frames = 5;
+        Make(CreateRunWriter);
+    }
+
+    void cleanup() override
+    {
+        m_ended.reset();
+        m_saving.reset();
+        m_folder.reset();
+        EndGuard();
+    }
+
+    void savesTheNumberOfFramesAskedFor()
+    {
+        QSignalSpy running(m_saving.get(), SIGNAL(signalSaveThreadRunningChanged(bool)));
+        QSignalSpy saved(m_saving.get(), SIGNAL(signalUpdateSaveNumber(int)));
+        QSignalSpy time(m_saving.get(), SIGNAL(signalUpdateTotalTime(int)));
+        QVERIFY(m_saving->StartRun(m_order));
+        QCOMPARE(running.count(), 1);
+        QVERIFY(m_saving->IsAutoStop() && m_saving->IsTotalFrameChecked());
+        QCOMPARE(m_saving->GetProgressBarMaxValue(), 5);
+        SendUntilEnded();
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.error, QString());
+        QVERIFY(receipt.IsWhole());
+        QCOMPARE(receipt.outcome.counts.captured, quint64(5));
+        QCOMPARE(receipt.outcome.counts.saved, quint64(5));
+        CompareFile(receipt, 0, 5);
+        QCOMPARE(running.count(), 2);
+        QCOMPARE(running.at(1).at(0).toBool(), false);
+        QCOMPARE(saved.last().at(0).toInt(), 5);
+        QCOMPARE(time.last().at(0).toInt(), -1);
+        QVERIFY(!m_saving->isRunning());
+    }
+
+    void savesUntilItIsStopped()
+    {
+        m_order.settings.mode = RecordingSettings::Mode::UntilStopped;
+        QVERIFY(m_saving->StartRun(m_order));
+        QVERIFY(!m_saving->IsAutoStop());
+        SendWhenTaken(7);
+        m_saving->StopRun();
+        m_saving->StopRun(); // twice
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.outcome.end, RunEnd::Stopped);
+        QCOMPARE(receipt.outcome.counts.saved, quint64(7));
+        CompareFile(receipt, 0, 7);
+    }
+
+    void keepsFramesInMemoryAndThenConvertsThem()
+    {
+        m_order.settings.toRam = true;
+        QSignalSpy ram(m_saving.get(), SIGNAL(signalUpdateRAMSaveFrames(int)));
+        QSignalSpy total(m_saving.get(), SIGNAL(signalSetTotalSaveNumber(int)));
+        QSignalSpy converted(m_saving.get(), SIGNAL(signalUpdateSenExtractNumber(int)));
+        QVERIFY(m_saving->StartRun(m_order));
+        SendUntilEnded();
+        const RunReceipt receipt = Receipt();
+        CompareFile(receipt, 0, 5);
+        QCOMPARE(ram.last().at(0).toInt(), 5);
+        QCOMPARE(total.count(), 1);
+        QCOMPARE(total.at(0).at(0).toInt(), 5);
+        QCOMPARE(converted.last().at(0).toInt(), 5);
+    }
+
+    void aFullMemoryEndsTheRunAndKeepsWhatItHas()
+    {
+        m_order.settings.toRam = true;
+        m_order.ramBytes = 3 * FrameBytes;
+        QVERIFY(m_saving->StartRun(m_order));
+        SendUntilEnded();
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.outcome.end, RunEnd::Fault);
+        QCOMPARE(receipt.outcome.reason, QString("the memory is full"));
+        QVERIFY(receipt.outcome.counts.LostAt(LossStage::SaveQueue) >= 1);
+        CompareFile(receipt, 0, 3);
+    }
+
+    void waitsForItsDelay()
+    {
+        m_order.settings.delay.milliseconds = 300;
+        QSignalSpy delay(m_saving.get(), SIGNAL(signalUpdateDelayTime(int)));
+        QVERIFY(m_saving->StartRun(m_order));
+        QVERIFY(!m_saving->StartRun(m_order)); // start pressed during the delay
+        m_saving->OnFrame(RunSample::Frame(Size, PixelLayout::Mono8, 50)); // comes too early
+        QTRY_VERIFY_WITH_TIMEOUT(!delay.isEmpty() && delay.last().at(0).toInt() == -1, MsToWait);
+        QCOMPARE(delay.first().at(0).toInt(), 0);
+        SendUntilEnded();
+        CompareFile(Receipt(), 0, 5);
+    }
+
+    void stoppedDuringTheDelayItLeavesNothing()
+    {
+        m_order.settings.delay.minutes = 5;
+        QSignalSpy delay(m_saving.get(), SIGNAL(signalUpdateDelayTime(int)));
+        QVERIFY(m_saving->StartRun(m_order));
+        QVERIFY(delay.wait(MsToWait));
+        m_saving->StopRun();
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.files, QStringList());
+        QCOMPARE(receipt.error, QString());
+        QCOMPARE(FilesLeft(), QStringList());
+    }
+
+    void discardedItLeavesNothing_data()
+    {
+        QTest::addColumn<bool>("toRam");
+        QTest::newRow("disk") << false;
+        QTest::newRow("memory") << true;
+    }
+
+    void discardedItLeavesNothing()
+    {
+        QFETCH(bool, toRam);
+        m_order.settings.mode = RecordingSettings::Mode::UntilStopped;
+        m_order.settings.toRam = toRam;
+        QVERIFY(m_saving->StartRun(m_order));
+        SendWhenTaken(3);
+        m_saving->DiscardRun();
+        QCOMPARE(Receipt().files, QStringList());
+        QCOMPARE(FilesLeft(), QStringList());
+    }
+
+    void aSlowDiskLosesFramesAndSaysWhich()
+    {
+        QSemaphore permits;
+        Make([&](RunFormat, const QString &path) { return std::make_unique<SlowDisk>(path, &permits, -1); });
+        const QSize large(2048, 1024); // 2 MiB; 16 MB hold eight of them
+        m_order.facts = RunSample::Facts(large, PixelLayout::Mono8);
+        m_order.settings.mode = RecordingSettings::Mode::UntilStopped;
+        m_order.settings.queueMB = RecordingSettings::LeastQueueMB;
+        QVERIFY(m_saving->StartRun(m_order));
+        const CameraFrame first = RunSample::Frame(large, PixelLayout::Mono8, 0);
+        QVERIFY(SendUntilTaken(first));
+        QTRY_COMPARE_WITH_TIMEOUT(m_saving->Queue().Count(), 0, MsToWait); // the writer has it and waits for the disk
+        for (int i = 1; i <= 11; ++i) {
+            CameraFrame frame = first;
+            frame.frameId += quint64(i);
+            m_saving->OnFrame(frame);
+        }
+        QCOMPARE(m_saving->Counts().LostAt(LossStage::SaveQueue), quint64(3));
+        permits.release(100);
+        m_saving->StopRun();
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.outcome.counts.captured, quint64(12));
+        QCOMPARE(receipt.outcome.counts.saved, quint64(9));
+        QCOMPARE(receipt.outcome.lostIds, (QVector<quint64>{109, 110, 111}));
+        QVERIFY(!receipt.IsWhole());
+        QVERIFY2(receipt.Text().contains("Frames lost: 3 (3 the disk was too slow and the queue full)"), qPrintable(receipt.Text()));
+    }
+
+    void aFullDiskEndsTheRunWithTheFramesBefore()
+    {
+        QSemaphore permits(100);
+        Make([&](RunFormat, const QString &path) { return std::make_unique<SlowDisk>(path, &permits, 2); });
+        QVERIFY(m_saving->StartRun(m_order));
+        SendUntilEnded();
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.error.contains("the disk is full"), qPrintable(receipt.error));
+        QCOMPARE(receipt.outcome.end, RunEnd::Fault);
+        QCOMPARE(receipt.outcome.counts.saved, quint64(2));
+        QCOMPARE(receipt.outcome.counts.saved + receipt.outcome.counts.LostAt(LossStage::Disk), receipt.outcome.counts.captured);
+        QVERIFY(receipt.outcome.counts.LostAt(LossStage::Disk) >= 1);
+    }
+
+    void aFolderThatIsNotThereIsSaidAtOnce()
+    {
+        m_order.path = m_folder->filePath("nowhere/run.tif");
+        QVERIFY(m_saving->StartRun(m_order));
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.error.contains("does not exist"), qPrintable(receipt.error));
+        QVERIFY(!m_saving->IsBusy());
+    }
+
+    void countsWhatTheCameraLost()
+    {
+        m_order.settings.frames = 4;
+        QVERIFY(m_saving->StartRun(m_order));
+        SendWhenTaken(1);
+        CameraFrame frame = RunSample::Frame(Size, PixelLayout::Mono8, 4); // 101 to 103 are missing, two of them came in part
+        frame.incompleteBefore = 2;
+        m_saving->OnFrame(frame);
+        m_saving->OnFrame(RunSample::Frame(Size, PixelLayout::Mono8, 5));
+        m_saving->OnFrame(RunSample::Frame(Size, PixelLayout::Mono8, 7));
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.outcome.counts.saved, quint64(4));
+        QCOMPARE(receipt.outcome.counts.LostAt(LossStage::Transfer), quint64(2));
+        QCOMPARE(receipt.outcome.counts.LostAt(LossStage::Camera), quint64(2));
+        QVERIFY2(receipt.Text().contains("Frame ids missing: 101-103, 106"), qPrintable(receipt.Text()));
+    }
+
+    void aLostCameraLeavesAReadableFile()
+    {
+        m_order.settings.frames = 100;
+        QVERIFY(m_saving->StartRun(m_order));
+        SendWhenTaken(3);
+        m_saving->StopRun(RunEnd::CameraLost, "C-1 does not answer");
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.outcome.end, RunEnd::CameraLost);
+        QVERIFY2(receipt.Text().contains("the camera was lost (C-1 does not answer)"), qPrintable(receipt.Text()));
+        CompareFile(receipt, 0, 3);
+    }
+
+    void noFrameAtAllIsSaid()
+    {
+        m_order.settings.mode = RecordingSettings::Mode::Duration;
+        m_order.settings.seconds = 1;
+        QVERIFY(m_saving->StartRun(m_order));
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.error, QString("No frame came from the camera."));
+        QCOMPARE(FilesLeft(), QStringList());
+    }
+
+    void savesFramesAsTheyAreSeen()
+    {
+        m_order.orientation = Orientation(false, 1); // turned right
+        m_order.settings.frames = 1;
+        QVERIFY(m_saving->StartRun(m_order));
+        SendUntilEnded();
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.facts.frameSize, Size.transposed());
+        QString error;
+        const auto file = OpenPicture(receipt.files.first(), error);
+        QVERIFY2(file, qPrintable(error));
+        Picture picture;
+        QVERIFY(file->ReadFrame(0, picture, error));
+        const CameraFrame frame = RunSample::Frame(Size, PixelLayout::Mono8, 0);
+        const Picture &seen = picture;
+        for (int y = 0; y < Size.height(); ++y) {
+            for (int x = 0; x < Size.width(); ++x)
+                QCOMPARE(seen.Row(x)[Size.height() - 1 - y], frame.Row(y)[x]);
+        }
+    }
+
+    void twoHundredRunsInARow()
+    {
+        m_order.settings.mode = RecordingSettings::Mode::UntilStopped;
+        m_order.path.clear();
+        m_order.settings.folder = m_folder->path();
+        m_order.settings.pattern = "run{number}";
+        for (int i = 0; i < 200; ++i) {
+            QVERIFY(m_saving->StartRun(m_order));
+            QVERIFY(!m_saving->StartRun(m_order));
+            if (i % 2 == 0)
+                SendWhenTaken(1);
+            m_saving->StopRun();
+            QCOMPARE(Receipt().outcome.counts.Lost(), quint64(0));
+        }
+        QCOMPARE(QDir(m_folder->path()).entryList({"*.tif"}).size(), 100);
+        QCOMPARE(QDir(m_folder->path()).entryList({"*.part", "*.journal"}).size(), 0);
+        QCOMPARE(QDir(m_folder->filePath("register")).entryList(QDir::Files).size(), 0);
+    }
+
+private:
+    void Make(const FrameSaving::WriterMaker &maker)
+    {
+        m_saving.reset(); // one at a time
+        m_saving = std::make_unique<FrameSaving>(RunRegister(m_folder->filePath("register")), maker);
+        m_ended = std::make_unique<QSignalSpy>(m_saving.get(), SIGNAL(signalRunEnded(RunReceipt)));
+    }
+
+    /// Frames 0, 1, 2 and so on from a thread like the camera's, until the run takes no more. A run begins to take them
+    /// some time after its start; the first that is taken is frame 0.
+    void SendUntilEnded()
+    {
+        std::thread camera([this] {
+            int next = 0;
+            while (m_saving->isRunning() && next < 1000) {
+                const quint64 before = m_saving->Counts().captured;
+                m_saving->OnFrame(RunSample::Frame(Size, PixelLayout::Mono8, next));
+                if (m_saving->Counts().captured > before)
+                    ++next;
+            }
+        });
+        camera.join();
+    }
+
+    void SendWhenTaken(int frames)
+    {
+        for (int i = 0; i < frames; ++i)
+            QVERIFY(SendUntilTaken(RunSample::Frame(Size, PixelLayout::Mono8, i)));
+    }
+
+    /// A run begins to take frames some time after its start.
+    bool SendUntilTaken(const CameraFrame &frame)
+    {
+        const quint64 before = m_saving->Counts().captured;
+        return QTest::qWaitFor(
+            [&] {
+                if (m_saving->Counts().captured == before)
+                    m_saving->OnFrame(frame);
+                return m_saving->Counts().captured > before;
+            },
+            MsToWait);
+    }
+
+    RunReceipt Receipt()
+    {
+        if (m_ended->isEmpty() && !m_ended->wait(MsToWait))
+            qFatal("the run did not end");
+        return m_ended->takeFirst().at(0).value<RunReceipt>();
+    }
+
+    QStringList FilesLeft() const { return QDir(m_folder->path()).entryList(QDir::Files); }
+
+    void CompareFile(const RunReceipt &receipt, int first, int frames)
+    {
+        QVERIFY2(!receipt.files.isEmpty(), qPrintable(receipt.error));
+        QString error;
+        const auto file = OpenPicture(receipt.files.first(), error);
+        QVERIFY2(file, qPrintable(error));
+        QCOMPARE(file->Info().frames, frames);
+        for (int i = 0; i < frames; ++i) {
+            Picture picture;
+            QVERIFY2(file->ReadFrame(i, picture, error), qPrintable(error));
+            const QByteArray expected = RunSample::Samples(Size, PixelLayout::Mono8, first + i);
+            const Picture &samples = picture;
+            QVERIFY(std::memcmp(samples.Data(), expected.constData(), size_t(expected.size())) == 0);
+        }
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<FrameSaving> m_saving;
+    std::unique_ptr<QSignalSpy> m_ended;
+    RunOrder m_order;
+};
+
+GUARDED_TEST_MAIN(FrameSavingTest)
+#include "framesavingtest.moc"

@@ -1,0 +1,366 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "guardedtest.h"
+#include "openpicture.h"
+#include "runchecksum.h"
+#include "runsample.h"
+#include "runsummary.h"
+#include "runwriter.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <cstring>
+#include <sys/resource.h>
+
+namespace {
+
+constexpr QSize Size(37, 21);
+
+struct FormatRow
+{
+    const char *name;
+    RunFormat format;
+    PixelLayout layout;
+};
+
+const FormatRow formatTable[] = {
+    {"TIFF, 8 bit", RunFormat::Tiff, PixelLayout::Mono8},   {"TIFF, 12 bit", RunFormat::Tiff, PixelLayout::Mono12},
+    {"TIFF, 16 bit", RunFormat::Tiff, PixelLayout::Mono16}, {"TIFF, colour", RunFormat::Tiff, PixelLayout::Rgb8},
+    {"FITS, 8 bit", RunFormat::Fits, PixelLayout::Mono8},   {"FITS, 12 bit", RunFormat::Fits, PixelLayout::Mono12},
+    {"FITS, 16 bit", RunFormat::Fits, PixelLayout::Mono16}, {"PNG, 8 bit", RunFormat::Png, PixelLayout::Mono8},
+    {"PNG, 12 bit", RunFormat::Png, PixelLayout::Mono12},   {"PNG, 16 bit", RunFormat::Png, PixelLayout::Mono16},
+    {"PNG, colour", RunFormat::Png, PixelLayout::Rgb8},
+};
+
+} // namespace
+
+/// What is recorded is what the files hold.
+class RunWriterTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() override
+    {
+        StartGuard();
+        m_folder = std::make_unique<QTemporaryDir>();
+    }
+
+    void cleanup() override
+    {
+        m_folder.reset();
+        EndGuard();
+    }
+
+    void everySampleComesBack_data()
+    {
+        QTest::addColumn<RunFormat>("format");
+        QTest::addColumn<PixelLayout>("layout");
+        QTest::addColumn<int>("frames");
+        QTest::addColumn<int>("padding");
+        for (const FormatRow &row : formatTable) {
+            QTest::newRow(row.name) << row.format << row.layout << 5 << 0;
+            QTest::newRow(QByteArray(row.name) + ", one padded frame") << row.format << row.layout << 1 << 3;
+        }
+    }
+
+    void everySampleComesBack()
+    {
+        QFETCH(RunFormat, format);
+        QFETCH(PixelLayout, layout);
+        QFETCH(int, frames);
+        QFETCH(int, padding);
+        const std::unique_ptr<RunWriter> writer = Record(format, layout, frames, padding);
+        QVERIFY(writer);
+        CompareFrames(writer->Files(), layout, frames);
+        QCOMPARE(LeftOvers(), QStringList());
+        quint64 checksum = 0;
+        QString error;
+        QVERIFY2(RunChecksum::OfFiles(writer->Files(), &checksum, &error), qPrintable(error));
+        QCOMPARE(checksum, RunChecksum::OfRun(writer->Stamps()));
+    }
+
+    void aFITSCubeTakesNoColour()
+    {
+        QString error;
+        const auto writer = CreateRunWriter(RunFormat::Fits, Path(RunFormat::Fits));
+        QVERIFY(!writer->Begin(RunSample::Facts(Size, PixelLayout::Rgb8), &error));
+        QVERIFY2(error.contains("run.fits") && error.contains("not colour") && error.contains("TIFF or PNG"), qPrintable(error));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList());
+    }
+
+    void theFileTellsTheTruth_data() { AddFormats(); }
+
+    void theFileTellsTheTruth()
+    {
+        QFETCH(RunFormat, format);
+        const std::unique_ptr<RunWriter> writer = Record(format, PixelLayout::Mono12, 3, 0);
+        QString error;
+        const auto file = OpenPicture(writer->Files().first(), error);
+        QVERIFY2(file, qPrintable(error));
+        QString all;
+        for (const MetadataEntry &entry : file->Info().metadata)
+            all += entry.key + '=' + entry.value + '\n';
+        for (const char *fact : {"S/N 42", "12500 us", "1.5", "74 x 42 from (16, 8)", "2 x 2", "12 bit", "workbench test"})
+            QVERIFY2(all.contains(fact), qPrintable(QString(fact) + " is not in " + all));
+        QVERIFY2(!all.contains("Pixel size") && !all.contains("PhysicalSize"), qPrintable(all));
+    }
+
+    void theSummaryIsReadable()
+    {
+        const auto writer = Begin(RunFormat::Tiff, PixelLayout::Mono8);
+        QString error;
+        for (int frame : {0, 1, 4, 9})
+            QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, frame), &error));
+        RunOutcome outcome;
+        outcome.end = RunEnd::Stopped;
+        outcome.counts.captured = 5;
+        outcome.counts.saved = 4;
+        outcome.counts.lostAt[size_t(LossStage::SaveQueue)] = 1;
+        outcome.counts.lostAt[size_t(LossStage::Transfer)] = 5;
+        QVERIFY2(writer->Finish(&outcome, &error), qPrintable(error));
+        QFile file(RunSummaryPath(Path(RunFormat::Tiff)));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        for (const char *line : {"Recording: run.tif\n", "Run: stopped by the user\n", "Frames captured: 5\n", "Frames saved: 4\n",
+                                 "Frames lost: 6 (5 arrived incomplete, 1 the disk was too slow and the queue full)\n",
+                                 "Frame ids missing: 102-103, 105-108\n", "Average rate: 166.67 frames/s\n",
+                                 "Camera: Maker & Sons C-1\n", "Exposure: 12500 us\n", "Bit depth: 8 bit\n", "\n4\t109\t9000000\t"})
+            QVERIFY2(text.contains(line), qPrintable(QString(line) + " is not in\n" + text));
+    }
+
+    void neverReplacesAFile_data() { AddFormats(); }
+
+    void neverReplacesAFile()
+    {
+        QFETCH(RunFormat, format);
+        const QString taken = format == RunFormat::Png ? m_folder->filePath("run_000001.png") : Path(format);
+        QFile file(taken);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("mine") == 4);
+        file.close();
+        QString error;
+        const auto writer = CreateRunWriter(format, Path(format));
+        QVERIFY(!writer->Begin(RunSample::Facts(Size, PixelLayout::Mono8), &error));
+        QVERIFY2(error.contains("is there already") && error.contains("Choose another name"), qPrintable(error));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("mine"));
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 1);
+    }
+
+    void aNameTakenDuringTheRunIsNotReplaced_data() { AddCubes(); }
+
+    void aNameTakenDuringTheRunIsNotReplaced()
+    {
+        QFETCH(RunFormat, format);
+        const auto writer = Begin(format, PixelLayout::Mono8);
+        QString error;
+        QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, 0), &error));
+        QFile file(Path(format));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("mine") == 4);
+        file.close();
+        RunOutcome outcome;
+        QVERIFY(!writer->Finish(&outcome, &error));
+        QVERIFY2(error.contains("is there already"), qPrintable(error));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("mine"));
+        QVERIFY(QFile::exists(Path(format) + ".part")); // nothing of the recording is lost
+    }
+
+    void anotherPngOfAnotherSequenceStays()
+    {
+        const auto writer = Begin(RunFormat::Png, PixelLayout::Mono8);
+        QFile file(m_folder->filePath("run_000002.png"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("mine") == 4);
+        file.close();
+        QString error;
+        QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, 0), &error));
+        QVERIFY(!writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, 1), &error));
+        writer->Discard();
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList("run_000002.png"));
+    }
+
+    void discardLeavesNothing_data() { AddFormats(); }
+
+    void discardLeavesNothing()
+    {
+        QFETCH(RunFormat, format);
+        const auto writer = Begin(format, PixelLayout::Mono16);
+        QString error;
+        for (int frame = 0; frame < 3; ++frame)
+            QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono16, frame), &error));
+        writer->Discard();
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList());
+    }
+
+    void aFrameOfAnotherSizeIsRefused()
+    {
+        const auto writer = Begin(RunFormat::Tiff, PixelLayout::Mono8);
+        QString error;
+        QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, 0), &error));
+        QVERIFY(!writer->Write(RunSample::Frame(QSize(10, 10), PixelLayout::Mono8, 1), &error));
+        QVERIFY2(error.contains("10 x 10"), qPrintable(error));
+        QVERIFY(Finish(writer.get(), 1));
+        CompareFrames(writer->Files(), PixelLayout::Mono8, 1);
+    }
+
+    void foldersThatCannotBe_data()
+    {
+        QTest::addColumn<QString>("folder");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("not there") << "nowhere" << "does not exist";
+        QTest::newRow("a file") << "file" << "does not exist";
+        QTest::newRow("longer than any name") << QString(300, 'x') << "does not exist";
+    }
+
+    void foldersThatCannotBe()
+    {
+        QFETCH(QString, folder);
+        QFETCH(QString, reason);
+        QFile file(m_folder->filePath("file"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QString error;
+        const auto writer = CreateRunWriter(RunFormat::Tiff, m_folder->filePath(folder + "/run.tif"));
+        QVERIFY(!writer->Begin(RunSample::Facts(Size, PixelLayout::Mono8), &error));
+        QVERIFY2(error.contains("run.tif") && error.contains(reason), qPrintable(error));
+    }
+
+    void aFolderOfTheSystemSaysThatItMayNotBeWritten()
+    {
+        QString error;
+        const auto writer = CreateRunWriter(RunFormat::Tiff, "/proc/run.tif");
+        QVERIFY(!writer->Begin(RunSample::Facts(Size, PixelLayout::Mono8), &error));
+        QVERIFY2(error.contains("run.tif"), qPrintable(error));
+    }
+
+    /// The largest file that the process may write stands for a full disk.
+    void aFullDiskKeepsTheFramesBefore_data() { AddCubes(); }
+
+    void aFullDiskKeepsTheFramesBefore()
+    {
+        QFETCH(RunFormat, format);
+        const auto writer = Begin(format, PixelLayout::Mono16);
+        constexpr int Limit = 200000;
+        QString error;
+        int written = 0;
+        {
+            const FileSizeLimit limit(Limit);
+            while (writer->Write(RunSample::Frame(Size, PixelLayout::Mono16, written), &error))
+                ++written;
+            QVERIFY2(error.contains("larger than this disk allows"), qPrintable(error));
+            QVERIFY(written > 80);
+            QVERIFY2(Finish(writer.get(), written, &error), qPrintable(error));
+        }
+        QVERIFY(writer->FramesWritten() > 0 && writer->FramesWritten() <= written);
+        CompareFrames(writer->Files(), PixelLayout::Mono16, writer->FramesWritten());
+        QCOMPARE(m_outcome.counts.saved + m_outcome.counts.LostAt(LossStage::Disk), quint64(written));
+        QCOMPARE(m_outcome.counts.saved, quint64(writer->FramesWritten()));
+    }
+
+private:
+    /// Lowers the process's limit; a write beyond it fails like one on a full disk.
+    class FileSizeLimit
+    {
+    public:
+        explicit FileSizeLimit(rlim_t bytes)
+        {
+            m_handler = std::signal(SIGXFSZ, SIG_IGN);
+            getrlimit(RLIMIT_FSIZE, &m_before);
+            const rlimit lower{bytes, m_before.rlim_max};
+            setrlimit(RLIMIT_FSIZE, &lower);
+        }
+        ~FileSizeLimit()
+        {
+            setrlimit(RLIMIT_FSIZE, &m_before);
+            std::signal(SIGXFSZ, m_handler);
+        }
+
+    private:
+        void (*m_handler)(int);
+        rlimit m_before;
+    };
+
+    void AddFormats()
+    {
+        QTest::addColumn<RunFormat>("format");
+        QTest::newRow("TIFF") << RunFormat::Tiff;
+        QTest::newRow("FITS") << RunFormat::Fits;
+        QTest::newRow("PNG") << RunFormat::Png;
+    }
+
+    /// Formats with all frames in one file.
+    void AddCubes()
+    {
+        QTest::addColumn<RunFormat>("format");
+        QTest::newRow("TIFF") << RunFormat::Tiff;
+        QTest::newRow("FITS") << RunFormat::Fits;
+    }
+
+    QString Path(RunFormat format) const { return m_folder->filePath("run." + RunSuffix(format)); }
+
+    QStringList LeftOvers() const { return QDir(m_folder->path()).entryList({"*.part", "*.journal"}, QDir::Files); }
+
+    std::unique_ptr<RunWriter> Begin(RunFormat format, PixelLayout layout)
+    {
+        QString error;
+        std::unique_ptr<RunWriter> writer = CreateRunWriter(format, Path(format));
+        if (!writer->Begin(RunSample::Facts(Size, layout), &error))
+            qFatal("%s", qPrintable(error));
+        return writer;
+    }
+
+    bool Finish(RunWriter *writer, int frames, QString *error = nullptr)
+    {
+        QString text;
+        m_outcome = RunOutcome();
+        m_outcome.counts.captured = quint64(frames);
+        m_outcome.counts.saved = quint64(frames);
+        const bool done = writer->Finish(&m_outcome, &text);
+        if (error)
+            *error = text;
+        return done;
+    }
+
+    std::unique_ptr<RunWriter> Record(RunFormat format, PixelLayout layout, int frames, int padding)
+    {
+        std::unique_ptr<RunWriter> writer = Begin(format, layout);
+        QString error;
+        for (int frame = 0; frame < frames; ++frame) {
+            if (!writer->Write(RunSample::Frame(Size, layout, frame, padding), &error))
+                qFatal("%s", qPrintable(error));
+        }
+        if (!Finish(writer.get(), frames, &error))
+            qFatal("%s", qPrintable(error));
+        return writer;
+    }
+
+    void CompareFrames(const QStringList &files, PixelLayout layout, int frames)
+    {
+        int seen = 0;
+        for (const QString &path : files) {
+            if (path.endsWith(".txt"))
+                continue;
+            QString error;
+            const auto file = OpenPicture(path, error);
+            QVERIFY2(file, qPrintable(error));
+            QVERIFY2(file->Info().warning.isEmpty(), qPrintable(file->Info().warning));
+            for (int i = 0; i < file->Info().frames; ++i, ++seen) {
+                Picture picture;
+                QVERIFY2(file->ReadFrame(i, picture, error), qPrintable(error));
+                QCOMPARE(picture.Size(), Size);
+                const QByteArray expected = RunSample::Samples(Size, layout, seen);
+                QCOMPARE(picture.ByteCount(), qint64(expected.size()));
+                const Picture &samples = picture;
+                QVERIFY(std::memcmp(samples.Data(), expected.constData(), size_t(expected.size())) == 0);
+            }
+        }
+        QCOMPARE(seen, frames);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    RunOutcome m_outcome;
+};
+
+GUARDED_TEST_MAIN(RunWriterTest)
+#include "runwritertest.moc"

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "framesink.h"
+#include "framesource.h"
+
+#include <mutex>
+
+/// Hands the frames of one camera to the display and to the recording, each of which comes and goes as it likes. The
+/// camera sends while either wants frames. Frames are handed on in the camera's thread, to the recording first; the
+/// rest belongs to the GUI thread.
+class FrameTee : public FrameSource, private FrameSink
+{
+public:
+    /// Borrowed; outlives this object.
+    explicit FrameTee(FrameSource *camera);
+    ~FrameTee() override;
+
+    bool StartFrames(FrameSink *display) override;
+    void StopFrames() override;
+    bool StartRecording(FrameSink *recording);
+    /// After this no frame reaches the recording any more.
+    void StopRecording();
+
+private:
+    void OnFrame(const CameraFrame &frame) override;
+    bool Start(FrameSink **place, FrameSink *sink);
+    void Stop(FrameSink **place);
+
+    FrameSource *m_camera;
+    std::mutex m_mutex; ///< held while a frame is handed on
+    FrameSink *m_display = nullptr;
+    FrameSink *m_recording = nullptr;
+};

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "receiptdialog.h"
+
+#include "runchecksum.h"
+#include "runsummary.h"
+
+#include <QDialogButtonBox>
+#include <QFileInfo>
+#include <QFormLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace {
+
+QLabel *TextLabel(const QString &text, const char *name)
+{
+    auto *label = new QLabel(text);
+    label->setObjectName(name);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+} // namespace
+
+ReceiptDialog::ReceiptDialog(const RunReceipt &receipt, QWidget *parent)
+    : QDialog(parent)
+    , m_receipt(receipt)
+    , m_verdict(TextLabel(QString(), "labelVerdict"))
+    , m_verify(new QPushButton(tr("&Verify"), this))
+{
+    setObjectName("ReceiptDialog");
+    setWindowTitle(tr("Recording"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    m_worker.setMaxThreadCount(1);
+
+    auto *column = new QVBoxLayout(this);
+    auto *form = new QFormLayout;
+    column->addLayout(form);
+    if (!receipt.files.isEmpty())
+        form->addRow(tr("File"), TextLabel(receipt.files.first(), "labelFile"));
+    for (const auto &line : OutcomeLines(receipt.outcome, receipt.stamps))
+        form->addRow(line.first, TextLabel(line.second, "labelValue"));
+    if (!receipt.error.isEmpty())
+        form->addRow(tr("Error"), TextLabel(receipt.error, "labelError"));
+    column->addWidget(m_verdict);
+
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    connect(buttons, SIGNAL(rejected()), this, SLOT(close()));
+    m_verify->setObjectName("pushButtonVerify");
+    m_verify->setToolTip(tr("Read the files back and compare them with what was captured"));
+    buttons->addButton(m_verify, QDialogButtonBox::ActionRole);
+    auto *open = buttons->addButton(tr("&Open"), QDialogButtonBox::ActionRole);
+    open->setObjectName("pushButtonOpen");
+    connect(m_verify, SIGNAL(clicked()), this, SLOT(slotVerify()));
+    connect(open, &QPushButton::clicked, this, [this] { emit signalOpenFile(m_receipt.files.value(0)); });
+    m_verify->setEnabled(!receipt.files.isEmpty());
+    open->setEnabled(!receipt.files.isEmpty());
+    column->addWidget(buttons);
+    setMinimumWidth(fontMetrics().averageCharWidth() * 70);
+}
+
+ReceiptDialog::~ReceiptDialog()
+{
+    m_worker.waitForDone();
+}
+
+void ReceiptDialog::slotVerify()
+{
+    m_verify->setEnabled(false);
+    m_verdict->setText(tr("Reading the files…"));
+    m_worker.start([this] {
+        quint64 checksum = 0;
+        QString error;
+        RunChecksum::OfFiles(m_receipt.files, &checksum, &error);
+        QMetaObject::invokeMethod(this, [this, checksum, error] { Show(checksum, error); }, Qt::QueuedConnection);
+    });
+}
+
+void ReceiptDialog::Show(quint64 checksum, const QString &error)
+{
+    m_verify->setEnabled(true);
+    if (!error.isEmpty())
+        m_verdict->setText(error);
+    else if (checksum == RunChecksum::OfRun(m_receipt.stamps))
+        m_verdict->setText(tr("The files hold exactly what was captured."));
+    else
+        m_verdict->setText(tr("The files do NOT hold what was captured: checksum %1.").arg(RunChecksum::ToText(checksum)));
+}

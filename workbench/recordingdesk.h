@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "framesaving.h"
+#include "runestimate.h"
+
+#include <QObject>
+#include <QThreadPool>
+
+class CameraLink;
+class FrameTee;
+class LiveOrientation;
+class SaveSettings;
+
+/// What the user does with recordings: begins one with the settings that stand, after a look at the room that there is,
+/// and ends or discards it. Sees to it that camera and file stay in step. GUI thread.
+class RecordingDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All are borrowed and outlive this object.
+    struct Parts
+    {
+        CameraLink *link = nullptr;
+        FrameTee *tee = nullptr;
+        FrameSaving *saving = nullptr;
+        SaveSettings *settings = nullptr;
+        const LiveOrientation *orientation = nullptr;
+    };
+
+    explicit RecordingDesk(const Parts &parts, QObject *parent = nullptr);
+    ~RecordingDesk() override;
+
+    /// A run is being prepared or going on.
+    bool IsBusy() const;
+    const FrameSaving *Saving() const { return m_parts.saving; }
+    SaveSettings *Settings() const { return m_parts.settings; }
+    /// Of the last run; without files and facts before the first.
+    const RunReceipt &LastReceipt() const { return m_receipt; }
+    bool HasReceipt() const { return m_hasReceipt; }
+
+    /// A run of its own settings into a file of that name, without questions. False and an error when it can't begin.
+    bool Start(const RecordingSettings &settings, const QString &path, QString *error);
+    /// After signalRoomIsShort().
+    void GoOn();
+    void GoOnShortened();
+    void CancelPreparedRun();
+
+public slots:
+    /// Begins a run, or ends the one that is going on.
+    void slotCapture(bool record, bool single);
+    void slotStop();
+    void slotDiscard();
+
+signals:
+    /// The run would not fit; one of the three answers is waited for.
+    void signalRoomIsShort(QString warning, bool canBeShortened);
+    void signalStateChanged();
+    void signalRunEnded(RunReceipt receipt);
+    /// A sentence for the status bar.
+    void signalMessage(QString text);
+
+private slots:
+    void slotCameraStateChanged();
+    void slotRunEnded(RunReceipt receipt);
+
+private:
+    bool MakeOrder(const RecordingSettings &settings, const QString &path, QString *error);
+    void TakeResources(const RunResources &resources);
+    bool Begin(QString *error);
+    void SetPreparing(bool preparing);
+    static QString EndSentence(const RunReceipt &receipt);
+
+    const Parts m_parts;
+    QThreadPool m_worker;
+    RunOrder m_order;
+    RunEstimate m_estimate;
+    bool m_isPreparing = false;
+    RunReceipt m_receipt;
+    bool m_hasReceipt = false;
+};

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "recordrun.h"
+
+#include "cameralink.h"
+#include "recordingdesk.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+RecordRun::RecordRun(const CameraLink *link, RecordingDesk *desk, const RecordingSettings &settings, const QString &path, QObject *parent)
+    : QObject(parent)
+    , m_link(link)
+    , m_desk(desk)
+    , m_settings(settings)
+    , m_path(path)
+{
+    connect(link, SIGNAL(signalStateChanged()), this, SLOT(slotCameraStateChanged()));
+    connect(link, SIGNAL(signalMessage(QString)), this, SLOT(slotMessage(QString)));
+    connect(desk, SIGNAL(signalRunEnded(RunReceipt)), this, SLOT(slotRunEnded(RunReceipt)));
+}
+
+void RecordRun::slotMessage(QString text)
+{
+    if (!m_hasBegun && m_link->GetState() == CameraLink::State::NoCamera)
+        Fail(text);
+}
+
+void RecordRun::slotCameraStateChanged()
+{
+    if (m_hasBegun || m_link->GetState() != CameraLink::State::Open)
+        return;
+    m_hasBegun = true;
+    QString error;
+    if (!m_desk->Start(m_settings, m_path, &error))
+        Fail(error);
+}
+
+void RecordRun::slotRunEnded(RunReceipt receipt)
+{
+    if (receipt.files.isEmpty() && !receipt.error.isEmpty()) {
+        Fail(receipt.error);
+        return;
+    }
+    printf("%s", qPrintable(receipt.Text()));
+    fflush(stdout);
+    QCoreApplication::exit(receipt.IsWhole() ? EXIT_SUCCESS : LossExitCode);
+}
+
+void RecordRun::Fail(const QString &error)
+{
+    fprintf(stderr, "workbench: %s\n", qPrintable(error));
+    QCoreApplication::exit(LossExitCode);
+}

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pngrunwriter.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QImageWriter>
+
+namespace {
+
+/// Of 0 to 100: little compression, for speed.
+constexpr int PngQuality = 90;
+
+QString Translate(const char *text)
+{
+    return QCoreApplication::translate("PngRunWriter", text);
+}
+
+QString UnfinishedName(const QString &path)
+{
+    return path + ".part";
+}
+
+/// Qt takes a keyword with a space for a part of the text.
+QString Keyword(QString name)
+{
+    return name.remove(' ');
+}
+
+QImage::Format ImageFormat(const RunFacts &facts)
+{
+    if (facts.Channels() == 3)
+        return QImage::Format_RGB888;
+    return facts.BitsPerSample() == 16 ? QImage::Format_Grayscale16 : QImage::Format_Grayscale8;
+}
+
+} // namespace
+
+PngRunWriter::PngRunWriter(const QString &path)
+    : RunWriter(path, RunFormat::Png)
+{
+}
+
+QString PngRunWriter::FramePath(const QString &path, int frame)
+{
+    const QFileInfo info(path);
+    return QString("%1/%2_%3.png").arg(info.path(), info.completeBaseName()).arg(frame + 1, 6, 10, QChar('0'));
+}
+
+bool PngRunWriter::CheckName(FileFault &fault) const
+{
+    const QFileInfo first(FramePath(Path(), 0));
+    if (!first.exists())
+        return true;
+    return fault.Set(Translate("a sequence of that name is there already"), Translate("Choose another name; recordings never replace a file."));
+}
+
+/// There is nothing to make before the first frame.
+bool PngRunWriter::CreateData(FileFault &)
+{
+    return true;
+}
+
+bool PngRunWriter::ReopenData(int *frames, FileFault &)
+{
+    int whole = 0;
+    while (whole < *frames && QFileInfo::exists(FramePath(Path(), whole)))
+        ++whole;
+    *frames = whole;
+    m_placed = whole;
+    return true;
+}
+
+bool PngRunWriter::AppendFrame(const uchar *samples, const FrameStamp &stamp, FileFault &fault)
+{
+    const QSize size = Facts().frameSize;
+    QImage image(samples, size.width(), size.height(), size.width() * BytesPerPixel(Facts().layout), ImageFormat(Facts()));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, "png");
+    writer.setQuality(PngQuality);
+    for (const auto &line : Facts().Lines())
+        writer.setText(Keyword(line.first), line.second);
+    writer.setText("FrameId", QString::number(stamp.frameId));
+    writer.setText("CameraTime", QString("%1 ns").arg(stamp.cameraTimeNs));
+    writer.setText("HostTime", QString("%1 ns").arg(stamp.hostTimeNs));
+    if (!writer.write(image))
+        return fault.Set(Translate("frame %1 could not be compressed").arg(FramesWritten() + 1), MemoryAdvice(), writer.errorString());
+    const QString path = FramePath(Path(), m_placed);
+    RunDisk disk;
+    if (!disk.Create(UnfinishedName(path), fault) || !disk.Write(bytes.constData(), bytes.size(), fault)
+        || !RunDisk::Rename(UnfinishedName(path), path, fault))
+        return false;
+    ++m_placed;
+    return true;
+}
+
+bool PngRunWriter::CutTo(int frames, FileFault &)
+{
+    QFile::remove(UnfinishedName(FramePath(Path(), m_placed)));
+    for (; m_placed > frames; --m_placed)
+        QFile::remove(FramePath(Path(), m_placed - 1));
+    return true;
+}
+
+bool PngRunWriter::Complete(const RunOutcome &, FileFault &fault)
+{
+    for (int frame = 0; frame < FramesWritten(); ++frame) {
+        RunDisk disk;
+        if (!disk.OpenExisting(FramePath(Path(), frame), fault) || !disk.Synchronise(fault))
+            return false;
+    }
+    return true;
+}
+
+/// The files have their names already.
+bool PngRunWriter::Place(FileFault &)
+{
+    RunDisk::MakeNamesLasting(Path());
+    return true;
+}
+
+void PngRunWriter::RemoveData()
+{
+    FileFault fault;
+    CutTo(0, fault);
+}
+
+QStringList PngRunWriter::DataFiles() const
+{
+    QStringList files;
+    for (int frame = 0; frame < FramesWritten(); ++frame)
+        files << FramePath(Path(), frame);
+    return files;
+}

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "runestimate.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QStorageInfo>
+
+#include <cmath>
+
+namespace {
+
+constexpr double MsPerSecond = 1000.0;
+/// Kept free of frames, for the system and the rest of the program.
+constexpr qint64 ReserveBytes = 256 << 20;
+constexpr qint64 BytesPerKB = 1024; ///< in /proc/meminfo
+
+QString Translate(const char *text)
+{
+    return QCoreApplication::translate("RunEstimate", text);
+}
+
+qint64 AvailableMemory()
+{
+    QFile file("/proc/meminfo");
+    if (!file.open(QIODevice::ReadOnly))
+        return -1;
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        if (line.startsWith("MemAvailable:"))
+            return line.mid(13).trimmed().split(' ').first().toLongLong() * BytesPerKB;
+    }
+    return -1;
+}
+
+double KeptPerSecond(const RecordingSettings &settings, double framesPerSecond)
+{
+    return settings.intervalMs > 0 ? qMin(framesPerSecond, MsPerSecond / settings.intervalMs) : framesPerSecond;
+}
+
+qint64 FramesOf(const RecordingSettings &settings, double framesPerSecond)
+{
+    if (settings.EndsByFrames())
+        return settings.FrameLimit();
+    if (settings.EndsByItself())
+        return qint64(std::ceil(settings.seconds * KeptPerSecond(settings, framesPerSecond)));
+    return -1;
+}
+
+qint64 FramesThatFit(qint64 freeBytes, qint64 frameBytes)
+{
+    return freeBytes < 0 ? -1 : qMax(qint64(0), freeBytes - ReserveBytes) / frameBytes;
+}
+
+} // namespace
+
+RunResources RunResources::Read(const QString &folder)
+{
+    RunResources resources;
+    const QStorageInfo storage(folder);
+    if (storage.isValid() && storage.isReady())
+        resources.freeDiskBytes = storage.bytesAvailable();
+    resources.freeMemoryBytes = AvailableMemory();
+    return resources;
+}
+
+RunEstimate RunEstimate::Make(const RecordingSettings &settings, qint64 frameBytes, double framesPerSecond,
+                              const RunResources &resources)
+{
+    RunEstimate estimate;
+    estimate.frames = FramesOf(settings, framesPerSecond);
+    estimate.bytes = estimate.frames < 0 ? -1 : estimate.frames * frameBytes;
+    const qint64 onDisk = FramesThatFit(resources.freeDiskBytes, frameBytes);
+    const qint64 inMemory = settings.toRam ? FramesThatFit(resources.freeMemoryBytes, frameBytes) : -1;
+    estimate.framesThatFit = onDisk < 0 ? inMemory : inMemory < 0 ? onDisk : qMin(onDisk, inMemory);
+    if (estimate.framesThatFit < 0)
+        return estimate;
+    const bool isMemory = estimate.framesThatFit == inMemory && inMemory != onDisk;
+    const QString place = isMemory ? Translate("memory") : Translate("disk");
+    const qint64 freeBytes = isMemory ? resources.freeMemoryBytes : resources.freeDiskBytes;
+    if (estimate.framesThatFit == 0 || estimate.frames > estimate.framesThatFit) {
+        estimate.warning = Translate("The run needs %1, and the %2 has %3 free: room for %4 frames.")
+                               .arg(estimate.bytes < 0 ? Translate("more than one frame") : ByteText(estimate.bytes), place,
+                                    ByteText(freeBytes))
+                               .arg(estimate.framesThatFit);
+    }
+    return estimate;
+}
+
+QString ByteText(qint64 bytes)
+{
+    constexpr double Step = 1000.0;
+    const char *units[] = {"kB", "MB", "GB", "TB"};
+    double value = double(bytes) / Step;
+    int unit = 0;
+    while (value >= Step && unit < 3) {
+        value /= Step;
+        ++unit;
+    }
+    return QString("%1 %2").arg(value, 0, 'f', 1).arg(units[unit]);
+}
