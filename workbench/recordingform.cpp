@@ -79,6 +79,7 @@ void RecordingForm::BuildForm()
     m_pattern->setToolTip(tr("{camera}, {date}, {time}, {exposure}, {gain}, {number} and {number:4} are filled in."));
     m_name->setObjectName("labelName");
     m_name->setWordWrap(true);
+    m_folder->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
     m_queue->setToolTip(tr("Memory for frames that wait while the disk is busy."));
 
     auto *folderRow = new QHBoxLayout;

@@ -6,7 +6,9 @@
 #include "livelevels.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
+#include "recordingdesk.h"
 #include "runningworkbench.h"
+#include "savesettings.h"
 #include "specimenscene.h"
 #include "stylesheet.h"
 #include "viewcodes.h"
@@ -25,6 +27,7 @@
 #include <QStackedWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 
 namespace {
@@ -60,6 +63,7 @@ public:
     {
         TakeLive();
         TakeLevels();
+        TakeRecording();
         TakeOpenedPicture();
         TakeCompare();
     }
@@ -92,6 +96,30 @@ private:
         Save("levels");
         dialog->close();
         m_workbench.link.SetPixelLayout(PixelLayout::Mono8);
+    }
+
+    void TakeRecording()
+    {
+        RecordingDesk *desk = m_workbench.services.Recording();
+        RecordingSettings settings;
+        settings.folder = m_files.path();
+        settings.frames = 60;
+        desk->Settings()->Set(settings);
+        ShowPanels(false, false);
+        m_workbench.Action("Capture")->trigger();
+        Save("recording");
+        if (!QTest::qWaitFor([&] { return !desk->IsBusy(); }, WaitMs))
+            qFatal("The recording does not end.");
+        m_workbench.Action("Last Recording…")->trigger();
+        auto *receipt = m_workbench.window.findChild<QDialog *>("ReceiptDialog");
+        receipt->findChild<QAbstractButton *>("pushButtonVerify")->click();
+        Save("receipt");
+        receipt->close();
+        QTimer::singleShot(0, [this] {
+            Save("recordingsettings");
+            QApplication::activeModalWidget()->close();
+        });
+        m_workbench.Action("Settings…")->trigger();
     }
 
     void TakeOpenedPicture()

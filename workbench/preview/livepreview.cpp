@@ -6,6 +6,8 @@
 #include "liveorientation.h"
 #include "orientedimage.h"
 
+#include <utility>
+
 namespace {
 /// How long the thread waits for a frame before it looks again whether it is to go on.
 constexpr int TakeTimeoutMs = 500;
@@ -101,9 +103,12 @@ void LivePreview::KeepPeriod(QElapsedTimer *sinceLast) const
 void LivePreview::SendPicture(const CameraFrame &frame)
 {
     const QImage picture = OrientedImage(m_maker.Make(frame), m_orientation->Get());
-    m_rawFrames.FillBack(picture);
-    m_frameOnItsWay = frame;
-    m_sizeOnItsWay = picture.size();
+    {
+        const std::lock_guard<std::mutex> lock(m_handOver);
+        m_rawFrames.FillBack(picture);
+        m_frameOnItsWay = frame;
+        m_sizeOnItsWay = picture.size();
+    }
     QMetaObject::invokeMethod(this, "slotPictureArrives", Qt::QueuedConnection);
     emit signalPreviewImage(picture);
     QMetaObject::invokeMethod(this, "slotPictureDelivered", Qt::QueuedConnection);
@@ -111,12 +116,16 @@ void LivePreview::SendPicture(const CameraFrame &frame)
 
 void LivePreview::slotPictureArrives()
 {
-    m_rawFrames.Swap();
-    m_shownFrame = std::move(m_frameOnItsWay);
-    m_frameOnItsWay = CameraFrame();
-    if (m_shownSize == m_sizeOnItsWay)
+    QSize size;
+    {
+        const std::lock_guard<std::mutex> lock(m_handOver);
+        m_rawFrames.Swap();
+        m_shownFrame = std::exchange(m_frameOnItsWay, CameraFrame());
+        size = m_sizeOnItsWay;
+    }
+    if (m_shownSize == size)
         return;
-    m_shownSize = m_sizeOnItsWay;
+    m_shownSize = size;
     emit signalPictureSizeChanged(m_shownSize);
     emit signalImageSizeChanged();
 }

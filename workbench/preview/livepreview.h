@@ -14,6 +14,7 @@
 #include <QSize>
 
 #include <atomic>
+#include <mutex>
 
 class FrameSource;
 class LiveLevels;
@@ -84,8 +85,8 @@ private:
     LiveOrientation *m_orientation;
     NewestFrameSlot m_slot;
     PictureGate m_gate;
-    /// The next three belong to whoever is inside the gate.
-    PictureMaker m_maker;
+    PictureMaker m_maker; ///< belongs to whoever is inside the gate
+    std::mutex m_handOver; ///< held while the next three are filled or taken over
     CameraFrame m_frameOnItsWay;
     QSize m_sizeOnItsWay;
     RawFrameBuffers m_rawFrames;

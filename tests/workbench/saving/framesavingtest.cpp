@@ -51,6 +51,20 @@ private:
 
 } // namespace
 
+/// What a signal of the saving thread said, taken over in the test's thread (a QSignalSpy takes it in the sender's).
+class Said : public QObject
+{
+    Q_OBJECT
+
+public:
+    Said(FrameSaving *saving, const char *signal) { connect(saving, signal, this, SLOT(slotTake(int)), Qt::QueuedConnection); }
+
+    QVector<int> values;
+
+private slots:
+    void slotTake(int value) { values << value; }
+};
+
 /// A run from its order to its receipt. Frames come from a thread of the test's.
 class FrameSavingTest : public GuardedTest
 {
@@ -80,8 +94,8 @@ private slots:
     void savesTheNumberOfFramesAskedFor()
     {
         QSignalSpy running(m_saving.get(), SIGNAL(signalSaveThreadRunningChanged(bool)));
-        QSignalSpy saved(m_saving.get(), SIGNAL(signalUpdateSaveNumber(int)));
-        QSignalSpy time(m_saving.get(), SIGNAL(signalUpdateTotalTime(int)));
+        Said saved(m_saving.get(), SIGNAL(signalUpdateSaveNumber(int)));
+        Said time(m_saving.get(), SIGNAL(signalUpdateTotalTime(int)));
         QVERIFY(m_saving->StartRun(m_order));
         QCOMPARE(running.count(), 1);
         QVERIFY(m_saving->IsAutoStop() && m_saving->IsTotalFrameChecked());
@@ -95,8 +109,8 @@ private slots:
         CompareFile(receipt, 0, 5);
         QCOMPARE(running.count(), 2);
         QCOMPARE(running.at(1).at(0).toBool(), false);
-        QCOMPARE(saved.last().at(0).toInt(), 5);
-        QCOMPARE(time.last().at(0).toInt(), -1);
+        QCOMPARE(saved.values.last(), 5);
+        QCOMPARE(time.values.last(), -1);
         QVERIFY(!m_saving->isRunning());
     }
 
@@ -117,17 +131,17 @@ private slots:
     void keepsFramesInMemoryAndThenConvertsThem()
     {
         m_order.settings.toRam = true;
-        QSignalSpy ram(m_saving.get(), SIGNAL(signalUpdateRAMSaveFrames(int)));
-        QSignalSpy total(m_saving.get(), SIGNAL(signalSetTotalSaveNumber(int)));
-        QSignalSpy converted(m_saving.get(), SIGNAL(signalUpdateSenExtractNumber(int)));
+        Said ram(m_saving.get(), SIGNAL(signalUpdateRAMSaveFrames(int)));
+        Said total(m_saving.get(), SIGNAL(signalSetTotalSaveNumber(int)));
+        Said converted(m_saving.get(), SIGNAL(signalUpdateSenExtractNumber(int)));
         QVERIFY(m_saving->StartRun(m_order));
         SendUntilEnded();
         const RunReceipt receipt = Receipt();
         CompareFile(receipt, 0, 5);
-        QCOMPARE(ram.last().at(0).toInt(), 5);
-        QCOMPARE(total.count(), 1);
-        QCOMPARE(total.at(0).at(0).toInt(), 5);
-        QCOMPARE(converted.last().at(0).toInt(), 5);
+        QCOMPARE(ram.values.last(), 5);
+        QCOMPARE(total.values.size(), 1);
+        QCOMPARE(total.values.first(), 5);
+        QCOMPARE(converted.values.last(), 5);
     }
 
     void aFullMemoryEndsTheRunAndKeepsWhatItHas()
@@ -146,12 +160,12 @@ private slots:
     void waitsForItsDelay()
     {
         m_order.settings.delay.milliseconds = 300;
-        QSignalSpy delay(m_saving.get(), SIGNAL(signalUpdateDelayTime(int)));
+        Said delay(m_saving.get(), SIGNAL(signalUpdateDelayTime(int)));
         QVERIFY(m_saving->StartRun(m_order));
         QVERIFY(!m_saving->StartRun(m_order)); // start pressed during the delay
         m_saving->OnFrame(RunSample::Frame(Size, PixelLayout::Mono8, 50)); // comes too early
-        QTRY_VERIFY_WITH_TIMEOUT(!delay.isEmpty() && delay.last().at(0).toInt() == -1, MsToWait);
-        QCOMPARE(delay.first().at(0).toInt(), 0);
+        QTRY_VERIFY_WITH_TIMEOUT(!delay.values.isEmpty() && delay.values.last() == -1, MsToWait);
+        QCOMPARE(delay.values.first(), 0);
         SendUntilEnded();
         CompareFile(Receipt(), 0, 5);
     }
@@ -159,9 +173,9 @@ private slots:
     void stoppedDuringTheDelayItLeavesNothing()
     {
         m_order.settings.delay.minutes = 5;
-        QSignalSpy delay(m_saving.get(), SIGNAL(signalUpdateDelayTime(int)));
+        Said delay(m_saving.get(), SIGNAL(signalUpdateDelayTime(int)));
         QVERIFY(m_saving->StartRun(m_order));
-        QVERIFY(delay.wait(MsToWait));
+        QTRY_VERIFY_WITH_TIMEOUT(!delay.values.isEmpty(), MsToWait);
         m_saving->StopRun();
         const RunReceipt receipt = Receipt();
         QCOMPARE(receipt.files, QStringList());
