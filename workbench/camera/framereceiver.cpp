@@ -61,17 +61,18 @@ void FrameReceiver::Prime(ArvStream *stream)
 {
     m_stream = stream;
     for (int i = 0; i < kStreamBuffers; ++i)
-        arv_stream_push_buffer(m_stream, m_pool->Take());
+        arv_stream_push_buffer(stream, m_pool->Take());
 }
 
 void FrameReceiver::TakeBuffer()
 {
-    ArvBuffer *buffer = arv_stream_try_pop_buffer(m_stream);
+    ArvStream *stream = m_stream;
+    ArvBuffer *buffer = arv_stream_try_pop_buffer(stream);
     if (!buffer)
         return;
     if (Deliver(buffer))
         buffer = m_pool->Take();
-    arv_stream_push_buffer(m_stream, buffer);
+    arv_stream_push_buffer(stream, buffer);
 }
 
 bool FrameReceiver::Deliver(ArvBuffer *buffer)

@@ -44,7 +44,7 @@ private:
     FrameLedger &m_ledger;
     const std::shared_ptr<StreamBufferPool> m_pool;
     const PixelLayout m_layout;
-    ArvStream *m_stream = nullptr;
+    std::atomic<ArvStream *> m_stream{nullptr};
 
     std::mutex m_gate; ///< held during a delivery
     FrameSink *m_sink = nullptr;
