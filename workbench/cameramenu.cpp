@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cameramenu.h"
 
+#include "cameradialog.h"
 #include "cameralink.h"
 #include "camerasession.h"
 #include "connectedcameras.h"
@@ -69,6 +70,7 @@ void CameraMenu::AddCameraActions()
 
 void CameraMenu::AddFormatActions()
 {
+    m_controls = addAction(tr("&Exposure and Gain…"), this, SLOT(slotShowControls()), QKeySequence("Ctrl+Shift+E"));
     m_layouts = addMenu(tr("&Pixel Format"));
     m_selectRegion = addAction(tr("&Select Region"), this, SLOT(slotSelectRegion(bool)));
     m_selectRegion->setCheckable(true);
@@ -116,6 +118,7 @@ void CameraMenu::slotUpdateActions()
     const bool isOpen = state == CameraLink::State::Open;
     m_reconnect->setEnabled(state == CameraLink::State::Lost);
     m_close->setEnabled(state != CameraLink::State::NoCamera);
+    m_controls->setEnabled(isOpen);
     m_layouts->setEnabled(isOpen);
     m_selectRegion->setEnabled(isOpen);
     m_fullSensor->setEnabled(isOpen);
@@ -163,6 +166,15 @@ void CameraMenu::slotFullSensor()
 {
     CameraLink *link = m_services->Link();
     link->SetRegion(QRect(QPoint(0, 0), link->Session()->Format().Limits().sensorSize));
+}
+
+void CameraMenu::slotShowControls()
+{
+    if (!m_dialog)
+        m_dialog = new CameraDialog(m_services->Link(), parentWidget());
+    if (m_dialog->isVisible())
+        m_dialog->activateWindow();
+    m_dialog->show();
 }
 
 void CameraMenu::slotShowInformation()

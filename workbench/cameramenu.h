@@ -5,6 +5,7 @@
 
 #include <QMenu>
 
+class CameraDialog;
 class RecordingGuard;
 class WorkbenchServices;
 
@@ -32,6 +33,7 @@ private slots:
     void slotSetPixelLayout(QAction *action);
     void slotSelectRegion(bool checked);
     void slotFullSensor();
+    void slotShowControls();
     void slotShowInformation();
 
 private:
@@ -48,6 +50,8 @@ private:
     QAction *m_refresh = nullptr;
     QAction *m_reconnect = nullptr;
     QAction *m_close = nullptr;
+    QAction *m_controls = nullptr;
+    CameraDialog *m_dialog = nullptr; ///< made when it is first asked for
     QMenu *m_layouts = nullptr;
     QAction *m_selectRegion = nullptr;
     QAction *m_fullSensor = nullptr;

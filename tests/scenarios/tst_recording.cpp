@@ -12,7 +12,11 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
 #include <QDir>
+#include <QDoubleSpinBox>
+#include <QFile>
 #include <QLabel>
 #include <QMessageBox>
 #include <QOffscreenSurface>
@@ -178,6 +182,42 @@ private slots:
         Receipt();
         QTRY_COMPARE_WITH_TIMEOUT(m_workbench->window.isVisible(), !closes, MsToWait);
         QCOMPARE(QDir(m_folder->path()).entryList({"run*.tif"}).size(), files);
+    }
+
+    void exposureSetByHandIsWhatTheFileTells()
+    {
+        m_workbench->Action("Exposure and Gain…")->trigger();
+        auto *dialog = m_workbench->window.findChild<QDialog *>("CameraDialog");
+        QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
+        auto *exposure = dialog->findChild<QDoubleSpinBox *>("doubleSpinBoxExposure");
+        exposure->setFocus();
+        exposure->selectAll();
+        QTest::keyClicks(exposure, "4.5");
+        QTest::keyClick(exposure, Qt::Key_Return);
+        QCOMPARE(m_workbench->link.Session()->Controls().ExposureUs(), 4500.0);
+        // Beyond the camera's 10 s: taken and shown as the limit.
+        exposure->selectAll();
+        QTest::keyClicks(exposure, "99999");
+        QTest::keyClick(exposure, Qt::Key_Tab);
+        QVERIFY(exposure->value() <= 10000.0);
+        QCOMPARE(m_workbench->link.Session()->Controls().ExposureUs(), exposure->value() * 1000);
+        exposure->setValue(4.5);
+        QVERIFY(!dialog->findChild<QCheckBox *>("checkBoxAutoExposure")->isEnabled()); // the simulated camera has none
+        auto *rate = dialog->findChild<QDoubleSpinBox *>("doubleSpinBoxFrameRate");
+        rate->setValue(1000);
+        QVERIFY(rate->value() <= 1e6 / 4500 + 0.01); // as the exposure bounds it
+        rate->setValue(50);
+        dialog->close();
+        QVERIFY(QTest::qWaitForWindowActive(&m_workbench->window));
+
+        m_settings.frames = 3;
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.facts.exposureUs, 4500.0);
+        QFile summary(receipt.files.last());
+        QVERIFY(summary.open(QIODevice::ReadOnly));
+        QVERIFY(summary.readAll().contains("Exposure: 4500 us\n"));
     }
 
     void aLostCameraLeavesWhatWasRecorded()

@@ -32,6 +32,8 @@ CameraControls::CameraControls(ArvCamera *camera, SimulatedSensor *sensor, std::
     , m_canReach(std::move(canReach))
 {
     ReadRanges();
+    if (!m_sensor)
+        ReadAutomatics();
     if (m_rateRange.IsAdjustable())
         ApplyFrameRate(
             nullptr); // the camera may have been left with an exposure longer than its frame period
@@ -52,6 +54,52 @@ void CameraControls::ReadRanges()
         arv_camera_get_frame_rate_bounds(m_camera, &m_rateRange.minimum, &m_rateRange.maximum, nullptr);
         m_rate = m_wishedRate = arv_camera_get_frame_rate(m_camera, nullptr);
     }
+}
+
+void CameraControls::ReadAutomatics()
+{
+    m_hasAutoExposure = arv_camera_is_exposure_auto_available(m_camera, nullptr);
+    m_isAutoExposure = m_hasAutoExposure && arv_camera_get_exposure_time_auto(m_camera, nullptr) != ARV_AUTO_OFF;
+    m_hasAutoGain = arv_camera_is_gain_auto_available(m_camera, nullptr);
+    m_isAutoGain = m_hasAutoGain && arv_camera_get_gain_auto(m_camera, nullptr) != ARV_AUTO_OFF;
+}
+
+void CameraControls::Refresh()
+{
+    if (!m_canReach())
+        return;
+    if (m_isAutoExposure)
+        m_exposureUs = arv_camera_get_exposure_time(m_camera, nullptr);
+    if (m_isAutoGain)
+        m_gain = arv_camera_get_gain(m_camera, nullptr);
+}
+
+bool CameraControls::SetAutoExposure(bool isAuto, QString *error)
+{
+    const QString setting = tr("Automatic exposure");
+    if (!m_hasAutoExposure || !CanReach(setting, error))
+        return false;
+    AravisError failure;
+    arv_camera_set_exposure_time_auto(m_camera, isAuto ? ARV_AUTO_CONTINUOUS : ARV_AUTO_OFF, failure.Receive());
+    if (!Report(setting, failure, error))
+        return false;
+    m_isAutoExposure = isAuto;
+    m_exposureUs = arv_camera_get_exposure_time(m_camera, failure.Receive());
+    return Report(setting, failure, error);
+}
+
+bool CameraControls::SetAutoGain(bool isAuto, QString *error)
+{
+    const QString setting = tr("Automatic gain");
+    if (!m_hasAutoGain || !CanReach(setting, error))
+        return false;
+    AravisError failure;
+    arv_camera_set_gain_auto(m_camera, isAuto ? ARV_AUTO_CONTINUOUS : ARV_AUTO_OFF, failure.Receive());
+    if (!Report(setting, failure, error))
+        return false;
+    m_isAutoGain = isAuto;
+    m_gain = arv_camera_get_gain(m_camera, failure.Receive());
+    return Report(setting, failure, error);
 }
 
 bool CameraControls::CanReach(const QString &setting, QString *error) const

@@ -34,6 +34,18 @@ public:
     bool SetExposureUs(double exposureUs, QString *error = nullptr);
 
     /// In the camera's unit: decibels for the simulated camera and for most others.
+    /// The camera can find its exposure by itself. The simulated camera can't.
+    bool HasAutoExposure() const { return m_hasAutoExposure; }
+    bool IsAutoExposure() const { return m_isAutoExposure; }
+    /// Switched off, the exposure that the camera has found stays.
+    bool SetAutoExposure(bool isAuto, QString *error = nullptr);
+    /// Asks the camera anew for what it may have changed by itself. Fails silently: the values stay.
+    void Refresh();
+
+    bool HasAutoGain() const { return m_hasAutoGain; }
+    bool IsAutoGain() const { return m_isAutoGain; }
+    bool SetAutoGain(bool isAuto, QString *error = nullptr);
+
     ValueRange GainRange() const { return m_gainRange; }
     double Gain() const { return m_gain; }
     bool SetGain(double gain, QString *error = nullptr);
@@ -45,6 +57,7 @@ public:
 
 private:
     void ReadRanges();
+    void ReadAutomatics();
     bool ApplyFrameRate(QString *error);
     bool CanReach(const QString &setting, QString *error) const;
 
@@ -54,6 +67,10 @@ private:
     ValueRange m_exposureRange;
     ValueRange m_gainRange;
     ValueRange m_rateRange;
+    bool m_hasAutoExposure = false;
+    bool m_isAutoExposure = false;
+    bool m_hasAutoGain = false;
+    bool m_isAutoGain = false;
     double m_exposureUs = 0;
     double m_gain = 0;
     double m_wishedRate = 0;

@@ -7,7 +7,12 @@
 
 #include <QThread>
 
+#include <cmath>
+
 namespace {
+/// Settings come back in the camera's own steps.
+bool IsNear(double value, double wished) { return std::abs(value - wished) <= 1e-3 * std::abs(wished) + 1e-9; }
+
 constexpr int WatchPeriodMs = 500;
 /// A camera that owes this many frames, and is silent for at least SilenceMs, is lost.
 constexpr double OwedFrames = 3.0;
@@ -124,9 +129,17 @@ void CameraLink::Adopt(std::shared_ptr<CameraSession> session)
         GiveSettingsBack();
     SetState(State::Open);
     if (isBack)
-        emit signalMessage(tr("Camera \"%1\" is back.").arg(Name()));
+        emit signalMessage(BackText());
     if (isBack && m_sink)
         StartFrames(m_sink);
+}
+
+QString CameraLink::BackText() const
+{
+    const QStringList differing = SettingsThatDiffer();
+    if (differing.isEmpty())
+        return tr("Camera \"%1\" is back.").arg(Name());
+    return tr("Camera \"%1\" is back, but not as it was: check its %2.").arg(Name(), differing.join(", "));
 }
 
 void CameraLink::slotControlLost()
@@ -265,13 +278,37 @@ void CameraLink::KeepSettings()
     m_settings.exposureUs = m_session->Controls().ExposureUs();
     m_settings.gain = m_session->Controls().Gain();
     m_settings.frameRate = m_session->Controls().FrameRate();
+    m_settings.isAutoExposure = m_session->Controls().IsAutoExposure();
+    m_settings.isAutoGain = m_session->Controls().IsAutoGain();
 }
 
 void CameraLink::GiveSettingsBack()
 {
+    CameraControls &controls = m_session->Controls();
     m_session->SetPixelLayout(m_settings.layout);
     m_session->SetRegion(m_settings.region);
-    m_session->Controls().SetExposureUs(m_settings.exposureUs);
-    m_session->Controls().SetGain(m_settings.gain);
-    m_session->Controls().SetFrameRate(m_settings.frameRate);
+    controls.SetExposureUs(m_settings.exposureUs);
+    controls.SetGain(m_settings.gain);
+    controls.SetFrameRate(m_settings.frameRate);
+    if (m_settings.isAutoExposure)
+        controls.SetAutoExposure(true);
+    if (m_settings.isAutoGain)
+        controls.SetAutoGain(true);
+}
+
+QStringList CameraLink::SettingsThatDiffer() const
+{
+    const CameraControls &controls = m_session->Controls();
+    QStringList differing;
+    if (m_session->Format().Layout() != m_settings.layout)
+        differing << tr("pixel format");
+    if (m_session->Format().Region() != m_settings.region)
+        differing << tr("region");
+    if (!m_settings.isAutoExposure && !IsNear(controls.ExposureUs(), m_settings.exposureUs))
+        differing << tr("exposure");
+    if (!m_settings.isAutoGain && !IsNear(controls.Gain(), m_settings.gain))
+        differing << tr("gain");
+    if (!IsNear(controls.FrameRate(), m_settings.frameRate))
+        differing << tr("frame rate");
+    return differing;
 }

@@ -9,6 +9,7 @@
 
 #include <QObject>
 #include <QRect>
+#include <QStringList>
 #include <QThreadPool>
 #include <QTimer>
 
@@ -97,6 +98,8 @@ private:
         double exposureUs = 0;
         double gain = 0;
         double frameRate = 0;
+        bool isAutoExposure = false;
+        bool isAutoGain = false;
     };
 
     void OpenInWorker(const QString &id);
@@ -109,6 +112,9 @@ private:
     bool Report(bool succeeded, const QString &error);
     void KeepSettings();
     void GiveSettingsBack();
+    /// Read back from the camera: what it did not take.
+    QStringList SettingsThatDiffer() const;
+    QString BackText() const;
 
     Opener m_opener;
     QThreadPool m_worker;
