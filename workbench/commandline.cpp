@@ -40,7 +40,8 @@ QString HelpText()
                    "  --screenshot FILE  save a picture of the window before the end; without --frames\n"
                    "                     after the first frame or, with a FILE, when that is shown\n"
                    "  --record FILE      record without a window into FILE: --frames N of them, or for\n"
-                   "                     --seconds S; print the receipt, and end with 1 if a frame was lost\n"
+                   "                     --seconds S, or what comes first; print the receipt, and end\n"
+                   "                     with 1 if a frame was lost\n"
                    "  --format F         of the recording: %2; without it the ending of FILE tells\n"
                    "  --version          print the version and end\n"
                    "  --help             print this text and end\n")

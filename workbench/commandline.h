@@ -31,7 +31,7 @@ public:
     /// End after so many frames were shown; 0 runs until the user quits.
     int frames = 0;
     QString screenshot;
-    /// Record into this file instead of showing a window: so many frames (`frames`) or seconds, whichever is given.
+    /// Record into this file instead of showing a window: so many frames (`frames`) or seconds, what comes first.
     QString record;
     int seconds = 0;
     RunFormat format = RunFormat::Tiff;

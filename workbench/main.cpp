@@ -52,7 +52,8 @@ int Record(const CommandLine &line)
     CameraLink link;
     link.SetScene(line.scene);
     WorkbenchServices services(settings.Settings(), &link);
-    const RecordRun run(&link, services.Recording(), SettingsOf(line), line.record);
+    const RecordRun run(&link, services.Recording(), SettingsOf(line), line.record,
+                        line.frames > 0 ? line.seconds : 0);
     link.Open(line.cameraId.isEmpty() ? SimulatedCameraInfo().id : line.cameraId);
     return QApplication::exec();
 }

@@ -5,15 +5,22 @@
 #include "recordingdesk.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 
 #include <cstdio>
 
-RecordRun::RecordRun(const CameraLink *link, RecordingDesk *desk, const RecordingSettings &settings, const QString &path, QObject *parent)
+namespace {
+constexpr int MsPerSecond = 1000;
+}
+
+RecordRun::RecordRun(const CameraLink *link, RecordingDesk *desk, const RecordingSettings &settings, const QString &path,
+                     int longestSeconds, QObject *parent)
     : QObject(parent)
     , m_link(link)
     , m_desk(desk)
     , m_settings(settings)
     , m_path(path)
+    , m_longestSeconds(longestSeconds)
 {
     connect(link, SIGNAL(signalStateChanged()), this, SLOT(slotCameraStateChanged()));
     connect(link, SIGNAL(signalMessage(QString)), this, SLOT(slotMessage(QString)));
@@ -34,6 +41,8 @@ void RecordRun::slotCameraStateChanged()
     QString error;
     if (!m_desk->Start(m_settings, m_path, &error))
         Fail(error);
+    else if (m_longestSeconds > 0)
+        QTimer::singleShot(m_longestSeconds * MsPerSecond, m_desk, SLOT(slotStop()));
 }
 
 void RecordRun::slotRunEnded(RunReceipt receipt)

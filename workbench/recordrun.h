@@ -19,7 +19,9 @@ public:
     static constexpr int LossExitCode = 1;
 
     /// Both are borrowed and outlive this object.
-    RecordRun(const CameraLink *link, RecordingDesk *desk, const RecordingSettings &settings, const QString &path, QObject *parent = nullptr);
+    /// `longestSeconds` ends a run that has not got all of its frames by then; 0 sets no limit.
+    RecordRun(const CameraLink *link, RecordingDesk *desk, const RecordingSettings &settings, const QString &path,
+              int longestSeconds, QObject *parent = nullptr);
 
 private slots:
     void slotCameraStateChanged();
@@ -33,5 +35,6 @@ private:
     RecordingDesk *m_desk;
     const RecordingSettings m_settings;
     const QString m_path;
+    const int m_longestSeconds;
     bool m_hasBegun = false;
 };

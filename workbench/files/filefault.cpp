@@ -36,6 +36,7 @@ bool FileFault::Set(const QString &newWhat, const QString &newAdvice, const QStr
     what = newWhat;
     advice = newAdvice;
     detail = newDetail;
+    isDiskFull = false;
     return false;
 }
 

@@ -9,6 +9,7 @@ struct FileFault
     QString what;   ///< a clause without a full stop: "page 3: strip 0 lies beyond the end of the file"
     QString advice; ///< a sentence
     QString detail; ///< what the library beneath said; may be empty
+    bool isDiskFull = false; ///< less data may still find room
 
     /// Always false, for "return fault.Set(...)".
     bool Set(const QString &what, const QString &advice, const QString &detail = QString());

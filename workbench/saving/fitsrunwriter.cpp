@@ -70,7 +70,6 @@ bool FitsRunWriter::CreateData(FileFault &fault)
 
 bool FitsRunWriter::ReopenData(int *frames, FileFault &fault)
 {
-    m_rows.resize(size_t(Facts().FrameBytes()));
     return m_cube.Reopen(UnfinishedPath(), HeaderBytes, Facts().FrameBytes(), frames, fault);
 }
 
@@ -149,8 +148,10 @@ bool FitsRunWriter::AddFactsAndTable(const RunOutcome &outcome, FileFault &fault
         fits_close_file(fits, &closeStatus);
     if (status == 0 && closeStatus == 0)
         return true;
-    return fault.Set(Translate("its header or its table of frames could not be written"), DiskAdvice(),
-                     session.TakeMessages(status != 0 ? status : closeStatus));
+    const int failed = status != 0 ? status : closeStatus;
+    fault.Set(Translate("its header or its table of frames could not be written"), DiskAdvice(), session.TakeMessages(failed));
+    fault.isDiskFull = failed == WRITE_ERROR;
+    return false;
 }
 
 bool FitsRunWriter::Place(FileFault &fault)

@@ -20,7 +20,7 @@ QString Translate(const char *text)
 }
 
 /// What the system says, and what the user can do about it.
-bool SetSystemFault(FileFault &fault, int reason)
+bool SetFaultText(FileFault &fault, int reason)
 {
     switch (reason) {
     case ENOSPC:
@@ -46,6 +46,13 @@ bool SetSystemFault(FileFault &fault, int reason)
     default:
         return fault.Set(qt_error_string(reason), Translate("Check the disk, or record to another one."));
     }
+}
+
+bool SetSystemFault(FileFault &fault, int reason)
+{
+    SetFaultText(fault, reason);
+    fault.isDiskFull = reason == ENOSPC || reason == EDQUOT || reason == EFBIG;
+    return false;
 }
 
 } // namespace

@@ -109,19 +109,22 @@ bool RunWriter::Finish(RunOutcome *outcome, QString *error)
     return true;
 }
 
-/// The directories and tables at the end of a file take some room. On a full disk the last frames give it.
+/// The directories and tables at the end of a file take some room. On a full disk the last frames give it; any other
+/// fault leaves all frames for the repair.
 bool RunWriter::CompleteWhatFits(RunOutcome *outcome, FileFault &fault)
 {
-    while (!Complete(*outcome, fault)) {
-        if (m_stamps.isEmpty())
+    for (int fewer = 1; !Complete(*outcome, fault); fewer *= 2) {
+        if (m_stamps.isEmpty() || !fault.isDiskFull)
             return false;
+        const int kept = qMax(0, m_stamps.size() - fewer);
         FileFault cutFault;
-        if (!CutTo(m_stamps.size() - 1, cutFault))
+        if (!CutTo(kept, cutFault))
             return false;
-        outcome->lostIds.append(m_stamps.last().frameId);
-        m_stamps.removeLast();
-        --outcome->counts.saved;
-        ++outcome->counts.lostAt[size_t(LossStage::Disk)];
+        for (; m_stamps.size() > kept; m_stamps.removeLast()) {
+            outcome->lostIds.append(m_stamps.last().frameId);
+            --outcome->counts.saved;
+            ++outcome->counts.lostAt[size_t(LossStage::Disk)];
+        }
     }
     return true;
 }

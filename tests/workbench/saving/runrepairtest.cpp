@@ -133,6 +133,8 @@ private slots:
         QTest::newRow("no JSON") << QByteArray("WBRUN01\n\x04\0\0\0hey!", 16);
         const QByteArray size = R"({"format":0,"facts":{"frameSize":[2000000000,2000000000],"layout":"Mono16"}})";
         QTest::newRow("gigantic frames") << "WBRUN01\n" + QByteArray(1, char(size.size())) + QByteArray(3, '\0') + size;
+        const QByteArray huge = R"({"format":1,"facts":{"frameSize":[1048577,4],"layout":"Mono16"}})";
+        QTest::newRow("frames beyond any sensor") << "WBRUN01\n" + QByteArray(1, char(huge.size())) + QByteArray(3, '\0') + huge;
         const QByteArray format = R"({"format":9,"facts":{"frameSize":[2,2],"layout":"Mono16"}})";
         QTest::newRow("an unknown format") << "WBRUN01\n" + QByteArray(1, char(format.size())) + QByteArray(3, '\0') + format;
     }
@@ -149,6 +151,20 @@ private slots:
         QCOMPARE(repaired.size(), 1);
         QVERIFY2(repaired.first().fault.contains("run.tif") && repaired.first().fault.contains("makes no sense"), qPrintable(repaired.first().fault));
         QVERIFY(QFile::exists(path + ".part")); // kept for somebody who knows more
+    }
+
+    /// A journal may claim frames of a terabyte; the memory for one is not taken.
+    void aJournalThatClaimsLargeFramesHoldsNone()
+    {
+        const QString path = m_folder->filePath("run.fits");
+        const QByteArray text = R"({"format":1,"facts":{"frameSize":[1048576,1048576],"layout":"Mono16"}})";
+        Put(path + ".journal", "WBRUN01\n" + QByteArray(1, char(text.size())) + QByteArray(3, '\0') + text + QByteArray(64, 'x'));
+        Put(path + ".part", "something");
+        QString entry;
+        QVERIFY(m_register->Add(path, &entry));
+        const QVector<RepairedRun> repaired = RepairRuns(*m_register);
+        QCOMPARE(repaired.size(), 1);
+        QCOMPARE(repaired.first().frames, 0);
     }
 
     void aRecordingThatWentMeanwhileIsForgotten()

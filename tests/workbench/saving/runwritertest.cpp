@@ -258,6 +258,21 @@ private slots:
         QCOMPARE(m_outcome.counts.saved, quint64(writer->FramesWritten()));
     }
 
+    /// A disk that fails for good: nothing is cut away, so that the repair finds it all.
+    void anotherFaultAtTheEndKeepsEveryFrame()
+    {
+        const auto writer = Begin(RunFormat::Tiff, PixelLayout::Mono8);
+        QString error;
+        for (int frame = 0; frame < 3; ++frame)
+            QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, frame), &error));
+        QFile taken(Path(RunFormat::Tiff));
+        QVERIFY(taken.open(QIODevice::WriteOnly));
+        QVERIFY(!Finish(writer.get(), 3, &error));
+        QCOMPARE(writer->FramesWritten(), 3);
+        QCOMPARE(m_outcome.counts.Lost(), quint64(0));
+        QVERIFY(QFile(Path(RunFormat::Tiff) + ".part").size() > 3 * Size.width() * Size.height());
+    }
+
 private:
     /// Lowers the process's limit; a write beyond it fails like one on a full disk.
     class FileSizeLimit
