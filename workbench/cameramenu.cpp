@@ -40,6 +40,7 @@ CameraMenu::CameraMenu(WorkbenchServices *services, RecordingGuard *guard, QWidg
     , m_guard(guard)
     , m_cameraGroup(new QActionGroup(this))
     , m_layoutGroup(new QActionGroup(this))
+    , m_binningGroup(new QActionGroup(this))
 {
     AddCameraActions();
     addSeparator();
@@ -49,6 +50,7 @@ CameraMenu::CameraMenu(WorkbenchServices *services, RecordingGuard *guard, QWidg
 
     connect(m_cameraGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotOpenCamera(QAction *)));
     connect(m_layoutGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetPixelLayout(QAction *)));
+    connect(m_binningGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetBinning(QAction *)));
     connect(&m_discovery, SIGNAL(signalCamerasFound(QVector<CameraInfo>)), this,
             SLOT(slotCamerasFound(QVector<CameraInfo>)));
     connect(services->Link(), SIGNAL(signalStateChanged()), this, SLOT(slotFirstSearch()));
@@ -72,6 +74,7 @@ void CameraMenu::AddFormatActions()
 {
     m_controls = addAction(tr("&Exposure and Gain…"), this, SLOT(slotShowControls()), QKeySequence("Ctrl+Shift+E"));
     m_layouts = addMenu(tr("&Pixel Format"));
+    m_binnings = addMenu(tr("&Binning"));
     m_selectRegion = addAction(tr("&Select Region"), this, SLOT(slotSelectRegion(bool)));
     m_selectRegion->setCheckable(true);
     m_fullSensor = addAction(tr("F&ull Sensor"), this, SLOT(slotFullSensor()));
@@ -122,8 +125,11 @@ void CameraMenu::slotUpdateActions()
     m_layouts->setEnabled(isOpen);
     m_selectRegion->setEnabled(isOpen);
     m_fullSensor->setEnabled(isOpen);
-    if (isOpen)
-        UpdateLayouts();
+    m_binnings->setEnabled(isOpen && m_services->Link()->Session()->Format().Binnings().size() > 1);
+    if (!isOpen)
+        return;
+    UpdateLayouts();
+    UpdateBinnings();
 }
 
 void CameraMenu::UpdateLayouts()
@@ -137,6 +143,24 @@ void CameraMenu::UpdateLayouts()
         action->setChecked(layout == format.Layout());
         m_layouts->addAction(action);
     }
+}
+
+void CameraMenu::UpdateBinnings()
+{
+    RemoveActions(m_binningGroup, m_binnings);
+    const CameraFormat &format = m_services->Link()->Session()->Format();
+    for (const int binning : format.Binnings()) {
+        auto *action = new QAction(tr("%1 x %1").arg(binning), m_binningGroup);
+        action->setData(binning);
+        action->setCheckable(true);
+        action->setChecked(binning == format.Binning());
+        m_binnings->addAction(action);
+    }
+}
+
+void CameraMenu::slotSetBinning(QAction *action)
+{
+    m_services->Link()->SetBinning(action->data().toInt());
 }
 
 void CameraMenu::slotOpenCamera(QAction *action)

@@ -31,6 +31,7 @@ private slots:
     void slotOpenCamera(QAction *action);
     void slotCloseCamera();
     void slotSetPixelLayout(QAction *action);
+    void slotSetBinning(QAction *action);
     void slotSelectRegion(bool checked);
     void slotFullSensor();
     void slotShowControls();
@@ -40,12 +41,14 @@ private:
     void AddCameraActions();
     void AddFormatActions();
     void UpdateLayouts();
+    void UpdateBinnings();
 
     WorkbenchServices *m_services;
     RecordingGuard *m_guard;
     CameraDiscovery m_discovery;
     QActionGroup *m_cameraGroup;
     QActionGroup *m_layoutGroup;
+    QActionGroup *m_binningGroup;
     QAction *m_endOfCameras = nullptr;
     QAction *m_refresh = nullptr;
     QAction *m_reconnect = nullptr;
@@ -53,6 +56,7 @@ private:
     QAction *m_controls = nullptr;
     CameraDialog *m_dialog = nullptr; ///< made when it is first asked for
     QMenu *m_layouts = nullptr;
+    QMenu *m_binnings = nullptr;
     QAction *m_selectRegion = nullptr;
     QAction *m_fullSensor = nullptr;
 };

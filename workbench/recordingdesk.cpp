@@ -87,7 +87,8 @@ bool RecordingDesk::MakeOrder(const RecordingSettings &settings, const QString &
     facts.gain = session->Controls().Gain();
     facts.framesPerSecond = session->Controls().FrameRate();
     facts.region = session->Format().Region();
-    facts.frameSize = facts.region.size();
+    facts.binning = QSize(session->Format().Binning(), session->Format().Binning());
+    facts.frameSize = session->Format().FrameSize();
     facts.layout = session->Format().Layout();
     facts.start = QDateTime::currentDateTimeUtc().addMSecs(settings.DelayMs());
     facts.software = QString("%1 %2").arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion());

@@ -246,11 +246,13 @@ void WorkbenchServices::slotRecordingStateChanged()
     m_preview->SetLeastPeriod(m_recording->IsBusy() ? LivePreview::PeriodBesideRecordingMs : 0);
 }
 
-/// `region` counts from the corner of the region that is read out now.
+/// `region` counts from the corner of the region that is read out now, in pixels of the frame.
 void WorkbenchServices::slotRegionWanted(QRect region)
 {
     if (!m_link->Session())
         return;
-    m_link->SetRegion(region.translated(m_link->Session()->Format().Region().topLeft()));
+    const CameraFormat &format = m_link->Session()->Format();
+    const QRect onSensor(region.topLeft() * format.Binning(), region.size() * format.Binning());
+    m_link->SetRegion(onSensor.translated(format.Region().topLeft()));
     m_region->SetManualROIChecked(false);
 }

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "cameramainmanager.h"
 #include "camerasession.h"
 #include "framesaving.h"
 #include "guardedtest.h"
@@ -26,6 +27,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QWindow>
 
 #include <memory>
 
@@ -220,6 +222,42 @@ private slots:
         QVERIFY(summary.readAll().contains("Exposure: 4500 us\n"));
     }
 
+    void binnedFramesAreMeansAndSaySo()
+    {
+        m_workbench->Action("2 x 2")->trigger();
+        QCOMPARE(m_workbench->link.Session()->Format().Binning(), 2);
+        QCOMPARE(m_workbench->link.Session()->Format().Region(), SmallRegion);
+        QTRY_COMPARE(m_workbench->services.Preview()->ShownFrame().width, SmallRegion.width() / 2);
+        QVERIFY(CameraMainManager::GetInstance()->IsAnyBinOpen());
+        m_settings.frames = 2;
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
+        QCOMPARE(receipt.facts.binning, QSize(2, 2));
+        QCOMPARE(receipt.facts.region, SmallRegion);
+        QString error;
+        const auto file = OpenPicture(receipt.files.first(), error);
+        QVERIFY2(file, qPrintable(error));
+        Picture picture;
+        QVERIFY(file->ReadFrame(1, picture, error));
+        QCOMPARE(picture.Size(), SmallRegion.size() / 2);
+        const Picture &seen = picture;
+        for (int y = 0; y < picture.Height(); ++y) {
+            for (int x = 0; x < picture.Width(); ++x) {
+                int sum = 0;
+                for (const QPoint &part : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
+                    const QPoint place = SmallRegion.topLeft() + QPoint(2 * x, 2 * y) + part;
+                    sum += TestChartScene::ExpectedValue(place.x(), place.y(), 2048, 2048, 8);
+                }
+                QCOMPARE(int(seen.Row(y)[x]), (sum + 2) / 4);
+            }
+        }
+        m_workbench->Action("1 x 1")->trigger();
+        QTRY_COMPARE(m_workbench->services.Preview()->ShownFrame().width, SmallRegion.width());
+        QVERIFY(!CameraMainManager::GetInstance()->IsAnyBinOpen());
+    }
+
     void aLostCameraLeavesWhatWasRecorded()
     {
         m_settings.mode = RecordingSettings::Mode::UntilStopped;
@@ -252,8 +290,8 @@ private:
         auto *timer = new QTimer(&m_workbench->window);
         connect(timer, &QTimer::timeout, this, [timer, text] {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box)
-                return;
+            if (!box || !box->isActiveWindow() || !box->windowHandle()->isExposed())
+                return; // a person clicks what is on the screen
             timer->stop();
             timer->deleteLater();
             for (QAbstractButton *button : box->buttons()) {

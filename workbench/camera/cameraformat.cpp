@@ -9,6 +9,9 @@
 #include <algorithm>
 
 namespace {
+constexpr int LargestSimulatedBinning = 4;
+constexpr int LargestBinning = 16;
+
 int OnStep(int value, int step) { return value - value % std::max(step, 1); }
 
 /// Start and length along one axis.
@@ -55,6 +58,7 @@ CameraFormat::CameraFormat(ArvCamera *camera, SimulatedSensor *sensor)
 {
     ReadLayouts();
     ReadLimits();
+    ReadBinnings();
     ReadRegion();
 }
 
@@ -99,7 +103,7 @@ void CameraFormat::ReadRegion()
     int width = 0;
     int height = 0;
     arv_camera_get_region(m_camera, &x, &y, &width, &height, nullptr);
-    m_region = QRect(x, y, width, height);
+    m_region = QRect(x * m_binning, y * m_binning, width * m_binning, height * m_binning);
 }
 
 bool CameraFormat::SetLayout(PixelLayout layout, QString *error)
@@ -121,20 +125,63 @@ bool CameraFormat::SetLayout(PixelLayout layout, QString *error)
     return true;
 }
 
+RegionLimits CameraFormat::Limits() const
+{
+    RegionLimits limits = m_limits;
+    limits.minimumSize *= m_binning;
+    limits.sizeStep *= m_binning;
+    limits.offsetStep *= m_binning;
+    return limits;
+}
+
 bool CameraFormat::SetRegion(const QRect &region, QString *error)
 {
-    const QRect fitted = FittedRegion(region, m_limits);
+    const QRect fitted = FittedRegion(region, Limits());
     AravisError failure;
-    arv_camera_set_region(m_camera, fitted.x(), fitted.y(), fitted.width(), fitted.height(),
-                          failure.Receive());
+    arv_camera_set_region(m_camera, fitted.x() / m_binning, fitted.y() / m_binning, fitted.width() / m_binning,
+                          fitted.height() / m_binning, failure.Receive());
     ReadRegion();
+    return Report(tr("The region %1 x %2").arg(fitted.width()).arg(fitted.height()), failure, error);
+}
+
+void CameraFormat::ReadBinnings()
+{
+    int least = 1;
+    int most = m_sensor ? LargestSimulatedBinning : 1;
+    if (!m_sensor && arv_camera_is_binning_available(m_camera, nullptr)) {
+        arv_camera_get_x_binning_bounds(m_camera, &least, &most, nullptr);
+        int ignored = 1;
+        arv_camera_get_binning(m_camera, &m_binning, &ignored, nullptr);
+    }
+    for (int binning = 2; binning <= qMin(most, LargestBinning); binning *= 2)
+        m_binnings.append(binning);
+}
+
+bool CameraFormat::SetBinning(int binning, QString *error)
+{
+    const QRect region = m_region;
+    AravisError failure;
+    if (!m_binnings.contains(binning)) {
+        if (error)
+            *error = tr("The camera can't bin %1 x %1 pixels. Choose another binning.").arg(binning);
+        return false;
+    }
+    if (m_sensor)
+        m_sensor->SetBinning(binning);
+    else
+        arv_camera_set_binning(m_camera, binning, binning, failure.Receive());
+    if (!Report(tr("The binning"), failure, error))
+        return false;
+    m_binning = binning;
+    return SetRegion(region, error);
+}
+
+bool CameraFormat::Report(const QString &setting, const AravisError &failure, QString *error) const
+{
     if (!failure.IsSet())
         return true;
     if (error)
-        *error = tr("The region %1 x %2 could not be set: %3. Choose another one.")
-                     .arg(fitted.width())
-                     .arg(fitted.height())
-                     .arg(failure.Text());
+        *error = tr("%1 could not be set: %2. Choose another one.").arg(setting, failure.Text());
     return false;
 }
 

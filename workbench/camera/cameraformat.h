@@ -8,6 +8,7 @@
 #include <QSize>
 #include <QVector>
 
+class AravisError;
 class SimulatedSensor;
 typedef struct _ArvCamera ArvCamera;
 
@@ -38,10 +39,18 @@ public:
     PixelLayout Layout() const { return m_layout; }
     bool SetLayout(PixelLayout layout, QString *error = nullptr);
 
-    const RegionLimits &Limits() const { return m_limits; }
+    /// In sensor pixels, whatever the binning, as is the region.
+    RegionLimits Limits() const;
     QRect Region() const { return m_region; }
     /// Takes the nearest allowed region.
     bool SetRegion(const QRect &region, QString *error = nullptr);
+
+    /// Sensor pixels along each side of a frame's pixel that the camera allows: 1 is none. The simulated camera gives
+    /// the rounded mean of the pixels; others do as they are made.
+    const QVector<int> &Binnings() const { return m_binnings; }
+    int Binning() const { return m_binning; }
+    bool SetBinning(int binning, QString *error = nullptr);
+    QSize FrameSize() const { return m_region.size() / m_binning; }
 
     /// Size of one frame with these settings; 0 when the camera does not answer.
     size_t FrameBytes() const;
@@ -50,11 +59,15 @@ private:
     void ReadLayouts();
     void ReadLimits();
     void ReadRegion();
+    void ReadBinnings();
+    bool Report(const QString &setting, const AravisError &failure, QString *error) const;
 
     ArvCamera *m_camera;
     SimulatedSensor *m_sensor;
     QVector<PixelLayout> m_layouts;
     PixelLayout m_layout = PixelLayout::Mono8;
-    RegionLimits m_limits;
+    RegionLimits m_limits; ///< in frame pixels but for the sensor
+    QVector<int> m_binnings{ 1 };
+    int m_binning = 1;
     QRect m_region;
 };

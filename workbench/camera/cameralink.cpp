@@ -217,6 +217,15 @@ void CameraLink::SetRegion(const QRect &region)
     emit signalFormatChanged();
 }
 
+void CameraLink::SetBinning(int binning)
+{
+    if (!MayChangeFormat())
+        return;
+    QString error;
+    Report(m_session->SetBinning(binning, &error), error);
+    emit signalFormatChanged();
+}
+
 bool CameraLink::StartFrames(FrameSink *sink)
 {
     if (m_state != State::Open && m_state != State::Lost)
@@ -275,6 +284,7 @@ void CameraLink::KeepSettings()
 {
     m_settings.layout = m_session->Format().Layout();
     m_settings.region = m_session->Format().Region();
+    m_settings.binning = m_session->Format().Binning();
     m_settings.exposureUs = m_session->Controls().ExposureUs();
     m_settings.gain = m_session->Controls().Gain();
     m_settings.frameRate = m_session->Controls().FrameRate();
@@ -286,6 +296,7 @@ void CameraLink::GiveSettingsBack()
 {
     CameraControls &controls = m_session->Controls();
     m_session->SetPixelLayout(m_settings.layout);
+    m_session->SetBinning(m_settings.binning);
     m_session->SetRegion(m_settings.region);
     controls.SetExposureUs(m_settings.exposureUs);
     controls.SetGain(m_settings.gain);
@@ -304,6 +315,8 @@ QStringList CameraLink::SettingsThatDiffer() const
         differing << tr("pixel format");
     if (m_session->Format().Region() != m_settings.region)
         differing << tr("region");
+    if (m_session->Format().Binning() != m_settings.binning)
+        differing << tr("binning");
     if (!m_settings.isAutoExposure && !IsNear(controls.ExposureUs(), m_settings.exposureUs))
         differing << tr("exposure");
     if (!m_settings.isAutoGain && !IsNear(controls.Gain(), m_settings.gain))

@@ -69,6 +69,8 @@ public:
     void SetPixelLayout(PixelLayout layout);
     /// In sensor pixels; the camera takes the nearest region it can.
     void SetRegion(const QRect &region);
+    /// Sensor pixels along each side of a pixel of the frames.
+    void SetBinning(int binning);
     /// While held, the size and layout of frames stay as they are, and who wants to change them is told so.
     void HoldFormat(bool held) { m_isFormatHeld = held; }
 
@@ -95,6 +97,7 @@ private:
     {
         PixelLayout layout = PixelLayout::Mono8;
         QRect region;
+        int binning = 1;
         double exposureUs = 0;
         double gain = 0;
         double frameRate = 0;

@@ -309,6 +309,11 @@ bool CameraSession::SetRegion(const QRect &region, QString *error)
     return ChangeFormat([&] { return m_format->SetRegion(region, error); }, error);
 }
 
+bool CameraSession::SetBinning(int binning, QString *error)
+{
+    return ChangeFormat([&] { return m_format->SetBinning(binning, error); }, error);
+}
+
 bool CameraSession::ChangeFormat(const std::function<bool()> &change, QString *error)
 {
     if (!CanReach(error))

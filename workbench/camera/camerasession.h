@@ -60,6 +60,7 @@ public:
     /// These interrupt a running stream and go on with the new frame size.
     bool SetPixelLayout(PixelLayout layout, QString *error = nullptr);
     bool SetRegion(const QRect &region, QString *error = nullptr);
+    bool SetBinning(int binning, QString *error = nullptr);
 
     /// Waits until the workers have let go of all closed cameras, at most that long.
     static bool WaitForTeardown(int timeoutMs);

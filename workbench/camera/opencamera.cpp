@@ -47,7 +47,7 @@ int OpenCamera::GetRotateDegree() const
 
 bool OpenCamera::IsAnyBinOpen() const
 {
-    return false;
+    return m_isBinned;
 }
 
 bool OpenCamera::IsSupportCapa(int capability) const
@@ -97,6 +97,8 @@ void OpenCamera::slotSetRotateDegree(int degree)
 
 void OpenCamera::slotFormatChanged()
 {
-    if (m_link->Session())
-        m_bitDepth = BitDepth(m_link->Session()->Format().Layout());
+    if (!m_link->Session())
+        return; // what it was
+    m_bitDepth = BitDepth(m_link->Session()->Format().Layout());
+    m_isBinned = m_link->Session()->Format().Binning() > 1;
 }

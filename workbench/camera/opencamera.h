@@ -42,5 +42,6 @@ private:
     const CameraInfo m_info;
     const QByteArray m_interface;
     int m_bitDepth = 0;
+    bool m_isBinned = false;
     int m_rotateDegree = 0;
 };

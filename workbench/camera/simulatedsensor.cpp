@@ -15,6 +15,24 @@ void FillPattern(ArvBuffer *buffer, void *sensor, guint32 exposureUs, guint32 ga
 {
     static_cast<SimulatedSensor *>(sensor)->Expose(buffer, exposureUs, gainDb);
 }
+
+template <typename Sample>
+void Bin(const SceneFrame &from, const SceneFrame &to, int channels, int binning)
+{
+    const quint32 pixels = quint32(binning * binning);
+    for (int y = 0; y < to.height; ++y) {
+        auto *row = reinterpret_cast<Sample *>(to.pixels + qptrdiff(y) * to.strideBytes);
+        for (int x = 0; x < to.width * channels; ++x) {
+            quint32 sum = 0;
+            for (int i = 0; i < binning; ++i) {
+                const auto *source = reinterpret_cast<const Sample *>(from.pixels + qptrdiff(y * binning + i) * from.strideBytes);
+                for (int k = 0; k < binning; ++k)
+                    sum += source[(x / channels * binning + k) * channels + x % channels];
+            }
+            row[x] = Sample((sum + pixels / 2) / pixels);
+        }
+    }
+}
 } // namespace
 
 SimulatedSensor::SimulatedSensor(std::unique_ptr<Scene> scene, QSize sensorSize)
@@ -44,6 +62,12 @@ void SimulatedSensor::SetBitDepthOf16BitSamples(int bits)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     m_bitDepth16 = bits;
+}
+
+void SimulatedSensor::SetBinning(int binning)
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_binning = binning;
 }
 
 double SimulatedSensor::SetFrameRate(double framesPerSecond)
@@ -113,6 +137,26 @@ void SimulatedSensor::Expose(ArvBuffer *buffer, double exposureUs, double gainDb
     SceneFrame frame = FrameFor(buffer);
     frame.exposureUs = exposureUs;
     frame.gainDb = gainDb;
-    m_scene->Fill(frame);
+    if (m_binning > 1)
+        FillBinned(frame);
+    else
+        m_scene->Fill(frame);
     ++m_frameNumber;
+}
+
+void SimulatedSensor::FillBinned(const SceneFrame &frame)
+{
+    SceneFrame whole = frame;
+    whole.offsetX *= m_binning;
+    whole.offsetY *= m_binning;
+    whole.width *= m_binning;
+    whole.height *= m_binning;
+    whole.strideBytes *= m_binning;
+    m_unbinned.resize(size_t(whole.strideBytes) * size_t(whole.height));
+    whole.pixels = m_unbinned.data();
+    m_scene->Fill(whole);
+    if (frame.bitDepth > 8)
+        Bin<quint16>(whole, frame, 1, m_binning);
+    else
+        Bin<quint8>(whole, frame, frame.isColour ? 3 : 1, m_binning);
 }

@@ -6,6 +6,7 @@
 #include <QSize>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 typedef struct _ArvBuffer ArvBuffer;
 typedef struct _ArvFakeCamera ArvFakeCamera;
@@ -29,6 +30,8 @@ public:
     QString SceneName() const;
     /// 12 makes a camera with 16-bit samples behave as a 12-bit one; 16 is the default. Does nothing to 8-bit formats.
     void SetBitDepthOf16BitSamples(int bits);
+    /// Each pixel of a frame is the rounded mean of so many by so many of the sensor's.
+    void SetBinning(int binning);
     /// Exposes that often from now on; gives back the tick rate that the camera needs for it.
     double SetFrameRate(double framesPerSecond);
     void Start();
@@ -40,11 +43,14 @@ private:
     bool IsTickDue();
     quint64 NextFrameId(quint64 cameraId);
     SceneFrame FrameFor(ArvBuffer *buffer) const;
+    void FillBinned(const SceneFrame &frame);
 
     mutable std::mutex m_mutex;
     std::unique_ptr<Scene> m_scene;
     const QSize m_sensorSize;
     int m_bitDepth16 = 16;
+    int m_binning = 1;
+    std::vector<uchar> m_unbinned;
     int m_ticksPerFrame = 1;
     int m_ticksToFrame = 1;
     bool m_isRunning = false;
