@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr double DiskBound = 1 / 0.9;    // at least 0.9 times the plain rate
+constexpr double DiskBound = 1 / 0.9;     // at least 0.9 times the plain rate
 constexpr double DisplayBound = 1 / 0.98; // at least 0.98 times the rate without display
 constexpr int Side = 2048;
 constexpr int FramesOnDisk = 48;
@@ -105,8 +105,9 @@ QVector<BenchmarkResult> MeasureDisk()
     const CameraFrame frame = FrameOf(Side, 0);
     PlainWrite plain;
     RecordedWrite recorded;
-    return {MeasureRatio(QString("recording %1 frames %2 x %2, 16 bit, to disk").arg(FramesOnDisk).arg(Side), DiskBound, DiskRounds,
-                         [&] { plain.Run(folder.path(), frame); }, [&] { recorded.Run(folder.path(), frame); })};
+    return { MeasureRatio(
+        QString("recording %1 frames %2 x %2, 16 bit, to disk").arg(FramesOnDisk).arg(Side), DiskBound,
+        DiskRounds, [&] { plain.Run(folder.path(), frame); }, [&] { recorded.Run(folder.path(), frame); }) };
 }
 
 /// A camera that sends at a rate, or as fast as the recording takes frames without losing one.
@@ -146,7 +147,8 @@ private:
             CameraFrame frame = m_frames[int(id % quint64(m_frames.size()))];
             frame.frameId = id;
             if (m_framesPerSecond > 0)
-                std::this_thread::sleep_until(start + duration_cast<nanoseconds>(duration<double>(double(id) / m_framesPerSecond)));
+                std::this_thread::sleep_until(
+                    start + duration_cast<nanoseconds>(duration<double>(double(id) / m_framesPerSecond)));
             while (m_framesPerSecond <= 0 && m_runs && m_saving->Queue().Count() >= WaitingAtMost)
                 std::this_thread::sleep_for(microseconds(200));
             sink->OnFrame(frame);
@@ -156,7 +158,7 @@ private:
     const QVector<CameraFrame> m_frames;
     const double m_framesPerSecond;
     const FrameSaving *m_saving = nullptr;
-    std::atomic<bool> m_runs{false};
+    std::atomic<bool> m_runs{ false };
     std::thread m_thread;
 };
 
@@ -214,7 +216,7 @@ struct Display
     }
 
     LevelsModel model;
-    LiveLevels levels{&model};
+    LiveLevels levels{ &model };
     LiveOrientation orientation;
     LivePreview preview;
     QLabel window;
@@ -226,27 +228,28 @@ BenchmarkResult MeasureRam()
     const QTemporaryDir folder(QDir::currentPath() + "/bench-XXXXXX");
     const CameraFrame frame = FrameOf(Side, 0);
     const double rate = double(CameraBytesPerSecond) / double(frame.ByteCount());
-    PacedCamera camera({frame}, rate);
+    PacedCamera camera({ frame }, rate);
     FrameTee tee(&camera);
-    FrameSaving saving{RunRegister(folder.filePath("register"))};
+    FrameSaving saving{ RunRegister(folder.filePath("register")) };
     RunOrder order = OrderOf(folder.path(), frame, int(rate * Seconds));
     order.settings.toRam = true;
     order.settings.queueMB = RecordingSettings::LeastQueueMB;
     const RunTime time = Record(&saving, &tee, order);
-    return {"frames lost of a camera at 1 GB/s, to memory", "frames", 0, double(time.receipt.outcome.counts.Lost()), 0};
+    return { "frames lost of a camera at 1 GB/s, to memory", "frames", 0,
+             double(time.receipt.outcome.counts.Lost()), 0 };
 }
 
 BenchmarkResult MeasureDisplay()
 {
     constexpr int Rounds = 5;
     const QTemporaryDir folder(QDir::currentPath() + "/bench-XXXXXX");
-    const QVector<CameraFrame> frames{FrameOf(Side, 0), FrameOf(Side, 1)};
-    double best[2] = {0, 0};
+    const QVector<CameraFrame> frames{ FrameOf(Side, 0), FrameOf(Side, 1) };
+    double best[2] = { 0, 0 };
     for (int round = 0; round < 2 * Rounds; ++round) {
         const bool isShown = round % 2 == 1;
         PacedCamera camera(frames, 0);
         FrameTee tee(&camera);
-        FrameSaving saving{RunRegister(folder.filePath("register"))};
+        FrameSaving saving{ RunRegister(folder.filePath("register")) };
         camera.Follow(&saving);
         Display display(&tee);
         display.preview.SetLeastPeriod(LivePreview::PeriodBesideRecordingMs); // as the program does
@@ -257,7 +260,8 @@ BenchmarkResult MeasureDisplay()
         if (best[isShown] == 0 || time.seconds < best[isShown])
             best[isShown] = time.seconds;
     }
-    return {"recording to disk while it is shown, against not shown", "ms", best[0] * 1000, best[1] * 1000, DisplayBound};
+    return { "recording to disk while it is shown, against not shown", "ms", best[0] * 1000, best[1] * 1000,
+             DisplayBound };
 }
 
 BenchmarkResult MeasureLongRun()
@@ -266,12 +270,12 @@ BenchmarkResult MeasureLongRun()
     constexpr double Rate = 1000;
     const QTemporaryDir folder(QDir::currentPath() + "/bench-XXXXXX");
     const CameraFrame frame = FrameOf(SmallSide, 0);
-    PacedCamera camera({frame}, Rate);
+    PacedCamera camera({ frame }, Rate);
     FrameTee tee(&camera);
-    FrameSaving saving{RunRegister(folder.filePath("register"))};
+    FrameSaving saving{ RunRegister(folder.filePath("register")) };
     const RunTime time = Record(&saving, &tee, OrderOf(folder.path(), frame, LongRunFrames));
-    return {QString("frames lost of %1 at %2 frames/s").arg(LongRunFrames).arg(Rate), "frames", 0,
-            double(time.receipt.outcome.counts.Lost()), 0};
+    return { QString("frames lost of %1 at %2 frames/s").arg(LongRunFrames).arg(Rate), "frames", 0,
+             double(time.receipt.outcome.counts.Lost()), 0 };
 }
 
 } // namespace

@@ -67,7 +67,8 @@ CameraDialog::CameraDialog(CameraLink *link, QWidget *parent)
 }
 
 /// A value is sent when it is whole, not with each digit.
-QDoubleSpinBox *CameraDialog::AddValue(QFormLayout *form, const QString &text, const char *name, const QString &suffix, QCheckBox *automatic)
+QDoubleSpinBox *CameraDialog::AddValue(QFormLayout *form, const QString &text, const char *name,
+                                       const QString &suffix, QCheckBox *automatic)
 {
     auto *box = new QDoubleSpinBox(this);
     box->setObjectName(name);
@@ -99,8 +100,9 @@ void CameraDialog::slotRefresh()
 void CameraDialog::UpdateUI()
 {
     CameraSession *session = m_link->Session();
-    for (QWidget *widget : {static_cast<QWidget *>(m_exposure), static_cast<QWidget *>(m_gain), static_cast<QWidget *>(m_rate),
-                            static_cast<QWidget *>(m_autoExposure), static_cast<QWidget *>(m_autoGain)})
+    for (QWidget *widget :
+         { static_cast<QWidget *>(m_exposure), static_cast<QWidget *>(m_gain), static_cast<QWidget *>(m_rate),
+           static_cast<QWidget *>(m_autoExposure), static_cast<QWidget *>(m_autoGain) })
         widget->setEnabled(false);
     m_refresh.stop();
     if (!session)

@@ -32,7 +32,8 @@ private slots:
     void slotSetAutoGain(bool isAuto);
 
 private:
-    QDoubleSpinBox *AddValue(QFormLayout *form, const QString &text, const char *name, const QString &suffix, QCheckBox *automatic);
+    QDoubleSpinBox *AddValue(QFormLayout *form, const QString &text, const char *name, const QString &suffix,
+                             QCheckBox *automatic);
     void UpdateUI();
     void Show(bool done, const QString &error);
 

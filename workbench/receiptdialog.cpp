@@ -61,10 +61,7 @@ ReceiptDialog::ReceiptDialog(const RunReceipt &receipt, QWidget *parent)
     setMinimumWidth(fontMetrics().averageCharWidth() * 70);
 }
 
-ReceiptDialog::~ReceiptDialog()
-{
-    m_worker.waitForDone();
-}
+ReceiptDialog::~ReceiptDialog() { m_worker.waitForDone(); }
 
 void ReceiptDialog::slotVerify()
 {
@@ -74,7 +71,8 @@ void ReceiptDialog::slotVerify()
         quint64 checksum = 0;
         QString error;
         RunChecksum::OfFiles(m_receipt.files, &checksum, &error);
-        QMetaObject::invokeMethod(this, [this, checksum, error] { Show(checksum, error); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, checksum, error] { Show(checksum, error); }, Qt::QueuedConnection);
     });
 }
 
@@ -86,5 +84,6 @@ void ReceiptDialog::Show(quint64 checksum, const QString &error)
     else if (checksum == RunChecksum::OfRun(m_receipt.stamps))
         m_verdict->setText(tr("The files hold exactly what was captured."));
     else
-        m_verdict->setText(tr("The files do NOT hold what was captured: checksum %1.").arg(RunChecksum::ToText(checksum)));
+        m_verdict->setText(
+            tr("The files do NOT hold what was captured: checksum %1.").arg(RunChecksum::ToText(checksum)));
 }

@@ -13,7 +13,7 @@
 namespace {
 /// Of the free memory, what frames kept in memory may take.
 constexpr double RamShare = 0.9;
-}
+} // namespace
 
 RecordingDesk::RecordingDesk(const Parts &parts, QObject *parent)
     : QObject(parent)
@@ -30,10 +30,7 @@ RecordingDesk::~RecordingDesk()
     m_parts.tee->StopRecording();
 }
 
-bool RecordingDesk::IsBusy() const
-{
-    return m_isPreparing || m_parts.saving->IsBusy();
-}
+bool RecordingDesk::IsBusy() const { return m_isPreparing || m_parts.saving->IsBusy(); }
 
 void RecordingDesk::slotCapture(bool record, bool single)
 {
@@ -53,7 +50,8 @@ void RecordingDesk::slotCapture(bool record, bool single)
     SetPreparing(true);
     m_worker.start([this, folder = settings.Folder()] {
         const RunResources resources = RunResources::Read(folder);
-        QMetaObject::invokeMethod(this, [this, resources] { TakeResources(resources); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, resources] { TakeResources(resources); }, Qt::QueuedConnection);
     });
 }
 
@@ -91,7 +89,8 @@ bool RecordingDesk::MakeOrder(const RecordingSettings &settings, const QString &
     facts.frameSize = session->Format().FrameSize();
     facts.layout = session->Format().Layout();
     facts.start = QDateTime::currentDateTimeUtc().addMSecs(settings.DelayMs());
-    facts.software = QString("%1 %2").arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion());
+    facts.software =
+        QString("%1 %2").arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion());
     return true;
 }
 
@@ -101,7 +100,8 @@ void RecordingDesk::TakeResources(const RunResources &resources)
         return; // stopped meanwhile
     if (resources.freeMemoryBytes >= 0)
         m_order.ramBytes = qint64(double(resources.freeMemoryBytes) * RamShare);
-    m_estimate = RunEstimate::Make(m_order.settings, m_order.facts.FrameBytes(), m_order.facts.framesPerSecond, resources);
+    m_estimate = RunEstimate::Make(m_order.settings, m_order.facts.FrameBytes(),
+                                   m_order.facts.framesPerSecond, resources);
     if (m_estimate.warning.isEmpty())
         GoOn();
     else
@@ -123,10 +123,7 @@ void RecordingDesk::GoOnShortened()
     GoOn();
 }
 
-void RecordingDesk::CancelPreparedRun()
-{
-    SetPreparing(false);
-}
+void RecordingDesk::CancelPreparedRun() { SetPreparing(false); }
 
 void RecordingDesk::SetPreparing(bool preparing)
 {
@@ -187,7 +184,9 @@ QString RecordingDesk::EndSentence(const RunReceipt &receipt)
         return receipt.error;
     if (receipt.files.isEmpty())
         return tr("The recording was discarded.");
-    const QString saved = tr("%1 frames saved as %2").arg(receipt.outcome.counts.saved).arg(QFileInfo(receipt.files.first()).fileName());
+    const QString saved = tr("%1 frames saved as %2")
+                              .arg(receipt.outcome.counts.saved)
+                              .arg(QFileInfo(receipt.files.first()).fileName());
     const quint64 lost = receipt.outcome.counts.Lost();
     return lost == 0 ? tr("%1, none lost.").arg(saved) : tr("%1, %2 LOST.").arg(saved).arg(lost);
 }

@@ -37,22 +37,24 @@ RecordingForm::RecordingForm(QWidget *parent)
     , m_frames(AddNumber("spinBoxFrames", 1, RecordingSettings::MostFrames, tr(" frames")))
     , m_seconds(AddNumber("spinBoxSeconds", 1, RecordingSettings::MostSeconds, tr(" s")))
     , m_delay(SecondsBox(this, "doubleSpinBoxDelay", RecordingSettings::MostDelayMinutes * 60.0, tr("none")))
-    , m_interval(SecondsBox(this, "doubleSpinBoxInterval", RecordingSettings::LongestIntervalMs / MsPerSecond, tr("every frame")))
+    , m_interval(SecondsBox(this, "doubleSpinBoxInterval", RecordingSettings::LongestIntervalMs / MsPerSecond,
+                            tr("every frame")))
     , m_target(new QComboBox(this))
     , m_format(new QComboBox(this))
     , m_folder(new QLineEdit(this))
     , m_pattern(new QLineEdit(this))
     , m_name(new QLabel(this))
-    , m_queue(AddNumber("spinBoxQueue", RecordingSettings::LeastQueueMB, RecordingSettings::MostQueueMB, tr(" MB")))
+    , m_queue(AddNumber("spinBoxQueue", RecordingSettings::LeastQueueMB, RecordingSettings::MostQueueMB,
+                        tr(" MB")))
 {
     BuildForm();
-    for (QComboBox *box : {m_mode, m_target, m_format})
+    for (QComboBox *box : { m_mode, m_target, m_format })
         connect(box, SIGNAL(currentIndexChanged(int)), this, SLOT(slotChanged()));
-    for (QSpinBox *box : {m_frames, m_seconds, m_queue})
+    for (QSpinBox *box : { m_frames, m_seconds, m_queue })
         connect(box, SIGNAL(valueChanged(int)), this, SLOT(slotChanged()));
-    for (QDoubleSpinBox *box : {m_delay, m_interval})
+    for (QDoubleSpinBox *box : { m_delay, m_interval })
         connect(box, SIGNAL(valueChanged(double)), this, SLOT(slotChanged()));
-    for (QLineEdit *edit : {m_folder, m_pattern})
+    for (QLineEdit *edit : { m_folder, m_pattern })
         connect(edit, SIGNAL(textChanged(QString)), this, SLOT(slotChanged()));
     Set(RecordingSettings());
 }
@@ -69,14 +71,15 @@ QSpinBox *RecordingForm::AddNumber(const char *name, int least, int most, const 
 void RecordingForm::BuildForm()
 {
     m_mode->setObjectName("comboBoxMode");
-    m_mode->addItems({tr("One frame"), tr("Number of frames"), tr("Duration"), tr("Until stopped")});
+    m_mode->addItems({ tr("One frame"), tr("Number of frames"), tr("Duration"), tr("Until stopped") });
     m_target->setObjectName("comboBoxTarget");
-    m_target->addItems({tr("To disk"), tr("To memory, then to disk")});
+    m_target->addItems({ tr("To disk"), tr("To memory, then to disk") });
     m_format->setObjectName("comboBoxFormat");
-    m_format->addItems({tr("TIFF"), tr("FITS cube"), tr("PNG sequence")});
+    m_format->addItems({ tr("TIFF"), tr("FITS cube"), tr("PNG sequence") });
     m_folder->setObjectName("lineEditFolder");
     m_pattern->setObjectName("lineEditPattern");
-    m_pattern->setToolTip(tr("{camera}, {date}, {time}, {exposure}, {gain}, {number} and {number:4} are filled in."));
+    m_pattern->setToolTip(
+        tr("{camera}, {date}, {time}, {exposure}, {gain}, {number} and {number:4} are filled in."));
     m_name->setObjectName("labelName");
     m_name->setWordWrap(true);
     m_folder->setMinimumWidth(fontMetrics().averageCharWidth() * 40);
@@ -162,13 +165,15 @@ void RecordingForm::UpdateUI()
     m_seconds->setEnabled(mode == RecordingSettings::Mode::Duration);
     m_interval->setEnabled(mode != RecordingSettings::Mode::Single);
     const NamePattern pattern(m_pattern->text());
-    m_name->setText(pattern.Fault().isEmpty() ? pattern.Name(m_example, 1) + '.' + RunSuffix(RunFormat(m_format->currentIndex()))
-                                              : pattern.Fault());
+    m_name->setText(pattern.Fault().isEmpty()
+                        ? pattern.Name(m_example, 1) + '.' + RunSuffix(RunFormat(m_format->currentIndex()))
+                        : pattern.Fault());
 }
 
 void RecordingForm::slotChooseFolder()
 {
-    const QString folder = QFileDialog::getExistingDirectory(this, tr("Folder for Recordings"), m_folder->text());
+    const QString folder =
+        QFileDialog::getExistingDirectory(this, tr("Folder for Recordings"), m_folder->text());
     if (!folder.isEmpty())
         m_folder->setText(folder);
 }

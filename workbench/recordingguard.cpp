@@ -23,7 +23,8 @@ void RecordingGuard::Do(const QString &question, const std::function<void()> &ac
     if (m_isAsking)
         return;
     m_isAsking = true;
-    QMessageBox box(QMessageBox::Question, tr("Recording"), tr("A recording is running. %1").arg(question), QMessageBox::NoButton, m_window);
+    QMessageBox box(QMessageBox::Question, tr("Recording"), tr("A recording is running. %1").arg(question),
+                    QMessageBox::NoButton, m_window);
     box.setObjectName("RecordingQuestion");
     QPushButton *finish = box.addButton(tr("&Finish It"), QMessageBox::AcceptRole);
     finish->setToolTip(tr("Keep what was recorded until now"));

@@ -22,8 +22,10 @@ RecordingMenu::RecordingMenu(WorkbenchServices *services, QWidget *parent)
     , m_services(services)
 {
     LivePreview *preview = services->Preview();
-    m_capture = addAction(tr("&Capture"), [preview] { preview->FrameSave(false, false); }, QKeySequence("F10"));
-    m_single = addAction(tr("Capture &One Frame"), [preview] { preview->FrameSave(false, true); }, QKeySequence("Shift+F10"));
+    m_capture = addAction(
+        tr("&Capture"), [preview] { preview->FrameSave(false, false); }, QKeySequence("F10"));
+    m_single = addAction(
+        tr("Capture &One Frame"), [preview] { preview->FrameSave(false, true); }, QKeySequence("Shift+F10"));
     m_discard = addAction(tr("&Discard"), services->Recording(), SLOT(slotDiscard()));
     addSeparator();
     m_settings = addAction(tr("&Settings…"), this, SLOT(slotShowSettings()), QKeySequence("Ctrl+Shift+R"));
@@ -58,7 +60,7 @@ void RecordingMenu::slotShowSettings()
     auto *form = new RecordingForm(&dialog);
     SaveSettings *settings = m_services->Recording()->Settings();
     form->Set(settings->Get());
-    NamePattern::Values example{m_services->Link()->Name(), QDateTime::currentDateTime(), 0, 0};
+    NamePattern::Values example{ m_services->Link()->Name(), QDateTime::currentDateTime(), 0, 0 };
     if (CameraSession *session = m_services->Link()->Session()) {
         example.exposureUs = session->Controls().ExposureUs();
         example.gain = session->Controls().Gain();
@@ -80,7 +82,8 @@ void RecordingMenu::slotRoomIsShort(QString warning, bool canBeShortened)
     RecordingDesk *desk = m_services->Recording();
     QMessageBox box(QMessageBox::Warning, tr("Recording"), warning, QMessageBox::NoButton, parentWidget());
     box.setObjectName("RoomIsShort");
-    QPushButton *shorten = canBeShortened ? box.addButton(tr("&Record What Fits"), QMessageBox::AcceptRole) : nullptr;
+    QPushButton *shorten =
+        canBeShortened ? box.addButton(tr("&Record What Fits"), QMessageBox::AcceptRole) : nullptr;
     QPushButton *goOn = box.addButton(tr("Record &Anyway"), QMessageBox::DestructiveRole);
     box.setEscapeButton(box.addButton(QMessageBox::Cancel));
     box.exec();
@@ -103,6 +106,6 @@ void RecordingMenu::slotShowReceipt()
 {
     auto *dialog = new ReceiptDialog(m_services->Recording()->LastReceipt(), parentWidget());
     connect(dialog, &ReceiptDialog::signalOpenFile, m_services->Desk(),
-            [desk = m_services->Desk()](const QString &path) { desk->Open({path}, desk->MainPicture()); });
+            [desk = m_services->Desk()](const QString &path) { desk->Open({ path }, desk->MainPicture()); });
     dialog->show();
 }

@@ -10,7 +10,7 @@ namespace {
 constexpr int UpdatePeriodMs = 250;
 constexpr double MsPerSecond = 1000.0;
 constexpr double LongestForecast = 3600; // seconds; beyond it the disk keeps up
-}
+} // namespace
 
 RecordingStatus::RecordingStatus(const RecordingDesk *desk, QLabel *label, QObject *parent)
     : QObject(parent)
@@ -29,8 +29,9 @@ QString RecordingStatus::Text(const Facts &facts)
     if (facts.lost > 0)
         text += tr("  LOST %1").arg(facts.lost);
     text += tr("  waiting %1 (%2)").arg(facts.waiting).arg(ByteText(facts.waitingBytes));
-    const double seconds = facts.growthBytesPerSecond > 0 ? double(facts.budgetBytes - facts.waitingBytes) / facts.growthBytesPerSecond
-                                                          : LongestForecast;
+    const double seconds = facts.growthBytesPerSecond > 0
+                               ? double(facts.budgetBytes - facts.waitingBytes) / facts.growthBytesPerSecond
+                               : LongestForecast;
     if (seconds < LongestForecast)
         text += tr("  queue full in %1 s").arg(qMax(0.0, seconds), 0, 'f', 0);
     return text;
@@ -64,7 +65,8 @@ void RecordingStatus::slotUpdate()
     facts.budgetBytes = saving->Queue().BudgetBytes();
     const qint64 elapsedMs = m_sinceLast.restart();
     if (elapsedMs > 0)
-        facts.growthBytesPerSecond = double(facts.waitingBytes - m_lastBytes) * MsPerSecond / double(elapsedMs);
+        facts.growthBytesPerSecond =
+            double(facts.waitingBytes - m_lastBytes) * MsPerSecond / double(elapsedMs);
     m_lastBytes = facts.waitingBytes;
     m_label->setText(Text(facts));
 }

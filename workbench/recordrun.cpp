@@ -13,8 +13,8 @@ namespace {
 constexpr int MsPerSecond = 1000;
 }
 
-RecordRun::RecordRun(const CameraLink *link, RecordingDesk *desk, const RecordingSettings &settings, const QString &path,
-                     int longestSeconds, QObject *parent)
+RecordRun::RecordRun(const CameraLink *link, RecordingDesk *desk, const RecordingSettings &settings,
+                     const QString &path, int longestSeconds, QObject *parent)
     : QObject(parent)
     , m_link(link)
     , m_desk(desk)

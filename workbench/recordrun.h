@@ -20,8 +20,8 @@ public:
 
     /// Both are borrowed and outlive this object.
     /// `longestSeconds` ends a run that has not got all of its frames by then; 0 sets no limit.
-    RecordRun(const CameraLink *link, RecordingDesk *desk, const RecordingSettings &settings, const QString &path,
-              int longestSeconds, QObject *parent = nullptr);
+    RecordRun(const CameraLink *link, RecordingDesk *desk, const RecordingSettings &settings,
+              const QString &path, int longestSeconds, QObject *parent = nullptr);
 
 private slots:
     void slotCameraStateChanged();

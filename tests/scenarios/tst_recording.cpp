@@ -34,7 +34,7 @@
 namespace {
 constexpr int MsToWait = 60000;
 constexpr QRect SmallRegion(512, 512, 256, 128);
-}
+} // namespace
 
 /// A person records what the camera delivers.
 class Recording : public GuardedTest
@@ -83,7 +83,8 @@ private slots:
         QVERIFY(!panel->isVisible());
         QTest::mouseClick(Button("pushButtonCapture"), Qt::LeftButton);
         QTRY_VERIFY_WITH_TIMEOUT(panel->isVisible(), MsToWait);
-        QVERIFY2(frames->text().startsWith("To Disk : ") && frames->text().endsWith(" / 20"), qPrintable(frames->text()));
+        QVERIFY2(frames->text().startsWith("To Disk : ") && frames->text().endsWith(" / 20"),
+                 qPrintable(frames->text()));
         QTRY_VERIFY(Button("pushButtonCaptureChecked"));
         const RunReceipt receipt = Receipt();
         QCOMPARE(frames->text(), QString("To Disk : 20 / 20"));
@@ -91,7 +92,8 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(!panel->isVisible(), MsToWait);
         QVERIFY(Button("pushButtonCapture"));
         CompareWithTheScene(receipt, 20);
-        QVERIFY2(m_workbench->StatusText().contains("20 frames saved as run1.tif, none lost."), qPrintable(m_workbench->StatusText()));
+        QVERIFY2(m_workbench->StatusText().contains("20 frames saved as run1.tif, none lost."),
+                 qPrintable(m_workbench->StatusText()));
         QVERIFY(m_workbench->services.Preview()->isRunning());
     }
 
@@ -124,7 +126,8 @@ private slots:
         const RunReceipt receipt = Receipt();
         QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
         QCOMPARE(receipt.stamps.size(), 4);
-        QVERIFY(receipt.stamps.last().hostTimeNs - receipt.stamps.first().hostTimeNs > 300000000); // the third of three intervals began
+        QVERIFY(receipt.stamps.last().hostTimeNs - receipt.stamps.first().hostTimeNs
+                > 300000000); // the third of three intervals began
         CompareWithTheScene(receipt, 4);
     }
 
@@ -145,7 +148,8 @@ private slots:
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);
         QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 3, MsToWait);
         m_workbench->link.SetRegion(QRect(0, 0, 64, 64));
-        QVERIFY2(m_workbench->StatusText().contains("while a recording runs"), qPrintable(m_workbench->StatusText()));
+        QVERIFY2(m_workbench->StatusText().contains("while a recording runs"),
+                 qPrintable(m_workbench->StatusText()));
         QCOMPARE(m_workbench->link.Session()->Format().Region(), SmallRegion);
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);
         const RunReceipt receipt = Receipt();
@@ -183,7 +187,7 @@ private slots:
         }
         Receipt();
         QTRY_COMPARE_WITH_TIMEOUT(m_workbench->window.isVisible(), !closes, MsToWait);
-        QCOMPARE(QDir(m_folder->path()).entryList({"run*.tif"}).size(), files);
+        QCOMPARE(QDir(m_folder->path()).entryList({ "run*.tif" }).size(), files);
     }
 
     void exposureSetByHandIsWhatTheFileTells()
@@ -204,7 +208,8 @@ private slots:
         QVERIFY(exposure->value() <= 10000.0);
         QCOMPARE(m_workbench->link.Session()->Controls().ExposureUs(), exposure->value() * 1000);
         exposure->setValue(4.5);
-        QVERIFY(!dialog->findChild<QCheckBox *>("checkBoxAutoExposure")->isEnabled()); // the simulated camera has none
+        QVERIFY(!dialog->findChild<QCheckBox *>("checkBoxAutoExposure")
+                     ->isEnabled()); // the simulated camera has none
         auto *rate = dialog->findChild<QDoubleSpinBox *>("doubleSpinBoxFrameRate");
         rate->setValue(1000);
         QVERIFY(rate->value() <= 1e6 / 4500 + 0.01); // as the exposure bounds it
@@ -246,7 +251,7 @@ private slots:
         for (int y = 0; y < picture.Height(); ++y) {
             for (int x = 0; x < picture.Width(); ++x) {
                 int sum = 0;
-                for (const QPoint &part : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
+                for (const QPoint &part : { QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1) }) {
                     const QPoint place = SmallRegion.topLeft() + QPoint(2 * x, 2 * y) + part;
                     sum += TestChartScene::ExpectedValue(place.x(), place.y(), 2048, 2048, 8);
                 }
@@ -311,7 +316,7 @@ private:
         QVERIFY2(file, qPrintable(error));
         QCOMPARE(file->Info().frames, frames);
         QVERIFY(frames > 0);
-        for (const int index : {0, frames - 1}) {
+        for (const int index : { 0, frames - 1 }) {
             Picture picture;
             QVERIFY2(file->ReadFrame(index, picture, error), qPrintable(error));
             QCOMPARE(picture.Size(), SmallRegion.size());
@@ -319,7 +324,8 @@ private:
             for (int y = 0; y < SmallRegion.height(); ++y) {
                 for (int x = 0; x < SmallRegion.width(); ++x) {
                     const QPoint place = SmallRegion.topLeft() + QPoint(x, y);
-                    QCOMPARE(int(seen.Row(y)[x]), TestChartScene::ExpectedValue(place.x(), place.y(), 2048, 2048, 8));
+                    QCOMPARE(int(seen.Row(y)[x]),
+                             TestChartScene::ExpectedValue(place.x(), place.y(), 2048, 2048, 8));
                 }
             }
         }

@@ -12,25 +12,13 @@ FrameTee::~FrameTee()
     StopFrames();
 }
 
-bool FrameTee::StartFrames(FrameSink *display)
-{
-    return Start(&m_display, display);
-}
+bool FrameTee::StartFrames(FrameSink *display) { return Start(&m_display, display); }
 
-void FrameTee::StopFrames()
-{
-    Stop(&m_display);
-}
+void FrameTee::StopFrames() { Stop(&m_display); }
 
-bool FrameTee::StartRecording(FrameSink *recording)
-{
-    return Start(&m_recording, recording);
-}
+bool FrameTee::StartRecording(FrameSink *recording) { return Start(&m_recording, recording); }
 
-void FrameTee::StopRecording()
-{
-    Stop(&m_recording);
-}
+void FrameTee::StopRecording() { Stop(&m_recording); }
 
 bool FrameTee::Start(FrameSink **place, FrameSink *sink)
 {

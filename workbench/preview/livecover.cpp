@@ -14,10 +14,7 @@ constexpr char kOpacityKey[] = "Cover/Opacity";
 constexpr float kDefaultOpacity = 0.75F;
 
 /// The darkness of a cover comes from outside: from the settings file, too.
-float ValidOpacity(float opacity)
-{
-    return opacity >= 0.0F && opacity <= 1.0F ? opacity : kDefaultOpacity;
-}
+float ValidOpacity(float opacity) { return opacity >= 0.0F && opacity <= 1.0F ? opacity : kDefaultOpacity; }
 
 } // namespace
 
@@ -45,10 +42,7 @@ void LiveCover::ShowIn(QGraphicsScene *scene)
     LayItem();
 }
 
-QRect LiveCover::Rect() const
-{
-    return HasCover() ? m_orientation->Get().Map(m_part, m_frameSize) : QRect();
-}
+QRect LiveCover::Rect() const { return HasCover() ? m_orientation->Get().Map(m_part, m_frameSize) : QRect(); }
 
 void LiveCover::SetOpacity(float opacity)
 {
@@ -106,10 +100,7 @@ void LiveCover::slotSetPictureSize(QSize size)
     ResetCover();
 }
 
-void LiveCover::slotOrientationChanged()
-{
-    ShowCover();
-}
+void LiveCover::slotOrientationChanged() { ShowCover(); }
 
 /// Tells the frame, which edits the cover when it is drawn anew, and lays it into the picture.
 void LiveCover::ShowCover()

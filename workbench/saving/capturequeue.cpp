@@ -33,7 +33,8 @@ bool CaptureQueue::Put(const CameraFrame &frame)
 CameraFrame CaptureQueue::Take(int timeoutMs)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    m_changed.wait_for(lock, std::chrono::milliseconds(timeoutMs), [this] { return !m_frames.empty() || !m_isOpen; });
+    m_changed.wait_for(lock, std::chrono::milliseconds(timeoutMs),
+                       [this] { return !m_frames.empty() || !m_isOpen; });
     if (m_frames.empty())
         return CameraFrame();
     CameraFrame frame = std::move(m_frames.front());

@@ -4,7 +4,7 @@
 namespace {
 /// Written behind in pieces of this size, so that the last synchronisation has little left to do.
 constexpr qint64 WriteBehindBytes = 32 << 20;
-}
+} // namespace
 
 bool CubeFile::Create(const QString &path, const QByteArray &header, qint64 frameBytes, FileFault &fault)
 {
@@ -15,7 +15,8 @@ bool CubeFile::Create(const QString &path, const QByteArray &header, qint64 fram
     return m_disk.Create(path, fault) && m_disk.Write(header.constData(), header.size(), fault);
 }
 
-bool CubeFile::Reopen(const QString &path, qint64 headerBytes, qint64 frameBytes, int *frames, FileFault &fault)
+bool CubeFile::Reopen(const QString &path, qint64 headerBytes, qint64 frameBytes, int *frames,
+                      FileFault &fault)
 {
     m_headerBytes = headerBytes;
     m_frameBytes = frameBytes;

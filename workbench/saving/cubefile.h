@@ -13,8 +13,14 @@ public:
     bool Append(const void *frame, FileFault &fault);
     bool CutTo(int frames, FileFault &fault);
     /// Behind the last frame.
-    bool WriteEnd(const QByteArray &bytes, FileFault &fault) { return m_disk.Write(bytes.constData(), bytes.size(), fault); }
-    bool WriteHeader(const QByteArray &bytes, FileFault &fault) { return m_disk.WriteAt(0, bytes.constData(), bytes.size(), fault); }
+    bool WriteEnd(const QByteArray &bytes, FileFault &fault)
+    {
+        return m_disk.Write(bytes.constData(), bytes.size(), fault);
+    }
+    bool WriteHeader(const QByteArray &bytes, FileFault &fault)
+    {
+        return m_disk.WriteAt(0, bytes.constData(), bytes.size(), fault);
+    }
     bool Synchronise(FileFault &fault) { return m_disk.Synchronise(fault); }
     void Close() { m_disk.Close(); }
     const QString &Path() const { return m_disk.Path(); }

@@ -20,10 +20,7 @@ constexpr int CardBytes = 80;
 constexpr int HeaderBytes = 8 * BlockBytes;
 constexpr quint16 SignBit = 0x8000; ///< what BZERO 32768 does to the samples
 
-QString Translate(const char *text)
-{
-    return QCoreApplication::translate("FitsRunWriter", text);
-}
+QString Translate(const char *text) { return QCoreApplication::translate("FitsRunWriter", text); }
 
 QByteArray Card(const char *keyword, const QByteArray &value)
 {
@@ -50,8 +47,8 @@ FitsRunWriter::FitsRunWriter(const QString &path)
 
 QByteArray FitsRunWriter::Header(int frames) const
 {
-    QByteArray header = Card("SIMPLE", "T") + Card("BITPIX", QByteArray::number(Facts().BitsPerSample())) + Card("NAXIS", "3")
-                        + Card("NAXIS1", QByteArray::number(Facts().frameSize.width()))
+    QByteArray header = Card("SIMPLE", "T") + Card("BITPIX", QByteArray::number(Facts().BitsPerSample()))
+                        + Card("NAXIS", "3") + Card("NAXIS1", QByteArray::number(Facts().frameSize.width()))
                         + Card("NAXIS2", QByteArray::number(Facts().frameSize.height()))
                         + Card("NAXIS3", QByteArray::number(frames)) + Card("EXTEND", "T");
     if (Facts().BitsPerSample() == 16)
@@ -63,7 +60,8 @@ QByteArray FitsRunWriter::Header(int frames) const
 bool FitsRunWriter::CreateData(FileFault &fault)
 {
     if (Facts().Channels() != 1)
-        return fault.Set(Translate("a FITS cube holds frames of one channel, not colour"), Translate("Record colour as TIFF or PNG."));
+        return fault.Set(Translate("a FITS cube holds frames of one channel, not colour"),
+                         Translate("Record colour as TIFF or PNG."));
     m_rows.resize(size_t(Facts().FrameBytes()));
     return m_cube.Create(UnfinishedPath(), Header(0), Facts().FrameBytes(), fault);
 }
@@ -94,17 +92,14 @@ bool FitsRunWriter::AppendFrame(const uchar *samples, const FrameStamp &, FileFa
     return m_cube.Append(m_rows.data(), fault);
 }
 
-bool FitsRunWriter::CutTo(int frames, FileFault &fault)
-{
-    return m_cube.CutTo(frames, fault);
-}
+bool FitsRunWriter::CutTo(int frames, FileFault &fault) { return m_cube.CutTo(frames, fault); }
 
 bool FitsRunWriter::Complete(const RunOutcome &outcome, FileFault &fault)
 {
     const qint64 rest = m_cube.OffsetOf(FramesWritten()) % BlockBytes;
     const QByteArray padding(rest > 0 ? int(BlockBytes - rest) : 0, '\0');
-    return m_cube.WriteEnd(padding, fault) && m_cube.WriteHeader(Header(FramesWritten()), fault) && AddFactsAndTable(outcome, fault)
-           && m_cube.Synchronise(fault);
+    return m_cube.WriteEnd(padding, fault) && m_cube.WriteHeader(Header(FramesWritten()), fault)
+           && AddFactsAndTable(outcome, fault) && m_cube.Synchronise(fault);
 }
 
 bool FitsRunWriter::AddFactsAndTable(const RunOutcome &outcome, FileFault &fault)
@@ -113,7 +108,7 @@ bool FitsRunWriter::AddFactsAndTable(const RunOutcome &outcome, FileFault &fault
     int status = 0;
     fitsfile *fits = nullptr;
     fits_open_diskfile(&fits, QFile::encodeName(UnfinishedPath()).constData(), READWRITE, &status);
-    for (const auto &lines : {Facts().Lines(), OutcomeLines(outcome, Stamps())}) {
+    for (const auto &lines : { Facts().Lines(), OutcomeLines(outcome, Stamps()) }) {
         for (const auto &line : lines) {
             const QByteArray text = (line.first + ": " + line.second).toLatin1();
             fits_write_comment(fits, text.constData(), &status);
@@ -125,16 +120,18 @@ bool FitsRunWriter::AddFactsAndTable(const RunOutcome &outcome, FileFault &fault
     fits_update_key(fits, TDOUBLE, "EXPTIME", &exposure, "[s] exposure of each frame", &status);
     fits_update_key(fits, TDOUBLE, "GAIN", &gain, "in the camera's unit", &status);
     fits_update_key(fits, TINT, "BITDEPTH", &depth, "bits of a sample that carry light", &status);
-    fits_update_key_str(fits, "INSTRUME", (Facts().vendor + ' ' + Facts().model).toLatin1().constData(), "camera", &status);
+    fits_update_key_str(fits, "INSTRUME", (Facts().vendor + ' ' + Facts().model).toLatin1().constData(),
+                        "camera", &status);
     fits_update_key_str(fits, "SERIALNO", Facts().serial.toLatin1().constData(), "of the camera", &status);
-    fits_update_key_str(fits, "DATE-OBS", Facts().start.toUTC().toString("yyyy-MM-ddTHH:mm:ss.zzz").toLatin1().constData(),
+    fits_update_key_str(fits, "DATE-OBS",
+                        Facts().start.toUTC().toString("yyyy-MM-ddTHH:mm:ss.zzz").toLatin1().constData(),
                         "start of the recording (UTC)", &status);
 
-    const char *names[] = {"FRAMEID", "CAMTIME", "HOSTTIME"};
-    const char *formats[] = {"1K", "1K", "1K"};
-    const char *units[] = {"", "ns", "ns"};
-    fits_create_tbl(fits, BINARY_TBL, Stamps().size(), 3, const_cast<char **>(names), const_cast<char **>(formats),
-                    const_cast<char **>(units), "FRAMES", &status);
+    const char *names[] = { "FRAMEID", "CAMTIME", "HOSTTIME" };
+    const char *formats[] = { "1K", "1K", "1K" };
+    const char *units[] = { "", "ns", "ns" };
+    fits_create_tbl(fits, BINARY_TBL, Stamps().size(), 3, const_cast<char **>(names),
+                    const_cast<char **>(formats), const_cast<char **>(units), "FRAMES", &status);
     std::vector<LONGLONG> columns[3];
     for (const FrameStamp &stamp : Stamps()) {
         columns[0].push_back(LONGLONG(stamp.frameId));
@@ -142,14 +139,16 @@ bool FitsRunWriter::AddFactsAndTable(const RunOutcome &outcome, FileFault &fault
         columns[2].push_back(stamp.hostTimeNs);
     }
     for (int column = 0; column < 3; ++column)
-        fits_write_col(fits, TLONGLONG, column + 1, 1, 1, LONGLONG(columns[column].size()), columns[column].data(), &status);
+        fits_write_col(fits, TLONGLONG, column + 1, 1, 1, LONGLONG(columns[column].size()),
+                       columns[column].data(), &status);
     int closeStatus = 0;
     if (fits)
         fits_close_file(fits, &closeStatus);
     if (status == 0 && closeStatus == 0)
         return true;
     const int failed = status != 0 ? status : closeStatus;
-    fault.Set(Translate("its header or its table of frames could not be written"), DiskAdvice(), session.TakeMessages(failed));
+    fault.Set(Translate("its header or its table of frames could not be written"), DiskAdvice(),
+              session.TakeMessages(failed));
     fault.isDiskFull = failed == WRITE_ERROR;
     return false;
 }

@@ -53,7 +53,9 @@ QString RunReceipt::Text() const
     QString text;
     for (const auto &line : OutcomeLines(outcome, stamps))
         text += line.first + ": " + line.second + '\n';
-    for (const QString &file : files.size() > 3 ? QStringList{files.first(), "...", files[files.size() - 2], files.last()} : files)
+    for (const QString &file :
+         files.size() > 3 ? QStringList{ files.first(), "...", files[files.size() - 2], files.last() }
+                          : files)
         text += FrameSaving::tr("File") + ": " + file + '\n';
     if (!error.isEmpty())
         text += FrameSaving::tr("Error") + ": " + error + '\n';
@@ -175,8 +177,10 @@ QString FrameSaving::ChoosePath() const
 {
     if (!m_order.path.isEmpty())
         return m_order.path;
-    const NamePattern::Values values{m_order.camera, m_order.facts.start, m_order.facts.exposureUs, m_order.facts.gain};
-    return NamePattern(m_order.settings.pattern).NextFree(m_order.settings.Folder(), RunSuffix(m_order.settings.format), values);
+    const NamePattern::Values values{ m_order.camera, m_order.facts.start, m_order.facts.exposureUs,
+                                      m_order.facts.gain };
+    return NamePattern(m_order.settings.pattern)
+        .NextFree(m_order.settings.Folder(), RunSuffix(m_order.settings.format), values);
 }
 
 /// A folder that can't be written is found before anybody waits for the delay.
@@ -207,7 +211,8 @@ bool FrameSaving::WaitForDelay()
         if (m_pace->IsNewSecond(second))
             emit signalUpdateDelayTime(int(second));
         lock.lock();
-        const qint64 restMs = qMax(qint64(1), qMin(delayMs, (second + 1) * MsPerSecond) - (SteadyMs() - startMs));
+        const qint64 restMs =
+            qMax(qint64(1), qMin(delayMs, (second + 1) * MsPerSecond) - (SteadyMs() - startMs));
         m_changed.wait_for(lock, std::chrono::milliseconds(restMs), [this] { return m_isStopped; });
     }
     const bool goesOn = !m_isStopped;
@@ -310,7 +315,8 @@ CameraFrame FrameSaving::AsSeen(const CameraFrame &frame) const
     seen.height = size.height();
     seen.strideBytes = seen.width * BytesPerPixel(frame.layout);
     std::shared_ptr<uchar> pixels(new uchar[size_t(seen.ByteCount())], std::default_delete<uchar[]>());
-    const PixelRows rows{frame.pixels.get(), QSize(frame.width, frame.height), frame.strideBytes, BytesPerPixel(frame.layout)};
+    const PixelRows rows{ frame.pixels.get(), QSize(frame.width, frame.height), frame.strideBytes,
+                          BytesPerPixel(frame.layout) };
     MovePixels(rows, m_order.orientation, pixels.get(), seen.strideBytes);
     seen.pixels = pixels;
     return seen;

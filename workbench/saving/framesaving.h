@@ -20,11 +20,11 @@
 struct RunOrder
 {
     RecordingSettings settings;
-    RunFacts facts; ///< the size as the camera sends it
+    RunFacts facts;          ///< the size as the camera sends it
     Orientation orientation; ///< frames are saved as they are seen
-    QString camera; ///< for the name
-    QString path;   ///< empty: the next free name of the pattern
-    qint64 ramBytes = -1; ///< for frames kept in memory; -1 sets no limit
+    QString camera;          ///< for the name
+    QString path;            ///< empty: the next free name of the pattern
+    qint64 ramBytes = -1;    ///< for frames kept in memory; -1 sets no limit
     bool isRecord = false;
 };
 
@@ -52,7 +52,8 @@ class FrameSaving : public FrameSaveManager, public FrameSink
 public:
     using WriterMaker = std::function<std::unique_ptr<RunWriter>(RunFormat format, const QString &path)>;
 
-    explicit FrameSaving(const RunRegister &runs, WriterMaker maker = CreateRunWriter, QObject *parent = nullptr);
+    explicit FrameSaving(const RunRegister &runs, WriterMaker maker = CreateRunWriter,
+                         QObject *parent = nullptr);
     ~FrameSaving() override;
 
     /// False while a run is going on.

@@ -12,10 +12,7 @@ namespace {
 constexpr int LongestName = 200; // bytes; file systems take 255, and numbers and suffixes follow
 constexpr int MostDigits = 9;
 
-QString Translate(const char *text)
-{
-    return QCoreApplication::translate("NamePattern", text);
-}
+QString Translate(const char *text) { return QCoreApplication::translate("NamePattern", text); }
 
 const QRegularExpression &Token()
 {
@@ -48,10 +45,7 @@ QString Clean(QString name)
     return name.isEmpty() ? QString("recording") : name;
 }
 
-QString NumberText(double value)
-{
-    return QString::number(value, 'g', 9);
-}
+QString NumberText(double value) { return QString::number(value, 'g', 9); }
 
 } // namespace
 
@@ -63,7 +57,7 @@ NamePattern::NamePattern(const QString &pattern)
 
 void NamePattern::Check()
 {
-    static const QSet<QString> known{"camera", "date", "time", "exposure", "gain"};
+    static const QSet<QString> known{ "camera", "date", "time", "exposure", "gain" };
     QString rest = m_pattern;
     QRegularExpressionMatchIterator tokens = Token().globalMatch(m_pattern);
     while (tokens.hasNext()) {
@@ -71,8 +65,10 @@ void NamePattern::Check()
         const bool isNumber = DigitsOf(token) >= 0;
         m_hasNumber = m_hasNumber || isNumber;
         if (!isNumber && !known.contains(token) && m_fault.isEmpty()) {
-            m_fault = Translate("\"{%1}\" is not known. There are {camera}, {date}, {time}, {exposure}, {gain}, {number} and {number:4}.")
-                          .arg(token);
+            m_fault =
+                Translate(
+                    "\"{%1}\" is not known. There are {camera}, {date}, {time}, {exposure}, {gain}, {number} and {number:4}.")
+                    .arg(token);
         }
     }
     rest.remove(Token());
@@ -113,9 +109,11 @@ QString NamePattern::NextFree(const QString &folder, const QString &suffix, cons
     // One look into the folder: a name is taken with any ending, and as the start of a sequence.
     QSet<QString> taken;
     static const QRegularExpression frameNumber("_[0-9]{6}$");
-    for (const QString &file : QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)) {
+    for (const QString &file :
+         QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)) {
         QString name = file;
-        for (const QString &ending : {QString(".journal"), QString(".part"), QString(".tif"), QString(".fits"), QString(".png"), QString(".txt")}) {
+        for (const QString &ending : { QString(".journal"), QString(".part"), QString(".tif"),
+                                       QString(".fits"), QString(".png"), QString(".txt") }) {
             if (name.endsWith(ending))
                 name.chop(ending.size());
         }

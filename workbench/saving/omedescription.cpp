@@ -12,10 +12,7 @@ const QString Namespace = "http://www.openmicroscopy.org/Schemas/OME/2016-06";
 constexpr double NsPerSecond = 1e9;
 constexpr double UsPerSecond = 1e6;
 
-QString Number(double value)
-{
-    return QString::number(value, 'g', 15);
-}
+QString Number(double value) { return QString::number(value, 'g', 15); }
 
 void WriteInstrument(QXmlStreamWriter &xml, const RunFacts &facts)
 {
@@ -48,7 +45,8 @@ void WritePlanes(QXmlStreamWriter &xml, const RunFacts &facts, const QVector<Fra
         xml.writeAttribute("TheZ", "0");
         xml.writeAttribute("TheC", "0");
         xml.writeAttribute("TheT", QString::number(frame));
-        xml.writeAttribute("DeltaT", Number(double(stamps[frame].cameraTimeNs - stamps.first().cameraTimeNs) / NsPerSecond));
+        xml.writeAttribute(
+            "DeltaT", Number(double(stamps[frame].cameraTimeNs - stamps.first().cameraTimeNs) / NsPerSecond));
         xml.writeAttribute("ExposureTime", Number(facts.exposureUs / UsPerSecond));
         xml.writeAttribute("ExposureTimeUnit", "s");
     }
@@ -69,9 +67,9 @@ void WritePixels(QXmlStreamWriter &xml, const RunFacts &facts, const QVector<Fra
     xml.writeAttribute("SizeZ", "1");
     xml.writeAttribute("SizeT", QString::number(stamps.size()));
     if (facts.pixelSizeUm > 0) {
-        for (const char *side : {"PhysicalSizeX", "PhysicalSizeY"})
+        for (const char *side : { "PhysicalSizeX", "PhysicalSizeY" })
             xml.writeAttribute(side, Number(facts.pixelSizeUm));
-        for (const char *unit : {"PhysicalSizeXUnit", "PhysicalSizeYUnit"})
+        for (const char *unit : { "PhysicalSizeXUnit", "PhysicalSizeYUnit" })
             xml.writeAttribute(unit, QString::fromUtf8("\xc2\xb5m"));
     }
     if (facts.framesPerSecond > 0) {
@@ -94,7 +92,8 @@ void WriteEntry(QXmlStreamWriter &xml, const QString &key, const QString &value)
     xml.writeEndElement();
 }
 
-void WriteAnnotations(QXmlStreamWriter &xml, const RunFacts &facts, const RunOutcome &outcome, const QVector<FrameStamp> &stamps)
+void WriteAnnotations(QXmlStreamWriter &xml, const RunFacts &facts, const RunOutcome &outcome,
+                      const QVector<FrameStamp> &stamps)
 {
     xml.writeStartElement("StructuredAnnotations");
     xml.writeStartElement("MapAnnotation");
@@ -115,7 +114,10 @@ void WriteAnnotations(QXmlStreamWriter &xml, const RunFacts &facts, const RunOut
     for (int frame = 0; frame < stamps.size(); ++frame) {
         const FrameStamp &stamp = stamps[frame];
         WriteEntry(xml, QString::number(frame),
-                   QString("frame id %1; camera time %2 ns; host time %3 ns").arg(stamp.frameId).arg(stamp.cameraTimeNs).arg(stamp.hostTimeNs));
+                   QString("frame id %1; camera time %2 ns; host time %3 ns")
+                       .arg(stamp.frameId)
+                       .arg(stamp.cameraTimeNs)
+                       .arg(stamp.hostTimeNs));
     }
     xml.writeEndElement();
     xml.writeEndElement();
@@ -133,7 +135,8 @@ QByteArray OmeDescription(const RunFacts &facts, const RunOutcome &outcome, cons
     xml.writeStartElement("OME");
     xml.writeDefaultNamespace(Namespace);
     xml.writeNamespace("http://www.w3.org/2001/XMLSchema-instance", "xsi");
-    xml.writeAttribute("http://www.w3.org/2001/XMLSchema-instance", "schemaLocation", Namespace + ' ' + Namespace + "/ome.xsd");
+    xml.writeAttribute("http://www.w3.org/2001/XMLSchema-instance", "schemaLocation",
+                       Namespace + ' ' + Namespace + "/ome.xsd");
     xml.writeAttribute("Creator", facts.software);
     WriteInstrument(xml, facts);
     xml.writeStartElement("Image");
@@ -143,7 +146,7 @@ QByteArray OmeDescription(const RunFacts &facts, const RunOutcome &outcome, cons
     xml.writeEmptyElement("InstrumentRef");
     xml.writeAttribute("ID", "Instrument:0");
     WritePixels(xml, facts, stamps);
-    for (const char *annotation : {"Annotation:0", "Annotation:1"}) {
+    for (const char *annotation : { "Annotation:0", "Annotation:1" }) {
         xml.writeEmptyElement("AnnotationRef");
         xml.writeAttribute("ID", annotation);
     }

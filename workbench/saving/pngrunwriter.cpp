@@ -13,21 +13,12 @@ namespace {
 /// Of 0 to 100: little compression, for speed.
 constexpr int PngQuality = 90;
 
-QString Translate(const char *text)
-{
-    return QCoreApplication::translate("PngRunWriter", text);
-}
+QString Translate(const char *text) { return QCoreApplication::translate("PngRunWriter", text); }
 
-QString UnfinishedName(const QString &path)
-{
-    return path + ".part";
-}
+QString UnfinishedName(const QString &path) { return path + ".part"; }
 
 /// Qt takes a keyword with a space for a part of the text.
-QString Keyword(QString name)
-{
-    return name.remove(' ');
-}
+QString Keyword(QString name) { return name.remove(' '); }
 
 QImage::Format ImageFormat(const RunFacts &facts)
 {
@@ -46,7 +37,9 @@ PngRunWriter::PngRunWriter(const QString &path)
 QString PngRunWriter::FramePath(const QString &path, int frame)
 {
     const QFileInfo info(path);
-    return QString("%1/%2_%3.png").arg(info.path(), info.completeBaseName()).arg(frame + 1, 6, 10, QChar('0'));
+    return QString("%1/%2_%3.png")
+        .arg(info.path(), info.completeBaseName())
+        .arg(frame + 1, 6, 10, QChar('0'));
 }
 
 bool PngRunWriter::CheckName(FileFault &fault) const
@@ -54,14 +47,12 @@ bool PngRunWriter::CheckName(FileFault &fault) const
     const QFileInfo first(FramePath(Path(), 0));
     if (!first.exists())
         return true;
-    return fault.Set(Translate("a sequence of that name is there already"), Translate("Choose another name; recordings never replace a file."));
+    return fault.Set(Translate("a sequence of that name is there already"),
+                     Translate("Choose another name; recordings never replace a file."));
 }
 
 /// There is nothing to make before the first frame.
-bool PngRunWriter::CreateData(FileFault &)
-{
-    return true;
-}
+bool PngRunWriter::CreateData(FileFault &) { return true; }
 
 bool PngRunWriter::ReopenData(int *frames, FileFault &)
 {
@@ -76,7 +67,8 @@ bool PngRunWriter::ReopenData(int *frames, FileFault &)
 bool PngRunWriter::AppendFrame(const uchar *samples, const FrameStamp &stamp, FileFault &fault)
 {
     const QSize size = Facts().frameSize;
-    QImage image(samples, size.width(), size.height(), size.width() * BytesPerPixel(Facts().layout), ImageFormat(Facts()));
+    QImage image(samples, size.width(), size.height(), size.width() * BytesPerPixel(Facts().layout),
+                 ImageFormat(Facts()));
     QByteArray bytes;
     QBuffer buffer(&bytes);
     QImageWriter writer(&buffer, "png");
@@ -87,7 +79,8 @@ bool PngRunWriter::AppendFrame(const uchar *samples, const FrameStamp &stamp, Fi
     writer.setText("CameraTime", QString("%1 ns").arg(stamp.cameraTimeNs));
     writer.setText("HostTime", QString("%1 ns").arg(stamp.hostTimeNs));
     if (!writer.write(image))
-        return fault.Set(Translate("frame %1 could not be compressed").arg(FramesWritten() + 1), MemoryAdvice(), writer.errorString());
+        return fault.Set(Translate("frame %1 could not be compressed").arg(FramesWritten() + 1),
+                         MemoryAdvice(), writer.errorString());
     const QString path = FramePath(Path(), m_placed);
     RunDisk disk;
     if (!disk.Create(UnfinishedName(path), fault) || !disk.Write(bytes.constData(), bytes.size(), fault)

@@ -67,7 +67,8 @@ RecordingSettings RecordingSettings::Read(QSettings *settings)
     read.mode = Mode(qBound(0, settings->value("mode", int(read.mode)).toInt(), LastMode));
     read.frames = settings->value("frames", read.frames).toInt();
     read.seconds = settings->value("seconds", read.seconds).toInt();
-    const qint64 delayMs = qBound(qint64(0), settings->value("delayMs", 0).toLongLong(), qint64(LongestIntervalMs));
+    const qint64 delayMs =
+        qBound(qint64(0), settings->value("delayMs", 0).toLongLong(), qint64(LongestIntervalMs));
     read.delay.minutes = int(delayMs / (SecondsPerMinute * MsPerSecond));
     read.delay.seconds = int(delayMs / MsPerSecond % SecondsPerMinute);
     read.delay.milliseconds = int(delayMs % MsPerSecond);

@@ -14,9 +14,9 @@ struct RecordingSettings
 {
     enum class Mode
     {
-        Single,      ///< one frame
-        Count,       ///< a number of frames
-        Duration,    ///< a number of seconds
+        Single,   ///< one frame
+        Count,    ///< a number of frames
+        Duration, ///< a number of seconds
         UntilStopped
     };
 

@@ -59,7 +59,4 @@ bool RunChecksum::OfFiles(const QStringList &files, quint64 *checksum, QString *
     return true;
 }
 
-QString RunChecksum::ToText(quint64 checksum)
-{
-    return QString("%1").arg(checksum, 16, 16, QChar('0'));
-}
+QString RunChecksum::ToText(quint64 checksum) { return QString("%1").arg(checksum, 16, 16, QChar('0')); }

@@ -4,7 +4,7 @@
 namespace {
 /// More are counted and not listed.
 constexpr int ListedIds = 1000;
-}
+} // namespace
 
 void RunCounter::Reset()
 {

@@ -14,10 +14,7 @@
 
 namespace {
 
-QString Translate(const char *text)
-{
-    return QCoreApplication::translate("RunDisk", text);
-}
+QString Translate(const char *text) { return QCoreApplication::translate("RunDisk", text); }
 
 /// What the system says, and what the user can do about it.
 bool SetFaultText(FileFault &fault, int reason)
@@ -25,24 +22,30 @@ bool SetFaultText(FileFault &fault, int reason)
     switch (reason) {
     case ENOSPC:
     case EDQUOT:
-        return fault.Set(Translate("the disk is full"), Translate("Free some space or record to another disk; the frames before are kept."));
+        return fault.Set(Translate("the disk is full"),
+                         Translate("Free some space or record to another disk; the frames before are kept."));
     case EFBIG:
         return fault.Set(Translate("the file has become larger than this disk allows"),
                          Translate("Record fewer frames, or to another disk; the frames before are kept."));
     case EEXIST:
-        return fault.Set(Translate("a file of that name is there already"), Translate("Choose another name; recordings never replace a file."));
+        return fault.Set(Translate("a file of that name is there already"),
+                         Translate("Choose another name; recordings never replace a file."));
     case EACCES:
     case EPERM:
     case EROFS:
-        return fault.Set(Translate("you may not write in that folder"), Translate("Choose another folder, or ask for the right to write there."));
+        return fault.Set(Translate("you may not write in that folder"),
+                         Translate("Choose another folder, or ask for the right to write there."));
     case ENOENT:
     case ENOTDIR:
     case ENAMETOOLONG:
-        return fault.Set(Translate("that folder does not exist"), Translate("Choose a folder that is there."));
+        return fault.Set(Translate("that folder does not exist"),
+                         Translate("Choose a folder that is there."));
     case EIO:
     case ENODEV:
     case ENXIO:
-        return fault.Set(Translate("the disk does not answer"), Translate("Check that it is still connected; what was written before may be readable."));
+        return fault.Set(
+            Translate("the disk does not answer"),
+            Translate("Check that it is still connected; what was written before may be readable."));
     default:
         return fault.Set(qt_error_string(reason), Translate("Check the disk, or record to another one."));
     }
@@ -57,15 +60,9 @@ bool SetSystemFault(FileFault &fault, int reason)
 
 } // namespace
 
-RunDisk::~RunDisk()
-{
-    Close();
-}
+RunDisk::~RunDisk() { Close(); }
 
-bool RunDisk::SetFault(FileFault &fault) const
-{
-    return SetSystemFault(fault, errno);
-}
+bool RunDisk::SetFault(FileFault &fault) const { return SetSystemFault(fault, errno); }
 
 bool RunDisk::Create(const QString &path, FileFault &fault)
 {
@@ -96,10 +93,7 @@ qint64 RunDisk::Size() const
     return ::fstat(m_fd, &status) == 0 ? qint64(status.st_size) : 0;
 }
 
-bool RunDisk::Lock()
-{
-    return ::flock(m_fd, LOCK_EX | LOCK_NB) == 0;
-}
+bool RunDisk::Lock() { return ::flock(m_fd, LOCK_EX | LOCK_NB) == 0; }
 
 bool RunDisk::Write(const void *bytes, qint64 size, FileFault &fault)
 {
@@ -149,7 +143,8 @@ bool RunDisk::Read(void *bytes, qint64 size)
 
 bool RunDisk::CutTo(qint64 size, FileFault &fault)
 {
-    return (::ftruncate(m_fd, off_t(size)) == 0 && ::lseek(m_fd, off_t(size), SEEK_SET) == off_t(size)) || SetFault(fault);
+    return (::ftruncate(m_fd, off_t(size)) == 0 && ::lseek(m_fd, off_t(size), SEEK_SET) == off_t(size))
+           || SetFault(fault);
 }
 
 void RunDisk::WriteBehind(qint64 from, qint64 size) const
@@ -159,10 +154,7 @@ void RunDisk::WriteBehind(qint64 from, qint64 size) const
 #endif
 }
 
-bool RunDisk::Synchronise(FileFault &fault)
-{
-    return ::fsync(m_fd) == 0 || SetFault(fault);
-}
+bool RunDisk::Synchronise(FileFault &fault) { return ::fsync(m_fd) == 0 || SetFault(fault); }
 
 bool RunDisk::Rename(const QString &from, const QString &to, FileFault &fault)
 {
@@ -179,7 +171,8 @@ bool RunDisk::Rename(const QString &from, const QString &to, FileFault &fault)
 
 void RunDisk::MakeNamesLasting(const QString &path)
 {
-    const int folder = ::open(QFile::encodeName(QFileInfo(path).absolutePath()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int folder = ::open(QFile::encodeName(QFileInfo(path).absolutePath()).constData(),
+                              O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder >= 0) {
         ::fsync(folder);
         ::close(folder);

@@ -14,10 +14,7 @@ constexpr double MsPerSecond = 1000.0;
 constexpr qint64 ReserveBytes = 256 << 20;
 constexpr qint64 BytesPerKB = 1024; ///< in /proc/meminfo
 
-QString Translate(const char *text)
-{
-    return QCoreApplication::translate("RunEstimate", text);
-}
+QString Translate(const char *text) { return QCoreApplication::translate("RunEstimate", text); }
 
 qint64 AvailableMemory()
 {
@@ -33,7 +30,8 @@ qint64 AvailableMemory()
 
 double KeptPerSecond(const RecordingSettings &settings, double framesPerSecond)
 {
-    return settings.intervalMs > 0 ? qMin(framesPerSecond, MsPerSecond / settings.intervalMs) : framesPerSecond;
+    return settings.intervalMs > 0 ? qMin(framesPerSecond, MsPerSecond / settings.intervalMs)
+                                   : framesPerSecond;
 }
 
 qint64 FramesOf(const RecordingSettings &settings, double framesPerSecond)
@@ -77,10 +75,11 @@ RunEstimate RunEstimate::Make(const RecordingSettings &settings, qint64 frameByt
     const QString place = isMemory ? Translate("memory") : Translate("disk");
     const qint64 freeBytes = isMemory ? resources.freeMemoryBytes : resources.freeDiskBytes;
     if (estimate.framesThatFit == 0 || estimate.frames > estimate.framesThatFit) {
-        estimate.warning = Translate("The run needs %1, and the %2 has %3 free: room for %4 frames.")
-                               .arg(estimate.bytes < 0 ? Translate("more than one frame") : ByteText(estimate.bytes), place,
-                                    ByteText(freeBytes))
-                               .arg(estimate.framesThatFit);
+        estimate.warning =
+            Translate("The run needs %1, and the %2 has %3 free: room for %4 frames.")
+                .arg(estimate.bytes < 0 ? Translate("more than one frame") : ByteText(estimate.bytes), place,
+                     ByteText(freeBytes))
+                .arg(estimate.framesThatFit);
     }
     return estimate;
 }
@@ -88,7 +87,7 @@ RunEstimate RunEstimate::Make(const RecordingSettings &settings, qint64 frameByt
 QString ByteText(qint64 bytes)
 {
     constexpr double Step = 1000.0;
-    const char *units[] = {"kB", "MB", "GB", "TB"};
+    const char *units[] = { "kB", "MB", "GB", "TB" };
     double value = double(bytes) / Step;
     int unit = 0;
     while (value >= Step && unit < 3) {

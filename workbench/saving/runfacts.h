@@ -32,7 +32,7 @@ struct RunFacts
     double gain = 0; ///< in the camera's unit
     double framesPerSecond = 0;
     QRect region; ///< of the sensor, in unbinned pixels
-    QSize binning{1, 1};
+    QSize binning{ 1, 1 };
     QSize frameSize; ///< of every frame of the run
     PixelLayout layout = PixelLayout::Mono8;
     double pixelSizeUm = 0; ///< of a frame's pixel, in the object; 0 when not calibrated
@@ -40,7 +40,10 @@ struct RunFacts
     QString software; ///< name and version of the program
 
     /// Of one frame without padding.
-    qint64 FrameBytes() const { return qint64(frameSize.width()) * frameSize.height() * BytesPerPixel(layout); }
+    qint64 FrameBytes() const
+    {
+        return qint64(frameSize.width()) * frameSize.height() * BytesPerPixel(layout);
+    }
     int Channels() const { return layout == PixelLayout::Rgb8 ? 3 : 1; }
     int BitsPerSample() const { return ::BitDepth(layout) > 8 ? 16 : 8; }
     /// Bits of a sample that carry light.
@@ -76,8 +79,8 @@ enum class RunEnd
 struct RunOutcome
 {
     RunEnd end = RunEnd::Complete;
-    QString reason;     ///< in words, empty when complete
-    FrameCounts counts; ///< of this run alone
+    QString reason;           ///< in words, empty when complete
+    FrameCounts counts;       ///< of this run alone
     QVector<quint64> lostIds; ///< of frames that arrived and could not be kept; the first ones, if many
 
     QString EndText() const;

@@ -18,10 +18,7 @@ constexpr int RecordBytes = 32;
 
 using Record = std::array<uchar, RecordBytes>;
 
-QString Translate(const char *text)
-{
-    return QCoreApplication::translate("RunJournal", text);
-}
+QString Translate(const char *text) { return QCoreApplication::translate("RunJournal", text); }
 
 Record ToRecord(const FrameStamp &stamp)
 {
@@ -67,13 +64,16 @@ bool ReadHeader(RunDisk &disk, RunJournal::Content *content)
 
 bool RunJournal::Create(const QString &recording, RunFormat format, const RunFacts &facts, FileFault &fault)
 {
-    const QByteArray text = QJsonDocument(QJsonObject{{"format", int(format)}, {"facts", facts.ToJson()}}).toJson(QJsonDocument::Compact);
+    const QByteArray text =
+        QJsonDocument(QJsonObject{ { "format", int(format) }, { "facts", facts.ToJson() } })
+            .toJson(QJsonDocument::Compact);
     uchar length[4];
     qToLittleEndian(quint32(text.size()), length);
     if (!m_disk.Create(PathFor(recording), fault))
         return false;
     m_disk.Lock();
-    return m_disk.Write(Magic, MagicBytes, fault) && m_disk.Write(length, 4, fault) && m_disk.Write(text.constData(), text.size(), fault);
+    return m_disk.Write(Magic, MagicBytes, fault) && m_disk.Write(length, 4, fault)
+           && m_disk.Write(text.constData(), text.size(), fault);
 }
 
 bool RunJournal::TakeOver(const QString &recording, Content *content, FileFault &fault)
@@ -81,9 +81,11 @@ bool RunJournal::TakeOver(const QString &recording, Content *content, FileFault 
     if (!m_disk.OpenExisting(PathFor(recording), fault))
         return false;
     if (!m_disk.Lock())
-        return fault.Set(Translate("it is still being recorded"), Translate("Wait until that run has ended."));
+        return fault.Set(Translate("it is still being recorded"),
+                         Translate("Wait until that run has ended."));
     if (!ReadHeader(m_disk, content))
-        return fault.Set(Translate("the journal beside it makes no sense"), Translate("Keep the file and ask for help; its frames may be readable by hand."));
+        return fault.Set(Translate("the journal beside it makes no sense"),
+                         Translate("Keep the file and ask for help; its frames may be readable by hand."));
     Record record;
     while (m_disk.Read(record.data(), RecordBytes))
         content->stamps.append(FromRecord(record.data()));

@@ -70,13 +70,11 @@ bool RunRegister::Add(const QString &recording, QString *entry) const
     *entry = m_folder + '/' + QUuid::createUuid().toString(QUuid::WithoutBraces);
     QFile file(*entry);
     const QByteArray path = QFileInfo(recording).absoluteFilePath().toUtf8();
-    return QDir().mkpath(m_folder) && file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.write(path) == path.size();
+    return QDir().mkpath(m_folder) && file.open(QIODevice::WriteOnly | QIODevice::NewOnly)
+           && file.write(path) == path.size();
 }
 
-void RunRegister::Remove(const QString &entry) const
-{
-    QFile::remove(entry);
-}
+void RunRegister::Remove(const QString &entry) const { QFile::remove(entry); }
 
 QVector<std::pair<QString, QString>> RunRegister::Entries() const
 {
@@ -84,7 +82,7 @@ QVector<std::pair<QString, QString>> RunRegister::Entries() const
     for (const QFileInfo &info : QDir(m_folder).entryInfoList(QDir::Files)) {
         const QString recording = ReadEntry(info.filePath());
         if (!recording.isEmpty())
-            entries.append({info.filePath(), recording});
+            entries.append({ info.filePath(), recording });
     }
     return entries;
 }

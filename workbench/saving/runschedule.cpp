@@ -17,7 +17,8 @@ bool RunSchedule::Wants(qint64 nowMs)
     if (IsOver(nowMs) || nowMs < m_nextDueMs)
         return false;
     ++m_kept;
-    if (m_settings.intervalMs > 0) // the next of the whole intervals since the start, so that none adds up a delay
+    if (m_settings.intervalMs
+        > 0) // the next of the whole intervals since the start, so that none adds up a delay
         m_nextDueMs = m_startMs + ((nowMs - m_startMs) / m_settings.intervalMs + 1) * m_settings.intervalMs;
     return true;
 }
@@ -26,5 +27,6 @@ bool RunSchedule::IsOver(qint64 nowMs) const
 {
     if (m_settings.EndsByFrames())
         return m_kept >= m_settings.FrameLimit();
-    return m_settings.mode == RecordingSettings::Mode::Duration && nowMs - m_startMs >= m_settings.seconds * MsPerSecond;
+    return m_settings.mode == RecordingSettings::Mode::Duration
+           && nowMs - m_startMs >= m_settings.seconds * MsPerSecond;
 }

@@ -13,10 +13,7 @@ namespace {
 constexpr int ListedGaps = 50;
 constexpr double NsPerSecond = 1e9;
 
-QString Translate(const char *text)
-{
-    return QCoreApplication::translate("RunSummary", text);
-}
+QString Translate(const char *text) { return QCoreApplication::translate("RunSummary", text); }
 
 struct StageRow
 {
@@ -25,10 +22,10 @@ struct StageRow
 };
 
 const StageRow stageTable[] = {
-    {LossStage::Camera, QT_TRANSLATE_NOOP("RunSummary", "never arrived from the camera")},
-    {LossStage::Transfer, QT_TRANSLATE_NOOP("RunSummary", "arrived incomplete")},
-    {LossStage::SaveQueue, QT_TRANSLATE_NOOP("RunSummary", "the disk was too slow and the queue full")},
-    {LossStage::Disk, QT_TRANSLATE_NOOP("RunSummary", "could not be written to the disk")},
+    { LossStage::Camera, QT_TRANSLATE_NOOP("RunSummary", "never arrived from the camera") },
+    { LossStage::Transfer, QT_TRANSLATE_NOOP("RunSummary", "arrived incomplete") },
+    { LossStage::SaveQueue, QT_TRANSLATE_NOOP("RunSummary", "the disk was too slow and the queue full") },
+    { LossStage::Disk, QT_TRANSLATE_NOOP("RunSummary", "could not be written to the disk") },
 };
 
 QString LostText(const FrameCounts &counts)
@@ -44,7 +41,8 @@ QString LostText(const FrameCounts &counts)
 
 QString GapText(const IdGap &gap)
 {
-    return gap.count == 1 ? QString::number(gap.first) : QString("%1-%2").arg(gap.first).arg(gap.first + gap.count - 1);
+    return gap.count == 1 ? QString::number(gap.first)
+                          : QString("%1-%2").arg(gap.first).arg(gap.first + gap.count - 1);
 }
 
 QString GapsText(const QVector<IdGap> &gaps)
@@ -73,7 +71,7 @@ QVector<IdGap> FindGaps(const QVector<FrameStamp> &stamps)
     for (int i = 1; i < stamps.size(); ++i) {
         const quint64 expected = stamps[i - 1].frameId + 1;
         if (stamps[i].frameId > expected)
-            gaps.append({expected, stamps[i].frameId - expected});
+            gaps.append({ expected, stamps[i].frameId - expected });
     }
     return gaps;
 }
@@ -86,19 +84,20 @@ double AverageRate(const QVector<FrameStamp> &stamps)
     return spanNs > 0 ? (stamps.size() - 1) * NsPerSecond / double(spanNs) : 0;
 }
 
-QVector<std::pair<QString, QString>> OutcomeLines(const RunOutcome &outcome, const QVector<FrameStamp> &stamps)
+QVector<std::pair<QString, QString>> OutcomeLines(const RunOutcome &outcome,
+                                                  const QVector<FrameStamp> &stamps)
 {
     QString end = outcome.EndText();
     if (!outcome.reason.isEmpty())
         end += QString(" (%1)").arg(outcome.reason);
     QVector<std::pair<QString, QString>> lines{
-        {Translate("Run"), end},
-        {Translate("Frames captured"), QString::number(outcome.counts.captured)},
-        {Translate("Frames saved"), QString::number(outcome.counts.saved)},
-        {Translate("Frames lost"), LostText(outcome.counts)},
-        {Translate("Frame ids missing"), GapsText(FindGaps(stamps))},
-        {Translate("Average rate"), Translate("%1 frames/s").arg(AverageRate(stamps), 0, 'f', 2)},
-        {Translate("Checksum (XXH3)"), RunChecksum::ToText(RunChecksum::OfRun(stamps))},
+        { Translate("Run"), end },
+        { Translate("Frames captured"), QString::number(outcome.counts.captured) },
+        { Translate("Frames saved"), QString::number(outcome.counts.saved) },
+        { Translate("Frames lost"), LostText(outcome.counts) },
+        { Translate("Frame ids missing"), GapsText(FindGaps(stamps)) },
+        { Translate("Average rate"), Translate("%1 frames/s").arg(AverageRate(stamps), 0, 'f', 2) },
+        { Translate("Checksum (XXH3)"), RunChecksum::ToText(RunChecksum::OfRun(stamps)) },
     };
     return lines;
 }
@@ -109,8 +108,8 @@ QString RunSummaryPath(const QString &recording)
     return info.path() + '/' + info.completeBaseName() + ".txt";
 }
 
-bool WriteRunSummary(const QString &path, const RunFacts &facts, const RunOutcome &outcome, const QVector<FrameStamp> &stamps,
-                     const QStringList &files)
+bool WriteRunSummary(const QString &path, const RunFacts &facts, const RunOutcome &outcome,
+                     const QVector<FrameStamp> &stamps, const QStringList &files)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Text))
@@ -126,7 +125,8 @@ bool WriteRunSummary(const QString &path, const RunFacts &facts, const RunOutcom
     WriteLines(out, facts.Lines());
     out << '\n' << Translate("frame\tframe id\tcamera time (ns)\thost time (ns)") << '\n';
     for (int i = 0; i < stamps.size(); ++i)
-        out << i + 1 << '\t' << stamps[i].frameId << '\t' << stamps[i].cameraTimeNs << '\t' << stamps[i].hostTimeNs << '\n';
+        out << i + 1 << '\t' << stamps[i].frameId << '\t' << stamps[i].cameraTimeNs << '\t'
+            << stamps[i].hostTimeNs << '\n';
     out.flush();
     return file.flush() && out.status() == QTextStream::Ok;
 }

@@ -17,10 +17,11 @@ QVector<IdGap> FindGaps(const QVector<FrameStamp> &stamps);
 double AverageRate(const QVector<FrameStamp> &stamps);
 
 /// For people: how the run ended, its counts with the place of each loss, the gaps, the rate and the checksum.
-QVector<std::pair<QString, QString>> OutcomeLines(const RunOutcome &outcome, const QVector<FrameStamp> &stamps);
+QVector<std::pair<QString, QString>> OutcomeLines(const RunOutcome &outcome,
+                                                  const QVector<FrameStamp> &stamps);
 
 /// Beside the recording: "name.tif" has "name.txt".
 QString RunSummaryPath(const QString &recording);
 /// Everything about a recording to be read by people. An existing file is kept; false when it could not be written.
-bool WriteRunSummary(const QString &path, const RunFacts &facts, const RunOutcome &outcome, const QVector<FrameStamp> &stamps,
-                     const QStringList &files);
+bool WriteRunSummary(const QString &path, const RunFacts &facts, const RunOutcome &outcome,
+                     const QVector<FrameStamp> &stamps, const QStringList &files);

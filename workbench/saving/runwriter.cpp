@@ -14,10 +14,7 @@
 
 namespace {
 
-QString Translate(const char *text)
-{
-    return QCoreApplication::translate("RunWriter", text);
-}
+QString Translate(const char *text) { return QCoreApplication::translate("RunWriter", text); }
 
 bool Report(bool done, const QString &path, const FileFault &fault, QString *error)
 {
@@ -50,7 +47,8 @@ bool RunWriter::CheckName(FileFault &fault) const
 {
     if (!QFileInfo::exists(m_path))
         return true;
-    return fault.Set(Translate("a file of that name is there already"), Translate("Choose another name; recordings never replace a file."));
+    return fault.Set(Translate("a file of that name is there already"),
+                     Translate("Choose another name; recordings never replace a file."));
 }
 
 bool RunWriter::Resume(QString *error)
@@ -84,12 +82,15 @@ bool RunWriter::Write(const CameraFrame &frame, QString *error)
     FileFault fault;
     if (QSize(frame.width, frame.height) != m_facts.frameSize || frame.layout != m_facts.layout) {
         fault.Set(Translate("a frame of another size or pixel format came (%1 x %2, %3)")
-                      .arg(frame.width).arg(frame.height).arg(PixelLayoutName(frame.layout)),
+                      .arg(frame.width)
+                      .arg(frame.height)
+                      .arg(PixelLayoutName(frame.layout)),
                   Translate("Change the camera's format between recordings only."));
         return Report(false, m_path, fault, error);
     }
     const uchar *samples = Packed(frame);
-    const FrameStamp stamp{frame.frameId, frame.cameraTimeNs, frame.hostTimeNs, RunChecksum::OfFrame(samples, m_facts.FrameBytes())};
+    const FrameStamp stamp{ frame.frameId, frame.cameraTimeNs, frame.hostTimeNs,
+                            RunChecksum::OfFrame(samples, m_facts.FrameBytes()) };
     if (AppendFrame(samples, stamp, fault) && m_journal.Append(stamp, fault)) {
         m_stamps.append(stamp);
         return true;
@@ -146,9 +147,12 @@ QStringList RunWriter::Files() const
 std::unique_ptr<RunWriter> CreateRunWriter(RunFormat format, const QString &path)
 {
     switch (format) {
-    case RunFormat::Fits: return std::make_unique<FitsRunWriter>(path);
-    case RunFormat::Png: return std::make_unique<PngRunWriter>(path);
-    case RunFormat::Tiff: break;
+    case RunFormat::Fits:
+        return std::make_unique<FitsRunWriter>(path);
+    case RunFormat::Png:
+        return std::make_unique<PngRunWriter>(path);
+    case RunFormat::Tiff:
+        break;
     }
     return std::make_unique<TiffRunWriter>(path);
 }
@@ -156,9 +160,12 @@ std::unique_ptr<RunWriter> CreateRunWriter(RunFormat format, const QString &path
 QString RunSuffix(RunFormat format)
 {
     switch (format) {
-    case RunFormat::Fits: return "fits";
-    case RunFormat::Png: return "png";
-    case RunFormat::Tiff: break;
+    case RunFormat::Fits:
+        return "fits";
+    case RunFormat::Png:
+        return "png";
+    case RunFormat::Tiff:
+        break;
     }
     return "tif";
 }

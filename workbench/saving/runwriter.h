@@ -15,7 +15,8 @@
 class RunWriter
 {
 public:
-    virtual ~RunWriter() = default; ///< without Finish() or Discard() the unfinished recording stays for the repair
+    virtual ~RunWriter() =
+        default; ///< without Finish() or Discard() the unfinished recording stays for the repair
     RunWriter(const RunWriter &) = delete;
     RunWriter &operator=(const RunWriter &) = delete;
 
@@ -57,7 +58,7 @@ protected:
     /// Gives the name asked for.
     virtual bool Place(FileFault &fault) = 0;
     virtual void RemoveData() = 0;
-    virtual QStringList DataFiles() const { return {m_path}; }
+    virtual QStringList DataFiles() const { return { m_path }; }
 
 private:
     bool CompleteWhatFits(RunOutcome *outcome, FileFault &fault);

@@ -4,7 +4,7 @@
 namespace {
 constexpr int MsPerSecond = 1000;
 constexpr int SecondsPerMinute = 60;
-}
+} // namespace
 
 SaveSettings::SaveSettings(QSettings *settings, QObject *parent)
     : FileSaveManager(parent)
@@ -25,15 +25,9 @@ int SaveSettings::GetTimeInMs(const TIME_MIN_S_MS &time) const
     return (time.minutes * SecondsPerMinute + time.seconds) * MsPerSecond + time.milliseconds;
 }
 
-TIME_MIN_S_MS SaveSettings::GetConfiguredTime() const
-{
-    return Current().delay;
-}
+TIME_MIN_S_MS SaveSettings::GetConfiguredTime() const { return Current().delay; }
 
-bool SaveSettings::IsSaveToRAM() const
-{
-    return Current().toRam;
-}
+bool SaveSettings::IsSaveToRAM() const { return Current().toRam; }
 
 void SaveSettings::SetRun(const RecordingSettings *run)
 {

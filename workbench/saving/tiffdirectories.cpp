@@ -34,14 +34,24 @@ public:
             Put(&m_entries, quint16(entries));
     }
 
-    static int DirectoryBytes(bool isBig, int entries) { return isBig ? 8 + 20 * entries + 8 : 2 + 12 * entries + 4; }
+    static int DirectoryBytes(bool isBig, int entries)
+    {
+        return isBig ? 8 + 20 * entries + 8 : 2 + 12 * entries + 4;
+    }
 
-    void AddShort(quint16 tag, quint16 value) { Add(tag, TIFF_SHORT, 1, QByteArray(reinterpret_cast<char *>(&value), 2)); }
+    void AddShort(quint16 tag, quint16 value)
+    {
+        Add(tag, TIFF_SHORT, 1, QByteArray(reinterpret_cast<char *>(&value), 2));
+    }
     void AddShorts(quint16 tag, const QVector<quint16> &values)
     {
-        Add(tag, TIFF_SHORT, quint64(values.size()), QByteArray(reinterpret_cast<const char *>(values.constData()), values.size() * 2));
+        Add(tag, TIFF_SHORT, quint64(values.size()),
+            QByteArray(reinterpret_cast<const char *>(values.constData()), values.size() * 2));
     }
-    void AddLong(quint16 tag, quint32 value) { Add(tag, TIFF_LONG, 1, QByteArray(reinterpret_cast<char *>(&value), 4)); }
+    void AddLong(quint16 tag, quint32 value)
+    {
+        Add(tag, TIFF_LONG, 1, QByteArray(reinterpret_cast<char *>(&value), 4));
+    }
     void AddOffset(quint16 tag, quint64 value)
     {
         if (m_isBig)
@@ -49,7 +59,10 @@ public:
         else
             AddLong(tag, quint32(value));
     }
-    void AddText(quint16 tag, const QByteArray &text) { Add(tag, TIFF_ASCII, quint64(text.size()) + 1, QByteArray(text.constData(), text.size() + 1)); }
+    void AddText(quint16 tag, const QByteArray &text)
+    {
+        Add(tag, TIFF_ASCII, quint64(text.size()) + 1, QByteArray(text.constData(), text.size() + 1));
+    }
     void AddRational(quint16 tag, quint32 numerator, quint32 denominator)
     {
         QByteArray value;
@@ -157,7 +170,8 @@ QByteArray TiffDirectories::Bytes() const
         directory.AddLong(TIFFTAG_SUBFILETYPE, m_frames > 1 ? FILETYPE_PAGE : 0);
         directory.AddLong(TIFFTAG_IMAGEWIDTH, quint32(m_facts.frameSize.width()));
         directory.AddLong(TIFFTAG_IMAGELENGTH, quint32(m_facts.frameSize.height()));
-        directory.AddShorts(TIFFTAG_BITSPERSAMPLE, QVector<quint16>(channels, quint16(m_facts.BitsPerSample())));
+        directory.AddShorts(TIFFTAG_BITSPERSAMPLE,
+                            QVector<quint16>(channels, quint16(m_facts.BitsPerSample())));
         directory.AddShort(TIFFTAG_COMPRESSION, COMPRESSION_NONE);
         directory.AddShort(TIFFTAG_PHOTOMETRIC, channels == 3 ? PHOTOMETRIC_RGB : PHOTOMETRIC_MINISBLACK);
         if (hasDescription)
@@ -167,7 +181,8 @@ QByteArray TiffDirectories::Bytes() const
         directory.AddLong(TIFFTAG_ROWSPERSTRIP, quint32(m_facts.frameSize.height()));
         directory.AddOffset(TIFFTAG_STRIPBYTECOUNTS, quint64(m_facts.FrameBytes()));
         if (hasResolution) {
-            const auto perCentimetre = quint32(MicrometresPerCentimetre / m_facts.pixelSizeUm * ResolutionDenominator + 0.5);
+            const auto perCentimetre =
+                quint32(MicrometresPerCentimetre / m_facts.pixelSizeUm * ResolutionDenominator + 0.5);
             directory.AddRational(TIFFTAG_XRESOLUTION, perCentimetre, ResolutionDenominator);
             directory.AddRational(TIFFTAG_YRESOLUTION, perCentimetre, ResolutionDenominator);
         }

@@ -14,7 +14,8 @@ TiffRunWriter::TiffRunWriter(const QString &path)
 bool TiffRunWriter::CreateData(FileFault &fault)
 {
     // No TIFF reader takes the file before it has its header.
-    return m_cube.Create(UnfinishedPath(), QByteArray(TiffDirectories::HeaderBytes, '\0'), Facts().FrameBytes(), fault);
+    return m_cube.Create(UnfinishedPath(), QByteArray(TiffDirectories::HeaderBytes, '\0'),
+                         Facts().FrameBytes(), fault);
 }
 
 bool TiffRunWriter::ReopenData(int *frames, FileFault &fault)
@@ -27,10 +28,7 @@ bool TiffRunWriter::AppendFrame(const uchar *samples, const FrameStamp &, FileFa
     return m_cube.Append(samples, fault);
 }
 
-bool TiffRunWriter::CutTo(int frames, FileFault &fault)
-{
-    return m_cube.CutTo(frames, fault);
-}
+bool TiffRunWriter::CutTo(int frames, FileFault &fault) { return m_cube.CutTo(frames, fault); }
 
 bool TiffRunWriter::Complete(const RunOutcome &outcome, FileFault &fault)
 {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "guardedtest.h"
 #include "livecover.h"
+#include "guardedtest.h"
 #include "liveorientation.h"
 #include "viewcodes.h"
 

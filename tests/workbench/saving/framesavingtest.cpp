@@ -57,7 +57,10 @@ class Said : public QObject
     Q_OBJECT
 
 public:
-    Said(FrameSaving *saving, const char *signal) { connect(saving, signal, this, SLOT(slotTake(int)), Qt::QueuedConnection); }
+    Said(FrameSaving *saving, const char *signal)
+    {
+        connect(saving, signal, this, SLOT(slotTake(int)), Qt::QueuedConnection);
+    }
 
     QVector<int> values;
 
@@ -162,7 +165,7 @@ private slots:
         m_order.settings.delay.milliseconds = 300;
         Said delay(m_saving.get(), SIGNAL(signalUpdateDelayTime(int)));
         QVERIFY(m_saving->StartRun(m_order));
-        QVERIFY(!m_saving->StartRun(m_order)); // start pressed during the delay
+        QVERIFY(!m_saving->StartRun(m_order));                             // start pressed during the delay
         m_saving->OnFrame(RunSample::Frame(Size, PixelLayout::Mono8, 50)); // comes too early
         QTRY_VERIFY_WITH_TIMEOUT(!delay.values.isEmpty() && delay.values.last() == -1, MsToWait);
         QCOMPARE(delay.values.first(), 0);
@@ -213,7 +216,8 @@ private slots:
         QVERIFY(m_saving->StartRun(m_order));
         const CameraFrame first = RunSample::Frame(large, PixelLayout::Mono8, 0);
         QVERIFY(SendUntilTaken(first));
-        QTRY_COMPARE_WITH_TIMEOUT(m_saving->Queue().Count(), 0, MsToWait); // the writer has it and waits for the disk
+        QTRY_COMPARE_WITH_TIMEOUT(m_saving->Queue().Count(), 0,
+                                  MsToWait); // the writer has it and waits for the disk
         for (int i = 1; i <= 11; ++i) {
             CameraFrame frame = first;
             frame.frameId += quint64(i);
@@ -225,9 +229,10 @@ private slots:
         const RunReceipt receipt = Receipt();
         QCOMPARE(receipt.outcome.counts.captured, quint64(12));
         QCOMPARE(receipt.outcome.counts.saved, quint64(9));
-        QCOMPARE(receipt.outcome.lostIds, (QVector<quint64>{109, 110, 111}));
+        QCOMPARE(receipt.outcome.lostIds, (QVector<quint64>{ 109, 110, 111 }));
         QVERIFY(!receipt.IsWhole());
-        QVERIFY2(receipt.Text().contains("Frames lost: 3 (3 the disk was too slow and the queue full)"), qPrintable(receipt.Text()));
+        QVERIFY2(receipt.Text().contains("Frames lost: 3 (3 the disk was too slow and the queue full)"),
+                 qPrintable(receipt.Text()));
     }
 
     void aFullDiskEndsTheRunWithTheFramesBefore()
@@ -240,7 +245,8 @@ private slots:
         QVERIFY2(receipt.error.contains("the disk is full"), qPrintable(receipt.error));
         QCOMPARE(receipt.outcome.end, RunEnd::Fault);
         QCOMPARE(receipt.outcome.counts.saved, quint64(2));
-        QCOMPARE(receipt.outcome.counts.saved + receipt.outcome.counts.LostAt(LossStage::Disk), receipt.outcome.counts.captured);
+        QCOMPARE(receipt.outcome.counts.saved + receipt.outcome.counts.LostAt(LossStage::Disk),
+                 receipt.outcome.counts.captured);
         QVERIFY(receipt.outcome.counts.LostAt(LossStage::Disk) >= 1);
     }
 
@@ -258,7 +264,8 @@ private slots:
         m_order.settings.frames = 4;
         QVERIFY(m_saving->StartRun(m_order));
         SendWhenTaken(1);
-        CameraFrame frame = RunSample::Frame(Size, PixelLayout::Mono8, 4); // 101 to 103 are missing, two of them came in part
+        CameraFrame frame =
+            RunSample::Frame(Size, PixelLayout::Mono8, 4); // 101 to 103 are missing, two of them came in part
         frame.incompleteBefore = 2;
         m_saving->OnFrame(frame);
         m_saving->OnFrame(RunSample::Frame(Size, PixelLayout::Mono8, 5));
@@ -278,7 +285,8 @@ private slots:
         m_saving->StopRun(RunEnd::CameraLost, "C-1 does not answer");
         const RunReceipt receipt = Receipt();
         QCOMPARE(receipt.outcome.end, RunEnd::CameraLost);
-        QVERIFY2(receipt.Text().contains("the camera was lost (C-1 does not answer)"), qPrintable(receipt.Text()));
+        QVERIFY2(receipt.Text().contains("the camera was lost (C-1 does not answer)"),
+                 qPrintable(receipt.Text()));
         CompareFile(receipt, 0, 3);
     }
 
@@ -327,8 +335,8 @@ private slots:
             m_saving->StopRun();
             QCOMPARE(Receipt().outcome.counts.Lost(), quint64(0));
         }
-        QCOMPARE(QDir(m_folder->path()).entryList({"*.tif"}).size(), 100);
-        QCOMPARE(QDir(m_folder->path()).entryList({"*.part", "*.journal"}).size(), 0);
+        QCOMPARE(QDir(m_folder->path()).entryList({ "*.tif" }).size(), 100);
+        QCOMPARE(QDir(m_folder->path()).entryList({ "*.part", "*.journal" }).size(), 0);
         QCOMPARE(QDir(m_folder->filePath("register")).entryList(QDir::Files).size(), 0);
     }
 

@@ -16,7 +16,7 @@
 namespace {
 constexpr int MsToWait = 60000;
 constexpr QSize Size(512, 512);
-}
+} // namespace
 
 /// A recording of a camera whose packets get lost on the way: what is saved is whole, and everybody agrees on the rest.
 class LossyTransferTest : public GuardedTest
@@ -38,7 +38,7 @@ private slots:
         QVERIFY2(session.Open("Aravis-Fake-WB8", &error), qPrintable(error));
         QVERIFY(session.SetRegion(QRect(QPoint(0, 0), Size)));
 
-        FrameSaving saving{RunRegister(folder.filePath("register"))};
+        FrameSaving saving{ RunRegister(folder.filePath("register")) };
         QSignalSpy ended(&saving, SIGNAL(signalRunEnded(RunReceipt)));
         RunOrder order;
         order.facts.frameSize = Size;
@@ -47,7 +47,8 @@ private slots:
         order.settings.mode = RecordingSettings::Mode::UntilStopped;
         QVERIFY(saving.StartRun(order));
         QVERIFY(session.Start(&saving));
-        QTRY_VERIFY_WITH_TIMEOUT(saving.Counts().LostAt(LossStage::Transfer) >= 3 && saving.Counts().saved >= 20, MsToWait);
+        QTRY_VERIFY_WITH_TIMEOUT(
+            saving.Counts().LostAt(LossStage::Transfer) >= 3 && saving.Counts().saved >= 20, MsToWait);
         session.Stop();
         const FrameCounts ledger = session.Ledger().Counts();
         saving.StopRun();
@@ -58,7 +59,8 @@ private slots:
         // The ids from the first saved frame to the last one are saved or lost, and those lost are the gaps.
         QCOMPARE(counts.saved, quint64(receipt.stamps.size()));
         QCOMPARE(counts.saved, counts.captured);
-        QCOMPARE(receipt.stamps.last().frameId - receipt.stamps.first().frameId + 1, counts.saved + counts.Lost());
+        QCOMPARE(receipt.stamps.last().frameId - receipt.stamps.first().frameId + 1,
+                 counts.saved + counts.Lost());
         // The session may have counted more before the first frame and after the last one.
         QVERIFY(ledger.LostAt(LossStage::Transfer) >= counts.LostAt(LossStage::Transfer));
         QVERIFY(ledger.captured >= counts.captured);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "guardedtest.h"
 #include "namepattern.h"
+#include "guardedtest.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -22,9 +22,11 @@ private slots:
         QTest::newRow("number with digits") << "cells{number:4}" << 12 << "cells0012";
         QTest::newRow("number that needs more digits") << "{number:2}" << 1234 << "1234";
         QTest::newRow("exposure and gain") << "{exposure}us_{gain}" << 1 << "12500us_1.5";
-        QTest::newRow("letters that names can't hold") << "a/b\\c:d*e?f\"g<h>i|j\nk" << 1 << "a_b_c_d_e_f_g_h_i_j_k";
+        QTest::newRow("letters that names can't hold")
+            << "a/b\\c:d*e?f\"g<h>i|j\nk" << 1 << "a_b_c_d_e_f_g_h_i_j_k";
         QTest::newRow("hidden") << "..x" << 1 << "_.x";
-        QTest::newRow("other scripts") << QString::fromUtf8("проба {number}") << 3 << QString::fromUtf8("проба 3");
+        QTest::newRow("other scripts")
+            << QString::fromUtf8("проба {number}") << 3 << QString::fromUtf8("проба 3");
     }
 
     void fillsInWhatIsKnown()
@@ -41,11 +43,16 @@ private slots:
     {
         QTest::addColumn<QString>("pattern");
         QTest::addColumn<QString>("part");
-        QTest::newRow("unknown") << "{camra}" << "\"{camra}\" is not known";
-        QTest::newRow("zero digits") << "{number:0}" << "is not known";
-        QTest::newRow("open") << "cells_{date" << "left open";
-        QTest::newRow("closed only") << "cells}" << "left open";
-        QTest::newRow("empty") << "  " << "empty";
+        QTest::newRow("unknown") << "{camra}"
+                                 << "\"{camra}\" is not known";
+        QTest::newRow("zero digits") << "{number:0}"
+                                     << "is not known";
+        QTest::newRow("open") << "cells_{date"
+                              << "left open";
+        QTest::newRow("closed only") << "cells}"
+                                     << "left open";
+        QTest::newRow("empty") << "  "
+                               << "empty";
     }
 
     void saysWhatIsWrong()
@@ -68,14 +75,14 @@ private slots:
         QTest::addColumn<QStringList>("there");
         QTest::addColumn<QString>("name");
         QTest::newRow("nothing there") << "x{number}" << QStringList{} << "x1.tif";
-        QTest::newRow("two there") << "x{number}" << QStringList{"x1.tif", "x2.tif"} << "x3.tif";
-        QTest::newRow("a gap is used") << "x{number}" << QStringList{"x2.tif"} << "x1.tif";
-        QTest::newRow("a summary") << "x{number}" << QStringList{"x1.txt"} << "x2.tif";
-        QTest::newRow("unfinished") << "x{number}" << QStringList{"x1.tif.part"} << "x2.tif";
-        QTest::newRow("a journal") << "x{number}" << QStringList{"x1.tif.journal"} << "x2.tif";
-        QTest::newRow("a sequence") << "x{number}" << QStringList{"x1_000001.png"} << "x2.tif";
-        QTest::newRow("without number") << "x" << QStringList{"x.tif", "x_2.tif"} << "x_3.tif";
-        QTest::newRow("other files") << "x" << QStringList{"xy.tif", "y.tif"} << "x.tif";
+        QTest::newRow("two there") << "x{number}" << QStringList{ "x1.tif", "x2.tif" } << "x3.tif";
+        QTest::newRow("a gap is used") << "x{number}" << QStringList{ "x2.tif" } << "x1.tif";
+        QTest::newRow("a summary") << "x{number}" << QStringList{ "x1.txt" } << "x2.tif";
+        QTest::newRow("unfinished") << "x{number}" << QStringList{ "x1.tif.part" } << "x2.tif";
+        QTest::newRow("a journal") << "x{number}" << QStringList{ "x1.tif.journal" } << "x2.tif";
+        QTest::newRow("a sequence") << "x{number}" << QStringList{ "x1_000001.png" } << "x2.tif";
+        QTest::newRow("without number") << "x" << QStringList{ "x.tif", "x_2.tif" } << "x_3.tif";
+        QTest::newRow("other files") << "x" << QStringList{ "xy.tif", "y.tif" } << "x.tif";
     }
 
     void takesTheNextFreeName()

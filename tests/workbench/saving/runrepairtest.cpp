@@ -18,7 +18,7 @@ namespace {
 constexpr QSize Size(64, 48);
 constexpr PixelLayout Layout = PixelLayout::Mono16;
 constexpr int MsToWait = 20000;
-}
+} // namespace
 
 /// A recording whose program died is whole again at the next start, but for the last frames.
 class RunRepairTest : public GuardedTest
@@ -54,8 +54,8 @@ private slots:
         QString entry;
         QVERIFY(m_register->Add(path, &entry));
         QProcess program;
-        program.start(RECORD_SAMPLE, {path, QString::number(int(format)), QString::number(int(Layout)), QString::number(Size.width()),
-                                      QString::number(Size.height()), "0"});
+        program.start(RECORD_SAMPLE, { path, QString::number(int(format)), QString::number(int(Layout)),
+                                       QString::number(Size.width()), QString::number(Size.height()), "0" });
         QVERIFY(program.waitForStarted(MsToWait));
         int said = 0;
         while (said < 30) {
@@ -73,7 +73,8 @@ private slots:
         const QVector<RepairedRun> repaired = RepairRuns(*m_register);
         QCOMPARE(repaired.size(), 1);
         QCOMPARE(repaired.first().fault, QString());
-        QVERIFY2(repaired.first().frames >= said, qPrintable(QString("%1 of %2").arg(repaired.first().frames).arg(said)));
+        QVERIFY2(repaired.first().frames >= said,
+                 qPrintable(QString("%1 of %2").arg(repaired.first().frames).arg(said)));
         QVERIFY(repaired.first().frames <= said + 1);
         CompareFrames(path, format, repaired.first().frames);
         QCOMPARE(m_register->Entries().size(), 0);
@@ -115,7 +116,8 @@ private slots:
             const QVector<RepairedRun> repaired = RepairRuns(*m_register);
             QCOMPARE(repaired.size(), 1);
             QCOMPARE(repaired.first().fault, QString());
-            const int expected = qMin((keptJournal - headerBytes) / recordBytes, (keptData - dataHeader) / frameBytes);
+            const int expected =
+                qMin((keptJournal - headerBytes) / recordBytes, (keptData - dataHeader) / frameBytes);
             QCOMPARE(repaired.first().frames, expected);
             if (expected > 0)
                 CompareFrames(path, format, expected);
@@ -131,12 +133,16 @@ private slots:
         QTest::newRow("something else") << QByteArray("PNG or whatever it may be");
         QTest::newRow("a header longer than the file") << QByteArray("WBRUN01\n\xff\xff\xff\x7f", 12);
         QTest::newRow("no JSON") << QByteArray("WBRUN01\n\x04\0\0\0hey!", 16);
-        const QByteArray size = R"({"format":0,"facts":{"frameSize":[2000000000,2000000000],"layout":"Mono16"}})";
-        QTest::newRow("gigantic frames") << "WBRUN01\n" + QByteArray(1, char(size.size())) + QByteArray(3, '\0') + size;
+        const QByteArray size =
+            R"({"format":0,"facts":{"frameSize":[2000000000,2000000000],"layout":"Mono16"}})";
+        QTest::newRow("gigantic frames")
+            << "WBRUN01\n" + QByteArray(1, char(size.size())) + QByteArray(3, '\0') + size;
         const QByteArray huge = R"({"format":1,"facts":{"frameSize":[1048577,4],"layout":"Mono16"}})";
-        QTest::newRow("frames beyond any sensor") << "WBRUN01\n" + QByteArray(1, char(huge.size())) + QByteArray(3, '\0') + huge;
+        QTest::newRow("frames beyond any sensor")
+            << "WBRUN01\n" + QByteArray(1, char(huge.size())) + QByteArray(3, '\0') + huge;
         const QByteArray format = R"({"format":9,"facts":{"frameSize":[2,2],"layout":"Mono16"}})";
-        QTest::newRow("an unknown format") << "WBRUN01\n" + QByteArray(1, char(format.size())) + QByteArray(3, '\0') + format;
+        QTest::newRow("an unknown format")
+            << "WBRUN01\n" + QByteArray(1, char(format.size())) + QByteArray(3, '\0') + format;
     }
 
     void aJournalThatMakesNoSenseIsSaid()
@@ -149,7 +155,9 @@ private slots:
         QVERIFY(m_register->Add(path, &entry));
         const QVector<RepairedRun> repaired = RepairRuns(*m_register);
         QCOMPARE(repaired.size(), 1);
-        QVERIFY2(repaired.first().fault.contains("run.tif") && repaired.first().fault.contains("makes no sense"), qPrintable(repaired.first().fault));
+        QVERIFY2(repaired.first().fault.contains("run.tif")
+                     && repaired.first().fault.contains("makes no sense"),
+                 qPrintable(repaired.first().fault));
         QVERIFY(QFile::exists(path + ".part")); // kept for somebody who knows more
     }
 
@@ -158,7 +166,8 @@ private slots:
     {
         const QString path = m_folder->filePath("run.fits");
         const QByteArray text = R"({"format":1,"facts":{"frameSize":[1048576,1048576],"layout":"Mono16"}})";
-        Put(path + ".journal", "WBRUN01\n" + QByteArray(1, char(text.size())) + QByteArray(3, '\0') + text + QByteArray(64, 'x'));
+        Put(path + ".journal", "WBRUN01\n" + QByteArray(1, char(text.size())) + QByteArray(3, '\0') + text
+                                   + QByteArray(64, 'x'));
         Put(path + ".part", "something");
         QString entry;
         QVERIFY(m_register->Add(path, &entry));
@@ -202,7 +211,7 @@ private:
 
     void CompareFrames(const QString &path, RunFormat format, int frames)
     {
-        QStringList files{path};
+        QStringList files{ path };
         if (format == RunFormat::Png) {
             files.clear();
             for (int frame = 1; frame <= frames; ++frame)

@@ -8,7 +8,7 @@ constexpr quint64 FirstId = 100;
 constexpr qint64 CameraStepNs = 1000000;
 constexpr qint64 HostStepNs = 2000000;
 constexpr qint64 HostStartNs = 1763700000000000000;
-}
+} // namespace
 
 RunFacts RunSample::Facts(const QSize &size, PixelLayout layout)
 {
@@ -51,10 +51,12 @@ CameraFrame RunSample::Frame(const QSize &size, PixelLayout layout, int frame, i
     const QByteArray packed = Samples(size, layout, frame);
     const int rowBytes = size.width() * BytesPerPixel(layout);
     const int stride = rowBytes + paddingBytes;
-    std::shared_ptr<uchar> pixels(new uchar[size_t(stride) * size_t(size.height())], std::default_delete<uchar[]>());
+    std::shared_ptr<uchar> pixels(new uchar[size_t(stride) * size_t(size.height())],
+                                  std::default_delete<uchar[]>());
     std::memset(pixels.get(), 0xA5, size_t(stride) * size_t(size.height()));
     for (int y = 0; y < size.height(); ++y)
-        std::memcpy(pixels.get() + size_t(y) * size_t(stride), packed.constData() + y * rowBytes, size_t(rowBytes));
+        std::memcpy(pixels.get() + size_t(y) * size_t(stride), packed.constData() + y * rowBytes,
+                    size_t(rowBytes));
     CameraFrame result;
     result.pixels = pixels;
     result.width = size.width();

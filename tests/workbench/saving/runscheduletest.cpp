@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "runschedule.h"
 #include "guardedtest.h"
 #include "runestimate.h"
-#include "runschedule.h"
 
 #include <numeric>
 
@@ -22,13 +22,14 @@ private slots:
         const auto open = int(RecordingSettings::Mode::UntilStopped);
         QVector<int> all(30);
         std::iota(all.begin(), all.end(), 0);
-        QTest::newRow("one") << single << 0 << QVector<int>{0};
-        QTest::newRow("four") << count << 0 << QVector<int>{0, 1, 2, 3};
+        QTest::newRow("one") << single << 0 << QVector<int>{ 0 };
+        QTest::newRow("four") << count << 0 << QVector<int>{ 0, 1, 2, 3 };
         QTest::newRow("a second") << duration << 0 << all.mid(0, 25);
         QTest::newRow("until stopped") << open << 0 << all;
-        QTest::newRow("four, every 100 ms") << count << 100 << QVector<int>{0, 3, 5, 8}; // at 0, 120, 200, 320
-        QTest::newRow("a second, every 300 ms") << duration << 300 << QVector<int>{0, 8, 15, 23};
-        QTest::newRow("shorter than the frames") << count << 10 << QVector<int>{0, 1, 2, 3};
+        QTest::newRow("four, every 100 ms")
+            << count << 100 << QVector<int>{ 0, 3, 5, 8 }; // at 0, 120, 200, 320
+        QTest::newRow("a second, every 300 ms") << duration << 300 << QVector<int>{ 0, 8, 15, 23 };
+        QTest::newRow("shorter than the frames") << count << 10 << QVector<int>{ 0, 1, 2, 3 };
     }
 
     void keepsTheRightFrames()
@@ -76,15 +77,19 @@ private slots:
         const qint64 frame = 1000000;
         // 1000 frames, or 40 s at 25 frames/s, of 1 MB.
         QTest::newRow("fits") << count << false << reserve + 1000 * frame << qint64(0) << "";
-        QTest::newRow("one too many") << count << false << reserve + 999 * frame << qint64(0)
-                                      << "The run needs 1.0 GB, and the disk has 1.3 GB free: room for 999 frames.";
-        QTest::newRow("by time") << duration << false << reserve + 999 * frame << qint64(0)
-                                 << "The run needs 1.0 GB, and the disk has 1.3 GB free: room for 999 frames.";
-        QTest::newRow("memory") << count << true << reserve + 5000 * frame << reserve + 10 * frame
-                                << "The run needs 1.0 GB, and the memory has 278.4 MB free: room for 10 frames.";
+        QTest::newRow("one too many")
+            << count << false << reserve + 999 * frame << qint64(0)
+            << "The run needs 1.0 GB, and the disk has 1.3 GB free: room for 999 frames.";
+        QTest::newRow("by time")
+            << duration << false << reserve + 999 * frame << qint64(0)
+            << "The run needs 1.0 GB, and the disk has 1.3 GB free: room for 999 frames.";
+        QTest::newRow("memory")
+            << count << true << reserve + 5000 * frame << reserve + 10 * frame
+            << "The run needs 1.0 GB, and the memory has 278.4 MB free: room for 10 frames.";
         QTest::newRow("memory is not asked") << count << false << reserve + 5000 * frame << qint64(0) << "";
-        QTest::newRow("nothing free") << open << false << qint64(1000) << qint64(0)
-                                      << "The run needs more than one frame, and the disk has 1.0 kB free: room for 0 frames.";
+        QTest::newRow("nothing free")
+            << open << false << qint64(1000) << qint64(0)
+            << "The run needs more than one frame, and the disk has 1.0 kB free: room for 0 frames.";
         QTest::newRow("until stopped") << open << false << reserve + frame << qint64(0) << "";
         QTest::newRow("not known") << count << false << qint64(-1) << qint64(-1) << "";
     }

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "runwriter.h"
 #include "guardedtest.h"
 #include "openpicture.h"
 #include "runchecksum.h"
 #include "runsample.h"
 #include "runsummary.h"
-#include "runwriter.h"
 
 #include <QDir>
 #include <QFile>
@@ -26,12 +26,17 @@ struct FormatRow
 };
 
 const FormatRow formatTable[] = {
-    {"TIFF, 8 bit", RunFormat::Tiff, PixelLayout::Mono8},   {"TIFF, 12 bit", RunFormat::Tiff, PixelLayout::Mono12},
-    {"TIFF, 16 bit", RunFormat::Tiff, PixelLayout::Mono16}, {"TIFF, colour", RunFormat::Tiff, PixelLayout::Rgb8},
-    {"FITS, 8 bit", RunFormat::Fits, PixelLayout::Mono8},   {"FITS, 12 bit", RunFormat::Fits, PixelLayout::Mono12},
-    {"FITS, 16 bit", RunFormat::Fits, PixelLayout::Mono16}, {"PNG, 8 bit", RunFormat::Png, PixelLayout::Mono8},
-    {"PNG, 12 bit", RunFormat::Png, PixelLayout::Mono12},   {"PNG, 16 bit", RunFormat::Png, PixelLayout::Mono16},
-    {"PNG, colour", RunFormat::Png, PixelLayout::Rgb8},
+    { "TIFF, 8 bit", RunFormat::Tiff, PixelLayout::Mono8 },
+    { "TIFF, 12 bit", RunFormat::Tiff, PixelLayout::Mono12 },
+    { "TIFF, 16 bit", RunFormat::Tiff, PixelLayout::Mono16 },
+    { "TIFF, colour", RunFormat::Tiff, PixelLayout::Rgb8 },
+    { "FITS, 8 bit", RunFormat::Fits, PixelLayout::Mono8 },
+    { "FITS, 12 bit", RunFormat::Fits, PixelLayout::Mono12 },
+    { "FITS, 16 bit", RunFormat::Fits, PixelLayout::Mono16 },
+    { "PNG, 8 bit", RunFormat::Png, PixelLayout::Mono8 },
+    { "PNG, 12 bit", RunFormat::Png, PixelLayout::Mono12 },
+    { "PNG, 16 bit", RunFormat::Png, PixelLayout::Mono16 },
+    { "PNG, colour", RunFormat::Png, PixelLayout::Rgb8 },
 };
 
 } // namespace
@@ -87,7 +92,8 @@ private slots:
         QString error;
         const auto writer = CreateRunWriter(RunFormat::Fits, Path(RunFormat::Fits));
         QVERIFY(!writer->Begin(RunSample::Facts(Size, PixelLayout::Rgb8), &error));
-        QVERIFY2(error.contains("run.fits") && error.contains("not colour") && error.contains("TIFF or PNG"), qPrintable(error));
+        QVERIFY2(error.contains("run.fits") && error.contains("not colour") && error.contains("TIFF or PNG"),
+                 qPrintable(error));
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList());
     }
 
@@ -103,7 +109,8 @@ private slots:
         QString all;
         for (const MetadataEntry &entry : file->Info().metadata)
             all += entry.key + '=' + entry.value + '\n';
-        for (const char *fact : {"S/N 42", "12500 us", "1.5", "74 x 42 from (16, 8)", "2 x 2", "12 bit", "workbench test"})
+        for (const char *fact :
+             { "S/N 42", "12500 us", "1.5", "74 x 42 from (16, 8)", "2 x 2", "12 bit", "workbench test" })
             QVERIFY2(all.contains(fact), qPrintable(QString(fact) + " is not in " + all));
         QVERIFY2(!all.contains("Pixel size") && !all.contains("PhysicalSize"), qPrintable(all));
     }
@@ -112,7 +119,7 @@ private slots:
     {
         const auto writer = Begin(RunFormat::Tiff, PixelLayout::Mono8);
         QString error;
-        for (int frame : {0, 1, 4, 9})
+        for (int frame : { 0, 1, 4, 9 })
             QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, frame), &error));
         RunOutcome outcome;
         outcome.end = RunEnd::Stopped;
@@ -124,10 +131,13 @@ private slots:
         QFile file(RunSummaryPath(Path(RunFormat::Tiff)));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(file.readAll());
-        for (const char *line : {"Recording: run.tif\n", "Run: stopped by the user\n", "Frames captured: 5\n", "Frames saved: 4\n",
-                                 "Frames lost: 6 (5 arrived incomplete, 1 the disk was too slow and the queue full)\n",
-                                 "Frame ids missing: 102-103, 105-108\n", "Average rate: 166.67 frames/s\n",
-                                 "Camera: Maker & Sons C-1\n", "Exposure: 12500 us\n", "Bit depth: 8 bit\n", "\n4\t109\t9000000\t"})
+        for (const char *line :
+             { "Recording: run.tif\n", "Run: stopped by the user\n", "Frames captured: 5\n",
+               "Frames saved: 4\n",
+               "Frames lost: 6 (5 arrived incomplete, 1 the disk was too slow and the queue full)\n",
+               "Frame ids missing: 102-103, 105-108\n", "Average rate: 166.67 frames/s\n",
+               "Camera: Maker & Sons C-1\n", "Exposure: 12500 us\n", "Bit depth: 8 bit\n",
+               "\n4\t109\t9000000\t" })
             QVERIFY2(text.contains(line), qPrintable(QString(line) + " is not in\n" + text));
     }
 
@@ -143,7 +153,8 @@ private slots:
         QString error;
         const auto writer = CreateRunWriter(format, Path(format));
         QVERIFY(!writer->Begin(RunSample::Facts(Size, PixelLayout::Mono8), &error));
-        QVERIFY2(error.contains("is there already") && error.contains("Choose another name"), qPrintable(error));
+        QVERIFY2(error.contains("is there already") && error.contains("Choose another name"),
+                 qPrintable(error));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), QByteArray("mine"));
         QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 1);
@@ -209,8 +220,10 @@ private slots:
     {
         QTest::addColumn<QString>("folder");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("not there") << "nowhere" << "does not exist";
-        QTest::newRow("a file") << "file" << "does not exist";
+        QTest::newRow("not there") << "nowhere"
+                                   << "does not exist";
+        QTest::newRow("a file") << "file"
+                                << "does not exist";
         QTest::newRow("longer than any name") << QString(300, 'x') << "does not exist";
     }
 
@@ -282,7 +295,7 @@ private:
         {
             m_handler = std::signal(SIGXFSZ, SIG_IGN);
             getrlimit(RLIMIT_FSIZE, &m_before);
-            const rlimit lower{bytes, m_before.rlim_max};
+            const rlimit lower{ bytes, m_before.rlim_max };
             setrlimit(RLIMIT_FSIZE, &lower);
         }
         ~FileSizeLimit()
@@ -314,7 +327,10 @@ private:
 
     QString Path(RunFormat format) const { return m_folder->filePath("run." + RunSuffix(format)); }
 
-    QStringList LeftOvers() const { return QDir(m_folder->path()).entryList({"*.part", "*.journal"}, QDir::Files); }
+    QStringList LeftOvers() const
+    {
+        return QDir(m_folder->path()).entryList({ "*.part", "*.journal" }, QDir::Files);
+    }
 
     std::unique_ptr<RunWriter> Begin(RunFormat format, PixelLayout layout)
     {

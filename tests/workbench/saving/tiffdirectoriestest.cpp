@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tiffdirectories.h"
 #include "guardedtest.h"
 #include "openpicture.h"
 #include "runsample.h"
-#include "tiffdirectories.h"
 
 #include <QFile>
 #include <QTemporaryDir>
