@@ -227,6 +227,51 @@ private slots:
         QVERIFY(summary.readAll().contains("Exposure: 4500 us\n"));
     }
 
+    void aRunThatDoesNotFitAsksFirst_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("records");
+        QTest::newRow("cancel") << "Cancel" << false;
+        QTest::newRow("what fits") << "Record What Fits" << true;
+        QTest::newRow("anyway") << "Record Anyway" << true;
+    }
+
+    void aRunThatDoesNotFitAsksFirst()
+    {
+        QFETCH(QString, answer);
+        QFETCH(bool, records);
+        m_workbench->link.SetRegion(QRect(0, 0, 2048, 2048));
+        m_settings.frames = RecordingSettings::MostFrames; // 42 TB
+        Apply();
+        Answer(answer);
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_COMPARE_WITH_TIMEOUT(m_isAnswered, true, MsToWait);
+        if (!records) {
+            QTRY_VERIFY(!Desk()->IsBusy());
+            QCOMPARE(m_ended->count(), 0);
+            return;
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 0, MsToWait);
+        const int frames = Desk()->Saving()->Order().settings.frames;
+        QCOMPARE(frames < RecordingSettings::MostFrames, answer == "Record What Fits");
+        Desk()->slotDiscard();
+        Receipt();
+    }
+
+    void closingTheCameraAsks()
+    {
+        m_settings.mode = RecordingSettings::Mode::UntilStopped;
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 3, MsToWait);
+        Answer("Finish It");
+        m_workbench->Action("Close Camera")->trigger();
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
+        CompareWithTheScene(receipt, receipt.stamps.size());
+        QTRY_VERIFY_WITH_TIMEOUT(m_workbench->link.GetState() == CameraLink::State::NoCamera, MsToWait);
+    }
+
     void binnedFramesAreMeansAndSaySo()
     {
         m_workbench->Action("2 x 2")->trigger();
@@ -292,11 +337,13 @@ private:
     /// Presses that button of the question as soon as it is there.
     void Answer(const QString &text)
     {
+        m_isAnswered = false;
         auto *timer = new QTimer(&m_workbench->window);
-        connect(timer, &QTimer::timeout, this, [timer, text] {
+        connect(timer, &QTimer::timeout, this, [this, timer, text] {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             if (!box || !box->isActiveWindow() || !box->windowHandle()->isExposed())
                 return; // a person clicks what is on the screen
+            m_isAnswered = true;
             timer->stop();
             timer->deleteLater();
             for (QAbstractButton *button : box->buttons()) {
@@ -335,6 +382,7 @@ private:
     std::unique_ptr<RunningWorkbench> m_workbench;
     std::unique_ptr<QSignalSpy> m_ended;
     RecordingSettings m_settings;
+    bool m_isAnswered = false;
 };
 
 GUARDED_TEST_MAIN(Recording)

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pngrunwriter.h"
 
+#include "runsummary.h"
+
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QImageWriter>
+
+#include <cstdio>
 
 namespace {
 
@@ -98,8 +102,35 @@ bool PngRunWriter::CutTo(int frames, FileFault &)
     return true;
 }
 
-bool PngRunWriter::Complete(const RunOutcome &, FileFault &fault)
+/// The first file of the sequence also tells how the run ended, which nobody knew when it was written.
+bool PngRunWriter::AddLedger(const RunOutcome &outcome, FileFault &fault) const
 {
+    const QString path = FramePath(Path(), 0);
+    const QImage stored(path);
+    QImage image = stored.convertToFormat(ImageFormat(Facts()));
+    for (const QString &keyword : stored.textKeys())
+        image.setText(keyword, stored.text(keyword));
+    for (const auto &line : OutcomeLines(outcome, Stamps()))
+        image.setText(Keyword(line.first), line.second);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    RunDisk disk;
+    if (stored.isNull() || !image.save(&buffer, "png", PngQuality))
+        return fault.Set(Translate("its first frame could not be read again"), DiskAdvice());
+    const bool isWritten = disk.Create(UnfinishedName(path), fault)
+                           && disk.Write(bytes.constData(), bytes.size(), fault) && disk.Synchronise(fault);
+    if (isWritten
+        && ::rename(QFile::encodeName(UnfinishedName(path)).constData(), QFile::encodeName(path).constData())
+               == 0)
+        return true;
+    QFile::remove(UnfinishedName(path));
+    return isWritten ? fault.Set(qt_error_string(), DiskAdvice()) : false;
+}
+
+bool PngRunWriter::Complete(const RunOutcome &outcome, FileFault &fault)
+{
+    if (FramesWritten() > 0 && !AddLedger(outcome, fault))
+        return false;
     for (int frame = 0; frame < FramesWritten(); ++frame) {
         RunDisk disk;
         if (!disk.OpenExisting(FramePath(Path(), frame), fault) || !disk.Synchronise(fault))

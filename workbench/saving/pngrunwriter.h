@@ -24,5 +24,7 @@ protected:
     QStringList DataFiles() const override;
 
 private:
+    bool AddLedger(const RunOutcome &outcome, FileFault &fault) const;
+
     int m_placed = 0; ///< files of this recording that have their names
 };

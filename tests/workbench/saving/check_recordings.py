@@ -80,6 +80,8 @@ def check_png(path, layout):
         name = path.replace(".png", f"_{frame + 1:06d}.png")
         with Image.open(name) as image:
             check(numpy.array_equal(numpy.array(image), expected(layout, frame)), name)
+            if frame == 0:
+                check(image.text["Framessaved"] == str(FRAMES) and image.text["Frameslost"] == "0", name + " has the ledger")
             check(image.text["FrameId"] == str(100 + frame) and image.text["Serialnumber"] == "S/N 42", name + " tells the truth")
 
 

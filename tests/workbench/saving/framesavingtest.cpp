@@ -24,10 +24,11 @@ constexpr int MsToWait = 20000;
 class SlowDisk : public RunWriter
 {
 public:
-    SlowDisk(const QString &path, QSemaphore *permits, int failsAt)
+    SlowDisk(const QString &path, QSemaphore *permits, int failsAt, bool isGone = false)
         : RunWriter(path, RunFormat::Tiff)
         , m_permits(permits)
         , m_failsAt(failsAt)
+        , m_isGone(isGone)
     {
     }
 
@@ -40,13 +41,17 @@ protected:
         return FramesWritten() != m_failsAt || fault.Set("the disk is full", "Free some space.");
     }
     bool CutTo(int, FileFault &) override { return true; }
-    bool Complete(const RunOutcome &, FileFault &) override { return true; }
+    bool Complete(const RunOutcome &, FileFault &fault) override
+    {
+        return !m_isGone || fault.Set("the disk does not answer", "Check that it is still connected.");
+    }
     bool Place(FileFault &) override { return true; }
     void RemoveData() override {}
 
 private:
     QSemaphore *m_permits;
     const int m_failsAt;
+    const bool m_isGone; ///< from the failure on
 };
 
 } // namespace
@@ -248,6 +253,23 @@ private slots:
         QCOMPARE(receipt.outcome.counts.saved + receipt.outcome.counts.LostAt(LossStage::Disk),
                  receipt.outcome.counts.captured);
         QVERIFY(receipt.outcome.counts.LostAt(LossStage::Disk) >= 1);
+    }
+
+    /// Its unfinished file is noted for the repair, when the disk is back.
+    void aDiskThatIsGoneEndsTheRunAndIsRemembered()
+    {
+        QSemaphore permits(100);
+        Make([&](RunFormat, const QString &path) {
+            return std::make_unique<SlowDisk>(path, &permits, 2, true);
+        });
+        QVERIFY(m_saving->StartRun(m_order));
+        SendUntilEnded();
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.files, QStringList());
+        QVERIFY(!receipt.IsWhole());
+        QVERIFY(!receipt.error.isEmpty());
+        QCOMPARE(RunRegister(m_folder->filePath("register")).Entries().size(), 1);
+        QVERIFY(!m_saving->IsBusy());
     }
 
     void aFolderThatIsNotThereIsSaidAtOnce()

@@ -239,12 +239,14 @@ private slots:
         QVERIFY2(error.contains("run.tif") && error.contains(reason), qPrintable(error));
     }
 
-    void aFolderOfTheSystemSaysThatItMayNotBeWritten()
+    /// The kernel's own folders refuse new files even to an administrator.
+    void aFolderThatMayNotBeWrittenIsSaid()
     {
         QString error;
-        const auto writer = CreateRunWriter(RunFormat::Tiff, "/proc/run.tif");
+        const auto writer = CreateRunWriter(RunFormat::Tiff, "/sys/run.tif");
         QVERIFY(!writer->Begin(RunSample::Facts(Size, PixelLayout::Mono8), &error));
-        QVERIFY2(error.contains("run.tif"), qPrintable(error));
+        QVERIFY2(error.contains("run.tif") && error.contains("you may not write in that folder"),
+                 qPrintable(error));
     }
 
     /// The largest file that the process may write stands for a full disk.
