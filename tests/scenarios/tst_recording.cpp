@@ -6,6 +6,7 @@
 #include "livepreview.h"
 #include "openpicture.h"
 #include "recordingdesk.h"
+#include "recordingstatus.h"
 #include "runningworkbench.h"
 #include "savesettings.h"
 #include "shownframes.h"
@@ -270,6 +271,62 @@ private slots:
         QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
         CompareWithTheScene(receipt, receipt.stamps.size());
         QTRY_VERIFY_WITH_TIMEOUT(m_workbench->link.GetState() == CameraLink::State::NoCamera, MsToWait);
+    }
+
+    void theReceiptSaysWhetherTheFilesHoldWhatWasCaptured()
+    {
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        const RunReceipt receipt = Receipt();
+        m_workbench->Action("Last Recording…")->trigger();
+        auto *dialog = m_workbench->window.findChild<QDialog *>("ReceiptDialog");
+        QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
+        auto *verdict = dialog->findChild<QLabel *>("labelVerdict");
+        auto *verify = dialog->findChild<QPushButton *>("pushButtonVerify");
+        QTest::mouseClick(verify, Qt::LeftButton);
+        QTRY_COMPARE_WITH_TIMEOUT(verdict->text(), QString("The files hold exactly what was captured."),
+                                  MsToWait);
+
+        // One sample of the third frame is changed behind the program's back.
+        QFile file(receipt.files.first());
+        QVERIFY(file.open(QIODevice::ReadWrite));
+        const qint64 place = 16 + 2 * SmallRegion.width() * SmallRegion.height() + 77;
+        char sample = 0;
+        QVERIFY(file.seek(place) && file.getChar(&sample) && file.seek(place)
+                && file.putChar(char(sample ^ 1)));
+        file.close();
+        QTest::mouseClick(verify, Qt::LeftButton);
+        QTRY_VERIFY_WITH_TIMEOUT(verdict->text().startsWith("The files do NOT hold what was captured"),
+                                 MsToWait);
+        dialog->close();
+        QVERIFY(QTest::qWaitForWindowActive(&m_workbench->window));
+    }
+
+    void theStatusBarTellsTheQueue_data()
+    {
+        QTest::addColumn<quint64>("lost");
+        QTest::addColumn<double>("growth");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("the disk keeps up") << quint64(0) << 0.0 << "saved 120  waiting 3 (24.0 MB)";
+        QTest::newRow("the queue shrinks") << quint64(0) << -1e6 << "saved 120  waiting 3 (24.0 MB)";
+        QTest::newRow("the queue grows")
+            << quint64(0) << 8e6 << "saved 120  waiting 3 (24.0 MB)  queue full in 22 s";
+        QTest::newRow("hours away") << quint64(0) << 1e3 << "saved 120  waiting 3 (24.0 MB)";
+        QTest::newRow("loss") << quint64(7) << 0.0 << "saved 120  LOST 7  waiting 3 (24.0 MB)";
+    }
+
+    void theStatusBarTellsTheQueue()
+    {
+        QFETCH(quint64, lost);
+        QFETCH(double, growth);
+        RecordingStatus::Facts facts;
+        facts.saved = 120;
+        facts.lost = lost;
+        facts.waiting = 3;
+        facts.waitingBytes = 24000000;
+        facts.budgetBytes = 200000000;
+        facts.growthBytesPerSecond = growth;
+        QTEST(RecordingStatus::Text(facts), "text");
     }
 
     void binnedFramesAreMeansAndSaySo()
