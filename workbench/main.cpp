@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "applicationlook.h"
 #include "cameralink.h"
 #include "commandline.h"
 #include "devicelist.h"
@@ -6,7 +7,6 @@
 #include "picturedesk.h"
 #include "recordrun.h"
 #include "settingsfile.h"
-#include "stylesheet.h"
 #include "timedrun.h"
 #include "workbenchservices.h"
 
@@ -58,17 +58,13 @@ int Record(const CommandLine &line)
     return QApplication::exec();
 }
 
-int RunWorkbench(QApplication &application, const CommandLine &line)
+int RunWorkbench(const CommandLine &line)
 {
-    const StyleSheet look = StyleSheet::Dark();
-    if (!look.ErrorText().isEmpty())
-        qWarning("%s", qUtf8Printable(look.ErrorText()));
-    look.Apply(application);
-
     SettingsFile settings(SettingsFile::StandardPath());
     CameraLink link;
     link.SetScene(line.scene);
     WorkbenchServices services(settings.Settings(), &link);
+    services.Look()->Apply();
     // The camera opens in its worker while the window is being built.
     link.Open(line.cameraId.isEmpty() ? SimulatedCameraInfo().id : line.cameraId);
     MainWindow window(&services, settings.Settings());
@@ -111,7 +107,9 @@ int main(int argc, char **argv)
     QCoreApplication::setApplicationVersion(WORKBENCH_VERSION);
     if (!line.record.isEmpty() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen"); // nothing is shown, and there may be no display
+    // Widgets follow the dots per inch of the screen, pictures stay at its pixels; so Qt does not scale by itself.
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
     application.setWindowIcon(QIcon(":/icons/workbench.svg"));
-    return line.record.isEmpty() ? RunWorkbench(application, line) : Record(line);
+    return line.record.isEmpty() ? RunWorkbench(line) : Record(line);
 }

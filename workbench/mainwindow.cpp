@@ -6,6 +6,7 @@
 #include "cameranotice.h"
 #include "drawingguard.h"
 #include "filedrop.h"
+#include "globalclass.h"
 #include "globalui.h"
 #include "informationdialog.h"
 #include "picturedesk.h"
@@ -44,6 +45,7 @@ const char GeometryKey[] = "window/geometry";
 const char StateKey[] = "window/state";
 const char BlackBackgroundKey[] = "window/blackBackground";
 
+// Design sizes.
 constexpr QSize DefaultSize(1440, 900);
 constexpr int SidePanelWidth = 400;
 constexpr int BottomPanelHeight = 170;
@@ -109,7 +111,7 @@ QDockWidget *MainWindow::AddDock(const char *name, QWidget *area, Qt::DockWidget
     dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
     dock->setTitleBarWidget(new QWidget(dock));
     if (where != Qt::BottomDockWidgetArea)
-        area->setMinimumWidth(SidePanelWidth);
+        area->setMinimumWidth(GlobalClass::GetActualSize(SidePanelWidth));
     dock->setWidget(area);
     addDockWidget(where, dock);
     return dock;
@@ -163,9 +165,11 @@ void MainWindow::RestoreLayout()
 
 void MainWindow::ArrangeDefault()
 {
-    resize(DefaultSize.boundedTo(QApplication::primaryScreen()->availableSize()));
-    resizeDocks({m_leftDock, m_rightDock}, {SidePanelWidth, SidePanelWidth}, Qt::Horizontal);
-    resizeDocks({m_bottomDock}, {BottomPanelHeight}, Qt::Vertical);
+    const int side = GlobalClass::GetActualSize(SidePanelWidth);
+    const QSize size(GlobalClass::GetActualSize(DefaultSize.width()), GlobalClass::GetActualSize(DefaultSize.height()));
+    resize(size.boundedTo(QApplication::primaryScreen()->availableSize()));
+    resizeDocks({m_leftDock, m_rightDock}, {side, side}, Qt::Horizontal);
+    resizeDocks({m_bottomDock}, {GlobalClass::GetActualSize(BottomPanelHeight)}, Qt::Vertical);
 }
 
 void MainWindow::slotRestoreDefaultLayout()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "viewmenu.h"
 
+#include "applicationlook.h"
 #include "cameralink.h"
 #include "globalnotify.h"
 #include "levelsdialog.h"
@@ -26,6 +27,7 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     , m_drawingGroup(new QActionGroup(this))
     , m_sceneGroup(new QActionGroup(this))
     , m_opacityGroup(new QActionGroup(this))
+    , m_lookGroup(new QActionGroup(this))
 {
     AddViews();
     addSeparator();
@@ -36,12 +38,15 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     AddDrawing();
     AddScenes();
     addSeparator();
+    AddLooks();
     AddWindow();
 
     connect(m_panelGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetPanel(QAction *)));
     connect(m_drawingGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetDrawing(QAction *)));
     connect(m_sceneGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetScene(QAction *)));
     connect(m_opacityGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetCoverOpacity(QAction *)));
+    connect(m_lookGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetLook(QAction *)));
+    connect(services->Look(), SIGNAL(signalChanged()), this, SLOT(slotUpdate()));
     connect(services->Cover(), SIGNAL(signalChanged()), this, SLOT(slotUpdateCover()));
     connect(m_config, SIGNAL(signalSetCPUDraw(bool)), this, SLOT(slotUpdate()));
     connect(services->Levels()->Model(), SIGNAL(signalChanged()), this, SLOT(slotUpdate()));
@@ -100,10 +105,17 @@ void ViewMenu::AddScenes()
         AddChoice(m_sceneGroup, menu, name, name);
 }
 
+void ViewMenu::AddLooks()
+{
+    QMenu *menu = addMenu(tr("Loo&k"));
+    AddChoice(m_lookGroup, menu, tr("&Dark"), "dark");
+    AddChoice(m_lookGroup, menu, tr("&Light"), "light");
+}
+
 void ViewMenu::AddWindow()
 {
     // The keys of these two belong to the tool bar of the view.
-    m_blackBackground = addAction(tr("Blac&k Background"), [] { GlobalNotifyObserver(NotifyBlackBackground, nullptr); });
+    m_blackBackground = addAction(tr("Bl&ack Background"), [] { GlobalNotifyObserver(NotifyBlackBackground, nullptr); });
     m_blackBackground->setCheckable(true);
     m_fullScreen = addAction(tr("F&ull Screen"), [] { GlobalNotifyObserver(NotifyFullScreen, nullptr); });
     m_fullScreen->setCheckable(true);
@@ -129,6 +141,8 @@ void ViewMenu::slotUpdate()
     m_markSaturated->setChecked(m_services->Levels()->Model()->MarksSaturated());
     for (QAction *action : m_sceneGroup->actions())
         action->setChecked(action->data().toString() == m_services->Link()->SceneName());
+    for (QAction *action : m_lookGroup->actions())
+        action->setChecked(action->data().toString() == m_services->Look()->Name());
 }
 
 void ViewMenu::slotUpdateCover()
@@ -193,6 +207,11 @@ void ViewMenu::slotShowLevels()
     m_levelsDialog->show();
     m_levelsDialog->raise();
     m_levelsDialog->activateWindow();
+}
+
+void ViewMenu::slotSetLook(QAction *action)
+{
+    m_services->Look()->Choose(action->data().toString());
 }
 
 void ViewMenu::slotSetScene(QAction *action)

@@ -33,6 +33,7 @@ private slots:
     void slotSetDrawing(QAction *action);
     void slotShowLevels();
     void slotSetScene(QAction *action);
+    void slotSetLook(QAction *action);
     void slotSetPanel(QAction *action);
     void slotSetCoverOpacity(QAction *action);
     void slotUpdateCover();
@@ -44,6 +45,7 @@ private:
     void AddCover();
     void AddDrawing();
     void AddScenes();
+    void AddLooks();
     void AddWindow();
     void BuildLevelsDialog();
     QAction *AddChoice(QActionGroup *group, QMenu *menu, const QString &text, const QVariant &data);
@@ -54,6 +56,7 @@ private:
     QActionGroup *m_drawingGroup;
     QActionGroup *m_sceneGroup;
     QActionGroup *m_opacityGroup;
+    QActionGroup *m_lookGroup;
     LevelsDialog *m_levelsDialog = nullptr;
     QAction *m_markSaturated = nullptr;
     QAction *m_drawCover = nullptr;

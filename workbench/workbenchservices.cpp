@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workbenchservices.h"
 
+#include "applicationlook.h"
 #include "autocounting.h"
 #include "cameracaption.h"
 #include "cameralink.h"
@@ -67,6 +68,7 @@ QString RepairText(const RepairedRun &run)
 WorkbenchServices::WorkbenchServices(QSettings *settings, CameraLink *link)
     : m_settings(settings)
     , m_link(link)
+    , m_look(std::make_unique<ApplicationLook>(settings))
     , m_config(std::make_unique<WorkspaceConfig>(settings))
     , m_useArea(std::make_unique<UseArea>(settings))
     , m_levelsModel(std::make_unique<LevelsModel>(settings))

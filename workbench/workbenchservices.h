@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class ApplicationLook;
 class AutoCounting;
 class CameraCaption;
 class CameraLink;
@@ -60,6 +61,7 @@ public:
     WorkbenchServices(QSettings *settings, CameraLink *link);
     ~WorkbenchServices() override;
 
+    ApplicationLook *Look() const { return m_look.get(); }
     CameraLink *Link() const { return m_link; }
     LivePreview *Preview() const { return m_preview.get(); }
     LiveLevels *Levels() const { return m_levels.get(); }
@@ -97,6 +99,7 @@ private:
     QSettings *m_settings;
     CameraLink *m_link;
 
+    std::unique_ptr<ApplicationLook> m_look;
     std::unique_ptr<WorkspaceConfig> m_config;
     std::unique_ptr<UseArea> m_useArea;
     std::unique_ptr<LevelsModel> m_levelsModel;

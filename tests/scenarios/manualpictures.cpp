@@ -233,7 +233,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     if (argc != 2 || !QDir().mkpath(argv[1]))
         qFatal("Usage: manual_pictures FOLDER");
-    StyleSheet::Dark().Apply(application);
+    StyleSheet::Named("dark").Apply(application);
     const QTemporaryDir folder;
     {
         Album album(folder.path(), QDir(argv[1]));

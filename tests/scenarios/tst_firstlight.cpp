@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "camerasession.h"
+#include "globalclass.h"
 #include "guardedtest.h"
 #include "livepreview.h"
 #include "runningworkbench.h"
@@ -360,7 +361,8 @@ private slots:
         QTRY_VERIFY(!m_workbench->window.findChild<QWidget *>("DockRight")->isVisible());
         QTRY_VERIFY(!m_workbench->window.findChild<QWidget *>("DockBottom")->isVisible());
         QTRY_COMPARE(Canvas(), QColor(68, 73, 86));
-        QTRY_COMPARE(m_workbench->window.size(), QSize(1440, 900));
+        QTRY_COMPARE(m_workbench->window.size(),
+                     QSize(GlobalClass::GetActualSize(1440), GlobalClass::GetActualSize(900)));
     }
 
     void nextStartHasTheSameLayout()
@@ -478,7 +480,7 @@ private:
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    StyleSheet::Dark().Apply(application);
+    StyleSheet::Named("dark").Apply(application);
     FirstLight test;
     return GuardedTest::Run(&test, argc, argv);
 }

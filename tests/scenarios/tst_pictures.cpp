@@ -584,7 +584,7 @@ private:
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
-    StyleSheet::Dark().Apply(application);
+    StyleSheet::Named("dark").Apply(application);
     PicturesScenario test;
     return GuardedTest::Run(&test, argc, argv);
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "stylesheet.h"
+#include "globalclass.h"
 #include "workbenchstyle.h"
 
 #include <QApplication>
@@ -20,6 +21,22 @@ bool ReadText(const QString &fileName, QString *text, QString *errorText)
     return true;
 }
 
+/// Sizes in the template are design sizes; a line stays at least a pixel wide.
+QString WithActualSizes(const QString &text)
+{
+    static const QRegularExpression size(QStringLiteral("\\b([1-9][0-9]*)px"));
+    QString sized;
+    int copied = 0;
+    QRegularExpressionMatchIterator matches = size.globalMatch(text);
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        sized += text.midRef(copied, match.capturedStart() - copied);
+        sized += QStringLiteral("%1px").arg(GlobalClass::GetActualSize(match.captured(1).toInt()));
+        copied = match.capturedEnd();
+    }
+    return sized + text.midRef(copied);
+}
+
 } // namespace
 
 StyleSheet StyleSheet::Load(const QString &templateFile, const QString &tokenFile)
@@ -31,9 +48,9 @@ StyleSheet StyleSheet::Load(const QString &templateFile, const QString &tokenFil
     return sheet;
 }
 
-StyleSheet StyleSheet::Dark()
+StyleSheet StyleSheet::Named(const QString &look)
 {
-    return Load(QStringLiteral(":/style/dark.qss.in"), QStringLiteral(":/style/dark.tokens"));
+    return Load(QStringLiteral(":/style/workbench.qss.in"), QStringLiteral(":/style/%1.tokens").arg(look));
 }
 
 bool StyleSheet::ReadTokens(const QString &fileName)
@@ -100,7 +117,7 @@ QPalette StyleSheet::Palette() const
         { QPalette::HighlightedText, "text-on-accent" },
         { QPalette::ToolTipBase, "field" },
         { QPalette::ToolTipText, "text" },
-        { QPalette::Link, "accent" },
+        { QPalette::Link, "accent-strong" },
         { QPalette::LinkVisited, "accent-strong" },
         { QPalette::Light, "hover" },
         { QPalette::Mid, "edge" },
@@ -120,5 +137,5 @@ void StyleSheet::Apply(QApplication &application) const
 {
     application.setStyle(new WorkbenchStyle); // the application takes it
     application.setPalette(Palette());
-    application.setStyleSheet(m_text);
+    application.setStyleSheet(WithActualSizes(m_text));
 }

@@ -15,8 +15,8 @@ class StyleSheet
 public:
     /// A file that cannot be read, a malformed line or an unknown token leaves the text empty.
     static StyleSheet Load(const QString &templateFile, const QString &tokenFile);
-    /// The dark look, from the application's resources.
-    static StyleSheet Dark();
+    /// One of the application's looks, "dark" or "light", from its resources.
+    static StyleSheet Named(const QString &look);
 
     /// The filled style sheet; empty after a failure.
     QString Text() const { return m_text; }
@@ -27,7 +27,7 @@ public:
 
     /// Colours for what no rule of the sheet reaches: file dialogs, plain widgets, links.
     QPalette Palette() const;
-    /// Base style, palette and sheet for the whole application.
+    /// Base style, palette and sheet, its sizes scaled to the screen, for the whole application.
     void Apply(QApplication &application) const;
 
 private:

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "applicationlook.h"
 #include "guardedtest.h"
 #include "restyle.h"
 #include "stylesheet.h"
@@ -11,7 +12,11 @@
 #include <QSvgRenderer>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QSettings>
+#include <QSignalSpy>
 #include <QTemporaryDir>
+
+#include <cmath>
 
 /// Stand-ins: rules of the sheet select on these class names.
 class ViewToolBar : public QFrame
@@ -34,11 +39,19 @@ private slots:
     void tokensReplaceTheirNames();
     void faultyFilesSayWhatIsWrong_data();
     void faultyFilesSayWhatIsWrong();
-    void darkLookIsComplete();
+    void everyLookIsComplete_data();
+    void everyLookIsComplete();
+    void looksHaveTheSameTokens();
+    void textIsReadable_data();
+    void textIsReadable();
+    void everyIconCanBeDrawn_data();
     void everyIconCanBeDrawn();
     void everyButtonHasAnIconOfItsOwn_data();
     void everyButtonHasAnIconOfItsOwn();
     void renamedButtonChangesItsIcon();
+    void chosenLookIsWornAndKept();
+    void sizesFollowTheScreen_data();
+    void sizesFollowTheScreen();
     void disabledIconIsFaded();
     void panelTabTextsFitTheirTabs_data();
     void panelTabTextsFitTheirTabs();
@@ -64,6 +77,22 @@ QStringList PushButtons(const QString &names)
     return objectNames;
 }
 
+/// Of WCAG 2.1, "relative luminance".
+double Luminance(const QColor &color)
+{
+    const auto linear = [](double value) {
+        return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double Contrast(const QColor &a, const QColor &b)
+{
+    const double light = qMax(Luminance(a), Luminance(b));
+    const double dark = qMin(Luminance(a), Luminance(b));
+    return (light + 0.05) / (dark + 0.05);
+}
+
 int StrongestAlpha(const QImage &image)
 {
     int strongest = 0;
@@ -79,7 +108,8 @@ int StrongestAlpha(const QImage &image)
 void StyleSheetTest::initTestCase()
 {
     QVERIFY(m_dir.isValid());
-    StyleSheet::Dark().Apply(*qApp);
+    qApp->setProperty("globalui.scale", 1.0); // whatever the screen says
+    StyleSheet::Named("dark").Apply(*qApp);
 }
 
 void StyleSheetTest::cleanupTestCase() { qApp->setStyleSheet(QString()); }
@@ -136,9 +166,17 @@ void StyleSheetTest::faultyFilesSayWhatIsWrong()
     QVERIFY(StyleSheet::Load(m_dir.filePath("look.qss.in"), missing).ErrorText().startsWith(missing));
 }
 
-void StyleSheetTest::darkLookIsComplete()
+void StyleSheetTest::everyLookIsComplete_data()
 {
-    const StyleSheet look = StyleSheet::Dark();
+    QTest::addColumn<QString>("name");
+    for (const QString &name : ApplicationLook::Names())
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void StyleSheetTest::everyLookIsComplete()
+{
+    QFETCH(QString, name);
+    const StyleSheet look = StyleSheet::Named(name);
 
     QCOMPARE(look.ErrorText(), QString());
     QVERIFY(!look.Text().isEmpty());
@@ -151,13 +189,64 @@ void StyleSheetTest::darkLookIsComplete()
     QCOMPARE(look.Palette().color(QPalette::Disabled, QPalette::Text), QColor(look.Token("text-disabled")));
 }
 
+void StyleSheetTest::looksHaveTheSameTokens()
+{
+    QStringList names[2];
+    for (int i = 0; i < 2; ++i) {
+        QFile file(QString(":/style/%1.tokens").arg(ApplicationLook::Names().at(i)));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        for (const QByteArray &line : file.readAll().split('\n')) {
+            if (line.contains('=') && !line.startsWith('#'))
+                names[i] << QString::fromUtf8(line).section('=', 0, 0).trimmed();
+        }
+    }
+    QVERIFY(names[0].size() > 20);
+    QCOMPARE(names[0], names[1]);
+}
+
+void StyleSheetTest::textIsReadable_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("ground");
+    QTest::addColumn<double>("least");
+    // 4.5 for text and 3 for large or disabled text are the bounds of WCAG 2.1, success criterion 1.4.3.
+    for (const char *ground : {"field", "window", "panel", "raised", "hover", "accent-tint"})
+        QTest::addRow("text on %s", ground) << "text" << ground << 4.5;
+    for (const char *ground : {"glass-lit", "glass-sunk", "glass-field", "glass-accent-tint"})
+        QTest::addRow("text on %s", ground) << "text-on-glass" << ground << 4.5;
+    for (const char *ground : {"window", "panel"})
+        QTest::addRow("muted text on %s", ground) << "text-muted" << ground << 4.5;
+    QTest::newRow("text on the accent") << "text-on-accent" << "accent" << 4.5;
+    QTest::newRow("accent beside the window") << "accent" << "window" << 2.5;
+    QTest::newRow("recording mark") << "record" << "record-tint" << 2.5;
+}
+
+void StyleSheetTest::textIsReadable()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, ground);
+    QFETCH(double, least);
+    for (const QString &name : ApplicationLook::Names()) {
+        const StyleSheet look = StyleSheet::Named(name);
+        const double contrast = Contrast(QColor(look.Token(text)), QColor(look.Token(ground)));
+        QVERIFY2(contrast >= least, qPrintable(QString("%1: %2").arg(name).arg(contrast)));
+    }
+}
+
+void StyleSheetTest::everyIconCanBeDrawn_data()
+{
+    everyLookIsComplete_data();
+}
+
 void StyleSheetTest::everyIconCanBeDrawn()
 {
-    const QString text = StyleSheet::Dark().Text();
+    QFETCH(QString, name);
+    const QString text = StyleSheet::Named(name).Text();
     static const QRegularExpression url("url\\((:/[^)]+)\\)");
     int count = 0;
     for (QRegularExpressionMatchIterator it = url.globalMatch(text); it.hasNext(); ++count) {
         const QString icon = it.next().captured(1);
+        QVERIFY2(icon.startsWith(":/icons/" + name + '/') || icon.startsWith(":/icons/dark/"), qPrintable(icon));
         QVERIFY2(QSvgRenderer(icon).isValid(), qPrintable(icon));
     }
     QVERIFY(count > 30);
@@ -219,6 +308,61 @@ void StyleSheetTest::renamedButtonChangesItsIcon()
 
     RenameAndRestyle(&button, "pushButtonPreview");
     QCOMPARE(IconImage(button), idle);
+}
+
+void StyleSheetTest::chosenLookIsWornAndKept()
+{
+    QSettings settings(m_dir.filePath("look.ini"), QSettings::IniFormat);
+    ApplicationLook look(&settings);
+    QCOMPARE(look.Name(), QString("dark"));
+    look.Apply();
+    QPushButton button;
+    button.setObjectName("pushButtonPreview");
+    button.ensurePolished();
+    const QImage darkIcon = IconImage(button);
+    const QColor darkWindow = qApp->palette().color(QPalette::Window);
+    QSignalSpy changed(&look, &ApplicationLook::signalChanged);
+
+    look.Choose("light");
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(qApp->palette().color(QPalette::Window).lightness() > darkWindow.lightness() + 100);
+    QVERIFY(IconImage(button) != darkIcon);
+    QCOMPARE(ApplicationLook(&settings).Name(), QString("light"));
+
+    look.Choose("no such look");
+    look.Choose("light");
+    QCOMPARE(changed.count(), 1);
+    settings.setValue("window/look", "from another version");
+    QCOMPARE(ApplicationLook(&settings).Name(), QString("dark"));
+
+    look.Choose("dark");
+    QCOMPARE(IconImage(button), darkIcon);
+}
+
+void StyleSheetTest::sizesFollowTheScreen_data()
+{
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<int>("tabHeight");
+    QTest::newRow("one") << 1.0 << 25;
+    QTest::newRow("one and a half") << 1.5 << 38;
+    QTest::newRow("two") << 2.0 << 50;
+}
+
+void StyleSheetTest::sizesFollowTheScreen()
+{
+    QFETCH(double, scale);
+    QFETCH(int, tabHeight);
+    qApp->setProperty("globalui.scale", scale);
+    StyleSheet::Named("dark").Apply(*qApp);
+    {
+        QTabWidget tabs;
+        tabs.addTab(new QWidget, "Camera");
+        tabs.ensurePolished();
+        tabs.tabBar()->ensurePolished();
+        QCOMPARE(tabs.tabBar()->tabRect(0).height(), tabHeight);
+    }
+    qApp->setProperty("globalui.scale", 1.0);
+    StyleSheet::Named("dark").Apply(*qApp);
 }
 
 void StyleSheetTest::disabledIconIsFaded()
