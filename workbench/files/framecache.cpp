@@ -35,6 +35,12 @@ bool FrameCache::Find(quint64 file, int frame, Picture &picture)
     return true;
 }
 
+bool FrameCache::Contains(quint64 file, int frame) const
+{
+    QMutexLocker lock(&m_mutex);
+    return m_index.contains(Key(file, frame));
+}
+
 void FrameCache::RemoveFile(quint64 file)
 {
     QMutexLocker lock(&m_mutex);

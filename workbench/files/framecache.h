@@ -21,6 +21,7 @@ public:
     void Insert(quint64 file, int frame, const Picture &picture);
     /// False if the frame is not there.
     bool Find(quint64 file, int frame, Picture &picture);
+    bool Contains(quint64 file, int frame) const;
     /// Drops all frames of a file that was closed or has changed.
     void RemoveFile(quint64 file);
 

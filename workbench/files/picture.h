@@ -37,8 +37,10 @@ public:
     template <typename T>
     T *Samples(int y) { return reinterpret_cast<T *>(Row(y)); }
 
-    /// Takes this shape, keeping the buffer if it fits and nobody shares it. The samples are undefined after.
-    void Reshape(int width, int height, int channels, SampleType type);
+    /// Takes this shape, keeping the buffer if it fits and nobody shares it. The samples are undefined after. They
+    /// begin `fileOffset` bytes, as far as their type allows, into a page of memory: bytes from there in a file are
+    /// read quickest, page by page.
+    void Reshape(int width, int height, int channels, SampleType type, quint64 fileOffset = 0);
 
     /// Same shape and, byte for byte, the same samples.
     bool operator==(const Picture &other) const;
@@ -49,6 +51,7 @@ private:
     int m_height = 0;
     int m_channels = 1;
     SampleType m_type = SampleType::U8;
-    /// No vector: a frame is always written whole, and clearing it first is lost time.
-    std::shared_ptr<uchar[]> m_samples;
+    /// No vector: a frame is always written whole, and clearing it first is lost time. The buffer has room for the
+    /// samples from any place in its first page on.
+    std::shared_ptr<uchar> m_samples;
 };

@@ -125,6 +125,12 @@ int TiffPage::BlockRows(int blockRow) const
     return isTiled ? blockHeight : std::min(blockHeight, height - blockRow * blockHeight);
 }
 
+bool TiffPage::IsPlain() const
+{
+    return compression == COMPRESSION_NONE && !isTiled && !isPlanar && !IsPacked() && !isPalette && !isMinWhite
+        && samplesPerPixel == channels;
+}
+
 bool ReadTiffPage(const TiffHandle &handle, TiffPage &page, FileFault &fault)
 {
     TIFF *tiff = handle.Get();
@@ -156,7 +162,7 @@ bool ReadTiffPage(const TiffHandle &handle, TiffPage &page, FileFault &fault)
     return SetChannels(photometric, page, fault) && SetBlocks(tiff, page, fault);
 }
 
-bool CheckTiffBlocks(const TiffHandle &handle, const TiffPage &page, qint64 fileSize, FileFault &fault)
+bool CheckTiffBlocks(const TiffHandle &handle, TiffPage &page, qint64 fileSize, FileFault &fault)
 {
     TIFF *tiff = handle.Get();
     const qint64 blocks = page.BlocksOfPlane() * page.PlanesToRead();
@@ -184,6 +190,8 @@ bool CheckTiffBlocks(const TiffHandle &handle, const TiffPage &page, qint64 file
             return fault.Set(Translate("%1 has %2 bytes and needs %3").arg(blockName.arg(block)).arg(bytes).arg(needed, 0, 'f', 0),
                              DamagedAdvice());
         }
+        if (page.IsPlain())
+            page.samples.Add(offset, rows * page.BlockRowBytes());
         stored += bytes;
     }
     // Blocks that share their bytes do not make the file larger. The little extra lets a few pixels through.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "filefault.h"
+#include "fileruns.h"
 #include "sampletype.h"
 
 #include <QSize>
@@ -25,7 +26,10 @@ struct TiffPage
     int compression = 1;
     int blockWidth = 0; ///< of a strip or tile
     int blockHeight = 0;
+    FileRuns samples; ///< of a plain page; known when its blocks were checked
 
+    /// The bytes of the strips, one behind the other, are the samples of a Picture, but for the byte order.
+    bool IsPlain() const;
     bool IsPacked() const { return bits != 8 * BytesPerSample(type); }
     int PlanesToRead() const { return isPlanar ? channels : 1; }
     /// Samples of one pixel that lie together in a block.
@@ -42,8 +46,8 @@ struct TiffPage
 bool ReadTiffPage(const TiffHandle &tiff, TiffPage &page, FileFault &fault);
 
 /// Whether all strips or tiles lie within the file and hold enough for the page's size, so that no
-/// memory is taken for a picture that the file cannot contain.
-bool CheckTiffBlocks(const TiffHandle &tiff, const TiffPage &page, qint64 fileSize, FileFault &fault);
+/// memory is taken for a picture that the file cannot contain. Finds the samples of a plain page.
+bool CheckTiffBlocks(const TiffHandle &tiff, TiffPage &page, qint64 fileSize, FileFault &fault);
 
 /// "LZW"; empty for uncompressed pages.
 QString TiffCompressionName(int compression);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tiffpicturefile.h"
 
-#include "bothhalves.h"
 #include "sampleswap.h"
 #include "tiffdecode.h"
 #include "tiffmetadata.h"
@@ -9,54 +8,11 @@
 #include <QCoreApplication>
 #include <QFile>
 
-#include <atomic>
-#include <unistd.h>
-
 namespace {
-
-/// Reading this many bytes from the disk cache takes long enough to be shared by two threads.
-constexpr qint64 ReadByTwo = 2 << 20;
 
 QString Translate(const char *text)
 {
     return QCoreApplication::translate("TiffPictureFile", text);
-}
-
-bool ReadBytes(int fd, quint64 offset, uchar *bytes, qint64 size)
-{
-    while (size > 0) {
-        const ssize_t got = ::pread(fd, bytes, size_t(size), off_t(offset));
-        if (got <= 0)
-            return false;
-        bytes += got;
-        offset += quint64(got);
-        size -= got;
-    }
-    return true;
-}
-
-bool ReadBytesByTwo(int fd, quint64 offset, uchar *bytes, qint64 size)
-{
-    std::atomic<bool> isWhole{true};
-    ForBothHalves(size, ReadByTwo, [&](qint64 from, qint64 to) {
-        if (!ReadBytes(fd, offset + quint64(from), bytes + from, to - from))
-            isWhole = false;
-    });
-    return isWhole;
-}
-
-/// The page is one run of bytes that are the samples of a Picture, but for the byte order.
-bool IsPlain(TIFF *tiff, const TiffPage &page)
-{
-    if (page.compression != COMPRESSION_NONE || page.isTiled || page.isPlanar || page.IsPacked() || page.isPalette
-        || page.isMinWhite || page.samplesPerPixel != page.channels)
-        return false;
-    for (int strip = 1; strip < page.BlocksDown(); ++strip) {
-        const quint64 previousEnd = TIFFGetStrileOffset(tiff, uint32_t(strip - 1)) + TIFFGetStrileByteCount(tiff, uint32_t(strip - 1));
-        if (TIFFGetStrileOffset(tiff, uint32_t(strip)) != previousEnd)
-            return false;
-    }
-    return true;
 }
 
 } // namespace
@@ -140,14 +96,16 @@ void TiffPictureFile::FindContiguousFrames(const TiffPage &page)
     const qint64 frameBytes = page.BlockRowBytes() * page.height;
     const quint64 description = m_chain.pages.first(); // usually before the frames; behind them it ends them
     const qint64 end = description > first ? qint64(description) : m_fileSize;
-    const qint64 present = IsPlain(m_tiff.Get(), page) ? (end - qint64(first)) / frameBytes : 1;
+    const qint64 present = page.samples.Count() == 1 ? (end - qint64(first)) / frameBytes : 1;
     info.frames = int(qMin(qint64(claimed), qMax(qint64(1), present)));
     if (info.frames < claimed) {
         AddWarning(ReadFaultText(Path(), {Translate("only the first %1 of its %2 frames are there").arg(info.frames).arg(claimed),
                                           DamagedAdvice(), QString()}));
     }
-    if (info.frames > 1)
+    if (info.frames > 1) {
         m_contiguousOffset = first;
+        m_contiguousBytes = frameBytes;
+    }
 }
 
 bool TiffPictureFile::Decode(int index, Picture &frame, FileFault &fault)
@@ -155,8 +113,10 @@ bool TiffPictureFile::Decode(int index, Picture &frame, FileFault &fault)
     m_tiff.TakeMessages();
     if (m_contiguousOffset != 0) {
         const PictureInfo &info = Info();
-        frame.Reshape(info.size.width(), info.size.height(), info.channels, info.sampleType);
-        if (ReadRun(m_contiguousOffset + quint64(index) * quint64(frame.ByteCount()), frame))
+        FileRuns samples;
+        samples.Add(m_contiguousOffset + quint64(index) * quint64(m_contiguousBytes), m_contiguousBytes);
+        frame.Reshape(info.size.width(), info.size.height(), info.channels, info.sampleType, samples.FirstOffset());
+        if (ReadSamples(samples, frame))
             return true;
         return fault.Set(Translate("frame %1 of %2 is not whole").arg(index + 1).arg(info.frames), DamagedAdvice());
     }
@@ -171,15 +131,15 @@ bool TiffPictureFile::Decode(int index, Picture &frame, FileFault &fault)
 
 bool TiffPictureFile::DecodePage(const TiffPage &page, Picture &frame, FileFault &fault)
 {
-    if (!IsPlain(m_tiff.Get(), page))
+    if (!page.IsPlain())
         return DecodeTiffPage(m_tiff, page, frame, fault);
-    frame.Reshape(page.width, page.height, page.channels, page.type);
-    return ReadRun(TIFFGetStrileOffset(m_tiff.Get(), 0), frame) || fault.Set(Translate("its samples are not whole"), DamagedAdvice());
+    frame.Reshape(page.width, page.height, page.channels, page.type, page.samples.FirstOffset());
+    return ReadSamples(page.samples, frame) || fault.Set(Translate("its samples are not whole"), DamagedAdvice());
 }
 
-bool TiffPictureFile::ReadRun(quint64 offset, Picture &frame)
+bool TiffPictureFile::ReadSamples(const FileRuns &samples, Picture &frame)
 {
-    if (!ReadBytesByTwo(TIFFFileno(m_tiff.Get()), offset, frame.Data(), frame.ByteCount()))
+    if (!samples.Read(TIFFFileno(m_tiff.Get()), frame.Data()))
         return false;
     if (TIFFIsByteSwapped(m_tiff.Get()))
         SwapSampleBytes(frame);

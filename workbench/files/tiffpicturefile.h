@@ -29,7 +29,7 @@ private:
     /// The page that was selected.
     bool DecodePage(const TiffPage &page, Picture &frame, FileFault &fault);
     /// Samples that lie in the file as they are in a Picture, but for the byte order.
-    bool ReadRun(quint64 offset, Picture &frame);
+    bool ReadSamples(const FileRuns &samples, Picture &frame);
 
     TiffHandle m_tiff;
     TiffChain m_chain;
@@ -37,4 +37,5 @@ private:
     StackOrder m_order;
     /// First byte of the frames that follow each other without descriptions; 0 for ordinary files.
     quint64 m_contiguousOffset = 0;
+    qint64 m_contiguousBytes = 0; ///< of each of them
 };

@@ -79,6 +79,22 @@ bool PictureAccess::ReadFrame(const FileName &name, int index, Picture &frame, Q
     return true;
 }
 
+void PictureAccess::ReadAhead(quint64 id, int index)
+{
+    const auto file = Find(id);
+    if (file == m_files.end() || m_cache.Contains(id, index))
+        return;
+    const auto hasRoom = [this](qint64 bytes) { return 2 * bytes <= m_cache.CapacityBytes(); };
+    const PictureInfo &info = file->file->Info();
+    if (!hasRoom(qint64(info.size.width()) * info.size.height() * info.channels
+                 * BytesPerSample(info.sampleType)))
+        return;
+    Picture frame;
+    QString error;
+    if (file->file->ReadFrame(index, frame, error) && hasRoom(frame.ByteCount())) // pages may differ
+        m_cache.Insert(id, index, frame);
+}
+
 QString PictureAccess::TakeNews(const FileName &name)
 {
     const auto file = Find(name.id);

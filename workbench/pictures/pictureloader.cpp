@@ -103,7 +103,9 @@ PictureLoader::Work PictureLoader::NextWork() const
         return Work::Save;
     if (m_ends)
         return Work::End;
-    return m_thumbnails.empty() ? Work::None : Work::Thumbnail;
+    if (!m_thumbnails.empty())
+        return Work::Thumbnail;
+    return m_nextFrames.IsEmpty() ? Work::None : Work::Ahead;
 }
 
 PictureLoader::Work PictureLoader::WaitForWork()
@@ -126,8 +128,11 @@ void PictureLoader::run()
         case Work::Save:
             SaveStep();
             break;
-        default:
+        case Work::Thumbnail:
             ThumbnailNext();
+            break;
+        default:
+            ReadAhead();
             break;
         }
     }
@@ -183,6 +188,7 @@ LoadedPicture PictureLoader::Loaded(const PictureRequest &request)
         if (request.wantsThumbnail)
             loaded.thumbnail = ThumbnailOf(loaded.image);
         const PictureFile *file = m_access.Open(request.file, loaded.error);
+        m_nextFrames.Shown(request.place, { request.file.id, request.frame }, file->Info().frames);
         loaded.info = file->Info();
         loaded.frameDescription = file->FrameDescription(request.frame);
     });
@@ -238,4 +244,12 @@ PictureThumbnail PictureLoader::Thumbnail(const PictureAccess::FileName &file)
         thumbnail.info = access.Open(file, thumbnail.error)->Info();
     });
     return thumbnail;
+}
+
+void PictureLoader::ReadAhead()
+{
+    const NextFrames::Frame next = m_nextFrames.Take();
+    QString error; // told when the frame is asked for
+    Guarded(QString(), error, [&] { m_access.ReadAhead(next.file, next.index); });
+    emit signalReadAhead(next.index);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "nextframes.h"
 #include "picturedisplay.h"
 #include "picturerequest.h"
 #include "savetask.h"
@@ -15,7 +16,7 @@
 
 /// Opens, reads, shows and saves picture files in a thread of its own, so that neither a slow disk nor a
 /// large file ever holds up the GUI. What is to be seen comes first, then a step of a save, then
-/// thumbnails. The operations are called by the GUI thread and return at once; the answers are signals.
+/// thumbnails; who has nothing to do reads the frame that is likely to be asked for next. The operations are called by the GUI thread and return at once; the answers are signals.
 class PictureLoader : public QThread
 {
     Q_OBJECT
@@ -39,6 +40,8 @@ signals:
     void signalThumbnail(PictureThumbnail thumbnail);
     /// `error` is empty when the file is saved.
     void signalSaved(QString target, QString error);
+    /// Nothing was left to do but to read a frame that nobody has asked for yet; it is at hand now if there is room.
+    void signalReadAhead(int frame);
 
 protected:
     void run() override;
@@ -51,6 +54,7 @@ private:
         Show,
         Save,
         Thumbnail,
+        Ahead,
         End
     };
 
@@ -60,6 +64,7 @@ private:
     void LoadNext();
     void SaveStep();
     void ThumbnailNext();
+    void ReadAhead();
     LoadedPicture Loaded(const PictureRequest &request);
     PictureThumbnail Thumbnail(const PictureAccess::FileName &file);
 
@@ -75,4 +80,5 @@ private:
     /// The worker's own.
     PictureAccess m_access;
     PictureDisplay m_display;
+    NextFrames m_nextFrames;
 };

@@ -14,6 +14,8 @@ private slots:
     void packedSamplesGetAWholeTypeOfTheirOwn();
     void thumbnailsAndMasksAreNoFrames();
     void pagesMayDiffer();
+    void stripsMayLieAnywhere_data();
+    void stripsMayLieAnywhere();
     void greyRampPaletteStaysGrey();
     void missingPhotometricIsBlackZero();
     void framesAreToldByTheStackTheyAreOf_data();
@@ -106,6 +108,43 @@ void TiffPictureFileTest::pagesMayDiffer()
     QString error;
     QVERIFY(file->ReadFrame(0, picture, error));
     QCOMPARE(SamplesOf(picture).mid(0, 3), QVector<double>({0, 1, 2}));
+}
+
+void TiffPictureFileTest::stripsMayLieAnywhere_data()
+{
+    QTest::addColumn<QVector<quint32>>("places");
+    QTest::addColumn<quint32>("byteCount");
+    QTest::newRow("one behind the other") << QVector<quint32>{0, 4, 8} << 4u;
+    QTest::newRow("at an odd place") << QVector<quint32>{1, 5, 9} << 4u;
+    QTest::newRow("with gaps") << QVector<quint32>{0, 6, 20} << 4u;
+    QTest::newRow("backwards") << QVector<quint32>{8, 4, 0} << 4u;
+    QTest::newRow("longer than their rows") << QVector<quint32>{0, 10, 20} << 10u;
+    QTest::newRow("all the same") << QVector<quint32>{4, 4, 4} << 4u;
+}
+
+void TiffPictureFileTest::stripsMayLieAnywhere()
+{
+    QFETCH(QVector<quint32>, places);
+    QFETCH(quint32, byteCount);
+    for (const bool bigEndian : {false, true}) {
+        TiffBytes tiff(bigEndian);
+        const quint32 data = tiff.Append(Ramp(40));
+        TiffTags tags = TiffBytes::GreyPage(2, 3, 16, data);
+        tags[RowsPerStrip] = {1};
+        tags[StripOffsets].clear();
+        QVector<double> samples;
+        for (const quint32 place : qAsConst(places)) {
+            tags[StripOffsets] << data + place;
+            for (quint32 byte = place; byte < place + 4; byte += 2) // the byte at a place is its number
+                samples << (bigEndian ? byte * 256 + byte + 1 : (byte + 1) * 256 + byte);
+        }
+        tags[StripByteCounts] = {byteCount, byteCount, byteCount};
+        tiff.AppendPage(tags);
+        PictureFolder folder;
+        Picture picture;
+        Read(folder.Write("strips.tif", tiff.Bytes()), 0, picture);
+        QCOMPARE(SamplesOf(picture), samples);
+    }
 }
 
 void TiffPictureFileTest::greyRampPaletteStaysGrey()

@@ -4,6 +4,7 @@
 #include "picturerequest.h"
 
 #include <QObject>
+#include <QStringList>
 #include <QVector>
 
 /// Answers of a loader as the GUI thread gets them.
@@ -17,15 +18,31 @@ public:
         connect(loader, SIGNAL(signalLoaded(LoadedPicture)), this, SLOT(slotLoaded(LoadedPicture)));
         connect(loader, SIGNAL(signalThumbnail(PictureThumbnail)), this,
                 SLOT(slotThumbnail(PictureThumbnail)));
+        connect(loader, SIGNAL(signalReadAhead(int)), this, SLOT(slotReadAhead(int)));
         connect(loader, SIGNAL(signalSaved(QString, QString)), this, SLOT(slotSaved(QString, QString)));
     }
 
     QVector<LoadedPicture> loaded;
     QVector<PictureThumbnail> thumbnails;
     QVector<QString> saveErrors;
+    QVector<int> readAhead;
+    QStringList order; ///< of all but the saves
 
 private slots:
-    void slotLoaded(const LoadedPicture &picture) { loaded << picture; }
-    void slotThumbnail(const PictureThumbnail &thumbnail) { thumbnails << thumbnail; }
+    void slotLoaded(const LoadedPicture &picture) 
+    {
+        loaded << picture;
+        order << QString("frame %1").arg(picture.request.frame);
+    }
+    void slotThumbnail(const PictureThumbnail &thumbnail) 
+    {
+        thumbnails << thumbnail;
+        order << "thumbnail";
+    }
+    void slotReadAhead(int frame)
+    {
+        readAhead << frame;
+        order << QString("ahead %1").arg(frame);
+    }
     void slotSaved(const QString &, const QString &error) { saveErrors << error; }
 };

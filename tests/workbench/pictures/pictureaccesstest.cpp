@@ -87,6 +87,32 @@ private slots:
         QCOMPARE(First(access, two, 0), -1);
     }
 
+    void aFrameReadAheadIsAtHand()
+    {
+        PictureAccess access(2, 2 * FrameBytes);
+        const PictureAccess::FileName file = Made("stack.tif", 1, 4);
+        QCOMPARE(First(access, file, 0), 0);
+        access.ReadAhead(file.id, 1);
+        access.ReadAhead(file.id, 1); // there already
+        access.ReadAhead(file.id, 7); // there is none
+        access.ReadAhead(9, 0);       // not open
+        QVERIFY(QFile::resize(file.path, 0));
+        QCOMPARE(First(access, file, 0), 0); // still there too
+        QCOMPARE(First(access, file, 1), 1000);
+        QCOMPARE(First(access, file, 2), -1);
+    }
+
+    void readingAheadPushesNotOutWhatIsSeen()
+    {
+        PictureAccess access(2, 2 * FrameBytes - 1);
+        const PictureAccess::FileName file = Made("stack.tif", 1, 2);
+        QCOMPARE(First(access, file, 0), 0);
+        access.ReadAhead(file.id, 1);
+        QVERIFY(QFile::resize(file.path, 0));
+        QCOMPARE(First(access, file, 0), 0);
+        QCOMPARE(First(access, file, 1), -1);
+    }
+
     void errorsNameTheFile()
     {
         PictureAccess access(2, 0);

@@ -73,6 +73,51 @@ private slots:
         QCOMPARE(last, 59);
     }
 
+    void theNeighbourIsReadBeforeItIsAskedFor_data()
+    {
+        QTest::addColumn<QVector<int>>("shown");
+        QTest::addColumn<int>("ahead");
+        QTest::newRow("just opened") << QVector<int>{ 0 } << 1;
+        QTest::newRow("forwards") << QVector<int>{ 1, 2 } << 3;
+        QTest::newRow("backwards") << QVector<int>{ 3, 2 } << 1;
+        QTest::newRow("a jump") << QVector<int>{ 0, 2 } << 3;
+        QTest::newRow("the same again") << QVector<int>{ 3, 2, 2 } << 1;
+    }
+
+    void theNeighbourIsReadBeforeItIsAskedFor()
+    {
+        QFETCH(QVector<int>, shown);
+        QFETCH(int, ahead);
+        MadePictures::Write(Path("stack.tif"), QSize(6, 4), 5);
+        const LoaderAnswers answers(m_loader.get());
+        for (int i = 0; i < shown.size(); ++i) {
+            m_loader->Load(Request(Path("stack.tif"), shown.at(i)));
+            QTRY_COMPARE(answers.readAhead.size(), i + 1);
+        }
+        QCOMPARE(answers.readAhead.last(), ahead);
+        QVERIFY(QFile::resize(Path("stack.tif"), 0));
+        m_loader->Load(Request(Path("stack.tif"), ahead));
+        QTRY_COMPARE(answers.loaded.size(), shown.size() + 1);
+        QCOMPARE(answers.loaded.last().error, QString());
+        QCOMPARE(int(answers.loaded.last().samples.Samples<quint16>(0)[0]), MadePictures::Value(0, 0, ahead));
+    }
+
+    void readingAheadIsTheLastThingToDo()
+    {
+        MadePictures::Write(Path("large.tif"), QSize(2000, 2000)); // keeps the worker busy while the others come
+        MadePictures::Write(Path("stack.tif"), QSize(20, 20), 40);
+        const LoaderAnswers answers(m_loader.get());
+        PictureRequest large = Request(Path("large.tif"), 0, 2);
+        large.file.id = 2;
+        m_loader->Load(large);
+        m_loader->MakeThumbnail({ 1, Path("stack.tif") });
+        m_loader->Load(Request(Path("stack.tif"), 7));
+        m_loader->Load(Request(Path("stack.tif"), 30, 1));
+        QTRY_COMPARE(answers.readAhead.size(), 2);
+        QCOMPARE(answers.order,
+                 QStringList({ "frame 0", "frame 7", "frame 30", "thumbnail", "ahead 8", "ahead 31" }));
+    }
+
     void aWholeStackIsSavedAsItIsSeen()
     {
         MadePictures::Write(Path("stack.tif"), QSize(6, 4), 3);
