@@ -45,13 +45,15 @@ bool BenchmarkResult::IsWithinBound() const
 }
 
 BenchmarkResult MeasureRatio(const QString &name, double bound, int rounds, const std::function<void()> &floor,
-                             const std::function<void()> &subject)
+                             const std::function<void()> &subject, const std::function<void()> &settle)
 {
     std::vector<double> floorTimes;
     std::vector<double> subjectTimes;
     for (int round = -WarmUpRounds; round < rounds; ++round) {
         const bool floorFirst = round % 2 == 0;
+        settle();
         double first = Microseconds(floorFirst ? floor : subject);
+        settle();
         double second = Microseconds(floorFirst ? subject : floor);
         if (!floorFirst)
             std::swap(first, second);

@@ -22,9 +22,10 @@ struct BenchmarkResult
 
 /// Times `subject` against `floor` in turns, so that both meet the same machine, and gives the
 /// lower quartile of each in microseconds. Each is called `rounds` times after three to warm up;
-/// with one round more for `floor` first and `subject` first in turns.
+/// with one round more for `floor` first and `subject` first in turns. `settle` is called before each and not timed:
+/// what one of them left to another thread is done when the clock starts.
 BenchmarkResult MeasureRatio(const QString &name, double bound, int rounds, const std::function<void()> &floor,
-                             const std::function<void()> &subject);
+                             const std::function<void()> &subject, const std::function<void()> &settle = [] {});
 
 /// Times `work`, called `rounds` times after three to warm up, and gives the median in milliseconds.
 BenchmarkResult MeasureTime(const QString &name, double boundMs, int rounds, const std::function<void()> &work);
