@@ -18,5 +18,6 @@ public slots:
     void SlotUpdateUseArea();
 
 private:
+    void ConnectSpectrumView();
     void ConnectPlot2D();
 };

@@ -3,9 +3,10 @@
 
 #include "spectrum2ddrawframebase.h"
 #include "spectrum3ddrawframebase.h"
+#include "spectrumdrawviewbase.h"
 #include "spectrumuimanager.h"
-
-#include <QLabel>
+#include "spectrumview.h"
+#include "useareamanager.h"
 
 SpectrumStackedWidgetBase::SpectrumStackedWidgetBase(QWidget *parent)
     : QStackedWidget(parent)
@@ -14,15 +15,19 @@ SpectrumStackedWidgetBase::SpectrumStackedWidgetBase(QWidget *parent)
 
 void SpectrumStackedWidgetBase::CreatePages()
 {
-    auto *notice = new QLabel(tr("The spectrum image is not part of this version."), this);
-    notice->setAlignment(Qt::AlignCenter);
-    notice->setWordWrap(true);
-    insertWidget(PhysicsPage, notice);
+    m_spectrumView = new SpectrumView(this);
+    insertWidget(PhysicsPage, m_spectrumView);
     m_plot2D = new Spectrum2DDrawFrameBase(this);
     insertWidget(Plot2DPage, m_plot2D);
     insertWidget(Plot3DPage, new QWidget(this)); // until 3D is first shown
+    connect(SpectrumUIManager::GetInstance(), SIGNAL(SignalSpectralPropertyChanged()), m_spectrumView,
+            SLOT(SlotSpectralPropertyChanged()));
     connect(SpectrumUIManager::GetInstance(), SIGNAL(SignalSpectralPropertyChanged()), m_plot2D,
             SLOT(SlotSpectralPropertyChanged()));
+    connect(UseAreaManager::GetInstance(), SIGNAL(signalSpectrumUIUpdate()), m_spectrumView,
+            SLOT(SlotSpectrumUIChange()));
+    connect(UseAreaManager::GetInstance(), SIGNAL(signalUpdateUseArea()), m_spectrumView,
+            SLOT(SlotSpectrumUIChange()));
 }
 
 void SpectrumStackedWidgetBase::slotDisplayModeChange()
@@ -51,6 +56,9 @@ void SpectrumStackedWidgetBase::ShowPlot3D()
 void SpectrumStackedWidgetBase::resizeEvent(QResizeEvent *event)
 {
     QStackedWidget::resizeEvent(event);
-    for (int page = 0; page < count(); ++page)
+    for (int page = 0; page < count(); ++page) {
         widget(page)->resize(size());
+        if (page == PhysicsPage)
+            m_spectrumView->GetDrawView()->RestoreView(false);
+    }
 }

@@ -4,6 +4,7 @@
 #include <QStackedWidget>
 
 class Spectrum2DDrawFrameBase;
+class SpectrumView;
 
 /// The spectrum page of a centre stack: image with curves, 2D plot and 3D plot, one page each, of
 /// which the display mode shows one. The subclasses feed them.
@@ -30,6 +31,7 @@ protected:
     /// All pages keep the stack's size, not only the current one.
     void resizeEvent(QResizeEvent *event) override;
 
+    SpectrumView *m_spectrumView = nullptr;
     Spectrum2DDrawFrameBase *m_plot2D = nullptr;
 
 private:

@@ -13,6 +13,12 @@ IntensityCurveLayoutItem::IntensityCurveLayoutItem(QWidget *parent)
     SetItemSize(400, 50);
 }
 
+void IntensityCurveLayoutItem::SetCurvePenWidth(int width)
+{
+    curvePenWidth = width;
+    update();
+}
+
 void IntensityCurveLayoutItem::SetCurvePenStyle(int style)
 {
     curvePenStyle = style;

@@ -15,6 +15,8 @@ class IntensityCurveLayoutItem : public ComponentWithBordersItem
 public:
     explicit IntensityCurveLayoutItem(QWidget *parent);
 
+    /// Pixels.
+    void SetCurvePenWidth(int width);
     /// A Qt::PenStyle.
     void SetCurvePenStyle(int style);
     void SetCurveColor(QColor color);

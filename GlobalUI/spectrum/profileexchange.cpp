@@ -31,6 +31,11 @@ ProfilePart PartOf(int *samples, int size, double from, double to, int side)
     return { samples, size, static_cast<int>(from * side), static_cast<int>((to - from) * side) };
 }
 
+bool HoldsSamples(const ProfilePart &part)
+{
+    return part.count <= part.size - part.offset;
+}
+
 } // namespace
 
 bool ExchangeProfiles(SpectrumCurvePayload *payload, const QSize &frameSize, ExchangedProfiles *profiles)
@@ -40,14 +45,16 @@ bool ExchangeProfiles(SpectrumCurvePayload *payload, const QSize &frameSize, Exc
     const QMutexLocker locker(payload->lock);
     if (!FitsFrame(*payload, frameSize))
         return false;
+    // The fill buffers become those that are shown.
+    const QRectF &region = payload->region;
+    const ProfilePart horizontal = PartOf(payload->horizontalFill, payload->horizontalSize, region.x(), region.width(),
+                                          frameSize.width());
+    const ProfilePart vertical = PartOf(payload->verticalFill, payload->verticalSize, region.y(), region.height(),
+                                        frameSize.height());
+    if (!HoldsSamples(horizontal) || !HoldsSamples(vertical))
+        return false;
     std::swap(payload->horizontalFill, payload->horizontalShow);
     std::swap(payload->verticalFill, payload->verticalShow);
-    const QRectF &region = payload->region;
-    profiles->horizontal = PartOf(payload->horizontalShow, payload->horizontalSize, region.x(),
-                                  region.width(), frameSize.width());
-    profiles->vertical = PartOf(payload->verticalShow, payload->verticalSize, region.y(), region.height(),
-                                frameSize.height());
-    profiles->leftLevel = payload->leftLevel;
-    profiles->rightLevel = payload->rightLevel;
+    *profiles = { horizontal, vertical, payload->leftLevel, payload->rightLevel };
     return true;
 }

@@ -7,6 +7,21 @@ namespace {
 
 constexpr float LargestScale = 32.0F;
 
+bool IsFinite(const QRectF &rect)
+{
+    return qIsFinite(rect.x()) && qIsFinite(rect.y()) && qIsFinite(rect.width()) && qIsFinite(rect.height());
+}
+
+/// The scale at which rect fills the free space in both directions; 0 where there is none.
+float FillingScale(const QRectF &rect, const QSize &freeSpace)
+{
+    if (freeSpace.isEmpty() || !IsFinite(rect) || rect.width() < 0.0 || rect.height() < 0.0)
+        return 0.0F;
+    const auto scaleX = static_cast<float>(freeSpace.width() / rect.width());
+    const auto scaleY = static_cast<float>(freeSpace.height() / rect.height());
+    return std::min(std::max(scaleX, scaleY), LargestScale);
+}
+
 } // namespace
 
 QPointF SpectrumZoomHistory::RememberedCentre() const
@@ -24,11 +39,9 @@ float SpectrumZoomHistory::Push(const QRectF &rect, bool zoomIn, const QSize &fr
 {
     float scale = 1.0F;
     if (zoomIn) {
-        const auto scaleX = static_cast<float>(freeSpace.width() / rect.width());
-        const auto scaleY = static_cast<float>(freeSpace.height() / rect.height());
-        scale = std::min(std::max(scaleX, scaleY), LargestScale);
-        if (!(scale > 0.0F))
-            return 1.0F; // no space or no number: the picture stays
+        scale = FillingScale(rect, freeSpace);
+        if (scale <= 0.0F)
+            return 0.0F; // no space or no number: the picture stays
         m_current = { scale, rect.center(), rect };
         m_levels.push_back(m_current);
     } else if (!m_levels.empty()) {
@@ -43,8 +56,14 @@ float SpectrumZoomHistory::Push(const QRectF &rect, bool zoomIn, const QSize &fr
     return scale;
 }
 
-void SpectrumZoomHistory::BackToNewest()
+bool SpectrumZoomHistory::Rescale(float fittedScale, const QSize &freeSpace)
 {
-    if (!m_levels.empty())
-        m_current = m_levels.back();
+    if (m_levels.size() < 2 || freeSpace.isEmpty())
+        return false;
+    m_levels.front().scale = fittedScale;
+    for (size_t level = 1; level < m_levels.size(); ++level)
+        m_levels[level].scale = FillingScale(m_levels[level].rect, freeSpace);
+    m_current = m_levels.back();
+    m_lastWasZoomIn = true; // the newest level is the one on the screen
+    return true;
 }

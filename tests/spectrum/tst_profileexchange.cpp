@@ -49,6 +49,11 @@ private slots:
     void aPayloadThatDoesNotFitIsLeftAlone_data();
     void aPayloadThatDoesNotFitIsLeftAlone();
     void aPayloadWithoutALockIsLeftAlone();
+    void aPayloadWithoutABufferIsLeftAlone_data();
+    void aPayloadWithoutABufferIsLeftAlone();
+    void sizesThatDisagreeAreLeftAlone_data();
+    void sizesThatDisagreeAreLeftAlone();
+    void aPartOfAShorterLineIsShown();
     void shownSamplesStayWhileTheProducerWrites();
 };
 
@@ -79,6 +84,9 @@ void TestProfileExchange::aPayloadThatDoesNotFitIsLeftAlone_data()
     QTest::newRow("below the picture") << QRectF(0, 0, 1, 1.1) << FrameSize;
     QTest::newRow("turned round") << QRectF(0.75, 0, 0.25, 1) << FrameSize;
     QTest::newRow("no number") << QRectF(nan, 0, 1, nan) << FrameSize;
+    QTest::newRow("left is no number") << QRectF(nan, 0, 1, 1) << FrameSize;
+    QTest::newRow("bottom is no number") << QRectF(0, 0, 1, nan) << FrameSize;
+    QTest::newRow("endless") << QRectF(0, 0, std::numeric_limits<double>::infinity(), 1) << FrameSize;
 }
 
 void TestProfileExchange::aPayloadThatDoesNotFitIsLeftAlone()
@@ -101,6 +109,69 @@ void TestProfileExchange::aPayloadWithoutALockIsLeftAlone()
     QVERIFY(!ExchangeProfiles(&producer.payload, FrameSize, &profiles));
     QVERIFY(!ExchangeProfiles(nullptr, FrameSize, &profiles));
     QCOMPARE(producer.payload.horizontalFill, producer.rows[0].data());
+}
+
+void TestProfileExchange::aPayloadWithoutABufferIsLeftAlone_data()
+{
+    QTest::addColumn<int>("buffer");
+    QTest::newRow("row to fill") << 0;
+    QTest::newRow("column to fill") << 1;
+    QTest::newRow("row to show") << 2;
+    QTest::newRow("column to show") << 3;
+}
+
+void TestProfileExchange::aPayloadWithoutABufferIsLeftAlone()
+{
+    QFETCH(int, buffer);
+    Producer producer;
+    SpectrumCurvePayload &payload = producer.payload;
+    int **buffers[] = { &payload.horizontalFill, &payload.verticalFill, &payload.horizontalShow, &payload.verticalShow };
+    *buffers[buffer] = nullptr;
+    const SpectrumCurvePayload before = payload;
+    ExchangedProfiles profiles;
+    QVERIFY(!ExchangeProfiles(&payload, FrameSize, &profiles));
+    QCOMPARE(payload.horizontalFill, before.horizontalFill);
+    QCOMPARE(payload.verticalFill, before.verticalFill);
+    QVERIFY(producer.mutex.tryLock()); // nor is it left locked
+    producer.mutex.unlock();
+}
+
+void TestProfileExchange::sizesThatDisagreeAreLeftAlone_data()
+{
+    QTest::addColumn<int>("horizontalSize");
+    QTest::addColumn<int>("verticalSize");
+    QTest::newRow("no columns") << 0 << 1000;
+    QTest::newRow("no rows") << 2048 << 0;
+    QTest::newRow("below 0") << -2048 << -1000;
+    QTest::newRow("row too long") << 2049 << 1000;
+    QTest::newRow("column too long") << 2048 << 1001;
+    // The region ends at column 1536 and row 1000.
+    QTest::newRow("row too short for the region") << 1535 << 1000;
+    QTest::newRow("column too short for the region") << 2048 << 999;
+}
+
+void TestProfileExchange::sizesThatDisagreeAreLeftAlone()
+{
+    QFETCH(int, horizontalSize);
+    QFETCH(int, verticalSize);
+    Producer producer;
+    producer.payload.horizontalSize = horizontalSize;
+    producer.payload.verticalSize = verticalSize;
+    ExchangedProfiles profiles;
+    QVERIFY(!ExchangeProfiles(&producer.payload, FrameSize, &profiles));
+    QCOMPARE(producer.payload.horizontalFill, producer.rows[0].data());
+    QCOMPARE(profiles.horizontal.samples, nullptr);
+}
+
+void TestProfileExchange::aPartOfAShorterLineIsShown()
+{
+    Producer producer;
+    producer.payload.horizontalSize = 1536;
+    ExchangedProfiles profiles;
+    QVERIFY(ExchangeProfiles(&producer.payload, FrameSize, &profiles));
+    QCOMPARE(profiles.horizontal.size, 1536);
+    QCOMPARE(profiles.horizontal.offset, 512);
+    QCOMPARE(profiles.horizontal.count, 1024);
 }
 
 void TestProfileExchange::shownSamplesStayWhileTheProducerWrites()

@@ -24,7 +24,10 @@ private slots:
     void theLargerScaleFillsTheFreeSpace();
     void steppingBackPassesTheLevelsInTurn();
     void onlyAZoomedPictureRemembersItsCentre();
+    void aRectangleWithoutAScaleChangesNothing_data();
     void aRectangleWithoutAScaleChangesNothing();
+    void anotherSpaceRescalesAllLevels();
+    void aFittedPictureIsNotRescaled();
     void anEmptyHistoryStaysEmptyWhenSteppingBack();
 };
 
@@ -82,15 +85,61 @@ void TestSpectrumZoomHistory::onlyAZoomedPictureRemembersItsCentre()
     QCOMPARE(history.RememberedCentre(), QPointF());
 }
 
+void TestSpectrumZoomHistory::aRectangleWithoutAScaleChangesNothing_data()
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double inf = std::numeric_limits<double>::infinity();
+    QTest::addColumn<QRectF>("rect");
+    QTest::addColumn<QSize>("freeSpace");
+    QTest::newRow("no numbers") << QRectF(nan, nan, nan, nan) << FreeSpace;
+    QTest::newRow("x is no number") << QRectF(nan, 0, 10, 10) << FreeSpace;
+    QTest::newRow("y is no number") << QRectF(0, nan, 10, 10) << FreeSpace;
+    QTest::newRow("width is no number") << QRectF(0, 0, nan, 10) << FreeSpace;
+    QTest::newRow("height is no number") << QRectF(0, 0, 10, nan) << FreeSpace;
+    QTest::newRow("endless") << QRectF(0, 0, inf, 10) << FreeSpace;
+    QTest::newRow("turned round") << QRectF(10, 10, -5, 10) << FreeSpace;
+    QTest::newRow("no space") << QRectF(0, 0, 10, 10) << QSize(-20, -20);
+    QTest::newRow("no width") << QRectF(0, 0, 10, 10) << QSize(0, 400);
+    QTest::newRow("no height") << QRectF(0, 0, 10, 10) << QSize(600, -1);
+}
+
 void TestSpectrumZoomHistory::aRectangleWithoutAScaleChangesNothing()
+{
+    QFETCH(QRectF, rect);
+    QFETCH(QSize, freeSpace);
+    SpectrumZoomHistory history;
+    history.Restart(Fitted());
+    QCOMPARE(history.Push(rect, true, freeSpace), 0.0F);
+    QCOMPARE(history.Count(), 1);
+    QCOMPARE(history.Current().rect, Fitted().rect);
+}
+
+void TestSpectrumZoomHistory::anotherSpaceRescalesAllLevels()
 {
     SpectrumZoomHistory history;
     history.Restart(Fitted());
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    history.Push(QRectF(nan, nan, nan, nan), true, FreeSpace);
-    history.Push(QRectF(0, 0, 10, 10), true, QSize(-20, -20));
-    QCOMPARE(history.Count(), 1);
-    QCOMPARE(history.Current().rect, Fitted().rect);
+    history.Push(QRectF(100, 100, 300, 200), true, FreeSpace);
+    history.Push(QRectF(150, 150, 60, 40), true, FreeSpace);
+    QVERIFY(history.Rescale(0.25F, QSize(300, 200)));
+    QCOMPARE(history.Count(), 3); // it adds no step to go back
+    QCOMPARE(history.Current().scale, 5.0F);
+    QCOMPARE(history.Current().rect, QRectF(150, 150, 60, 40));
+    history.Push(QRectF(), false, FreeSpace);
+    QCOMPARE(history.Current().scale, 1.0F);
+    history.Push(QRectF(), false, FreeSpace);
+    QCOMPARE(history.Current().scale, 0.25F);
+}
+
+void TestSpectrumZoomHistory::aFittedPictureIsNotRescaled()
+{
+    SpectrumZoomHistory history;
+    QVERIFY(!history.Rescale(0.25F, FreeSpace));
+    history.Restart(Fitted());
+    QVERIFY(!history.Rescale(0.25F, FreeSpace));
+    QCOMPARE(history.Current().scale, 0.5F);
+    history.Push(QRectF(100, 100, 300, 200), true, FreeSpace);
+    QVERIFY(!history.Rescale(-0.1F, QSize(-30, 200)));
+    QCOMPARE(history.Current().scale, 2.0F);
 }
 
 void TestSpectrumZoomHistory::anEmptyHistoryStaysEmptyWhenSteppingBack()

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "spectrumplacement.h"
+
+#include "globalclass.h"
+#include "spectrumzoomhistory.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+// Design sizes of the aids with the space around them.
+constexpr QSize AllAids(140, 180);
+constexpr QSize Axes(60, 50);
+constexpr QSize Curves(50, 50);
+constexpr QSize ColorCard(0, 55);
+
+QSize ActualSize(const QSize &designSize)
+{
+    return QSize(GlobalClass::GetActualSize(designSize.width()), GlobalClass::GetActualSize(designSize.height()));
+}
+
+/// One side of the picture that is seen through a window of `length`, in picture pixels.
+struct Span
+{
+    double from;
+    double to;
+};
+
+/// The scroll bars end with the picture, and so does what is seen.
+Span InPicture(Span span, double side)
+{
+    if (span.from < 0.0)
+        span = { 0.0, std::min(span.to - span.from, side) };
+    else if (span.to > side)
+        span = { std::max(span.from - (span.to - side), 0.0), side };
+    return span;
+}
+
+double NearestInSide(double place, int side)
+{
+    return std::min(std::max(place, 0.0), std::nextafter(double(side), 0.0));
+}
+
+} // namespace
+
+QSize ComputeSpectrumMargins(bool axisVisible, bool curveVisible, bool colorCardVisible)
+{
+    QSize margins = ActualSize(AllAids);
+    if (!axisVisible)
+        margins -= ActualSize(Axes);
+    if (!curveVisible)
+        margins -= ActualSize(Curves);
+    if (!colorCardVisible)
+        margins -= ActualSize(ColorCard);
+    return margins;
+}
+
+FittedPicture FitPicture(const QSize &pictureSize, const QSize &freeSpace)
+{
+    const auto scale = float(std::min(double(freeSpace.width()) / pictureSize.width(),
+                                      double(freeSpace.height()) / pictureSize.height()));
+    const QSize viewSize(int(pictureSize.width() * scale), int(std::max(double(pictureSize.height() * scale), 1.0)));
+    return { scale, viewSize, viewSize.boundedTo(freeSpace) };
+}
+
+PlacedPicture PlacePicture(const QRectF &target, const ZoomState &level, int levelCount, const QSize &pictureSize,
+                           const QSize &freeSpace)
+{
+    const float scale = level.scale;
+    const QSize targetPixels = target.size().toSize();
+    const QSize targetSize(int(targetPixels.width() * scale), int(targetPixels.height() * scale));
+    PlacedPicture placed;
+    const bool isSmall = targetSize.width() < freeSpace.width() && targetSize.height() < freeSpace.height();
+    placed.shown = isSmall && levelCount > 1 ? freeSpace : targetSize.boundedTo(freeSpace);
+    placed.viewSize = QSize(int(pictureSize.width() * scale), int(pictureSize.height() * scale));
+
+    const QPointF centre(placed.viewSize.width() * (level.centre.x() / pictureSize.width()),
+                         placed.viewSize.height() * (level.centre.y() / pictureSize.height()));
+    const QPointF half(placed.shown.width() * 0.5, placed.shown.height() * 0.5);
+    placed.scroll = centre - half;
+    placed.pictureCentre = centre / double(scale);
+    if (levelCount < 2) {
+        placed.visible = { 0.0, 2.0 * level.centre.x(), 0.0, 2.0 * level.centre.y() };
+    } else {
+        const QPointF first = (centre - half) / double(scale);
+        const QPointF last = (centre + half) / double(scale);
+        const Span x = InPicture({ first.x(), last.x() }, pictureSize.width());
+        const Span y = InPicture({ first.y(), last.y() }, pictureSize.height());
+        placed.visible = { x.from, x.to, y.from, y.to };
+    }
+    return placed;
+}
+
+QRectF NormalisedRect(const PictureRange &range, const QSize &pictureSize)
+{
+    return QRectF(range.xmin / pictureSize.width(), range.ymin / pictureSize.height(),
+                  range.xmax / pictureSize.width(), range.ymax / pictureSize.height());
+}
+
+QPointF AnchorOfFit(const QPointF &remembered, const QSize &pictureSize)
+{
+    const bool isRemembered = !remembered.isNull();
+    // Unalike on purpose: without a place of its own the anchor lies in the middle of the upper edge.
+    return QPointF(isRemembered && remembered.x() <= pictureSize.width() ? remembered.x() : pictureSize.width() / 2,
+                   isRemembered && remembered.y() <= pictureSize.height() ? remembered.y() : 0.0);
+}
+
+QPointF NearestInPicture(const QPointF &place, const QSize &pictureSize)
+{
+    if (pictureSize.isEmpty())
+        return place;
+    return QPointF(NearestInSide(place.x(), pictureSize.width()), NearestInSide(place.y(), pictureSize.height()));
+}

@@ -1,0 +1,144 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cameraspectrumstackedwidget.h"
+#include "imagespectrumstackedwidget.h"
+#include "rulerbarvertical.h"
+#include "spectrumdrawviewbase.h"
+#include "spectrumview.h"
+
+#include "drawviewfixture.h"
+#include "guardedtest.h"
+#include "plotpage.h"
+#include "shellfixture.h"
+
+#include <QSignalSpy>
+
+/// The page with the spectrum image in the two stacks.
+class SpectrumStackViewsTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void pictureIsRefittedAfterAResize();
+    void wiresOfTheLiveView();
+    void liveProfilesAreQueued();
+    void wiresOfThePicturesView();
+    void openedPictureIsStatic();
+};
+
+void SpectrumStackViewsTest::pictureIsRefittedAfterAResize()
+{
+    const DisplayScale scale(1.0);
+    ShellServices services;
+    CameraSpectrumStackedWidget stack(nullptr);
+    stack.resize(740, 580); // leaves 600 x 400
+    emit services.preview.signalPreviewImage(GreyPicture(QSize(300, 100)));
+    stack.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&stack));
+    const SpectrumDrawViewBase *view = stack.findChild<SpectrumView *>()->GetDrawView();
+    QCOMPARE(view->size(), QSize(600, 200));
+    stack.resize(440, 580);
+    QTRY_COMPARE(view->size(), QSize(300, 100));
+    stack.setCurrentIndex(1); // behind another page too
+    stack.resize(1040, 580);
+    QTRY_COMPARE(view->size(), QSize(900, 300));
+}
+
+void SpectrumStackViewsTest::wiresOfTheLiveView()
+{
+    ShellServices services;
+    CameraSpectrumStackedWidget stack(nullptr);
+    auto *page = qobject_cast<SpectrumView *>(stack.widget(0));
+    QVERIFY(page);
+    SpectrumDrawViewBase *view = page->GetDrawView();
+    auto *verticalRuler = page->findChild<RulerBarVertical *>();
+    const QVector<Wire> wires{
+        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), page, SLOT(SlotSpectralPropertyChanged()) },
+        { &services.useArea, SIGNAL(signalSpectrumUIUpdate()), page, SLOT(SlotSpectrumUIChange()) },
+        { &services.useArea, SIGNAL(signalUpdateUseArea()), page, SLOT(SlotSpectrumUIChange()) },
+        { &services.preview, SIGNAL(signalPreviewImage(QImage)), view, SLOT(slotPaintPreview(QImage)) },
+        { &services.preview, SIGNAL(signalSetUpdatesEnabled(bool)), view, SLOT(slotSetUpdatesEnabled(bool)) },
+        { &services.intensity, SIGNAL(SignalUpdateCurve(void *)), page, SLOT(SlotUpdateCurve(void *)) },
+        { view, SIGNAL(SignalPressPosChange(QPointF, QRectF)), page, SLOT(SlotPressPosChange(QPointF, QRectF)) },
+        { view, SIGNAL(SignalNewRect(qreal, qreal, qreal, qreal)), &stack,
+          SLOT(SlotNewArea(qreal, qreal, qreal, qreal)) },
+        { &services.displayMode, SIGNAL(SignalChangeVShowValueRange(qreal, qreal)), verticalRuler,
+          SLOT(changedShowValueRange(qreal, qreal)) },
+        { &services.intensity, SIGNAL(SignalPseudoColorsUpdate(const QVector<QColor>)), page,
+          SLOT(SlotPseudoColorsChanged(const QVector<QColor>)) },
+    };
+    QCOMPARE(MissingWires(wires), QStringList());
+    // The profiles of an opened picture are not for the live page.
+    const QVector<Wire> absent{ { view, SIGNAL(SignalPressPosChangeStatic(QPointF, QRectF, bool)), page,
+                                  SLOT(SlotPressPosChangeStatic(QPointF, QRectF, bool)) } };
+    QCOMPARE(MissingWires(absent).size(), 1);
+}
+
+void SpectrumStackViewsTest::liveProfilesAreQueued()
+{
+    ShellServices services;
+    services.frame.frameWidth = 3;
+    services.frame.frameHeight = 2;
+    services.spectrumUI.displayModeGeneral = false;
+    services.spectrumUI.displayModePhysics = true;
+    CameraSpectrumStackedWidget stack(nullptr);
+    CurvePayload curve({ 11, 0, 0 }, { 12, 0 });
+    curve.record.region = QRectF(0, 0, 1, 1);
+    emit services.intensity.SignalUpdateCurve(curve.Param());
+    QCOMPARE(curve.record.horizontalShow, curve.oldRow.data());
+    QCoreApplication::processEvents();
+    QCOMPARE(curve.record.horizontalShow, curve.row.data());
+}
+
+void SpectrumStackViewsTest::wiresOfThePicturesView()
+{
+    ShellServices services;
+    ImageSpectrumStackedWidget stack(nullptr);
+    auto *page = qobject_cast<SpectrumView *>(stack.widget(0));
+    QVERIFY(page);
+    SpectrumDrawViewBase *view = page->GetDrawView();
+    auto *verticalRuler = page->findChild<RulerBarVertical *>();
+    const QVector<Wire> wires{
+        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), page, SLOT(SlotSpectralPropertyChanged()) },
+        { &services.useArea, SIGNAL(signalSpectrumUIUpdate()), page, SLOT(SlotSpectrumUIChange()) },
+        { &services.useArea, SIGNAL(signalUpdateUseArea()), page, SLOT(SlotSpectrumUIChange()) },
+        { &services.active, SIGNAL(sglUpdateHorizontalCurve(int *, int, int, int)), page,
+          SLOT(SlotUpdateHorizontalCurve(int *, int, int, int)) },
+        { &services.active, SIGNAL(sglUpdateVerticalCurve(int *, int, int, int)), page,
+          SLOT(SlotUpdateVerticalCurve(int *, int, int, int)) },
+        { &services.active, SIGNAL(signalUpdateLevel(int, int)), page, SLOT(SlotUpdateLevel(int, int)) },
+        { view, SIGNAL(SignalPressPosChangeStatic(QPointF, QRectF, bool)), page,
+          SLOT(SlotPressPosChangeStatic(QPointF, QRectF, bool)) },
+        { view, SIGNAL(SignalNewRect(qreal, qreal, qreal, qreal)), &stack,
+          SLOT(slotNewArea(qreal, qreal, qreal, qreal)) },
+        { &services.spectrumUI, SIGNAL(signalDisplayModeChange()), view, SLOT(SlotDisplayModeChange()) },
+        { &services.spectrumUI, SIGNAL(signalDisplayModePropertyChange()), view, SLOT(SlotDisplayModeChange()) },
+        { &services.displayMode, SIGNAL(SignalImageChangeVShowValueRange(qreal, qreal)), verticalRuler,
+          SLOT(changedShowValueRange(qreal, qreal)) },
+        { &services.active, SIGNAL(signalResetImageInfo()), page, SLOT(slotResetImageInfo()) },
+        { &services.active, SIGNAL(signalUpdatePseudoColor(const QVector<QColor>)), page,
+          SLOT(SlotPseudoColorsChanged(const QVector<QColor>)) },
+        { &services.active, SIGNAL(signalResetImageSize()), view, SLOT(slotResetImageInfo()) },
+    };
+    QCOMPARE(MissingWires(wires), QStringList());
+    const QVector<Wire> absent{ { view, SIGNAL(SignalPressPosChange(QPointF, QRectF)), page,
+                                  SLOT(SlotPressPosChange(QPointF, QRectF)) } };
+    QCOMPARE(MissingWires(absent).size(), 1);
+}
+
+void SpectrumStackViewsTest::openedPictureIsStatic()
+{
+    ShellServices services;
+    ImageSpectrumStackedWidget stack(nullptr);
+    auto *page = stack.findChild<SpectrumView *>();
+    QCOMPARE(services.active.connectedViews, QVector<QObject *>{ page->GetDrawView() });
+    CallLog::Clear();
+    // Both say so by what they ask for.
+    page->SlotDisplayModeUpdate();
+    QCOMPARE(CallLog::Calls(), QStringList("SpectrumUIManager::CalculateImageArea()"));
+    QSignalSpy fitted(page->GetDrawView(), SIGNAL(SignalImageChange(QSize)));
+    page->GetDrawView()->slotPaintStaticPreview(GreyPicture(QSize(601, 10)));
+    QCOMPARE(fitted.size(), 0);
+}
+
+GUARDED_TEST_MAIN(SpectrumStackViewsTest)
+#include "tst_spectrumstackviews.moc"
