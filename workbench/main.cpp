@@ -3,6 +3,7 @@
 #include "cameralink.h"
 #include "commandline.h"
 #include "devicelist.h"
+#include "language.h"
 #include "mainwindow.h"
 #include "picturedesk.h"
 #include "recordrun.h"
@@ -49,6 +50,7 @@ RecordingSettings SettingsOf(const CommandLine &line)
 int Record(const CommandLine &line)
 {
     SettingsFile settings(SettingsFile::StandardPath());
+    Language(settings.Settings()).Install();
     CameraLink link;
     link.SetScene(line.scene);
     WorkbenchServices services(settings.Settings(), &link);
@@ -61,6 +63,7 @@ int Record(const CommandLine &line)
 int RunWorkbench(const CommandLine &line)
 {
     SettingsFile settings(SettingsFile::StandardPath());
+    Language(settings.Settings()).Install();
     CameraLink link;
     link.SetScene(line.scene);
     WorkbenchServices services(settings.Settings(), &link);

@@ -144,6 +144,7 @@ void MainWindow::BuildMenus()
     menuBar()->addMenu(m_viewMenu);
     pictures->FillViewMenu(m_viewMenu);
     connect(m_viewMenu, SIGNAL(signalRestoreDefaultLayout()), this, SLOT(slotRestoreDefaultLayout()));
+    connect(m_viewMenu, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
     connect(m_viewMenu, SIGNAL(signalDrawingChosen(bool)), m_drawingGuard, SLOT(slotSetCPUDraw(bool)));
 
     QMenu *help = menuBar()->addMenu(tr("&Help"));

@@ -4,6 +4,7 @@
 #include "applicationlook.h"
 #include "cameralink.h"
 #include "globalnotify.h"
+#include "language.h"
 #include "levelsdialog.h"
 #include "levelsmodel.h"
 #include "levelssource.h"
@@ -28,6 +29,7 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     , m_sceneGroup(new QActionGroup(this))
     , m_opacityGroup(new QActionGroup(this))
     , m_lookGroup(new QActionGroup(this))
+    , m_languageGroup(new QActionGroup(this))
 {
     AddViews();
     addSeparator();
@@ -39,6 +41,7 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     AddScenes();
     addSeparator();
     AddLooks();
+    AddLanguages();
     AddWindow();
 
     connect(m_panelGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetPanel(QAction *)));
@@ -46,6 +49,7 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     connect(m_sceneGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetScene(QAction *)));
     connect(m_opacityGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetCoverOpacity(QAction *)));
     connect(m_lookGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetLook(QAction *)));
+    connect(m_languageGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetLanguage(QAction *)));
     connect(services->Look(), SIGNAL(signalChanged()), this, SLOT(slotUpdate()));
     connect(services->Cover(), SIGNAL(signalChanged()), this, SLOT(slotUpdateCover()));
     connect(m_config, SIGNAL(signalSetCPUDraw(bool)), this, SLOT(slotUpdate()));
@@ -112,6 +116,14 @@ void ViewMenu::AddLooks()
     AddChoice(m_lookGroup, menu, tr("&Light"), "light");
 }
 
+/// Each language has its own name for itself, which is not translated.
+void ViewMenu::AddLanguages()
+{
+    QMenu *menu = addMenu(tr("Lan&guage"));
+    AddChoice(m_languageGroup, menu, QStringLiteral("English"), "en");
+    AddChoice(m_languageGroup, menu, QStringLiteral("Deutsch"), "de");
+}
+
 void ViewMenu::AddWindow()
 {
     // The keys of these two belong to the tool bar of the view.
@@ -143,6 +155,8 @@ void ViewMenu::slotUpdate()
         action->setChecked(action->data().toString() == m_services->Link()->SceneName());
     for (QAction *action : m_lookGroup->actions())
         action->setChecked(action->data().toString() == m_services->Look()->Name());
+    for (QAction *action : m_languageGroup->actions())
+        action->setChecked(action->data().toString() == m_services->GetLanguage()->Name());
 }
 
 void ViewMenu::slotUpdateCover()
@@ -212,6 +226,12 @@ void ViewMenu::slotShowLevels()
 void ViewMenu::slotSetLook(QAction *action)
 {
     m_services->Look()->Choose(action->data().toString());
+}
+
+void ViewMenu::slotSetLanguage(QAction *action)
+{
+    m_services->GetLanguage()->Choose(action->data().toString());
+    emit signalMessage(tr("The language changes at the next start."));
 }
 
 void ViewMenu::slotSetScene(QAction *action)

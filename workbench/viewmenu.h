@@ -28,12 +28,15 @@ signals:
     /// True for the CPU.
     void signalDrawingChosen(bool cpuFlag);
     void signalRestoreDefaultLayout();
+    /// A sentence for the status bar.
+    void signalMessage(QString text);
 
 private slots:
     void slotSetDrawing(QAction *action);
     void slotShowLevels();
     void slotSetScene(QAction *action);
     void slotSetLook(QAction *action);
+    void slotSetLanguage(QAction *action);
     void slotSetPanel(QAction *action);
     void slotSetCoverOpacity(QAction *action);
     void slotUpdateCover();
@@ -46,6 +49,7 @@ private:
     void AddDrawing();
     void AddScenes();
     void AddLooks();
+    void AddLanguages();
     void AddWindow();
     void BuildLevelsDialog();
     QAction *AddChoice(QActionGroup *group, QMenu *menu, const QString &text, const QVariant &data);
@@ -57,6 +61,7 @@ private:
     QActionGroup *m_sceneGroup;
     QActionGroup *m_opacityGroup;
     QActionGroup *m_lookGroup;
+    QActionGroup *m_languageGroup;
     LevelsDialog *m_levelsDialog = nullptr;
     QAction *m_markSaturated = nullptr;
     QAction *m_drawCover = nullptr;

@@ -12,6 +12,7 @@
 #include "connectedcameras.h"
 #include "framesaving.h"
 #include "frametee.h"
+#include "language.h"
 #include "levelsmodel.h"
 #include "livecover.h"
 #include "liveframesize.h"
@@ -69,6 +70,7 @@ WorkbenchServices::WorkbenchServices(QSettings *settings, CameraLink *link)
     : m_settings(settings)
     , m_link(link)
     , m_look(std::make_unique<ApplicationLook>(settings))
+    , m_language(std::make_unique<Language>(settings))
     , m_config(std::make_unique<WorkspaceConfig>(settings))
     , m_useArea(std::make_unique<UseArea>(settings))
     , m_levelsModel(std::make_unique<LevelsModel>(settings))

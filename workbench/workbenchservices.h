@@ -19,6 +19,7 @@ class ChannelSynthesis;
 class ConnectedCameras;
 class FrameSaving;
 class FrameTee;
+class Language;
 class LevelsModel;
 class LiveCover;
 class LiveFrameSize;
@@ -62,6 +63,7 @@ public:
     ~WorkbenchServices() override;
 
     ApplicationLook *Look() const { return m_look.get(); }
+    Language *GetLanguage() const { return m_language.get(); }
     CameraLink *Link() const { return m_link; }
     LivePreview *Preview() const { return m_preview.get(); }
     LiveLevels *Levels() const { return m_levels.get(); }
@@ -100,6 +102,7 @@ private:
     CameraLink *m_link;
 
     std::unique_ptr<ApplicationLook> m_look;
+    std::unique_ptr<Language> m_language;
     std::unique_ptr<WorkspaceConfig> m_config;
     std::unique_ptr<UseArea> m_useArea;
     std::unique_ptr<LevelsModel> m_levelsModel;

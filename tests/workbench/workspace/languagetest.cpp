@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "guardedtest.h"
+#include "language.h"
+
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTranslator>
+
+#include <memory>
+
+class LanguageTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void nameFollowsChoiceThenSystem_data();
+    void nameFollowsChoiceThenSystem();
+    void choiceIsKept();
+    void textsAreTranslated();
+    void englishNeedsNoCatalogue();
+
+private:
+    QSettings *NewSettings();
+
+    QTemporaryDir m_dir;
+    std::unique_ptr<QSettings> m_settings;
+};
+
+QSettings *LanguageTest::NewSettings()
+{
+    m_settings = std::make_unique<QSettings>(m_dir.filePath("language.ini"), QSettings::IniFormat);
+    m_settings->clear();
+    return m_settings.get();
+}
+
+void LanguageTest::cleanup()
+{
+    for (QTranslator *translator : qApp->findChildren<QTranslator *>(QString(), Qt::FindDirectChildrenOnly))
+        delete translator;
+}
+
+void LanguageTest::nameFollowsChoiceThenSystem_data()
+{
+    QTest::addColumn<QString>("chosen");
+    QTest::addColumn<QString>("system");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("nothing chosen, German system") << "" << "de" << "de";
+    QTest::newRow("nothing chosen, English system") << "" << "en" << "en";
+    QTest::newRow("a system that we don't speak") << "" << "fi" << "en";
+    QTest::newRow("no locale at all") << "" << "C" << "en";
+    QTest::newRow("the choice wins") << "en" << "de" << "en";
+    QTest::newRow("a choice that we don't speak") << "fi" << "de" << "de";
+}
+
+void LanguageTest::nameFollowsChoiceThenSystem()
+{
+    QFETCH(QString, chosen);
+    QFETCH(QString, system);
+    QFETCH(QString, name);
+    QSettings *settings = NewSettings();
+    settings->setValue("window/language", chosen);
+    QCOMPARE(Language(settings, system).Name(), name);
+}
+
+void LanguageTest::choiceIsKept()
+{
+    QSettings *settings = NewSettings();
+    Language(settings, "en").Choose("de");
+    QCOMPARE(Language(settings, "en").Name(), QString("de"));
+    Language(settings, "en").Choose("no such language");
+    QCOMPARE(Language(settings, "en").Name(), QString("de"));
+}
+
+void LanguageTest::textsAreTranslated()
+{
+    QSettings *settings = NewSettings();
+    Language(settings, "de").Install();
+    // One of the application, one of the module, one of Qt.
+    QCOMPARE(QCoreApplication::translate("MainWindow", "&File"), QString("&Datei"));
+    QCOMPARE(QCoreApplication::translate("CapturePreviewUI", "Capture"), QString("Aufnahme"));
+    QDialogButtonBox box(QDialogButtonBox::Cancel);
+    QCOMPARE(box.button(QDialogButtonBox::Cancel)->text().remove('&'), QString("Abbrechen"));
+}
+
+void LanguageTest::englishNeedsNoCatalogue()
+{
+    QSettings *settings = NewSettings();
+    Language(settings, "en").Install();
+    QCOMPARE(QCoreApplication::translate("MainWindow", "&File"), QString("&File"));
+}
+
+GUARDED_TEST_MAIN(LanguageTest)
+#include "languagetest.moc"
