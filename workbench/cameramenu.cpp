@@ -1,26 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cameramenu.h"
 
-#include "cameradialog.h"
 #include "cameralink.h"
 #include "camerasession.h"
 #include "connectedcameras.h"
-#include "devicelist.h"
 #include "informationdialog.h"
 #include "recordingguard.h"
 #include "regionofinterest.h"
 #include "workbenchservices.h"
+#include "workspaceconfig.h"
 
 #include <QActionGroup>
 
 namespace {
-
-QString Caption(const CameraInfo &camera)
-{
-    if (IsSimulatedCamera(camera.id))
-        return CameraMenu::tr("Simulated Camera");
-    return QString("%1 %2 %3 (%4)").arg(camera.vendor, camera.model, camera.serial, camera.interfaceName);
-}
 
 /// Later: the action that is running now may be one of them.
 void RemoveActions(QActionGroup *group, QMenu *menu)
@@ -91,6 +83,9 @@ void CameraMenu::slotFirstSearch()
 
 void CameraMenu::slotRefresh()
 {
+    // A camera that is being opened would have to wait for the search.
+    if (m_services->Link()->GetState() == CameraLink::State::Opening)
+        return;
     m_discovery.Start();
     m_refresh->setEnabled(false);
 }
@@ -106,7 +101,7 @@ void CameraMenu::slotUpdateCameras()
     RemoveActions(m_cameraGroup, this);
     const CameraLink *link = m_services->Link();
     for (const CameraInfo &camera : m_services->Cameras()->Cameras()) {
-        auto *action = new QAction(Caption(camera), m_cameraGroup);
+        auto *action = new QAction(ConnectedCameras::Caption(camera), m_cameraGroup);
         action->setData(camera.id);
         action->setCheckable(true);
         action->setChecked(link->GetState() != CameraLink::State::NoCamera && link->Info().id == camera.id);
@@ -165,9 +160,14 @@ void CameraMenu::slotSetBinning(QAction *action)
 
 void CameraMenu::slotOpenCamera(QAction *action)
 {
+    slotOpen(action->data().toString());
+}
+
+void CameraMenu::slotOpen(QString id)
+{
     CameraLink *link = m_services->Link();
-    m_guard->Do(tr("Another camera ends it."), [link, id = action->data().toString()] { link->Open(id); });
-    slotUpdateCameras();
+    m_guard->Do(tr("Another camera ends it."), [link, id] { link->Open(id); });
+    m_services->Cameras()->SetCameras(m_services->Cameras()->Cameras()); // the choice may not have been carried out
 }
 
 void CameraMenu::slotCloseCamera()
@@ -194,11 +194,7 @@ void CameraMenu::slotFullSensor()
 
 void CameraMenu::slotShowControls()
 {
-    if (!m_dialog)
-        m_dialog = new CameraDialog(m_services->Link(), parentWidget());
-    if (m_dialog->isVisible())
-        m_dialog->activateWindow();
-    m_dialog->show();
+    m_services->Config()->ShowCameraPanel(CameraPanel::Camera);
 }
 
 void CameraMenu::slotShowInformation()

@@ -5,7 +5,6 @@
 
 #include <QMenu>
 
-class CameraDialog;
 class RecordingGuard;
 class WorkbenchServices;
 
@@ -22,6 +21,8 @@ public:
 public slots:
     /// Looks for cameras; the list follows when they were found.
     void slotRefresh();
+    /// Opens another camera, unless a recording is to go on.
+    void slotOpen(QString id);
 
 private slots:
     void slotFirstSearch();
@@ -54,7 +55,6 @@ private:
     QAction *m_reconnect = nullptr;
     QAction *m_close = nullptr;
     QAction *m_controls = nullptr;
-    CameraDialog *m_dialog = nullptr; ///< made when it is first asked for
     QMenu *m_layouts = nullptr;
     QMenu *m_binnings = nullptr;
     QAction *m_selectRegion = nullptr;

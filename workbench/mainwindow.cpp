@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "mainwindow.h"
 
+#include "camerafields.h"
 #include "cameralink.h"
 #include "cameramenu.h"
 #include "cameranotice.h"
+#include "camerasession.h"
 #include "drawingguard.h"
 #include "filedrop.h"
 #include "globalclass.h"
@@ -13,9 +15,11 @@
 #include "picturedialogs.h"
 #include "picturemenus.h"
 #include "recordingdesk.h"
+#include "recordingfields.h"
 #include "recordingguard.h"
 #include "recordingmenu.h"
 #include "recordingstatus.h"
+#include "savesettings.h"
 #include "shownframes.h"
 #include "statusline.h"
 #include "viewcodes.h"
@@ -49,13 +53,28 @@ const char BlackBackgroundKey[] = "window/blackBackground";
 constexpr QSize DefaultSize(1440, 900);
 constexpr int SidePanelWidth = 400;
 constexpr int BottomPanelHeight = 170;
+
+RecordingFields::Example NameExample(CameraLink *link)
+{
+    return [link] {
+        NamePattern::Values values{link->Name(), QDateTime::currentDateTime(), 0, 0};
+        if (CameraSession *session = link->Session()) {
+            values.exposureUs = session->Controls().ExposureUs();
+            values.gain = session->Controls().Gain();
+        }
+        return values;
+    };
 }
+
+} // namespace
 
 MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     : m_services(services)
     , m_settings(settings)
     , m_drawingGuard(new DrawingGuard(services->Config(), this))
     , m_recordingGuard(new RecordingGuard(services->Recording(), this))
+    , m_cameraFields(new CameraFields(services->Link(), services->Cameras(), services->Region(), this))
+    , m_recordingFields(new RecordingFields(services->Recording()->Settings(), NameExample(services->Link()), this))
 {
     setObjectName("MainWindow");
     setWindowTitle(tr("Workbench"));
@@ -138,6 +157,9 @@ void MainWindow::BuildMenus()
     pictures->FillEditMenu(edit);
     auto *camera = new CameraMenu(m_services, m_recordingGuard, this);
     menuBar()->addMenu(camera);
+    connect(m_cameraFields, SIGNAL(signalCameraWanted(QString)), camera, SLOT(slotOpen(QString)));
+    connect(m_cameraFields, SIGNAL(signalSearchWanted()), camera, SLOT(slotRefresh()));
+    connect(m_services->Recording(), SIGNAL(signalStateChanged()), this, SLOT(slotRecordingStateChanged()));
     auto *recording = new RecordingMenu(m_services, this);
     menuBar()->addMenu(recording);
     m_viewMenu = new ViewMenu(m_services, this);
@@ -182,6 +204,11 @@ void MainWindow::slotRestoreDefaultLayout()
     SetBlackBackground(false);
     slotUpdateDockWidget();
     ArrangeDefault();
+}
+
+void MainWindow::slotRecordingStateChanged()
+{
+    m_recordingFields->SetBusy(m_services->Recording()->IsBusy());
 }
 
 void MainWindow::slotUpdateDockWidget()

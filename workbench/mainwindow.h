@@ -5,12 +5,14 @@
 
 #include <QMainWindow>
 
+class CameraFields;
 class DrawingGuard;
 class PictureMenus;
 class QDockWidget;
 class QSettings;
 class QShortcut;
 class QStackedWidget;
+class RecordingFields;
 class RecordingGuard;
 class ShownFrames;
 class StatusLine;
@@ -42,6 +44,7 @@ protected:
 private slots:
     void slotUpdateDockWidget();
     void slotLeaveFullScreen();
+    void slotRecordingStateChanged();
 
 private:
     /// Which panels were shown before the window filled the screen.
@@ -66,6 +69,8 @@ private:
     QSettings *m_settings;
     DrawingGuard *m_drawingGuard;
     RecordingGuard *m_recordingGuard;
+    CameraFields *m_cameraFields;       ///< of the panels, which find them while the module is built
+    RecordingFields *m_recordingFields; ///< likewise
     QStackedWidget *m_centre = nullptr;
     QDockWidget *m_leftDock = nullptr;
     QDockWidget *m_rightDock = nullptr;

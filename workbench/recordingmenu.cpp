@@ -2,20 +2,15 @@
 #include "recordingmenu.h"
 
 #include "cameralink.h"
-#include "camerasession.h"
 #include "livepreview.h"
 #include "picturedesk.h"
 #include "receiptdialog.h"
 #include "recordingdesk.h"
-#include "recordingform.h"
-#include "savesettings.h"
 #include "workbenchservices.h"
+#include "workspaceconfig.h"
 
-#include <QDialog>
-#include <QDialogButtonBox>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 RecordingMenu::RecordingMenu(WorkbenchServices *services, QWidget *parent)
     : QMenu(tr("&Recording"), parent)
@@ -28,7 +23,7 @@ RecordingMenu::RecordingMenu(WorkbenchServices *services, QWidget *parent)
         tr("Capture &One Frame"), [preview] { preview->FrameSave(false, true); }, QKeySequence("Shift+F10"));
     m_discard = addAction(tr("&Discard"), services->Recording(), SLOT(slotDiscard()));
     addSeparator();
-    m_settings = addAction(tr("&Settings…"), this, SLOT(slotShowSettings()), QKeySequence("Ctrl+Shift+R"));
+    m_settings = addAction(tr("&Settings"), this, SLOT(slotShowSettings()), QKeySequence("Ctrl+Shift+R"));
     m_receipt = addAction(tr("&Last Recording…"), this, SLOT(slotShowReceipt()));
 
     RecordingDesk *desk = services->Recording();
@@ -53,28 +48,7 @@ void RecordingMenu::slotUpdate()
 
 void RecordingMenu::slotShowSettings()
 {
-    QDialog dialog(parentWidget());
-    dialog.setObjectName("RecordingSettings");
-    dialog.setWindowTitle(tr("Recording Settings"));
-    auto *column = new QVBoxLayout(&dialog);
-    auto *form = new RecordingForm(&dialog);
-    SaveSettings *settings = m_services->Recording()->Settings();
-    form->Set(settings->Get());
-    NamePattern::Values example{ m_services->Link()->Name(), QDateTime::currentDateTime(), 0, 0 };
-    if (CameraSession *session = m_services->Link()->Session()) {
-        example.exposureUs = session->Controls().ExposureUs();
-        example.gain = session->Controls().Gain();
-    }
-    form->SetExample(example);
-    column->addWidget(form);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
-    connect(buttons, SIGNAL(accepted()), &dialog, SLOT(accept()));
-    connect(buttons, SIGNAL(rejected()), &dialog, SLOT(reject()));
-    connect(form, &RecordingForm::signalChanged, buttons,
-            [form, buttons] { buttons->button(QDialogButtonBox::Ok)->setEnabled(form->IsValid()); });
-    column->addWidget(buttons);
-    if (dialog.exec() == QDialog::Accepted)
-        settings->Set(form->Get());
+    m_services->Config()->ShowCameraPanel(CameraPanel::Acquisition);
 }
 
 void RecordingMenu::slotRoomIsShort(QString warning, bool canBeShortened)

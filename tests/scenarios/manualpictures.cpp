@@ -115,11 +115,8 @@ private:
         receipt->findChild<QAbstractButton *>("pushButtonVerify")->click();
         Save("receipt");
         receipt->close();
-        QTimer::singleShot(0, [this] {
-            Save("recordingsettings");
-            QApplication::activeModalWidget()->close();
-        });
-        m_workbench.Action("Settings…")->trigger();
+        m_workbench.Action("Settings")->trigger();
+        Save("recordingsettings");
     }
 
     void TakeOpenedPicture()

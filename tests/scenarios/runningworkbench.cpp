@@ -24,7 +24,8 @@ constexpr int WaitMs = 10000;
 }
 
 RunningWorkbench::RunningWorkbench(const QString &folder)
-    : settings(folder + "/workbench.ini")
+    : panelRoot(qputenv("GLOBALUI_PLUGIN_PATH", PANEL_ROOT))
+    , settings(folder + "/workbench.ini")
     , services(settings.Settings(), &link)
     , window(&services, settings.Settings())
 {

@@ -45,6 +45,8 @@ public:
     /// The menu action with this text, without its mnemonic mark.
     QAction *Action(const QString &text) const;
 
+    /// Set before the window looks for its panels.
+    const bool panelRoot;
     SettingsFile settings;
     CameraLink link;
     WorkbenchServices services;

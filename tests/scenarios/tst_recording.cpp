@@ -194,9 +194,10 @@ private slots:
     void exposureSetByHandIsWhatTheFileTells()
     {
         m_workbench->Action("Exposure and Gain…")->trigger();
-        auto *dialog = m_workbench->window.findChild<QDialog *>("CameraDialog");
-        QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
-        auto *exposure = dialog->findChild<QDoubleSpinBox *>("doubleSpinBoxExposure");
+        auto *panel = m_workbench->window.findChild<QWidget *>("CameraPanel");
+        QVERIFY(panel);
+        QTRY_VERIFY(panel->isVisible());
+        auto *exposure = panel->findChild<QDoubleSpinBox *>("numberExposure");
         exposure->setFocus();
         exposure->selectAll();
         QTest::keyClicks(exposure, "4.5");
@@ -209,14 +210,11 @@ private slots:
         QVERIFY(exposure->value() <= 10000.0);
         QCOMPARE(m_workbench->link.Session()->Controls().ExposureUs(), exposure->value() * 1000);
         exposure->setValue(4.5);
-        QVERIFY(!dialog->findChild<QCheckBox *>("checkBoxAutoExposure")
-                     ->isEnabled()); // the simulated camera has none
-        auto *rate = dialog->findChild<QDoubleSpinBox *>("doubleSpinBoxFrameRate");
+        QVERIFY(!panel->findChild<QCheckBox *>("checkAutoExposure")->isEnabled()); // the simulated camera has none
+        auto *rate = panel->findChild<QDoubleSpinBox *>("numberFrameRate");
         rate->setValue(1000);
         QVERIFY(rate->value() <= 1e6 / 4500 + 0.01); // as the exposure bounds it
         rate->setValue(50);
-        dialog->close();
-        QVERIFY(QTest::qWaitForWindowActive(&m_workbench->window));
 
         m_settings.frames = 3;
         Apply();

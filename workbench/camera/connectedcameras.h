@@ -13,6 +13,8 @@ class ConnectedCameras : public CameraList
 public:
     explicit ConnectedCameras(QObject *parent = nullptr);
 
+    /// What a camera is called in a list.
+    static QString Caption(const CameraInfo &camera);
     const QVector<CameraInfo> &Cameras() const { return m_cameras; }
     void SetCameras(const QVector<CameraInfo> &cameras);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workspaceconfig.h"
 
+#include "cameramainmanager.h"
+
 #include "viewrules.h"
 
 #include <QSettings>
@@ -177,6 +179,16 @@ void WorkspaceConfig::SwitchTo(ViewCode view)
 void WorkspaceConfig::UpdateCameraControlUI()
 {
     emit signalUpdateCameraControlUI();
+}
+
+void WorkspaceConfig::ShowCameraPanel(CameraPanel panel)
+{
+    const CameraMainManager *camera = CameraMainManager::GetInstance();
+    const bool isOneMissing = panel == CameraPanel::Acquisition && camera && !camera->HasHardwareSettings();
+    SetCameraView();
+    SetLeftUIChecked(true);
+    SetCameraUIIndex(int(panel) - (isOneMissing ? 1 : 0));
+    UpdateCameraControlUI();
 }
 
 void WorkspaceConfig::UpdateAllControlUI()

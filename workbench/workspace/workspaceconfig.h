@@ -6,6 +6,9 @@
 
 class QSettings;
 
+/// Panels of the left tabs on the camera page.
+enum class CameraPanel { Camera, Adjustment, Hardware, Acquisition };
+
 /// The workspace of the application: which view is shown, which panels and tabs, and how the live
 /// picture is drawn. Every change but that of the view is stored at once; a start begins with the
 /// camera. GUI thread.
@@ -52,6 +55,8 @@ public:
     void FileViewReturn() override;
 
     void UpdateCameraControlUI() override;
+    /// Goes to the camera page with this panel in front.
+    void ShowCameraPanel(CameraPanel panel);
     /// Asks every panel to show the state of the services anew.
     void UpdateAllControlUI();
     /// Panels, tabs and drawing as on the first start; the view stays.

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "recordingfields.h"
+
+#include "runwriter.h"
+#include "savesettings.h"
+
+namespace {
+
+constexpr double MsPerSecond = 1000.0;
+constexpr int MsPerMinute = 60000;
+
+PanelField Field(PanelField::Kind kind, const QString &key, const QString &text, const QVariant &value)
+{
+    PanelField field;
+    field.kind = kind;
+    field.key = key;
+    field.text = text;
+    field.value = value;
+    return field;
+}
+
+PanelField Number(const QString &key, const QString &text, double value, double least, double most,
+                  const QString &unit, int decimals = 0)
+{
+    PanelField field = Field(PanelField::Kind::Number, key, text, value);
+    field.minimum = least;
+    field.maximum = most;
+    field.unit = unit;
+    field.decimals = decimals;
+    return field;
+}
+
+PanelField Choice(const QString &key, const QString &text, int index, const QStringList &choices)
+{
+    PanelField field = Field(PanelField::Kind::Choice, key, text, index);
+    field.choices = choices;
+    return field;
+}
+
+TIME_MIN_S_MS TimeOf(double seconds)
+{
+    const int ms = qRound(seconds * MsPerSecond);
+    TIME_MIN_S_MS time;
+    time.minutes = ms / MsPerMinute;
+    time.seconds = ms % MsPerMinute / 1000;
+    time.milliseconds = ms % 1000;
+    return time;
+}
+
+} // namespace
+
+RecordingFields::RecordingFields(SaveSettings *settings, const Example &example, QObject *parent)
+    : FieldSource(AcquisitionName, parent)
+    , m_settings(settings)
+    , m_example(example)
+    , m_pattern(settings->Get().pattern)
+{
+    connect(settings, &SaveSettings::signalChanged, this, [this] {
+        m_pattern = m_settings->Get().pattern;
+        emit signalChanged();
+    });
+}
+
+PanelFields RecordingFields::Fields() const
+{
+    PanelFields fields;
+    AddRun(fields, m_settings->Get());
+    AddFile(fields, m_settings->Get());
+    for (PanelField &field : fields)
+        field.isEnabled &= !m_isBusy;
+    return fields;
+}
+
+void RecordingFields::AddRun(PanelFields &fields, const RecordingSettings &settings) const
+{
+    using Mode = RecordingSettings::Mode;
+    fields << Choice("mode", tr("Record"), int(settings.mode),
+                     {tr("One frame"), tr("Number of frames"), tr("Duration"), tr("Until stopped")});
+    fields << Number("frames", tr("Frames"), settings.frames, 1, RecordingSettings::MostFrames, tr(" frames"));
+    fields.last().isEnabled = settings.mode == Mode::Count;
+    fields << Number("seconds", tr("Time"), settings.seconds, 1, RecordingSettings::MostSeconds, tr(" s"));
+    fields.last().isEnabled = settings.mode == Mode::Duration;
+    fields << Number("delay", tr("Delay before it"), settings.DelayMs() / MsPerSecond, 0,
+                     RecordingSettings::MostDelayMinutes * 60.0, tr(" s"), 3);
+    fields.last().zeroText = tr("none");
+    fields << Number("interval", tr("Interval"), settings.intervalMs / MsPerSecond, 0,
+                     RecordingSettings::LongestIntervalMs / MsPerSecond, tr(" s"), 3);
+    fields.last().zeroText = tr("every frame");
+    fields.last().isEnabled = settings.mode != Mode::Single;
+    for (PanelField &field : fields)
+        field.group = tr("Recording");
+}
+
+void RecordingFields::AddFile(PanelFields &fields, const RecordingSettings &settings) const
+{
+    const int first = fields.size();
+    fields << Choice("target", tr("Save"), settings.toRam ? 1 : 0, {tr("To disk"), tr("To memory, then to disk")});
+    fields << Choice("format", tr("Format"), int(settings.format),
+                     {tr("TIFF"), tr("FITS cube"), tr("PNG sequence")});
+    fields << Field(PanelField::Kind::Folder, "folder", tr("Folder"), settings.Folder());
+    fields << Field(PanelField::Kind::Text, "pattern", tr("Name"), m_pattern);
+    fields.last().toolTip = tr("{camera}, {date}, {time}, {exposure}, {gain}, {number} and {number:4} are filled in.");
+    fields << Field(PanelField::Kind::Note, "name", tr("Next file"), NameText(settings));
+    fields << Number("queue", tr("Waiting frames"), settings.queueMB, RecordingSettings::LeastQueueMB,
+                     RecordingSettings::MostQueueMB, tr(" MB"));
+    fields.last().toolTip = tr("Memory for frames that wait while the disk is busy.");
+    for (int i = first; i < fields.size(); ++i)
+        fields[i].group = tr("File");
+}
+
+QString RecordingFields::NameText(const RecordingSettings &settings) const
+{
+    const NamePattern pattern(m_pattern);
+    return pattern.Fault().isEmpty() ? pattern.Name(m_example(), 1) + '.' + RunSuffix(settings.format)
+                                     : pattern.Fault();
+}
+
+void RecordingFields::Set(const QString &key, const QVariant &value)
+{
+    if (m_isBusy)
+        return;
+    RecordingSettings settings = m_settings->Get();
+    if (key == "mode")
+        settings.mode = RecordingSettings::Mode(qBound(0, value.toInt(), int(RecordingSettings::Mode::UntilStopped)));
+    else if (key == "frames")
+        settings.frames = value.toInt();
+    else if (key == "seconds")
+        settings.seconds = value.toInt();
+    else if (key == "delay")
+        settings.delay = TimeOf(value.toDouble());
+    else if (key == "interval")
+        settings.intervalMs = qRound(value.toDouble() * MsPerSecond);
+    else if (key == "target")
+        settings.toRam = value.toInt() == 1;
+    else if (key == "format")
+        settings.format = RunFormat(qBound(0, value.toInt(), int(RunFormat::Png)));
+    else if (key == "folder")
+        settings.folder = value.toString().trimmed();
+    else if (key == "queue")
+        settings.queueMB = value.toInt();
+    else if (key == "pattern")
+        m_pattern = value.toString();
+    else
+        return;
+    if (key == "pattern" && NamePattern(m_pattern).Fault().isEmpty())
+        settings.pattern = m_pattern;
+    const QString typed = m_pattern;
+    m_settings->Set(settings.Valid());
+    m_pattern = typed;
+    emit signalChanged();
+}
+
+void RecordingFields::SetBusy(bool busy)
+{
+    m_isBusy = busy;
+    emit signalChanged();
+}

@@ -1,0 +1,294 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fieldform.h"
+#include "fieldsource.h"
+#include "numberbox.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalBlocker>
+
+namespace {
+
+QString ObjectName(const char *kind, const QString &key)
+{
+    return kind + key.left(1).toUpper() + key.mid(1);
+}
+
+QStringList Shape(const PanelFields &fields)
+{
+    QStringList shape;
+    for (const PanelField &field : fields)
+        shape << QString("%1/%2/%3").arg(field.key, field.group).arg(int(field.kind));
+    return shape;
+}
+
+QString ToolTip(const PanelField &field)
+{
+    QStringList lines;
+    if (!field.toolTip.isEmpty())
+        lines << field.toolTip;
+    if (field.kind == PanelField::Kind::Number && field.maximum > field.minimum)
+        lines << FieldForm::tr("%1 to %2%3")
+                     .arg(QLocale().toString(field.minimum, 'g', 10), QLocale().toString(field.maximum, 'g', 10),
+                          field.unit);
+    return lines.join('\n');
+}
+
+QString WithoutMnemonic(QString text)
+{
+    return text.remove('&');
+}
+
+void FillChoices(QComboBox *box, const QStringList &choices)
+{
+    bool isSame = box->count() == choices.size();
+    for (int i = 0; isSame && i < choices.size(); ++i)
+        isSame = box->itemText(i) == choices.at(i);
+    if (isSame)
+        return;
+    box->clear();
+    box->addItems(choices);
+}
+
+} // namespace
+
+FieldForm::FieldForm(FieldSource *source, const QString &absentText, QWidget *parent)
+    : QWidget(parent)
+    , m_source(source)
+    , m_column(new QVBoxLayout(this))
+    , m_fault(new QLabel(source ? QString() : absentText, this))
+{
+    m_fault->setObjectName("labelFault");
+    m_fault->setWordWrap(true);
+    m_column->addWidget(m_fault);
+    m_column->addStretch();
+    if (!source)
+        return;
+    m_fault->hide();
+    connect(source, &FieldSource::signalChanged, this, &FieldForm::slotUpdate);
+    connect(source, &FieldSource::signalFault, this, &FieldForm::slotFault);
+    connect(source, &QObject::destroyed, this, &FieldForm::slotSourceGone);
+    slotUpdate();
+}
+
+void FieldForm::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_source)
+        m_source->SetWatched(true);
+    slotUpdate();
+}
+
+void FieldForm::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (m_source)
+        m_source->SetWatched(false);
+}
+
+void FieldForm::slotUpdate()
+{
+    if (!m_source)
+        return;
+    const PanelFields fields = m_source->Fields();
+    if (Shape(fields) != m_shape)
+        Build(fields);
+    for (const PanelField &field : fields)
+        ShowField(field);
+}
+
+void FieldForm::slotFault(QString text)
+{
+    m_fault->setText(text);
+    m_fault->setVisible(!text.isEmpty());
+}
+
+void FieldForm::slotSourceGone()
+{
+    m_fields->setEnabled(false);
+}
+
+void FieldForm::Build(const PanelFields &fields)
+{
+    if (m_fields) {
+        m_fields->hide();
+        m_fields->deleteLater(); // one of its widgets may be what asked for this
+    }
+    m_widgets.clear();
+    m_form = nullptr;
+    m_shape = Shape(fields);
+    m_fields = new QWidget(this);
+    auto *column = new QVBoxLayout(m_fields);
+    column->setContentsMargins(0, 0, 0, 0);
+    for (const PanelField &field : fields)
+        AddField(field);
+    m_column->insertWidget(0, m_fields);
+}
+
+void FieldForm::AddField(const PanelField &field)
+{
+    if (!m_form || field.group != m_group) {
+        auto *box = new QGroupBox(field.group, m_fields);
+        m_form = new QFormLayout(box);
+        m_form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+        m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+        m_fields->layout()->addWidget(box);
+        m_group = field.group;
+    }
+    QWidget *widget = MakeWidget(field);
+    m_widgets.insert(field.key, widget);
+    if (field.isBeside && m_form->rowCount() > 0) {
+        QLayoutItem *last = m_form->itemAt(m_form->rowCount() - 1, QFormLayout::FieldRole);
+        static_cast<QHBoxLayout *>(last->layout())->addWidget(widget);
+        return;
+    }
+    auto *row = new QHBoxLayout;
+    row->addWidget(widget, 1);
+    const bool hasLabel = field.kind != PanelField::Kind::Check && field.kind != PanelField::Kind::Action;
+    m_form->addRow(hasLabel ? field.text : QString(), row);
+    if (hasLabel)
+        static_cast<QLabel *>(m_form->labelForField(row))->setBuddy(widget);
+}
+
+QWidget *FieldForm::MakeWidget(const PanelField &field)
+{
+    const QString key = field.key;
+    switch (field.kind) {
+    case PanelField::Kind::Number:
+        return MakeNumber(field);
+    case PanelField::Kind::Choice:
+        return MakeChoice(field);
+    case PanelField::Kind::Text:
+        return MakeText(field);
+    case PanelField::Kind::Folder:
+        return MakeFolder(field);
+    case PanelField::Kind::Check: {
+        auto *box = new QCheckBox(field.text, m_fields);
+        box->setObjectName(ObjectName("check", key));
+        connect(box, &QCheckBox::toggled, this, [this, key](bool checked) { Send(key, checked); });
+        return box;
+    }
+    case PanelField::Kind::Action: {
+        auto *button = new QPushButton(field.text, m_fields);
+        button->setObjectName(ObjectName("action", key));
+        connect(button, &QPushButton::clicked, this, [this, key] { Send(key, QVariant()); });
+        return button;
+    }
+    case PanelField::Kind::Note:
+        break;
+    }
+    auto *label = new QLabel(m_fields);
+    label->setObjectName(ObjectName("note", key));
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+QWidget *FieldForm::MakeNumber(const PanelField &field)
+{
+    auto *box = new NumberBox(m_fields);
+    box->setObjectName(ObjectName("number", field.key));
+    box->setDecimals(field.decimals);
+    box->setSuffix(field.unit);
+    box->setSpecialValueText(field.zeroText);
+    box->setAccessibleName(WithoutMnemonic(field.text));
+    connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
+            [this, key = field.key](double value) { Send(key, value); });
+    return box;
+}
+
+QWidget *FieldForm::MakeChoice(const PanelField &field)
+{
+    auto *box = new QComboBox(m_fields);
+    box->setObjectName(ObjectName("choice", field.key));
+    box->setAccessibleName(WithoutMnemonic(field.text));
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    connect(box, QOverload<int>::of(&QComboBox::activated), this,
+            [this, key = field.key](int index) { Send(key, index); });
+    return box;
+}
+
+QWidget *FieldForm::MakeText(const PanelField &field)
+{
+    auto *edit = new QLineEdit(m_fields);
+    edit->setObjectName(ObjectName("text", field.key));
+    edit->setAccessibleName(WithoutMnemonic(field.text));
+    connect(edit, &QLineEdit::textEdited, this, [this, key = field.key](const QString &text) { Send(key, text); });
+    return edit;
+}
+
+/// The line and a button that chooses; the line is the widget of the field.
+QWidget *FieldForm::MakeFolder(const PanelField &field)
+{
+    auto *edit = static_cast<QLineEdit *>(MakeText(field));
+    auto *choose = new QPushButton(tr("Choose…"), m_fields);
+    choose->setObjectName(ObjectName("choose", field.key));
+    const QString title = WithoutMnemonic(field.text);
+    connect(choose, &QPushButton::clicked, this, [this, edit, title, key = field.key] {
+        const QString folder = QFileDialog::getExistingDirectory(this, title, edit->text());
+        if (!folder.isEmpty())
+            Send(key, folder);
+    });
+    auto *both = new QWidget(m_fields);
+    auto *row = new QHBoxLayout(both);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(edit, 1);
+    row->addWidget(choose);
+    both->setFocusProxy(edit);
+    return both;
+}
+
+void FieldForm::ShowField(const PanelField &field)
+{
+    QWidget *widget = m_widgets.value(field.key);
+    widget->setEnabled(field.isEnabled);
+    widget->setToolTip(ToolTip(field));
+    const QSignalBlocker blocker(widget);
+    switch (field.kind) {
+    case PanelField::Kind::Number: {
+        auto *box = static_cast<NumberBox *>(widget);
+        box->setSingleStep(field.step);
+        box->Show(field.minimum, field.maximum, field.value.toDouble());
+        break;
+    }
+    case PanelField::Kind::Choice: {
+        auto *box = static_cast<QComboBox *>(widget);
+        FillChoices(box, field.choices);
+        box->setCurrentIndex(field.value.toInt());
+        break;
+    }
+    case PanelField::Kind::Check:
+        static_cast<QCheckBox *>(widget)->setChecked(field.value.toBool());
+        break;
+    case PanelField::Kind::Text:
+    case PanelField::Kind::Folder: {
+        auto *edit = field.kind == PanelField::Kind::Text ? static_cast<QLineEdit *>(widget)
+                                                          : static_cast<QLineEdit *>(widget->focusProxy());
+        if (edit->text() != field.value.toString())
+            edit->setText(field.value.toString());
+        break;
+    }
+    case PanelField::Kind::Action:
+        static_cast<QPushButton *>(widget)->setText(field.text);
+        break;
+    case PanelField::Kind::Note:
+        static_cast<QLabel *>(widget)->setText(field.value.toString());
+        break;
+    }
+}
+
+/// Shown anew even if nothing changed: what was set may not have been taken.
+void FieldForm::Send(const QString &key, const QVariant &value)
+{
+    if (!m_source)
+        return;
+    m_source->Set(key, value);
+    slotUpdate();
+}

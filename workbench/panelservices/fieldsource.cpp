@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fieldsource.h"
+
+const char FieldSource::CameraName[] = "camera";
+const char FieldSource::AcquisitionName[] = "acquisition";
+
+namespace {
+
+QVector<FieldSource *> &Sources()
+{
+    static QVector<FieldSource *> sources;
+    return sources;
+}
+
+} // namespace
+
+FieldSource::FieldSource(const QString &name, QObject *parent)
+    : QObject(parent)
+    , m_name(name)
+{
+    Sources().append(this);
+}
+
+FieldSource::~FieldSource()
+{
+    Sources().removeOne(this);
+}
+
+FieldSource *FieldSource::Find(const QString &name)
+{
+    for (int i = Sources().size() - 1; i >= 0; --i) {
+        if (Sources().at(i)->Name() == name)
+            return Sources().at(i);
+    }
+    return nullptr;
+}

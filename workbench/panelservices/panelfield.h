@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+#include <QVector>
+
+/// One thing that a panel shows and lets be set.
+struct PanelField
+{
+    enum class Kind {
+        Number, ///< value: double
+        Choice, ///< value: int, index into `choices`
+        Check,  ///< value: bool
+        Text,   ///< value: QString
+        Folder, ///< value: QString, a path
+        Action, ///< something to do; value is not used
+        Note    ///< value: QString that is only read
+    };
+
+    QString key;  ///< names the field to its source; the widget is called "<kind><Key>", as in "numberExposure"
+    QString text; ///< label, with its mnemonic
+    Kind kind = Kind::Note;
+    QVariant value;
+    bool isEnabled = true;
+    /// Stands behind the field before it, in the same row.
+    bool isBeside = false;
+    QString group = {};   ///< heading; a new one begins a new box
+    QString toolTip = {}; ///< more than the label and the limits say; may be empty
+    // Of a number.
+    double minimum = 0;
+    double maximum = 0;
+    double step = 1;
+    int decimals = 0;
+    QString unit = {};
+    QString zeroText = {}; ///< shown instead of the smallest value; may be empty
+    // Of a choice.
+    QStringList choices = {};
+};
+
+using PanelFields = QVector<PanelField>;
