@@ -35,7 +35,8 @@ QString HelpText()
                    "Shows the live picture of a scientific camera, and picture files.\n"
                    "\n"
                    "  --camera ID        open this camera instead of the simulated one\n"
-                   "  --scene NAME       what the simulated camera looks at: %1\n"
+                   "  --scene NAME       what the simulated camera looks at: %1;\n"
+                   "                     a spectrograph to order: spectrograph:tracks=5,smile=6,tilt=0.01\n"
                    "  --frames N         end after N frames were shown and print what was measured\n"
                    "  --screenshot FILE  save a picture of the window before the end; without --frames\n"
                    "                     after the first frame or, with a FILE, when that is shown\n"
@@ -107,8 +108,11 @@ CommandLine CommandLine::Parse(const QStringList &arguments)
     if (parser.isSet(camera) && line.cameraId.isEmpty())
         return Failure("--camera needs the id of a camera.");
     line.scene = parser.value(scene);
-    if (!SceneCatalogue::Names().contains(line.scene))
-        return Failure(NoSuchText("scene", line.scene, SceneCatalogue::Names()));
+    if (!SceneCatalogue::Names().contains(SceneCatalogue::NameIn(line.scene)))
+        return Failure(NoSuchText("scene", SceneCatalogue::NameIn(line.scene), SceneCatalogue::Names()));
+    const QString sceneFault = SceneCatalogue::FaultIn(line.scene);
+    if (!sceneFault.isEmpty())
+        return Failure("--scene: " + sceneFault);
     line.screenshot = parser.value(screenshot);
     if (parser.isSet(screenshot) && line.screenshot.isEmpty())
         return Failure("--screenshot needs the name of a file.");

@@ -152,7 +152,7 @@ void ViewMenu::slotUpdate()
         action->setChecked(action->data().toBool() == m_config->IsCPUDraw());
     m_markSaturated->setChecked(m_services->Levels()->Model()->MarksSaturated());
     for (QAction *action : m_sceneGroup->actions())
-        action->setChecked(action->data().toString() == m_services->Link()->SceneName());
+        action->setChecked(action->data().toString() == SceneCatalogue::NameIn(m_services->Link()->SceneName()));
     for (QAction *action : m_lookGroup->actions())
         action->setChecked(action->data().toString() == m_services->Look()->Name());
     for (QAction *action : m_languageGroup->actions())

@@ -5,6 +5,17 @@
 #include "spectrographscene.h"
 #include "testchartscene.h"
 
+namespace {
+
+constexpr char kSeparator = ':';
+
+bool ReadSettings(const QString &description, SpectrographSettings *settings, QString *fault)
+{
+    return !description.contains(kSeparator) || settings->Read(description.section(kSeparator, 1), fault);
+}
+
+} // namespace
+
 QStringList SceneCatalogue::Names()
 {
     return { SpecimenScene::SceneName(), SpectrographScene::SceneName(), TestChartScene::SceneName() };
@@ -12,13 +23,30 @@ QStringList SceneCatalogue::Names()
 
 QString SceneCatalogue::DefaultName() { return SpecimenScene::SceneName(); }
 
-std::unique_ptr<Scene> SceneCatalogue::Create(const QString &name, quint32 seed)
+QString SceneCatalogue::NameIn(const QString &description) { return description.section(kSeparator, 0, 0); }
+
+QString SceneCatalogue::FaultIn(const QString &description)
 {
-    if (name == SpecimenScene::SceneName())
+    const QString name = NameIn(description);
+    if (!description.contains(kSeparator))
+        return QString();
+    if (name != SpectrographScene::SceneName())
+        return QString("the scene \"%1\" has no settings.").arg(name);
+    SpectrographSettings settings;
+    QString fault;
+    ReadSettings(description, &settings, &fault);
+    return fault;
+}
+
+std::unique_ptr<Scene> SceneCatalogue::Create(const QString &description, quint32 seed)
+{
+    if (description == SpecimenScene::SceneName())
         return std::make_unique<SpecimenScene>(seed);
-    if (name == SpectrographScene::SceneName())
-        return std::make_unique<SpectrographScene>(seed);
-    if (name == TestChartScene::SceneName())
+    if (description == TestChartScene::SceneName())
         return std::make_unique<TestChartScene>();
+    SpectrographSettings settings;
+    QString fault;
+    if (NameIn(description) == SpectrographScene::SceneName() && ReadSettings(description, &settings, &fault))
+        return std::make_unique<SpectrographScene>(seed, settings);
     return nullptr;
 }

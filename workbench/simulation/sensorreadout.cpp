@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sensorreadout.h"
 
+#include "mixbits.h"
+
 #include <algorithm>
 #include <cmath>
 #include <random>
@@ -8,15 +10,6 @@
 namespace {
 constexpr int kNoiseStarts = 1 << 14;   // places in the noise table where a segment may begin
 constexpr int kSegmentPixels = 1 << 10; // long rows are cut, each part gets its own noise
-
-/// A well-mixed 64-bit value for every input (the SplitMix64 finaliser).
-quint64 Mix(quint64 value)
-{
-    value += 0x9E3779B97F4A7C15ull;
-    value = (value ^ (value >> 30)) * 0xBF58476D1CE4E5B9ull;
-    value = (value ^ (value >> 27)) * 0x94D049BB133111EBull;
-    return value ^ (value >> 31);
-}
 
 template <typename Sample>
 void ReadSegment(const quint16 *light, const float *noise, int count, const SensorReadout::Settings &settings,
@@ -72,7 +65,7 @@ SensorReadout::Settings SensorReadout::SettingsFor(const SceneFrame &frame)
 const float *SensorReadout::NoiseFor(quint64 frameNumber, int row, int channel, int segment) const
 {
     const quint64 place = (quint64(row) << 16) ^ (quint64(segment) << 4) ^ quint64(channel);
-    return m_noise.data() + Mix(Mix(Mix(m_seed) ^ frameNumber) ^ place) % kNoiseStarts;
+    return m_noise.data() + MixBits(MixBits(MixBits(m_seed) ^ frameNumber) ^ place) % kNoiseStarts;
 }
 
 void SensorReadout::ReadRow(const quint16 *light, const SceneFrame &frame, const Settings &settings, int row,

@@ -10,6 +10,7 @@ class SceneCatalogueTest : public GuardedTest
 private slots:
     void CreatesEverySceneByItsName();
     void KnowsNoOtherName();
+    void SettingsFollowTheName();
     void RepeatsBySeed_data();
     void RepeatsBySeed();
 };
@@ -29,6 +30,22 @@ void SceneCatalogueTest::KnowsNoOtherName()
 {
     QVERIFY(!SceneCatalogue::Create("holiday"));
     QVERIFY(!SceneCatalogue::Create(QString()));
+}
+
+void SceneCatalogueTest::SettingsFollowTheName()
+{
+    QVERIFY(SceneCatalogue::FaultIn("spectrograph:smile=6,tracks=5").isEmpty());
+    const std::unique_ptr<Scene> scene = SceneCatalogue::Create("spectrograph:smile=6,tracks=5");
+    QVERIFY(scene);
+    QCOMPARE(scene->Name(), QString("spectrograph"));
+    QCOMPARE(SceneCatalogue::NameIn("spectrograph:smile=6"), QString("spectrograph"));
+
+    QCOMPARE(SceneCatalogue::FaultIn("testchart:smile=6"), QString("the scene \"testchart\" has no settings."));
+    QVERIFY(!SceneCatalogue::Create("testchart:smile=6"));
+    QCOMPARE(SceneCatalogue::FaultIn("spectrograph:tracks=99"),
+             QString("\"tracks=99\" needs a whole number from 1 to 20."));
+    QVERIFY(!SceneCatalogue::Create("spectrograph:tracks=99"));
+    QVERIFY(!SceneCatalogue::Create("spectrograph:"));
 }
 
 void SceneCatalogueTest::RepeatsBySeed_data()

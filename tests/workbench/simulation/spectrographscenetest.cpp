@@ -3,6 +3,8 @@
 #include "guardedtest.h"
 #include "sceneexposure.h"
 
+#include <QSet>
+
 #include <cmath>
 
 class SpectrographSceneTest : public GuardedTest
@@ -10,17 +12,33 @@ class SpectrographSceneTest : public GuardedTest
     Q_OBJECT
 
 private slots:
-    void DispersionCoversTheStatedRange();
     void LinesLieWhereTheTruthSays_data();
     void LinesLieWhereTheTruthSays();
     void ThreeTracksStandOutOfTheDark();
     void RegionIsACropOfTheSensor();
     void DarkFrameShowsOffsetAndReadNoise();
+    void DarkCurrentGrowsWithTheExposure();
+    void NoiseGrowsWithTheRootOfTheLight();
+    void HotPixelsStayWhereTheyAre();
+    void CosmicRaysStrikeOneFrameOnly();
+    void CosmicRaysFallOnTheWholeSensor();
+    void SettingsMoveTheLines();
 };
 
 namespace {
 constexpr int kWidth = 2048;
 constexpr int kHeight = 512;
+const SpectrographOptics kTruth(QSize(kWidth, kHeight));
+constexpr double kCountsPerElectron = 65535 / 7200.0;
+
+SpectrographSettings WithoutDefects()
+{
+    SpectrographSettings settings;
+    settings.darkElectronsPerSecond = 0;
+    settings.hotPixelsPerMillion = 0;
+    settings.cosmicRaysPerSecond = 0;
+    return settings;
+}
 
 /// Centre of light around `column` in row y, averaged over `frames` exposures, dark level taken off.
 double MeasuredCentre(Scene &scene, int column, int y, int frames)
@@ -44,22 +62,6 @@ double MeasuredCentre(Scene &scene, int column, int y, int frames)
 }
 } // namespace
 
-void SpectrographSceneTest::DispersionCoversTheStatedRange()
-{
-    QCOMPARE(SpectrographScene::WavelengthAt(0, kWidth), 390.0);
-    QCOMPARE(SpectrographScene::WavelengthAt(kWidth - 1, kWidth), 930.0);
-    QCOMPARE(SpectrographScene::WavelengthAt((kWidth - 1) / 2.0, kWidth), 661.5);
-
-    QCOMPARE(int(SpectrographScene::Lines().size()), 16);
-    for (const SpectrographScene::Line &line : SpectrographScene::Lines()) {
-        // The middle row has tilt and smile zero: there the position is the inverse of the dispersion.
-        const double x =
-            SpectrographScene::LinePosition(line.wavelengthNm, (kHeight - 1) / 2.0, kWidth, kHeight);
-        QVERIFY2(std::abs(SpectrographScene::WavelengthAt(x, kWidth) - line.wavelengthNm) < 1e-9,
-                 qPrintable(QString::number(line.wavelengthNm)));
-    }
-}
-
 void SpectrographSceneTest::LinesLieWhereTheTruthSays_data()
 {
     QTest::addColumn<double>("wavelengthNm");
@@ -76,8 +78,8 @@ void SpectrographSceneTest::LinesLieWhereTheTruthSays()
     QFETCH(double, wavelengthNm);
     QFETCH(int, track);
     SpectrographScene scene(7);
-    const int y = int(std::lround(SpectrographScene::TrackCentre(track, kHeight)));
-    const double truth = SpectrographScene::LinePosition(wavelengthNm, y, kWidth, kHeight);
+    const int y = int(std::lround(kTruth.TrackCentre(track)));
+    const double truth = kTruth.LinePosition(wavelengthNm, y);
     const double measured = MeasuredCentre(scene, int(std::lround(truth)), y, 20);
     QVERIFY2(std::abs(measured - truth) < 0.1, qPrintable(QString("%1 against %2").arg(measured).arg(truth)));
 }
@@ -93,8 +95,8 @@ void SpectrographSceneTest::ThreeTracksStandOutOfTheDark()
             sum += exposure.SampleAt(x, int(std::lround(y)));
         return sum / kWidth;
     };
-    for (int track = 0; track < SpectrographScene::TrackCount; ++track)
-        QVERIFY(rowMean(SpectrographScene::TrackCentre(track, kHeight)) > 0.03 * 65535);
+    for (int track = 0; track < kTruth.TrackCount(); ++track)
+        QVERIFY(rowMean(kTruth.TrackCentre(track)) > 0.03 * 65535);
     for (const double gap : { 1.0, 3 * kHeight / 8.0, 5 * kHeight / 8.0, kHeight - 2.0 })
         QVERIFY(std::abs(rowMean(gap) - 0.02 * 65535) < 0.001 * 65535);
 }
@@ -105,8 +107,8 @@ void SpectrographSceneTest::RegionIsACropOfTheSensor()
     SceneExposure region(64, 32, 16);
     region.Settings().sensorWidth = kWidth;
     region.Settings().sensorHeight = kHeight;
-    const double y = SpectrographScene::TrackCentre(0, kHeight);
-    const double truth = SpectrographScene::LinePosition(546.075, y, kWidth, kHeight);
+    const double y = kTruth.TrackCentre(0);
+    const double truth = kTruth.LinePosition(546.075, y);
     region.Settings().offsetX = int(std::lround(truth)) - 40;
     region.Settings().offsetY = int(std::lround(y)) - 16;
     region.Expose(scene);
@@ -134,6 +136,152 @@ void SpectrographSceneTest::DarkFrameShowsOffsetAndReadNoise()
     // Offset 2 % of full scale; read noise 4 electrons at 65535 / 7200 counts an electron.
     QVERIFY2(std::abs(mean - 1310.7) < 2.0, qPrintable(QString::number(mean)));
     QVERIFY2(std::abs(sigma - 36.4) < 1.0, qPrintable(QString::number(sigma)));
+}
+
+void SpectrographSceneTest::DarkCurrentGrowsWithTheExposure()
+{
+    SpectrographSettings settings = WithoutDefects();
+    settings.darkElectronsPerSecond = 50;
+    SpectrographScene scene(7, settings);
+    SceneExposure exposure(256, 8, 16);
+    // A dark corner of a large sensor.
+    exposure.Settings().sensorWidth = kWidth;
+    exposure.Settings().sensorHeight = 2048;
+    for (const double seconds : { 1.0, 10.0 }) {
+        exposure.Settings().exposureUs = seconds * 1e6;
+        exposure.Expose(scene);
+        const double electrons = (exposure.Mean() - 0.02 * 65535) / kCountsPerElectron;
+        QVERIFY2(std::abs(electrons - 50 * seconds) < 0.05 * 50 * seconds, qPrintable(QString::number(electrons)));
+    }
+}
+
+/// Light of 4500 x 0.004 electrons in 10 ms lies on a track between the lines.
+void SpectrographSceneTest::NoiseGrowsWithTheRootOfTheLight()
+{
+    SpectrographScene scene(7, WithoutDefects());
+    SceneExposure exposure(200, 1, 16); // between 579 and 696 nm
+    exposure.Settings().sensorWidth = kWidth;
+    exposure.Settings().sensorHeight = kHeight;
+    exposure.Settings().offsetX = 850;
+    exposure.Settings().offsetY = int(std::lround(kTruth.TrackCentre(0)));
+    exposure.Settings().exposureUs = 1e6;
+    double sum = 0;
+    double squares = 0;
+    int count = 0;
+    for (int frame = 0; frame < 50; ++frame) {
+        exposure.Settings().frameNumber = quint64(frame);
+        exposure.Expose(scene);
+        for (int x = 0; x < 200; ++x, ++count) {
+            const double electrons = (exposure.SampleAt(x, 0) - 0.02 * 65535) / kCountsPerElectron;
+            sum += electrons;
+            squares += electrons * electrons;
+        }
+    }
+    const double mean = sum / count;
+    const double variance = squares / count - mean * mean;
+    QVERIFY2(std::abs(mean - 1800) < 60, qPrintable(QString::number(mean)));
+    QVERIFY2(std::abs(variance / (mean + 16) - 1) < 0.05, qPrintable(QString::number(variance)));
+}
+
+void SpectrographSceneTest::HotPixelsStayWhereTheyAre()
+{
+    SpectrographSettings settings = WithoutDefects();
+    settings.hotPixelsPerMillion = 1000;
+    SpectrographScene scene(7, settings);
+    SceneExposure exposure(1024, 1024, 16);
+    exposure.Settings().exposureUs = 50e3; // 1000 electrons at least
+    QSet<int> before;
+    for (const int frame : { 1, 2 }) {
+        exposure.Settings().frameNumber = quint64(frame);
+        exposure.Expose(scene);
+        QSet<int> hot;
+        for (int y = 0; y < 150; ++y) { // above the first track
+            for (int x = 0; x < 1024; ++x) {
+                if (exposure.SampleAt(x, y) > (0.02 * 7200 + 500) * kCountsPerElectron)
+                    hot << y * 1024 + x;
+            }
+        }
+        // 154 expected, with the scatter of chance.
+        QVERIFY2(hot.size() > 100 && hot.size() < 210, qPrintable(QString::number(hot.size())));
+        QVERIFY(before.isEmpty() || hot == before);
+        before = hot;
+    }
+}
+
+void SpectrographSceneTest::CosmicRaysStrikeOneFrameOnly()
+{
+    SpectrographSettings settings = WithoutDefects();
+    settings.cosmicRaysPerSecond = 20;
+    const CosmicRays rays(7, 20);
+    SpectrographScene scene(7, settings);
+    SceneExposure struck(512, 512, 16);
+    struck.Settings().exposureUs = 1e6;
+    SpectrographScene clean(7, WithoutDefects());
+    SceneExposure spared = struck;
+    struck.Expose(scene);
+    spared.Expose(clean);
+    const std::vector<CosmicRays::Hit> hits = rays.HitsIn(struck.Settings());
+    QVERIFY(hits.size() > 10 && hits.size() < 600);
+    QSet<int> pixels;
+    for (const CosmicRays::Hit &hit : hits) {
+        if (QRect(0, 0, 512, 512).contains(hit.pixel))
+            pixels << hit.pixel.y() * 512 + hit.pixel.x();
+    }
+    int brighter = 0;
+    for (int y = 0; y < 512; ++y) {
+        for (int x = 0; x < 512; ++x) {
+            const int more = struck.SampleAt(x, y) - spared.SampleAt(x, y);
+            if (!pixels.contains(y * 512 + x))
+                QCOMPARE(more, 0);
+            else if (spared.SampleAt(x, y) < 50000)
+                brighter += more >= int(800 * kCountsPerElectron);
+        }
+    }
+    QVERIFY(brighter > 10);
+
+    struck.Settings().frameNumber = 1;
+    const std::vector<CosmicRays::Hit> later = rays.HitsIn(struck.Settings());
+    QVERIFY(later.empty() || later.front().pixel != hits.front().pixel);
+}
+
+void SpectrographSceneTest::CosmicRaysFallOnTheWholeSensor()
+{
+    const CosmicRays rays(3, 1000);
+    SceneFrame frame;
+    frame.sensorWidth = 400;
+    frame.sensorHeight = 300;
+    frame.exposureUs = 1e6;
+    const std::vector<CosmicRays::Hit> hits = rays.HitsIn(frame);
+    // A thousand tracks of 1 to 12 pixels.
+    QVERIFY2(hits.size() > 5000 && hits.size() < 8000, qPrintable(QString::number(hits.size())));
+    double x = 0;
+    double y = 0;
+    for (const CosmicRays::Hit &hit : hits) {
+        x += hit.pixel.x() / double(hits.size());
+        y += hit.pixel.y() / double(hits.size());
+    }
+    QVERIFY2(std::abs(x - 200) < 20 && std::abs(y - 150) < 15, qPrintable(QString("%1 %2").arg(x).arg(y)));
+
+    // A region sees those that strike it, at the same places; without time to fall none does.
+    frame.offsetX = 100;
+    QCOMPARE(rays.HitsIn(frame).size(), hits.size());
+    frame.exposureUs = 0;
+    QVERIFY(rays.HitsIn(frame).empty());
+}
+
+void SpectrographSceneTest::SettingsMoveTheLines()
+{
+    SpectrographSettings settings;
+    settings.geometry = { 2, 0.02, 10.0 };
+    SpectrographScene scene(7, settings);
+    const SpectrographOptics truth(QSize(kWidth, kHeight), settings.geometry);
+    for (const int track : { 0, 1 }) {
+        const int y = int(std::lround(truth.TrackCentre(track)));
+        const double position = truth.LinePosition(763.511, y);
+        QVERIFY(std::abs(position - kTruth.LinePosition(763.511, y)) > 0.5);
+        const double measured = MeasuredCentre(scene, int(std::lround(position)), y, 20);
+        QVERIFY2(std::abs(measured - position) < 0.1, qPrintable(QString("%1 against %2").arg(measured).arg(position)));
+    }
 }
 
 GUARDED_TEST_MAIN(SpectrographSceneTest)

@@ -29,6 +29,13 @@ private slots:
         QCOMPARE(line.screenshot, QString("a b.png"));
     }
 
+    void sceneWithSettings()
+    {
+        const CommandLine line = CommandLine::Parse({"workbench", "--scene", "spectrograph:tracks=5,smile=6"});
+        QCOMPARE(line.action, CommandLine::Action::Run);
+        QCOMPARE(line.scene, QString("spectrograph:tracks=5,smile=6"));
+    }
+
     void pictureAloneNeedsOneFrame()
     {
         QCOMPARE(CommandLine::Parse({"workbench", "--screenshot", "x.png"}).frames, 1);
@@ -73,6 +80,8 @@ private slots:
         QTest::addColumn<QString>("text");
         QTest::newRow("scene") << QStringList{"--scene", "moon"}
                                << "workbench: no scene is called \"moon\". Choose one of: specimen, spectrograph, testchart";
+        QTest::newRow("scene settings") << QStringList{"--scene", "spectrograph:tracks=99"}
+                                        << "workbench: --scene: \"tracks=99\" needs a whole number from 1 to 20.";
         QTest::newRow("frames: word") << QStringList{"--frames", "many"}
                                       << "workbench: --frames needs a whole number of 1 or more, not \"many\".";
         QTest::newRow("frames: zero") << QStringList{"--frames", "0"}
