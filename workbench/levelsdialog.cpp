@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "levelsdialog.h"
 
+#include "levelbox.h"
 #include "levelshistogram.h"
 #include "levelsmodel.h"
 
@@ -11,14 +12,25 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
-#include <QSpinBox>
+#include <QStandardItemModel>
 #include <QVBoxLayout>
 
 namespace {
 constexpr double LeastGamma = 0.1;
 constexpr double MostGamma = 10.0;
 constexpr double GammaStep = 0.1;
+
+QString KindText(const SampleKind &kind)
+{
+    if (!kind.IsWhole())
+        return LevelsDialog::tr("%1 bit floating point samples").arg(kind.Bits());
+    return LevelsDialog::tr("%1 bit samples, %2 to %3")
+        .arg(kind.Bits())
+        .arg(kind.Least(), 0, 'f', 0)
+        .arg(kind.Most(), 0, 'f', 0);
 }
+
+} // namespace
 
 LevelsDialog::LevelsDialog(LevelsModel *model, QWidget *parent)
     : QDialog(parent)
@@ -39,8 +51,8 @@ LevelsDialog::LevelsDialog(LevelsModel *model, QWidget *parent)
     slotNoReport(QString());
 
     connect(m_mode, SIGNAL(activated(int)), this, SLOT(slotModeChosen()));
-    connect(m_left, SIGNAL(valueChanged(int)), this, SLOT(slotValueEdited()));
-    connect(m_right, SIGNAL(valueChanged(int)), this, SLOT(slotValueEdited()));
+    connect(m_left, SIGNAL(valueChanged(double)), this, SLOT(slotValueEdited()));
+    connect(m_right, SIGNAL(valueChanged(double)), this, SLOT(slotValueEdited()));
     connect(m_gamma, SIGNAL(valueChanged(double)), this, SLOT(slotValueEdited()));
 }
 
@@ -64,12 +76,10 @@ void LevelsDialog::AddFields()
     form->addRow(tr("&Gamma"), m_gamma);
 }
 
-QSpinBox *LevelsDialog::AddValue(QFormLayout *form, const QString &label, const char *name)
+LevelBox *LevelsDialog::AddValue(QFormLayout *form, const QString &label, const char *name)
 {
-    auto *value = new QSpinBox;
+    auto *value = new LevelBox;
     value->setObjectName(name);
-    value->setAccelerated(true);
-    value->setKeyboardTracking(false); // a number that is still being typed is no level
     form->addRow(label, value);
     return value;
 }
@@ -103,9 +113,11 @@ void LevelsDialog::slotReport(LevelsReport report)
 {
     m_report = report;
     m_histogram->SetReport(report);
-    m_depth->setText(tr("%1 bit samples, 0 to %2")
-                         .arg(report.bitDepth)
-                         .arg(DisplayLevels::FullRange(report.bitDepth).right));
+    m_depth->setText(KindText(report.kind));
+    // Samples that are no whole numbers have no full range.
+    static_cast<QStandardItemModel *>(m_mode->model())
+        ->item(m_mode->findData(int(LevelsMode::FullRange)))
+        ->setEnabled(report.kind.IsWhole());
     if (!m_mode->isEnabled()) {
         m_mode->setEnabled(true);
         m_mode->setFocus(); // nothing but the buttons could have it before
@@ -150,17 +162,17 @@ void LevelsDialog::slotValueEdited()
 
 void LevelsDialog::slotReset()
 {
-    Apply(LevelsSetting::Default(m_report.bitDepth));
+    Apply(LevelsSetting::Default(m_report.kind));
 }
 
 LevelsSetting LevelsDialog::Setting() const
 {
-    return m_model->Setting(m_report.bitDepth);
+    return m_model->Setting(m_report.kind);
 }
 
 void LevelsDialog::Apply(const LevelsSetting &setting)
 {
-    m_model->SetSetting(m_report.bitDepth, setting);
+    m_model->SetSetting(m_report.kind, setting);
     ShowSetting();
 }
 
@@ -172,14 +184,12 @@ void LevelsDialog::ShowSetting()
     const QSignalBlocker right(m_right);
     const QSignalBlocker gamma(m_gamma);
     const bool isManual = setting.mode == LevelsMode::Manual;
-    const int fullScale = DisplayLevels::FullRange(m_report.bitDepth).right;
     m_mode->setCurrentIndex(m_mode->findData(int(setting.mode)));
-    m_left->setRange(0, fullScale - 1);
-    m_right->setRange(1, fullScale);
-    for (QSpinBox *value : {m_left, m_right}) {
+    for (LevelBox *value : {m_left, m_right}) {
+        value->SetKind(m_report.kind, m_report.axis);
         value->setEnabled(true);
         value->setReadOnly(!isManual);
-        value->setButtonSymbols(isManual ? QSpinBox::UpDownArrows : QSpinBox::NoButtons);
+        value->setButtonSymbols(isManual ? LevelBox::UpDownArrows : LevelBox::NoButtons);
     }
     if (isManual) {
         m_left->setValue(setting.left);

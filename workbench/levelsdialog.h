@@ -6,16 +6,16 @@
 
 #include <QDialog>
 
+class LevelBox;
 class LevelsHistogram;
 class LevelsModel;
 class QComboBox;
 class QDoubleSpinBox;
 class QFormLayout;
 class QLabel;
-class QSpinBox;
 
 /// Sets the levels of the picture beside the picture itself: mode, black, white and gamma, with the histogram of the raw
-/// samples. Shows the levels of the present picture in every mode and lets them be edited in manual mode, which
+/// samples; black and white are in the samples' own units. Shows the levels of the present picture in every mode and lets them be edited in manual mode, which
 /// starts from what is seen. GUI thread.
 class LevelsDialog : public QDialog
 {
@@ -46,7 +46,7 @@ private slots:
 private:
     void AddFields();
     void AddButtons();
-    QSpinBox *AddValue(QFormLayout *form, const QString &label, const char *name);
+    LevelBox *AddValue(QFormLayout *form, const QString &label, const char *name);
     LevelsSetting Setting() const;
     void Apply(const LevelsSetting &setting);
     void ShowSetting();
@@ -57,7 +57,7 @@ private:
     LevelsHistogram *m_histogram;
     QLabel *m_depth;
     QComboBox *m_mode;
-    QSpinBox *m_left = nullptr;
-    QSpinBox *m_right = nullptr;
+    LevelBox *m_left = nullptr;
+    LevelBox *m_right = nullptr;
     QDoubleSpinBox *m_gamma;
 };

@@ -38,7 +38,13 @@ double LevelsHistogram::ColumnHeight(qint64 count, qint64 mostCount)
 
 double LevelsHistogram::PositionOf(double value) const
 {
-    return value * width() / (1 << m_report.bitDepth);
+    const SampleRange span = Span();
+    return (value / 2 - span.left / 2) / (span.right / 2 - span.left / 2) * width(); // of halves: no infinite width
+}
+
+SampleRange LevelsHistogram::Span() const
+{
+    return { std::min(m_report.axis.left, m_report.levels.left), std::max(m_report.axis.right, m_report.levels.right) };
 }
 
 void LevelsHistogram::paintEvent(QPaintEvent *)
@@ -55,23 +61,23 @@ void LevelsHistogram::paintEvent(QPaintEvent *)
 void LevelsHistogram::PaintColumns(QPainter &painter)
 {
     const qint64 most = *std::max_element(m_report.histogram.cbegin(), m_report.histogram.cend());
-    const double columnWidth = double(width()) / m_report.histogram.size();
+    const double first = PositionOf(m_report.axis.left);
+    const double columnWidth = (PositionOf(m_report.axis.right) - first) / m_report.histogram.size();
     QPainterPath outline;
-    outline.moveTo(0, height());
+    outline.moveTo(first, height());
     for (int column = 0; column < m_report.histogram.size(); ++column) {
         const double top = height() * (1.0 - ColumnHeight(m_report.histogram.at(column), most));
-        outline.lineTo(column * columnWidth, top);
-        outline.lineTo((column + 1) * columnWidth, top);
+        outline.lineTo(first + column * columnWidth, top);
+        outline.lineTo(first + (column + 1) * columnWidth, top);
     }
-    outline.lineTo(width(), height());
+    outline.lineTo(first + m_report.histogram.size() * columnWidth, height());
     painter.fillPath(outline, palette().mid());
 }
 
 void LevelsHistogram::PaintLevels(QPainter &painter)
 {
-    const DisplayLevels &levels = m_report.levels;
-    const double left = PositionOf(levels.left + 0.5);
-    const double right = PositionOf(levels.right + 0.5);
+    const double left = PositionOf(m_report.levels.left);
+    const double right = PositionOf(m_report.levels.right);
     painter.setPen(QPen(palette().highlight(), 1.0, Qt::DashLine));
     painter.drawLine(QPointF(left, 0), QPointF(left, height()));
     painter.drawLine(QPointF(right, 0), QPointF(right, height()));
@@ -79,7 +85,7 @@ void LevelsHistogram::PaintLevels(QPainter &painter)
     QPainterPath grey(QPointF(0, height() - 1));
     for (int step = 0; step <= CurveSteps; ++step) {
         const double part = double(step) / CurveSteps;
-        grey.lineTo(left + (right - left) * part, (height() - 1) * (1.0 - std::pow(part, 1.0 / levels.gamma)));
+        grey.lineTo(left + (right - left) * part, (height() - 1) * (1.0 - std::pow(part, 1.0 / m_report.gamma)));
     }
     grey.lineTo(width(), 0);
     painter.setPen(QPen(palette().highlight(), 1.5));

@@ -25,6 +25,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    /// What the width spans: the histogram, and levels that were set beyond it.
+    SampleRange Span() const;
     double PositionOf(double value) const;
     void PaintColumns(QPainter &painter);
     void PaintLevels(QPainter &painter);

@@ -6,8 +6,6 @@
 #include "openedpicture.h"
 #include "picturedesk.h"
 #include "picturedisplay.h"
-#include "samplehistogram.h"
-#include "sampleview.h"
 #include "workbenchservices.h"
 #include "workspace.h"
 #include "workspaceconfig.h"
@@ -61,12 +59,6 @@ void LevelsSource::ReportOpenedPicture()
         emit signalNoReport(tr("No picture is open."));
         return;
     }
-    if (!PictureDisplay::HasLevels(shown.samples)) {
-        emit signalNoReport(tr("Levels are found from samples of this kind."));
-        return;
-    }
-    const SampleView samples = PictureDisplay::ViewOf(shown.samples);
-    const double gamma = Model()->Setting(samples.bitDepth).gamma;
-    emit signalReport(
-        LevelsReport::Of(samples, { int(shown.range.left), int(shown.range.right), gamma }));
+    const double gamma = Model()->Setting(PictureDisplay::KindOf(shown.samples.Type())).gamma;
+    emit signalReport(PictureDisplay::Report(shown.samples, shown.range, gamma));
 }

@@ -28,7 +28,7 @@ public slots:
 
 signals:
     void signalReport(LevelsReport report);
-    /// There is no picture whose levels can be set; `reason` is for the user.
+    /// There is no picture; `reason` is for the user.
     void signalNoReport(QString reason);
 
 private slots:

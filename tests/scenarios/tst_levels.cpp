@@ -13,11 +13,11 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QSignalSpy>
-#include <QSpinBox>
 #include <QTemporaryDir>
 
 #include <memory>
@@ -104,9 +104,9 @@ private slots:
         QVERIFY(m_workbench->WaitForNextPicture());
         m_workbench->Action("Levels…")->trigger();
         auto *mode = m_workbench->window.findChild<QComboBox *>("comboBoxLevelsMode");
-        auto *left = m_workbench->window.findChild<QSpinBox *>("spinBoxLevelsLeft");
-        auto *right = m_workbench->window.findChild<QSpinBox *>("spinBoxLevelsRight");
-        QTRY_COMPARE(right->maximum(), 4095);
+        auto *left = m_workbench->window.findChild<QDoubleSpinBox *>("spinBoxLevelsLeft");
+        auto *right = m_workbench->window.findChild<QDoubleSpinBox *>("spinBoxLevelsRight");
+        QTRY_COMPARE(right->maximum(), 4095.0);
         QTRY_VERIFY(mode->isEnabled());
         while (mode->currentText() != "Manual")
             QTest::keyClick(mode, Qt::Key_Down);
@@ -141,12 +141,12 @@ private slots:
         m_workbench->Action("Levels…")->trigger();
         auto *mode = m_workbench->window.findChild<QComboBox *>("comboBoxLevelsMode");
         auto *depth = m_workbench->window.findChild<QLabel *>("labelLevelsDepth");
-        auto *right = m_workbench->window.findChild<QSpinBox *>("spinBoxLevelsRight");
+        auto *right = m_workbench->window.findChild<QDoubleSpinBox *>("spinBoxLevelsRight");
         OpenedPicture *picture = m_workbench->services.Desk()->MainPicture();
         QTRY_COMPARE(depth->text(), QString("8 bit samples, 0 to 255")); // the live picture
         m_workbench->services.Desk()->Open({m_folder->filePath("ramp.tif")}, picture);
         QTRY_COMPARE(depth->text(), QString("16 bit samples, 0 to 65535"));
-        QTRY_COMPARE(right->value(), 99 * 40); // 0.1 % of a hundred columns is less than one
+        QTRY_COMPARE(right->value(), 99.0 * 40); // 0.1 % of a hundred columns is less than one
         QCOMPARE(picture->Shown().image.pixelColor(99, 0), QColor(Qt::white));
 
         while (mode->currentText() != "Manual")
@@ -154,11 +154,45 @@ private slots:
         right->setValue(8000);
         const int grey = qRound(255.0 * 99 * 40 / 8000);
         QTRY_COMPARE(picture->Shown().image.pixelColor(99, 0), QColor(grey, grey, grey));
-        QCOMPARE(right->value(), 8000);
+        QCOMPARE(right->value(), 8000.0);
 
         m_workbench->services.Config()->SetCameraView();
         QTRY_COMPARE(depth->text(), QString("8 bit samples, 0 to 255"));
         mode->window()->close();
+    }
+
+    void aFloatingPointPictureIsSetInItsOwnUnits()
+    {
+        Picture ramp(100, 60, 1, SampleType::F32);
+        for (int i = 0; i < 6000; ++i) // columns from -0.5 to 0.49
+            ramp.Samples<float>(0)[i] = float(i % 100 - 50) / 100;
+        QString error;
+        const QString path = m_folder->filePath("ramp.tif");
+        QVERIFY2(SavePicture(path, ramp, SaveOptions(), error), qPrintable(error));
+        OpenedPicture *picture = m_workbench->services.Desk()->MainPicture();
+        m_workbench->services.Desk()->Open({path}, picture);
+        m_workbench->Action("Levels…")->trigger();
+        auto *mode = m_workbench->window.findChild<QComboBox *>("comboBoxLevelsMode");
+        auto *depth = m_workbench->window.findChild<QLabel *>("labelLevelsDepth");
+        auto *left = m_workbench->window.findChild<QDoubleSpinBox *>("spinBoxLevelsLeft");
+        auto *right = m_workbench->window.findChild<QDoubleSpinBox *>("spinBoxLevelsRight");
+        QTRY_COMPARE(depth->text(), QString("32 bit floating point samples"));
+        QCOMPARE(left->text(), QString("-0.5"));
+        QCOMPARE(right->text(), QString("0.49"));
+        while (mode->currentText() != "Manual")
+            QTest::keyClick(mode, Qt::Key_Down);
+        left->setValue(-0.25);
+        right->setValue(0.75);
+        const int grey = qRound(255.0 * 0.74);
+        QTRY_COMPARE(picture->Shown().image.pixelColor(99, 0), QColor(grey, grey, grey));
+        QCOMPARE(picture->Shown().image.pixelColor(20, 0), QColor(Qt::black));
+
+        End(); // levels stay for the next picture of the kind
+        Start();
+        picture = m_workbench->services.Desk()->MainPicture();
+        m_workbench->services.Desk()->Open({path}, picture);
+        QTRY_VERIFY(!picture->IsNonImage());
+        QCOMPARE(picture->Shown().image.pixelColor(99, 0), QColor(grey, grey, grey));
     }
 
 private:

@@ -11,6 +11,11 @@ DisplayLevels DisplayLevels::Guarded(int bitDepth) const
     DisplayLevels guarded;
     guarded.left = std::clamp(left, 0, fullScale - 1);
     guarded.right = std::clamp(right, guarded.left + 1, fullScale);
-    guarded.gamma = gamma > 0 ? std::clamp(gamma, 0.1, 10.0) : 1.0; // also for "not a number"
+    guarded.gamma = GuardedGamma(gamma);
     return guarded;
+}
+
+double DisplayLevels::GuardedGamma(double gamma)
+{
+    return gamma > 0 ? std::clamp(gamma, 0.1, 10.0) : 1.0; // also for "not a number"
 }

@@ -35,7 +35,7 @@ DisplayLevels LevelsFollower::Next(const SampleView &samples, const LevelsSettin
         levels = LevelsFinder::FromRange(samples);
         break;
     case LevelsMode::Manual:
-        levels = { setting.left, setting.right, 1.0 };
+        levels = { int(std::lround(setting.left)), int(std::lround(setting.right)), 1.0 };
         break;
     default:
         levels = DisplayLevels::FullRange(samples.bitDepth);

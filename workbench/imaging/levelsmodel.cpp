@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "levelsmodel.h"
 
-#include "displaylevels.h"
-
 #include <QSettings>
 #include <QStringList>
-
-#include <algorithm>
+#include <QVector>
 
 namespace {
 
@@ -19,21 +16,17 @@ const QStringList &ModeNames()
     return names;
 }
 
-QString Group(int bitDepth) { return QString("levels/%1bit/").arg(bitDepth); }
+QString Group(const SampleKind &kind) { return QString("levels/%1/").arg(kind.Name()); }
 
-size_t Index(int bitDepth)
+/// Every kind of samples that a camera or a file can have.
+QVector<SampleKind> AllKinds()
 {
-    return size_t(std::clamp(bitDepth, LevelsModel::LeastDepth, LevelsModel::MostDepth) - LevelsModel::LeastDepth);
-}
-
-/// Levels that fit the depth, whatever the file says.
-LevelsSetting Guarded(LevelsSetting setting, int bitDepth)
-{
-    const DisplayLevels guarded = DisplayLevels{ setting.left, setting.right, setting.gamma }.Guarded(bitDepth);
-    setting.left = guarded.left;
-    setting.right = guarded.right;
-    setting.gamma = guarded.gamma;
-    return setting;
+    QVector<SampleKind> kinds;
+    for (int bits = 8; bits <= 16; ++bits)
+        kinds << bits;
+    return kinds << 32 << SampleKind(SampleKind::Signed, 8) << SampleKind(SampleKind::Signed, 16)
+                 << SampleKind(SampleKind::Signed, 32) << SampleKind(SampleKind::Floating, 32)
+                 << SampleKind(SampleKind::Floating, 64);
 }
 
 } // namespace
@@ -42,29 +35,32 @@ LevelsModel::LevelsModel(QSettings *settings, QObject *parent)
     : QObject(parent)
     , m_settings(settings)
 {
-    for (int depth = LeastDepth; depth <= MostDepth; ++depth)
-        m_byDepth[Index(depth)] = LevelsSetting::Default(depth);
+    for (const SampleKind &kind : AllKinds()) {
+        m_byKind[kind.Name()] = LevelsSetting::Default(kind);
+        if (m_settings)
+            Load(kind);
+    }
     if (m_settings)
-        Load();
+        m_marksSaturated = m_settings->value(MarkKey, m_marksSaturated).toBool();
 }
 
-LevelsSetting LevelsModel::Setting(int bitDepth) const
+LevelsSetting LevelsModel::Setting(const SampleKind &kind) const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_byDepth[Index(bitDepth)];
+    return m_byKind.value(kind.Name());
 }
 
-void LevelsModel::SetSetting(int bitDepth, const LevelsSetting &setting)
+void LevelsModel::SetSetting(const SampleKind &kind, const LevelsSetting &setting)
 {
-    const LevelsSetting guarded = Guarded(setting, bitDepth);
-    if (Setting(bitDepth) == guarded)
+    const LevelsSetting guarded = setting.Guarded(kind);
+    if (Setting(kind) == guarded)
         return;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_byDepth[Index(bitDepth)] = guarded;
+        m_byKind[kind.Name()] = guarded;
     }
     if (m_settings)
-        Store(bitDepth, guarded);
+        Store(kind, guarded);
     emit signalChanged();
 }
 
@@ -87,25 +83,22 @@ void LevelsModel::slotSetMarksSaturated(bool marks)
     emit signalChanged();
 }
 
-void LevelsModel::Load()
+void LevelsModel::Load(const SampleKind &kind)
 {
-    m_marksSaturated = m_settings->value(MarkKey, m_marksSaturated).toBool();
-    for (int depth = LeastDepth; depth <= MostDepth; ++depth) {
-        LevelsSetting setting = m_byDepth[Index(depth)];
-        const QString group = Group(depth);
-        const int mode = ModeNames().indexOf(m_settings->value(group + "mode").toString());
-        if (mode >= 0)
-            setting.mode = LevelsMode(mode);
-        setting.left = m_settings->value(group + "left", setting.left).toInt();
-        setting.right = m_settings->value(group + "right", setting.right).toInt();
-        setting.gamma = m_settings->value(group + "gamma", setting.gamma).toDouble();
-        m_byDepth[Index(depth)] = Guarded(setting, depth);
-    }
+    LevelsSetting &setting = m_byKind[kind.Name()];
+    const QString group = Group(kind);
+    const int mode = ModeNames().indexOf(m_settings->value(group + "mode").toString());
+    if (mode >= 0)
+        setting.mode = LevelsMode(mode);
+    setting.left = m_settings->value(group + "left", setting.left).toDouble();
+    setting.right = m_settings->value(group + "right", setting.right).toDouble();
+    setting.gamma = m_settings->value(group + "gamma", setting.gamma).toDouble();
+    setting = setting.Guarded(kind);
 }
 
-void LevelsModel::Store(int bitDepth, const LevelsSetting &setting)
+void LevelsModel::Store(const SampleKind &kind, const LevelsSetting &setting)
 {
-    const QString group = Group(bitDepth);
+    const QString group = Group(kind);
     m_settings->setValue(group + "mode", ModeNames().at(int(setting.mode)));
     m_settings->setValue(group + "left", setting.left);
     m_settings->setValue(group + "right", setting.right);

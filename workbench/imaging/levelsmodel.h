@@ -3,29 +3,25 @@
 
 #include "levelssetting.h"
 
+#include <QMap>
 #include <QObject>
 
-#include <array>
 #include <mutex>
 
 class QSettings;
 
-/// How samples are shown: levels for each bit depth, and whether saturated samples are marked. A change is stored at
+/// How samples are shown: levels for each kind of samples, and whether saturated samples are marked. A change is stored at
 /// once. The GUI thread sets; any thread may ask.
 class LevelsModel : public QObject
 {
     Q_OBJECT
 
 public:
-    static constexpr int LeastDepth = 8;
-    static constexpr int MostDepth = 16;
-
     /// `settings` is borrowed and outlives this object; with null nothing is stored.
     explicit LevelsModel(QSettings *settings = nullptr, QObject *parent = nullptr);
 
-    /// `bitDepth` is 8 to 16 here and below.
-    LevelsSetting Setting(int bitDepth) const;
-    void SetSetting(int bitDepth, const LevelsSetting &setting);
+    LevelsSetting Setting(const SampleKind &kind) const;
+    void SetSetting(const SampleKind &kind, const LevelsSetting &setting);
     bool MarksSaturated() const;
 
 public slots:
@@ -36,11 +32,11 @@ signals:
     void signalChanged();
 
 private:
-    void Load();
-    void Store(int bitDepth, const LevelsSetting &setting);
+    void Load(const SampleKind &kind);
+    void Store(const SampleKind &kind, const LevelsSetting &setting);
 
     QSettings *m_settings;
     mutable std::mutex m_mutex;
-    std::array<LevelsSetting, MostDepth - LeastDepth + 1> m_byDepth;
+    QMap<QString, LevelsSetting> m_byKind; ///< by the kind's name; every kind that there is
     bool m_marksSaturated = false;
 };

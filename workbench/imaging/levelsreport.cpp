@@ -6,14 +6,15 @@
 
 #include <algorithm>
 
-namespace {
-/// A picture of the histogram needs no more.
-constexpr int RowsForHistogram = 256;
-} // namespace
-
 LevelsReport LevelsReport::Of(const SampleView &samples, const DisplayLevels &levels)
 {
-    const SampleHistogram histogram(samples, std::max(1, samples.height / RowsForHistogram));
+    const SampleHistogram histogram(samples, std::max(1, samples.height / HistogramRows));
     const std::vector<qint64> columns = histogram.Condensed(HistogramColumns);
-    return { samples.bitDepth, levels, QVector<qint64>(columns.begin(), columns.end()) };
+    LevelsReport report;
+    report.kind = samples.bitDepth;
+    report.levels = { double(levels.left), double(levels.right) };
+    report.gamma = levels.gamma;
+    report.axis = { -0.5, report.kind.Most() + 0.5 };
+    report.histogram = QVector<qint64>(columns.begin(), columns.end());
+    return report;
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "displaylevels.h"
+#include "samplekind.h"
+#include "samplerange.h"
 
 #include <QMetaType>
 #include <QVector>
@@ -12,12 +14,16 @@ struct SampleView;
 struct LevelsReport
 {
     static constexpr int HistogramColumns = 256;
+    /// A picture of the histogram needs no more.
+    static constexpr int HistogramRows = 256;
 
-    int bitDepth = 8;
-    DisplayLevels levels;      ///< that the picture was made with
-    QVector<qint64> histogram; ///< of the raw samples, in columns that span all values of the bit depth
+    SampleKind kind;
+    SampleRange levels = { 0, 255 }; ///< that the picture was made with
+    double gamma = 1.0;
+    SampleRange axis = { -0.5, 255.5 }; ///< of the histogram; whole values lie in the middle of their share of it
+    QVector<qint64> histogram;          ///< of the raw samples, in columns that share the axis
 
-    /// The histogram of a large picture is that of a part of its rows.
+    /// The histogram spans all values of the bit depth; that of a large picture is that of a part of its rows.
     static LevelsReport Of(const SampleView &samples, const DisplayLevels &levels);
 };
 

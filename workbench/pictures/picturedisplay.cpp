@@ -6,14 +6,19 @@
 #include "sampleview.h"
 #include "scaledsamples.h"
 
+#include <algorithm>
 #include <new>
+#include <type_traits>
 
-bool PictureDisplay::HasLevels(const Picture &samples)
+namespace {
+
+/// Samples like those of a camera.
+bool IsLikeLive(const Picture &samples)
 {
     return samples.Type() == SampleType::U8 || samples.Type() == SampleType::U16;
 }
 
-SampleView PictureDisplay::ViewOf(const Picture &samples)
+SampleView ViewOf(const Picture &samples)
 {
     SampleView view;
     view.samples = samples.Data();
@@ -25,6 +30,33 @@ SampleView PictureDisplay::ViewOf(const Picture &samples)
     return view;
 }
 
+} // namespace
+
+SampleKind PictureDisplay::KindOf(SampleType type)
+{
+    return VisitSampleType(type, [](auto sample) {
+        using Sample = decltype(sample);
+        const auto number = std::is_floating_point_v<Sample> ? SampleKind::Floating
+                            : std::is_signed_v<Sample>       ? SampleKind::Signed
+                                                             : SampleKind::Unsigned;
+        return SampleKind(number, 8 * int(sizeof sample));
+    });
+}
+
+LevelsReport PictureDisplay::Report(const Picture &samples, const SampleRange &range, double gamma)
+{
+    if (IsLikeLive(samples))
+        return LevelsReport::Of(ViewOf(samples), { int(range.left), int(range.right), gamma });
+    LevelsReport report;
+    report.kind = KindOf(samples.Type());
+    report.levels = range;
+    report.gamma = gamma;
+    const int rowStep = std::max(1, samples.Height() / LevelsReport::HistogramRows);
+    report.axis = ScaledSamples::FullRange(samples, rowStep);
+    report.histogram = ScaledSamples::Histogram(samples, report.axis, LevelsReport::HistogramColumns, rowStep);
+    return report;
+}
+
 PictureDisplay::PictureDisplay(const LevelsModel *levels)
     : m_levels(levels)
 {
@@ -32,7 +64,7 @@ PictureDisplay::PictureDisplay(const LevelsModel *levels)
 
 QImage PictureDisplay::Make(const Picture &samples, SampleRange &range)
 {
-    const QImage image = HasLevels(samples) ? MakeUnsigned(samples, range) : MakeScaled(samples, range);
+    const QImage image = IsLikeLive(samples) ? MakeUnsigned(samples, range) : MakeScaled(samples, range);
     if (image.isNull())
         throw std::bad_alloc();
     return image;
@@ -53,9 +85,19 @@ QImage PictureDisplay::MakeUnsigned(const Picture &samples, SampleRange &range)
 
 QImage PictureDisplay::MakeScaled(const Picture &samples, SampleRange &range) const
 {
-    const LevelsSetting setting = m_levels->Setting(LevelsModel::MostDepth);
-    const bool takesAll = setting.mode == LevelsMode::MinimumMaximum || setting.mode == LevelsMode::FullRange;
-    if (takesAll || !range.IsKnown())
-        range = takesAll ? ScaledSamples::FullRange(samples) : ScaledSamples::TypicalRange(samples);
+    const SampleKind kind = KindOf(samples.Type());
+    const LevelsSetting setting = m_levels->Setting(kind);
+    switch (setting.mode) {
+    case LevelsMode::Automatic:
+        if (!range.IsKnown())
+            range = ScaledSamples::TypicalRange(samples);
+        break;
+    case LevelsMode::Manual:
+        range = { setting.left, setting.right };
+        break;
+    default:
+        range = setting.mode == LevelsMode::FullRange && kind.IsWhole() ? SampleRange{ kind.Least(), kind.Most() }
+                                                                        : ScaledSamples::FullRange(samples);
+    }
     return ScaledSamples::Image(samples, range, setting.gamma);
 }

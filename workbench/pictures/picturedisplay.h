@@ -2,6 +2,7 @@
 #pragma once
 
 #include "levelsconverter.h"
+#include "levelsreport.h"
 #include "picture.h"
 #include "samplerange.h"
 
@@ -9,15 +10,14 @@ class LevelsModel;
 struct SampleView;
 
 /// Makes the picture for the screen of the samples of a file, whatever their type: unsigned 8 and 16 bit as
-/// the live picture is shown, all others between levels found from the finite samples; what is no number is
-/// black. One for one thread; the model may be changed meanwhile.
+/// the live picture is shown, all others between levels in their own units, which are set or found from the finite
+/// samples; what is no number is black. One for one thread; the model may be changed meanwhile.
 class PictureDisplay
 {
 public:
-    /// The levels of these samples can be set; those of all others are found.
-    static bool HasLevels(const Picture &samples);
-    /// Samples whose levels can be set.
-    static SampleView ViewOf(const Picture &samples);
+    static SampleKind KindOf(SampleType type);
+    /// Of a picture that was made with the levels `range`. From a part of the rows of a large picture.
+    static LevelsReport Report(const Picture &samples, const SampleRange &range, double gamma);
 
     /// `levels` is borrowed and outlives this object.
     explicit PictureDisplay(const LevelsModel *levels);

@@ -37,11 +37,11 @@ bool IsNumber(Sample sample)
 }
 
 template <typename Sample>
-SampleRange FindFull(const Picture &picture)
+SampleRange FindFull(const Picture &picture, int rowStep = 1)
 {
     double left = std::numeric_limits<double>::infinity();
     double right = -left;
-    for (int y = 0; y < picture.Height(); ++y) {
+    for (int y = 0; y < picture.Height(); y += rowStep) {
         const Sample *samples = picture.Samples<Sample>(y);
         for (int i = 0; i < picture.Width() * picture.Channels(); ++i) {
             if (!IsNumber(samples[i]))
@@ -86,24 +86,49 @@ GreyTable GreysOf(double gamma)
     return greys;
 }
 
-template <typename Sample>
-void FillRow(const Sample *samples, int count, const SampleRange &range, const GreyTable &greys,
-             uchar *target)
+/// Where a sample lies in a range, 0 to `steps`. Worked out from halves, so that the width of no range is infinite.
+class PlaceInRange
 {
-    const double factor = gammaSteps / (range.right - range.left);
+public:
+    PlaceInRange(const SampleRange &range, double steps)
+        : m_halfLeft(range.left / 2)
+        , m_factor(steps / (range.right / 2 - m_halfLeft))
+    {
+    }
+
+    double Of(double sample) const { return (sample / 2 - m_halfLeft) * m_factor; }
+
+private:
+    double m_halfLeft;
+    double m_factor;
+};
+
+template <typename Sample>
+void FillRow(const Sample *samples, int count, const PlaceInRange &places, const GreyTable &greys, uchar *target)
+{
     for (int i = 0; i < count; ++i) {
-        const double place = (double(samples[i]) - range.left) * factor + 0.5;
+        const double place = places.Of(double(samples[i])) + 0.5;
         // Turned around, so that what is no number is black.
         const double bounded = place > 0 ? std::min(place, double(gammaSteps)) : 0;
         target[i] = greys[size_t(bounded)];
     }
 }
 
+template <typename Sample>
+void CountRow(const Sample *samples, int count, const PlaceInRange &places, QVector<qint64> *counts)
+{
+    for (int i = 0; i < count; ++i) {
+        const double place = places.Of(double(samples[i]));
+        if (place >= 0 && place <= counts->size()) // not so for what is no number
+            ++(*counts)[std::min(int(place), counts->size() - 1)];
+    }
+}
+
 } // namespace
 
-SampleRange ScaledSamples::FullRange(const Picture &picture)
+SampleRange ScaledSamples::FullRange(const Picture &picture, int rowStep)
 {
-    return VisitSampleType(picture.Type(), [&](auto sample) { return FindFull<decltype(sample)>(picture); });
+    return VisitSampleType(picture.Type(), [&](auto sample) { return FindFull<decltype(sample)>(picture, rowStep); });
 }
 
 SampleRange ScaledSamples::TypicalRange(const Picture &picture)
@@ -119,10 +144,22 @@ QImage ScaledSamples::Image(const Picture &picture, const SampleRange &range, do
     if (image.isNull())
         return image;
     const GreyTable greys = GreysOf(gamma);
+    const PlaceInRange places(range, gammaSteps);
     VisitSampleType(picture.Type(), [&](auto sample) {
         for (int y = 0; y < picture.Height(); ++y)
-            FillRow(picture.Samples<decltype(sample)>(y), picture.Width() * picture.Channels(), range, greys,
+            FillRow(picture.Samples<decltype(sample)>(y), picture.Width() * picture.Channels(), places, greys,
                     image.scanLine(y));
     });
     return image;
+}
+
+QVector<qint64> ScaledSamples::Histogram(const Picture &picture, const SampleRange &range, int columns, int rowStep)
+{
+    QVector<qint64> counts(columns, 0);
+    const PlaceInRange places(range, columns);
+    VisitSampleType(picture.Type(), [&](auto sample) {
+        for (int y = 0; y < picture.Height(); y += rowStep)
+            CountRow(picture.Samples<decltype(sample)>(y), picture.Width() * picture.Channels(), places, &counts);
+    });
+    return counts;
 }

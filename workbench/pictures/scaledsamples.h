@@ -4,6 +4,7 @@
 #include "samplerange.h"
 
 #include <QImage>
+#include <QVector>
 
 class Picture;
 
@@ -11,12 +12,15 @@ class Picture;
 /// is no number has no part in a range; a picture of one single value gets a range around it.
 namespace ScaledSamples {
 
-/// From the smallest finite sample to the largest.
-SampleRange FullRange(const Picture &picture);
+/// From the smallest finite sample to the largest in every `rowStep`th row.
+SampleRange FullRange(const Picture &picture, int rowStep = 1);
 /// Without the smallest and the largest thousandth, so that a few hot pixels don't make the picture dark.
 SampleRange TypicalRange(const Picture &picture);
 /// Grayscale8 or RGB888: black up to the left of the range and for what is no number, white from the right
 /// on. Null without memory for it.
 QImage Image(const Picture &picture, const SampleRange &range, double gamma);
+
+/// How many samples of every `rowStep`th row lie in each of `columns` equal parts of a range.
+QVector<qint64> Histogram(const Picture &picture, const SampleRange &range, int columns, int rowStep);
 
 } // namespace ScaledSamples

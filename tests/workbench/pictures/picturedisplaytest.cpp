@@ -7,6 +7,7 @@
 #include <limits>
 
 Q_DECLARE_METATYPE(Picture)
+Q_DECLARE_METATYPE(LevelsMode)
 
 namespace {
 
@@ -130,14 +131,97 @@ private slots:
 
     void gammaBrightensTheMiddle()
     {
-        LevelsSetting setting = m_levels->Setting(16);
+        const SampleKind kind(SampleKind::Floating, 32);
+        LevelsSetting setting = m_levels->Setting(kind);
         setting.gamma = 2.0;
-        m_levels->SetSetting(16, setting);
+        m_levels->SetSetting(kind, setting);
         SampleRange range;
         const QVector<int> greys = Greys(Show(Row<float>(SampleType::F32, { 0.0F, 0.25F, 1.0F }), range));
         QCOMPARE(greys.first(), 0);
         QVERIFY(qAbs(greys.at(1) - int(std::lround(255 * std::sqrt(0.25)))) <= 1);
         QCOMPARE(greys.last(), 255);
+    }
+
+    void everyKindHasItsModes_data()
+    {
+        QTest::addColumn<Picture>("picture");
+        QTest::addColumn<LevelsMode>("mode");
+        QTest::addColumn<QVector<int>>("greys");
+        QTest::addColumn<double>("left");
+        QTest::addColumn<double>("right");
+        const auto row = [](const char *name, const Picture &picture, LevelsMode mode, const QVector<int> &greys,
+                            double left, double right) {
+            QTest::newRow(name) << picture << mode << greys << left << right;
+        };
+        // Manual levels are -50 and 205 throughout.
+        row("signed 8 bit, manual", Row<qint8>(SampleType::S8, { -128, -50, 1, 127 }), LevelsMode::Manual,
+            { 0, 0, 73, 255 }, -50, 127);
+        row("signed 16 bit, manual", Row<qint16>(SampleType::S16, { -51, -50, 1, 205, 206 }), LevelsMode::Manual,
+            { 0, 0, 51, 255, 255 }, -50, 205);
+        row("signed 32 bit, manual", Row<qint32>(SampleType::S32, { -2000000000, 1, 2000000000 }), LevelsMode::Manual,
+            { 0, 51, 255 }, -50, 205);
+        row("32 bit, manual", Row<quint32>(SampleType::U32, { 0, 41, 205, 4000000000U }), LevelsMode::Manual,
+            { 0, 51, 255, 255 }, 0, 205);
+        row("float, manual", Row<float>(SampleType::F32, { -50, 1, 205, notANumber, infinite, -infinite }),
+            LevelsMode::Manual, { 0, 51, 255, 0, 255, 0 }, -50, 205);
+        row("double, manual", Row<double>(SampleType::F64, { -1e300, 1, 1e300 }), LevelsMode::Manual, { 0, 51, 255 },
+            -50, 205);
+        row("float, minimum and maximum", Row<float>(SampleType::F32, { notANumber, -2, 0, 2, infinite }),
+            LevelsMode::MinimumMaximum, { 0, 0, 128, 255, 255 }, -2, 2);
+        row("signed 16 bit, minimum and maximum", Row<qint16>(SampleType::S16, { -255, 0, 255 }),
+            LevelsMode::MinimumMaximum, { 0, 128, 255 }, -255, 255);
+        row("signed 16 bit, full range", Row<qint16>(SampleType::S16, { -32768, 0, 32767 }), LevelsMode::FullRange,
+            { 0, 128, 255 }, -32768, 32767);
+        row("32 bit, full range", Row<quint32>(SampleType::U32, { 0, 858993459, 4294967295U }), LevelsMode::FullRange,
+            { 0, 51, 255 }, 0, 4294967295.0);
+        row("double has no full range", Row<double>(SampleType::F64, { 0, 0.2, 1 }), LevelsMode::FullRange,
+            { 0, 51, 255 }, 0, 1);
+        constexpr double most = std::numeric_limits<double>::max();
+        row("the largest doubles", Row<double>(SampleType::F64, { -most, -most * 0.6, most }),
+            LevelsMode::MinimumMaximum, { 0, 51, 255 }, -most, most);
+    }
+
+    void everyKindHasItsModes()
+    {
+        QFETCH(Picture, picture);
+        QFETCH(LevelsMode, mode);
+        QFETCH(QVector<int>, greys);
+        QFETCH(double, left);
+        QFETCH(double, right);
+        m_levels->SetSetting(PictureDisplay::KindOf(picture.Type()), { mode, -50, 205, 1.0 });
+        SampleRange range = { 3, 4 }; // of the frame before, which only automatic levels keep
+        const QVector<int> shown = Greys(Show(picture, range));
+        QCOMPARE(range.left, left);
+        QCOMPARE(range.right, right);
+        QCOMPARE(shown.size(), greys.size());
+        for (int i = 0; i < shown.size(); ++i)
+            QVERIFY2(qAbs(shown.at(i) - greys.at(i)) <= 1, qPrintable(QString("%1: %2").arg(i).arg(shown.at(i))));
+    }
+
+    void theHistogramSpansWhatThereIs()
+    {
+        QVector<float> samples;
+        for (int i = 0; i < 256; ++i)
+            samples << -1.0F + float(i) / 255; // -1 to 0, one in each column
+        samples << 0.0F << notANumber << infinite << -infinite;
+        const LevelsReport report = PictureDisplay::Report(Row<float>(SampleType::F32, samples), { -0.5, 3 }, 1.5);
+        QVERIFY(report.kind == SampleKind(SampleKind::Floating, 32));
+        QCOMPARE(report.levels.left, -0.5);
+        QCOMPARE(report.levels.right, 3.0);
+        QCOMPARE(report.gamma, 1.5);
+        QCOMPARE(report.axis.left, -1.0);
+        QCOMPARE(report.axis.right, 0.0);
+        QVector<qint64> counts(256, 1);
+        counts.last() = 2;
+        QCOMPARE(report.histogram, counts);
+    }
+
+    void aHistogramNeedsNoNumber()
+    {
+        const LevelsReport report =
+            PictureDisplay::Report(Row<float>(SampleType::F32, { notANumber, infinite }), { 0, 1 }, 1.0);
+        QCOMPARE(report.histogram, QVector<qint64>(256, 0));
+        QVERIFY(report.axis.IsKnown());
     }
 
     void coloursAreShownTogether()

@@ -95,10 +95,12 @@ private slots:
         preview.Show(TestFrames::Make(33, 4, PixelLayout::Mono12));
         QTRY_VERIFY(reports.count() > 0);
         const auto report = reports.at(0).at(0).value<LevelsReport>();
-        QCOMPARE(report.bitDepth, 12);
-        QCOMPARE(report.levels.left, 0);
-        QCOMPARE(report.levels.right, 62);
-        QCOMPARE(report.levels.gamma, 1.4);
+        QVERIFY(report.kind == SampleKind(12));
+        QCOMPARE(report.levels.left, 0.0);
+        QCOMPARE(report.levels.right, 62.0);
+        QCOMPARE(report.gamma, 1.4);
+        QCOMPARE(report.axis.left, -0.5);
+        QCOMPARE(report.axis.right, 4095.5);
         // 16 values to a column; the samples are x + 10 y.
         QCOMPARE(report.histogram.size(), int(LevelsReport::HistogramColumns));
         QCOMPARE(report.histogram.mid(0, 5), QVector<qint64>({16 + 6, 16 + 16 + 12 + 2, 1 + 11 + 16 + 16, 5 + 15, 0}));
@@ -110,7 +112,7 @@ private slots:
         preview.levels.live.SetWatched(true);
         QSignalSpy reports(&preview.levels.live, SIGNAL(signalReport(LevelsReport)));
         preview.Show(TestFrames::Make(9, 1, PixelLayout::Mono8));
-        for (const int right : {100, 120, 140}) {
+        for (const double right : {100, 120, 140}) {
             preview.levels.model.SetSetting(8, {LevelsMode::Manual, 0, right, 1.0});
             preview.Show(TestFrames::Make(9, 1, PixelLayout::Mono8));
             QCOMPARE(reports.last().at(0).value<LevelsReport>().levels.right, right);
@@ -125,7 +127,7 @@ private slots:
         QSignalSpy reports(&preview.levels.live, SIGNAL(signalReport(LevelsReport)));
         preview.levels.live.SetWatched(true);
         QTRY_COMPARE(reports.count(), 1);
-        QCOMPARE(reports.at(0).at(0).value<LevelsReport>().bitDepth, 16);
+        QVERIFY(reports.at(0).at(0).value<LevelsReport>().kind == SampleKind(16));
         QTRY_COMPARE(preview.preview.DeliveredCount(), quint64(2));
     }
 
