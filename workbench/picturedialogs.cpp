@@ -19,7 +19,7 @@ QString OpenFilter()
 {
     QStringList patterns;
     for (const PictureFormat format : { PictureFormat::Tiff, PictureFormat::Fits, PictureFormat::Png,
-                                        PictureFormat::Jpeg, PictureFormat::Bmp }) {
+                                        PictureFormat::Jpeg, PictureFormat::Bmp, PictureFormat::Spe }) {
         for (const QString &suffix : FormatSuffixes(format))
             patterns << "*." + suffix;
     }

@@ -3,6 +3,7 @@
 #include "createpicture.h"
 
 #include <QDir>
+#include <QtEndian>
 
 #include <cstdio>
 #include <fitsio.h>
@@ -76,9 +77,41 @@ bool SaveTiles(const QString &path, int compression, int planarConfiguration)
     return done;
 }
 
+/// Version 2 with a calibration, version 3 with two regions; samples count up.
+bool SaveSpe(const QString &path, bool isThree)
+{
+    constexpr int headerBytes = 4100;
+    QByteArray bytes(headerBytes, '\0');
+    const auto set = [&](int offset, auto value) { qToLittleEndian(value, bytes.data() + offset); };
+    set(42, quint16(isThree ? 0 : 5));
+    set(656, quint16(isThree ? 0 : 3));
+    set(108, qint16(3));
+    set(1446, qint32(2));
+    set(2996, quint32(0x01234567));
+    set(1992, isThree ? 3.0F : 2.2F);
+    set(3098, quint8(1));
+    set(3100, quint8(4));
+    set(3101, quint8(1));
+    set(3263, 500.0);
+    set(3271, 0.5);
+    for (int i = 0; i < 60; ++i)
+        bytes += char(i);
+    if (isThree) {
+        set(678, quint64(bytes.size()));
+        bytes += "<SpeFormat><DataFormat><DataBlock type=\"Frame\" count=\"2\" pixelFormat=\"MonochromeUnsigned16\" size=\"26\" "
+                 "stride=\"30\" calibrations=\"1\"><DataBlock type=\"Region\" width=\"5\" height=\"1\" size=\"10\" stride=\"10\" "
+                 "calibrations=\"2\"/><DataBlock type=\"Region\" width=\"4\" height=\"2\" size=\"16\" stride=\"16\"/></DataBlock>"
+                 "</DataFormat><Calibrations><WavelengthMapping id=\"1\"><Wavelength>1,2,3,4,5,6,7</Wavelength></WavelengthMapping>"
+                 "<SensorMapping id=\"2\" x=\"1\" y=\"0\" width=\"5\" height=\"1\" xBinning=\"1\" yBinning=\"1\"/>"
+                 "</Calibrations></SpeFormat>";
+    }
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
 bool SaveOtherKinds(const QDir &folder)
 {
-    bool done = true;
+    bool done = SaveSpe(folder.filePath("seed-2.spe"), false) && SaveSpe(folder.filePath("seed-3.spe"), true);
     for (const int method : {RICE_1, GZIP_1, GZIP_2, PLIO_1, HCOMPRESS_1})
         done = done && SaveCompressedFits(folder.filePath(QString("seed-compressed-%1.fits").arg(method)), method);
     for (const int compression : {COMPRESSION_NONE, COMPRESSION_LZW, COMPRESSION_PACKBITS, COMPRESSION_ADOBE_DEFLATE}) {

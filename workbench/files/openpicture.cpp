@@ -3,6 +3,7 @@
 
 #include "fitspicturefile.h"
 #include "rasterpicturefile.h"
+#include "spepicturefile.h"
 #include "tiffpicturefile.h"
 
 #include <QCoreApplication>
@@ -76,7 +77,7 @@ bool SetUnknown(const QByteArray &firstBytes, FileFault &fault)
 {
     if (firstBytes.startsWith("\x1f\x8b") || firstBytes.startsWith("PK\x03\x04") || firstBytes.startsWith("BZh"))
         return fault.Set(Translate("it is a compressed archive"), Translate("Unpack it first."));
-    return fault.Set(Translate("its content is none of TIFF, FITS, PNG, JPEG or BMP"), UnsupportedAdvice());
+    return fault.Set(Translate("its content is none of TIFF, FITS, PNG, JPEG, BMP or SPE"), UnsupportedAdvice());
 }
 
 template <typename File, typename... Arguments>
@@ -99,6 +100,8 @@ std::unique_ptr<PictureFile> OpenContent(const QString &path, FileFault &fault)
         return Opened(std::make_unique<TiffPictureFile>(path), fault, opened.Take(), opened.Size());
     case PictureFormat::Fits:
         return Opened(std::make_unique<FitsPictureFile>(path), fault);
+    case PictureFormat::Spe:
+        return Opened(std::make_unique<SpePictureFile>(path), fault);
     case PictureFormat::Unknown:
         SetUnknown(firstBytes, fault);
         return nullptr;

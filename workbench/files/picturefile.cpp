@@ -15,6 +15,8 @@ QString PictureFile::FrameDescription(int) const
     return QString();
 }
 
+SpectralAxis PictureFile::AxisOf(int) const { return SpectralAxis(); }
+
 bool PictureFile::ReadFrame(int index, Picture &frame, QString &error)
 {
     FileFault fault;

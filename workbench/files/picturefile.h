@@ -4,6 +4,7 @@
 #include "filefault.h"
 #include "picture.h"
 #include "pictureinfo.h"
+#include "spectralaxis.h"
 
 /// An open picture file. It is kept open, so that a file deleted or replaced meanwhile can still be
 /// browsed; nothing but the frame asked for is read. Made by OpenPicture(); one thread at a time.
@@ -18,6 +19,8 @@ public:
     const PictureInfo &Info() const { return m_info; }
     /// Where a frame belongs in a stack, "channel 2 of 3, slice 5 of 7"; empty if the file does not say.
     virtual QString FrameDescription(int index) const;
+    /// What the columns of a frame mean; empty if the file does not say.
+    virtual SpectralAxis AxisOf(int index) const;
 
     /// Decodes frame `index` (from 0). `frame` gives its buffer for the new samples when it fits. On
     /// failure `frame` is undefined and `error` says what, where and what to do.

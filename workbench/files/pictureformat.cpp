@@ -18,6 +18,7 @@ const FormatRow formatTable[] = {
     {PictureFormat::Png, "PNG", "png"},
     {PictureFormat::Jpeg, "JPEG", "jpg jpeg jpe"},
     {PictureFormat::Bmp, "BMP", "bmp dib"},
+    {PictureFormat::Spe, "SPE", "spe"},
 };
 
 const FormatRow *RowOf(PictureFormat format)
@@ -45,6 +46,9 @@ PictureFormat FormatOfContent(const QByteArray &firstBytes)
     // "BM" alone begins many a text; a real header has four zero bytes at 6.
     if (startsWith("BM", 2) && firstBytes.mid(6, 4) == QByteArray(4, '\0'))
         return PictureFormat::Bmp;
+    constexpr int speMarkOffset = 2996;
+    if (firstBytes.mid(speMarkOffset, 4) == QByteArray::fromHex("67452301"))
+        return PictureFormat::Spe;
     return PictureFormat::Unknown;
 }
 

@@ -5,10 +5,10 @@
 #include <QString>
 #include <QStringList>
 
-enum class PictureFormat { Unknown, Tiff, Fits, Png, Jpeg, Bmp };
+enum class PictureFormat { Unknown, Tiff, Fits, Png, Jpeg, Bmp, Spe };
 
-/// Bytes from the start of a file that tell its format.
-constexpr int FormatSignatureBytes = 16;
+/// Bytes from the start of a file that tell its format: an SPE file has its mark near the end of a long header.
+constexpr int FormatSignatureBytes = 3000;
 /// What a file is by its first bytes, whatever its name says.
 PictureFormat FormatOfContent(const QByteArray &firstBytes);
 /// What a file's name promises; Unknown for other endings.

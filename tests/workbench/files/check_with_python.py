@@ -6,6 +6,7 @@ usage: check_with_python.py PICTUREDUMP [DATA_FOLDER]
 """
 import json
 import pathlib
+import shutil
 import struct
 import subprocess
 import sys
@@ -152,7 +153,35 @@ def noise(shape, kind):
     return random.integers(info.min, info.max, shape, kind, endpoint=True)
 
 
+def check_spectrum_files():
+    """SPE files with fabio and xylib, where these are installed: neither reads every kind."""
+    try:
+        from fabio.speimage import SpeImage
+    except ImportError:
+        SpeImage = None
+    with tempfile.TemporaryDirectory() as name:
+        folder = pathlib.Path(name)
+        for path in sorted((DATA / "spe").iterdir()):
+            facts, ours = dump(path, folder)
+            if SpeImage and "regions" not in facts["detail"]:
+                theirs = SpeImage().read(str(path)).data
+                same(f"{path.name} in fabio", ours[:1], [theirs.reshape(ours[0].shape)])
+            if shutil.which("xyconv") and facts["frames"][0]["height"] == 1 and "version 2" in facts["detail"]:
+                check_with_xylib(path, folder, facts, ours)
+
+
+def check_with_xylib(path, folder, facts, ours):
+    subprocess.run(["xyconv", "-t", "spe", path, folder / "xy.txt"], check=True)
+    rows = [line.split() for line in (folder / "xy.txt").read_text().splitlines() if line and not line.startswith("#")]
+    theirs = numpy.array(rows[:ours[0].size], "f8")
+    true(f"{path.name} in xylib: counts", numpy.array_equal(theirs[:, 1], ours[0].ravel().astype("f8")))
+    axis = facts["frames"][0]["axis"]
+    if axis and not facts["frames"][0]["raman"]:
+        true(f"{path.name} in xylib: axis", numpy.allclose(theirs[:, 0], axis, atol=6e-7, rtol=0))
+
+
 def check_real_files(folder):
+    check_spectrum_files()
     for path in sorted((DATA / "tiff").iterdir()):
         check_file(path.name, path, folder, tiff_pages(path))
     for path in sorted((DATA / "fits").iterdir()):

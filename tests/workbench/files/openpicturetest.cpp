@@ -77,7 +77,7 @@ void OpenPictureTest::whatIsNoPictureIsToldInWords_data()
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<QString>("reason");
     QTest::newRow("empty") << QByteArray() << "it is empty";
-    QTest::newRow("text") << QByteArray("BMW is a car, II is two") << "its content is none of TIFF, FITS, PNG, JPEG or BMP";
+    QTest::newRow("text") << QByteArray("BMW is a car, II is two") << "its content is none of TIFF, FITS, PNG, JPEG, BMP or SPE";
     QTest::newRow("one byte") << QByteArray("I") << "its content is none of";
     QTest::newRow("gzip") << QByteArray::fromHex("1f8b080000000000") << "it is a compressed archive. Unpack it first.";
 }

@@ -41,7 +41,12 @@ int Dump(const QString &path, const QString &samplesPath)
     for (int i = 0; i < file->Info().frames; ++i) {
         if (!file->ReadFrame(i, picture, error))
             return Fail(error);
-        frames.append(QJsonObject{{"width", picture.Width()}, {"height", picture.Height()}, {"channels", picture.Channels()},
+        const SpectralAxis axis = file->AxisOf(i);
+        QJsonArray columns;
+        for (const double value : axis.values)
+            columns.append(value);
+        frames.append(QJsonObject{{"axis", columns}, {"raman", axis.unit == SpectralUnit::RamanShift},
+                                  {"width", picture.Width()}, {"height", picture.Height()}, {"channels", picture.Channels()},
                                   {"type", TypeCode(picture.Type())}, {"description", file->FrameDescription(i)}});
         samples.write(reinterpret_cast<const char *>(picture.Data()), picture.ByteCount());
     }

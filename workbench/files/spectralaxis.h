@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QVector>
+
+enum class SpectralUnit
+{
+    Pixel,
+    Nanometre,
+    Wavenumber, ///< 1/cm
+    RamanShift  ///< 1/cm, from the laser's line
+};
+
+/// What the columns of a picture mean by the calibration in its file: one value for each column, as the file's maker
+/// took them (a list made for Raman work may be in vacuum wavelengths). Empty without a calibration.
+struct SpectralAxis
+{
+    SpectralUnit unit = SpectralUnit::Pixel;
+    QVector<double> values;
+    double laserNm = 0; ///< of Raman work; 0 when the file does not say
+
+    bool IsEmpty() const { return values.isEmpty(); }
+};

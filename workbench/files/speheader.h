@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "spectralaxis.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QtEndian>
+
+/// The fixed, little-endian header of an SPE file. Offsets are those of the format's own table.
+class SpeHeader
+{
+public:
+    /// At least SpeLayout::headerBytes.
+    explicit SpeHeader(const QByteArray &bytes);
+
+    double Version() const { return Float(1992); }
+    int Width() const { return Number<quint16>(42); }
+    int Height() const { return Number<quint16>(656); }
+    int TypeCode() const { return Number<qint16>(108); }
+    int Frames() const { return Number<qint32>(1446); }
+    quint64 FooterOffset() const { return Number<quint64>(678); }
+    double ExposureSeconds() const { return Float(10); }
+    double TemperatureCelsius() const { return Float(36); }
+    int Accumulations() const { return Number<qint32>(668); }
+    QString Date() const { return Text(20, 10); }
+    QString LocalTime() const { return Text(172, 7); }
+    QString Comment(int line) const { return Text(200 + 80 * line, 80); }
+    /// Of the x direction; empty unless the file says that its calibration is valid and it gives numbers.
+    SpectralAxis Axis() const;
+
+private:
+    template <typename T>
+    T Number(int offset) const { return qFromLittleEndian<T>(m_bytes.constData() + offset); }
+    double Float(int offset) const { return double(Number<float>(offset)); }
+    QString Text(int offset, int size) const;
+
+    QByteArray m_bytes;
+};

@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "spelayout.h"
+
+#include "filefault.h"
+#include "spefooter.h"
+#include "speheader.h"
+
+#include <QCoreApplication>
+#include <QIODevice>
+
+#include <limits>
+
+namespace {
+
+/// Real ones take 30 kB to some MB; the rest of a file that says otherwise is not read into memory.
+constexpr qint64 mostFooterBytes = 64 * 1024 * 1024;
+
+QString Translate(const char *text)
+{
+    return QCoreApplication::translate("SpeLayout", text);
+}
+
+bool TypeOfCode(int code, SampleType &type, FileFault &fault)
+{
+    switch (code) {
+    case 0: type = SampleType::F32; return true;
+    case 1: type = SampleType::S32; return true;
+    case 2: type = SampleType::S16; return true;
+    case 3: type = SampleType::U16; return true;
+    case 5: type = SampleType::F64; return true;
+    case 6: type = SampleType::U8; return true;
+    case 8: type = SampleType::U32; return true;
+    default: return fault.Set(Translate("its samples are of an unknown kind (code %1)").arg(code), UnsupportedAdvice());
+    }
+}
+
+bool LayoutOfHeader(const SpeHeader &header, SpeLayout &layout, FileFault &fault)
+{
+    if (!TypeOfCode(header.TypeCode(), layout.type, fault))
+        return false;
+    if (header.Width() == 0 || header.Height() == 0)
+        return fault.Set(Translate("its header gives a size of %1 x %2 pixels").arg(header.Width()).arg(header.Height()),
+                         DamagedAdvice());
+    SpeRegion region;
+    region.width = header.Width();
+    region.height = header.Height();
+    region.axis = header.Axis();
+    layout.regions = {region};
+    layout.frameStride = layout.RegionBytes(region);
+    layout.frames = header.Frames();
+    return true;
+}
+
+void AddFact(SpeLayout &layout, const char *key, const QString &value, const char *unit, bool isText)
+{
+    if (!value.isEmpty())
+        layout.metadata.append({key, value, unit, isText});
+}
+
+void ReadFacts(const SpeHeader &header, SpeLayout &layout)
+{
+    const auto number = [](double value) { return value == 0 ? QString() : QString::number(value); };
+    AddFact(layout, "Date", header.Date(), "", true);
+    AddFact(layout, "Time", header.LocalTime(), "", true);
+    AddFact(layout, "ExposureTime", number(header.ExposureSeconds()), "s", false);
+    AddFact(layout, "DetectorTemperature", number(header.TemperatureCelsius()), "°C", false);
+    AddFact(layout, "Accumulations", number(header.Accumulations()), "", false);
+    for (int line = 0; line < 5; ++line)
+        AddFact(layout, "Comment", header.Comment(line), "", true);
+}
+
+/// The description of an SPE 3 file; one that is gone leaves a plain file readable by its header.
+bool LayoutOfFooter(QIODevice &file, const SpeHeader &header, SpeLayout &layout, FileFault &fault)
+{
+    const quint64 offset = header.FooterOffset();
+    if (offset >= quint64(SpeLayout::headerBytes) && offset < quint64(file.size())) {
+        if (file.size() - qint64(offset) > mostFooterBytes)
+            return fault.Set(Translate("its description (XML at the end) is larger than any such file needs"), DamagedAdvice());
+        file.seek(qint64(offset));
+        return ReadSpeFooter(file.read(mostFooterBytes), layout, fault);
+    }
+    if (header.Width() == 0 || header.Height() == 0)
+        return fault.Set(Translate("its description (XML at the end) is missing"), DamagedAdvice());
+    layout.warning = Translate("its description (XML at the end) is missing, and with it the wavelengths");
+    return LayoutOfHeader(header, layout, fault);
+}
+
+bool CheckRegions(const SpeLayout &layout, qint64 dataBytes, FileFault &fault)
+{
+    for (int i = 0; i < layout.regions.size(); ++i) {
+        const SpeRegion &region = layout.regions[i];
+        const QString name = Translate("region %1 of %2").arg(i + 1).arg(layout.regions.size());
+        if (region.width <= 0 || region.height <= 0)
+            return fault.Set(Translate("%1 has a size of %2 x %3 pixels").arg(name).arg(region.width).arg(region.height), DamagedAdvice());
+        const qint64 samples = qint64(region.width) * region.height;
+        if (samples > std::numeric_limits<qint64>::max() / 8 || region.offset < 0
+            || layout.RegionBytes(region) > layout.frameStride - region.offset)
+            return fault.Set(Translate("%1 does not fit into its frame").arg(name), DamagedAdvice());
+        if (region.offset > dataBytes || layout.RegionBytes(region) > dataBytes - region.offset)
+            return fault.Set(Translate("not even its first frame of %1 x %2 pixels is whole").arg(region.width).arg(region.height),
+                             DamagedAdvice());
+    }
+    return true;
+}
+
+/// Some writers give a wrong number of frames: those that are there count.
+void CountFrames(SpeLayout &layout, qint64 dataBytes)
+{
+    const SpeRegion &last = layout.regions.last();
+    const qint64 lastBytes = last.offset + layout.RegionBytes(last);
+    const qint64 whole = 1 + (dataBytes - lastBytes) / layout.frameStride;
+    const qint64 most = std::numeric_limits<int>::max() / layout.regions.size();
+    const qint64 promised = layout.frames;
+    layout.frames = int(qMin(most, promised > 0 ? qMin(promised, whole) : whole));
+    layout.missingFrames = promised > whole ? promised - whole : 0;
+}
+
+} // namespace
+
+bool ReadSpeLayout(QIODevice &file, SpeLayout &layout, FileFault &fault)
+{
+    file.seek(0);
+    const QByteArray bytes = file.read(SpeLayout::headerBytes);
+    if (bytes.size() < SpeLayout::headerBytes)
+        return fault.Set(Translate("its header is cut short"), DamagedAdvice());
+    const SpeHeader header(bytes);
+    layout = SpeLayout();
+    layout.version = header.Version();
+    const bool hasFooter = layout.version >= 3.0 && header.FooterOffset() != 0;
+    ReadFacts(header, layout);
+    if (!(hasFooter ? LayoutOfFooter(file, header, layout, fault) : LayoutOfHeader(header, layout, fault)))
+        return false;
+    const bool footerIsThere = hasFooter && header.FooterOffset() < quint64(file.size());
+    const qint64 dataEnd = footerIsThere ? qint64(header.FooterOffset()) : file.size();
+    if (!CheckRegions(layout, dataEnd - SpeLayout::headerBytes, fault))
+        return false;
+    CountFrames(layout, dataEnd - SpeLayout::headerBytes);
+    return true;
+}

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "spepicturefile.h"
+
+#include "sampleswap.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QtEndian>
+
+namespace {
+
+QString Translate(const char *text)
+{
+    return QCoreApplication::translate("SpePictureFile", text);
+}
+
+} // namespace
+
+SpePictureFile::SpePictureFile(const QString &path)
+    : PictureFile(path)
+    , m_file(path)
+{
+}
+
+bool SpePictureFile::Open(FileFault &fault)
+{
+    if (!m_file.open(QIODevice::ReadOnly))
+        return fault.Set(m_file.errorString(), DamagedAdvice());
+    if (!ReadSpeLayout(m_file, m_layout, fault))
+        return false;
+    FillInfo();
+    return true;
+}
+
+void SpePictureFile::FillInfo()
+{
+    const SpeRegion &first = m_layout.regions.first();
+    const int regions = m_layout.regions.size();
+    PictureInfo &info = MutableInfo();
+    info.format = PictureFormat::Spe;
+    info.frames = m_layout.frames * regions;
+    info.size = QSize(first.width, first.height);
+    info.sampleType = m_layout.type;
+    info.metadata = m_layout.metadata;
+    info.formatDetail = Translate("version %1").arg(m_layout.version < 3 ? 2 : 3);
+    if (regions > 1)
+        info.formatDetail += Translate(", %1 regions").arg(regions);
+    if (!m_layout.warning.isEmpty())
+        AddWarning(Translate("\u201c%1\u201d: %2. %3").arg(QFileInfo(Path()).fileName(), m_layout.warning, DamagedAdvice()));
+    if (m_layout.missingFrames > 0) {
+        AddWarning(ReadFaultText(Path(), {Translate("only the first %1 of its %2 frames are there")
+                                              .arg(m_layout.frames).arg(m_layout.frames + m_layout.missingFrames),
+                                          DamagedAdvice(), QString()}));
+    }
+}
+
+QString SpePictureFile::FrameDescription(int index) const
+{
+    const int regions = m_layout.regions.size();
+    if (regions == 1)
+        return QString();
+    const SpeRegion &region = RegionOf(index);
+    return Translate("exposure %1 of %2, region %3 of %4, from column %5 and row %6 of the sensor")
+        .arg(index / regions + 1).arg(m_layout.frames).arg(index % regions + 1).arg(regions)
+        .arg(region.onSensor.x()).arg(region.onSensor.y());
+}
+
+SpectralAxis SpePictureFile::AxisOf(int index) const { return RegionOf(index).axis; }
+
+bool SpePictureFile::Decode(int index, Picture &frame, FileFault &fault)
+{
+    const SpeRegion &region = RegionOf(index);
+    frame.Reshape(region.width, region.height, 1, m_layout.type);
+    const qint64 exposure = index / m_layout.regions.size();
+    m_file.seek(SpeLayout::headerBytes + exposure * m_layout.frameStride + region.offset);
+    if (m_file.read(reinterpret_cast<char *>(frame.Data()), frame.ByteCount()) != frame.ByteCount())
+        return fault.Set(Translate("frame %1 of %2 is not whole").arg(index + 1).arg(Info().frames), DamagedAdvice());
+    if (Q_BYTE_ORDER == Q_BIG_ENDIAN)
+        SwapSampleBytes(frame);
+    return true;
+}
