@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QHash>
 #include <QLabel>
+#include <QMap>
 #include <QScrollArea>
 #include <QStandardPaths>
 #include <QTabWidget>
@@ -24,6 +25,7 @@ struct ManagerRegistry
 {
     QSet<int> takenIds;
     QList<UIPluginReport> reports;
+    QMap<int, QString> missing; ///< id and title of the panels that were asked for and not found
     int managers = 0;
     int leftPage = CameraControlPage; ///< the one last shown
 };
@@ -78,20 +80,17 @@ void UIManagerBase::Private::Load(const QString &filePath, QWidget *parent, UIMa
     UIPluginReport report;
     Source source;
     source.entry = UIPluginLoader::Load(filePath, Registry().takenIds, report);
-    QWidget *panel = source.entry.plugin ? source.entry.plugin->GetWidget() : nullptr;
-    if (source.entry.plugin && !panel) {
-        report.loaded = false;
-        report.reason = tr("it has no panel");
-    }
     AddReport(report);
-    if (!panel)
+    if (!report.loaded)
         return;
 
+    QWidget *panel = source.entry.panel;
     panel->setParent(parent);
     panel->hide();
     connect(panel, SIGNAL(destroyed(QObject*)), manager, SLOT(slotPanelDestroyed(QObject*)));
     plugins.append({report.id, source.entry.plugin, panel});
     Registry().takenIds.insert(report.id);
+    Registry().missing.remove(report.id);
     source.id = report.id;
     source.version = report.version;
     sources.push_back(std::move(source));
@@ -133,8 +132,10 @@ UIManagerBase::~UIManagerBase()
     }
     for (const Private::Source &source : m_private->sources)
         Registry().takenIds.remove(source.id);
-    if (--Registry().managers == 0)
-        Registry().leftPage = CameraControlPage;
+    if (--Registry().managers > 0)
+        return;
+    Registry().leftPage = CameraControlPage;
+    Registry().missing.clear();
 }
 
 void UIManagerBase::LoadUIPluginAndInitUI(const QString &directory, QWidget *parent, bool complete)
@@ -172,6 +173,7 @@ QWidget *UIManagerBase::GetWidget(int id, const QString &title, const QString &g
         page->setWidget(panel);
         return page;
     }
+    Registry().missing.insert(id, title);
     auto *notice = new QLabel(tr("The panel \"%1\" is not installed.").arg(title), page);
     notice->setAlignment(Qt::AlignCenter);
     notice->setWordWrap(true);
@@ -239,7 +241,16 @@ QStringList UIManagerBase::PluginRoots()
 
 QList<UIPluginReport> UIManagerBase::PluginReports()
 {
-    return Registry().reports;
+    QList<UIPluginReport> reports = Registry().reports;
+    const QMap<int, QString> &missing = Registry().missing;
+    for (auto panel = missing.cbegin(); panel != missing.cend(); ++panel) {
+        UIPluginReport report;
+        report.id = panel.key();
+        report.title = panel.value();
+        report.reason = tr("no plug-in brings this panel");
+        reports.append(report);
+    }
+    return reports;
 }
 
 const QList<UIManagerBase::LoadedPlugin> &UIManagerBase::Plugins() const

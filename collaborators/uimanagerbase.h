@@ -52,7 +52,8 @@ public:
 
     /// Folders below which the plug-in folders stand, in the order they are searched.
     static QStringList PluginRoots();
-    /// All plug-ins found so far, of all managers, in the order they were found.
+    /// All plug-ins found so far, of all managers, in the order they were found; then the panels that were asked for
+    /// and that none brings, by id.
     static QList<UIPluginReport> PluginReports();
 
 protected:

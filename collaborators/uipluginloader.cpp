@@ -9,6 +9,8 @@
 #include <QLibrary>
 #include <QPluginLoader>
 
+#include <exception>
+
 namespace {
 
 UIPluginEntry EntryOf(const UIPluginMetaData &metaData)
@@ -21,6 +23,35 @@ UIPluginEntry EntryOf(const UIPluginMetaData &metaData)
     return entry;
 }
 
+/// Runs code of a plug-in; what it throws ends here and becomes the reason.
+template<typename Function>
+void RunGuarded(Function function, QString *reason)
+{
+    try {
+        function();
+    } catch (const std::exception &exception) {
+        *reason = UIPluginLoader::tr("it failed when it was made: %1").arg(QString::fromLocal8Bit(exception.what()));
+    } catch (...) {
+        *reason = UIPluginLoader::tr("it failed when it was made");
+    }
+}
+
+/// Nothing of the file has run before. The entry is whole when no reason against it comes back.
+QString MakePanel(QPluginLoader *loader, UIPluginEntry *entry)
+{
+    QString reason;
+    RunGuarded([&] { entry->root.reset(loader->instance()); }, &reason);
+    if (!entry->root)
+        return reason.isEmpty() ? loader->errorString() : reason;
+    entry->plugin = qobject_cast<UIPlugin *>(entry->root.get());
+    if (!entry->plugin)
+        return UIPluginLoader::tr("its root object is not a panel");
+    RunGuarded([&] { entry->panel = entry->plugin->GetWidget(); }, &reason);
+    if (!entry->panel && reason.isEmpty())
+        return UIPluginLoader::tr("it has no panel");
+    return reason;
+}
+
 } // namespace
 
 QStringList UIPluginLoader::FindFiles(const QStringList &roots, const QString &directory)
@@ -29,8 +60,8 @@ QStringList UIPluginLoader::FindFiles(const QStringList &roots, const QString &d
     QSet<QString> seen;
     for (const QString &root : roots) {
         const QDir folder(QDir(root).filePath(directory));
-        for (const QFileInfo &file : folder.entryInfoList(QDir::Files, QDir::Name)) {
-            const QString canonicalPath = file.canonicalFilePath();
+        for (const QFileInfo &file : folder.entryInfoList(QDir::Files | QDir::System, QDir::Name)) {
+            const QString canonicalPath = file.exists() ? file.canonicalFilePath() : file.absoluteFilePath();
             if (!QLibrary::isLibrary(file.fileName()) || seen.contains(canonicalPath))
                 continue;
             seen.insert(canonicalPath);
@@ -42,12 +73,18 @@ QStringList UIPluginLoader::FindFiles(const QStringList &roots, const QString &d
 
 UIPluginEntry UIPluginLoader::Load(const QString &filePath, const QSet<int> &takenIds, UIPluginReport &report)
 {
+    report = UIPluginReport();
+    report.filePath = filePath;
+    const QFileInfo file(filePath);
+    if (!file.exists()) {
+        report.reason = UIPluginLoader::tr("the file is missing: it is a link to %1").arg(file.symLinkTarget());
+        return UIPluginEntry();
+    }
     QPluginLoader loader(filePath);
     // Missing symbols are found now and not at the first click.
     loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
     const UIPluginMetaData metaData(loader.metaData());
-    report = UIPluginReport();
-    report.filePath = filePath;
+    report.title = metaData.Title();
     report.version = metaData.Version();
     report.id = metaData.Id();
     report.reason = metaData.Fault(takenIds);
@@ -55,16 +92,9 @@ UIPluginEntry UIPluginLoader::Load(const QString &filePath, const QSet<int> &tak
         return UIPluginEntry();
 
     UIPluginEntry entry = EntryOf(metaData);
-    entry.root.reset(loader.instance());
-    if (!entry.root) {
-        report.reason = loader.errorString();
+    report.reason = MakePanel(&loader, &entry);
+    if (!report.reason.isEmpty())
         return UIPluginEntry();
-    }
-    entry.plugin = qobject_cast<UIPlugin *>(entry.root.get());
-    if (!entry.plugin) {
-        report.reason = UIPluginLoader::tr("its root object is not a panel");
-        return UIPluginEntry();
-    }
     report.loaded = true;
     return entry;
 }

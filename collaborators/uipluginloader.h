@@ -11,12 +11,14 @@
 #include <memory>
 
 class QObject;
+class QWidget;
 class UIPlugin;
 
 /// What became of one plug-in file, for the application's plug-in page.
 struct UIPluginReport
 {
-    QString filePath;
+    QString filePath; ///< empty: a panel was asked for, and no plug-in brings it
+    QString title; ///< may be empty
     QString version;
     int id = -1;
     bool loaded = false;
@@ -28,6 +30,7 @@ struct UIPluginEntry
 {
     std::unique_ptr<QObject> root;
     UIPlugin *plugin = nullptr; ///< the root object's interface
+    QWidget *panel = nullptr;   ///< its widget
     bool isBottomPage = false;
     QString title;
     bool belongsToCamera = true; ///< left pages a bottom page is shown with
@@ -41,7 +44,8 @@ class GLOBALUI_COLLABORATORS_EXPORT UIPluginLoader
 
 public:
     /// Shared libraries of `directory` below each root, by name; one file reached twice counts once.
+    /// Links to files that are gone are among them.
     static QStringList FindFiles(const QStringList &roots, const QString &directory);
-    /// Loads one file. On failure report.reason says why, and the entry has no plug-in.
+    /// Loads one file and lets it make its panel. On failure report.reason says why, and the entry has no plug-in.
     static UIPluginEntry Load(const QString &filePath, const QSet<int> &takenIds, UIPluginReport &report);
 };

@@ -3,6 +3,13 @@
 
 #include "uiplugin.h"
 
+namespace {
+
+/// What is left of an interface's name without its version.
+QString Unversioned(const QString &iid) { return iid.section('/', 0, 0); }
+
+} // namespace
+
 UIPluginMetaData::UIPluginMetaData(const QJsonObject &information)
     : m_information(information)
     , m_metaData(information.value("MetaData").toObject())
@@ -13,9 +20,9 @@ QString UIPluginMetaData::Fault(const QSet<int> &takenIds) const
 {
     if (m_information.isEmpty())
         return tr("it is not a plug-in");
-    const QString iid = m_information.value("IID").toString();
-    if (iid != GLOBALUI_UIPLUGIN_IID)
-        return tr("it is a plug-in for another interface: \"%1\"").arg(iid);
+    const QString fault = InterfaceFault();
+    if (!fault.isEmpty())
+        return fault;
     if (Id() < 0)
         return tr("its metadata has no valid \"id\"");
     if (takenIds.contains(Id()))
@@ -28,6 +35,24 @@ QString UIPluginMetaData::Fault(const QSet<int> &takenIds) const
     const QString page = Page();
     if (page != "camera" && page != "image" && page != "both")
         return tr("its metadata has no valid \"page\"");
+    return QString();
+}
+
+QString UIPluginMetaData::InterfaceFault() const
+{
+    const QString own = GLOBALUI_UIPLUGIN_IID;
+    const QString iid = m_information.value("IID").toString();
+    if (Unversioned(iid) != Unversioned(own))
+        return tr("it is a plug-in for another interface: \"%1\"").arg(iid);
+    if (iid != own)
+        return tr("it was built for the interface \"%1\", but this program has \"%2\": build it anew").arg(iid, own);
+    // As the plug-in's compiler saw QT_VERSION: 0xMMNNPP.
+    const int qtVersion = m_information.value("version").toInt();
+    const int major = qtVersion >> 16;
+    const int minor = (qtVersion >> 8) & 0xff;
+    if (major != QT_VERSION_MAJOR || minor > QT_VERSION_MINOR)
+        return tr("it was built for Qt %1.%2, but this program has Qt %3.%4: build it anew")
+            .arg(major).arg(minor).arg(QT_VERSION_MAJOR).arg(QT_VERSION_MINOR);
     return QString();
 }
 

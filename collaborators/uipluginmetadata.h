@@ -22,7 +22,7 @@ public:
     QString Version() const;
     /// A page of the bottom tab widget, otherwise a tab of a control panel.
     bool IsBottomPage() const;
-    /// Of the bottom page.
+    /// Text of the bottom page; of a tab only what the list of plug-ins calls it, and may be empty.
     QString Title() const;
     /// The left pages that a bottom page is shown with.
     bool BelongsToCamera() const;
@@ -30,6 +30,8 @@ public:
 
 private:
     QString Page() const;
+    /// Empty when the plug-in speaks this program's interface and was built for a Qt that fits.
+    QString InterfaceFault() const;
 
     QJsonObject m_information;
     QJsonObject m_metaData;

@@ -34,7 +34,8 @@ public:
     {
         QVector<QRegularExpression> warnings;
         for (const char *file : {"d_sameid", "e_otherinterface", "f_nometadata", "g_noid", "h_unresolved",
-                                 "i_notapanel", "j_nopanel", "k_text"})
+                                 "i_notapanel", "j_nopanel", "k_text", "m_otherversion", "n_otherqt", "o_throws",
+                                 "p_throwslate", "q_needslibrary", "r_brokenlink"})
             warnings << QRegularExpression(QString("%1\\.so is not loaded: .+").arg(file));
         return warnings;
     }

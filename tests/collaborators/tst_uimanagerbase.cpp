@@ -56,6 +56,7 @@ private slots:
     void PanelsShowTheStateAfterTheLastFolder();
     void APanelStandsInATabUnderItsName();
     void AMissingPanelSaysSo();
+    void AMissingPanelIsReportedUntilItComes();
     void APageMovesToItsNewPlace();
     void APanelThatIsGoneIsLeftOut();
     void TheTableOfPanelsListsThem();
@@ -102,6 +103,8 @@ void TestUIManagerBase::LoadsThePanelsItFinds()
     QVERIFY(report.loaded);
     QCOMPARE(report.id, 4);
     QCOMPARE(report.version, QString("1.2.3"));
+    QCOMPARE(report.title, QString());
+    QCOMPARE(ReportOf("b_histogrampage.so").title, QString("Histogram(Live)"));
     QCOMPARE(report.reason, QString());
     QCOMPARE(report.filePath, QString(TEST_PLUGIN_ROOT "/plugins/test/ui/a_tabpanel.so"));
     QCOMPARE(ReportOf("l_readme.txt").filePath, QString());
@@ -120,6 +123,18 @@ void TestUIManagerBase::TellsWhyAPluginIsNotLoaded_data()
     QTest::newRow("missing symbol") << "h_unresolved.so" << 41 << "AFunctionThatIsNowhere";
     QTest::newRow("no interface") << "i_notapanel.so" << 42 << "its root object is not a panel";
     QTest::newRow("no widget") << "j_nopanel.so" << 43 << "it has no panel";
+    QTest::newRow("later interface") << "m_otherversion.so" << 44
+                                     << "it was built for the interface \"globalui.UIPlugin/2\", but this program has "
+                                        "\"globalui.UIPlugin/1\": build it anew";
+    QTest::newRow("later Qt") << "n_otherqt.so" << 45
+                              << "it was built for Qt 5.99, but this program has Qt 5." + QString(qVersion()).section('.', 1, 1)
+                                     + ": build it anew";
+    QTest::newRow("constructor throws") << "o_throws.so" << 46
+                                        << "it failed when it was made: no lamp is connected";
+    QTest::newRow("panel throws") << "p_throwslate.so" << 47 << "it failed when it was made";
+    QTest::newRow("missing library") << "q_needslibrary.so" << 48 << "liblampnowhere.so.7";
+    QTest::newRow("link to nowhere") << "r_brokenlink.so" << -1
+                                     << "the file is missing: it is a link to /no/such/folder/panel.so";
     QTest::newRow("text file") << "k_text.so" << -1 << "it is not a plug-in";
 }
 
@@ -194,6 +209,20 @@ void TestUIManagerBase::AMissingPanelSaysSo()
     tabs.addTab(page, "Report");
     QCOMPARE(PageText(tabs, 0), QString("The panel \"Report\" is not installed."));
     QCOMPARE(manager.GetWidget(9, "Report", "Report"), page);
+}
+
+void TestUIManagerBase::AMissingPanelIsReportedUntilItComes()
+{
+    TestPanels manager;
+    delete manager.GetWidget(4, "Adjustment", "Image");
+    UIPluginReport report = UIManagerBase::PluginReports().last();
+    QCOMPARE(report.filePath, QString());
+    QCOMPARE(report.id, 4);
+    QCOMPARE(report.title, QString("Adjustment"));
+    QVERIFY(!report.loaded);
+    QCOMPARE(report.reason, QString("no plug-in brings this panel"));
+    LoadAll(&manager);
+    QVERIFY(!UIManagerBase::PluginReports().last().filePath.isEmpty());
 }
 
 void TestUIManagerBase::APageMovesToItsNewPlace()

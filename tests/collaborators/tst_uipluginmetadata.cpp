@@ -9,9 +9,9 @@
 namespace {
 
 /// What the file of a plug-in with these texts says.
-UIPluginMetaData MetaData(const QByteArray &json, const QString &iid = GLOBALUI_UIPLUGIN_IID)
+UIPluginMetaData MetaData(const QByteArray &json, const QString &iid = GLOBALUI_UIPLUGIN_IID, int qt = 0x050f00)
 {
-    return UIPluginMetaData({ { "IID", iid }, { "MetaData", QJsonDocument::fromJson(json).object() } });
+    return UIPluginMetaData({ { "IID", iid }, { "version", qt }, { "MetaData", QJsonDocument::fromJson(json).object() } });
 }
 
 } // namespace
@@ -30,6 +30,8 @@ private slots:
     void TellsTitleAndVersion();
     void AnEmptyFileIsNoPlugin();
     void AnotherInterfaceIsNamed();
+    void TellsWhichQtFits_data();
+    void TellsWhichQtFits();
 };
 
 void TestUIPluginMetaData::TellsWhatIsWrong_data()
@@ -124,6 +126,30 @@ void TestUIPluginMetaData::AnotherInterfaceIsNamed()
 {
     QCOMPARE(MetaData(R"({"id":4,"place":"tab"})", "other/2").Fault({}),
              QString("it is a plug-in for another interface: \"other/2\""));
+}
+
+void TestUIPluginMetaData::TellsWhichQtFits_data()
+{
+    QTest::addColumn<int>("qt");
+    QTest::addColumn<QString>("builtFor");
+    QTest::newRow("this one") << 0x050f00 << "";
+    QTest::newRow("its patch release does not matter") << 0x050fff << "";
+    QTest::newRow("earlier") << 0x050900 << "";
+    QTest::newRow("later") << 0x051000 << "Qt 5.16,";
+    QTest::newRow("the one before") << 0x040807 << "Qt 4.8,";
+    QTest::newRow("the next") << 0x060000 << "Qt 6.0,";
+    QTest::newRow("none is said") << 0 << "Qt 0.0,";
+}
+
+void TestUIPluginMetaData::TellsWhichQtFits()
+{
+    QFETCH(int, qt);
+    QFETCH(QString, builtFor);
+    const QString fault = MetaData(R"({"id":4,"place":"tab"})", GLOBALUI_UIPLUGIN_IID, qt).Fault({});
+    if (builtFor.isEmpty())
+        QCOMPARE(fault, QString());
+    else
+        QVERIFY2(fault.contains(builtFor), qPrintable(fault));
 }
 
 GUARDED_TEST_MAIN(TestUIPluginMetaData)
