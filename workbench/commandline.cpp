@@ -44,6 +44,8 @@ QString HelpText()
                    "                     --seconds S, or what comes first; print the receipt, and end\n"
                    "                     with 1 if a frame was lost\n"
                    "  --format F         of the recording: %2; without it the ending of FILE tells\n"
+                   "  --list-plugins     print each plug-in that is found, where from, and why it is not loaded;\n"
+                   "                     end with 1 if one is not\n"
                    "  --version          print the version and end\n"
                    "  --help             print this text and end\n")
         .arg(SceneCatalogue::Names().join(", "), FormatNames().join(", "));
@@ -91,10 +93,11 @@ CommandLine CommandLine::Parse(const QStringList &arguments)
     const QCommandLineOption record("record", QString(), "FILE");
     const QCommandLineOption seconds("seconds", QString(), "S");
     const QCommandLineOption format("format", QString(), "F");
+    const QCommandLineOption listPlugins("list-plugins");
     const QCommandLineOption version("version");
     const QCommandLineOption help("help");
     QCommandLineParser parser;
-    parser.addOptions({camera, scene, frames, screenshot, record, seconds, format, version, help});
+    parser.addOptions({camera, scene, frames, screenshot, record, seconds, format, listPlugins, version, help});
     if (!parser.parse(arguments))
         return Failure(parser.errorText().trimmed() + " Try --help.");
     if (parser.isSet(help))
@@ -103,6 +106,9 @@ CommandLine CommandLine::Parse(const QStringList &arguments)
         return Printed("workbench " WORKBENCH_VERSION "\n");
 
     CommandLine line;
+    line.listPlugins = parser.isSet(listPlugins);
+    if (line.listPlugins && arguments.size() > 2)
+        return Failure("--list-plugins goes alone.");
     line.files = parser.positionalArguments();
     line.cameraId = parser.value(camera);
     if (parser.isSet(camera) && line.cameraId.isEmpty())

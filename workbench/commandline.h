@@ -35,6 +35,8 @@ public:
     QString record;
     int seconds = 0;
     RunFormat format = RunFormat::Tiff;
+    /// Print what became of each plug-in instead of showing a window.
+    bool listPlugins = false;
     /// Pictures to be opened.
     QStringList files;
 };

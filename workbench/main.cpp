@@ -6,6 +6,7 @@
 #include "language.h"
 #include "mainwindow.h"
 #include "picturedesk.h"
+#include "pluginlist.h"
 #include "recordrun.h"
 #include "settingsfile.h"
 #include "timedrun.h"
@@ -60,6 +61,14 @@ int Record(const CommandLine &line)
     return QApplication::exec();
 }
 
+int ListPlugins()
+{
+    SettingsFile settings(SettingsFile::StandardPath());
+    CameraLink link;
+    WorkbenchServices services(settings.Settings(), &link);
+    return PluginList::Print() ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
 int RunWorkbench(const CommandLine &line)
 {
     SettingsFile settings(SettingsFile::StandardPath());
@@ -108,11 +117,14 @@ int main(int argc, char **argv)
     QLoggingCategory::setFilterRules("default.debug=false");
     QCoreApplication::setApplicationName("workbench");
     QCoreApplication::setApplicationVersion(WORKBENCH_VERSION);
-    if (!line.record.isEmpty() && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    const bool hasWindow = line.record.isEmpty() && !line.listPlugins;
+    if (!hasWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen"); // nothing is shown, and there may be no display
     // Widgets follow the dots per inch of the screen, pictures stay at its pixels; so Qt does not scale by itself.
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
     application.setWindowIcon(QIcon(":/icons/workbench.svg"));
-    return line.record.isEmpty() ? RunWorkbench(line) : Record(line);
+    if (line.listPlugins)
+        return ListPlugins();
+    return hasWindow ? RunWorkbench(line) : Record(line);
 }

@@ -14,6 +14,8 @@
 #include "picturedesk.h"
 #include "picturedialogs.h"
 #include "picturemenus.h"
+#include "plugindialog.h"
+#include "pluginlist.h"
 #include "recordingdesk.h"
 #include "recordingfields.h"
 #include "recordingguard.h"
@@ -22,6 +24,7 @@
 #include "savesettings.h"
 #include "shownframes.h"
 #include "statusline.h"
+#include "uimanagerbase.h"
 #include "viewcodes.h"
 #include "viewmenu.h"
 #include "workbenchservices.h"
@@ -170,6 +173,9 @@ void MainWindow::BuildMenus()
     connect(m_viewMenu, SIGNAL(signalDrawingChosen(bool)), m_drawingGuard, SLOT(slotSetCPUDraw(bool)));
 
     QMenu *help = menuBar()->addMenu(tr("&Help"));
+    help->addAction(tr("&Plug-ins…"), [this] {
+        (new PluginDialog(UIManagerBase::PluginReports(), PluginList::Folders(), this))->open();
+    });
     help->addAction(tr("&About"), [this] { InformationDialog::ShowAbout(this); });
 
     // While the window fills the screen the menu bar is hidden, and its keys would be with it.

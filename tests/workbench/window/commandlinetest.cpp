@@ -36,6 +36,14 @@ private slots:
         QCOMPARE(line.scene, QString("spectrograph:tracks=5,smile=6"));
     }
 
+    void pluginsAreListedAlone()
+    {
+        QVERIFY(CommandLine::Parse({"workbench", "--list-plugins"}).listPlugins);
+        const CommandLine line = CommandLine::Parse({"workbench", "--list-plugins", "--frames", "3"});
+        QCOMPARE(line.action, CommandLine::Action::Fail);
+        QCOMPARE(line.text, QString("workbench: --list-plugins goes alone."));
+    }
+
     void pictureAloneNeedsOneFrame()
     {
         QCOMPARE(CommandLine::Parse({"workbench", "--screenshot", "x.png"}).frames, 1);

@@ -89,6 +89,25 @@ private slots:
         QVERIFY(outcome.errors.contains("could not be saved as"));
     }
 
+    void pluginsOfALabAreLoadedOrSaidWhyNot()
+    {
+        const QString folder = m_folder.filePath("lab/plugins/measure/ui");
+        QVERIFY(QDir().mkpath(folder));
+        for (const char *name : {"b_histogrampage.so", "n_otherqt.so", "o_throws.so"})
+            QVERIFY(QFile::copy(QDir(TEST_PLUGIN_FOLDER).filePath(name), QDir(folder).filePath(name)));
+        const Outcome outcome =
+            Run({"--list-plugins"}, {"DISPLAY=", "QT_QPA_PLATFORM=", "GLOBALUI_PLUGIN_PATH=" + m_folder.filePath("lab")});
+        QCOMPARE(outcome.exitCode, 1);
+        const QStringList lines = outcome.output.split('\n');
+        QVERIFY2(lines.contains("Histogram(Live)\t31\t" + folder + "/b_histogrampage.so\tLoaded"),
+                 qPrintable(outcome.output));
+        QVERIFY2(lines.contains("Test 46\t46\t" + folder
+                                + "/o_throws.so\tNot loaded: it failed when it was made: no lamp is connected"),
+                 qPrintable(outcome.output));
+        QVERIFY2(outcome.output.contains("n_otherqt.so\tNot loaded: it was built for Qt 5.99"),
+                 qPrintable(outcome.output));
+    }
+
     void faultySettingsDoNotStopTheStart()
     {
         QDir(m_folder.path()).mkpath("globalui-workbench");
