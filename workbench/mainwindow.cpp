@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "mainwindow.h"
 
+#include "camerafeaturetree.h"
 #include "camerafields.h"
 #include "cameralink.h"
 #include "cameramenu.h"
@@ -77,6 +78,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     , m_drawingGuard(new DrawingGuard(services->Config(), this))
     , m_recordingGuard(new RecordingGuard(services->Recording(), this))
     , m_cameraFields(new CameraFields(services->Link(), services->Cameras(), services->Region(), this))
+    , m_cameraFeatures(new CameraFeatureTree(services->Link(), this))
     , m_recordingFields(new RecordingFields(services->Recording()->Settings(), NameExample(services->Link()), this))
 {
     setObjectName("MainWindow");

@@ -5,6 +5,7 @@
 
 #include <QMainWindow>
 
+class CameraFeatureTree;
 class CameraFields;
 class DrawingGuard;
 class PictureMenus;
@@ -70,6 +71,7 @@ private:
     DrawingGuard *m_drawingGuard;
     RecordingGuard *m_recordingGuard;
     CameraFields *m_cameraFields;       ///< of the panels, which find them while the module is built
+    CameraFeatureTree *m_cameraFeatures; ///< likewise
     RecordingFields *m_recordingFields; ///< likewise
     QStackedWidget *m_centre = nullptr;
     QDockWidget *m_leftDock = nullptr;

@@ -25,6 +25,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTreeView>
 
 #include <memory>
 
@@ -72,9 +73,7 @@ private slots:
         QStringList texts;
         for (int i = 0; i < Tabs()->count(); ++i)
             texts << Tabs()->tabText(i);
-        QVERIFY(texts.startsWith("Camera"));
-        QCOMPARE(texts.at(1), QString("Adjustment"));
-        QCOMPARE(texts.last(), QString("Acquisition"));
+        QCOMPARE(texts, QStringList({"Camera", "Adjustment", "Hardware", "Acquisition"}));
         QVERIFY(Panel("CameraPanel"));
         QVERIFY(Panel("AcquisitionPanel"));
     }
@@ -84,6 +83,7 @@ private slots:
         QTest::addColumn<QString>("tab");
         QTest::addColumn<QString>("panel");
         QTest::newRow("camera") << "Camera" << "CameraPanel";
+        QTest::newRow("hardware") << "Hardware" << "HardwarePanel";
         QTest::newRow("acquisition") << "Acquisition" << "AcquisitionPanel";
     }
 
@@ -159,6 +159,33 @@ private slots:
         disconnect(connection);
         QVERIFY2(means.at(2) < 0.6 * before,
                  qPrintable(QString("%1, then %2 %3 %4").arg(before).arg(means[0]).arg(means[1]).arg(means[2])));
+    }
+
+    void featureIsFoundAndChanged()
+    {
+        ClickTab("Hardware");
+        auto *view = Panel("HardwarePanel")->findChild<QTreeView *>("treeFeatures");
+        QTRY_VERIFY(view->model()->rowCount() > 1);
+        QTest::keyClicks(Panel("HardwarePanel")->findChild<QLineEdit *>("lineEditSearch"), "trigger SOURCE");
+        QTRY_COMPARE(view->model()->rowCount(), 1);
+        const QModelIndex category = view->model()->index(0, 0);
+        QTRY_COMPARE(view->model()->rowCount(category), 2); // the software trigger's text names the source
+        QModelIndex value;
+        for (int i = 0; i < 2; ++i) {
+            if (view->model()->index(i, 0, category).data().toString() == "Trigger source")
+                value = view->model()->index(i, 1, category);
+        }
+        QVERIFY(value.isValid());
+        const QPersistentModelIndex source = value;
+        view->setFocus();
+        view->setCurrentIndex(value);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(value).center());
+        QTest::mouseDClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(value).center());
+        QComboBox *box = nullptr;
+        QTRY_VERIFY((box = view->viewport()->findChild<QComboBox *>()));
+        QTest::keyClick(box, Qt::Key_Down);
+        QTest::keyClick(box, Qt::Key_Return);
+        QTRY_COMPARE(source.data().toString(), QString("Software"));
     }
 
     void acquisitionIsWhatIsRecorded()

@@ -174,7 +174,7 @@ void CameraSession::Close()
     // A lost camera keeps each of these calls waiting. What the stream and the camera write into goes after them.
     Workers()->start([camera = std::exchange(m_camera, nullptr), stream = std::exchange(m_stream, nullptr),
                       receiver = std::exchange(m_receiver, nullptr),
-                      sensor = std::exchange(m_sensor, nullptr), stopping = std::exchange(m_stopping, {})] {
+                      sensor = std::exchange(m_sensor, nullptr), stopping = std::exchange(m_busy, {})] {
         if (stopping.valid())
             stopping.wait();
         ReleaseStream(stream);
@@ -197,7 +197,7 @@ bool CameraSession::CanReach(QString *error) const
         SetError(error, tr("No camera is open."));
         return false;
     }
-    WaitForStop(); // one call at a time
+    WaitForTurn(); // one call at a time
     if (IsControlLost()) {
         SetError(error, tr("The camera %1 does not answer. Check its cable and power.").arg(m_info.model));
         return false;
@@ -279,19 +279,31 @@ void CameraSession::Stop()
         m_sensor->Stop();
     if (IsControlLost())
         return;
-    auto stopped = std::make_shared<std::promise<void>>();
-    m_stopping = stopped->get_future().share();
-    Workers()->start([camera = ARV_CAMERA(g_object_ref(m_camera)), stopped] {
-        arv_camera_stop_acquisition(camera, nullptr);
-        g_object_unref(camera);
-        stopped->set_value();
-    });
+    Workers()->start(TurnFor([](ArvCamera *camera) { arv_camera_stop_acquisition(camera, nullptr); }));
 }
 
-void CameraSession::WaitForStop() const
+std::function<void()> CameraSession::TurnFor(const std::function<void(ArvCamera *)> &task)
 {
-    if (m_stopping.valid())
-        m_stopping.wait();
+    auto done = std::make_shared<std::promise<void>>();
+    const std::shared_future<void> before = std::exchange(m_busy, done->get_future().share());
+    const std::shared_ptr<ArvCamera> camera(ARV_CAMERA(g_object_ref(m_camera)), g_object_unref);
+    return [camera, before, done, task] {
+        if (before.valid())
+            before.wait();
+        task(camera.get());
+        done->set_value();
+    };
+}
+
+std::function<void()> CameraSession::TakeTurn(const std::function<void(ArvCamera *)> &task)
+{
+    return m_camera && !IsControlLost() ? TurnFor(task) : nullptr;
+}
+
+void CameraSession::WaitForTurn() const
+{
+    if (m_busy.valid())
+        m_busy.wait();
 }
 
 qint64 CameraSession::MillisecondsSinceLastFrame() const
@@ -320,7 +332,7 @@ bool CameraSession::ChangeFormat(const std::function<bool()> &change, QString *e
         return false;
     FrameSink *const sink = m_sink;
     Stop();
-    WaitForStop();
+    WaitForTurn();
     DropStream();
     const bool isChanged = change();
     return (!sink || Resume(sink, error)) && isChanged;

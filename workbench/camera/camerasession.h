@@ -62,6 +62,10 @@ public:
     bool SetRegion(const QRect &region, QString *error = nullptr);
     bool SetBinning(int binning, QString *error = nullptr);
 
+    /// The task with its turn to talk to the camera, for a worker to run: it waits for calls before it, and calls
+    /// after it wait for it, so it must be short. It must be run, or dropped. Null when the camera can't be reached.
+    std::function<void()> TakeTurn(const std::function<void(ArvCamera *)> &task);
+
     /// Waits until the workers have let go of all closed cameras, at most that long.
     static bool WaitForTeardown(int timeoutMs);
 
@@ -80,12 +84,13 @@ private:
     bool Resume(FrameSink *sink, QString *error);
     bool ChangeFormat(const std::function<bool()> &change, QString *error);
     bool CanReach(QString *error) const;
-    void WaitForStop() const;
+    std::function<void()> TurnFor(const std::function<void(ArvCamera *)> &task);
+    void WaitForTurn() const;
 
     ArvCamera *m_camera = nullptr;
     ArvStream *m_stream = nullptr;
     FrameSink *m_sink = nullptr;
-    std::shared_future<void> m_stopping;       ///< ready when a worker has stopped the camera
+    std::shared_future<void> m_busy; ///< ready when no worker talks to the camera any more
     std::shared_ptr<SimulatedSensor> m_sensor; ///< shared with the teardown worker
     std::shared_ptr<FrameReceiver> m_receiver; ///< likewise
     std::shared_ptr<ControlWatch> m_watch;

@@ -75,9 +75,10 @@ int OpenCamera::GetBitDepth() const
     return m_bitDepth;
 }
 
+/// Every GenICam camera has a feature tree.
 bool OpenCamera::HasHardwareSettings() const
 {
-    return false;
+    return true;
 }
 
 bool OpenCamera::IsSupportHorizontalMirror() const

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "araviserror.h"
+
+#include "camerafeatures.h"
+
+#include "cameralink.h"
+#include "camerasession.h"
+
+#include <QSet>
+
+namespace {
+constexpr int RefreshMs = 3000;
+/// So many are read before somebody else may talk to the camera.
+constexpr int FeaturesAtATime = 4;
+}
+
+/// One reading of the whole tree.
+struct CameraFeatures::Reading
+{
+    int camera = 0;
+    bool isListed = false;
+    QVector<CameraFeatureAccess::Place> places;
+    int next = 0;
+    QVector<CameraFeature> features;
+};
+
+CameraFeatures::CameraFeatures(CameraLink *link, QObject *parent)
+    : QObject(parent)
+    , m_link(link)
+{
+    m_worker.setMaxThreadCount(1);
+    m_timer.setInterval(RefreshMs);
+    connect(&m_timer, &QTimer::timeout, this, &CameraFeatures::slotRead);
+    connect(link, &CameraLink::signalStateChanged, this, &CameraFeatures::slotCameraStateChanged);
+}
+
+CameraFeatures::~CameraFeatures()
+{
+    m_worker.waitForDone();
+}
+
+bool CameraFeatures::IsSetElsewhere(const QString &name)
+{
+    static const QSet<QString> names{
+        "Width", "Height", "OffsetX", "OffsetY", "PixelFormat", "BinningHorizontal", "BinningVertical",
+        "AcquisitionMode", "AcquisitionStart", "AcquisitionStop", "AcquisitionAbort", "AcquisitionFrameRate",
+        "AcquisitionFrameRateAbs", "AcquisitionFrameRateEnable", "ExposureTime", "ExposureTimeAbs", "ExposureAuto",
+        "Gain", "GainRaw", "GainAbs", "GainAuto", "TLParamsLocked"};
+    return names.contains(name);
+}
+
+void CameraFeatures::SetWatched(bool watched)
+{
+    m_isWatched = watched;
+    if (!watched)
+        return m_timer.stop();
+    m_timer.start();
+    slotRead();
+}
+
+void CameraFeatures::slotCameraStateChanged()
+{
+    ++m_camera;
+    m_isReading = false;
+    if (m_link->Session())
+        slotRead();
+    else
+        emit signalRead({});
+}
+
+bool CameraFeatures::InWorker(const std::function<void(ArvCamera *)> &task)
+{
+    const std::function<void()> turn = m_link->Session() ? m_link->Session()->TakeTurn(task) : nullptr;
+    if (!turn)
+        return false;
+    m_worker.start(turn);
+    return true;
+}
+
+void CameraFeatures::slotRead()
+{
+    m_isStale = m_isReading;
+    if (!m_isWatched || m_isReading)
+        return;
+    auto reading = std::make_shared<Reading>();
+    reading->camera = m_camera;
+    ReadSome(reading);
+}
+
+void CameraFeatures::ReadSome(const std::shared_ptr<Reading> &reading)
+{
+    m_isReading = InWorker([this, reading](ArvCamera *camera) {
+        ArvDevice *const device = arv_camera_get_device(camera);
+        if (!reading->isListed)
+            reading->places = CameraFeatureAccess::List(device);
+        reading->isListed = true;
+        const int end = qMin(reading->next + FeaturesAtATime, reading->places.size());
+        for (; reading->next < end; ++reading->next) {
+            CameraFeature feature;
+            if (CameraFeatureAccess::Read(device, reading->places.at(reading->next), &feature))
+                reading->features.append(feature);
+        }
+        QMetaObject::invokeMethod(this, [this, reading] { TakeSome(reading); }, Qt::QueuedConnection);
+    });
+}
+
+void CameraFeatures::TakeSome(const std::shared_ptr<Reading> &reading)
+{
+    if (reading->camera != m_camera)
+        return;
+    if (reading->next < reading->places.size())
+        return ReadSome(reading);
+    m_isReading = false;
+    emit signalRead(reading->features);
+    if (m_isStale)
+        slotRead();
+}
+
+void CameraFeatures::Set(const CameraFeature &feature, const QVariant &value)
+{
+    if (IsSetElsewhere(feature.name) || !feature.isWritable)
+        return;
+    const int number = m_camera;
+    const bool isBegun = InWorker([this, feature, value, number](ArvCamera *camera) {
+        QString error;
+        CameraFeatureAccess::Write(arv_camera_get_device(camera), feature, value, &error);
+        QMetaObject::invokeMethod(
+            this,
+            [this, feature, error, number] {
+                if (number != m_camera)
+                    return;
+                emit signalFault(error.isEmpty() ? QString()
+                                                 : tr("%1 could not be set: %2").arg(feature.text, error));
+                slotRead();
+            },
+            Qt::QueuedConnection);
+    });
+    if (!isBegun)
+        emit signalFault(tr("%1 could not be set: the camera does not answer.").arg(feature.text));
+}
