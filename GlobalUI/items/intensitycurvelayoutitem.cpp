@@ -74,8 +74,22 @@ void IntensityCurveLayoutItem::EnsureCapacity(int count)
 void IntensityCurveLayoutItem::DrawContent(QPainter *painter)
 {
     painter->setPen(QPen(QBrush(curveColor), curvePenWidth, Qt::PenStyle(curvePenStyle)));
-    painter->drawLines(curveLines);
+    if (curvePenStyle == Qt::SolidLine)
+        painter->drawLines(curveLines);
+    else
+        painter->drawPolyline(CurvePoints()); // dashes begin anew with each line, and these are a pixel long
     DrawAnchor(painter);
+}
+
+QPolygonF IntensityCurveLayoutItem::CurvePoints() const
+{
+    QPolygonF points;
+    points.reserve(curveLines.size() + 1);
+    for (const QLineF &line : curveLines)
+        points.append(line.p1());
+    if (!curveLines.isEmpty())
+        points.append(curveLines.last().p2());
+    return points;
 }
 
 void IntensityCurveLayoutItem::mousePressEvent(QMouseEvent *event)

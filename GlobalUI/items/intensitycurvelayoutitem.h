@@ -5,6 +5,7 @@
 #include "intensitypolyline.h"
 
 #include <QCursor>
+#include <QPolygonF>
 
 /// A profile plot beside the spectrum image, with a line at the cross-section in the other direction.
 /// It keeps its own copy of the samples; new levels show with the next samples.
@@ -20,6 +21,8 @@ public:
     /// A Qt::PenStyle.
     void SetCurvePenStyle(int style);
     void SetCurveColor(QColor color);
+    /// Bits that the samples have beyond 8; the drawing goes by the levels alone.
+    int GetShift() const { return shift; }
 
 public slots:
     void updateCurve(ushort *data, int size);
@@ -63,4 +66,5 @@ protected:
 
 private:
     void ShowSamples();
+    QPolygonF CurvePoints() const;
 };

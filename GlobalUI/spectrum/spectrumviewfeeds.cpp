@@ -23,6 +23,7 @@
 #include <QDebug>
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -32,6 +33,12 @@ constexpr int SixteenBitDepth = 2;
 bool IsFinite(const QPointF &point)
 {
     return qIsFinite(point.x()) && qIsFinite(point.y());
+}
+
+/// Without the fraction, and no further than an int goes.
+int WholePixel(double place)
+{
+    return int(qBound(double(std::numeric_limits<int>::min()), place, double(std::numeric_limits<int>::max())));
 }
 
 /// A curve and what it is to show; the samples are read during the call only.
@@ -69,7 +76,7 @@ void SpectrumView::SlotPressPosChange(QPointF point, QRectF newRectf)
         return;
     MoveCross(point);
     m_lastRect = newRectf;
-    IntensityManager::GetInstance()->SetAnchorPoint(int(point.x()), int(point.y()), newRectf);
+    IntensityManager::GetInstance()->SetAnchorPoint(WholePixel(point.x()), WholePixel(point.y()), newRectf);
 }
 
 void SpectrumView::SlotPressPosChangeStatic(QPointF point, QRectF newRectf, bool getSpectrumFlag)
