@@ -3,6 +3,16 @@
 
 #include <QPainter>
 
+namespace {
+
+/// No widget is larger.
+int WholePixels(double length)
+{
+    return int(qBound(double(-QWIDGETSIZE_MAX), length, double(QWIDGETSIZE_MAX)));
+}
+
+} // namespace
+
 ComponentItem::ComponentItem(QWidget *parent)
     : QWidget(parent)
 {
@@ -12,7 +22,7 @@ void ComponentItem::SetItemSize(double width, double height)
 {
     if (!qIsFinite(width) || !qIsFinite(height))
         return;
-    itemSize = QSize(int(width), int(height));
+    itemSize = QSize(WholePixels(width), WholePixels(height));
     OnItemSizeChanged(itemSize);
 }
 

@@ -42,6 +42,7 @@ class TestComponentItem : public GuardedTest
 
 private slots:
     void sizeIsCutToWholePixels();
+    void sizeBeyondIntIsHeld();
     void contentLiesOverTheBorder();
     void itemSizeRulesThePainting();
 };
@@ -58,6 +59,19 @@ void TestComponentItem::sizeIsCutToWholePixels()
     item.SetItemSize(3, qInf());
     QCOMPARE(item.itemSize, QSize(399, 50));
     QCOMPARE(item.hooks, QStringList({"size"}));
+}
+
+void TestComponentItem::sizeBeyondIntIsHeld()
+{
+    NotingItem item;
+    item.SetItemSize(1e300, -1e300);
+    QCOMPARE(item.itemSize, QSize(QWIDGETSIZE_MAX, -QWIDGETSIZE_MAX));
+    item.SetItemSize(3e9, 20);
+    QCOMPARE(item.itemSize, QSize(QWIDGETSIZE_MAX, 20));
+    item.resize(50, 50);
+    QVERIFY(!item.grab().isNull());
+    item.SetItemSize(-7.9, 20.1);
+    QCOMPARE(item.itemSize, QSize(-7, 20));
 }
 
 void TestComponentItem::contentLiesOverTheBorder()

@@ -5,6 +5,7 @@
 
 #include "guardedtest.h"
 
+#include <QFontMetricsF>
 #include <QImage>
 
 #include <limits>
@@ -22,10 +23,65 @@ public:
         changedActualRect(QRectF(0, 0, 1000, 800), false);
         ApplyGeometry(QRect(0, 0, 500, 50));
     }
+    using RulerBarLayoutItem::axesSwapped;
+    using RulerBarLayoutItem::imageLength;
     using RulerBarLayoutItem::rangeMax;
     using RulerBarLayoutItem::rangeMin;
     using RulerBarLayoutItem::steps;
     using RulerBarLayoutItem::ticks;
+    using RulerBarLayoutItem::ticksHidden;
+    using RulerBarLayoutItem::visibleLength;
+    using RulerBarLayoutItem::visibleStart;
+};
+
+class VerticalRuler : public RulerBarVertical
+{
+public:
+    explicit VerticalRuler(const QString &title = QString(), bool fromBottom = false)
+        : RulerBarVertical(title, nullptr, fromBottom)
+    {
+        changedActualSize(QSize(800, 1000));
+        changedActualRect(QRectF(0, 0, 800, 1000), false);
+        ApplyGeometry(QRect(0, 0, 60, 500));
+    }
+    using RulerBarLayoutItem::axesSwapped;
+    using RulerBarLayoutItem::imageLength;
+    using RulerBarLayoutItem::ticks;
+    using RulerBarLayoutItem::ticksHidden;
+    using RulerBarLayoutItem::visibleLength;
+    using RulerBarLayoutItem::visibleStart;
+};
+
+/// As a ruler is born.
+class BornRuler : public RulerBarVertical
+{
+public:
+    BornRuler()
+        : RulerBarVertical("Rows", nullptr, true)
+    {
+    }
+    using ComponentItem::itemSize;
+    using RulerBarLayoutItem::axesSwapped;
+    using RulerBarLayoutItem::imageLength;
+    using RulerBarLayoutItem::imageSize;
+    using RulerBarLayoutItem::labelDecimals;
+    using RulerBarLayoutItem::majorDivisions;
+    using RulerBarLayoutItem::majorTickLength;
+    using RulerBarLayoutItem::minorDivisions;
+    using RulerBarLayoutItem::minorTickLength;
+    using RulerBarLayoutItem::penColor;
+    using RulerBarLayoutItem::penWidth;
+    using RulerBarLayoutItem::rangeMax;
+    using RulerBarLayoutItem::rangeMin;
+    using RulerBarLayoutItem::steps;
+    using RulerBarLayoutItem::ticks;
+    using RulerBarLayoutItem::ticksHidden;
+    using RulerBarLayoutItem::title;
+    using RulerBarLayoutItem::visibleLength;
+    using RulerBarLayoutItem::visibleRect;
+    using RulerBarLayoutItem::visibleStart;
+    using RulerBarLayoutItem::zoom;
+    using RulerBarVertical::bottomUp;
 };
 
 QImage Painted(QWidget *item)
@@ -52,6 +108,7 @@ class TestRulerBar : public GuardedTest
     Q_OBJECT
 
 private slots:
+    void bornAs();
     void ranges_data();
     void ranges();
     void rangeLabels();
@@ -60,7 +117,42 @@ private slots:
     void horizontalIsPainted();
     void verticalIsPainted();
     void titleIsPainted();
+    void verticalTitleReadsUpwards();
+    void swappedAxes();
+    void hiddenTicks();
+    void redSheetIsNotPainted();
 };
+
+void TestRulerBar::bornAs()
+{
+    const BornRuler ruler;
+    QCOMPARE(ruler.penWidth, 1);
+    QCOMPARE(ruler.penColor, QColor(Qt::white));
+    QCOMPARE(ruler.title, QString("Rows"));
+    QCOMPARE(ruler.majorDivisions, 5);
+    QCOMPARE(ruler.minorDivisions, 5);
+    QCOMPARE(ruler.steps.majorCount, 5);
+    QCOMPARE(ruler.steps.minorsPerMajor, 5);
+    QCOMPARE(ruler.steps.majorStep, 1);
+    QCOMPARE(ruler.steps.minorStep, 1);
+    QCOMPARE(ruler.steps.scale, 1.0);
+    QCOMPARE(ruler.steps.minorStepPx, 1.0);
+    QCOMPARE(ruler.majorTickLength, 6);
+    QCOMPARE(ruler.minorTickLength, 3);
+    QCOMPARE(ruler.imageSize, QSize(400, 400));
+    QCOMPARE(ruler.visibleRect, QRect(0, 0, 400, 400));
+    QVERIFY(ruler.ticks.lines.isEmpty() && ruler.ticks.majorLines.isEmpty() && ruler.ticks.labels.isEmpty());
+    QCOMPARE(ruler.labelDecimals, 0);
+    QCOMPARE(ruler.rangeMin, -1.0);
+    QCOMPARE(ruler.rangeMax, -1.0);
+    QCOMPARE(ruler.zoom, 1.0);
+    QVERIFY(!ruler.axesSwapped && !ruler.ticksHidden && ruler.bottomUp);
+    QCOMPARE(ruler.imageLength, 400);
+    QCOMPARE(ruler.visibleLength, 400);
+    QCOMPARE(ruler.visibleStart, 0);
+    QCOMPARE(ruler.itemSize, QSize(400, 400));
+    QCOMPARE(HorizontalRuler().styleSheet(), QString("background-color:rgb(255,0,0)"));
+}
 
 void TestRulerBar::ranges_data()
 {
@@ -152,6 +244,77 @@ void TestRulerBar::titleIsPainted()
     QCOMPARE(WhitePixels(Painted(&ruler), titlePlace), 0);
     ruler.changedTitleName("Gray");
     QVERIFY(WhitePixels(Painted(&ruler), titlePlace) > 0);
+}
+
+void TestRulerBar::verticalTitleReadsUpwards()
+{
+    VerticalRuler ruler;
+    const QImage before = Painted(&ruler);
+    ruler.changedTitleName("Wavelength");
+    const QImage after = Painted(&ruler);
+    QRect title;
+    for (int y = 0; y < after.height(); ++y)
+        for (int x = 0; x < after.width(); ++x)
+            if (after.pixel(x, y) != before.pixel(x, y))
+                title |= QRect(x, y, 1, 1);
+    QFont font = ruler.font();
+    font.setPixelSize(GlobalClass::GetActualSize(12));
+    const QFontMetricsF metrics(font);
+    const double width = metrics.horizontalAdvance("Wavelength");
+    // Higher than wide, in the middle of the height, above a baseline that stands upright.
+    QVERIFY(qAbs(title.height() - width) <= 4.0);
+    QVERIFY(qAbs(title.center().y() - 250.0) <= 3.0);
+    QVERIFY(title.right() <= int(metrics.height() + 4.0) + int(metrics.descent()));
+    QVERIFY(title.left() >= int(metrics.height() + 4.0) - int(metrics.ascent()) - 1);
+    // It begins below: the tall W takes more of the lower end than the small letters of the upper one.
+    QVERIFY(WhitePixels(after, QRect(title.left(), title.bottom() - 11, 4, 12))
+            > WhitePixels(after, QRect(title.left(), title.top(), 4, 12)));
+}
+
+void TestRulerBar::swappedAxes()
+{
+    const QSize image(1000, 800);
+    const QRectF visible(100, 50, 500, 300);
+    HorizontalRuler horizontal;
+    VerticalRuler vertical;
+    for (const bool swapped : {false, true}) {
+        horizontal.axesSwapped = vertical.axesSwapped = swapped;
+        horizontal.changedActualSize(image);
+        horizontal.changedActualRect(visible, true);
+        vertical.changedActualSize(image);
+        vertical.changedActualRect(visible, true);
+        QCOMPARE(horizontal.imageLength, swapped ? 800 : 1000);
+        QCOMPARE(horizontal.visibleStart, swapped ? 50 : 100);
+        QCOMPARE(horizontal.visibleLength, swapped ? 300 : 500);
+        QCOMPARE(vertical.imageLength, swapped ? 1000 : 800);
+        QCOMPARE(vertical.visibleStart, swapped ? 100 : 50);
+        QCOMPARE(vertical.visibleLength, swapped ? 500 : 300);
+    }
+}
+
+void TestRulerBar::hiddenTicks()
+{
+    VerticalRuler vertical;
+    QVERIFY(!vertical.ticks.lines.isEmpty());
+    vertical.ticksHidden = true;
+    vertical.changedActualRect(QRectF(0, 0, 800, 1000), true);
+    QVERIFY(vertical.ticks.lines.isEmpty() && vertical.ticks.majorLines.isEmpty() && vertical.ticks.labels.isEmpty());
+    QCOMPARE(WhitePixels(Painted(&vertical), vertical.rect()), 0);
+    HorizontalRuler horizontal; // which knows no hiding
+    horizontal.ticksHidden = true;
+    horizontal.changedActualRect(QRectF(0, 0, 1000, 800), true);
+    QVERIFY(!horizontal.ticks.lines.isEmpty());
+}
+
+void TestRulerBar::redSheetIsNotPainted()
+{
+    QWidget page;
+    page.resize(500, 50);
+    auto *ruler = new HorizontalRuler;
+    ruler->setParent(&page);
+    const QImage image = page.grab().toImage();
+    for (int x = 0; x < image.width(); ++x)
+        QVERIFY(image.pixelColor(x, 45) != QColor(255, 0, 0));
 }
 
 GUARDED_TEST_MAIN(TestRulerBar)

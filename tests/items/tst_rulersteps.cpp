@@ -26,6 +26,7 @@ private slots:
     void verticalTicksFromTheTop();
     void verticalTicksFromTheBottom();
     void randomHorizontalTicks();
+    void randomVerticalTicks();
     void labelOrigins();
     void titleOrigins();
 };
@@ -190,6 +191,46 @@ void TestRulerSteps::randomHorizontalTicks()
         QCOMPARE(ticks.lines, lines);
         QCOMPARE(ticks.labels, labels);
         QCOMPARE(ticks.majorLines.size(), labels.size());
+    }
+}
+
+/// By counting: ticks stand a minor step apart, from the upper edge down or from below the lower edge up, and are
+/// numbered on from the first whole step after the start.
+void TestRulerSteps::randomVerticalTicks()
+{
+    QRandomGenerator random(20261);
+    for (int round = 0; round < 500; ++round) {
+        const int visible = random.bounded(1, 6000);
+        const int scale = random.bounded(1, 4); // whole, so that every place is exact
+        const int start = random.bounded(-3000, 3000);
+        const int height = visible * scale;
+        const RulerSteps steps = ComputeRulerSteps(9000, visible, height, 5, 5);
+        const int apart = steps.minorStep * scale;
+        int firstStep = -3000;
+        while (firstStep * steps.minorStep < start)
+            ++firstStep;
+        const int firstOffset = firstStep * apart - start * scale;
+        const int end = height + 1 - firstOffset;
+        for (const bool bottomUp : {false, true}) {
+            QVector<QLineF> lines;
+            QVector<QLineF> labelled;
+            QStringList labels;
+            for (int tick = 0; tick * apart < end; ++tick) {
+                const int y = bottomUp ? end - tick * apart : tick * apart;
+                const int index = firstStep + tick;
+                const bool major = index % steps.minorsPerMajor == 0;
+                lines.append(QLineF(60, y, major ? 54 : 57, y));
+                if (!major || (bottomUp ? tick == 0 : y <= firstOffset))
+                    continue;
+                labelled.append(lines.last());
+                labels.append(QString::number(index * steps.minorStep));
+            }
+            RulerTicks ticks;
+            BuildVerticalTicks(steps, {double(steps.minorStep), 0, 0}, {QSize(60, height), start, 1.0, 6, 3}, bottomUp, &ticks);
+            QCOMPARE(ticks.lines, lines);
+            QCOMPARE(ticks.majorLines, labelled);
+            QCOMPARE(ticks.labels, labels);
+        }
     }
 }
 

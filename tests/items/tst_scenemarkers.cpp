@@ -43,12 +43,59 @@ class TestSceneMarkers : public GuardedTest
     Q_OBJECT
 
 private slots:
+    void bornAs();
+    void crossAtEveryZoom_data();
+    void crossAtEveryZoom();
     void crossRunsThroughThePixel();
     void boundingRects();
     void sceneWithoutRectangle();
     void area();
     void areaWithoutCorner();
 };
+
+void TestSceneMarkers::bornAs()
+{
+    const CrossItem cross(nullptr);
+    QCOMPARE(cross.halfSize, 20);
+    QCOMPARE(cross.penWidth, 1);
+    QCOMPARE(cross.color, QColor(Qt::white));
+    QCOMPARE(cross.center, QPointF(0, 0));
+    QCOMPARE(cross.previousCenter, QPointF(0, 0));
+    QCOMPARE(cross.pressPoint, QPointF(0, 0));
+    QCOMPARE(cross.movePoint, QPointF(0, 0));
+}
+
+void TestSceneMarkers::crossAtEveryZoom_data()
+{
+    QTest::addColumn<double>("zoom");
+    for (double zoom : {0.25, 1.0, 4.0, 32.0})
+        QTest::addRow("%g", zoom) << zoom;
+}
+
+/// In the view itself: 16 screen pixels to each side, one screen pixel wide.
+void TestSceneMarkers::crossAtEveryZoom()
+{
+    QFETCH(double, zoom);
+    QGraphicsView view;
+    view.resize(200, 200);
+    auto *scene = new QGraphicsScene(0, 0, 1000, 1000, &view);
+    scene->setBackgroundBrush(Qt::black);
+    view.setScene(scene);
+    view.scale(zoom, zoom);
+    auto *cross = new CrossItem(nullptr);
+    scene->addItem(cross);
+    cross->center = QPointF(500.2, 500.2);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    view.centerOn(500.5, 500.5);
+    const QImage image = view.viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    const QRect drawn = Drawn(image);
+    QVERIFY2(qAbs(drawn.width() - 33) <= 1 && qAbs(drawn.height() - 33) <= 1, qPrintable(QString::number(drawn.width())));
+    int white = 0;
+    for (int x = drawn.left(); x <= drawn.right(); ++x)
+        white += image.pixelColor(x, drawn.top() + 3) == QColor(Qt::black) ? 0 : 1;
+    QCOMPARE(white, 1);
+}
 
 void TestSceneMarkers::crossRunsThroughThePixel()
 {

@@ -10,6 +10,8 @@
 #include "plotpage.h"
 #include "shellfixture.h"
 
+#include <QApplication>
+#include <QMouseEvent>
 #include <QSignalSpy>
 
 /// The page with the spectrum image in the two stacks.
@@ -19,6 +21,7 @@ class SpectrumStackViewsTest : public GuardedTest
 
 private slots:
     void pictureIsRefittedAfterAResize();
+    void dragsClicksAndStepsBack();
     void wiresOfTheLiveView();
     void liveProfilesAreQueued();
     void wiresOfThePicturesView();
@@ -41,6 +44,42 @@ void SpectrumStackViewsTest::pictureIsRefittedAfterAResize()
     stack.setCurrentIndex(1); // behind another page too
     stack.resize(1040, 580);
     QTRY_COMPARE(view->size(), QSize(900, 300));
+}
+
+void SpectrumStackViewsTest::dragsClicksAndStepsBack()
+{
+    const DisplayScale scale(1.0);
+    ShellServices services;
+    CameraSpectrumStackedWidget stack(nullptr);
+    stack.resize(740, 580); // leaves 600 x 400
+    stack.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&stack));
+    QWidget *image = stack.findChild<SpectrumView *>()->GetDrawView()->viewport();
+    const auto drag = [image](const QPoint &from, const QPoint &to) {
+        CallLog::Clear();
+        QTest::mousePress(image, Qt::LeftButton, Qt::NoModifier, from);
+        QMouseEvent move(QEvent::MouseMove, to, image->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(image, &move);
+        QTest::mouseRelease(image, Qt::LeftButton, Qt::NoModifier, to);
+    };
+    const QString area = "SpectrumUIManager::SlotNewArea(%1)";
+    const QString pick = "IntensityManager::SetAnchorPoint(%1)";
+    const QString noExpansion = "DisplayModeUIManager::SetImageExpansionAreaFlag(false)";
+
+    CallLog::Clear();
+    emit services.preview.signalPreviewImage(GreyPicture(QSize(1200, 400)));
+    QCOMPARE(CallLog::Calls(),
+             QStringList({ noExpansion, area.arg("0, 1200, 0, 400"), pick.arg("600, 200, (0, 0, 1, 1)") }));
+    drag(QPoint(100, 50), QPoint(100, 50));
+    QCOMPARE(CallLog::Calls(), QStringList(pick.arg("200, 100, (0, 0, 1, 1)")));
+    drag(QPoint(100, 50), QPoint(250, 150));
+    QCOMPARE(CallLog::Calls(), QStringList({ noExpansion, area.arg("200, 500, 100, 300"),
+                                             pick.arg("350, 200, (0.166667, 0.25, 0.416667, 0.75)") }));
+    drag(QPoint(500, 300), QPoint(505, 500)); // 5 pixels across: a click
+    QCOMPARE(CallLog::Calls(), QStringList(pick.arg("252, 250, (0.166667, 0.25, 0.416667, 0.75)")));
+    drag(QPoint(600, 400), QPoint(500, 300));
+    QCOMPARE(CallLog::Calls(), QStringList({ noExpansion, area.arg("0, 1200, 0, 400"),
+                                             pick.arg("600, 200, (0, 0, 1, 1)") }));
 }
 
 void SpectrumStackViewsTest::wiresOfTheLiveView()

@@ -1,72 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "crossitem.h"
-#include "gradientcolorlayoutitem.h"
 #include "guardedtest.h"
-#include "intensitycurvehorizontal.h"
-#include "intensitycurvevertical.h"
-#include "rulerbarhorizontal.h"
-#include "rulerbarvertical.h"
-#include "spectrumpage.h"
+#include "spectrumpieces.h"
 
-#include <QGraphicsScene>
 #include <QMetaMethod>
-#include <QVBoxLayout>
-
-namespace {
-
-/// The pieces of the page.
-struct Pieces
-{
-    explicit Pieces(const SpectrumPage &p)
-        : colorBar(p.page->findChild<GradientColorLayoutItem *>())
-        , verticalRuler(p.page->findChild<RulerBarVertical *>())
-        , verticalCurve(p.page->findChild<IntensityCurveVertical *>())
-        , horizontalCurve(p.page->findChild<IntensityCurveHorizontal *>())
-        , layout(qobject_cast<QVBoxLayout *>(p.page->layout()))
-        , grayRuler(qobject_cast<RulerBarHorizontal *>(layout->itemAt(1)->widget()))
-        , pixelRuler(qobject_cast<RulerBarHorizontal *>(layout->itemAt(4)->layout()->itemAt(0)->widget()))
-        , cross(dynamic_cast<CrossItem *>(p.view->scene()->items().value(0)))
-        , frame(p.frame)
-    {
-    }
-
-    /// Axes, curves, colour card, frame and cross, as they are shown.
-    QString Shown() const
-    {
-        QStringList shown;
-        const auto add = [&shown](const QWidget *first, const QWidget *second, const QString &name) {
-            if (first->isVisibleTo(first->parentWidget()) && second->isVisibleTo(second->parentWidget()))
-                shown << name;
-            else if (!first->isHidden() || !second->isHidden())
-                shown << "half of " + name;
-        };
-        add(verticalRuler, pixelRuler, "axes");
-        add(verticalCurve, horizontalCurve, "curves");
-        add(grayRuler, colorBar, "card");
-        if (!frame->isHidden() && frame->isEnabled())
-            shown << "frame";
-        if (cross->isVisible())
-            shown << "cross";
-        return shown.join(", ");
-    }
-
-    GradientColorLayoutItem *colorBar;
-    RulerBarVertical *verticalRuler;
-    IntensityCurveVertical *verticalCurve;
-    IntensityCurveHorizontal *horizontalCurve;
-    QVBoxLayout *layout;
-    RulerBarHorizontal *grayRuler;
-    RulerBarHorizontal *pixelRuler;
-    CrossItem *cross;
-    SpectrumDrawFrameBase *frame;
-};
-
-int LeftMargin(const Pieces &pieces, int row)
-{
-    return pieces.layout->itemAt(row)->layout()->contentsMargins().left();
-}
-
-} // namespace
 
 /// The spectrum page: what it is made of, where it puts its pieces, and when it shows them.
 class TestSpectrumView : public GuardedTest
@@ -84,15 +20,6 @@ private slots:
     void piecesTakeTheSizeOfTheImage();
     void piecesStandAroundTheImage();
     void emptyPage();
-    void leftMarginOfTheLowerRows_data();
-    void leftMarginOfTheLowerRows();
-    void settingsWithoutACamera();
-    void settingsOfALivePage();
-    void settingsOfAStillPage_data();
-    void settingsOfAStillPage();
-    void leavingTheUseAreaIsGeneral_data();
-    void leavingTheUseAreaIsGeneral();
-    void resetHidesEverything();
     void showEnablesUpdates();
     void pageMayBecomeSmaller();
 };
@@ -265,134 +192,6 @@ void TestSpectrumView::emptyPage()
     SpectrumPage p(QSize(20, 20));
     p.page->SlotImageViewChange(QSize(100, 100)); // the page is narrower than its margins
     QCOMPARE(Pieces(p).colorBar->width(), 0);
-}
-
-void TestSpectrumView::leftMarginOfTheLowerRows_data()
-{
-    QTest::addColumn<bool>("axis");
-    QTest::addColumn<bool>("curve");
-    QTest::addColumn<int>("left");
-    QTest::newRow("all") << true << true << 110;
-    QTest::newRow("no axes") << false << true << 50;
-    QTest::newRow("no curves") << true << false << 60;
-    QTest::newRow("neither") << false << false << 0;
-}
-
-void TestSpectrumView::leftMarginOfTheLowerRows()
-{
-    QFETCH(bool, axis);
-    QFETCH(bool, curve);
-    const auto prepare = [=](FakeServices &services) {
-        services.useArea.axisVisible = axis;
-        services.useArea.curveVisible = curve;
-    };
-    SpectrumPage born(QSize(740, 580), prepare);
-    const Pieces bornPieces(born);
-    QTEST(LeftMargin(bornPieces, 4), "left");
-    QTEST(LeftMargin(bornPieces, 5), "left");
-}
-
-void TestSpectrumView::settingsWithoutACamera()
-{
-    FakeServices services;
-    const DisplayScale scale(1.0);
-    SpectrumView page(nullptr);
-    page.resize(740, 580);
-    page.GetDrawView()->slotPaintPreview(SpectrumPage::Picture(QSize(1200, 400)));
-    auto *frame = page.findChild<SpectrumDrawFrameBase *>();
-    QVERIFY(!frame->isHidden());
-    services.useArea.axisVisible = false;
-    page.SlotSpectrumUIChange();
-    QVERIFY(frame->isHidden());
-    QVERIFY(!frame->isEnabled());
-    QVERIFY(page.findChild<IntensityCurveVertical *>()->isHidden());
-    QCOMPARE(page.layout()->itemAt(4)->layout()->contentsMargins().left(), 110); // as before
-}
-
-void TestSpectrumView::settingsOfALivePage()
-{
-    SpectrumPage p;
-    const Pieces pieces(p);
-    p.ShowLive(QSize(1200, 400));
-    p.LogSignals();
-    p.services.useArea.axisVisible = false;
-    p.page->SlotSpectrumUIChange();
-    QCOMPARE(pieces.Shown(), QString("curves, card, frame, cross"));
-    QCOMPARE(LeftMargin(pieces, 4), 50);
-    QCOMPARE(LeftMargin(pieces, 5), 50);
-    QCOMPARE(p.frame->size(), QSize(660, 220)); // the image takes the room
-    QCOMPARE(CallLog::Calls().filter("Manager::"), QStringList());
-    p.services.useArea.curveVisible = p.services.useArea.colorCardVisible = false;
-    p.page->SlotSpectrumUIChange();
-    QCOMPARE(pieces.Shown(), QString("frame, cross"));
-    p.services.useArea.axisVisible = p.services.useArea.curveVisible = p.services.useArea.colorCardVisible = true;
-    p.page->SlotSpectrumUIChange();
-    QCOMPARE(pieces.Shown(), QString("axes, curves, card, frame, cross"));
-    QCOMPARE(LeftMargin(pieces, 4), 110);
-    QCOMPARE(p.frame->size(), QSize(600, 200));
-}
-
-void TestSpectrumView::settingsOfAStillPage_data()
-{
-    QTest::addColumn<bool>("open");
-    QTest::addColumn<QStringList>("calls");
-    QTest::newRow("a picture is open") << true << QStringList("ImageManager::DrawImage()");
-    QTest::newRow("nothing is open") << false << QStringList();
-}
-
-void TestSpectrumView::settingsOfAStillPage()
-{
-    QFETCH(bool, open);
-    SpectrumPage p;
-    const Pieces pieces(p);
-    p.page->SetStaticMode(true);
-    p.view->SetStaticMode(true);
-    p.services.mainImage.nonImage = false;
-    p.view->slotPaintStaticPreview(p.Picture(QSize(1200, 400)));
-    p.services.mainImage.nonImage = !open;
-    p.services.useArea.axisVisible = false;
-    CallLog::Clear();
-    p.page->SlotSpectrumUIChange();
-    QTEST(CallLog::Calls(), "calls");
-    QCOMPARE(LeftMargin(pieces, 4), 50);
-    QCOMPARE(LeftMargin(pieces, 5), 50);
-    QCOMPARE(pieces.Shown(), QString(open ? "curves, card, frame, cross" : "axes, curves, card, frame, cross"));
-    QCOMPARE(p.frame->width(), open ? 660 : 600);
-}
-
-void TestSpectrumView::leavingTheUseAreaIsGeneral_data()
-{
-    QTest::addColumn<int>("useArea");
-    QTest::addColumn<bool>("hidden");
-    QTest::addColumn<int>("calls");
-    QTest::newRow("spectrum") << 1 << false << 0;
-    QTest::newRow("spectrum, hidden") << 1 << true << 1;
-    QTest::newRow("other") << 0 << false << 1;
-}
-
-void TestSpectrumView::leavingTheUseAreaIsGeneral()
-{
-    QFETCH(int, useArea);
-    QFETCH(bool, hidden);
-    SpectrumPage p;
-    p.services.useArea.useAreaType = useArea;
-    p.services.useArea.spectrumHidden = hidden;
-    CallLog::Clear();
-    p.page->SlotSpectrumUIChange();
-    QTEST(CallLog::Count("SpectrumUIManager::SetDisplayModeGeneral()"), "calls");
-}
-
-void TestSpectrumView::resetHidesEverything()
-{
-    SpectrumPage p;
-    const Pieces pieces(p);
-    p.ShowLive(QSize(1200, 400));
-    p.page->slotResetImageInfo();
-    QCOMPARE(pieces.Shown(), QString());
-    QVERIFY(!p.frame->isEnabled());
-    QVERIFY(p.frame->isHidden());
-    p.ShowLive(QSize(600, 400));
-    QCOMPARE(pieces.Shown(), QString("axes, curves, card, frame, cross"));
 }
 
 void TestSpectrumView::showEnablesUpdates()
