@@ -37,6 +37,12 @@ Span InPicture(Span span, double side)
     return span;
 }
 
+/// Cut to whole screen pixels, but never to none.
+QSize ScaledSize(const QSize &size, float scale)
+{
+    return QSize(int(size.width() * scale), int(size.height() * scale)).expandedTo(QSize(1, 1));
+}
+
 double NearestInSide(double place, int side)
 {
     return std::min(std::max(place, 0.0), std::nextafter(double(side), 0.0));
@@ -60,7 +66,7 @@ FittedPicture FitPicture(const QSize &pictureSize, const QSize &freeSpace)
 {
     const auto scale = float(std::min(double(freeSpace.width()) / pictureSize.width(),
                                       double(freeSpace.height()) / pictureSize.height()));
-    const QSize viewSize(int(pictureSize.width() * scale), int(std::max(double(pictureSize.height() * scale), 1.0)));
+    const QSize viewSize = ScaledSize(pictureSize, scale);
     return { scale, viewSize, viewSize.boundedTo(freeSpace) };
 }
 
@@ -68,12 +74,11 @@ PlacedPicture PlacePicture(const QRectF &target, const ZoomState &level, int lev
                            const QSize &freeSpace)
 {
     const float scale = level.scale;
-    const QSize targetPixels = target.size().toSize();
-    const QSize targetSize(int(targetPixels.width() * scale), int(targetPixels.height() * scale));
+    const QSize targetSize = ScaledSize(target.size().toSize(), scale);
     PlacedPicture placed;
     const bool isSmall = targetSize.width() < freeSpace.width() && targetSize.height() < freeSpace.height();
     placed.shown = isSmall && levelCount > 1 ? freeSpace : targetSize.boundedTo(freeSpace);
-    placed.viewSize = QSize(int(pictureSize.width() * scale), int(pictureSize.height() * scale));
+    placed.viewSize = ScaledSize(pictureSize, scale);
 
     const QPointF centre(placed.viewSize.width() * (level.centre.x() / pictureSize.width()),
                          placed.viewSize.height() * (level.centre.y() / pictureSize.height()));

@@ -169,7 +169,7 @@ void SpectrumView::SlotImageViewChange(QSize size)
     m_grayRuler->setFixedWidth(barWidth);
     m_grayRuler->ApplyGeometry(m_grayRuler->geometry());
 
-    SetRulerSize(GetDrawView()->GetImageSize());
+    SetRulerSize(GetDrawView()->scene()->backgroundBrush().texture().size());
     m_verticalCurve->SetItemSize(m_verticalCurve->width(), size.height());
     m_verticalCurve->setFixedHeight(size.height());
     m_verticalRuler->setFixedHeight(size.height());

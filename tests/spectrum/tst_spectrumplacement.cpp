@@ -80,6 +80,7 @@ void TestSpectrumPlacement::fit_data()
     QTest::newRow("small") << QSize(60, 10) << 10.0F << QSize(600, 100);
     QTest::newRow("cut to whole pixels") << QSize(700, 467) << 400.0F / 467.0F << QSize(599, 400);
     QTest::newRow("at least one row") << QSize(6000, 4) << 0.1F << QSize(600, 1);
+    QTest::newRow("at least one column") << QSize(4, 6000) << 400.0F / 6000.0F << QSize(1, 400);
 }
 
 void TestSpectrumPlacement::fit()
@@ -151,6 +152,10 @@ void TestSpectrumPlacement::wholePixelsOfTheTarget()
     const ZoomState level{ 3.0F, target.center(), target };
     QCOMPARE(PlacePicture(target, level, 1, picture, FreeSpace).shown, QSize(300, 150));
     QCOMPARE(PlacePicture(target, level, 2, picture, FreeSpace).shown, FreeSpace);
+    // Of a picture of few rows one is left.
+    const ZoomState low{ 0.1F, QPointF(3000, 2), QRectF(0, 0, 6000, 4) };
+    QCOMPARE(PlacePicture(low.rect, low, 1, QSize(6000, 4), FreeSpace).viewSize, QSize(600, 1));
+    QCOMPARE(PlacePicture(low.rect, low, 1, QSize(6000, 4), FreeSpace).shown, QSize(600, 1));
     // Larger in one direction: as much as there is room for.
     QCOMPARE(PlacePicture(QRectF(0, 0, 300, 50), level, 2, picture, FreeSpace).shown, QSize(600, 150));
 }
