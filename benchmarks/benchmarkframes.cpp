@@ -10,12 +10,12 @@ constexpr int FrameCount = 4;
 constexpr quint32 Seed = 1;
 } // namespace
 
-QVector<QImage> RandomFrames(int side, QImage::Format format)
+QVector<QImage> RandomFrames(const QSize &size, QImage::Format format)
 {
     QVector<QImage> frames;
     QRandomGenerator random(Seed);
     for (int i = 0; i < FrameCount; ++i) {
-        QImage frame(side, side, format);
+        QImage frame(size, format);
         random.fillRange(reinterpret_cast<quint32 *>(frame.bits()), frame.sizeInBytes() / 4);
         frames << frame;
     }

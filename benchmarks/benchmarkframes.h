@@ -4,12 +4,13 @@
 #include "sampleview.h"
 
 #include <QImage>
+#include <QSize>
 #include <QVector>
 
 #include <vector>
 
 /// Frames to show in turn, so that none is drawn from a cache: random bytes, Grayscale8 or RGB888.
-QVector<QImage> RandomFrames(int side, QImage::Format format);
+QVector<QImage> RandomFrames(const QSize &size, QImage::Format format);
 
 /// A 16-bit frame as a camera sends it: the simulated specimen.
 class SpecimenFrame

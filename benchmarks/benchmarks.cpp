@@ -5,6 +5,7 @@ QVector<BenchmarkGroup> BenchmarkGroups()
 {
     return {{"cpuframe", BenchmarkCpuFrame}, {"gpuframe", BenchmarkGpuFrame}, {"zoom", BenchmarkZoom},
             {"levels", BenchmarkLevels},     {"stack", BenchmarkStack},       {"items", BenchmarkItems},
+            {"spectrum", BenchmarkSpectrumFrame},
             {"record", BenchmarkRecord},
             {"start", BenchmarkStart}};
 }

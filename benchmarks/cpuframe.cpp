@@ -46,7 +46,7 @@ QVector<BenchmarkResult> BenchmarkCpuFrame()
 {
     QVector<BenchmarkResult> results;
     for (int side : {2048, 4096}) {
-        const QVector<QImage> frames = RandomFrames(side, QImage::Format_Grayscale8);
+        const QVector<QImage> frames = RandomFrames(QSize(side, side), QImage::Format_Grayscale8);
         BareView bare(side);
         ModuleView module(ModuleView::Drawing::Cpu);
         module.Show(frames.first());

@@ -14,7 +14,7 @@ constexpr int Rounds = 60;
 
 BenchmarkResult MeasureGpuFrame(int side, QImage::Format format, const QString &kind)
 {
-    const QVector<QImage> frames = RandomFrames(side, format);
+    const QVector<QImage> frames = RandomFrames(QSize(side, side), format);
     ModuleView module(ModuleView::Drawing::Gpu);
     module.Show(frames.first());
     QApplication::processEvents();

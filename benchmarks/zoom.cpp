@@ -39,7 +39,7 @@ void Mouse(DrawViewBase *view, QEvent::Type type, const QPoint &screenPos)
 
 QVector<BenchmarkResult> MeasureZoom(ModuleView::Drawing drawing, const QString &name)
 {
-    const QImage frame = RandomFrames(Side, QImage::Format_Grayscale8).first();
+    const QImage frame = RandomFrames(QSize(Side, Side), QImage::Format_Grayscale8).first();
     ModuleView module(drawing);
     DrawViewBase *view = module.View();
     module.Show(frame);

@@ -264,7 +264,7 @@
     </message>
     <message>
         <source>Pixel Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Pixelnummer</translation>
     </message>
     <message>
         <source>Series Position</source>
@@ -276,10 +276,14 @@
     </message>
 </context>
 <context>
-    <name>SpectrumStackedWidgetBase</name>
+    <name>SpectrumView</name>
     <message>
-        <source>The spectrum image is not part of this version.</source>
-        <translation type="unfinished"></translation>
+        <source>Pixel Number</source>
+        <translation>Pixelnummer</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Grau</translation>
     </message>
 </context>
 <context>
