@@ -28,11 +28,20 @@ RulerBarLayoutItem::RulerBarLayoutItem(const QString &titleName, QWidget *parent
 
 void RulerBarLayoutItem::ApplyGeometry(QRect rect)
 {
+    if (itemSize != rect.size())
+        update();
     itemSize = rect.size();
     setGeometry(rect);
     ComputeSteps();
+    RebuildTicks();
+}
+
+void RulerBarLayoutItem::RebuildTicks()
+{
+    const RulerTicks before = ticks;
     BuildTicks();
-    update();
+    if (!(ticks == before))
+        update();
 }
 
 void RulerBarLayoutItem::changedActualSize(QSize size)
@@ -52,8 +61,7 @@ void RulerBarLayoutItem::changedActualRect(QRectF rect, bool change)
         qFuzzyCompare(double(previous.width()), rect.width()) && qFuzzyCompare(double(previous.height()), rect.height());
     if (!sameSize || change)
         ComputeSteps();
-    BuildTicks();
-    update();
+    RebuildTicks();
 }
 
 void RulerBarLayoutItem::changedTitleName(QString titleName)
@@ -70,8 +78,7 @@ void RulerBarLayoutItem::changedShowValueRange(double min, double max)
     }
     rangeMax = max;
     rangeMin = std::min(min, max - SmallestRange);
-    BuildTicks();
-    update();
+    RebuildTicks();
 }
 
 void RulerBarLayoutItem::DrawContent(QPainter *painter)

@@ -39,6 +39,8 @@ protected:
 
     void DrawContent(QPainter *painter) override;
 
+    /// Builds the ticks, and repaints where they are others than before: a ruler is told its range with every frame.
+    void RebuildTicks();
     void ComputeStepsFor(int itemLength);
     RulerNumbers Numbers() const;
     RulerPlace Place() const;

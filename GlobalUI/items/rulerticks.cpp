@@ -44,6 +44,11 @@ void RulerTicks::Clear()
     labels.clear();
 }
 
+bool RulerTicks::operator==(const RulerTicks &other) const
+{
+    return lines == other.lines && majorLines == other.majorLines && labels == other.labels;
+}
+
 void BuildHorizontalTicks(const RulerSteps &steps, const RulerNumbers &numbers, const RulerPlace &place,
                           RulerTicks *ticks)
 {

@@ -39,6 +39,7 @@ struct RulerTicks
     QStringList labels;
 
     void Clear();
+    bool operator==(const RulerTicks &other) const;
 };
 
 /// Ticks that hang from the top edge. Without valid steps there are none.

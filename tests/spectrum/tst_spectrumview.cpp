@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "applicationstylesheet.h"
 #include "guardedtest.h"
 #include "spectrumpieces.h"
 
@@ -21,6 +22,7 @@ private slots:
     void piecesStandAroundTheImage();
     void emptyPage();
     void showEnablesUpdates();
+    void groundIsDark();
     void pageMayBecomeSmaller();
 };
 
@@ -200,6 +202,22 @@ void TestSpectrumView::showEnablesUpdates()
     p.page->setUpdatesEnabled(false);
     QVERIFY(p.Show());
     QVERIFY(p.page->updatesEnabled());
+}
+
+/// Wherever the page stands and whatever the application's style says: the aids are white.
+void TestSpectrumView::groundIsDark()
+{
+    const ApplicationStyleSheet light("QWidget { background: white; color: black; }");
+    SpectrumPage p;
+    QVERIFY(p.Show());
+    p.ShowLive(QSize(1200, 400));
+    const QImage image = p.window.grab().toImage();
+    const Pieces pieces(p);
+    for (const QPoint &place : { QPoint(3, 3), QPoint(735, 300), QPoint(400, 150), QPoint(30, 550) })
+        QCOMPARE(image.pixelColor(place), QColor(68, 73, 86));
+    // Within the curves and rulers too.
+    QCOMPARE(image.pixelColor(pieces.verticalCurve->mapTo(&p.window, QPoint(3, 3))), QColor(68, 73, 86));
+    QCOMPARE(image.pixelColor(pieces.pixelRuler->mapTo(&p.window, QPoint(3, 45))), QColor(68, 73, 86));
 }
 
 void TestSpectrumView::pageMayBecomeSmaller()

@@ -21,6 +21,7 @@ private slots:
     void linePen();
     void titleAndArea();
     void ranges();
+    void rulersBeginWithTheHeight();
     void rulersCountInThePicture();
 };
 
@@ -211,6 +212,22 @@ void TestSpectrumViewPicks::ranges()
     before = paint();
     emit image.SignalImageChangeVShowValueRange(1, 10000);
     QVERIFY(paint().at(1) != before.at(1));
+}
+
+/// The columns' ruler too: its first range ends with the height.
+void TestSpectrumViewPicks::rulersBeginWithTheHeight()
+{
+    FedPage p;
+    const QImage columns = Painted(p.PixelRuler());
+    const QImage rows = Painted(p.Find<RulerBarVertical>());
+    FakeDisplayModeManager sender;
+    p.page->ConnectLiveRanges(&sender);
+    emit sender.SignalChangeHShowValueRange(0, 512);
+    emit sender.SignalChangeVShowValueRange(0, 512);
+    QCOMPARE(Painted(p.PixelRuler()), columns);
+    QCOMPARE(Painted(p.Find<RulerBarVertical>()), rows);
+    emit sender.SignalChangeHShowValueRange(0, 2048);
+    QVERIFY(Painted(p.PixelRuler()) != columns);
 }
 
 /// A page that was made before the first frame counts as one made after it.
