@@ -102,6 +102,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     GlobalAttachObserver(this);
     RestoreLayout();
     services->Config()->SetCameraView();
+    services->slotShowUseArea();
 }
 
 MainWindow::~MainWindow()

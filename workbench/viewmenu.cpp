@@ -11,6 +11,7 @@
 #include "livecover.h"
 #include "livelevels.h"
 #include "scenecatalogue.h"
+#include "spectrummenu.h"
 #include "workbenchservices.h"
 #include "workspaceconfig.h"
 
@@ -35,6 +36,7 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     addSeparator();
     AddPanels();
     addSeparator();
+    addMenu(new SpectrumMenu(services, this));
     AddPicture();
     AddCover();
     AddDrawing();

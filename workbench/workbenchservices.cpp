@@ -117,9 +117,9 @@ void WorkbenchServices::StartPictures()
 void WorkbenchServices::StartSpectrum()
 {
     m_spectrumRanges = std::make_unique<SpectrumRanges>();
-    m_spectrumSettings = std::make_unique<SpectrumSettings>(m_spectrumRanges.get());
+    m_centreDisplay = std::make_unique<CentreDisplay>(m_settings);
+    m_spectrumSettings = std::make_unique<SpectrumSettings>(m_spectrumRanges.get(), m_centreDisplay.get());
     m_spectrumPipeline = std::make_unique<SpectrumPipeline>();
-    m_centreDisplay = std::make_unique<CentreDisplay>();
     m_peakFinding = std::make_unique<PeakFinding>();
 }
 
@@ -191,6 +191,9 @@ void WorkbenchServices::Connect()
     connect(m_preview.get(), SIGNAL(signalRegionWanted(QRect)), this, SLOT(slotRegionWanted(QRect)));
     connect(m_workspace.get(), &Workspace::signalCameraSceneSet, m_cover.get(), &LiveCover::ShowIn);
 
+    connect(m_useArea.get(), &UseArea::signalUpdateUseArea, this, &WorkbenchServices::slotShowUseArea);
+    connect(m_spectrumSettings.get(), &SpectrumSettings::signalDisplayModeChange, m_preview.get(), &LivePreview::slotShowAgain);
+
     ConnectPictures();
 
     connect(m_link, SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
@@ -242,6 +245,11 @@ void WorkbenchServices::slotCameraStateChanged()
 void WorkbenchServices::slotPictureSizeChanged(QSize size)
 {
     m_liveReport->SetImageSize(size);
+}
+
+void WorkbenchServices::slotShowUseArea()
+{
+    m_centreDisplay->ShowSpectrum(m_useArea->IsSpectrumPagePresent());
 }
 
 /// What is saved comes before what is shown.

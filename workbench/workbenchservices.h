@@ -75,6 +75,13 @@ public:
     RegionOfInterest *Region() const { return m_region.get(); }
     RecordingDesk *Recording() const { return m_recording.get(); }
     LiveCover *Cover() const { return m_cover.get(); }
+    UseArea *GetUseArea() const { return m_useArea.get(); }
+    CentreDisplay *Centre() const { return m_centreDisplay.get(); }
+    SpectrumSettings *Spectrum() const { return m_spectrumSettings.get(); }
+
+public slots:
+    /// Shows what the workbench is used for: the picture or a spectrum page. For the first time when the pages are built.
+    void slotShowUseArea();
 
 signals:
     /// A sentence for the status bar, from any service.
@@ -120,9 +127,9 @@ private:
     std::unique_ptr<FrameSaving> m_frameSaving;
     std::unique_ptr<SaveSettings> m_saveSettings;
     std::unique_ptr<SpectrumRanges> m_spectrumRanges;
+    std::unique_ptr<CentreDisplay> m_centreDisplay;
     std::unique_ptr<SpectrumSettings> m_spectrumSettings;
     std::unique_ptr<SpectrumPipeline> m_spectrumPipeline;
-    std::unique_ptr<CentreDisplay> m_centreDisplay;
     std::unique_ptr<PeakFinding> m_peakFinding;
     std::unique_ptr<ConnectedCameras> m_cameras;
     std::unique_ptr<CameraCaption> m_cameraCaption;

@@ -137,7 +137,6 @@ void LivePreview::slotPictureDelivered()
     emit signalPictureDelivered();
 }
 
-/// A standing picture is made anew; a running preview does it with its next frame.
 void LivePreview::slotShowAgain()
 {
     if (isRunning() || m_shownFrame.IsNull())

@@ -58,6 +58,8 @@ public:
 
 public slots:
     void slotManualROI(int x, int y, int width, int height, bool apply) override;
+    /// Makes and delivers a standing picture anew; a running preview does it with its next frame.
+    void slotShowAgain();
 
 signals:
     /// After signalPreviewImage() was delivered.
@@ -75,7 +77,6 @@ protected:
 private slots:
     void slotPictureArrives();
     void slotPictureDelivered();
-    void slotShowAgain();
 
 private:
     void SendPicture(const CameraFrame &frame);

@@ -1,18 +1,58 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "centredisplay.h"
 
-CentreDisplay::CentreDisplay(QObject *parent)
+#include <QSettings>
+
+namespace {
+constexpr char ModeKey[] = "spectrum/displayMode";
+}
+
+CentreDisplay::CentreDisplay(QSettings *settings, QObject *parent)
     : DisplayModeUIManager(parent)
+    , m_settings(settings)
 {
+}
+
+void CentreDisplay::SetMode(DisplayMode mode)
+{
+    if (mode == m_mode)
+        return;
+    m_mode = mode;
+    if (mode != DisplayMode::General)
+        m_settings->setValue(ModeKey, int(mode));
+    emit signalModeChanged();
+}
+
+void CentreDisplay::ShowSpectrum(bool spectrum)
+{
+    if (spectrum == (m_mode == DisplayMode::General))
+        SetMode(spectrum ? LastSpectrumMode() : DisplayMode::General);
+}
+
+/// The settings come from outside.
+DisplayMode CentreDisplay::LastSpectrumMode() const
+{
+    const int stored = m_settings->value(ModeKey).toInt();
+    const bool isSpectrum = stored > int(DisplayMode::General) && stored <= int(DisplayMode::Tracks3D);
+    return isSpectrum ? DisplayMode(stored) : DisplayMode::Physics;
 }
 
 int CentreDisplay::GetCurrentDisplayMode() const
 {
-    return 0;
+    return int(m_mode);
 }
 
-void CentreDisplay::CalculatePreviewArea() {}
+void CentreDisplay::CalculatePreviewArea()
+{
+    emit signalPreviewAreaWanted();
+}
 
-void CentreDisplay::SetImageExpansionAreaFlag(bool) {}
+void CentreDisplay::SetImageExpansionAreaFlag(bool valid)
+{
+    m_isAreaValid = valid;
+}
 
-void CentreDisplay::SetImageExpansionArea(const QString &) {}
+void CentreDisplay::SetImageExpansionArea(const QString &area)
+{
+    m_area = area;
+}

@@ -1,18 +1,44 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "displaymode.h"
 #include "displaymodeuimanager.h"
 
-/// What the centre pages show: always the picture, since there is no spectrum page yet. GUI thread.
+class QSettings;
+
+/// What the centre pages show: the picture, or one of the spectrum pages; and the calibrated area that an opened
+/// spectrum brought with it. GUI thread.
 class CentreDisplay : public DisplayModeUIManager
 {
     Q_OBJECT
 
 public:
-    explicit CentreDisplay(QObject *parent = nullptr);
+    /// Begins with the picture. `settings` is borrowed and outlives this object.
+    explicit CentreDisplay(QSettings *settings, QObject *parent = nullptr);
+
+    DisplayMode Mode() const { return m_mode; }
+    /// A spectrum page is remembered as the one to come back to.
+    void SetMode(DisplayMode mode);
+    /// To the spectrum page that was shown last, or from it to the picture.
+    void ShowSpectrum(bool spectrum);
+    /// Null unless an opened picture brought a valid area.
+    QString ExpansionArea() const { return m_isAreaValid ? m_area : QString(); }
 
     int GetCurrentDisplayMode() const override;
     void CalculatePreviewArea() override;
     void SetImageExpansionAreaFlag(bool valid) override;
     void SetImageExpansionArea(const QString &area) override;
+
+signals:
+    void signalModeChanged();
+    /// The rulers of the live picture are to be told their ranges anew.
+    void signalPreviewAreaWanted();
+
+private:
+    DisplayMode LastSpectrumMode() const;
+
+    QSettings *m_settings;
+    DisplayMode m_mode = DisplayMode::General;
+    bool m_isAreaValid = false;
+    QString m_area;
 };

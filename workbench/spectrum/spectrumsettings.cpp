@@ -1,45 +1,67 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectrumsettings.h"
 
-SpectrumSettings::SpectrumSettings(DisplayModeManager *ranges, QObject *parent)
+#include "centredisplay.h"
+#include "displaymodemanager.h"
+
+SpectrumSettings::SpectrumSettings(DisplayModeManager *ranges, CentreDisplay *centre, QObject *parent)
     : SpectrumUIManager(parent)
     , m_ranges(ranges)
+    , m_centre(centre)
 {
+    connect(centre, &CentreDisplay::signalModeChanged, this, &SpectrumSettings::signalDisplayModeChange);
+    connect(centre, &CentreDisplay::signalPreviewAreaWanted, this, &SpectrumSettings::AnnounceLiveArea);
+}
+
+DisplayMode SpectrumSettings::Mode() const
+{
+    return m_centre->Mode();
+}
+
+void SpectrumSettings::SetMode(DisplayMode mode)
+{
+    m_centre->SetMode(mode);
 }
 
 int SpectrumSettings::GetDisplayMode() const
 {
-    return 0;
+    return m_centre->GetCurrentDisplayMode();
 }
 
 bool SpectrumSettings::IsDisplayModeGeneral() const
 {
-    return true;
+    return Mode() == DisplayMode::General;
 }
 
 bool SpectrumSettings::IsDisplayMode2D() const
 {
-    return false;
+    return Mode() == DisplayMode::Plot;
 }
 
 bool SpectrumSettings::IsDisplayMode2DPeak() const
 {
-    return false;
+    return Mode() == DisplayMode::PlotPeak;
 }
 
 bool SpectrumSettings::IsDisplayMode3D() const
 {
-    return false;
+    return Mode() == DisplayMode::Tracks3D;
 }
 
 bool SpectrumSettings::IsDisplayModePhysics() const
 {
-    return false;
+    return Mode() == DisplayMode::Physics;
 }
 
-void SpectrumSettings::SetDisplayModeGeneral() {}
+void SpectrumSettings::SetDisplayModeGeneral()
+{
+    SetMode(DisplayMode::General);
+}
 
-void SpectrumSettings::UpdateDisplayModeProperty() {}
+void SpectrumSettings::UpdateDisplayModeProperty()
+{
+    emit signalDisplayModePropertyChange();
+}
 
 DisplayModeManager *SpectrumSettings::GetDisplayModeManager() const
 {
@@ -118,11 +140,58 @@ bool SpectrumSettings::IsDirectionHorinzontal() const
 
 void SpectrumSettings::SetDirectionHorizontal() {}
 
-void SpectrumSettings::SlotNewArea(double, double, double, double) {}
+void SpectrumSettings::SlotNewArea(double xmin, double xmax, double ymin, double ymax)
+{
+    const Area area{xmin, xmax, ymin, ymax};
+    if (!IsArea(area))
+        return; // the rulers stay
+    m_liveArea = area;
+    AnnounceLiveArea();
+}
 
-void SpectrumSettings::SlotImageNewArea(double, double, double, double) {}
+void SpectrumSettings::SlotImageNewArea(double xmin, double xmax, double ymin, double ymax)
+{
+    const Area area{xmin, xmax, ymin, ymax};
+    if (!IsArea(area))
+        return; // the rulers stay
+    m_imageArea = area;
+    CalculateImageArea();
+}
 
-void SpectrumSettings::CalculateImageArea() {}
+void SpectrumSettings::CalculateImageArea()
+{
+    AnnounceArea(m_imageArea, &DisplayModeManager::SignalImageChangeHShowValueRange,
+                 &DisplayModeManager::SignalImageChangeVShowValueRange);
+}
+
+void SpectrumSettings::AnnounceLiveArea()
+{
+    AnnounceArea(m_liveArea, &DisplayModeManager::SignalChangeHShowValueRange,
+                 &DisplayModeManager::SignalChangeVShowValueRange);
+}
+
+/// Also false for what is no number.
+bool SpectrumSettings::IsArea(const Area &area)
+{
+    return qIsFinite(area.left) && qIsFinite(area.top) && qIsFinite(area.right) && qIsFinite(area.bottom)
+        && area.left < area.right && area.top < area.bottom;
+}
+
+void SpectrumSettings::AnnounceArea(const Area &area, RangeSignal horizontal, RangeSignal vertical)
+{
+    if (!IsArea(area))
+        return; // no picture yet
+    const bool isHorizontal = IsDirectionHorinzontal();
+    emit (m_ranges->*horizontal)(RulerValue(area.left, isHorizontal), RulerValue(area.right, isHorizontal));
+    emit (m_ranges->*vertical)(RulerValue(area.top, !isHorizontal), RulerValue(area.bottom, !isHorizontal));
+}
+
+/// Along the spectrum a calibrated value, where there is one; else the pixel itself.
+double SpectrumSettings::RulerValue(double pixel, bool isSpectralSide) const
+{
+    double value = pixel;
+    return isSpectralSide && Calculate(qRound(pixel), value) ? value : pixel;
+}
 
 bool SpectrumSettings::Calculate(int, double &) const
 {
@@ -186,7 +255,7 @@ double SpectrumSettings::GetBlankRatio() const
 
 QString SpectrumSettings::GetTitleName() const
 {
-    return {};
+    return tr("Pixel Number");
 }
 
 bool SpectrumSettings::GetZoomAutoFlag() const

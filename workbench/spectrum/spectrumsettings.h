@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "displaymode.h"
 #include "spectrumuimanager.h"
 
-/// Display settings of the spectrum pages. There are no such pages yet: the display mode is General,
-/// FVB, tracks and focus assistance are off and stay off, and nothing is calibrated. GUI thread.
+class CentreDisplay;
+
+/// Display settings of the spectrum pages: their mode, and the ranges of their rulers. FVB, tracks and focus assistance
+/// are off and stay off, and nothing is calibrated. GUI thread.
 class SpectrumSettings : public SpectrumUIManager
 {
     Q_OBJECT
 
 public:
-    /// `ranges` is borrowed: the announcer of the rulers' value ranges.
-    explicit SpectrumSettings(DisplayModeManager *ranges, QObject *parent = nullptr);
+    /// Both are borrowed and outlive this object: the announcer of the rulers' value ranges, and what knows the mode.
+    SpectrumSettings(DisplayModeManager *ranges, CentreDisplay *centre, QObject *parent = nullptr);
+
+    DisplayMode Mode() const;
+    void SetMode(DisplayMode mode);
 
     int GetDisplayMode() const override;
     bool IsDisplayModeGeneral() const override;
@@ -60,5 +66,23 @@ public:
     void SetZoomAutoFlag(bool on) override;
 
 private:
+    /// The visible part of a picture, picture pixels.
+    struct Area
+    {
+        double left = 0;
+        double right = 0;
+        double top = 0;
+        double bottom = 0;
+    };
+    using RangeSignal = void (DisplayModeManager::*)(qreal, qreal);
+
+    static bool IsArea(const Area &area);
+    void AnnounceArea(const Area &area, RangeSignal horizontal, RangeSignal vertical);
+    void AnnounceLiveArea();
+    double RulerValue(double pixel, bool isSpectralSide) const;
+
     DisplayModeManager *m_ranges;
+    CentreDisplay *m_centre;
+    Area m_liveArea;
+    Area m_imageArea;
 };

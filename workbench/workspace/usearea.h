@@ -22,8 +22,16 @@ public:
     bool IsToolBarVisible() const override;
     bool IsInfoBarVisible() const override;
 
+public slots:
+    /// Spectroscopy, or pictures again. Each change here is kept and announced; what is set already changes nothing.
+    void slotSetSpectrum(bool spectrum);
+    void slotSetAxisVisible(bool visible);
+    void slotSetCurveVisible(bool visible);
+    void slotSetColorCardVisible(bool visible);
+
 private:
     bool Stored(const char *key, bool standard) const;
+    void SetAid(const char *key, bool visible);
 
     QSettings *m_settings;
 };
