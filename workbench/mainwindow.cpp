@@ -86,7 +86,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
 
     BuildAreas();
     m_drawingGuard->Watch(services->GetWorkspace()->GetCameraScene()->views().first());
-    m_shown = new ShownFrames(services->Preview(), services->GetWorkspace(), this);
+    m_shown = new ShownFrames(services->Preview(), services->GetWorkspace(), m_centre->widget(CameraControlPage), this);
     BuildMenus();
     auto *recordingLabel = new QLabel(this);
     recordingLabel->setObjectName("labelStatusRecording");

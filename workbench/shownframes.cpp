@@ -8,12 +8,24 @@
 #include <QGraphicsScene>
 #include <QGraphicsView>
 
-ShownFrames::ShownFrames(const LivePreview *preview, const Workspace *workspace, QObject *parent)
+ShownFrames::ShownFrames(const LivePreview *preview, const Workspace *workspace, const QWidget *page, QObject *parent)
     : QObject(parent)
     , m_preview(preview)
     , m_workspace(workspace)
 {
     connect(preview, SIGNAL(signalPictureDelivered()), this, SLOT(slotWatchViewport()));
+    for (QWidget *widget : page->findChildren<QWidget *>()) {
+        if (widget->inherits("SpectrumDrawViewBase"))
+            Watch(static_cast<QGraphicsView *>(widget)->viewport());
+        else if (widget->inherits("QCustomPlot"))
+            Watch(widget);
+    }
+}
+
+void ShownFrames::Watch(QWidget *surface)
+{
+    m_spectrumViews << surface;
+    surface->installEventFilter(this);
 }
 
 /// The view exchanges its viewport when the drawing choice changes.
@@ -30,8 +42,8 @@ void ShownFrames::slotWatchViewport()
 
 bool ShownFrames::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_viewport && event->type() == QEvent::Paint
-        && m_preview->DeliveredCount() != m_deliveredWhenPainted) {
+    if (event->type() == QEvent::Paint && m_preview->DeliveredCount() != m_deliveredWhenPainted
+        && (watched == m_viewport || m_spectrumViews.contains(static_cast<QWidget *>(watched)))) {
         m_deliveredWhenPainted = m_preview->DeliveredCount();
         ++m_count;
         // Told when the paint is over and on the screen.
