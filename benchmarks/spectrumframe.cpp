@@ -110,5 +110,6 @@ QVector<BenchmarkResult> BenchmarkSpectrumFrame()
     int n = 0;
     return { MeasureRatio(
         "live frame, 2048 x 512, spectrum mode", SpectrumFrameBound, Rounds,
-        [&] { picture.Show(frames.at(n++ % frames.size())); }, [&] { spectrum.Show(frames.at(n++ % frames.size())); }) };
+        [&] { picture.Show(frames.at(n++ % frames.size())); },
+        [&] { spectrum.Show(frames.at(n++ % frames.size())); }) };
 }

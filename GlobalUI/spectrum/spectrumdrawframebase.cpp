@@ -42,7 +42,4 @@ void SpectrumDrawFrameBase::resizeEvent(QResizeEvent *event)
     QScrollArea::resizeEvent(event);
 }
 
-void SpectrumDrawFrameBase::wheelEvent(QWheelEvent *event)
-{
-    event->ignore();
-}
+void SpectrumDrawFrameBase::wheelEvent(QWheelEvent *event) { event->ignore(); }

@@ -94,7 +94,8 @@ void SpectrumDrawViewBase::ShowInBackground(const QImage &image)
 {
     scene()->setBackgroundBrush(QBrush(QPixmap::fromImage(image, Qt::NoFormatConversion)));
     // The picture covers the view, so nothing behind it needs to be painted for each frame.
-    viewport()->setAttribute(Qt::WA_OpaquePaintEvent, !scene()->backgroundBrush().texture().hasAlphaChannel());
+    viewport()->setAttribute(Qt::WA_OpaquePaintEvent,
+                             !scene()->backgroundBrush().texture().hasAlphaChannel());
 }
 
 bool SpectrumDrawViewBase::TakeImageSize(const QSize &size)
@@ -124,10 +125,7 @@ void SpectrumDrawViewBase::slotResetImageInfo()
     m_imageSize = QSize(0, 0);
 }
 
-void SpectrumDrawViewBase::slotSetUpdatesEnabled(bool value)
-{
-    setUpdatesEnabled(value);
-}
+void SpectrumDrawViewBase::slotSetUpdatesEnabled(bool value) { setUpdatesEnabled(value); }
 
 // Fit and zoom
 
@@ -161,14 +159,15 @@ void SpectrumDrawViewBase::FitToParent(bool getSpectrumFlag)
 
 void SpectrumDrawViewBase::SetViewGeometry()
 {
-    qDebug() << "SpectrumDrawViewBase::SetViewGeometry" << "pressPoint:" << m_pressPoint
-             << ",releasePoint:" << m_releasePoint;
+    qDebug() << "SpectrumDrawViewBase::SetViewGeometry"
+             << "pressPoint:" << m_pressPoint << ",releasePoint:" << m_releasePoint;
     const bool zoomIn = m_releasePoint.x() >= m_pressPoint.x();
     if (zoomIn && m_pressPoint.y() > m_releasePoint.y())
         std::swap(m_pressPoint.ry(), m_releasePoint.ry());
     const QRectF picture(QPointF(0, 0), m_imageSize);
     // The mouse may have left the view.
-    const QRectF rect = picture & QRectF(mapToScene(m_pressPoint.toPoint()), mapToScene(m_releasePoint.toPoint()));
+    const QRectF rect =
+        picture & QRectF(mapToScene(m_pressPoint.toPoint()), mapToScene(m_releasePoint.toPoint()));
     if (zoomIn && (rect.isEmpty() || m_zoomHistory.Push(rect, true, FreeSpace()) <= 0.0F))
         return;
     if (!zoomIn)
@@ -198,7 +197,7 @@ void SpectrumDrawViewBase::ApplyZoom(const QRectF &target)
 void SpectrumDrawViewBase::RestoreView(bool)
 {
     const bool isWithoutPicture = m_imageSize.isEmpty() || m_imageSize.width() == ViewSize.width()
-        || m_imageSize.width() == NoPictureWidth;
+                                  || m_imageSize.width() == NoPictureWidth;
     if (m_staticMode && isWithoutPicture)
         return;
     if (m_zoomHistory.Count() > 1) {

@@ -17,7 +17,8 @@ constexpr QSize ColorCard(0, 55);
 
 QSize ActualSize(const QSize &designSize)
 {
-    return QSize(GlobalClass::GetActualSize(designSize.width()), GlobalClass::GetActualSize(designSize.height()));
+    return QSize(GlobalClass::GetActualSize(designSize.width()),
+                 GlobalClass::GetActualSize(designSize.height()));
 }
 
 /// One side of the picture that is seen through a window of `length`, in picture pixels.
@@ -70,8 +71,8 @@ FittedPicture FitPicture(const QSize &pictureSize, const QSize &freeSpace)
     return { scale, viewSize, viewSize.boundedTo(freeSpace) };
 }
 
-PlacedPicture PlacePicture(const QRectF &target, const ZoomState &level, int levelCount, const QSize &pictureSize,
-                           const QSize &freeSpace)
+PlacedPicture PlacePicture(const QRectF &target, const ZoomState &level, int levelCount,
+                           const QSize &pictureSize, const QSize &freeSpace)
 {
     const float scale = level.scale;
     const QSize targetSize = ScaledSize(target.size().toSize(), scale);
@@ -107,7 +108,8 @@ QPointF AnchorOfFit(const QPointF &remembered, const QSize &pictureSize)
 {
     const bool isRemembered = !remembered.isNull();
     // Unalike on purpose: without a place of its own the anchor lies in the middle of the upper edge.
-    return QPointF(isRemembered && remembered.x() <= pictureSize.width() ? remembered.x() : pictureSize.width() / 2,
+    return QPointF(isRemembered && remembered.x() <= pictureSize.width() ? remembered.x()
+                                                                         : pictureSize.width() / 2,
                    isRemembered && remembered.y() <= pictureSize.height() ? remembered.y() : 0.0);
 }
 
@@ -115,5 +117,6 @@ QPointF NearestInPicture(const QPointF &place, const QSize &pictureSize)
 {
     if (pictureSize.isEmpty())
         return place;
-    return QPointF(NearestInSide(place.x(), pictureSize.width()), NearestInSide(place.y(), pictureSize.height()));
+    return QPointF(NearestInSide(place.x(), pictureSize.width()),
+                   NearestInSide(place.y(), pictureSize.height()));
 }

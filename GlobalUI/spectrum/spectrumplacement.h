@@ -36,14 +36,14 @@ struct PlacedPicture
 {
     QSize shown;
     QSize viewSize;
-    QPointF scroll;        ///< puts the centre in the middle of what is shown
+    QPointF scroll; ///< puts the centre in the middle of what is shown
     PictureRange visible;
     QPointF pictureCentre;
 };
 /// `target`, in picture pixels, is what the level is to show, and `levelCount` how many there are.
 /// With a single one the visible part is that twice as far as its centre; otherwise it stays in the picture.
-PlacedPicture PlacePicture(const QRectF &target, const ZoomState &level, int levelCount, const QSize &pictureSize,
-                           const QSize &freeSpace);
+PlacedPicture PlacePicture(const QRectF &target, const ZoomState &level, int levelCount,
+                           const QSize &pictureSize, const QSize &freeSpace);
 
 /// Left, top, right and bottom as fractions of the picture, the last two in the width and height slots.
 QRectF NormalisedRect(const PictureRange &range, const QSize &pictureSize);

@@ -67,12 +67,14 @@ SpectrumView::SpectrumView(QWidget *parent)
     m_horizontalCurve = new IntensityCurveHorizontal(nullptr); // reparented by the layout
     m_horizontalCurve->setFixedHeight(GlobalClass::GetActualSize(CurveBreadth));
     AddLowerRow(m_horizontalCurve);
-    SetRulerSize(QSize(FrameManager::GetInstance()->GetFrameWidth(), FrameManager::GetInstance()->GetFrameHeight()));
+    SetRulerSize(
+        QSize(FrameManager::GetInstance()->GetFrameWidth(), FrameManager::GetInstance()->GetFrameHeight()));
     PlaceLowerRows();
 
     HideEverything();
     ConnectImageView();
-    connect(SpectrumUIManager::GetInstance(), SIGNAL(signalDisplayModeChange()), this, SLOT(SlotDisplayModeUpdate()));
+    connect(SpectrumUIManager::GetInstance(), SIGNAL(signalDisplayModeChange()), this,
+            SLOT(SlotDisplayModeUpdate()));
     connect(SpectrumUIManager::GetInstance(), SIGNAL(signalDisplayModePropertyChange()), this,
             SLOT(SlotDisplayModeUpdate()));
     ApplyLinePen();
@@ -80,10 +82,7 @@ SpectrumView::SpectrumView(QWidget *parent)
 
 SpectrumView::~SpectrumView() = default;
 
-SpectrumDrawViewBase *SpectrumView::GetDrawView() const
-{
-    return m_frame->GetDrawView();
-}
+SpectrumDrawViewBase *SpectrumView::GetDrawView() const { return m_frame->GetDrawView(); }
 
 void SpectrumView::AddColorRows()
 {
@@ -126,8 +125,10 @@ void SpectrumView::ConnectImageView()
 {
     const SpectrumDrawViewBase *view = GetDrawView();
     connect(view, SIGNAL(SignalImageChange(QSize)), this, SLOT(SlotImageViewChange(QSize)));
-    connect(view, SIGNAL(SignalAnchorPosChange(QPointF)), m_horizontalCurve, SLOT(changedAnchorPosition(QPointF)));
-    connect(view, SIGNAL(SignalAnchorPosChange(QPointF)), m_verticalCurve, SLOT(changedAnchorPosition(QPointF)));
+    connect(view, SIGNAL(SignalAnchorPosChange(QPointF)), m_horizontalCurve,
+            SLOT(changedAnchorPosition(QPointF)));
+    connect(view, SIGNAL(SignalAnchorPosChange(QPointF)), m_verticalCurve,
+            SLOT(changedAnchorPosition(QPointF)));
     connect(view, SIGNAL(SignalDrawArea(QPointF, bool, bool)), this, SLOT(SlotDrawArea(QPointF, bool, bool)));
 }
 
@@ -246,10 +247,7 @@ void SpectrumView::HideEverything()
     m_cross->setVisible(false);
 }
 
-void SpectrumView::slotResetImageInfo()
-{
-    HideEverything();
-}
+void SpectrumView::slotResetImageInfo() { HideEverything(); }
 
 void SpectrumView::SlotSpectrumUIChange()
 {
@@ -277,7 +275,4 @@ void SpectrumView::resizeEvent(QResizeEvent *event)
     qDebug("SpectrumView::resizeEvent size :[%d, %d]", event->size().width(), event->size().height());
 }
 
-void SpectrumView::showEvent(QShowEvent *)
-{
-    setUpdatesEnabled(true);
-}
+void SpectrumView::showEvent(QShowEvent *) { setUpdatesEnabled(true); }

@@ -96,7 +96,7 @@ private:
     RulerBarHorizontal *m_pixelRuler = nullptr;
     RulerBarHorizontal *m_grayRuler = nullptr;
     GradientColorLayoutItem *m_colorBar = nullptr;
-    CrossItem *m_cross = nullptr; ///< the scene owns it
+    CrossItem *m_cross = nullptr;             ///< the scene owns it
     std::unique_ptr<DrawAreaItem> m_drawArea; ///< of the last drag; in the scene while it lasts
     QVBoxLayout *m_layout = nullptr;
     QRectF m_lastRect{ 0, 0, 1, 1 };

@@ -30,15 +30,13 @@ namespace {
 constexpr int ShownBits = 8;
 constexpr int SixteenBitDepth = 2;
 
-bool IsFinite(const QPointF &point)
-{
-    return qIsFinite(point.x()) && qIsFinite(point.y());
-}
+bool IsFinite(const QPointF &point) { return qIsFinite(point.x()) && qIsFinite(point.y()); }
 
 /// Without the fraction, and no further than an int goes.
 int WholePixel(double place)
 {
-    return int(qBound(double(std::numeric_limits<int>::min()), place, double(std::numeric_limits<int>::max())));
+    return int(
+        qBound(double(std::numeric_limits<int>::min()), place, double(std::numeric_limits<int>::max())));
 }
 
 /// A curve and what it is to show; the samples are read during the call only.
@@ -50,7 +48,8 @@ struct CurveFeed
     int count;
 };
 
-void ShowCurve(IntensityCurveLayoutItem *curve, int shift, int leftLevel, int rightLevel, const CurveFeed &feed)
+void ShowCurve(IntensityCurveLayoutItem *curve, int shift, int leftLevel, int rightLevel,
+               const CurveFeed &feed)
 {
     curve->setShift(shift);
     curve->setLeftAndRightLevel(leftLevel, rightLevel);
@@ -64,8 +63,8 @@ void ShowImageCurve(IntensityCurveLayoutItem *curve, const CurveFeed &feed)
     const ImageCore *core = image ? image->GetImageCore() : nullptr;
     if (!core)
         return; // nothing is open
-    ShowCurve(curve, core->GetDepth() == SixteenBitDepth ? ShownBits : 0, core->GetLeftLevel(), core->GetRightLevel(),
-              feed);
+    ShowCurve(curve, core->GetDepth() == SixteenBitDepth ? ShownBits : 0, core->GetLeftLevel(),
+              core->GetRightLevel(), feed);
 }
 
 } // namespace
@@ -149,10 +148,7 @@ void SpectrumView::SlotUpdateLevel(int leftLevel, int rightLevel)
     m_grayRuler->changedShowValueRange(leftLevel, rightLevel);
 }
 
-void SpectrumView::SlotPseudoColorsChanged(QVector<QColor> colors)
-{
-    m_colorBar->changedPalette(colors);
-}
+void SpectrumView::SlotPseudoColorsChanged(QVector<QColor> colors) { m_colorBar->changedPalette(colors); }
 
 void SpectrumView::SlotDisplayModeUpdate()
 {
@@ -165,10 +161,7 @@ void SpectrumView::SlotDisplayModeUpdate()
         DisplayModeUIManager::GetInstance()->CalculatePreviewArea();
 }
 
-void SpectrumView::SlotSpectralPropertyChanged()
-{
-    ApplyLinePen();
-}
+void SpectrumView::SlotSpectralPropertyChanged() { ApplyLinePen(); }
 
 void SpectrumView::ApplyLinePen()
 {

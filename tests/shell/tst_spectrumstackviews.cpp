@@ -58,7 +58,8 @@ void SpectrumStackViewsTest::dragsClicksAndStepsBack()
     const auto drag = [image](const QPoint &from, const QPoint &to) {
         CallLog::Clear();
         QTest::mousePress(image, Qt::LeftButton, Qt::NoModifier, from);
-        QMouseEvent move(QEvent::MouseMove, to, image->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent move(QEvent::MouseMove, to, image->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
         QApplication::sendEvent(image, &move);
         QTest::mouseRelease(image, Qt::LeftButton, Qt::NoModifier, to);
     };
@@ -78,8 +79,8 @@ void SpectrumStackViewsTest::dragsClicksAndStepsBack()
     drag(QPoint(500, 300), QPoint(505, 500)); // 5 pixels across: a click
     QCOMPARE(CallLog::Calls(), QStringList(pick.arg("252, 250, (0.166667, 0.25, 0.416667, 0.75)")));
     drag(QPoint(600, 400), QPoint(500, 300));
-    QCOMPARE(CallLog::Calls(), QStringList({ noExpansion, area.arg("0, 1200, 0, 400"),
-                                             pick.arg("600, 200, (0, 0, 1, 1)") }));
+    QCOMPARE(CallLog::Calls(),
+             QStringList({ noExpansion, area.arg("0, 1200, 0, 400"), pick.arg("600, 200, (0, 0, 1, 1)") }));
 }
 
 void SpectrumStackViewsTest::wiresOfTheLiveView()
@@ -91,13 +92,15 @@ void SpectrumStackViewsTest::wiresOfTheLiveView()
     SpectrumDrawViewBase *view = page->GetDrawView();
     auto *verticalRuler = page->findChild<RulerBarVertical *>();
     const QVector<Wire> wires{
-        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), page, SLOT(SlotSpectralPropertyChanged()) },
+        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), page,
+          SLOT(SlotSpectralPropertyChanged()) },
         { &services.useArea, SIGNAL(signalSpectrumUIUpdate()), page, SLOT(SlotSpectrumUIChange()) },
         { &services.useArea, SIGNAL(signalUpdateUseArea()), page, SLOT(SlotSpectrumUIChange()) },
         { &services.preview, SIGNAL(signalPreviewImage(QImage)), view, SLOT(slotPaintPreview(QImage)) },
         { &services.preview, SIGNAL(signalSetUpdatesEnabled(bool)), view, SLOT(slotSetUpdatesEnabled(bool)) },
         { &services.intensity, SIGNAL(SignalUpdateCurve(void *)), page, SLOT(SlotUpdateCurve(void *)) },
-        { view, SIGNAL(SignalPressPosChange(QPointF, QRectF)), page, SLOT(SlotPressPosChange(QPointF, QRectF)) },
+        { view, SIGNAL(SignalPressPosChange(QPointF, QRectF)), page,
+          SLOT(SlotPressPosChange(QPointF, QRectF)) },
         { view, SIGNAL(SignalNewRect(qreal, qreal, qreal, qreal)), &stack,
           SLOT(SlotNewArea(qreal, qreal, qreal, qreal)) },
         { &services.displayMode, SIGNAL(SignalChangeVShowValueRange(qreal, qreal)), verticalRuler,
@@ -137,7 +140,8 @@ void SpectrumStackViewsTest::wiresOfThePicturesView()
     SpectrumDrawViewBase *view = page->GetDrawView();
     auto *verticalRuler = page->findChild<RulerBarVertical *>();
     const QVector<Wire> wires{
-        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), page, SLOT(SlotSpectralPropertyChanged()) },
+        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), page,
+          SLOT(SlotSpectralPropertyChanged()) },
         { &services.useArea, SIGNAL(signalSpectrumUIUpdate()), page, SLOT(SlotSpectrumUIChange()) },
         { &services.useArea, SIGNAL(signalUpdateUseArea()), page, SLOT(SlotSpectrumUIChange()) },
         { &services.active, SIGNAL(sglUpdateHorizontalCurve(int *, int, int, int)), page,
@@ -150,7 +154,8 @@ void SpectrumStackViewsTest::wiresOfThePicturesView()
         { view, SIGNAL(SignalNewRect(qreal, qreal, qreal, qreal)), &stack,
           SLOT(slotNewArea(qreal, qreal, qreal, qreal)) },
         { &services.spectrumUI, SIGNAL(signalDisplayModeChange()), view, SLOT(SlotDisplayModeChange()) },
-        { &services.spectrumUI, SIGNAL(signalDisplayModePropertyChange()), view, SLOT(SlotDisplayModeChange()) },
+        { &services.spectrumUI, SIGNAL(signalDisplayModePropertyChange()), view,
+          SLOT(SlotDisplayModeChange()) },
         { &services.displayMode, SIGNAL(SignalImageChangeVShowValueRange(qreal, qreal)), verticalRuler,
           SLOT(changedShowValueRange(qreal, qreal)) },
         { &services.active, SIGNAL(signalResetImageInfo()), page, SLOT(slotResetImageInfo()) },

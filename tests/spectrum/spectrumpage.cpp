@@ -15,9 +15,11 @@ QString LogText(const QRectF &value) { return Text(value); }
 QString LogText(const QSize &value) { return QString("%1x%2").arg(value.width()).arg(value.height()); }
 
 template <class... Arguments>
-void LogSignal(SpectrumDrawViewBase *view, void (SpectrumDrawViewBase::*signal)(Arguments...), const QString &name)
+void LogSignal(SpectrumDrawViewBase *view, void (SpectrumDrawViewBase::*signal)(Arguments...),
+               const QString &name)
 {
-    QObject::connect(view, signal, [name](Arguments... arguments) { CallLog::Add(name, { LogText(arguments)... }); });
+    QObject::connect(view, signal,
+                     [name](Arguments... arguments) { CallLog::Add(name, { LogText(arguments)... }); });
 }
 
 } // namespace

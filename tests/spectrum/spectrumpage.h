@@ -49,7 +49,10 @@ public:
     QPoint FrameScroll() const;
 
     template <class Item>
-    Item *Find() const { return page->findChild<Item *>(); }
+    Item *Find() const
+    {
+        return page->findChild<Item *>();
+    }
 
     DisplayScale scale{ 1.0 };
     FakeServices services;

@@ -47,8 +47,8 @@ void TestSpectrumDrawRestore::stillPictures()
     p.view->SetStaticMode(staticMode);
     p.LogSignals();
     p.view->slotPaintStaticPreview(p.Picture(size));
-    const QStringList fit{ "SignalNewRect", "SignalImageChange", "SignalPressPosChange", "SignalPressPosChangeStatic",
-                           "SignalAnchorPosChange" };
+    const QStringList fit{ "SignalNewRect", "SignalImageChange", "SignalPressPosChange",
+                           "SignalPressPosChangeStatic", "SignalAnchorPosChange" };
     QStringList names = p.TakeSignals();
     for (QString &name : names)
         name = name.section('(', 0, 0);
@@ -177,7 +177,8 @@ void TestSpectrumDrawRestore::resetForgetsTheSize()
     QCOMPARE(p.Scale(), 2.0);
     // The same size again is a new one, and nothing of the zoom is remembered.
     p.view->slotPaintStaticPreview(p.Picture(QSize(1200, 400)));
-    QCOMPARE(p.TakeSignals("SignalPressPosChange("), QStringList("SignalPressPosChange((600, 200), (0, 0, 1, 1))"));
+    QCOMPARE(p.TakeSignals("SignalPressPosChange("),
+             QStringList("SignalPressPosChange((600, 200), (0, 0, 1, 1))"));
 }
 
 void TestSpectrumDrawRestore::displayModeOfAStillPicture()
@@ -198,7 +199,8 @@ void TestSpectrumDrawRestore::displayModeOfAStillPicture()
     p.Release(QPointF(30, 40));
     CallLog::Clear();
     p.view->SlotDisplayModeChange();
-    QCOMPARE(p.TakeSignals("SignalPressPosChange("), QStringList("SignalPressPosChange((60, 80), (0, 0, 1, 1))"));
+    QCOMPARE(p.TakeSignals("SignalPressPosChange("),
+             QStringList("SignalPressPosChange((60, 80), (0, 0, 1, 1))"));
     p.view->SetStaticMode(false);
     p.view->SlotDisplayModeChange();
     QCOMPARE(p.TakeSignals(), QStringList());
@@ -214,7 +216,8 @@ void TestSpectrumDrawRestore::firstShowFitsAStillPicture()
     SpectrumDrawViewBase *view = frame.GetDrawView();
     view->SetStaticMode(true);
     QSignalSpy fits(view, SIGNAL(SignalPressPosChangeStatic(QPointF, QRectF, bool)));
-    view->slotPaintStaticPreview(SpectrumPage::Picture(QSize(601, 400))); // a size that is not fitted when it comes
+    view->slotPaintStaticPreview(
+        SpectrumPage::Picture(QSize(601, 400))); // a size that is not fitted when it comes
     QCOMPARE(fits.size(), 0);
     parent.show();
     QVERIFY(QTest::qWaitForWindowExposed(&parent));

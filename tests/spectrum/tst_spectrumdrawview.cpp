@@ -47,12 +47,13 @@ void TestSpectrumDrawView::signalsAndSlotsInOrder()
 {
     QCOMPARE(OwnMethods(SpectrumDrawViewBase::staticMetaObject),
              QStringList({ "SignalImageChange(QSize)", "SignalPressPosChange(QPointF,QRectF)",
-                           "SignalPressPosChangeStatic(QPointF,QRectF,bool)", "SignalDrawArea(QPointF,bool,bool)",
-                           "SignalAnchorPosChange(QPointF)", "SignalSetSliderPosition(QPointF)",
-                           "SignalChangeHShowValueRange(double,double)", "SignalChangeVShowValueRange(double,double)",
+                           "SignalPressPosChangeStatic(QPointF,QRectF,bool)",
+                           "SignalDrawArea(QPointF,bool,bool)", "SignalAnchorPosChange(QPointF)",
+                           "SignalSetSliderPosition(QPointF)", "SignalChangeHShowValueRange(double,double)",
+                           "SignalChangeVShowValueRange(double,double)",
                            "SignalNewRect(double,double,double,double)", "slotPaintPreview(QImage)",
-                           "slotPaintStaticPreview(QImage)", "SlotDisplayModeChange()", "slotResetImageInfo()",
-                           "slotSetUpdatesEnabled(bool)" }));
+                           "slotPaintStaticPreview(QImage)", "SlotDisplayModeChange()",
+                           "slotResetImageInfo()", "slotSetUpdatesEnabled(bool)" }));
     QCOMPARE(OwnMethods(SpectrumDrawFrameBase::staticMetaObject),
              QStringList({ "SlotSetSliderPosition(QPointF)", "SlotValueChange(int)" }));
 }
@@ -63,7 +64,8 @@ void TestSpectrumDrawView::bornAs()
     SpectrumDrawViewBase view(nullptr);
     QCOMPARE(view.size(), QSize(800, 600));
     QCOMPARE(view.minimumSize(), view.maximumSize());
-    QCOMPARE(view.styleSheet(), QString("Background:rgb(68, 73, 86); border: 1px; border-color:rgb(255, 255, 255)"));
+    QCOMPARE(view.styleSheet(),
+             QString("Background:rgb(68, 73, 86); border: 1px; border-color:rgb(255, 255, 255)"));
     QVERIFY(view.testAttribute(Qt::WA_MouseTracking));
     QCOMPARE(view.horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
     QCOMPARE(view.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
@@ -115,11 +117,10 @@ void TestSpectrumDrawView::firstLivePicture()
     SpectrumPage p;
     p.LogSignals();
     p.ShowLive(QSize(1200, 400));
-    QCOMPARE(p.TakeSignals(),
-             QStringList({ "SignalNewRect(0, 1200, 0, 400)", "SignalImageChange(600x200)",
-                           "SignalPressPosChange((600, 200), (0, 0, 1, 1))",
-                           "SignalPressPosChangeStatic((600, 200), (0, 0, 1, 1), false)",
-                           "SignalAnchorPosChange((300, 0))" }));
+    QCOMPARE(p.TakeSignals(), QStringList({ "SignalNewRect(0, 1200, 0, 400)", "SignalImageChange(600x200)",
+                                            "SignalPressPosChange((600, 200), (0, 0, 1, 1))",
+                                            "SignalPressPosChangeStatic((600, 200), (0, 0, 1, 1), false)",
+                                            "SignalAnchorPosChange((300, 0))" }));
     QCOMPARE(p.view->size(), QSize(600, 200));
     QCOMPARE(p.Scale(), 0.5);
     QCOMPARE(p.view->GetImageSize(), QSize(1200, 400));
@@ -212,11 +213,10 @@ void TestSpectrumDrawView::newSizeWhileZoomed()
     p.LogSignals();
     p.ShowLive(QSize(300, 800));
     // All of it is shown; the centre is the one of the zoomed part, as far as the anchor has it.
-    QCOMPARE(p.TakeSignals(),
-             QStringList({ "SignalNewRect(0, 300, 0, 800)", "SignalImageChange(150x400)",
-                           "SignalPressPosChange((350, 200), (0, 0, 1, 1))",
-                           "SignalPressPosChangeStatic((350, 200), (0, 0, 1, 1), false)",
-                           "SignalAnchorPosChange((75, 100))" }));
+    QCOMPARE(p.TakeSignals(), QStringList({ "SignalNewRect(0, 300, 0, 800)", "SignalImageChange(150x400)",
+                                            "SignalPressPosChange((350, 200), (0, 0, 1, 1))",
+                                            "SignalPressPosChangeStatic((350, 200), (0, 0, 1, 1), false)",
+                                            "SignalAnchorPosChange((75, 100))" }));
     QCOMPARE(p.FrameScroll(), QPoint(0, 0));
 }
 

@@ -40,10 +40,10 @@ void TestSpectrumDrawZoom::clickPicks()
     p.Press(QPointF(100, 50));
     QCOMPARE(p.TakeSignals(), QStringList("SignalDrawArea((200, 100), true, true)"));
     p.Release(QPointF(100, 50));
-    QCOMPARE(p.TakeSignals(), QStringList({ "SignalPressPosChange((200, 100), (0, 0, 1, 1))",
-                                            "SignalPressPosChangeStatic((200, 100), (0, 0, 1, 1), true)",
-                                            "SignalDrawArea((200, 100), true, false)",
-                                            "SignalAnchorPosChange((100, 50))" }));
+    QCOMPARE(p.TakeSignals(),
+             QStringList({ "SignalPressPosChange((200, 100), (0, 0, 1, 1))",
+                           "SignalPressPosChangeStatic((200, 100), (0, 0, 1, 1), true)",
+                           "SignalDrawArea((200, 100), true, false)", "SignalAnchorPosChange((100, 50))" }));
     p.SendMouse(QEvent::MouseMove, QPointF(120, 60), Qt::NoButton);
     QCOMPARE(p.TakeSignals(), QStringList());
 }
@@ -86,14 +86,15 @@ void TestSpectrumDrawZoom::dragToTheRightZoomsIn()
     p.Move(QPointF(150, 90));
     p.Move(QPointF(250, 150));
     p.Release(QPointF(250, 150));
-    QCOMPARE(p.TakeSignals(),
-             QStringList({ "SignalDrawArea((200, 100), true, true)", "SignalDrawArea((300, 180), false, false)",
-                           "SignalDrawArea((500, 300), false, false)", "SignalDrawArea((500, 300), true, false)",
-                           "SignalImageChange(600x400)", "SignalSetSliderPosition((400, 200))",
-                           "SignalNewRect(200, 500, 100, 300)",
-                           "SignalPressPosChange((350, 200), (0.166667, 0.25, 0.416667, 0.75))",
-                           "SignalPressPosChangeStatic((350, 200), (0.166667, 0.25, 0.416667, 0.75), true)",
-                           "SignalAnchorPosChange((300, 200))" }));
+    QCOMPARE(
+        p.TakeSignals(),
+        QStringList({ "SignalDrawArea((200, 100), true, true)", "SignalDrawArea((300, 180), false, false)",
+                      "SignalDrawArea((500, 300), false, false)", "SignalDrawArea((500, 300), true, false)",
+                      "SignalImageChange(600x400)", "SignalSetSliderPosition((400, 200))",
+                      "SignalNewRect(200, 500, 100, 300)",
+                      "SignalPressPosChange((350, 200), (0.166667, 0.25, 0.416667, 0.75))",
+                      "SignalPressPosChangeStatic((350, 200), (0.166667, 0.25, 0.416667, 0.75), true)",
+                      "SignalAnchorPosChange((300, 200))" }));
     QCOMPARE(p.Scale(), 2.0);
     QCOMPARE(p.view->size(), QSize(2400, 800));
     QCOMPARE(p.frame->size(), QSize(600, 400));
@@ -124,13 +125,14 @@ void TestSpectrumDrawZoom::dragToTheLeftStepsBack()
     p.Drag(QPointF(100, 50), QPointF(250, 150));
     p.LogSignals();
     p.Drag(QPointF(800, 400), QPointF(500, 300));
-    QCOMPARE(p.TakeSignals(),
-             QStringList({ "SignalDrawArea((400, 200), true, true)", "SignalDrawArea((250, 150), false, false)",
-                           "SignalDrawArea((250, 150), true, false)", "SignalImageChange(600x200)",
-                           "SignalSetSliderPosition((0, 0))", "SignalNewRect(0, 1200, 0, 400)",
-                           "SignalPressPosChange((600, 200), (0, 0, 1, 1))",
-                           "SignalPressPosChangeStatic((600, 200), (0, 0, 1, 1), true)",
-                           "SignalAnchorPosChange((300, 100))" }));
+    QCOMPARE(
+        p.TakeSignals(),
+        QStringList({ "SignalDrawArea((400, 200), true, true)", "SignalDrawArea((250, 150), false, false)",
+                      "SignalDrawArea((250, 150), true, false)", "SignalImageChange(600x200)",
+                      "SignalSetSliderPosition((0, 0))", "SignalNewRect(0, 1200, 0, 400)",
+                      "SignalPressPosChange((600, 200), (0, 0, 1, 1))",
+                      "SignalPressPosChangeStatic((600, 200), (0, 0, 1, 1), true)",
+                      "SignalAnchorPosChange((300, 100))" }));
     QCOMPARE(p.view->size(), QSize(600, 200));
     QCOMPARE(p.view->pos(), QPoint(0, 0));
 }
@@ -211,7 +213,8 @@ void TestSpectrumDrawZoom::clickOutOfTheView()
     const QString pick = p.TakeSignals("SignalPressPosChange(").value(0);
     QCOMPARE(pick, QString("SignalPressPosChange((1200, 206), (0, 0, 1, 1))")); // rounded in the log
     p.Drag(QPointF(450, 100), QPointF(449, -300));
-    QCOMPARE(p.TakeSignals("SignalPressPosChange("), QStringList("SignalPressPosChange((898, 0), (0, 0, 1, 1))"));
+    QCOMPARE(p.TakeSignals("SignalPressPosChange("),
+             QStringList("SignalPressPosChange((898, 0), (0, 0, 1, 1))"));
 }
 
 void TestSpectrumDrawZoom::otherButtonsDoNothing()
@@ -226,15 +229,16 @@ void TestSpectrumDrawZoom::otherButtonsDoNothing()
     QCOMPARE(p.TakeSignals(), QStringList());
     // Nor do they disturb a drag.
     p.Press(QPointF(100, 50));
-    p.SendMouse(QEvent::MouseButtonPress, QPointF(120, 60), Qt::LeftButton | Qt::RightButton, Qt::RightButton);
+    p.SendMouse(QEvent::MouseButtonPress, QPointF(120, 60), Qt::LeftButton | Qt::RightButton,
+                Qt::RightButton);
     p.SendMouse(QEvent::MouseMove, QPointF(130, 70), Qt::LeftButton | Qt::RightButton);
     p.SendMouse(QEvent::MouseButtonRelease, QPointF(130, 70), Qt::LeftButton, Qt::RightButton);
     p.Move(QPointF(250, 150));
     p.Release(QPointF(250, 150));
     const QStringList calls = p.TakeSignals();
-    QCOMPARE(calls.filter("SignalDrawArea"),
-             QStringList({ "SignalDrawArea((200, 100), true, true)", "SignalDrawArea((500, 300), false, false)",
-                           "SignalDrawArea((500, 300), true, false)" }));
+    QCOMPARE(calls.filter("SignalDrawArea"), QStringList({ "SignalDrawArea((200, 100), true, true)",
+                                                           "SignalDrawArea((500, 300), false, false)",
+                                                           "SignalDrawArea((500, 300), true, false)" }));
     QCOMPARE(calls.filter("SignalNewRect"), QStringList("SignalNewRect(200, 500, 100, 300)"));
 }
 
@@ -322,7 +326,8 @@ void TestSpectrumDrawZoom::randomDrags()
                 continue; // too short on one axis
             const QStringList numbers = ranges.first().section('(', 1).chopped(1).split(", ");
             const QPointF seenFirst = p.view->mapToScene(-p.view->pos());
-            const QPointF seenLast = p.view->mapToScene(-p.view->pos() + QPoint(p.frame->width(), p.frame->height()));
+            const QPointF seenLast =
+                p.view->mapToScene(-p.view->pos() + QPoint(p.frame->width(), p.frame->height()));
             const double pixel = 1.01 / p.Scale() + 1e-4; // positions are whole pixels of the screen
             QVERIFY(std::abs(numbers.at(0).toDouble() - seenFirst.x()) <= pixel);
             QVERIFY(std::abs(numbers.at(1).toDouble() - seenLast.x()) <= 2 * pixel);

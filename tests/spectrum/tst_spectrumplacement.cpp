@@ -17,10 +17,7 @@ QString Text(const PictureRange &range)
     return QString("%1..%2, %3..%4").arg(range.xmin).arg(range.xmax).arg(range.ymin).arg(range.ymax);
 }
 
-bool IsNear(double a, double b, double distance)
-{
-    return std::abs(a - b) <= distance;
-}
+bool IsNear(double a, double b, double distance) { return std::abs(a - b) <= distance; }
 
 } // namespace
 
@@ -107,7 +104,8 @@ void TestSpectrumPlacement::singleLevelShowsTwiceItsCentre()
         QCOMPARE(placed.pictureCentre, QPointF(600, 200));
     }
     const ZoomState other{ 0.5F, QPointF(100, 50), QRectF() };
-    QCOMPARE(Text(PlacePicture(fitted.rect, other, 1, picture, FreeSpace).visible), QString("0..200, 0..100"));
+    QCOMPARE(Text(PlacePicture(fitted.rect, other, 1, picture, FreeSpace).visible),
+             QString("0..200, 0..100"));
 }
 
 void TestSpectrumPlacement::zoomedLevel_data()
@@ -117,16 +115,16 @@ void TestSpectrumPlacement::zoomedLevel_data()
     QTest::addColumn<QSize>("shown");
     QTest::addColumn<QPointF>("scroll");
     QTest::addColumn<QString>("visible");
-    QTest::newRow("of the space's shape") << QRectF(200, 100, 300, 200) << 2.0F << QSize(600, 400) << QPointF(400, 200)
-                                          << "200..500, 100..300";
+    QTest::newRow("of the space's shape")
+        << QRectF(200, 100, 300, 200) << 2.0F << QSize(600, 400) << QPointF(400, 200) << "200..500, 100..300";
     // The larger scale: 100 rows fill the height, so 150 of the 300 columns are seen.
     QTest::newRow("wide") << QRectF(200, 100, 300, 100) << 4.0F << QSize(600, 400) << QPointF(1100, 400)
                           << "275..425, 100..200";
     // 2 x 2 pixels at the largest scale do not fill the space; what lies around them does.
     QTest::newRow("tiny") << QRectF(600, 200, 2, 2) << 32.0F << QSize(600, 400) << QPointF(18932, 6232)
                           << "591.625..610.375, 194.75..207.25";
-    QTest::newRow("tiny, in the corner") << QRectF(0, 0, 2, 2) << 32.0F << QSize(600, 400) << QPointF(-268, -168)
-                                         << "0..18.75, 0..12.5";
+    QTest::newRow("tiny, in the corner")
+        << QRectF(0, 0, 2, 2) << 32.0F << QSize(600, 400) << QPointF(-268, -168) << "0..18.75, 0..12.5";
     QTest::newRow("tiny, in the far corner") << QRectF(1198, 398, 2, 2) << 32.0F << QSize(600, 400)
                                              << QPointF(38068, 12568) << "1181.25..1200, 387.5..400";
 }
@@ -169,11 +167,13 @@ void TestSpectrumPlacement::randomZoomsStayInTheirRectangle()
         const QSize space(random.bounded(50, 1500), random.bounded(50, 1500));
         const int left = random.bounded(0, picture.width() - 60);
         const int top = random.bounded(0, picture.height() - 60);
-        const QRectF rect(left, top, random.bounded(50, picture.width() - left), random.bounded(50, picture.height() - top));
+        const QRectF rect(left, top, random.bounded(50, picture.width() - left),
+                          random.bounded(50, picture.height() - top));
         SpectrumZoomHistory history;
         history.Restart({ 1.0F, QPointF(), QRectF() });
         const float scale = history.Push(rect, true, space);
-        QCOMPARE(scale, qMin(32.0F, qMax(float(space.width() / rect.width()), float(space.height() / rect.height()))));
+        QCOMPARE(scale, qMin(32.0F, qMax(float(space.width() / rect.width()),
+                                         float(space.height() / rect.height()))));
         const PlacedPicture placed = PlacePicture(rect, history.Current(), history.Count(), picture, space);
         // The view's size is cut to whole pixels, which the whole picture shares in.
         const double slack = 1.01 / scale + 1e-6 * picture.width();

@@ -32,21 +32,22 @@ void TestSpectrumView::signalsAndSlotsInOrder()
     QStringList methods;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
         methods << meta.method(i).methodSignature();
-    QCOMPARE(methods,
-             QStringList({ "sglUpdateCurve(void*)", "SignalDisplayModeUpdate()", "SlotImageViewChange(QSize)",
-                           "SlotPressPosChange(QPointF,QRectF)", "SlotDrawArea(QPointF,bool,bool)",
-                           "SlotUpdateCurve(void*)", "SlotDisplayModeUpdate()",
-                           "SlotUpdateHorizontalCurve(int*,int,int,int)", "SlotUpdateVerticalCurve(int*,int,int,int)",
-                           "SlotUpdateLevel(int,int)", "SlotPressPosChangeStatic(QPointF,QRectF,bool)",
-                           "SlotSpectrumUIChange()", "slotResetImageInfo()", "SlotPseudoColorsChanged(QVector<QColor>)",
-                           "SlotSpectralPropertyChanged()" }));
+    QCOMPARE(methods, QStringList({ "sglUpdateCurve(void*)", "SignalDisplayModeUpdate()",
+                                    "SlotImageViewChange(QSize)", "SlotPressPosChange(QPointF,QRectF)",
+                                    "SlotDrawArea(QPointF,bool,bool)", "SlotUpdateCurve(void*)",
+                                    "SlotDisplayModeUpdate()", "SlotUpdateHorizontalCurve(int*,int,int,int)",
+                                    "SlotUpdateVerticalCurve(int*,int,int,int)", "SlotUpdateLevel(int,int)",
+                                    "SlotPressPosChangeStatic(QPointF,QRectF,bool)", "SlotSpectrumUIChange()",
+                                    "slotResetImageInfo()", "SlotPseudoColorsChanged(QVector<QColor>)",
+                                    "SlotSpectralPropertyChanged()" }));
 }
 
 void TestSpectrumView::rowsInOrder()
 {
     SpectrumPage p;
     const Pieces pieces(p);
-    QCOMPARE(p.page->styleSheet(), QString("Background:rgb(68, 73, 86); border:1px; border-color:rgb(255, 255, 255)"));
+    QCOMPARE(p.page->styleSheet(),
+             QString("Background:rgb(68, 73, 86); border:1px; border-color:rgb(255, 255, 255)"));
     QCOMPARE(pieces.layout->contentsMargins(), QMargins(15, 15, 15, 15));
     QCOMPARE(pieces.layout->spacing(), 0);
     QCOMPARE(pieces.layout->count(), 6);
@@ -116,7 +117,8 @@ void TestSpectrumView::firstPictureShowsWhatIsWanted_data()
     QTest::newRow("no axes") << false << true << true << "curves, card, frame, cross" << QSize(660, 220);
     QTest::newRow("no curves") << true << false << true << "axes, card, frame, cross" << QSize(650, 216);
     QTest::newRow("no card") << true << true << false << "axes, curves, frame, cross" << QSize(600, 200);
-    QTest::newRow("none") << false << false << false << "frame, cross" << QSize(709, 236); // 710 / 1200 as a float is a little less
+    QTest::newRow("none") << false << false << false << "frame, cross"
+                          << QSize(709, 236); // 710 / 1200 as a float is a little less
 }
 
 void TestSpectrumView::firstPictureShowsWhatIsWanted()

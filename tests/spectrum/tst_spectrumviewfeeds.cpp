@@ -47,8 +47,8 @@ void TestSpectrumViewFeeds::profilesOfTheRegion()
     p.page->SlotUpdateCurve(payload.Param());
     QCOMPARE(payload.record.horizontalShow, payload.row.data());
     QCOMPARE(payload.record.verticalShow, payload.column.data());
-    QCOMPARE(p.RowAt(50), 48);  // the baseline
-    QCOMPARE(p.RowAt(150), 2);  // 100 of 100
+    QCOMPARE(p.RowAt(50), 48); // the baseline
+    QCOMPARE(p.RowAt(150), 2); // 100 of 100
     QCOMPARE(p.RowAt(250), 48);
     QCOMPARE(p.ColumnAt(30), 47); // the upper quarter of the column
     QCOMPARE(p.ColumnAt(120), 1);
@@ -71,14 +71,21 @@ void TestSpectrumViewFeeds::profilesThatDoNotFit_data()
 {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     QTest::addColumn<PayloadChange>("change");
-    QTest::newRow("row too long") << PayloadChange([](SpectrumCurvePayload &payload) { payload.horizontalSize = 4096; });
-    QTest::newRow("row too short") << PayloadChange([](SpectrumCurvePayload &payload) { payload.horizontalSize = 100; });
-    QTest::newRow("column below 0") << PayloadChange([](SpectrumCurvePayload &payload) { payload.verticalSize = -1; });
-    QTest::newRow("no row") << PayloadChange([](SpectrumCurvePayload &payload) { payload.horizontalFill = nullptr; });
+    QTest::newRow("row too long") << PayloadChange(
+        [](SpectrumCurvePayload &payload) { payload.horizontalSize = 4096; });
+    QTest::newRow("row too short") << PayloadChange(
+        [](SpectrumCurvePayload &payload) { payload.horizontalSize = 100; });
+    QTest::newRow("column below 0") << PayloadChange(
+        [](SpectrumCurvePayload &payload) { payload.verticalSize = -1; });
+    QTest::newRow("no row") << PayloadChange(
+        [](SpectrumCurvePayload &payload) { payload.horizontalFill = nullptr; });
     QTest::newRow("no lock") << PayloadChange([](SpectrumCurvePayload &payload) { payload.lock = nullptr; });
-    QTest::newRow("region below 0") << PayloadChange([](SpectrumCurvePayload &payload) { payload.region.setX(-0.5); });
-    QTest::newRow("region above 1") << PayloadChange([](SpectrumCurvePayload &payload) { payload.region = QRectF(0, 0, 1.5, 1); });
-    QTest::newRow("no number") << PayloadChange([nan](SpectrumCurvePayload &payload) { payload.region = QRectF(nan, 0, 1, 1); });
+    QTest::newRow("region below 0") << PayloadChange(
+        [](SpectrumCurvePayload &payload) { payload.region.setX(-0.5); });
+    QTest::newRow("region above 1") << PayloadChange(
+        [](SpectrumCurvePayload &payload) { payload.region = QRectF(0, 0, 1.5, 1); });
+    QTest::newRow("no number") << PayloadChange(
+        [nan](SpectrumCurvePayload &payload) { payload.region = QRectF(nan, 0, 1, 1); });
 }
 
 void TestSpectrumViewFeeds::profilesThatDoNotFit()

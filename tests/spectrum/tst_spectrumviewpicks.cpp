@@ -29,7 +29,8 @@ void TestSpectrumViewPicks::pickedPoint()
 {
     FedPage p;
     p.page->SlotPressPosChange(QPointF(300.9, 99.99), QRectF(0.1, 0.2, 0.8, 0.9));
-    QCOMPARE(CallLog::Calls(), QStringList("IntensityManager::SetAnchorPoint(300, 99, (0.1, 0.2, 0.8, 0.9))"));
+    QCOMPARE(CallLog::Calls(),
+             QStringList("IntensityManager::SetAnchorPoint(300, 99, (0.1, 0.2, 0.8, 0.9))"));
     QCOMPARE(p.Cross()->center, QPointF(300.9, 99.99));
     QVERIFY(p.Cross()->isVisible());
     QCOMPARE(p.page->GetLastRect(), QRectF(0.1, 0.2, 0.8, 0.9));
@@ -68,7 +69,8 @@ void TestSpectrumViewPicks::pointsThatAreNoNumbers()
     QCOMPARE(p.Cross()->center, QPointF(5, 6));
     // As far away as an int goes.
     p.page->SlotPressPosChange(QPointF(1e300, -1e300), QRectF(0, 0, 1, 1));
-    QCOMPARE(CallLog::Calls(), QStringList("IntensityManager::SetAnchorPoint(2147483647, -2147483648, (0, 0, 1, 1))"));
+    QCOMPARE(CallLog::Calls(),
+             QStringList("IntensityManager::SetAnchorPoint(2147483647, -2147483648, (0, 0, 1, 1))"));
 }
 
 void TestSpectrumViewPicks::dragShowsARectangle()
@@ -163,7 +165,8 @@ void TestSpectrumViewPicks::linePen()
         for (int place = 5; place < along - 5; ++place) {
             int count = 0;
             for (int across = 2; across < 47; ++across)
-                count += image.pixelColor(horizontal ? place : across, horizontal ? across : place) == QColor(Qt::green);
+                count += image.pixelColor(horizontal ? place : across, horizontal ? across : place)
+                         == QColor(Qt::green);
             thickest = qMax(thickest, count);
             empty += count == 0 ? 1 : 0;
         }
@@ -254,7 +257,8 @@ void TestSpectrumViewPicks::rulersCountInThePicture()
     // Long ticks at 0, 500, 1000, 1500 and 2000 of 2048, on half as many screen pixels.
     for (int x : { 0, 250, 500, 750, 1000 })
         QCOMPARE(expected.pixelColor(x, 5), QColor(Qt::white));
-    QVERIFY(expected.pixelColor(50, 2) == QColor(Qt::white) && expected.pixelColor(50, 5) != QColor(Qt::white));
+    QVERIFY(expected.pixelColor(50, 2) == QColor(Qt::white)
+            && expected.pixelColor(50, 5) != QColor(Qt::white));
 }
 
 GUARDED_TEST_MAIN(TestSpectrumViewPicks)

@@ -77,7 +77,8 @@ void TestSpectrumViewSettings::settingsOfALivePage()
     p.services.useArea.curveVisible = p.services.useArea.colorCardVisible = false;
     p.page->SlotSpectrumUIChange();
     QCOMPARE(pieces.Shown(), QString("frame, cross"));
-    p.services.useArea.axisVisible = p.services.useArea.curveVisible = p.services.useArea.colorCardVisible = true;
+    p.services.useArea.axisVisible = p.services.useArea.curveVisible = p.services.useArea.colorCardVisible =
+        true;
     p.page->SlotSpectrumUIChange();
     QCOMPARE(pieces.Shown(), QString("axes, curves, card, frame, cross"));
     QCOMPARE(pieces.LeftMargin(4), 110);
@@ -108,7 +109,8 @@ void TestSpectrumViewSettings::settingsOfAStillPage()
     QTEST(CallLog::Calls(), "calls");
     QCOMPARE(pieces.LeftMargin(4), 50);
     QCOMPARE(pieces.LeftMargin(5), 50);
-    QCOMPARE(pieces.Shown(), QString(open ? "curves, card, frame, cross" : "axes, curves, card, frame, cross"));
+    QCOMPARE(pieces.Shown(),
+             QString(open ? "curves, card, frame, cross" : "axes, curves, card, frame, cross"));
     QCOMPARE(p.frame->width(), open ? 660 : 600);
 }
 
