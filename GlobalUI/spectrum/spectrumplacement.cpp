@@ -106,11 +106,12 @@ QRectF NormalisedRect(const PictureRange &range, const QSize &pictureSize)
 
 QPointF AnchorOfFit(const QPointF &remembered, const QSize &pictureSize)
 {
-    const bool isRemembered = !remembered.isNull();
     // Unalike on purpose: without a place of its own the anchor lies in the middle of the upper edge.
-    return QPointF(isRemembered && remembered.x() <= pictureSize.width() ? remembered.x()
-                                                                         : pictureSize.width() / 2,
-                   isRemembered && remembered.y() <= pictureSize.height() ? remembered.y() : 0.0);
+    const int middle = pictureSize.width() / 2; // whole pixels
+    if (remembered.isNull())
+        return QPointF(middle, 0);
+    return QPointF(remembered.x() <= pictureSize.width() ? remembered.x() : middle,
+                   remembered.y() <= pictureSize.height() ? remembered.y() : 0);
 }
 
 QPointF NearestInPicture(const QPointF &place, const QSize &pictureSize)

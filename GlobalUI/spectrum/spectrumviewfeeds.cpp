@@ -24,6 +24,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -148,7 +149,7 @@ void SpectrumView::SlotUpdateLevel(int leftLevel, int rightLevel)
     m_grayRuler->changedShowValueRange(leftLevel, rightLevel);
 }
 
-void SpectrumView::SlotPseudoColorsChanged(QVector<QColor> colors) { m_colorBar->changedPalette(colors); }
+void SpectrumView::SlotPseudoColorsChanged(QVector<QColor> colors) { m_colorBar->changedPalette(std::move(colors)); }
 
 void SpectrumView::SlotDisplayModeUpdate()
 {
