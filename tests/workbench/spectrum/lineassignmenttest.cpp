@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calibrationfit.h"
+#include "guardedtest.h"
+#include "lineassignment.h"
+#include "rowbinning.h"
+#include "sampleview.h"
+#include "sceneexposure.h"
+#include "spectrographoptics.h"
+#include "spectrographscene.h"
+
+#include <cmath>
+
+class LineAssignmentTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void theMainLinesAreInTheLists_data();
+    void theMainLinesAreInTheLists();
+    void theSimulatedLampIsCalibrated_data();
+    void theSimulatedLampIsCalibrated();
+    void peaksOfNothingAreNotAssigned();
+    void theNearestOfBoth();
+};
+
+void LineAssignmentTest::theMainLinesAreInTheLists_data()
+{
+    QTest::addColumn<int>("lamp");
+    QTest::addColumn<double>("nm");
+    // Air wavelengths as in handbooks, to their usual three digits.
+    const auto rows = [](Lamp lamp, std::initializer_list<double> lines) {
+        for (const double nm : lines)
+            QTest::addRow("%s %.3f", qPrintable(LampName(lamp)), nm) << int(lamp) << nm;
+    };
+    rows(Lamp::Mercury, {365.015, 404.656, 435.833, 546.074, 576.960, 579.066});
+    rows(Lamp::Argon, {696.543, 763.511, 811.531, 912.297});
+    rows(Lamp::Neon, {585.249, 640.225, 703.241, 724.517, 743.890, 837.761});
+    rows(Lamp::Krypton, {557.029, 587.092, 760.154, 811.290, 819.005, 877.675, 892.869});
+    rows(Lamp::Xenon, {467.123, 823.163, 828.012, 881.941, 895.225, 979.970});
+}
+
+void LineAssignmentTest::theMainLinesAreInTheLists()
+{
+    QFETCH(int, lamp);
+    QFETCH(double, nm);
+    const CalibrationPoint line = NearestLine({Lamp(lamp)}, nm, 1);
+    QVERIFY2(std::abs(line.nm - nm) < 0.0016, qPrintable(QString::number(line.nm, 'f', 4)));
+    QCOMPARE(line.line, LampName(Lamp(lamp)));
+}
+
+void LineAssignmentTest::theSimulatedLampIsCalibrated_data()
+{
+    QTest::addColumn<double>("first");
+    QTest::addColumn<double>("last");
+    QTest::newRow("range known about") << 370.0 << 950.0;
+    QTest::newRow("nothing known") << 0.0 << 0.0;
+}
+
+void LineAssignmentTest::theSimulatedLampIsCalibrated()
+{
+    QFETCH(double, first);
+    QFETCH(double, last);
+    SpectrographScene scene(11);
+    SceneExposure exposure(2048, 512, 16);
+    exposure.Settings().exposureUs = 2000;
+    exposure.Expose(scene);
+    const SpectrographOptics truth(QSize(2048, 512));
+    const int row = int(std::lround(truth.TrackCentre(1)));
+    SampleView picture;
+    picture.samples = exposure.Bytes().data();
+    picture.width = 2048;
+    picture.height = 512;
+    picture.strideBytes = exposure.Settings().strideBytes;
+    picture.bitDepth = 16;
+    BinnedLine line;
+    BinRows(picture, row - 6, row + 7, &line);
+
+    AssignmentHints hints;
+    hints.lamps = {Lamp::Mercury, Lamp::Argon};
+    hints.width = 2048;
+    hints.firstNm = first;
+    hints.lastNm = last;
+    const auto points = AssignLines(FindPeaks(std::vector<double>(line.sums.begin(), line.sums.end())), hints);
+    QVERIFY2(points.size() >= 14, qPrintable(QString::number(points.size())));
+    const CalibrationFit fit = FitCalibration(points, 3, 2048);
+    QVERIFY2(fit.IsGood(), qPrintable(fit.fault));
+    QVERIFY2(fit.rmsPixel < 0.1, qPrintable(QString::number(fit.rmsPixel)));
+    for (const EmissionLine &known : SpectrographOptics::Lines()) {
+        const double place = truth.LinePosition(known.wavelengthNm, row);
+        const double off = (fit.calibration.Wavelength(place) - known.wavelengthNm) / fit.calibration.Dispersion(place);
+        QVERIFY2(std::abs(off) < 0.1, qPrintable(QString("%1 nm is off by %2 pixels").arg(known.wavelengthNm).arg(off)));
+    }
+}
+
+void LineAssignmentTest::peaksOfNothingAreNotAssigned()
+{
+    AssignmentHints hints;
+    hints.lamps = {Lamp::Neon};
+    hints.width = 1000;
+    QVERIFY(AssignLines({}, hints).isEmpty());
+    std::vector<SpectralPeak> evenly(5);
+    for (size_t i = 0; i < evenly.size(); ++i)
+        evenly[i].position = 1 + 0.1 * double(i);
+    QVERIFY(AssignLines(evenly, hints).isEmpty());
+    hints.lamps.clear();
+    QVERIFY(AssignLines(evenly, hints).isEmpty());
+}
+
+void LineAssignmentTest::theNearestOfBoth()
+{
+    QCOMPARE(NearestLine({Lamp::Mercury, Lamp::Argon}, 546.3, 1).line, QString("Hg"));
+    QCOMPARE(NearestLine({Lamp::Mercury, Lamp::Argon}, 500, 1).nm, 0.0);
+    std::vector<SpectralPeak> peaks(2);
+    peaks[0].position = 10;
+    peaks[1].position = 20;
+    QCOMPARE(NearestPeak(peaks, 14, 8), &peaks[0]);
+    QCOMPARE(NearestPeak(peaks, 16, 8), &peaks[1]);
+    QVERIFY(!NearestPeak(peaks, 40, 8));
+}
+
+GUARDED_TEST_MAIN(LineAssignmentTest)
+#include "lineassignmenttest.moc"

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calibrationfit.h"
+#include "guardedtest.h"
+#include "lineassignment.h"
+#include "openpicture.h"
+#include "spectrumnoise.h"
+
+#include <QFile>
+
+#include <cmath>
+
+/// Lamps of real spectrographs, with lines that others have identified.
+class RealLampsTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void theirLinesAreFound();
+    void theirPointsGiveAGoodCalibration();
+    void theyAreAssignedByThemselves();
+    void neonInAVacuumAxisIsFound();
+};
+
+namespace {
+
+QVector<QPair<double, double>> Numbers(const QString &name)
+{
+    QFile file(QString(TEST_DATA) + "/lamp/" + name);
+    if (!file.open(QIODevice::ReadOnly))
+        QTest::qFail(qPrintable(file.errorString()), __FILE__, __LINE__);
+    QVector<QPair<double, double>> numbers;
+    for (const QByteArray &line : file.readAll().split('\n')) {
+        const QList<QByteArray> fields = line.split(',');
+        if (fields.size() == 2)
+            numbers << qMakePair(fields[0].toDouble(), fields[1].toDouble());
+    }
+    return numbers;
+}
+
+std::vector<double> Counts(const QString &name)
+{
+    std::vector<double> counts;
+    for (const auto &sample : Numbers(name))
+        counts.push_back(sample.second);
+    return counts;
+}
+
+const QString osiris = "osiris-b-effective-pixel-spectrum.txt";
+const QString osirisPairs = "osiris-b-pixel-wavelength-solution-pairs.txt";
+
+} // namespace
+
+void RealLampsTest::theirLinesAreFound()
+{
+    const std::vector<double> counts = Counts(osiris);
+    const std::vector<SpectralPeak> peaks = FindPeaks(counts);
+    int found = 0;
+    const auto pairs = Numbers(osirisPairs);
+    for (const auto &pair : pairs)
+        found += NearestPeak(peaks, pair.first, 2) ? 1 : 0;
+    QCOMPARE(pairs.size(), 34);
+    QVERIFY2(found >= 33, qPrintable(QString::number(found)));
+    QVERIFY2(peaks.size() < 80, qPrintable(QString::number(peaks.size())));
+}
+
+void RealLampsTest::theirPointsGiveAGoodCalibration()
+{
+    const std::vector<SpectralPeak> peaks = FindPeaks(Counts(osiris));
+    QVector<CalibrationPoint> points;
+    for (const auto &pair : Numbers(osirisPairs)) {
+        if (const SpectralPeak *peak = NearestPeak(peaks, pair.first, 2))
+            points.append({peak->position, pair.second / 10, QString()});
+    }
+    const CalibrationFit fit = FitCalibration(points, 4, 2051);
+    QVERIFY2(fit.IsGood(), qPrintable(fit.fault));
+    QVERIFY2(fit.rmsPixel < 0.1, qPrintable(QString::number(fit.rmsPixel)));
+    QVERIFY(fit.leaveOneOutPixel > fit.rmsPixel && fit.leaveOneOutPixel < 0.5); // one line stands alone at the blue end
+}
+
+void RealLampsTest::theyAreAssignedByThemselves()
+{
+    AssignmentHints hints;
+    hints.lamps = {Lamp::Mercury, Lamp::Argon, Lamp::Neon};
+    hints.width = 2051;
+    hints.firstNm = 335;
+    hints.lastNm = 785;
+    hints.degree = 4;
+    const auto points = AssignLines(FindPeaks(Counts(osiris)), hints);
+    QVERIFY2(points.size() >= 20, qPrintable(QString::number(points.size())));
+    const CalibrationFit fit = FitCalibration(points, 4, 2051);
+    QVERIFY2(fit.IsGood() && fit.rmsPixel < 0.1, qPrintable(QString::number(fit.rmsPixel)));
+    // The pairs of the others agree, though they are no better than their whole pixels.
+    for (const auto &pair : Numbers(osirisPairs)) {
+        const double off = (fit.calibration.Wavelength(pair.first) - pair.second / 10) / fit.calibration.Dispersion(pair.first);
+        QVERIFY2(std::abs(off) < 2, qPrintable(QString("%1: %2").arg(pair.second).arg(off)));
+    }
+}
+
+void RealLampsTest::neonInAVacuumAxisIsFound()
+{
+    QString error;
+    const auto file = OpenPicture(QString(TEST_DATA) + "/spe/HeNe.SPE", error);
+    QVERIFY2(file, qPrintable(error));
+    Picture picture;
+    QVERIFY2(file->ReadFrame(0, picture, error), qPrintable(error));
+    std::vector<double> counts;
+    for (int x = 0; x < picture.Width(); ++x)
+        counts.push_back(picture.Samples<qint32>(0)[x]);
+    const QVector<double> axis = file->AxisOf(0).values;
+
+    AssignmentHints hints;
+    hints.lamps = {Lamp::Neon};
+    hints.width = picture.Width();
+    hints.firstNm = axis.first();
+    hints.lastNm = axis.last();
+    hints.degree = 3;
+    const auto points = AssignLines(FindPeaks(counts), hints);
+    QVERIFY2(points.size() >= 12, qPrintable(QString::number(points.size())));
+    const CalibrationFit fit = FitCalibration(points, 3, picture.Width());
+    QVERIFY2(fit.IsGood() && fit.rmsPixel < 0.25, qPrintable(QString::number(fit.rmsPixel)));
+    // The file's axis is in vacuum: a quarter of a nanometre above air.
+    const double middle = 500;
+    QVERIFY2(std::abs(axis[500] - fit.calibration.Wavelength(middle) - 0.23) < 0.1,
+             qPrintable(QString::number(axis[500] - fit.calibration.Wavelength(middle))));
+}
+
+GUARDED_TEST_MAIN(RealLampsTest)
+#include "reallampstest.moc"

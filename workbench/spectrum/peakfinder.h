@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <limits>
+#include <vector>
+
+/// A line of a spectrum.
+struct SpectralPeak
+{
+    int index = 0;         ///< of its highest sample
+    double position = 0;   ///< samples, with fractions
+    double height = 0;     ///< above the background
+    double prominence = 0; ///< above the higher of the valleys that part it from higher ones
+    double width = 0;      ///< full width at half of the prominence, samples
+    bool isSaturated = false; ///< its top is cut off; the position comes from its flanks
+};
+
+/// What counts as a peak.
+struct PeakRules
+{
+    /// The half width of the widest line, samples. The background is a running median over eight times as much.
+    int halfWidth = 15;
+    /// How sure a peak is: minus the decimal logarithm of the chance that noise alone lifts a sample as high. With 10
+    /// one spectrum of 2048 samples in five million has a false peak.
+    double certainty = 10;
+    /// A sample of that or more is cut off. Two or more equal highest samples side by side count as cut off too when
+    /// they stand far above the noise.
+    double saturation = std::numeric_limits<double>::infinity();
+};
+
+/// The peaks of a spectrum, by rising position. A curve smoothed with a narrow Gaussian (the matched filter of a sharp
+/// line) shows where they are; the samples themselves give the position: a Gaussian fitted by weighted least squares
+/// to the logarithm (Guo, IEEE Signal Processing Magazine 28, 134, 2011), leaving out samples that are cut off.
+std::vector<SpectralPeak> FindPeaks(const std::vector<double> &samples, const PeakRules &rules = PeakRules());
+
+/// How many standard deviations noise exceeds with the chance 10 to the minus `certainty`, on one side.
+double DeviationsFor(double certainty);

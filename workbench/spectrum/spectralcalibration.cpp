@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "spectralcalibration.h"
+
+#include <algorithm>
+#include <cmath>
+
+SpectralCalibration::SpectralCalibration(const QVector<double> &coefficients, int width)
+    : m_coefficients(coefficients)
+    , m_width(width)
+{
+}
+
+double SpectralCalibration::Normalised(double pixel) const
+{
+    const double half = std::max(1.0, (m_width - 1) / 2.0);
+    return (pixel - half) / half;
+}
+
+double SpectralCalibration::Wavelength(double pixel) const
+{
+    const double x = Normalised(pixel);
+    double nm = 0;
+    for (int power = Degree(); power >= 0; --power)
+        nm = nm * x + m_coefficients[power];
+    return nm;
+}
+
+double SpectralCalibration::Dispersion(double pixel) const
+{
+    const double x = Normalised(pixel);
+    double slope = 0;
+    for (int power = Degree(); power >= 1; --power)
+        slope = slope * x + power * m_coefficients[power];
+    return slope / std::max(1.0, (m_width - 1) / 2.0);
+}
+
+QVector<double> SpectralCalibration::PixelCoefficients() const
+{
+    // Horner's scheme on polynomials: multiply by (pixel - half) / half and add the next coefficient.
+    const double half = std::max(1.0, (m_width - 1) / 2.0);
+    QVector<double> result(m_coefficients.size(), 0.0);
+    for (int power = Degree(); power >= 0; --power) {
+        QVector<double> next(m_coefficients.size(), 0.0);
+        for (int k = 0; k < result.size(); ++k) {
+            next[k] -= result[k];
+            if (k + 1 < next.size())
+                next[k + 1] += result[k] / half;
+        }
+        next[0] += m_coefficients[power];
+        result = next;
+    }
+    return result;
+}
+
+double SpectralCalibration::PixelAt(double nm) const
+{
+    double low = 0;
+    double high = std::max(0, m_width - 1);
+    const bool rises = Wavelength(high) > Wavelength(low);
+    for (int i = 0; i < 60; ++i) {
+        const double middle = (low + high) / 2;
+        ((Wavelength(middle) < nm) == rises ? low : high) = middle;
+    }
+    return (low + high) / 2;
+}
+
+bool SpectralCalibration::IsSteady(double *turn) const
+{
+    const bool rises = Wavelength(m_width - 1) > Wavelength(0);
+    for (int pixel = 0; pixel < m_width; ++pixel) {
+        const double slope = Dispersion(pixel);
+        if (!std::isfinite(slope) || (slope > 0) != rises || slope == 0) {
+            *turn = pixel;
+            return false;
+        }
+    }
+    return true;
+}
