@@ -53,8 +53,10 @@ QWidget *ImageUI::CreateCenterWidget(QWidget *parent)
     m_centerStack->addWidget(m_spectrumStack);
     m_multiImageWidget = new MultiImageWidget(parent);
     m_multiImageWidget->SetView(m_centerStack);
-    connect(GlobalManager::GetInstance()->GetActiveImageManager(), SIGNAL(signalCurrentFileFrameNumber(int)),
-            m_multiImageWidget, SLOT(SlotCurrentFileFrameNumber(int)));
+    ImageManager *image = GlobalManager::GetInstance()->GetActiveImageManager();
+    connect(image, SIGNAL(signalCurrentFileFrameNumber(int)), m_multiImageWidget,
+            SLOT(SlotCurrentFileFrameNumber(int)));
+    connect(image, SIGNAL(signalCurrentFrame(int)), m_multiImageWidget, SLOT(SlotCurrentFrame(int)));
     return m_multiImageWidget;
 }
 

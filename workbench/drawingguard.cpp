@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "drawingguard.h"
 
-#include "openglprobe.h"
 #include "workspaceconfig.h"
 
 #include <QGraphicsView>
@@ -16,9 +15,10 @@ constexpr int FaultsToFallBack = 3;
 constexpr int ErrorsToRead = 8;
 }
 
-DrawingGuard::DrawingGuard(WorkspaceConfig *config, QObject *parent)
+DrawingGuard::DrawingGuard(WorkspaceConfig *config, QObject *parent, const Probe &probe)
     : QObject(parent)
     , m_config(config)
+    , m_probe(probe)
 {
     connect(m_config, SIGNAL(signalSetCPUDraw(bool)), this, SLOT(slotDrawingChanged(bool)));
     connect(&m_timer, SIGNAL(timeout()), this, SLOT(slotLook()));
@@ -35,7 +35,7 @@ void DrawingGuard::Watch(QGraphicsView *view)
 void DrawingGuard::slotSetCPUDraw(bool cpuFlag)
 {
     QString reason;
-    if (cpuFlag || OpenGLProbe::CanStart(&reason))
+    if (cpuFlag || m_probe(&reason))
         m_config->SetCPUDraw(cpuFlag, false);
     else
         FallBack(tr("OpenGL can't be started: %1. The picture is drawn by the CPU.").arg(reason));

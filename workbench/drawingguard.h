@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "openglprobe.h"
+
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
+
+#include <functional>
 
 class QGraphicsView;
 class QOpenGLWidget;
@@ -18,8 +22,12 @@ class DrawingGuard : public QObject
 public:
     static constexpr int LookPeriodMs = 1000;
 
+    /// Whether OpenGL can be started; if not, says why.
+    using Probe = std::function<bool(QString *reason)>;
+
     /// Judges the stored choice at once, so make it before the views. `config` is borrowed and outlives this object.
-    explicit DrawingGuard(WorkspaceConfig *config, QObject *parent = nullptr);
+    explicit DrawingGuard(WorkspaceConfig *config, QObject *parent = nullptr,
+                          const Probe &probe = OpenGLProbe::CanStart);
 
     /// The view whose OpenGL viewport is looked after from here on; null for none.
     void Watch(QGraphicsView *view);
@@ -41,6 +49,7 @@ private:
     void FallBack(const QString &text);
 
     WorkspaceConfig *m_config;
+    const Probe m_probe;
     QPointer<QGraphicsView> m_view;
     QTimer m_timer;
     int m_faultCount = 0;

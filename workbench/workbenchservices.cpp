@@ -211,13 +211,21 @@ void WorkbenchServices::ConnectPictures()
     connect(m_pictureDesk.get(), SIGNAL(signalLastClosed()), m_workspace.get(), SLOT(slotLastPictureClosed()));
     connect(m_pictureDesk.get(), SIGNAL(signalCompareLost()), m_workspace.get(), SLOT(slotCompareLost()));
     connect(m_workspace.get(), SIGNAL(signalUpdateImageCompareFrame()), m_pictureDesk.get(), SLOT(slotUpdateUndo()));
+    // The module's frame browser listens to the picture that was active when it was built.
+    connect(m_comparePicture.get(), SIGNAL(signalCurrentFileFrameNumber(int)), m_mainPicture.get(),
+            SIGNAL(signalCurrentFileFrameNumber(int)));
+    connect(m_comparePicture.get(), SIGNAL(signalCurrentFrame(int)), m_mainPicture.get(),
+            SIGNAL(signalCurrentFrame(int)));
     // The view may be about to change again.
     connect(m_config.get(), SIGNAL(signalSwitchView()), m_workspace.get(), SLOT(slotLeaveEmptyPage()),
             Qt::QueuedConnection);
     connect(m_config.get(), SIGNAL(signalSwitchView()), m_pictureDesk.get(), SLOT(slotUpdateUndo()),
             Qt::QueuedConnection);
-    for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()})
+    for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()}) {
         connect(m_levelsModel.get(), SIGNAL(signalChanged()), picture, SLOT(slotLevelsChanged()));
+        connect(m_workspace.get(), SIGNAL(signalActiveImageChanged(QObject *)), picture,
+                SLOT(slotActiveImageChanged(QObject *)));
+    }
 }
 
 /// A camera that was opened gets its service and a fresh preview; one that was closed loses both. A

@@ -76,6 +76,8 @@ signals:
     void signalUpdateFileName(QString fileName);
     /// A file was opened that has this many frames.
     void signalCurrentFileFrameNumber(int count);
+    /// The frame shown is this one (from 0) without having been asked for, which SetImage() does.
+    void signalCurrentFrame(int index);
     void signalUpdateFileNameAndSize(QString text);
     void signalResetImageInfo();
     void signalResetImageSize();

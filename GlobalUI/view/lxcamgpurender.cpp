@@ -115,9 +115,11 @@ void LxCamGPURender::InitializeGL()
     qDebug("[LxCamGPURender]: initializeGL success!\n");
 }
 
+const char *LxCamGPURender::VertexShaderSource() const { return vertexShader; }
+
 bool LxCamGPURender::InitShaderProgram()
 {
-    if (!m_program.addShaderFromSourceCode(QOpenGLShader::Vertex, vertexShader))
+    if (!m_program.addShaderFromSourceCode(QOpenGLShader::Vertex, VertexShaderSource()))
         return false;
     qDebug("addShaderFromSourceCode Vertex success");
     if (!m_program.addShaderFromSourceCode(QOpenGLShader::Fragment, fragmentShader))

@@ -39,6 +39,9 @@ public:
     /// Whether the context it was initialised in is the current one.
     bool IsContextCurrent() const;
 
+protected:
+    virtual const char *VertexShaderSource() const;
+
 private:
     /// Logs the step's outcome; true without a pending GL error.
     bool CheckGLError(const QString &step);

@@ -40,3 +40,5 @@ void MultiImageWidget::SlotCurrentFileFrameNumber(int value)
     m_tool->SetFrameCount(value);
     m_tool->SetCurrentFrame(0);
 }
+
+void MultiImageWidget::SlotCurrentFrame(int index) { m_tool->SetCurrentFrame(index); }

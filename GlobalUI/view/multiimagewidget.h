@@ -22,6 +22,8 @@ public slots:
     void SlotScrollValueChanged(int value);
     /// A file with `value` frames has been opened.
     void SlotCurrentFileFrameNumber(int value);
+    /// Of its frames this one (from 0) is shown.
+    void SlotCurrentFrame(int index);
 
 private:
     QWidget *m_view = nullptr;

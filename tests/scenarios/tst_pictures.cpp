@@ -383,6 +383,39 @@ private slots:
         QTRY_COMPARE(VisibleImages(), QVector<QSize>({ QSize(19, 13) }));
     }
 
+    void theFrameBrowserIsThatOfTheCheckedHalf()
+    {
+        WriteNumbers(Path("right.tif"), QSize(23, 17), 3);
+        WriteNumbers(Path("left.tif"), QSize(19, 13), 5);
+        Drop({ Path("right.tif") });
+        QVERIFY(WaitForImage("right.tif"));
+        auto *page = m_workbench->window.findChild<QLabel *>("labelPageInfo");
+        auto *bar = page->parentWidget()->findChild<QScrollBar *>("horizontalScrollBar");
+        Drop({ Path("left.tif") });
+        QVERIFY(WaitForImage("left.tif"));
+        bar->setValue(3);
+        QTRY_COMPARE(Desk()->MainPicture()->Shown().request.frame, 3);
+        m_workbench->Action("Compare")->trigger();
+        QTRY_COMPARE(HalfNames(), QStringList({ "left.tif  19x13", "right.tif  23x17" }));
+        QCOMPARE(page->text(), QString("4/5"));
+
+        QTest::mouseClick(CompareViews().last()->viewport(), Qt::LeftButton);
+        QCOMPARE(page->text(), QString("1/3"));
+        bar->setValue(2);
+        QTRY_COMPARE(Desk()->ComparePicture()->Shown().request.frame, 2);
+        QTest::mouseClick(CompareViews().first()->viewport(), Qt::LeftButton);
+        QCOMPARE(page->text(), QString("4/5"));
+        QTest::mouseClick(CompareViews().last()->viewport(), Qt::LeftButton);
+        QCOMPARE(page->text(), QString("3/3"));
+
+        PageButton("pushButtonCloseCompare")->click();
+        QCOMPARE(CurrentView(), int(ImageView));
+        QCOMPARE(page->text(), QString("4/5"));
+        QVERIFY(page->isVisible());
+        QCOMPARE(Desk()->MainPicture()->Shown().request.frame, 3);
+        QCOMPARE(Desk()->MainPicture()->WantedDocument()->Frame(), 3);
+    }
+
     void theListShowsRenamesAndCloses()
     {
         WorkspaceConfig *config = m_workbench->services.Config();

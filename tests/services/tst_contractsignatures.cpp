@@ -32,7 +32,7 @@ const Contract contracts[] = {
       "slotSetGraphicsScene(QGraphicsScene*)"}},
     {&ImageManager::staticMetaObject,
      {"sglAddThumbnail(QImage)", "signalSetCropState(int,bool)", "signalUpdateFileName(QString)",
-      "signalCurrentFileFrameNumber(int)", "signalUpdateFileNameAndSize(QString)",
+      "signalCurrentFileFrameNumber(int)", "signalCurrentFrame(int)", "signalUpdateFileNameAndSize(QString)",
       "signalResetImageInfo()", "signalResetImageSize()",
       "sglUpdateHorizontalCurve(int*, int, int, int)",
       "sglUpdateVerticalCurve(int*, int, int, int)", "signalUpdateLevel(int, int)",

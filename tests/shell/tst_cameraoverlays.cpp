@@ -8,7 +8,10 @@
 #include "shellfixture.h"
 
 #include <QGraphicsItem>
+#include <QGraphicsObject>
 #include <QGraphicsScene>
+#include <QPainterPath>
+#include <QPen>
 
 namespace {
 
@@ -68,6 +71,8 @@ private slots:
     void bandIsFoundBetweenEndPoints_data();
     void bandIsFoundBetweenEndPoints();
     void bandSetByHandIsShownOnce();
+    void bandHasItsRowsAndItsMovability_data();
+    void bandHasItsRowsAndItsMovability();
     void noBand_data();
     void noBand();
     void oneEndPointIsNoBand();
@@ -79,8 +84,11 @@ private slots:
     void tracksAreShownAndTakenAway();
     void noTracksLeaveNoOverlay();
     void focusLinesAreShown();
+    void focusLinesAreAsChosen_data();
+    void focusLinesAreAsChosen();
     void focusWithoutAngles();
     void focusOffClearsLines();
+    void focusOffHidesTheCrossLine();
     void closingFocusAssistance();
     void crossLineIsWired();
 };
@@ -138,6 +146,34 @@ void CameraOverlaysTest::bandSetByHandIsShownOnce()
     QCOMPARE(CallLog::Calls(), QStringList());
     DragBand(page.Overlays().first(), 31, 81); // connected once
     QCOMPARE(CallLog::Count("SpectrumUIManager::SetTop(31)"), 1);
+}
+
+void CameraOverlaysTest::bandHasItsRowsAndItsMovability_data()
+{
+    QTest::addColumn<bool>("manual");
+    QTest::addColumn<QVector<int>>("edges");
+    QTest::newRow("set by hand") << true << QVector<int>{ 30, 80 };
+    QTest::newRow("found") << false << QVector<int>{ 150, 250 };
+}
+
+void CameraOverlaysTest::bandHasItsRowsAndItsMovability()
+{
+    QFETCH(bool, manual);
+    QFETCH(QVector<int>, edges);
+    ShellServices services;
+    services.spectrumUI.fvbOnFlag = 1;
+    services.spectrumUI.fvbModeAuto = true;
+    services.spectrumUI.manualFlag = manual;
+    services.spectrumUI.top = 30;
+    services.spectrumUI.bottom = 80;
+    services.spectrum.endPointList = { QPointF(7, 150.6), QPointF(9, 250.3) };
+    Page page;
+    emit services.spectrum.SignalSpectralineFVB();
+    const auto *line = qobject_cast<QGraphicsObject *>(page.Overlays().first()->GetFVBLineObject());
+    QVERIFY(line);
+    for (const int row : { 30, 80, 150, 250 }) // where the mouse finds an edge
+        QCOMPARE(line->shape().contains(QPointF(200, row)), edges.contains(row));
+    QCOMPARE(line->acceptedMouseButtons() != Qt::NoButton, manual);
 }
 
 void CameraOverlaysTest::noBand_data()
@@ -291,6 +327,7 @@ void CameraOverlaysTest::noTracksLeaveNoOverlay()
     Page page;
     emit services.spectrumUI.SignalMultiTrackOnFlagChanged();
     QCOMPARE(page.VisibleMarks(), 0);
+    QVERIFY(page.Overlays().isEmpty());
 }
 
 void CameraOverlaysTest::focusLinesAreShown()
@@ -308,6 +345,51 @@ void CameraOverlaysTest::focusLinesAreShown()
     emit services.spectrum.SignalSpectralineAutoDetectFinish();
     QCOMPARE(page.Overlays().size(), 1);
     QCOMPARE(CallLog::Count("SpectrumManager::ClearFocusInfo()"), 0);
+}
+
+void CameraOverlaysTest::focusLinesAreAsChosen_data()
+{
+    QTest::addColumn<bool>("byHand");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<bool>("rectangle");
+    QTest::addColumn<bool>("line");
+    QTest::newRow("all, found") << false << 0 << true << true;
+    QTest::newRow("all, by hand") << true << 0 << true << true;
+    QTest::newRow("rectangles") << false << 1 << true << false;
+    QTest::newRow("lines, by hand") << true << 2 << false << true;
+}
+
+void CameraOverlaysTest::focusLinesAreAsChosen()
+{
+    QFETCH(bool, byHand);
+    QFETCH(int, mode);
+    ShellServices services;
+    services.spectrumUI.focusAssitanceFlag = true;
+    services.spectrumUI.speSelectionFlag = byHand;
+    services.spectrumUI.spectrumSelectionMode = mode;
+    services.spectrum.angleList = { 1.5F };
+    services.spectrum.distanceList = { 12.0F };
+    services.spectrum.linePointList = { QPoint(50, 60) };
+    services.spectrum.extendRectList = { QRect(40, 0, 20, 300) };
+    Page page;
+    emit services.spectrum.SignalSpectralineAutoDetectFinish();
+    bool hasRectangle = false;
+    bool hasLine = false;
+    for (QGraphicsItem *item : page.scene->items()) {
+        const auto *rectangle = qgraphicsitem_cast<QGraphicsRectItem *>(item);
+        const auto *line = qgraphicsitem_cast<QGraphicsLineItem *>(item);
+        if (rectangle) {
+            hasRectangle = true;
+            QCOMPARE(rectangle->rect(), QRectF(40, 0, 20, 300));
+        }
+        hasLine = hasLine || line;
+        if (rectangle || line) {
+            const Qt::PenStyle style = rectangle ? rectangle->pen().style() : line->pen().style();
+            QCOMPARE(style, byHand ? Qt::DashLine : Qt::SolidLine);
+        }
+    }
+    QTEST(hasRectangle, "rectangle");
+    QTEST(hasLine, "line");
 }
 
 void CameraOverlaysTest::focusWithoutAngles()
@@ -333,6 +415,22 @@ void CameraOverlaysTest::focusOffClearsLines()
     emit services.spectrum.SignalSpectralineAutoDetectFinish();
     QCOMPARE(CallLog::Calls(), QStringList("SpectrumManager::ClearFocusInfo()"));
     QCOMPARE(page.VisibleMarks(), 0);
+}
+
+void CameraOverlaysTest::focusOffHidesTheCrossLine()
+{
+    ShellServices services;
+    services.spectrumUI.focusAssitanceFlag = true;
+    Page page;
+    emit services.spectrum.SignalSpectralineAutoDetectFinish();
+    emit services.spectrumUI.SignalFocusCrossLineFlagChanged(true);
+    const auto *cross = qobject_cast<QGraphicsObject *>(page.Overlays().first()->GetCrossLineObject());
+    QVERIFY(cross->isVisible());
+    services.spectrumUI.focusAssitanceFlag = false;
+    emit services.spectrum.SignalSpectralineAutoDetectFinish();
+    QVERIFY(!cross->isVisible());
+    emit services.spectrumUI.SignalFocusOnChanged(true); // it can come back
+    QVERIFY(cross->isVisible());
 }
 
 void CameraOverlaysTest::closingFocusAssistance()

@@ -270,6 +270,8 @@ void CameraStackedWidgetTest::liveFrameIsShownAndAnnounced()
     QCOMPARE(page.Info("labelSizeValue"), QString("300x200"));
     QCOMPARE(CallLog::Count("ROIManager::slotScaleFactorChanged(2)"), 1);
     QCOMPARE(CallLog::Count("CoverConfigManager::slotScaleFactorChanged(2)"), 1);
+    QVERIFY(CallLog::Calls().indexOf("ROIManager::slotScaleFactorChanged(2)")
+            < CallLog::Calls().indexOf("CoverConfigManager::slotScaleFactorChanged(2)"));
     QCOMPARE(page.Zoom(), QString("200.00%"));
     emit services.pixelInfo.signalUpdatePixelInfo(QPointF(12.9, 7.2), "130");
     QCOMPARE(page.Info("labelPos"), QString("(12, 7)"));

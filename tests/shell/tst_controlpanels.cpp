@@ -404,6 +404,8 @@ void ControlPanelsTest::imageCentre()
     QCOMPARE(wrapper->layout()->itemAt(0)->widget(), static_cast<QWidget *>(stack));
     emit bench.services.active.signalCurrentFileFrameNumber(12);
     QCOMPARE(wrapper->findChild<QLabel *>("labelPageInfo")->text(), QString("1/12"));
+    emit bench.services.active.signalCurrentFrame(4);
+    QCOMPARE(wrapper->findChild<QLabel *>("labelPageInfo")->text(), QString("5/12"));
 }
 
 void ControlPanelsTest::measureConstruction()

@@ -79,6 +79,7 @@ private slots:
     void replacedViewportIsMadeAnew();
     void replacedViewportIsDetached();
     void removedWithItsItem();
+    void nobodyHearsOfItsEnd();
 };
 
 void TestDrawViewModes::switchingToGPUDrawing()
@@ -288,6 +289,17 @@ void TestDrawViewModes::removedWithItsItem()
         QApplication::processEvents();
     }
     QCOMPARE(DebugLines().last(), QString("LxCamGPURender::~LxCamGPURender()"));
+}
+
+void TestDrawViewModes::nobodyHearsOfItsEnd()
+{
+    QStringList heard;
+    {
+        DrawViewFixture fixture;
+        connect(fixture.view, &QObject::destroyed, this, [&] { heard << "view"; });
+        connect(fixture.view->scene(), &QObject::destroyed, this, [&] { heard << "scene"; });
+    }
+    QCOMPARE(heard, QStringList("scene")); // what was connected to the view is not any more
 }
 
 GUARDED_TEST_MAIN(TestDrawViewModes)

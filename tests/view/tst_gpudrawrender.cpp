@@ -25,6 +25,22 @@ const QStringList initLines{
     "[LxCamGPURender]: initializeGL success!\n",
 };
 
+/// A renderer whose driver takes no vertex shader, or one that does not fit the fragment shader.
+class BrokenRender : public LxCamGPURender
+{
+public:
+    explicit BrokenRender(const char *source)
+        : m_source(source)
+    {
+    }
+
+protected:
+    const char *VertexShaderSource() const override { return m_source; }
+
+private:
+    const char *m_source;
+};
+
 QImage AsColour(const QImage &grey) { return grey.convertToFormat(QImage::Format_RGB888); }
 
 } // namespace
@@ -47,6 +63,8 @@ private slots:
     void pendingErrorWithoutRefreshGivesUpTheFrame();
     void pendingErrorWhileComparingGivesUpTheFrame();
     void withoutInitialisationNothingIsDrawn();
+    void aShaderThatFailsDrawsNothing_data();
+    void aShaderThatFailsDrawsNothing();
     void endOfTheContextReleasesEverything();
 };
 
@@ -228,6 +246,40 @@ void TestGPUDrawRender::withoutInitialisationNothingIsDrawn()
     LxCamGPURender render;
     render.PaintGL(GreyPicture({ 8, 4 }).constBits(), 8, 4, 1);
     QCOMPARE(DebugLines(), QStringList());
+}
+
+void TestGPUDrawRender::aShaderThatFailsDrawsNothing_data()
+{
+    QTest::addColumn<QByteArray>("source");
+    QTest::addColumn<QString>("warning");
+    QTest::addColumn<QStringList>("lines");
+    QTest::newRow("compiling") << QByteArray("void main(void) { nonsense }") << "QOpenGLShader::compile" << QStringList();
+    QTest::newRow("linking") << QByteArray("attribute highp vec4 vertex;\nvarying mediump vec3 texc;\n"
+                                           "void main(void) { gl_Position = vertex; texc = vec3(1.0); }\n")
+                             << "QOpenGLShader::link" << initLines.mid(0, 2);
+}
+
+void TestGPUDrawRender::aShaderThatFailsDrawsNothing()
+{
+    QFETCH(QByteArray, source);
+    QFETCH(QString, warning);
+    QFETCH(QStringList, lines);
+    OffscreenGL offscreen;
+    QVERIFY(offscreen.IsValid());
+    offscreen.gl()->glClearColor(0, 0, 1, 1);
+    offscreen.gl()->glClear(GL_COLOR_BUFFER_BIT);
+    BrokenRender render(source.constData());
+    ExpectWarning(QRegularExpression(warning)); // the library's own
+    if (lines.isEmpty())
+        ExpectWarning(QRegularExpression("Problematic"));
+    render.InitializeGL();
+    QCOMPARE(DebugLines(), lines);
+    render.ResizeGL(8, 4, wholePicture);
+    render.PaintGL(GreyPicture({ 8, 4 }).constBits(), 8, 4, 1);
+    QImage untouched(8, 4, QImage::Format_RGB888);
+    untouched.fill(QColor(0, 0, 255));
+    QCOMPARE(offscreen.Picture(), untouched);
+    QCOMPARE(offscreen.gl()->glGetError(), GLenum(GL_NO_ERROR));
 }
 
 void TestGPUDrawRender::endOfTheContextReleasesEverything()

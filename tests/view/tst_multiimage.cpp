@@ -29,6 +29,8 @@ private slots:
     void browserShowsWithTwoFrames_data();
     void browserShowsWithTwoFrames();
     void nextFileStartsAtItsFirstFrame();
+    void aShorterFileStartsAtItsFirstFrameToo();
+    void theBrowserIsTakenToAFrame();
     void chosenFrameIsShownByTheActiveImage();
     void noImageManagerIsNoTrouble();
 };
@@ -207,6 +209,32 @@ void TestMultiImage::nextFileStartsAtItsFirstFrame()
 
     widget.SlotCurrentFileFrameNumber(1);
     QVERIFY(widget.findChild<MultiImageToolUI *>()->isHidden());
+}
+
+void TestMultiImage::aShorterFileStartsAtItsFirstFrameToo()
+{
+    FakeServices services;
+    MultiImageWidget widget(nullptr);
+    widget.SlotCurrentFileFrameNumber(12);
+    auto *bar = widget.findChild<QScrollBar *>("horizontalScrollBar");
+    bar->setValue(11);
+    CallLog::Clear();
+    widget.SlotCurrentFileFrameNumber(5);
+    QCOMPARE(bar->maximum(), 4);
+    QCOMPARE(bar->value(), 0);
+    QCOMPARE(widget.findChild<QLabel *>("labelPageInfo")->text(), QString("1/5"));
+    // The bar ends before the frame it stood at, and then goes to the first.
+    QCOMPARE(CallLog::Calls(), QStringList({ "ImageManager::SetImage(4)", "ImageManager::SetImage(0)" }));
+}
+
+void TestMultiImage::theBrowserIsTakenToAFrame()
+{
+    FakeServices services;
+    MultiImageWidget widget(nullptr);
+    widget.SlotCurrentFileFrameNumber(12);
+    widget.SlotCurrentFrame(7);
+    QCOMPARE(widget.findChild<QScrollBar *>("horizontalScrollBar")->value(), 7);
+    QCOMPARE(widget.findChild<QLabel *>("labelPageInfo")->text(), QString("8/12"));
 }
 
 void TestMultiImage::chosenFrameIsShownByTheActiveImage()

@@ -26,13 +26,14 @@ OpenedPicture::OpenedPicture(PictureLoader *loader, Place place, QObject *parent
     , m_place(place)
     , m_measuring(new ViewMeasuring(this))
     , m_levels(new PictureLevels(this))
+    , m_isBrowsed(place == MainPlace)
 {
     connect(loader, SIGNAL(signalLoaded(LoadedPicture)), this, SLOT(slotLoaded(LoadedPicture)));
 }
 
 // Asking and answering
 
-void OpenedPicture::Show(PictureDocument *document) { Request(document, 0); }
+void OpenedPicture::Show(PictureDocument *document) { Request(document, document->Frame()); }
 
 void OpenedPicture::Request(PictureDocument *document, int frame)
 {
@@ -58,6 +59,8 @@ void OpenedPicture::slotLoaded(const LoadedPicture &picture)
         Take(picture);
     } else if (picture.request.ticket == m_wantedTicket) {
         PictureDocument *failed = m_wanted;
+        if (failed != m_document)
+            failed->SetFrame(0); // the next time it may be another frame
         GiveUp(failed);
         emit signalFailed(failed, picture.error);
     }
@@ -71,6 +74,7 @@ void OpenedPicture::GiveUp(const PictureDocument *document)
         return;
     m_wanted = m_document;
     m_wantedFrame = m_shown.request.frame;
+    TellFrameBrowser();
     emit signalGivenUp();
 }
 
@@ -80,6 +84,7 @@ void OpenedPicture::Take(const LoadedPicture &picture)
     m_shown = picture;
     m_wanted->SetInfo(picture.info);
     m_wanted->SetRange(picture.range);
+    m_wanted->SetFrame(picture.request.frame);
     if (isOther)
         Follow(m_wanted);
     m_levels->Set(picture.samples.Type(), picture.range);
@@ -100,10 +105,28 @@ void OpenedPicture::Take(const LoadedPicture &picture)
 void OpenedPicture::AnnounceDocument()
 {
     emit signalUpdateFileName(m_document->Name());
-    emit signalCurrentFileFrameNumber(m_shown.info.frames);
+    TellFrameBrowser();
     emit signalShown();
     if (!m_shown.info.warning.isEmpty())
         emit signalMessage(m_shown.info.warning);
+}
+
+void OpenedPicture::slotActiveImageChanged(QObject *image)
+{
+    m_isBrowsed = image == this;
+    TellFrameBrowser();
+}
+
+/// The browser begins with the first frame of any file, and what it shows it asks for.
+void OpenedPicture::TellFrameBrowser()
+{
+    if (!m_isBrowsed)
+        return;
+    m_isTellingBrowser = true;
+    emit signalCurrentFileFrameNumber(m_shown.info.frames);
+    if (m_shown.info.frames > 0)
+        emit signalCurrentFrame(m_wantedFrame);
+    m_isTellingBrowser = false;
 }
 
 /// Where the frame belongs in a stack of several channels or slices.
@@ -147,7 +170,7 @@ void OpenedPicture::slotLevelsChanged()
 
 void OpenedPicture::SetImage(int index)
 {
-    if (!m_wanted || m_wanted != m_document || index < 0 || index >= m_shown.info.frames
+    if (m_isTellingBrowser || !m_wanted || m_wanted != m_document || index < 0 || index >= m_shown.info.frames
         || index == m_wantedFrame)
         return;
     Request(m_document, index);
@@ -169,7 +192,7 @@ void OpenedPicture::CloseImage()
     emit signalUpdateFileName(QString());
     emit signalResetImageInfo();
     emit signalResetImageSize();
-    emit signalCurrentFileFrameNumber(0);
+    TellFrameBrowser();
     emit UIConfigManager::GetInstance()->signalImageInfoChanged();
 }
 

@@ -28,7 +28,7 @@ public:
     /// `loader` is borrowed and outlives this object.
     OpenedPicture(PictureLoader *loader, Place place, QObject *parent = nullptr);
 
-    /// Shows the first frame of a picture of the shelf as soon as it was read.
+    /// Shows a picture of the shelf, the frame that was shown last, as soon as it was read.
     void Show(PictureDocument *document);
     /// What was asked for cannot be shown; what is shown stays.
     void GiveUp(const PictureDocument *document);
@@ -77,6 +77,8 @@ public slots:
     void slotMouseDoubleClickEvent(QMouseEvent *event) override;
     /// The levels were changed: makes the picture anew.
     void slotLevelsChanged();
+    /// The frame browser is that of the active picture, at first the main one; only that tells it of its frames.
+    void slotActiveImageChanged(QObject *image);
 
 signals:
     /// A frame for the views.
@@ -104,6 +106,7 @@ private:
     void Take(const LoadedPicture &picture);
     void AnnounceDocument();
     void AnnounceFrame();
+    void TellFrameBrowser();
     void Follow(PictureDocument *document);
     void Forget();
 
@@ -114,6 +117,8 @@ private:
     QPointer<PictureDocument> m_document;
     QPointer<PictureDocument> m_wanted;
     int m_wantedFrame = 0;
+    bool m_isBrowsed;
+    bool m_isTellingBrowser = false;
     quint64 m_wantedTicket = 0;
     LoadedPicture m_shown;
     QPointF m_mousePos; ///< picture pixels

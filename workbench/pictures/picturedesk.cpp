@@ -217,6 +217,7 @@ void PictureDesk::Reread(PictureDocument *document)
 {
     m_loader->Close(document->File().id);
     document->SetRange(SampleRange());
+    document->SetFrame(0);
     for (OpenedPicture *picture : { m_main, m_compare }) {
         if (picture->WantedDocument() == document)
             picture->Show(document);

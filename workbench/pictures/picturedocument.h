@@ -40,6 +40,10 @@ public:
     const SampleRange &Range() const { return m_range; }
     void SetRange(const SampleRange &range) { m_range = range; }
 
+    /// The one shown last (from 0).
+    int Frame() const { return m_frame; }
+    void SetFrame(int frame) { m_frame = frame; }
+
     const PictureEdit &Edit() const { return m_edit; }
     /// A step that can be undone; `text` is what it is called. Nothing when it changes nothing.
     void PushEdit(const PictureEdit &edit, const QString &text);
@@ -62,6 +66,7 @@ private:
     QImage m_thumbnail;
     bool m_isChecked = false;
     SampleRange m_range;
+    int m_frame = 0;
     PictureEdit m_edit;
     QUndoStack *m_undoStack;
 };

@@ -100,7 +100,7 @@ void Workspace::MousePressEvent(QMouseEvent *, const QPointF &) {}
 
 void Workspace::QuitCompare()
 {
-    m_activeImage = m_parts.mainPicture;
+    SetActiveImage(m_parts.mainPicture);
 }
 
 void Workspace::UpdateReportManager()
@@ -248,8 +248,16 @@ void Workspace::Focus(ReportManager *report, ImageManager *image)
 {
     m_report = report;
     const bool isNew = m_activeImage != image;
-    m_activeImage = image;
+    SetActiveImage(image);
     if (isNew && m_parts.config->GetCurrentView() == ImageCompareView)
         emit signalUpdateImageCompareFrame();
     emit m_parts.config->signalImageInfoChanged();
+}
+
+void Workspace::SetActiveImage(ImageManager *image)
+{
+    if (m_activeImage == image)
+        return;
+    m_activeImage = image;
+    emit signalActiveImageChanged(image);
 }

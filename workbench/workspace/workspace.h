@@ -82,9 +82,12 @@ signals:
     void signalSaveComparisonWanted(QImage image);
     /// A sentence for the status bar.
     void signalMessage(QString text);
+    /// Another image manager is the active one.
+    void signalActiveImageChanged(QObject *image);
 
 private:
     void Focus(ReportManager *report, ImageManager *image);
+    void SetActiveImage(ImageManager *image);
 
     const Parts m_parts;
     ReportManager *m_report;

@@ -116,6 +116,92 @@ private slots:
         QCOMPARE(bench.main.GetImageCore()->GetRightLevel(), 65);
     }
 
+    void aStackIsShownAgainAtItsLastFrame()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 12));
+        PictureDocument *stack = bench.main.Document();
+        bench.main.SetImage(7);
+        QTRY_COMPARE(FirstSample(bench.main), 7000);
+        QVERIFY(bench.Open("single.tif", QSize(6, 4)));
+
+        QStringList told;
+        connect(&bench.main, &ImageManager::signalCurrentFileFrameNumber, this, [&](int count) {
+            told << QString("%1 frames").arg(count);
+            bench.main.SetImage(0); // as the frame browser does
+        });
+        connect(&bench.main, &ImageManager::signalCurrentFrame, this, [&](int index) {
+            told << QString("frame %1").arg(index);
+            bench.main.SetImage(index);
+        });
+        bench.desk.Show(stack, &bench.main);
+        QVERIFY(bench.WaitForShown("stack.tif"));
+        QCOMPARE(FirstSample(bench.main), 7000);
+        QCOMPARE(told, QStringList({ "12 frames", "frame 7" }));
+        bench.main.SetImage(8); // and so it goes on
+        QTRY_COMPARE(FirstSample(bench.main), 8000);
+
+        bench.desk.Open({ bench.Path("stack.tif") }, &bench.main); // the file may be another one now
+        QTRY_COMPARE(FirstSample(bench.main), 0);
+    }
+
+    void aFrameThatCannotBeReadTurnsTheBrowserBack()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 12));
+        bench.main.SetImage(3);
+        QTRY_COMPARE(FirstSample(bench.main), 3000);
+        QVERIFY(QFile::resize(bench.Path("stack.tif"), 8));
+        QSignalSpy frames(&bench.main, SIGNAL(signalCurrentFrame(int)));
+        bench.main.SetImage(9);
+        QTRY_COMPARE(bench.faults.size(), 1);
+        QCOMPARE(frames.last().first().toInt(), 3);
+        QCOMPARE(FirstSample(bench.main), 3000);
+    }
+
+    void aStackWhoseLastFrameIsGoneIsNotLost()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 12));
+        PictureDocument *stack = bench.main.Document();
+        bench.main.SetImage(7);
+        QTRY_COMPARE(FirstSample(bench.main), 7000);
+        QVERIFY(bench.Open("single.tif", QSize(6, 4)));
+        bench.loader.Close(stack->File().id);
+        MadePictures::Write(bench.Path("stack.tif"), QSize(6, 4), 2);
+        bench.desk.Show(stack, &bench.main);
+        QTRY_COMPARE(bench.faults.size(), 1);
+        bench.desk.Show(stack, &bench.main);
+        QVERIFY(bench.WaitForShown("stack.tif"));
+        QCOMPARE(FirstSample(bench.main), 0);
+    }
+
+    void onlyTheActivePictureTellsTheFrameBrowser()
+    {
+        PictureBench bench;
+        QSignalSpy mainCounts(&bench.main, SIGNAL(signalCurrentFileFrameNumber(int)));
+        QSignalSpy compareCounts(&bench.compare, SIGNAL(signalCurrentFileFrameNumber(int)));
+        QSignalSpy compareFrames(&bench.compare, SIGNAL(signalCurrentFrame(int)));
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 12));
+        MadePictures::Write(bench.Path("other.tif"), QSize(6, 4), 5);
+        bench.desk.Open({ bench.Path("other.tif") }, &bench.compare);
+        QTRY_COMPARE(bench.compare.GetFileName(), QString("other.tif"));
+        QCOMPARE(mainCounts.size(), 1);
+        QCOMPARE(compareCounts.size(), 0);
+
+        bench.compare.slotActiveImageChanged(&bench.compare);
+        bench.main.slotActiveImageChanged(&bench.compare);
+        QCOMPARE(mainCounts.size(), 1);
+        QCOMPARE(compareCounts.last().first().toInt(), 5);
+        QCOMPARE(compareFrames.last().first().toInt(), 0);
+        bench.compare.CloseImage();
+        QCOMPARE(compareCounts.last().first().toInt(), 0);
+        QCOMPARE(compareFrames.size(), 1); // of no frames none is shown
+        bench.main.slotActiveImageChanged(&bench.main);
+        QCOMPARE(mainCounts.size(), 2);
+        QCOMPARE(mainCounts.last().first().toInt(), 12);
+    }
+
     void stepsAreDoneToTheSamplesAndUndone()
     {
         PictureBench bench;

@@ -105,6 +105,22 @@ private slots:
         QCOMPARE(m_messages->count(), 1);
     }
 
+    void aDriverWithoutShadersEndsInCpuDrawingAndOneMessage()
+    {
+        ExpectWarning(QRegularExpression("QOpenGLShader::compile")); // the library's own
+        ExpectWarning(QRegularExpression("Problematic"));
+        DrawingGuard guard(m_config.get(), nullptr,
+                           [](QString *reason) { return OpenGLProbe::CanStartWith("void main(void) { nonsense }", reason); });
+        QSignalSpy messages(&guard, SIGNAL(signalMessage(QString)));
+        guard.slotSetCPUDraw(false);
+        QVERIFY(m_config->IsCPUDraw());
+        QTRY_COMPARE(messages.count(), 1);
+        QCOMPARE(messages.at(0).at(0).toString(),
+                 QString("OpenGL can't be started: the driver cannot build the program that draws. The picture is "
+                         "drawn by the CPU."));
+        QCOMPARE(m_settings->value("drawing/cpu").toBool(), true);
+    }
+
     /// Here the guard looks by itself.
     void viewportWithoutOpenGLEndsInCpuDrawing()
     {
