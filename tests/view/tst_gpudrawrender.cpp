@@ -256,7 +256,7 @@ void TestGPUDrawRender::aShaderThatFailsDrawsNothing_data()
     QTest::newRow("compiling") << QByteArray("void main(void) { nonsense }") << "QOpenGLShader::compile" << QStringList();
     QTest::newRow("linking") << QByteArray("attribute highp vec4 vertex;\nvarying mediump vec3 texc;\n"
                                            "void main(void) { gl_Position = vertex; texc = vec3(1.0); }\n")
-                             << "QOpenGLShader::link" << initLines.mid(0, 2);
+                             << "QOpenGLShader::link" << QStringList(initLines.mid(0, 2));
 }
 
 void TestGPUDrawRender::aShaderThatFailsDrawsNothing()
