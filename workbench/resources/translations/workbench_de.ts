@@ -579,6 +579,10 @@ Im Menü Kamera eine wählen.</translation>
         <translation>die Anzeige bietet keines</translation>
     </message>
     <message>
+        <source>the driver cannot build the program that draws</source>
+        <translation>der Treiber kann das Programm zum Zeichnen nicht bauen</translation>
+    </message>
+    <message>
         <source>the driver gives no context</source>
         <translation>der Treiber gibt keinen Kontext</translation>
     </message>
