@@ -23,52 +23,24 @@ double StepOf(double value, double smallest)
 PanelField Number(const QString &key, const QString &text, double value, const ValueRange &range, int decimals,
                   const QString &unit = QString())
 {
-    PanelField field;
-    field.key = key;
-    field.text = text;
-    field.kind = PanelField::Kind::Number;
-    field.value = value;
-    field.minimum = range.minimum;
-    field.maximum = range.maximum;
+    PanelField field = PanelField::MakeNumber(key, text, value, range.minimum, range.maximum, decimals, unit);
     field.isEnabled = range.IsAdjustable();
-    field.decimals = decimals;
     field.step = StepOf(value, std::pow(10.0, -decimals));
-    field.unit = unit;
     return field;
 }
 
-PanelField Check(const QString &key, const QString &text, bool value, bool isEnabled)
+PanelField Automatic(const QString &key, bool value, bool isThere)
 {
-    PanelField field;
-    field.key = key;
-    field.text = text;
-    field.kind = PanelField::Kind::Check;
-    field.value = value;
-    field.isEnabled = isEnabled;
+    PanelField field = PanelField::Make(PanelField::Kind::Check, key, CameraFields::tr("automatic"), value);
+    field.isEnabled = isThere;
     field.isBeside = true;
     return field;
 }
 
 PanelField Choice(const QString &key, const QString &text, const QStringList &choices, int index)
 {
-    PanelField field;
-    field.key = key;
-    field.text = text;
-    field.kind = PanelField::Kind::Choice;
-    field.choices = choices;
-    field.value = index;
+    PanelField field = PanelField::MakeChoice(key, text, index, choices);
     field.isEnabled = choices.size() > 1;
-    return field;
-}
-
-PanelField Action(const QString &key, const QString &text, bool isEnabled, bool isBeside)
-{
-    PanelField field;
-    field.key = key;
-    field.text = text;
-    field.kind = PanelField::Kind::Action;
-    field.isEnabled = isEnabled;
-    field.isBeside = isBeside;
     return field;
 }
 
@@ -144,7 +116,7 @@ void CameraFields::AddCamera(PanelFields &fields) const
     }
     fields << Choice("device", tr("Device"), names, current);
     fields.last().isEnabled = true;
-    fields << Action("search", tr("Refresh List"), true, false);
+    fields << PanelField::Make(PanelField::Kind::Action, "search", tr("Refresh List"));
     InGroup(fields, first, tr("Camera"));
 }
 
@@ -156,10 +128,10 @@ void CameraFields::AddExposure(PanelFields &fields) const
     fields << Number("exposure", tr("Exposure"), controls.ExposureUs() / UsPerMs,
                      {exposure.minimum / UsPerMs, exposure.maximum / UsPerMs}, 3, tr(" ms"));
     fields.last().isEnabled &= !controls.IsAutoExposure();
-    fields << Check("autoExposure", tr("automatic"), controls.IsAutoExposure(), controls.HasAutoExposure());
+    fields << Automatic("autoExposure", controls.IsAutoExposure(), controls.HasAutoExposure());
     fields << Number("gain", tr("Gain"), controls.Gain(), controls.GainRange(), 2);
     fields.last().isEnabled &= !controls.IsAutoGain();
-    fields << Check("autoGain", tr("automatic"), controls.IsAutoGain(), controls.HasAutoGain());
+    fields << Automatic("autoGain", controls.IsAutoGain(), controls.HasAutoGain());
     fields << Number("frameRate", tr("Frame rate"), controls.FrameRate(), controls.FrameRateRange(), 2,
                      tr(" frames/s"));
     fields.last().toolTip = tr("A long exposure lowers it.");
@@ -201,11 +173,10 @@ void CameraFields::AddRegion(PanelFields &fields) const
     fields << Number("height", tr("Height"), region.height(),
                      {double(limits.minimumSize.height()), double(sensor.height())}, 0);
     fields.last().step = limits.sizeStep.height();
-    PanelField draw = Check("drawRegion", tr("Draw on picture"), m_region->IsROIChecked(), true);
-    draw.isBeside = false;
-    draw.toolTip = tr("Drag a frame over the live picture.");
-    fields << draw;
-    fields << Action("fullSensor", tr("Full Sensor"), region.size() != sensor, false);
+    fields << PanelField::Make(PanelField::Kind::Check, "drawRegion", tr("Draw on picture"), m_region->IsROIChecked());
+    fields.last().toolTip = tr("Drag a frame over the live picture.");
+    fields << PanelField::Make(PanelField::Kind::Action, "fullSensor", tr("Full Sensor"));
+    fields.last().isEnabled = region.size() != sensor;
     InGroup(fields, first, tr("Region on the sensor"));
 }
 

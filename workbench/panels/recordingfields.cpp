@@ -9,34 +9,6 @@ namespace {
 constexpr double MsPerSecond = 1000.0;
 constexpr int MsPerMinute = 60000;
 
-PanelField Field(PanelField::Kind kind, const QString &key, const QString &text, const QVariant &value)
-{
-    PanelField field;
-    field.kind = kind;
-    field.key = key;
-    field.text = text;
-    field.value = value;
-    return field;
-}
-
-PanelField Number(const QString &key, const QString &text, double value, double least, double most,
-                  const QString &unit, int decimals = 0)
-{
-    PanelField field = Field(PanelField::Kind::Number, key, text, value);
-    field.minimum = least;
-    field.maximum = most;
-    field.unit = unit;
-    field.decimals = decimals;
-    return field;
-}
-
-PanelField Choice(const QString &key, const QString &text, int index, const QStringList &choices)
-{
-    PanelField field = Field(PanelField::Kind::Choice, key, text, index);
-    field.choices = choices;
-    return field;
-}
-
 TIME_MIN_S_MS TimeOf(double seconds)
 {
     const int ms = qRound(seconds * MsPerSecond);
@@ -74,17 +46,17 @@ PanelFields RecordingFields::Fields() const
 void RecordingFields::AddRun(PanelFields &fields, const RecordingSettings &settings) const
 {
     using Mode = RecordingSettings::Mode;
-    fields << Choice("mode", tr("Record"), int(settings.mode),
+    fields << PanelField::MakeChoice("mode", tr("Record"), int(settings.mode),
                      {tr("One frame"), tr("Number of frames"), tr("Duration"), tr("Until stopped")});
-    fields << Number("frames", tr("Frames"), settings.frames, 1, RecordingSettings::MostFrames, tr(" frames"));
+    fields << PanelField::MakeNumber("frames", tr("Frames"), settings.frames, 1, RecordingSettings::MostFrames, 0, tr(" frames"));
     fields.last().isEnabled = settings.mode == Mode::Count;
-    fields << Number("seconds", tr("Time"), settings.seconds, 1, RecordingSettings::MostSeconds, tr(" s"));
+    fields << PanelField::MakeNumber("seconds", tr("Time"), settings.seconds, 1, RecordingSettings::MostSeconds, 0, tr(" s"));
     fields.last().isEnabled = settings.mode == Mode::Duration;
-    fields << Number("delay", tr("Delay before it"), settings.DelayMs() / MsPerSecond, 0,
-                     RecordingSettings::MostDelayMinutes * 60.0, tr(" s"), 3);
+    fields << PanelField::MakeNumber("delay", tr("Delay before it"), settings.DelayMs() / MsPerSecond, 0,
+                     RecordingSettings::MostDelayMinutes * 60.0, 3, tr(" s"));
     fields.last().zeroText = tr("none");
-    fields << Number("interval", tr("Interval"), settings.intervalMs / MsPerSecond, 0,
-                     RecordingSettings::LongestIntervalMs / MsPerSecond, tr(" s"), 3);
+    fields << PanelField::MakeNumber("interval", tr("Interval"), settings.intervalMs / MsPerSecond, 0,
+                     RecordingSettings::LongestIntervalMs / MsPerSecond, 3, tr(" s"));
     fields.last().zeroText = tr("every frame");
     fields.last().isEnabled = settings.mode != Mode::Single;
     for (PanelField &field : fields)
@@ -94,15 +66,15 @@ void RecordingFields::AddRun(PanelFields &fields, const RecordingSettings &setti
 void RecordingFields::AddFile(PanelFields &fields, const RecordingSettings &settings) const
 {
     const int first = fields.size();
-    fields << Choice("target", tr("Save"), settings.toRam ? 1 : 0, {tr("To disk"), tr("To memory, then to disk")});
-    fields << Choice("format", tr("Format"), int(settings.format),
+    fields << PanelField::MakeChoice("target", tr("Save"), settings.toRam ? 1 : 0, {tr("To disk"), tr("To memory, then to disk")});
+    fields << PanelField::MakeChoice("format", tr("Format"), int(settings.format),
                      {tr("TIFF"), tr("FITS cube"), tr("PNG sequence")});
-    fields << Field(PanelField::Kind::Folder, "folder", tr("Folder"), settings.Folder());
-    fields << Field(PanelField::Kind::Text, "pattern", tr("Name"), m_pattern);
+    fields << PanelField::Make(PanelField::Kind::Folder, "folder", tr("Folder"), settings.Folder());
+    fields << PanelField::Make(PanelField::Kind::Text, "pattern", tr("Name"), m_pattern);
     fields.last().toolTip = tr("{camera}, {date}, {time}, {exposure}, {gain}, {number} and {number:4} are filled in.");
-    fields << Field(PanelField::Kind::Note, "name", tr("Next file"), NameText(settings));
-    fields << Number("queue", tr("Waiting frames"), settings.queueMB, RecordingSettings::LeastQueueMB,
-                     RecordingSettings::MostQueueMB, tr(" MB"));
+    fields << PanelField::Make(PanelField::Kind::Note, "name", tr("Next file"), NameText(settings));
+    fields << PanelField::MakeNumber("queue", tr("Waiting frames"), settings.queueMB, RecordingSettings::LeastQueueMB,
+                     RecordingSettings::MostQueueMB, 0, tr(" MB"));
     fields.last().toolTip = tr("Memory for frames that wait while the disk is busy.");
     for (int i = first; i < fields.size(); ++i)
         fields[i].group = tr("File");

@@ -37,6 +37,34 @@ struct PanelField
     QString zeroText = {}; ///< shown instead of the smallest value; may be empty
     // Of a choice.
     QStringList choices = {};
+
+    static PanelField Make(Kind kind, const QString &key, const QString &text, const QVariant &value = QVariant())
+    {
+        PanelField field;
+        field.kind = kind;
+        field.key = key;
+        field.text = text;
+        field.value = value;
+        return field;
+    }
+
+    static PanelField MakeNumber(const QString &key, const QString &text, double value, double minimum, double maximum,
+                                 int decimals = 0, const QString &unit = QString())
+    {
+        PanelField field = Make(Kind::Number, key, text, value);
+        field.minimum = minimum;
+        field.maximum = maximum;
+        field.decimals = decimals;
+        field.unit = unit;
+        return field;
+    }
+
+    static PanelField MakeChoice(const QString &key, const QString &text, int index, const QStringList &choices)
+    {
+        PanelField field = Make(Kind::Choice, key, text, index);
+        field.choices = choices;
+        return field;
+    }
 };
 
 using PanelFields = QVector<PanelField>;
