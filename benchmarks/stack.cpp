@@ -18,7 +18,7 @@ namespace {
 
 constexpr double StackBound = 1.5;
 constexpr int Side = 2048;
-constexpr int Pages = 40; ///< more than the program keeps in memory
+constexpr int Pages = 40;       ///< more than the program keeps in memory
 constexpr int PagesOfFloor = 8; ///< that the library reads again and again
 constexpr int DifferentPages = 4;
 constexpr int Rounds = 60;
@@ -77,12 +77,13 @@ public:
         : m_loader(&m_levels)
     {
         m_request.file = { 1, path };
-        QObject::connect(&m_loader, &PictureLoader::signalLoaded, &m_loop, [this](const LoadedPicture &picture) {
-            if (!picture.error.isEmpty())
-                qFatal("%s", qPrintable(picture.error));
-            m_request.range = picture.range;
-            m_loop.quit();
-        });
+        QObject::connect(&m_loader, &PictureLoader::signalLoaded, &m_loop,
+                         [this](const LoadedPicture &picture) {
+                             if (!picture.error.isEmpty())
+                                 qFatal("%s", qPrintable(picture.error));
+                             m_request.range = picture.range;
+                             m_loop.quit();
+                         });
         QObject::connect(&m_loader, &PictureLoader::signalReadAhead, &m_loop, [this] {
             m_isSettled = true;
             m_loop.quit();
@@ -137,7 +138,7 @@ void ShowFirst(const QString &path, Picture *samples, QImage *picture)
     view.height = samples->Height();
     view.strideBytes = int(samples->BytesPerRow());
     view.bitDepth = 16;
-    LevelsConverter().Convert(view, {100, 40000, 1.0}, picture);
+    LevelsConverter().Convert(view, { 100, 40000, 1.0 }, picture);
 }
 
 BenchmarkResult MeasureFirstFrame(const Layout &layout, const QString &path)
@@ -155,8 +156,10 @@ BenchmarkResult MeasureFirstFrame(const Layout &layout, const QString &path)
 
 QVector<BenchmarkResult> BenchmarkStack()
 {
-    const Layout layouts[] = {{"one strip", COMPRESSION_NONE, Side}, {"strips", COMPRESSION_NONE, 2},
-                              {"LZW", COMPRESSION_LZW, 16}, {"deflate", COMPRESSION_ADOBE_DEFLATE, 16}};
+    const Layout layouts[] = { { "one strip", COMPRESSION_NONE, Side },
+                               { "strips", COMPRESSION_NONE, 2 },
+                               { "LZW", COMPRESSION_LZW, 16 },
+                               { "deflate", COMPRESSION_ADOBE_DEFLATE, 16 } };
     QVector<BenchmarkResult> results;
     for (const Layout &layout : layouts) {
         const QTemporaryDir folder;

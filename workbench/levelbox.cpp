@@ -12,7 +12,8 @@
 namespace {
 
 /// The box keeps a value as it is, all decimals that a double can have; only the text has fewer.
-constexpr int AllDecimals = std::numeric_limits<double>::max_exponent10 + std::numeric_limits<double>::digits10;
+constexpr int AllDecimals =
+    std::numeric_limits<double>::max_exponent10 + std::numeric_limits<double>::digits10;
 
 /// 3 for 1000 and for 5000.
 int PowerOfTen(double value) { return int(std::floor(std::log10(value))); }
@@ -45,7 +46,8 @@ int LevelBox::DigitsFor(const SampleRange &range)
     constexpr int least = 4;
     if (!(halfWidth > 0))
         return least;
-    return std::clamp(PowerOfTen(most) - PowerOfTen(halfWidth) + least, least, std::numeric_limits<double>::max_digits10);
+    return std::clamp(PowerOfTen(most) - PowerOfTen(halfWidth) + least, least,
+                      std::numeric_limits<double>::max_digits10);
 }
 
 double LevelBox::StepFor(const SampleRange &range)
@@ -75,6 +77,7 @@ QValidator::State LevelBox::validate(QString &text, int &) const
         return number >= minimum() && number <= maximum() ? QValidator::Acceptable : QValidator::Intermediate;
     // On the way to a number: "-", "1e", "1e-".
     const QString signs = QString("+-eE") + locale().decimalPoint();
-    const bool isBegun = std::all_of(text.cbegin(), text.cend(), [&](QChar c) { return c.isDigit() || signs.contains(c); });
+    const bool isBegun =
+        std::all_of(text.cbegin(), text.cend(), [&](QChar c) { return c.isDigit() || signs.contains(c); });
     return isBegun ? QValidator::Intermediate : QValidator::Invalid;
 }

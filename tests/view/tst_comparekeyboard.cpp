@@ -57,7 +57,8 @@ struct Comparison
     {
         QWidget *viewport = View(leftFrame)->viewport();
         const QPoint from = viewport->visibleRegion().boundingRect().center();
-        const auto send = [&](QEvent::Type type, const QPoint &pos, Qt::MouseButton button, Qt::MouseButtons buttons) {
+        const auto send = [&](QEvent::Type type, const QPoint &pos, Qt::MouseButton button,
+                              Qt::MouseButtons buttons) {
             QMouseEvent event(type, pos, viewport->mapToGlobal(pos), button, buttons, modifiers);
             QApplication::sendEvent(viewport, &event);
         };

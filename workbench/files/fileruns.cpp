@@ -29,15 +29,16 @@ bool ReadBytes(int fd, quint64 offset, uchar *bytes, qint64 size)
 
 void FileRuns::Add(quint64 offset, qint64 bytes)
 {
-    const bool follows = !m_runs.empty() && m_runs.back().offset + quint64(m_byteCount - m_runs.back().place) == offset;
+    const bool follows =
+        !m_runs.empty() && m_runs.back().offset + quint64(m_byteCount - m_runs.back().place) == offset;
     if (!follows)
-        m_runs.push_back({offset, m_byteCount});
+        m_runs.push_back({ offset, m_byteCount });
     m_byteCount += bytes;
 }
 
 bool FileRuns::Read(int fd, uchar *bytes) const
 {
-    std::atomic<bool> isWhole{true};
+    std::atomic<bool> isWhole{ true };
     ForBothHalves(m_byteCount, ReadByTwo, [&](qint64 from, qint64 to) {
         if (!ReadPart(fd, bytes, from, to))
             isWhole = false;

@@ -20,8 +20,9 @@ struct LevelsReport
     SampleKind kind;
     SampleRange levels = { 0, 255 }; ///< that the picture was made with
     double gamma = 1.0;
-    SampleRange axis = { -0.5, 255.5 }; ///< of the histogram; whole values lie in the middle of their share of it
-    QVector<qint64> histogram;          ///< of the raw samples, in columns that share the axis
+    /// Of the histogram; whole values lie in the middle of their share of it.
+    SampleRange axis = { -0.5, 255.5 };
+    QVector<qint64> histogram; ///< of the raw samples, in columns that share the axis
 
     /// The histogram spans all values of the bit depth; that of a large picture is that of a part of its rows.
     static LevelsReport Of(const SampleView &samples, const DisplayLevels &levels);

@@ -29,7 +29,8 @@ double LeastStep(double level, const SampleKind &kind)
 LevelsSetting LevelsSetting::Default(const SampleKind &kind)
 {
     const LevelsMode mode = kind == SampleKind(8) ? LevelsMode::FullRange : LevelsMode::Automatic;
-    return kind.IsWhole() ? LevelsSetting{ mode, kind.Least(), kind.Most(), 1.0 } : LevelsSetting{ mode, 0, 1, 1.0 };
+    return kind.IsWhole() ? LevelsSetting{ mode, kind.Least(), kind.Most(), 1.0 }
+                          : LevelsSetting{ mode, 0, 1, 1.0 };
 }
 
 LevelsSetting LevelsSetting::Guarded(const SampleKind &kind) const

@@ -4,7 +4,8 @@
 #include "samplekind.h"
 
 /// Where the levels of a picture come from.
-enum class LevelsMode {
+enum class LevelsMode
+{
     Automatic,      ///< the picture's own, without its darkest and brightest thousandth
     MinimumMaximum, ///< from the darkest sample to the brightest
     Manual,         ///< left and right as they were set

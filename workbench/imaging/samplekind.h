@@ -34,7 +34,10 @@ public:
     /// In the settings: "12bit", "16bitSigned", "32bitFloating".
     QString Name() const;
 
-    bool operator==(const SampleKind &other) const { return m_number == other.m_number && m_bits == other.m_bits; }
+    bool operator==(const SampleKind &other) const
+    {
+        return m_number == other.m_number && m_bits == other.m_bits;
+    }
 
 private:
     Number m_number;

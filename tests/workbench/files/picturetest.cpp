@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "guardedtest.h"
 #include "picture.h"
+#include "guardedtest.h"
 
 /// The memory of a frame.
 class PictureTest : public GuardedTest
@@ -28,7 +28,9 @@ void PictureTest::aPictureLiesInItsPagesAsInTheFile()
     QFETCH(quint64, fileOffset);
     QFETCH(int, type);
     QFETCH(quint64, place);
-    const auto placeOf = [](const Picture &picture) { return quint64(reinterpret_cast<quintptr>(picture.Data()) % 4096); };
+    const auto placeOf = [](const Picture &picture) {
+        return quint64(reinterpret_cast<quintptr>(picture.Data()) % 4096);
+    };
     Picture picture;
     picture.Reshape(3000, 3, 1, SampleType(type), fileOffset);
     QCOMPARE(placeOf(picture), place);

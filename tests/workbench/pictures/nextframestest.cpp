@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "guardedtest.h"
 #include "nextframes.h"
+#include "guardedtest.h"
 
 /// Which frame is likely to be asked for next.
 class NextFramesTest : public GuardedTest
