@@ -201,9 +201,9 @@ void SpectrumDrawViewBase::RestoreView(bool)
     if (m_staticMode && isWithoutPicture)
         return;
     if (m_zoomHistory.Count() > 1) {
-        const QSize freeSpace = FreeSpace();
-        if (m_zoomHistory.Rescale(FitPicture(m_imageSize, freeSpace).scale, freeSpace))
-            ApplyZoom(m_zoomHistory.Current().rect);
+        const QRectF rect = m_zoomHistory.Newest().rect;
+        if (m_zoomHistory.Push(rect, true, FreeSpace()) > 0.0F)
+            ApplyZoom(rect);
     } else {
         m_zoomHistory.Clear();
         if (m_normalisedRect != WholePicture && !m_imageSize.isEmpty())

@@ -55,15 +55,3 @@ float SpectrumZoomHistory::Push(const QRectF &rect, bool zoomIn, const QSize &fr
     m_lastWasZoomIn = zoomIn;
     return scale;
 }
-
-bool SpectrumZoomHistory::Rescale(float fittedScale, const QSize &freeSpace)
-{
-    if (m_levels.size() < 2 || freeSpace.isEmpty())
-        return false;
-    m_levels.front().scale = fittedScale;
-    for (size_t level = 1; level < m_levels.size(); ++level)
-        m_levels[level].scale = FillingScale(m_levels[level].rect, freeSpace);
-    m_current = m_levels.back();
-    m_lastWasZoomIn = true; // the newest level is the one on the screen
-    return true;
-}

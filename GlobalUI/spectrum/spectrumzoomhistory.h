@@ -28,12 +28,11 @@ public:
     /// Goes in to rect, or one step back. The answer is the scale that rect takes in the free
     /// space (view pixels), 1 when stepping back. A rectangle that yields no scale is left out: 0.
     float Push(const QRectF &rect, bool zoomIn, const QSize &freeSpace);
-    /// Scales all levels to another free space and puts the newest in force. False, with nothing
-    /// changed, where there are fewer than two or the space holds nothing.
-    bool Rescale(float fittedScale, const QSize &freeSpace);
 
     int Count() const { return static_cast<int>(m_levels.size()); }
     const ZoomState &Current() const { return m_current; }
+    /// Only while there is a level.
+    const ZoomState &Newest() const { return m_levels.back(); }
 
 private:
     std::vector<ZoomState> m_levels;

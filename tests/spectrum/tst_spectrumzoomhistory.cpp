@@ -26,8 +26,7 @@ private slots:
     void onlyAZoomedPictureRemembersItsCentre();
     void aRectangleWithoutAScaleChangesNothing_data();
     void aRectangleWithoutAScaleChangesNothing();
-    void anotherSpaceRescalesAllLevels();
-    void aFittedPictureIsNotRescaled();
+    void theNewestLevelInAnotherSpaceIsOneMore();
     void anEmptyHistoryStaysEmptyWhenSteppingBack();
 };
 
@@ -114,32 +113,17 @@ void TestSpectrumZoomHistory::aRectangleWithoutAScaleChangesNothing()
     QCOMPARE(history.Current().rect, Fitted().rect);
 }
 
-void TestSpectrumZoomHistory::anotherSpaceRescalesAllLevels()
+void TestSpectrumZoomHistory::theNewestLevelInAnotherSpaceIsOneMore()
 {
     SpectrumZoomHistory history;
     history.Restart(Fitted());
     history.Push(QRectF(100, 100, 300, 200), true, FreeSpace);
-    history.Push(QRectF(150, 150, 60, 40), true, FreeSpace);
-    QVERIFY(history.Rescale(0.25F, QSize(300, 200)));
-    QCOMPARE(history.Count(), 3); // it adds no step to go back
-    QCOMPARE(history.Current().scale, 5.0F);
-    QCOMPARE(history.Current().rect, QRectF(150, 150, 60, 40));
-    history.Push(QRectF(), false, FreeSpace);
-    QCOMPARE(history.Current().scale, 1.0F);
-    history.Push(QRectF(), false, FreeSpace);
-    QCOMPARE(history.Current().scale, 0.25F);
-}
-
-void TestSpectrumZoomHistory::aFittedPictureIsNotRescaled()
-{
-    SpectrumZoomHistory history;
-    QVERIFY(!history.Rescale(0.25F, FreeSpace));
-    history.Restart(Fitted());
-    QVERIFY(!history.Rescale(0.25F, FreeSpace));
-    QCOMPARE(history.Current().scale, 0.5F);
-    history.Push(QRectF(100, 100, 300, 200), true, FreeSpace);
-    QVERIFY(!history.Rescale(-0.1F, QSize(-30, 200)));
+    QCOMPARE(history.Push(history.Newest().rect, true, QSize(300, 200)), 1.0F);
+    QCOMPARE(history.Count(), 3);
+    QCOMPARE(history.Current().rect, QRectF(100, 100, 300, 200));
+    history.Push(QRectF(), false, FreeSpace); // drops it and shows the level before it
     QCOMPARE(history.Current().scale, 2.0F);
+    QCOMPARE(history.Count(), 1);
 }
 
 void TestSpectrumZoomHistory::anEmptyHistoryStaysEmptyWhenSteppingBack()
