@@ -19,7 +19,17 @@
 
 namespace {
 enum Panel { LeftPanel, RightPanel, BottomPanel };
+
+/// Most palettes are known by the names that their authors gave them.
+QString PaletteTitle(const QString &name)
+{
+    if (name == "grey")
+        return ViewMenu::tr("&Grey");
+    if (name == "inverted")
+        return ViewMenu::tr("&Inverted");
+    return name.left(1).toUpper() + name.mid(1);
 }
+} // namespace
 
 ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     : QMenu(tr("&View"), parent)
@@ -29,6 +39,7 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     , m_drawingGroup(new QActionGroup(this))
     , m_sceneGroup(new QActionGroup(this))
     , m_opacityGroup(new QActionGroup(this))
+    , m_paletteGroup(new QActionGroup(this))
     , m_lookGroup(new QActionGroup(this))
     , m_languageGroup(new QActionGroup(this))
 {
@@ -38,6 +49,7 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     addSeparator();
     addMenu(new SpectrumMenu(services, this));
     AddPicture();
+    AddPalettes();
     AddCover();
     AddDrawing();
     AddScenes();
@@ -50,6 +62,7 @@ ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     connect(m_drawingGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetDrawing(QAction *)));
     connect(m_sceneGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetScene(QAction *)));
     connect(m_opacityGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetCoverOpacity(QAction *)));
+    connect(m_paletteGroup, &QActionGroup::triggered, this, &ViewMenu::slotSetPalette);
     connect(m_lookGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetLook(QAction *)));
     connect(m_languageGroup, SIGNAL(triggered(QAction *)), this, SLOT(slotSetLanguage(QAction *)));
     connect(services->Look(), SIGNAL(signalChanged()), this, SLOT(slotUpdate()));
@@ -83,6 +96,13 @@ void ViewMenu::AddPicture()
     m_markSaturated->setCheckable(true);
     m_markSaturated->setShortcut(QKeySequence("Ctrl+M"));
     connect(m_markSaturated, SIGNAL(toggled(bool)), m_services->Levels()->Model(), SLOT(slotSetMarksSaturated(bool)));
+}
+
+void ViewMenu::AddPalettes()
+{
+    QMenu *menu = addMenu(tr("Pale&tte"));
+    for (const QString &name : Palette::Names())
+        AddChoice(m_paletteGroup, menu, PaletteTitle(name), name);
 }
 
 void ViewMenu::AddCover()
@@ -155,6 +175,8 @@ void ViewMenu::slotUpdate()
     m_markSaturated->setChecked(m_services->Levels()->Model()->MarksSaturated());
     for (QAction *action : m_sceneGroup->actions())
         action->setChecked(action->data().toString() == SceneCatalogue::NameIn(m_services->Link()->SceneName()));
+    for (QAction *action : m_paletteGroup->actions())
+        action->setChecked(action->data().toString() == m_services->Levels()->GetPalette().Name());
     for (QAction *action : m_lookGroup->actions())
         action->setChecked(action->data().toString() == m_services->Look()->Name());
     for (QAction *action : m_languageGroup->actions())
@@ -223,6 +245,11 @@ void ViewMenu::slotShowLevels()
     m_levelsDialog->show();
     m_levelsDialog->raise();
     m_levelsDialog->activateWindow();
+}
+
+void ViewMenu::slotSetPalette(QAction *action)
+{
+    m_services->Levels()->Model()->SetPalette(Palette(action->data().toString()));
 }
 
 void ViewMenu::slotSetLook(QAction *action)

@@ -35,6 +35,7 @@ private slots:
     void slotSetDrawing(QAction *action);
     void slotShowLevels();
     void slotSetScene(QAction *action);
+    void slotSetPalette(QAction *action);
     void slotSetLook(QAction *action);
     void slotSetLanguage(QAction *action);
     void slotSetPanel(QAction *action);
@@ -45,6 +46,7 @@ private:
     void AddViews();
     void AddPanels();
     void AddPicture();
+    void AddPalettes();
     void AddCover();
     void AddDrawing();
     void AddScenes();
@@ -60,6 +62,7 @@ private:
     QActionGroup *m_drawingGroup;
     QActionGroup *m_sceneGroup;
     QActionGroup *m_opacityGroup;
+    QActionGroup *m_paletteGroup;
     QActionGroup *m_lookGroup;
     QActionGroup *m_languageGroup;
     LevelsDialog *m_levelsDialog = nullptr;

@@ -141,7 +141,8 @@ void WorkbenchServices::StartPreview()
     m_pixelReadout = std::make_unique<PixelReadout>(m_preview.get(), m_orientation.get());
     m_frameSize = std::make_unique<LiveFrameSize>();
     m_histogram = std::make_unique<LiveHistogram>();
-    m_profiles = std::make_unique<LiveProfiles>();
+    m_profiles = std::make_unique<LiveProfiles>(m_settings);
+    m_preview->AddAnalysis(m_profiles.get());
 }
 
 void WorkbenchServices::StartRecording()
@@ -192,7 +193,7 @@ void WorkbenchServices::Connect()
     connect(m_workspace.get(), &Workspace::signalCameraSceneSet, m_cover.get(), &LiveCover::ShowIn);
 
     connect(m_useArea.get(), &UseArea::signalUpdateUseArea, this, &WorkbenchServices::slotShowUseArea);
-    connect(m_spectrumSettings.get(), &SpectrumSettings::signalDisplayModeChange, m_preview.get(), &LivePreview::slotShowAgain);
+    ConnectSpectrum();
 
     ConnectPictures();
 
@@ -203,6 +204,28 @@ void WorkbenchServices::Connect()
     connect(m_config.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_workspace.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_pictureDesk.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
+}
+
+void WorkbenchServices::ConnectSpectrum()
+{
+    connect(m_centreDisplay.get(), &CentreDisplay::signalModeChanged, this, &WorkbenchServices::slotDisplayModeChanged);
+    connect(m_profiles.get(), &LiveProfiles::signalFrameWanted, m_preview.get(), &LivePreview::slotShowAgain);
+    connect(m_levelsModel.get(), &LevelsModel::signalPaletteChanged, this, &WorkbenchServices::slotShowPalette);
+}
+
+/// The curves of a standing picture need a frame to be made of.
+void WorkbenchServices::slotDisplayModeChanged()
+{
+    m_profiles->SetWanted(m_centreDisplay->Mode() != DisplayMode::General);
+    m_preview->slotShowAgain();
+}
+
+void WorkbenchServices::slotShowPalette()
+{
+    const QVector<QColor> colours = m_levelsModel->GetPalette().Colours();
+    emit m_profiles->SignalPseudoColorsUpdate(colours);
+    emit m_mainPicture->signalUpdatePseudoColor(colours);
+    emit m_comparePicture->signalUpdatePseudoColor(colours);
 }
 
 void WorkbenchServices::ConnectPictures()
@@ -258,6 +281,7 @@ void WorkbenchServices::slotPictureSizeChanged(QSize size)
 void WorkbenchServices::slotShowUseArea()
 {
     m_centreDisplay->ShowSpectrum(m_useArea->IsSpectrumPagePresent());
+    slotShowPalette();
 }
 
 /// What is saved comes before what is shown.

@@ -78,6 +78,7 @@ public:
     UseArea *GetUseArea() const { return m_useArea.get(); }
     CentreDisplay *Centre() const { return m_centreDisplay.get(); }
     SpectrumSettings *Spectrum() const { return m_spectrumSettings.get(); }
+    LiveProfiles *Profiles() const { return m_profiles.get(); }
 
 public slots:
     /// Shows what the workbench is used for: the picture or a spectrum page. For the first time when the pages are built.
@@ -92,6 +93,8 @@ private slots:
     void slotPictureSizeChanged(QSize size);
     void slotRegionWanted(QRect region);
     void slotRecordingStateChanged();
+    void slotDisplayModeChanged();
+    void slotShowPalette();
 
 private:
     void StartMeasuring();
@@ -103,6 +106,7 @@ private:
     void StartWorkspace();
     void Connect();
     void ConnectPictures();
+    void ConnectSpectrum();
     void RepairRecordings();
 
     QSettings *m_settings;

@@ -13,10 +13,9 @@ namespace {
 /// Pixels of a picture that two threads convert sooner than one.
 constexpr qint64 ConvertByTwo = 1 << 20;
 
-void PreparePicture(const SampleView &samples, bool marksSaturated, QImage *picture)
+void PreparePicture(const SampleView &samples, bool isPainted, QImage *picture)
 {
-    const bool isColour = samples.isColour || marksSaturated;
-    const QImage::Format format = isColour ? QImage::Format_RGB888 : QImage::Format_Grayscale8;
+    const QImage::Format format = samples.isColour || isPainted ? QImage::Format_RGB888 : QImage::Format_Grayscale8;
     const QSize size(samples.width, samples.height);
     if (picture->format() != format || picture->size() != size || !picture->isDetached())
         *picture = QImage(size, format);
@@ -30,13 +29,16 @@ bool ShowsSamplesAsTheyAre(const SampleView &samples, const DisplayLevels &level
 } // namespace
 
 void LevelsConverter::Convert(const SampleView &samples, const DisplayLevels &levels, QImage *picture,
-                              bool marksSaturated)
+                              bool marksSaturated, const Palette &palette)
 {
     if (samples.IsEmpty()) {
         *picture = QImage();
         return;
     }
-    PreparePicture(samples, marksSaturated, picture);
+    m_marksSaturated = marksSaturated;
+    m_palette = palette;
+    const bool isPainted = !samples.isColour && (marksSaturated || !palette.IsGrey());
+    PreparePicture(samples, isPainted, picture);
     if (picture->isNull())
         return; // no memory for a picture of that size
 
@@ -46,10 +48,12 @@ void LevelsConverter::Convert(const SampleView &samples, const DisplayLevels &le
     uchar *rows = picture->bits();
     const qptrdiff stride = picture->bytesPerLine();
     const auto convertRows = [&](int from, int to) {
-        std::vector<uchar> greyRow(marksSaturated ? size_t(samples.width) : 0);
+        std::vector<uchar> greyRow(isPainted ? size_t(samples.width) : 0);
         for (int y = from; y < to; ++y) {
-            if (marksSaturated)
-                MarkRow(samples, guarded, y, greyRow.data(), rows + y * stride);
+            if (isPainted)
+                PaintMonoRow(samples, guarded, y, greyRow.data(), rows + y * stride);
+            else if (marksSaturated)
+                MarkColourRow(samples, guarded, y, rows + y * stride);
             else
                 ConvertRow(samples, guarded, y, rows + y * stride);
         }
@@ -75,21 +79,33 @@ void LevelsConverter::ConvertRow(const SampleView &samples, const DisplayLevels 
     }
 }
 
-void LevelsConverter::MarkRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *greyRow,
-                              uchar *rgb) const
+void LevelsConverter::MarkColourRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *rgb) const
 {
     const int fullScale = DisplayLevels::FullRange(samples.bitDepth).right;
-    if (samples.isColour) {
-        ConvertRow(samples, levels, y, rgb);
-        if (samples.Has16BitSamples())
-            SaturationMark::MarkColour(samples.Row16(y), samples.width, fullScale, rgb);
-        else
-            SaturationMark::MarkColour(samples.Row8(y), samples.width, fullScale, rgb);
-        return;
-    }
-    ConvertRow(samples, levels, y, greyRow);
+    ConvertRow(samples, levels, y, rgb);
     if (samples.Has16BitSamples())
-        SaturationMark::MarkGrey(samples.Row16(y), greyRow, samples.width, fullScale, rgb);
+        SaturationMark::MarkColour(samples.Row16(y), samples.width, fullScale, rgb);
     else
-        SaturationMark::MarkGrey(samples.Row8(y), greyRow, samples.width, fullScale, rgb);
+        SaturationMark::MarkColour(samples.Row8(y), samples.width, fullScale, rgb);
+}
+
+void LevelsConverter::PaintMonoRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *greyRow,
+                                   uchar *rgb) const
+{
+    const int fullScale = DisplayLevels::FullRange(samples.bitDepth).right;
+    ConvertRow(samples, levels, y, greyRow);
+    if (!m_palette.IsGrey())
+        m_palette.Paint(greyRow, samples.width, rgb);
+    if (!m_marksSaturated)
+        return;
+    const auto mark = [&](const auto *row) {
+        if (m_palette.IsGrey())
+            SaturationMark::MarkGrey(row, greyRow, samples.width, fullScale, rgb);
+        else
+            SaturationMark::MarkPainted(row, samples.width, fullScale, rgb);
+    };
+    if (samples.Has16BitSamples())
+        mark(samples.Row16(y));
+    else
+        mark(samples.Row8(y));
 }

@@ -3,27 +3,32 @@
 
 #include "displaylevels.h"
 #include "gammatable.h"
+#include "palette.h"
 
 #include <QImage>
 
 struct SampleView;
 
 /// Makes the picture that a display shows from raw samples: Grayscale8 from mono, RGB888 from colour and from mono
-/// with saturated samples marked. Straight levels cost about as much as copying the samples; a gamma goes through a
+/// with saturated samples marked or in a palette. Straight levels cost about as much as copying the samples; a gamma goes through a
 /// table. A large picture is shared with a second thread while it is made. One converter for one thread.
 class LevelsConverter
 {
 public:
     /// Writes into `picture`, whose memory is used again when it fits and nobody shares it. Empty samples give a null
     /// picture. Levels that make no sense are guarded, see DisplayLevels::Guarded(). With `marksSaturated` a pixel with
-    /// a sample at full scale is pure red, whatever the levels.
+    /// a sample at full scale is pure red, whatever the levels. The palette colours mono samples.
     void Convert(const SampleView &samples, const DisplayLevels &levels, QImage *picture,
-                 bool marksSaturated = false);
+                 bool marksSaturated = false, const Palette &palette = Palette());
 
 private:
     void ConvertRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *grey) const;
-    /// `greyRow` is room for the greys of a mono row.
-    void MarkRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *greyRow, uchar *rgb) const;
+    void MarkColourRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *rgb) const;
+    /// `greyRow` is room for the greys of the row.
+    void PaintMonoRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *greyRow, uchar *rgb) const;
 
     GammaTable m_gammaTable;
+    // Of the picture that is being made.
+    bool m_marksSaturated = false;
+    Palette m_palette;
 };

@@ -8,6 +8,7 @@
 namespace {
 
 const char MarkKey[] = "levels/markSaturated";
+const char PaletteKey[] = "levels/palette";
 
 /// What a mode is called in the settings file, in the order of LevelsMode.
 const QStringList &ModeNames()
@@ -40,8 +41,10 @@ LevelsModel::LevelsModel(QSettings *settings, QObject *parent)
         if (m_settings)
             Load(kind);
     }
-    if (m_settings)
+    if (m_settings) {
         m_marksSaturated = m_settings->value(MarkKey, m_marksSaturated).toBool();
+        m_palette = Palette(m_settings->value(PaletteKey).toString());
+    }
 }
 
 LevelsSetting LevelsModel::Setting(const SampleKind &kind) const
@@ -68,6 +71,26 @@ bool LevelsModel::MarksSaturated() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_marksSaturated;
+}
+
+Palette LevelsModel::GetPalette() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_palette;
+}
+
+void LevelsModel::SetPalette(const Palette &palette)
+{
+    if (GetPalette() == palette)
+        return;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_palette = palette;
+    }
+    if (m_settings)
+        m_settings->setValue(PaletteKey, palette.Name());
+    emit signalPaletteChanged();
+    emit signalChanged();
 }
 
 void LevelsModel::slotSetMarksSaturated(bool marks)

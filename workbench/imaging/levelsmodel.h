@@ -2,6 +2,7 @@
 #pragma once
 
 #include "levelssetting.h"
+#include "palette.h"
 
 #include <QMap>
 #include <QObject>
@@ -10,8 +11,8 @@
 
 class QSettings;
 
-/// How samples are shown: levels for each kind of samples, and whether saturated samples are marked. A change is stored at
-/// once. The GUI thread sets; any thread may ask.
+/// How samples are shown: levels for each kind of samples, the palette, and whether saturated samples are marked. A change is
+/// stored at once. The GUI thread sets; any thread may ask.
 class LevelsModel : public QObject
 {
     Q_OBJECT
@@ -23,13 +24,18 @@ public:
     LevelsSetting Setting(const SampleKind &kind) const;
     void SetSetting(const SampleKind &kind, const LevelsSetting &setting);
     bool MarksSaturated() const;
+    /// Of all mono pictures.
+    Palette GetPalette() const;
+    void SetPalette(const Palette &palette);
 
 public slots:
     void slotSetMarksSaturated(bool marks);
 
 signals:
-    /// A setting or the mark changed.
+    /// A setting, the palette or the mark changed.
     void signalChanged();
+    /// Comes before signalChanged().
+    void signalPaletteChanged();
 
 private:
     void Load(const SampleKind &kind);
@@ -39,4 +45,5 @@ private:
     mutable std::mutex m_mutex;
     QMap<QString, LevelsSetting> m_byKind; ///< by the kind's name; every kind that there is
     bool m_marksSaturated = false;
+    Palette m_palette;
 };

@@ -17,15 +17,29 @@ void Mark(const Sample *samples, const uchar *grey, int count, int fullScale, uc
     }
 }
 
+void PaintRed(uchar *rgb)
+{
+    rgb[0] = 255;
+    rgb[1] = 0;
+    rgb[2] = 0;
+}
+
+template <typename Sample>
+void MarkSamples(const Sample *samples, int count, int fullScale, uchar *rgb)
+{
+    for (int i = 0; i < count; ++i, rgb += Channels) {
+        if (samples[i] >= fullScale)
+            PaintRed(rgb);
+    }
+}
+
 template <typename Sample>
 void MarkPixels(const Sample *samples, int pixelCount, int fullScale, uchar *rgb)
 {
     for (int i = 0; i < pixelCount; ++i, samples += Channels, rgb += Channels) {
         if (samples[0] < fullScale && samples[1] < fullScale && samples[2] < fullScale)
             continue;
-        rgb[0] = 255;
-        rgb[1] = 0;
-        rgb[2] = 0;
+        PaintRed(rgb);
     }
 }
 
@@ -41,6 +55,16 @@ void MarkGrey(const quint8 *samples, const uchar *grey, int count, int fullScale
 void MarkGrey(const quint16 *samples, const uchar *grey, int count, int fullScale, uchar *rgb)
 {
     Mark(samples, grey, count, fullScale, rgb);
+}
+
+void MarkPainted(const quint8 *samples, int count, int fullScale, uchar *rgb)
+{
+    MarkSamples(samples, count, fullScale, rgb);
+}
+
+void MarkPainted(const quint16 *samples, int count, int fullScale, uchar *rgb)
+{
+    MarkSamples(samples, count, fullScale, rgb);
 }
 
 void MarkColour(const quint8 *samples, int pixelCount, int fullScale, uchar *rgb)

@@ -9,6 +9,9 @@ namespace SaturationMark {
 /// Grey to red, green and blue, but red where the sample has reached `fullScale`.
 void MarkGrey(const quint8 *samples, const uchar *grey, int count, int fullScale, uchar *rgb);
 void MarkGrey(const quint16 *samples, const uchar *grey, int count, int fullScale, uchar *rgb);
+/// Red where the sample has reached `fullScale`; other pixels of `rgb` stay.
+void MarkPainted(const quint8 *samples, int count, int fullScale, uchar *rgb);
+void MarkPainted(const quint16 *samples, int count, int fullScale, uchar *rgb);
 /// Red where any channel of the pixel has reached `fullScale`; other pixels of `rgb` stay.
 void MarkColour(const quint8 *samples, int pixelCount, int fullScale, uchar *rgb);
 void MarkColour(const quint16 *samples, int pixelCount, int fullScale, uchar *rgb);

@@ -79,7 +79,7 @@ QImage PictureDisplay::MakeUnsigned(const Picture &samples, SampleRange &range)
                                      : LevelsFollower().Next(view, setting);
     range = { double(levels.left), double(levels.right) };
     QImage image;
-    m_converter.Convert(view, levels, &image, m_levels->MarksSaturated());
+    m_converter.Convert(view, levels, &image, m_levels->MarksSaturated(), m_levels->GetPalette());
     return image;
 }
 
@@ -99,5 +99,5 @@ QImage PictureDisplay::MakeScaled(const Picture &samples, SampleRange &range) co
         range = setting.mode == LevelsMode::FullRange && kind.IsWhole() ? SampleRange{ kind.Least(), kind.Most() }
                                                                         : ScaledSamples::FullRange(samples);
     }
-    return ScaledSamples::Image(samples, range, setting.gamma);
+    return ScaledSamples::Image(samples, range, setting.gamma, m_levels->GetPalette());
 }

@@ -137,18 +137,23 @@ SampleRange ScaledSamples::TypicalRange(const Picture &picture)
                            [&](auto sample) { return FindTypical<decltype(sample)>(picture); });
 }
 
-QImage ScaledSamples::Image(const Picture &picture, const SampleRange &range, double gamma)
+QImage ScaledSamples::Image(const Picture &picture, const SampleRange &range, double gamma, const Palette &palette)
 {
     const bool isColour = picture.Channels() == 3;
-    QImage image(picture.Size(), isColour ? QImage::Format_RGB888 : QImage::Format_Grayscale8);
+    const bool isPainted = !isColour && !palette.IsGrey();
+    QImage image(picture.Size(), isColour || isPainted ? QImage::Format_RGB888 : QImage::Format_Grayscale8);
     if (image.isNull())
         return image;
     const GreyTable greys = GreysOf(gamma);
     const PlaceInRange places(range, gammaSteps);
+    std::vector<uchar> greyRow(isPainted ? size_t(picture.Width()) : 0);
     VisitSampleType(picture.Type(), [&](auto sample) {
-        for (int y = 0; y < picture.Height(); ++y)
+        for (int y = 0; y < picture.Height(); ++y) {
             FillRow(picture.Samples<decltype(sample)>(y), picture.Width() * picture.Channels(), places, greys,
-                    image.scanLine(y));
+                    isPainted ? greyRow.data() : image.scanLine(y));
+            if (isPainted)
+                palette.Paint(greyRow.data(), picture.Width(), image.scanLine(y));
+        }
     });
     return image;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "palette.h"
 #include "samplerange.h"
 
 #include <QImage>
@@ -17,8 +18,8 @@ SampleRange FullRange(const Picture &picture, int rowStep = 1);
 /// Without the smallest and the largest thousandth, so that a few hot pixels don't make the picture dark.
 SampleRange TypicalRange(const Picture &picture);
 /// Grayscale8 or RGB888: black up to the left of the range and for what is no number, white from the right
-/// on. Null without memory for it.
-QImage Image(const Picture &picture, const SampleRange &range, double gamma);
+/// on, and of mono samples the palette's colours for these greys. Null without memory for it.
+QImage Image(const Picture &picture, const SampleRange &range, double gamma, const Palette &palette = Palette());
 
 /// How many samples of every `rowStep`th row lie in each of `columns` equal parts of a range.
 QVector<qint64> Histogram(const Picture &picture, const SampleRange &range, int columns, int rowStep);

@@ -40,6 +40,11 @@ bool LiveLevels::MarksSaturated() const
     return m_model->MarksSaturated();
 }
 
+Palette LiveLevels::GetPalette() const
+{
+    return m_model->GetPalette();
+}
+
 void LiveLevels::SetWatched(bool watched)
 {
     m_isWatched = watched;

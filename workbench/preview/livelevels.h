@@ -3,6 +3,7 @@
 
 #include "levelsfollower.h"
 #include "levelsreport.h"
+#include "palette.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -26,6 +27,7 @@ public:
     DisplayLevels Next(const SampleView &samples);
     /// Pixels at full scale are to be marked.
     bool MarksSaturated() const;
+    Palette GetPalette() const;
 
     /// Starts or ends the reports. A standing picture is shown again, so that there is a report of it.
     void SetWatched(bool watched);

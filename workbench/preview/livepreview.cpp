@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "livepreview.h"
 
+#include "frameanalysis.h"
 #include "framesource.h"
 #include "livelevels.h"
 #include "liveorientation.h"
@@ -72,6 +73,11 @@ void LivePreview::Forget()
     m_shownSize = QSize();
 }
 
+void LivePreview::AddAnalysis(FrameAnalysis *analysis)
+{
+    m_analyses.push_back(analysis);
+}
+
 void LivePreview::OnFrame(const CameraFrame &frame)
 {
     m_slot.Put(frame);
@@ -102,7 +108,8 @@ void LivePreview::KeepPeriod(QElapsedTimer *sinceLast) const
 /// Inside the gate; the GUI thread leaves it. The three deliveries stay in this order.
 void LivePreview::SendPicture(const CameraFrame &frame)
 {
-    const QImage picture = OrientedImage(m_maker.Make(frame), m_orientation->Get());
+    const Orientation orientation = m_orientation->Get();
+    const QImage picture = OrientedImage(m_maker.Make(frame), orientation);
     {
         const std::lock_guard<std::mutex> lock(m_handOver);
         m_rawFrames.FillBack(picture);
@@ -111,6 +118,9 @@ void LivePreview::SendPicture(const CameraFrame &frame)
     }
     QMetaObject::invokeMethod(this, "slotPictureArrives", Qt::QueuedConnection);
     emit signalPreviewImage(picture);
+    // What comes of it finds the picture and its size delivered.
+    for (FrameAnalysis *analysis : m_analyses)
+        analysis->Analyse({PictureMaker::ViewOf(frame), orientation, m_maker.UsedLevels()});
     QMetaObject::invokeMethod(this, "slotPictureDelivered", Qt::QueuedConnection);
 }
 

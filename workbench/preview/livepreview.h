@@ -15,7 +15,9 @@
 
 #include <atomic>
 #include <mutex>
+#include <vector>
 
+class FrameAnalysis;
 class FrameSource;
 class LiveLevels;
 class LiveOrientation;
@@ -53,6 +55,8 @@ public:
     void SetLeastPeriod(int milliseconds) { m_leastPeriodMs = milliseconds; }
     /// Forgets the frame and its size: the camera was closed.
     void Forget();
+    /// Is given every frame that is shown from now on; only while the preview does not run. Borrowed.
+    void AddAnalysis(FrameAnalysis *analysis);
 
     void OnFrame(const CameraFrame &frame) override;
 
@@ -84,6 +88,7 @@ private:
 
     FrameSource *m_source;
     LiveOrientation *m_orientation;
+    std::vector<FrameAnalysis *> m_analyses;
     NewestFrameSlot m_slot;
     PictureGate m_gate;
     PictureMaker m_maker; ///< belongs to whoever is inside the gate

@@ -10,7 +10,7 @@ PictureMaker::PictureMaker(LiveLevels *levels)
 {
 }
 
-QImage PictureMaker::Make(const CameraFrame &frame)
+SampleView PictureMaker::ViewOf(const CameraFrame &frame)
 {
     SampleView samples;
     samples.samples = frame.pixels.get();
@@ -19,8 +19,14 @@ QImage PictureMaker::Make(const CameraFrame &frame)
     samples.strideBytes = frame.strideBytes;
     samples.bitDepth = frame.BitDepth();
     samples.isColour = frame.layout == PixelLayout::Rgb8;
+    return samples;
+}
 
+QImage PictureMaker::Make(const CameraFrame &frame)
+{
+    const SampleView samples = ViewOf(frame);
+    m_usedLevels = m_levels->Next(samples);
     QImage picture;
-    m_converter.Convert(samples, m_levels->Next(samples), &picture, m_levels->MarksSaturated());
+    m_converter.Convert(samples, m_usedLevels, &picture, m_levels->MarksSaturated(), m_levels->GetPalette());
     return picture;
 }
