@@ -1,19 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectrummenu.h"
 
+#include "liveprofiles.h"
 #include "usearea.h"
 #include "workbenchservices.h"
+
+#include <QActionGroup>
 
 SpectrumMenu::SpectrumMenu(WorkbenchServices *services, QWidget *parent)
     : QMenu(tr("S&pectrum"), parent)
     , m_services(services)
     , m_spectrum(AddCheckable(tr("&Spectrum Page")))
+    , m_linesGroup(new QActionGroup(this))
 {
     m_spectrum->setShortcut(QKeySequence("Ctrl+Shift+P"));
     addSeparator();
     m_axes = AddCheckable(tr("&Rulers"));
     m_curves = AddCheckable(tr("&Intensity Curves"));
     m_colorBar = AddCheckable(tr("&Colour Bar"));
+    AddLines();
 
     const UseArea *useArea = services->GetUseArea();
     connect(m_spectrum, &QAction::triggered, useArea, &UseArea::slotSetSpectrum);
@@ -22,7 +27,20 @@ SpectrumMenu::SpectrumMenu(WorkbenchServices *services, QWidget *parent)
     connect(m_colorBar, &QAction::triggered, useArea, &UseArea::slotSetColorCardVisible);
     connect(useArea, &UseArea::signalUpdateUseArea, this, &SpectrumMenu::slotUpdate);
     connect(useArea, &UseArea::signalSpectrumUIUpdate, this, &SpectrumMenu::slotUpdate);
+    connect(services->Profiles(), &LiveProfiles::signalLinesChanged, this, &SpectrumMenu::slotUpdate);
     slotUpdate();
+}
+
+void SpectrumMenu::AddLines()
+{
+    QMenu *menu = addMenu(tr("Curves of &Lines"));
+    for (const int lines : {1, 3, 5, 11, 21, 51, PickedProfiles::MostLines}) {
+        QAction *action = menu->addAction(lines == 1 ? tr("One row, one column") : tr("Mean of %1").arg(lines));
+        action->setActionGroup(m_linesGroup);
+        action->setCheckable(true);
+        action->setData(lines);
+        connect(action, &QAction::triggered, this, [this, lines] { m_services->Profiles()->SetLines(lines); });
+    }
 }
 
 QAction *SpectrumMenu::AddCheckable(const QString &text)
@@ -39,6 +57,8 @@ void SpectrumMenu::slotUpdate()
     m_axes->setChecked(useArea->IsAxisVisible());
     m_curves->setChecked(useArea->IsCurveVisible());
     m_colorBar->setChecked(useArea->IsColorCardVisible());
+    for (QAction *action : m_linesGroup->actions())
+        action->setChecked(action->data().toInt() == m_services->Profiles()->Lines());
     for (QAction *aid : {m_axes, m_curves, m_colorBar})
         aid->setEnabled(useArea->IsSpectrumPagePresent());
 }

@@ -3,10 +3,11 @@
 
 #include <QMenu>
 
+class QActionGroup;
 class WorkbenchServices;
 
-/// View > Spectrum: whether the workbench is used for spectra, and which aids stand around the sensor image then.
-/// GUI thread.
+/// View > Spectrum: whether the workbench is used for spectra, which aids stand around the sensor image then, and of
+/// how many lines the curves are the mean. GUI thread.
 class SpectrumMenu : public QMenu
 {
     Q_OBJECT
@@ -17,11 +18,14 @@ public:
 
 private:
     void slotUpdate();
+    void AddLines();
     QAction *AddCheckable(const QString &text);
 
     WorkbenchServices *m_services;
     QAction *m_spectrum;
+    QActionGroup *m_linesGroup;
     QAction *m_axes;
     QAction *m_curves;
     QAction *m_colorBar;
+
 };

@@ -211,6 +211,10 @@ void WorkbenchServices::ConnectSpectrum()
     connect(m_centreDisplay.get(), &CentreDisplay::signalModeChanged, this, &WorkbenchServices::slotDisplayModeChanged);
     connect(m_profiles.get(), &LiveProfiles::signalFrameWanted, m_preview.get(), &LivePreview::slotShowAgain);
     connect(m_levelsModel.get(), &LevelsModel::signalPaletteChanged, this, &WorkbenchServices::slotShowPalette);
+    for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()}) {
+        connect(m_profiles.get(), &LiveProfiles::signalLinesChanged, picture, &OpenedPicture::slotSetCurveLines);
+        picture->slotSetCurveLines(m_profiles->Lines());
+    }
 }
 
 /// The curves of a standing picture need a frame to be made of.

@@ -92,7 +92,8 @@ void OpenedPicture::Take(const LoadedPicture &picture)
     emit signalSetCropState(NewSelection, false);
     emit signalShowPicture(m_shown.image);
     emit signalUpdateFileNameAndSize(GetFileInfo());
-    emit signalUpdateLevel(m_levels->GetLeftLevel(), m_levels->GetRightLevel());
+    emit signalUpdateLevel(m_levels->LeftValue(), m_levels->RightValue());
+    AnnounceCurves();
     if (isOther)
         AnnounceDocument();
     else
@@ -137,6 +138,29 @@ void OpenedPicture::AnnounceFrame()
                                .arg(m_shown.request.frame + 1)
                                .arg(m_shown.info.frames)
                                .arg(m_shown.frameDescription));
+}
+
+void OpenedPicture::GetIntensityCurveHistogramData(QPointF scenePos, QRectF region, int)
+{
+    m_curves.Pick(scenePos, region);
+    AnnounceCurves();
+}
+
+void OpenedPicture::slotSetCurveLines(int lines)
+{
+    m_curves.SetLines(lines);
+    AnnounceCurves();
+}
+
+/// Through the point that was picked last, as long as one was.
+void OpenedPicture::AnnounceCurves()
+{
+    if (IsNonImage() || !m_curves.Make(m_shown.samples, m_levels->Factor()))
+        return;
+    PictureCurves::Curve &row = m_curves.Row();
+    emit sglUpdateHorizontalCurve(row.samples.data(), int(row.samples.size()), row.offset, row.count);
+    PictureCurves::Curve &column = m_curves.Column();
+    emit sglUpdateVerticalCurve(column.samples.data(), int(column.samples.size()), column.offset, column.count);
 }
 
 void OpenedPicture::Follow(PictureDocument *document)
@@ -205,6 +229,7 @@ void OpenedPicture::Forget()
     m_wantedFrame = 0;
     m_shown = LoadedPicture();
     m_levels->Set(SampleType::U8, { 0, 255 });
+    m_curves.Forget();
 }
 
 void OpenedPicture::ConnectWidthDrawView(QObject *view, bool spectrum)
@@ -328,8 +353,6 @@ MeasureManager *OpenedPicture::GetMeasureManager() const { return m_measuring; }
 void OpenedPicture::SetProcessType(int) {}
 
 void OpenedPicture::SetAdjustApply(int) {}
-
-void OpenedPicture::GetIntensityCurveHistogramData(QPointF, QRectF, int) {}
 
 void OpenedPicture::slotFinishSetBrush() {}
 

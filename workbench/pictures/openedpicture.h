@@ -2,6 +2,7 @@
 #pragma once
 
 #include "imagemanager.h"
+#include "picturecurves.h"
 #include "picturerequest.h"
 
 #include <QPointer>
@@ -77,6 +78,8 @@ public slots:
     void slotMouseDoubleClickEvent(QMouseEvent *event) override;
     /// The levels were changed: makes the picture anew.
     void slotLevelsChanged();
+    /// Neighbouring lines that a curve is the mean of.
+    void slotSetCurveLines(int lines);
     /// The frame browser is that of the active picture, at first the main one; only that tells it of its frames.
     void slotActiveImageChanged(QObject *image);
 
@@ -106,6 +109,7 @@ private:
     void Take(const LoadedPicture &picture);
     void AnnounceDocument();
     void AnnounceFrame();
+    void AnnounceCurves();
     void TellFrameBrowser();
     void Follow(PictureDocument *document);
     void Forget();
@@ -114,6 +118,7 @@ private:
     const Place m_place;
     ViewMeasuring *m_measuring;
     PictureLevels *m_levels;
+    PictureCurves m_curves;
     QPointer<PictureDocument> m_document;
     QPointer<PictureDocument> m_wanted;
     int m_wantedFrame = 0;

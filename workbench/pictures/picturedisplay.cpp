@@ -10,15 +10,12 @@
 #include <new>
 #include <type_traits>
 
-namespace {
-
-/// Samples like those of a camera.
-bool IsLikeLive(const Picture &samples)
+bool PictureDisplay::IsLikeLive(const Picture &samples)
 {
     return samples.Type() == SampleType::U8 || samples.Type() == SampleType::U16;
 }
 
-SampleView ViewOf(const Picture &samples)
+SampleView PictureDisplay::ViewOf(const Picture &samples)
 {
     SampleView view;
     view.samples = samples.Data();
@@ -29,8 +26,6 @@ SampleView ViewOf(const Picture &samples)
     view.isColour = samples.Channels() == 3;
     return view;
 }
-
-} // namespace
 
 SampleKind PictureDisplay::KindOf(SampleType type)
 {

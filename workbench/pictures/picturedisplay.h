@@ -16,6 +16,9 @@ class PictureDisplay
 {
 public:
     static SampleKind KindOf(SampleType type);
+    /// Samples like those of a camera, and the view of them.
+    static bool IsLikeLive(const Picture &samples);
+    static SampleView ViewOf(const Picture &samples);
     /// Of a picture that was made with the levels `range`. From a part of the rows of a large picture.
     static LevelsReport Report(const Picture &samples, const SampleRange &range, double gamma);
 

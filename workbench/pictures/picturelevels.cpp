@@ -7,14 +7,26 @@
 
 namespace {
 
-/// Samples may be larger than the contract's whole numbers.
-int Rounded(double level)
+constexpr double EnoughSteps = 1000;
+constexpr double MostFactor = 1e9;
+
+double FactorFor(SampleType type, const SampleRange &range)
 {
-    return int(std::clamp(std::round(level), double(std::numeric_limits<int>::min()),
-                          double(std::numeric_limits<int>::max())));
+    double factor = 1;
+    while (IsFloat(type) && (range.right - range.left) * factor < EnoughSteps && factor < MostFactor)
+        factor *= 10;
+    return factor;
 }
 
 } // namespace
+
+int PictureLevels::Rounded(double value)
+{
+    if (std::isnan(value))
+        return 0;
+    return int(std::clamp(std::round(value), double(std::numeric_limits<int>::min()),
+                          double(std::numeric_limits<int>::max())));
+}
 
 PictureLevels::PictureLevels(QObject *parent)
     : ImageCore(parent)
@@ -25,10 +37,15 @@ void PictureLevels::Set(SampleType type, const SampleRange &range)
 {
     m_type = type;
     m_range = range;
+    m_factor = FactorFor(type, range);
 }
 
 int PictureLevels::GetDepth() const { return BytesPerSample(m_type) == 1 ? 1 : 2; }
 
-int PictureLevels::GetLeftLevel() const { return Rounded(m_range.left); }
+int PictureLevels::GetLeftLevel() const { return Rounded(m_range.left * m_factor); }
 
-int PictureLevels::GetRightLevel() const { return Rounded(m_range.right); }
+int PictureLevels::GetRightLevel() const { return Rounded(m_range.right * m_factor); }
+
+int PictureLevels::LeftValue() const { return Rounded(m_range.left); }
+
+int PictureLevels::RightValue() const { return Rounded(m_range.right); }

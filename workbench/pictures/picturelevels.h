@@ -6,7 +6,8 @@
 #include "sampletype.h"
 
 /// Pixel depth and display levels of an opened picture; while nothing is open, those of an 8-bit
-/// picture shown as it is. Owned by its OpenedPicture. GUI thread.
+/// picture shown as it is. The contract has whole numbers for levels and curves, so fractions that span little are told
+/// multiplied by Factor(), in the curves too. Owned by its OpenedPicture. GUI thread.
 class PictureLevels : public ImageCore
 {
     Q_OBJECT
@@ -15,6 +16,13 @@ public:
     explicit PictureLevels(QObject *parent = nullptr);
 
     void Set(SampleType type, const SampleRange &range);
+    /// Of what is told: 1, or a power of ten for floating-point samples whose levels lie less than 1000 apart.
+    double Factor() const { return m_factor; }
+    /// The levels themselves, rounded.
+    int LeftValue() const;
+    int RightValue() const;
+    /// The nearest whole number that the contract can hold; 0 for what is no number.
+    static int Rounded(double value);
 
     int GetDepth() const override;
     int GetLeftLevel() const override;
@@ -23,4 +31,5 @@ public:
 private:
     SampleType m_type = SampleType::U8;
     SampleRange m_range = { 0, 255 };
+    double m_factor = 1;
 };

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "picturecurves.h"
+
+#include "picturedisplay.h"
+#include "picturelevels.h"
+#include "sampleview.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/// The visible part, in samples; all of them for what is no part.
+void ShowPart(double from, double to, PictureCurves::Curve *curve)
+{
+    const int size = int(curve->samples.size());
+    const bool isPart = from < to && from < 1 && to > 0; // false for what is no number
+    curve->offset = isPart ? int(std::max(from, 0.0) * size) : 0;
+    const int end = isPart ? int(std::min(to, 1.0) * size) : size;
+    curve->count = std::max(0, end - curve->offset);
+}
+
+/// The pixel that a place lies in, or the nearest.
+int PixelAt(double place, int size)
+{
+    return int(std::clamp(std::floor(place), 0.0, double(size - 1)));
+}
+
+template <typename Sample>
+double PixelValue(const Sample *samples, int channels)
+{
+    double sum = 0;
+    for (int channel = 0; channel < channels; ++channel)
+        sum += double(samples[channel]);
+    return sum / channels;
+}
+
+} // namespace
+
+void PictureCurves::Pick(const QPointF &point, const QRectF &region)
+{
+    if (!qIsFinite(point.x()) || !qIsFinite(point.y()))
+        return;
+    m_isPicked = true;
+    m_point = point;
+    m_region = region;
+}
+
+void PictureCurves::SetLines(int lines) { m_lines = std::clamp(lines, 1, PickedProfiles::MostLines); }
+
+bool PictureCurves::Make(const Picture &picture, double factor)
+{
+    if (!m_isPicked || picture.IsNull())
+        return false;
+    const QPoint point(PixelAt(m_point.x(), picture.Width()), PixelAt(m_point.y(), picture.Height()));
+    if (PictureDisplay::IsLikeLive(picture))
+        TakeUnsigned(picture, point);
+    else
+        TakeAny(picture, point, factor);
+    // In the width and height slots it has right and bottom.
+    ShowPart(m_region.x(), m_region.width(), &m_row);
+    ShowPart(m_region.y(), m_region.height(), &m_column);
+    return true;
+}
+
+void PictureCurves::TakeUnsigned(const Picture &picture, const QPoint &point)
+{
+    m_profiles.Extract(PictureDisplay::ViewOf(picture), point, m_lines);
+    m_row.samples = m_profiles.Row();
+    m_column.samples = m_profiles.Column();
+}
+
+void PictureCurves::TakeAny(const Picture &picture, const QPoint &point, double factor)
+{
+    const ProfileBand rows = BandAround(point.y(), m_lines, picture.Height());
+    const ProfileBand columns = BandAround(point.x(), m_lines, picture.Width());
+    const int channels = picture.Channels();
+    std::vector<double> rowSums(size_t(picture.Width()), 0);
+    m_column.samples.resize(size_t(picture.Height()));
+    VisitSampleType(picture.Type(), [&](auto sample) {
+        for (int y = 0; y < picture.Height(); ++y) {
+            const auto *samples = picture.Samples<decltype(sample)>(y);
+            double sum = 0;
+            for (int x = columns.first; x < columns.end; ++x)
+                sum += PixelValue(samples + qptrdiff(x) * channels, channels);
+            m_column.samples[size_t(y)] = PictureLevels::Rounded(sum / columns.Count() * factor);
+            for (int x = 0; x < picture.Width() && y >= rows.first && y < rows.end; ++x)
+                rowSums[size_t(x)] += PixelValue(samples + qptrdiff(x) * channels, channels);
+        }
+    });
+    m_row.samples.resize(rowSums.size());
+    std::transform(rowSums.begin(), rowSums.end(), m_row.samples.begin(),
+                   [&](double sum) { return PictureLevels::Rounded(sum / rows.Count() * factor); });
+}

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "pickedprofiles.h"
+
+#include <QPointF>
+#include <QRectF>
+
+class Picture;
+
+/// The row and column profile of an opened picture through the point that was picked last, from its samples of any type.
+/// GUI thread: bands are narrow, so that even a large picture takes a few milliseconds at most.
+class PictureCurves
+{
+public:
+    /// A profile, and the part of it that is visible.
+    struct Curve
+    {
+        std::vector<int> samples;
+        int offset = 0;
+        int count = 0;
+    };
+
+    /// `point` in picture pixels; `region` holds left, top, right and bottom as parts of the picture. A point that is no
+    /// number picks nothing.
+    void Pick(const QPointF &point, const QRectF &region);
+    void Forget() { m_isPicked = false; }
+    bool IsPicked() const { return m_isPicked; }
+    /// Of each profile; see PickedProfiles.
+    void SetLines(int lines);
+
+    /// False when nothing is picked or there are no samples. Samples are multiplied by `factor`; what is no number is 0.
+    bool Make(const Picture &picture, double factor);
+    Curve &Row() { return m_row; }
+    Curve &Column() { return m_column; }
+
+private:
+    void TakeUnsigned(const Picture &picture, const QPoint &point);
+    void TakeAny(const Picture &picture, const QPoint &point, double factor);
+
+    bool m_isPicked = false;
+    QPointF m_point;
+    QRectF m_region;
+    int m_lines = 1;
+    PickedProfiles m_profiles;
+    Curve m_row;
+    Curve m_column;
+};
