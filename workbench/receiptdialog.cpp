@@ -40,10 +40,12 @@ ReceiptDialog::ReceiptDialog(const RunReceipt &receipt, QWidget *parent)
     column->addLayout(form);
     if (!receipt.files.isEmpty())
         form->addRow(tr("File"), TextLabel(receipt.files.first(), "labelFile"));
-    for (const auto &line : OutcomeLines(receipt.outcome, receipt.stamps))
+    for (const auto &line : OutcomeLines(receipt.facts, receipt.outcome, receipt.stamps))
         form->addRow(line.first, TextLabel(line.second, "labelValue"));
     if (!receipt.error.isEmpty())
         form->addRow(tr("Error"), TextLabel(receipt.error, "labelError"));
+    if (!receipt.warning.isEmpty())
+        form->addRow(tr("Warning"), TextLabel(receipt.warning, "labelWarning"));
     column->addWidget(m_verdict);
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
@@ -61,7 +63,11 @@ ReceiptDialog::ReceiptDialog(const RunReceipt &receipt, QWidget *parent)
     setMinimumWidth(fontMetrics().averageCharWidth() * 70);
 }
 
-ReceiptDialog::~ReceiptDialog() { m_worker.waitForDone(); }
+ReceiptDialog::~ReceiptDialog()
+{
+    m_isClosing = true;
+    m_worker.waitForDone(); // for one frame
+}
 
 void ReceiptDialog::slotVerify()
 {
@@ -70,7 +76,7 @@ void ReceiptDialog::slotVerify()
     m_worker.start([this] {
         quint64 checksum = 0;
         QString error;
-        RunChecksum::OfFiles(m_receipt.files, &checksum, &error);
+        RunChecksum::OfFiles(m_receipt.files, &checksum, &error, [this] { return bool(m_isClosing); });
         QMetaObject::invokeMethod(
             this, [this, checksum, error] { Show(checksum, error); }, Qt::QueuedConnection);
     });

@@ -6,6 +6,8 @@
 #include <QDialog>
 #include <QThreadPool>
 
+#include <atomic>
+
 class QLabel;
 class QPushButton;
 
@@ -28,6 +30,7 @@ private:
     void Show(quint64 checksum, const QString &error);
 
     const RunReceipt m_receipt;
+    std::atomic<bool> m_isClosing{ false }; ///< the worker stops reading
     QThreadPool m_worker;
     QLabel *m_verdict;
     QPushButton *m_verify;

@@ -11,8 +11,15 @@
 #include <QFileInfo>
 
 namespace {
-/// Of the free memory, what frames kept in memory may take.
-constexpr double RamShare = 0.9;
+constexpr int WatchPeriodMs = 20;   // of values that are known without asking the camera
+constexpr int RefreshPeriodMs = 1000; // of those that the camera chooses
+constexpr qint64 BytesPerMB = 1 << 20;
+
+bool AreSame(const SettingsChange &a, const SettingsChange &b)
+{
+    return a.exposureUs == b.exposureUs && a.isAutoExposure == b.isAutoExposure && a.gain == b.gain
+           && a.isAutoGain == b.isAutoGain && a.framesPerSecond == b.framesPerSecond;
+}
 } // namespace
 
 RecordingDesk::RecordingDesk(const Parts &parts, QObject *parent)
@@ -22,6 +29,8 @@ RecordingDesk::RecordingDesk(const Parts &parts, QObject *parent)
     m_worker.setMaxThreadCount(1);
     connect(parts.link, SIGNAL(signalStateChanged()), this, SLOT(slotCameraStateChanged()));
     connect(parts.saving, SIGNAL(signalRunEnded(RunReceipt)), this, SLOT(slotRunEnded(RunReceipt)));
+    m_watch.setInterval(WatchPeriodMs);
+    connect(&m_watch, SIGNAL(timeout()), this, SLOT(slotWatchSettings()));
 }
 
 RecordingDesk::~RecordingDesk()
@@ -55,13 +64,18 @@ void RecordingDesk::slotCapture(bool record, bool single)
     });
 }
 
-bool RecordingDesk::Start(const RecordingSettings &settings, const QString &path, QString *error)
+bool RecordingDesk::Start(const RecordingSettings &settings, const QString &path, QString *warning,
+                          QString *error)
 {
     if (IsBusy()) {
         *error = tr("A recording is running already.");
         return false;
     }
-    return MakeOrder(settings, path, error) && Begin(error);
+    if (!MakeOrder(settings, path, error))
+        return false;
+    UseResources(RunResources::Read(QFileInfo(path).absolutePath()));
+    *warning = m_estimate.warning;
+    return Begin(error);
 }
 
 bool RecordingDesk::MakeOrder(const RecordingSettings &settings, const QString &path, QString *error)
@@ -81,14 +95,11 @@ bool RecordingDesk::MakeOrder(const RecordingSettings &settings, const QString &
     facts.model = session->Info().model;
     facts.serial = session->Info().serial;
     facts.firmware = session->Info().firmware;
-    facts.exposureUs = session->Controls().ExposureUs();
-    facts.gain = session->Controls().Gain();
-    facts.framesPerSecond = session->Controls().FrameRate();
+    TakeSettings();
     facts.region = session->Format().Region();
     facts.binning = QSize(session->Format().Binning(), session->Format().Binning());
     facts.frameSize = session->Format().FrameSize();
     facts.layout = session->Format().Layout();
-    facts.start = QDateTime::currentDateTimeUtc().addMSecs(settings.DelayMs());
     facts.software =
         QString("%1 %2").arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion());
     return true;
@@ -98,14 +109,62 @@ void RecordingDesk::TakeResources(const RunResources &resources)
 {
     if (!m_isPreparing)
         return; // stopped meanwhile
-    if (resources.freeMemoryBytes >= 0)
-        m_order.ramBytes = qint64(double(resources.freeMemoryBytes) * RamShare);
-    m_estimate = RunEstimate::Make(m_order.settings, m_order.facts.FrameBytes(),
-                                   m_order.facts.framesPerSecond, resources);
+    UseResources(resources);
     if (m_estimate.warning.isEmpty())
         GoOn();
     else
         emit signalRoomIsShort(m_estimate.warning, m_estimate.framesThatFit > 0);
+}
+
+/// Frames that wait for the disk and frames that stay in memory are held to the memory that the estimate counts on.
+void RecordingDesk::UseResources(const RunResources &resources)
+{
+    m_resources = resources;
+    m_order.ramBytes = resources.MemoryForFrames();
+    if (m_order.ramBytes >= 0)
+        m_order.settings.queueMB = int(qMin(qint64(m_order.settings.queueMB), m_order.ramBytes / BytesPerMB));
+    m_estimate = RunEstimate::Make(m_order.settings, m_order.facts.FrameBytes(),
+                                   m_order.facts.framesPerSecond, resources);
+}
+
+SettingsChange RecordingDesk::CurrentSettings() const
+{
+    const CameraControls &controls = m_parts.link->Session()->Controls();
+    SettingsChange settings;
+    settings.exposureUs = controls.ExposureUs();
+    settings.isAutoExposure = controls.IsAutoExposure();
+    settings.gain = controls.Gain();
+    settings.isAutoGain = controls.IsAutoGain();
+    settings.framesPerSecond = controls.FrameRate();
+    return settings;
+}
+
+void RecordingDesk::TakeSettings()
+{
+    m_parts.link->Session()->Controls().Refresh();
+    m_lastSettings = CurrentSettings();
+    RunFacts &facts = m_order.facts;
+    facts.exposureUs = m_lastSettings.exposureUs;
+    facts.isAutoExposure = m_lastSettings.isAutoExposure;
+    facts.gain = m_lastSettings.gain;
+    facts.isAutoGain = m_lastSettings.isAutoGain;
+    facts.framesPerSecond = m_lastSettings.framesPerSecond;
+}
+
+/// Exposure, gain and rate may be changed in mid-run, by the user or by the camera itself; the file tells it.
+void RecordingDesk::slotWatchSettings()
+{
+    if (!m_parts.link->Session())
+        return;
+    if (m_sinceRefresh.elapsed() >= RefreshPeriodMs) {
+        m_sinceRefresh.start();
+        m_parts.link->Session()->Controls().Refresh();
+    }
+    const SettingsChange now = CurrentSettings();
+    if (AreSame(now, m_lastSettings))
+        return;
+    m_lastSettings = now;
+    m_parts.saving->ChangeSettings(now);
 }
 
 void RecordingDesk::GoOn()
@@ -139,8 +198,11 @@ bool RecordingDesk::Begin(QString *error)
         *error = tr("The camera was lost before the recording could begin.");
         return false;
     }
+    TakeSettings(); // the question about the room may have stood for minutes
     m_parts.settings->SetRun(&m_order.settings);
     m_parts.link->HoldFormat(true);
+    m_sinceRefresh.start();
+    m_watch.start();
     m_parts.saving->StartRun(m_order);
     if (!m_parts.tee->StartRecording(m_parts.saving))
         m_parts.saving->StopRun(RunEnd::CameraLost, tr("the camera could not be started"));
@@ -168,6 +230,7 @@ void RecordingDesk::slotCameraStateChanged()
 
 void RecordingDesk::slotRunEnded(RunReceipt receipt)
 {
+    m_watch.stop();
     m_parts.tee->StopRecording();
     m_parts.link->HoldFormat(false);
     m_parts.settings->SetRun(nullptr);
@@ -188,5 +251,8 @@ QString RecordingDesk::EndSentence(const RunReceipt &receipt)
                               .arg(receipt.outcome.counts.saved)
                               .arg(QFileInfo(receipt.files.first()).fileName());
     const quint64 lost = receipt.outcome.counts.Lost();
-    return lost == 0 ? tr("%1, none lost.").arg(saved) : tr("%1, %2 LOST.").arg(saved).arg(lost);
+    const QString sentence = lost == 0 ? tr("%1, none lost.").arg(saved) : tr("%1, %2 LOST.").arg(saved).arg(lost);
+    if (receipt.IsWhole() || receipt.outcome.reason.isEmpty())
+        return sentence;
+    return tr("The recording ended early: %1. %2").arg(receipt.outcome.reason, sentence);
 }

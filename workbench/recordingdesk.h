@@ -4,8 +4,10 @@
 #include "framesaving.h"
 #include "runestimate.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QThreadPool>
+#include <QTimer>
 
 class CameraLink;
 class FrameTee;
@@ -39,9 +41,12 @@ public:
     /// Of the last run; without files and facts before the first.
     const RunReceipt &LastReceipt() const { return m_receipt; }
     bool HasReceipt() const { return m_hasReceipt; }
+    /// What there was when the run began.
+    const RunResources &Resources() const { return m_resources; }
 
-    /// A run of its own settings into a file of that name, without questions. False and an error when it can't begin.
-    bool Start(const RecordingSettings &settings, const QString &path, QString *error);
+    /// A run of its own settings into a file of that name, without questions: what would be asked is the `warning`.
+    /// False and an error when it can't begin. Looks at the disk at once, for there is no window to keep waiting.
+    bool Start(const RecordingSettings &settings, const QString &path, QString *warning, QString *error);
     /// After signalRoomIsShort().
     void GoOn();
     void GoOnShortened();
@@ -64,11 +69,15 @@ signals:
 private slots:
     void slotCameraStateChanged();
     void slotRunEnded(RunReceipt receipt);
+    void slotWatchSettings();
 
 private:
     bool MakeOrder(const RecordingSettings &settings, const QString &path, QString *error);
     void TakeResources(const RunResources &resources);
     bool Begin(QString *error);
+    void UseResources(const RunResources &resources);
+    SettingsChange CurrentSettings() const;
+    void TakeSettings();
     void SetPreparing(bool preparing);
     static QString EndSentence(const RunReceipt &receipt);
 
@@ -76,6 +85,10 @@ private:
     QThreadPool m_worker;
     RunOrder m_order;
     RunEstimate m_estimate;
+    RunResources m_resources;
+    QTimer m_watch; ///< of what is set anew in mid-run
+    QElapsedTimer m_sinceRefresh;
+    SettingsChange m_lastSettings;
     bool m_isPreparing = false;
     RunReceipt m_receipt;
     bool m_hasReceipt = false;

@@ -38,8 +38,12 @@ void RecordRun::slotCameraStateChanged()
     if (m_hasBegun || m_link->GetState() != CameraLink::State::Open)
         return;
     m_hasBegun = true;
+    QString warning;
     QString error;
-    if (!m_desk->Start(m_settings, m_path, &error))
+    const bool hasStarted = m_desk->Start(m_settings, m_path, &warning, &error);
+    if (!warning.isEmpty())
+        fprintf(stderr, "workbench: %s\n", qPrintable(warning));
+    if (!hasStarted)
         Fail(error);
     else if (m_longestSeconds > 0)
         QTimer::singleShot(m_longestSeconds * MsPerSecond, m_desk, SLOT(slotStop()));
@@ -47,8 +51,8 @@ void RecordRun::slotCameraStateChanged()
 
 void RecordRun::slotRunEnded(RunReceipt receipt)
 {
-    if (receipt.files.isEmpty() && !receipt.error.isEmpty()) {
-        Fail(receipt.error);
+    if (receipt.files.isEmpty()) {
+        Fail(receipt.error.isEmpty() ? tr("No frame came from the camera.") : receipt.error);
         return;
     }
     printf("%s", qPrintable(receipt.Text()));

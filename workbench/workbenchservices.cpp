@@ -57,10 +57,18 @@ QString RegisterFolder(const QSettings &settings)
 
 QString RepairText(const RepairedRun &run)
 {
+    if (run.waits && run.fault.isEmpty())
+        return WorkbenchServices::tr("A recording that was cut off waits until its disk is back: %1").arg(run.path);
     if (!run.fault.isEmpty())
         return WorkbenchServices::tr("A recording that was cut off could not be repaired: %1").arg(run.fault);
     if (run.frames == 0)
         return WorkbenchServices::tr("A recording that was cut off held no whole frame: %1").arg(run.path);
+    if (run.torn > 0)
+        return WorkbenchServices::tr("A recording that was cut off was repaired: %1 frames in %2, and %3 that were torn "
+                                     "are lost")
+            .arg(run.frames)
+            .arg(run.path)
+            .arg(run.torn);
     return WorkbenchServices::tr("A recording that was cut off was repaired: %1 frames in %2").arg(run.frames).arg(run.path);
 }
 

@@ -31,7 +31,6 @@ struct CameraFrame
     int height = 0;
     int strideBytes = 0; ///< from one row to the next
     PixelLayout layout = PixelLayout::Mono8;
-    quint64 incompleteBefore = 0; ///< frames that came incomplete since the one before and were left out
     quint64 frameId = 0; ///< the camera's count since the start, unwrapped to 64 bits: a gap is a lost frame
     qint64 cameraTimeNs = 0; ///< by the camera's clock
     qint64 hostTimeNs = 0;   ///< arrival, since 1970

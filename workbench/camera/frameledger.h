@@ -11,6 +11,7 @@ enum class LossStage
     Camera,    ///< never arrived: its frame id is missing
     Transfer,  ///< arrived incomplete
     SaveQueue, ///< the queue to the saver was full
+    Memory,    ///< the memory for frames that are kept in it was full
     Disk,      ///< could not be written
     Count
 };

@@ -3,13 +3,11 @@
 
 #include "framereceiver.h"
 
-#include "frameledger.h"
 #include "framesink.h"
 #include "simulatedsensor.h"
 #include "streambufferpool.h"
 
 #include <chrono>
-#include <utility>
 
 namespace {
 constexpr int kStreamBuffers = 8;
@@ -46,7 +44,6 @@ void FrameReceiver::OpenGate(FrameSink *sink)
 {
     std::lock_guard<std::mutex> lock(m_gate);
     m_frameIds.Reset();
-    m_incomplete = 0;
     m_lastFrameMs = SteadyMs();
     m_sink = sink;
 }
@@ -83,18 +80,22 @@ bool FrameReceiver::Deliver(ArvBuffer *buffer)
 
     const FrameIdUnwrapper::Step step = m_frameIds.Next(arv_buffer_get_frame_id(buffer));
     if (step.missing > 0)
-        m_ledger.AddLost(LossStage::Camera, step.missing);
+        CountLost(LossStage::Camera, step.id - step.missing, step.missing);
     m_lastFrameMs = SteadyMs();
     if (!IsComplete(buffer)) {
-        m_ledger.AddLost(LossStage::Transfer);
-        ++m_incomplete;
+        CountLost(LossStage::Transfer, step.id, 1);
         return false;
     }
     m_ledger.AddCaptured();
-    CameraFrame frame = FrameFrom(buffer, step.id);
-    frame.incompleteBefore = std::exchange(m_incomplete, 0);
-    m_sink->OnFrame(frame);
+    m_sink->OnFrame(FrameFrom(buffer, step.id));
     return true;
+}
+
+/// At once: the next whole frame may be long in coming, or never come.
+void FrameReceiver::CountLost(LossStage stage, quint64 firstId, quint64 frames)
+{
+    m_ledger.AddLost(stage, frames);
+    m_sink->OnLost(stage, firstId, frames);
 }
 
 bool FrameReceiver::IsComplete(ArvBuffer *buffer) const

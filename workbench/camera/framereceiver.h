@@ -3,12 +3,12 @@
 
 #include "cameraframe.h"
 #include "frameidunwrapper.h"
+#include "frameledger.h"
 
 #include <atomic>
 #include <memory>
 #include <mutex>
 
-class FrameLedger;
 class FrameSink;
 class StreamBufferPool;
 typedef struct _ArvBuffer ArvBuffer;
@@ -39,6 +39,7 @@ public:
 
 private:
     bool IsComplete(ArvBuffer *buffer) const;
+    void CountLost(LossStage stage, quint64 firstId, quint64 frames);
     CameraFrame FrameFrom(ArvBuffer *buffer, quint64 frameId) const;
 
     FrameLedger &m_ledger;
@@ -49,6 +50,5 @@ private:
     std::mutex m_gate; ///< held during a delivery
     FrameSink *m_sink = nullptr;
     FrameIdUnwrapper m_frameIds;
-    quint64 m_incomplete = 0; ///< since the last frame that was delivered
     std::atomic<qint64> m_lastFrameMs{ 0 }; ///< steady clock
 };

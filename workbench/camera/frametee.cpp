@@ -57,3 +57,10 @@ void FrameTee::OnFrame(const CameraFrame &frame)
     if (m_display)
         m_display->OnFrame(frame);
 }
+
+void FrameTee::OnLost(LossStage stage, quint64 firstId, quint64 frames)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_recording)
+        m_recording->OnLost(stage, firstId, frames);
+}

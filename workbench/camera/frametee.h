@@ -24,6 +24,7 @@ public:
 
 private:
     void OnFrame(const CameraFrame &frame) override;
+    void OnLost(LossStage stage, quint64 firstId, quint64 frames) override;
     bool Start(FrameSink **place, FrameSink *sink);
     void Stop(FrameSink **place);
 

@@ -37,6 +37,7 @@ bool FileFault::Set(const QString &newWhat, const QString &newAdvice, const QStr
     advice = newAdvice;
     detail = newDetail;
     isDiskFull = false;
+    isNameTaken = false;
     return false;
 }
 

@@ -10,6 +10,7 @@ struct FileFault
     QString advice; ///< a sentence
     QString detail; ///< what the library beneath said; may be empty
     bool isDiskFull = false; ///< less data may still find room
+    bool isNameTaken = false; ///< another name may be free
 
     /// Always false, for "return fault.Set(...)".
     bool Set(const QString &what, const QString &advice, const QString &detail = QString());

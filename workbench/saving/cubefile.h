@@ -12,6 +12,12 @@ public:
     bool Reopen(const QString &path, qint64 headerBytes, qint64 frameBytes, int *frames, FileFault &fault);
     bool Append(const void *frame, FileFault &fault);
     bool CutTo(int frames, FileFault &fault);
+    bool ReadFrame(int frame, void *bytes) const { return m_disk.ReadAt(OffsetOf(frame), bytes, m_frameBytes); }
+    bool WriteFrame(int frame, const void *bytes, FileFault &fault)
+    {
+        return m_disk.WriteAt(OffsetOf(frame), bytes, m_frameBytes, fault);
+    }
+    std::function<int()> DataSync() const { return m_disk.DataSync(); }
     /// Behind the last frame.
     bool WriteEnd(const QByteArray &bytes, FileFault &fault)
     {

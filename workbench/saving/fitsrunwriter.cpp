@@ -8,8 +8,7 @@
 #include <QFile>
 #include <QtEndian>
 
-#include <fitsio.h>
-
+#include <cerrno>
 #include <cstring>
 
 namespace {
@@ -34,6 +33,16 @@ void CopyRow16(const uchar *from, int count, uchar *to)
         quint16 sample = 0;
         std::memcpy(&sample, from + 2 * i, 2);
         sample = qToBigEndian(quint16(sample ^ SignBit));
+        std::memcpy(to + 2 * i, &sample, 2);
+    }
+}
+
+void ReadRow16(const uchar *from, int count, uchar *to)
+{
+    for (int i = 0; i < count; ++i) {
+        quint16 sample = 0;
+        std::memcpy(&sample, from + 2 * i, 2);
+        sample = qFromBigEndian(sample) ^ SignBit;
         std::memcpy(to + 2 * i, &sample, 2);
     }
 }
@@ -94,6 +103,31 @@ bool FitsRunWriter::AppendFrame(const uchar *samples, const FrameStamp &, FileFa
 
 bool FitsRunWriter::CutTo(int frames, FileFault &fault) { return m_cube.CutTo(frames, fault); }
 
+bool FitsRunWriter::ReadBack(int frame, uchar *samples)
+{
+    m_rows.resize(size_t(Facts().FrameBytes()));
+    if (!m_cube.ReadFrame(frame, m_rows.data()))
+        return false;
+    const int height = Facts().frameSize.height();
+    const size_t rowBytes = m_rows.size() / size_t(height);
+    for (int y = 0; y < height; ++y) {
+        const uchar *from = m_rows.data() + size_t(height - 1 - y) * rowBytes;
+        uchar *to = samples + size_t(y) * rowBytes;
+        if (Facts().BitsPerSample() == 16)
+            ReadRow16(from, Facts().frameSize.width(), to);
+        else
+            std::memcpy(to, from, rowBytes);
+    }
+    return true;
+}
+
+bool FitsRunWriter::MoveFrame(int from, int to, FileFault &fault)
+{
+    m_rows.resize(size_t(Facts().FrameBytes()));
+    return m_cube.ReadFrame(from, m_rows.data()) ? m_cube.WriteFrame(to, m_rows.data(), fault)
+                                                 : RunDisk::SetSystemFault(fault, EIO);
+}
+
 bool FitsRunWriter::Complete(const RunOutcome &outcome, FileFault &fault)
 {
     const qint64 rest = m_cube.OffsetOf(FramesWritten()) % BlockBytes;
@@ -102,23 +136,31 @@ bool FitsRunWriter::Complete(const RunOutcome &outcome, FileFault &fault)
            && AddFactsAndTable(outcome, fault) && m_cube.Synchronise(fault);
 }
 
+/// One number can tell only what held for all frames; what changed stands in the comments.
+void FitsRunWriter::WriteExposure(fitsfile *fits, int *status) const
+{
+    double exposure = Facts().exposureUs / 1e6;
+    double gain = Facts().gain;
+    if (!Facts().isAutoExposure && Facts().changes.isEmpty())
+        fits_update_key(fits, TDOUBLE, "EXPTIME", &exposure, "[s] exposure of each frame", status);
+    if (!Facts().isAutoGain && Facts().changes.isEmpty())
+        fits_update_key(fits, TDOUBLE, "GAIN", &gain, "in the camera's unit", status);
+}
+
 bool FitsRunWriter::AddFactsAndTable(const RunOutcome &outcome, FileFault &fault)
 {
     FitsSession session;
     int status = 0;
     fitsfile *fits = nullptr;
     fits_open_diskfile(&fits, QFile::encodeName(UnfinishedPath()).constData(), READWRITE, &status);
-    for (const auto &lines : { Facts().Lines(), OutcomeLines(outcome, Stamps()) }) {
+    for (const auto &lines : { Facts().Lines(), OutcomeLines(Facts(), outcome, Stamps()) }) {
         for (const auto &line : lines) {
             const QByteArray text = (line.first + ": " + line.second).toLatin1();
             fits_write_comment(fits, text.constData(), &status);
         }
     }
-    double exposure = Facts().exposureUs / 1e6;
-    double gain = Facts().gain;
+    WriteExposure(fits, &status);
     int depth = Facts().BitDepth();
-    fits_update_key(fits, TDOUBLE, "EXPTIME", &exposure, "[s] exposure of each frame", &status);
-    fits_update_key(fits, TDOUBLE, "GAIN", &gain, "in the camera's unit", &status);
     fits_update_key(fits, TINT, "BITDEPTH", &depth, "bits of a sample that carry light", &status);
     fits_update_key_str(fits, "INSTRUME", (Facts().vendor + ' ' + Facts().model).toLatin1().constData(),
                         "camera", &status);
@@ -156,10 +198,7 @@ bool FitsRunWriter::AddFactsAndTable(const RunOutcome &outcome, FileFault &fault
 bool FitsRunWriter::Place(FileFault &fault)
 {
     m_cube.Close();
-    if (!RunDisk::Rename(UnfinishedPath(), Path(), fault))
-        return false;
-    RunDisk::MakeNamesLasting(Path());
-    return true;
+    return RunDisk::Rename(UnfinishedPath(), Path(), fault);
 }
 
 void FitsRunWriter::RemoveData()

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "framesaving.h"
 
-#include "pixelmove.h"
-#include "runsummary.h"
-
-#include <QFileInfo>
+#include "seenframe.h"
 
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -19,6 +17,15 @@ qint64 SteadyMs()
 {
     using namespace std::chrono;
     return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
+
+/// Why a run that was not discarded has no frame; empty when it was stopped before one could come.
+QString NothingText(const RunOutcome &outcome)
+{
+    if (outcome.counts.Lost() > 0)
+        return FrameSaving::tr("No whole frame came from the camera: %1 were lost on the way.")
+            .arg(outcome.counts.Lost());
+    return outcome.end == RunEnd::Stopped ? QString() : FrameSaving::tr("No frame came from the camera.");
 }
 
 } // namespace
@@ -47,20 +54,6 @@ private:
     qint64 m_lastMs = 0;
     qint64 m_second = -1;
 };
-
-QString RunReceipt::Text() const
-{
-    QString text;
-    for (const auto &line : OutcomeLines(outcome, stamps))
-        text += line.first + ": " + line.second + '\n';
-    for (const QString &file :
-         files.size() > 3 ? QStringList{ files.first(), "...", files[files.size() - 2], files.last() }
-                          : files)
-        text += FrameSaving::tr("File") + ": " + file + '\n';
-    if (!error.isEmpty())
-        text += FrameSaving::tr("Error") + ": " + error + '\n';
-    return text;
-}
 
 FrameSaving::FrameSaving(const RunRegister &runs, WriterMaker maker, QObject *parent)
     : FrameSaveManager(parent)
@@ -100,17 +93,23 @@ void FrameSaving::Reset(const RunOrder &order)
     m_order = order;
     m_order.settings = order.settings.Valid();
     m_receipt = RunReceipt();
-    m_inRam.clear();
-    m_ramBytes = 0;
+    ForgetRam();
     m_pace = std::make_unique<Pace>();
     m_counter.Reset();
+    m_gate.Reset();
     m_queue.Open(m_order.settings.queueMB * BytesPerMB);
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_isStopped = false;
     m_isDiscarded = false;
     m_end = RunEnd::Complete;
     m_reason.clear();
-    m_takesFrames = false;
+}
+
+void FrameSaving::ForgetRam()
+{
+    m_inRam.clear();
+    m_framesInRam = 0;
+    m_ramBytes = 0;
 }
 
 void FrameSaving::StopRun(RunEnd end, const QString &reason)
@@ -121,8 +120,7 @@ void FrameSaving::StopRun(RunEnd end, const QString &reason)
         m_reason = reason;
     }
     m_isStopped = true;
-    m_takesFrames = false;
-    m_queue.End();
+    m_gate.Close(SteadyMs());
     m_changed.notify_all();
 }
 
@@ -136,22 +134,12 @@ void FrameSaving::DiscardRun()
 }
 
 /// In the camera's thread.
-void FrameSaving::OnFrame(const CameraFrame &frame)
+void FrameSaving::OnFrame(const CameraFrame &frame) { m_gate.TakeFrame(frame, SteadyMs()); }
+
+/// In the camera's thread.
+void FrameSaving::OnLost(LossStage stage, quint64 firstId, quint64 frames)
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    if (!m_takesFrames)
-        return;
-    m_counter.Saw(frame);
-    const qint64 now = SteadyMs();
-    if (m_schedule.Wants(now)) {
-        m_counter.AddCaptured();
-        if (!m_queue.Put(frame))
-            m_counter.AddLost(LossStage::SaveQueue, frame.frameId);
-    }
-    if (m_schedule.IsOver(now)) {
-        m_takesFrames = false;
-        m_queue.End();
-    }
+    m_gate.TakeLoss(stage, firstId, frames);
 }
 
 void FrameSaving::run()
@@ -187,6 +175,8 @@ QString FrameSaving::ChoosePath() const
 bool FrameSaving::Begin()
 {
     m_order.facts.frameSize = m_order.orientation.Map(m_order.facts.frameSize);
+    m_order.facts.intervalMs = m_order.settings.intervalMs;
+    m_order.facts.start = QDateTime::currentDateTimeUtc().addMSecs(m_order.settings.DelayMs());
     const QString path = ChoosePath();
     m_writer = m_maker(m_order.settings.format, path);
     QString error;
@@ -226,18 +216,9 @@ bool FrameSaving::WaitForDelay()
 void FrameSaving::OpenGate()
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_isStopped)
-        return;
     m_startMs = SteadyMs();
-    m_schedule = RunSchedule(m_order.settings, m_startMs);
-    m_takesFrames = true;
-}
-
-void FrameSaving::CloseGate()
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_takesFrames = false;
-    m_queue.End();
+    if (!m_isStopped)
+        m_gate.Open(m_order.settings, m_startMs);
 }
 
 void FrameSaving::TakeFrames()
@@ -247,12 +228,9 @@ void FrameSaving::TakeFrames()
         const CameraFrame frame = m_queue.Take(TakeTimeoutMs);
         if (!frame.IsNull())
             Keep(frame);
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_takesFrames && m_schedule.IsOver(SteadyMs())) { // without frames nobody else notices
-            m_takesFrames = false;
-            m_queue.End();
-        }
+        m_gate.CloseWhenOver(SteadyMs());
     }
+    AnnounceTime();
     const int kept = int(m_order.settings.toRam ? m_inRam.size() : size_t(m_writer->FramesWritten()));
     emit m_order.settings.toRam ? signalUpdateRAMSaveFrames(kept) : signalUpdateSaveNumber(kept);
 }
@@ -275,12 +253,13 @@ void FrameSaving::Keep(const CameraFrame &frame)
 void FrameSaving::KeepInRam(const CameraFrame &frame)
 {
     if (m_order.ramBytes >= 0 && m_ramBytes + frame.ByteCount() > m_order.ramBytes) {
-        m_counter.AddLost(LossStage::SaveQueue, frame.frameId);
+        m_counter.AddLost(LossStage::Memory, frame.frameId);
         StopRun(RunEnd::Fault, tr("the memory is full"));
         return;
     }
     m_ramBytes += frame.ByteCount();
     m_inRam.push_back(frame);
+    ++m_framesInRam;
     if (m_pace->IsDue())
         emit signalUpdateRAMSaveFrames(int(m_inRam.size()));
 }
@@ -289,7 +268,8 @@ void FrameSaving::KeepInRam(const CameraFrame &frame)
 bool FrameSaving::WriteFrame(const CameraFrame &frame)
 {
     QString error;
-    if (m_receipt.error.isEmpty() && m_writer->Write(AsSeen(frame), &error)) {
+    if (m_receipt.error.isEmpty() && ApplyChanges(frame.frameId, &error)
+        && m_writer->Write(SeenFrame(frame, m_order.orientation), &error)) {
         m_counter.AddSaved();
         return true;
     }
@@ -299,27 +279,20 @@ bool FrameSaving::WriteFrame(const CameraFrame &frame)
     return false;
 }
 
+/// Those that were made before this frame was captured.
+bool FrameSaving::ApplyChanges(quint64 frameId, QString *error)
+{
+    for (const SettingsChange &change : m_gate.TakeChangesBefore(frameId)) {
+        if (!m_writer->ChangeSettings(change, error))
+            return false;
+    }
+    return true;
+}
+
 void FrameSaving::Fail(const QString &error)
 {
     m_receipt.error = error;
     StopRun(RunEnd::Fault, error);
-}
-
-CameraFrame FrameSaving::AsSeen(const CameraFrame &frame) const
-{
-    if (m_order.orientation == Orientation())
-        return frame;
-    CameraFrame seen = frame;
-    const QSize size = m_order.orientation.Map(QSize(frame.width, frame.height));
-    seen.width = size.width();
-    seen.height = size.height();
-    seen.strideBytes = seen.width * BytesPerPixel(frame.layout);
-    std::shared_ptr<uchar> pixels(new uchar[size_t(seen.ByteCount())], std::default_delete<uchar[]>());
-    const PixelRows rows{ frame.pixels.get(), QSize(frame.width, frame.height), frame.strideBytes,
-                          BytesPerPixel(frame.layout) };
-    MovePixels(rows, m_order.orientation, pixels.get(), seen.strideBytes);
-    seen.pixels = pixels;
-    return seen;
 }
 
 void FrameSaving::Convert()
@@ -333,7 +306,7 @@ void FrameSaving::Convert()
         if (m_pace->IsDue() || i + 1 == total)
             emit signalUpdateSenExtractNumber(i + 1);
     }
-    m_inRam.clear();
+    ForgetRam();
 }
 
 RunEnd FrameSaving::End(QString *reason) const
@@ -357,6 +330,7 @@ void FrameSaving::Finish()
     QString error;
     if (m_writer->Finish(&m_receipt.outcome, &error)) {
         m_receipt.files = m_writer->Files();
+        m_receipt.warning = m_writer->Warning();
         m_register.Remove(m_entry);
     } else if (m_receipt.error.isEmpty()) {
         m_receipt.error = error; // the unfinished file is repaired at the next start
@@ -369,17 +343,18 @@ void FrameSaving::Finish()
 /// Nothing is to be saved, or there is nothing.
 void FrameSaving::Discard()
 {
-    CloseGate();
+    m_gate.Close(SteadyMs());
     m_receipt.outcome.end = End(&m_receipt.outcome.reason);
     m_receipt.outcome.counts = m_counter.Counts();
     m_receipt.outcome.counts.saved = 0;
     m_receipt.facts = m_writer->Facts();
-    if (m_receipt.error.isEmpty() && m_receipt.outcome.end != RunEnd::Stopped)
-        m_receipt.error = tr("No frame came from the camera.");
+    m_receipt.outcome.lostIds = m_counter.LostIds();
+    if (m_receipt.error.isEmpty() && !IsDiscarded())
+        m_receipt.error = NothingText(m_receipt.outcome);
     m_writer->Discard();
     m_register.Remove(m_entry);
     m_writer.reset();
-    m_inRam.clear();
+    ForgetRam();
 }
 
 void FrameSaving::slotFinished()

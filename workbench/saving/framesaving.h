@@ -2,15 +2,14 @@
 #pragma once
 
 #include "capturequeue.h"
+#include "framegate.h"
 #include "framesavemanager.h"
 #include "framesink.h"
 #include "orientation.h"
 #include "runcounter.h"
 #include "runregister.h"
-#include "runschedule.h"
+#include "runreceipt.h"
 #include "runwriter.h"
-
-#include <QStringList>
 
 #include <atomic>
 #include <functional>
@@ -26,20 +25,6 @@ struct RunOrder
     QString path;            ///< empty: the next free name of the pattern
     qint64 ramBytes = -1;    ///< for frames kept in memory; -1 sets no limit
     bool isRecord = false;
-};
-
-/// What a run has come to, for the user.
-struct RunReceipt
-{
-    QStringList files; ///< the summary last; empty when nothing was saved
-    RunFacts facts;
-    RunOutcome outcome;
-    QVector<FrameStamp> stamps;
-    QString error; ///< in words, when something went wrong
-
-    bool IsWhole() const { return error.isEmpty() && outcome.counts.Lost() == 0; }
-    /// A line each, as the command line prints them.
-    QString Text() const;
 };
 
 /// A run: waits for its delay, takes the frames of its schedule out of the camera's thread through a bounded queue, and
@@ -65,9 +50,15 @@ public:
     /// The run ends and leaves nothing.
     void DiscardRun();
 
+    /// What was set anew in mid-run, for the frames that come from now on.
+    void ChangeSettings(const SettingsChange &change) { m_gate.AddChange(change); }
+
     /// Frames that wait for the disk, and the memory they take and may take.
     const CaptureQueue &Queue() const { return m_queue; }
     FrameCounts Counts() const { return m_counter.Counts(); }
+    /// Of a run into memory, until it is converted.
+    int FramesInRam() const { return m_framesInRam; }
+    qint64 BytesInRam() const { return m_ramBytes; }
     /// Of the run, or the last one.
     const RunOrder &Order() const { return m_order; }
 
@@ -77,6 +68,7 @@ public:
     bool IsRecordMode() const override { return m_order.isRecord; }
 
     void OnFrame(const CameraFrame &frame) override;
+    void OnLost(LossStage stage, quint64 firstId, quint64 frames) override;
 
 signals:
     /// The thread has ended; delivered in the GUI thread after signalSaveThreadRunningChanged(false).
@@ -96,7 +88,6 @@ private:
     bool Begin();
     bool WaitForDelay();
     void OpenGate();
-    void CloseGate();
     void TakeFrames();
     void Keep(const CameraFrame &frame);
     void KeepInRam(const CameraFrame &frame);
@@ -106,7 +97,8 @@ private:
     void Discard();
     void Fail(const QString &error);
     void AnnounceTime();
-    CameraFrame AsSeen(const CameraFrame &frame) const;
+    void ForgetRam();
+    bool ApplyChanges(quint64 frameId, QString *error);
     RunEnd End(QString *reason) const;
     bool IsDiscarded() const;
 
@@ -119,12 +111,15 @@ private:
     std::unique_ptr<RunWriter> m_writer;
     QString m_entry;
     std::vector<CameraFrame> m_inRam;
-    qint64 m_ramBytes = 0;
     RunReceipt m_receipt;
     std::unique_ptr<Pace> m_pace;
+    qint64 m_startMs = 0; ///< when the gate was opened
 
     CaptureQueue m_queue;
     RunCounter m_counter;
+    FrameGate m_gate{ &m_queue, &m_counter };
+    std::atomic<int> m_framesInRam{ 0 };
+    std::atomic<qint64> m_ramBytes{ 0 };
 
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
@@ -132,9 +127,4 @@ private:
     bool m_isDiscarded = false;
     RunEnd m_end = RunEnd::Complete;
     QString m_reason;
-    bool m_takesFrames = false;
-    RunSchedule m_schedule; ///< from the gate's opening on
-    qint64 m_startMs = 0;
 };
-
-Q_DECLARE_METATYPE(RunReceipt)

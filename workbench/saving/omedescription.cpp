@@ -47,7 +47,10 @@ void WritePlanes(QXmlStreamWriter &xml, const RunFacts &facts, const QVector<Fra
         xml.writeAttribute("TheT", QString::number(frame));
         xml.writeAttribute(
             "DeltaT", Number(double(stamps[frame].cameraTimeNs - stamps.first().cameraTimeNs) / NsPerSecond));
-        xml.writeAttribute("ExposureTime", Number(facts.exposureUs / UsPerSecond));
+        const RunFacts now = facts.At(frame);
+        if (now.isAutoExposure)
+            continue; // what the camera chose for this frame is not known
+        xml.writeAttribute("ExposureTime", Number(now.exposureUs / UsPerSecond));
         xml.writeAttribute("ExposureTimeUnit", "s");
     }
 }
@@ -102,7 +105,7 @@ void WriteAnnotations(QXmlStreamWriter &xml, const RunFacts &facts, const RunOut
     xml.writeStartElement("Value");
     for (const auto &line : facts.Lines())
         WriteEntry(xml, line.first, line.second);
-    for (const auto &line : OutcomeLines(outcome, stamps))
+    for (const auto &line : OutcomeLines(facts, outcome, stamps))
         WriteEntry(xml, line.first, line.second);
     xml.writeEndElement();
     xml.writeEndElement();

@@ -8,9 +8,12 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QImageReader>
 #include <QImageWriter>
 
 #include <cstdio>
+#include <cstring>
+#include <utility>
 
 namespace {
 
@@ -77,7 +80,7 @@ bool PngRunWriter::AppendFrame(const uchar *samples, const FrameStamp &stamp, Fi
     QBuffer buffer(&bytes);
     QImageWriter writer(&buffer, "png");
     writer.setQuality(PngQuality);
-    for (const auto &line : Facts().Lines())
+    for (const auto &line : Facts().At(FramesWritten()).Lines())
         writer.setText(Keyword(line.first), line.second);
     writer.setText("FrameId", QString::number(stamp.frameId));
     writer.setText("CameraTime", QString("%1 ns").arg(stamp.cameraTimeNs));
@@ -91,7 +94,46 @@ bool PngRunWriter::AppendFrame(const uchar *samples, const FrameStamp &stamp, Fi
         || !RunDisk::Rename(UnfinishedName(path), path, fault))
         return false;
     ++m_placed;
+    m_notSynced << path;
     return true;
+}
+
+/// What a torn file claims about its size is compared before memory is taken for it.
+bool PngRunWriter::ReadBack(int frame, uchar *samples)
+{
+    QImageReader reader(FramePath(Path(), frame), "png");
+    if (reader.size() != Facts().frameSize)
+        return false;
+    const QImage stored = reader.read();
+    if (stored.isNull())
+        return false;
+    const QImage image = stored.convertToFormat(ImageFormat(Facts()));
+    const size_t rowBytes = size_t(image.width()) * size_t(BytesPerPixel(Facts().layout));
+    for (int y = 0; y < image.height(); ++y)
+        std::memcpy(samples + size_t(y) * rowBytes, image.constScanLine(y), rowBytes);
+    return true;
+}
+
+bool PngRunWriter::MoveFrame(int from, int to, FileFault &fault)
+{
+    QFile::remove(FramePath(Path(), to)); // torn, or moved on already
+    return RunDisk::Rename(FramePath(Path(), from), FramePath(Path(), to), fault);
+}
+
+std::function<int()> PngRunWriter::DataSync()
+{
+    return [paths = std::exchange(m_notSynced, {})] {
+        FileFault fault;
+        for (const QString &path : paths) {
+            RunDisk disk;
+            const int failed = disk.OpenExisting(path, fault) ? disk.DataSync()() : 0;
+            if (failed != 0)
+                return failed;
+        }
+        if (!paths.isEmpty())
+            RunDisk::MakeNamesLasting(paths.first());
+        return 0;
+    };
 }
 
 bool PngRunWriter::CutTo(int frames, FileFault &)
@@ -110,7 +152,7 @@ bool PngRunWriter::AddLedger(const RunOutcome &outcome, FileFault &fault) const
     QImage image = stored.convertToFormat(ImageFormat(Facts()));
     for (const QString &keyword : stored.textKeys())
         image.setText(keyword, stored.text(keyword));
-    for (const auto &line : OutcomeLines(outcome, Stamps()))
+    for (const auto &line : OutcomeLines(Facts(), outcome, Stamps()))
         image.setText(Keyword(line.first), line.second);
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -140,11 +182,7 @@ bool PngRunWriter::Complete(const RunOutcome &outcome, FileFault &fault)
 }
 
 /// The files have their names already.
-bool PngRunWriter::Place(FileFault &)
-{
-    RunDisk::MakeNamesLasting(Path());
-    return true;
-}
+bool PngRunWriter::Place(FileFault &) { return true; }
 
 void PngRunWriter::RemoveData()
 {

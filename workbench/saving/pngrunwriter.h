@@ -18,6 +18,9 @@ protected:
     bool ReopenData(int *frames, FileFault &fault) override;
     bool AppendFrame(const uchar *samples, const FrameStamp &stamp, FileFault &fault) override;
     bool CutTo(int frames, FileFault &fault) override;
+    bool ReadBack(int frame, uchar *samples) override;
+    bool MoveFrame(int from, int to, FileFault &fault) override;
+    std::function<int()> DataSync() override;
     bool Complete(const RunOutcome &outcome, FileFault &fault) override;
     bool Place(FileFault &fault) override;
     void RemoveData() override;
@@ -27,4 +30,5 @@ private:
     bool AddLedger(const RunOutcome &outcome, FileFault &fault) const;
 
     int m_placed = 0; ///< files of this recording that have their names
+    QStringList m_notSynced; ///< of these, those that may not be on the disk yet
 };

@@ -17,14 +17,15 @@ quint64 OfNumbers(std::vector<quint64> numbers)
     return XXH3_64bits(numbers.data(), numbers.size() * sizeof(quint64));
 }
 
-bool AddFrames(const QString &path, std::vector<quint64> *sums, QString *error)
+bool AddFrames(const QString &path, const std::function<bool()> &isCancelled, std::vector<quint64> *sums,
+               QString *error)
 {
     const std::unique_ptr<PictureFile> file = OpenPicture(path, *error);
     if (!file)
         return false;
     Picture frame;
     for (int i = 0; i < file->Info().frames; ++i) {
-        if (!file->ReadFrame(i, frame, *error))
+        if ((isCancelled && isCancelled()) || !file->ReadFrame(i, frame, *error))
             return false;
         const Picture &samples = frame;
         sums->push_back(RunChecksum::OfFrame(samples.Data(), samples.ByteCount()));
@@ -48,11 +49,12 @@ quint64 RunChecksum::OfRun(const QVector<FrameStamp> &stamps)
     return OfNumbers(sums);
 }
 
-bool RunChecksum::OfFiles(const QStringList &files, quint64 *checksum, QString *error)
+bool RunChecksum::OfFiles(const QStringList &files, quint64 *checksum, QString *error,
+                          const std::function<bool()> &isCancelled)
 {
     std::vector<quint64> sums;
     for (const QString &path : files) {
-        if (!path.endsWith(".txt") && !AddFrames(path, &sums, error))
+        if (!path.endsWith(".txt") && !AddFrames(path, isCancelled, &sums, error))
             return false;
     }
     *checksum = OfNumbers(sums);

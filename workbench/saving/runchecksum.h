@@ -3,6 +3,8 @@
 
 #include "runfacts.h"
 
+#include <functional>
+
 class Picture;
 
 /// Checksums of recorded samples: XXH3 with 64 bits of each frame's packed rows, top row first, 16-bit samples in
@@ -13,8 +15,10 @@ namespace RunChecksum {
 quint64 OfFrame(const void *samples, qint64 bytes);
 quint64 OfRun(const QVector<FrameStamp> &stamps);
 /// Reads the recording back and works it out anew; `files` are those of RunWriter::Files(). False and `error` in words
-/// when a file can't be read. Takes as long as reading does.
-bool OfFiles(const QStringList &files, quint64 *checksum, QString *error);
+/// when a file can't be read. Takes as long as reading does; `isCancelled` is asked before each frame and ends it
+/// without an error.
+bool OfFiles(const QStringList &files, quint64 *checksum, QString *error,
+             const std::function<bool()> &isCancelled = {});
 QString ToText(quint64 checksum);
 
 } // namespace RunChecksum

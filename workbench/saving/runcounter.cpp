@@ -2,8 +2,8 @@
 #include "runcounter.h"
 
 namespace {
-/// More are counted and not listed.
-constexpr int ListedIds = 1000;
+/// More are counted, and only the newest of them is listed.
+constexpr int ListedGaps = 1000;
 } // namespace
 
 void RunCounter::Reset()
@@ -11,20 +11,6 @@ void RunCounter::Reset()
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_counts = FrameCounts();
     m_lostIds.clear();
-    m_hasSeen = false;
-}
-
-void RunCounter::Saw(const CameraFrame &frame)
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_hasSeen && frame.frameId > m_lastId + 1) {
-        const quint64 missing = frame.frameId - m_lastId - 1;
-        const quint64 incomplete = qMin(missing, frame.incompleteBefore);
-        m_counts.lostAt[size_t(LossStage::Transfer)] += incomplete;
-        m_counts.lostAt[size_t(LossStage::Camera)] += missing - incomplete;
-    }
-    m_lastId = frame.frameId;
-    m_hasSeen = true;
 }
 
 void RunCounter::AddCaptured()
@@ -39,12 +25,17 @@ void RunCounter::AddSaved()
     ++m_counts.saved;
 }
 
-void RunCounter::AddLost(LossStage stage, quint64 frameId)
+void RunCounter::AddLost(LossStage stage, quint64 firstId, quint64 frames)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    ++m_counts.lostAt[size_t(stage)];
-    if (m_lostIds.size() < ListedIds)
-        m_lostIds.append(frameId);
+    m_counts.lostAt[size_t(stage)] += frames;
+    if (!m_lostIds.isEmpty() && m_lostIds.last().first + m_lostIds.last().count == firstId) {
+        m_lostIds.last().count += frames;
+        return;
+    }
+    if (m_lostIds.size() == ListedGaps)
+        m_lostIds.removeLast();
+    m_lostIds.append({ firstId, frames });
 }
 
 FrameCounts RunCounter::Counts() const
@@ -53,7 +44,7 @@ FrameCounts RunCounter::Counts() const
     return m_counts;
 }
 
-QVector<quint64> RunCounter::LostIds() const
+QVector<IdGap> RunCounter::LostIds() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     return m_lostIds;

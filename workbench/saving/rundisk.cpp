@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
+#include <memory>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -51,14 +52,21 @@ bool SetFaultText(FileFault &fault, int reason)
     }
 }
 
-bool SetSystemFault(FileFault &fault, int reason)
+/// The file system does not know such a call.
+bool CantBeRefused(int reason)
 {
-    SetFaultText(fault, reason);
-    fault.isDiskFull = reason == ENOSPC || reason == EDQUOT || reason == EFBIG;
-    return false;
+    return reason == EINVAL || reason == ENOSYS || reason == EPERM || reason == EOPNOTSUPP || reason == EMLINK;
 }
 
 } // namespace
+
+bool RunDisk::SetSystemFault(FileFault &fault, int reason)
+{
+    SetFaultText(fault, reason);
+    fault.isDiskFull = reason == ENOSPC || reason == EDQUOT || reason == EFBIG;
+    fault.isNameTaken = reason == EEXIST;
+    return false;
+}
 
 RunDisk::~RunDisk() { Close(); }
 
@@ -141,6 +149,22 @@ bool RunDisk::Read(void *bytes, qint64 size)
     return true;
 }
 
+bool RunDisk::ReadAt(qint64 offset, void *bytes, qint64 size) const
+{
+    char *next = static_cast<char *>(bytes);
+    while (size > 0) {
+        const ssize_t got = ::pread(m_fd, next, size_t(size), off_t(offset));
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got <= 0)
+            return false;
+        next += got;
+        offset += got;
+        size -= got;
+    }
+    return true;
+}
+
 bool RunDisk::CutTo(qint64 size, FileFault &fault)
 {
     return (::ftruncate(m_fd, off_t(size)) == 0 && ::lseek(m_fd, off_t(size), SEEK_SET) == off_t(size))
@@ -156,15 +180,29 @@ void RunDisk::WriteBehind(qint64 from, qint64 size) const
 
 bool RunDisk::Synchronise(FileFault &fault) { return ::fsync(m_fd) == 0 || SetFault(fault); }
 
+std::function<int()> RunDisk::DataSync() const
+{
+    const std::shared_ptr<int> fd(new int(::dup(m_fd)), [](int *descriptor) {
+        ::close(*descriptor);
+        delete descriptor;
+    });
+    return [fd] { return ::fdatasync(*fd) == 0 ? 0 : errno; };
+}
+
 bool RunDisk::Rename(const QString &from, const QString &to, FileFault &fault)
 {
     const QByteArray source = QFile::encodeName(from);
     const QByteArray target = QFile::encodeName(to);
     int result = ::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE);
-    if (result != 0 && (errno == EINVAL || errno == ENOSYS)) { // a file system that can't refuse by itself
+    if (result != 0 && CantBeRefused(errno)) {
         result = ::link(source.constData(), target.constData());
         if (result == 0)
             ::unlink(source.constData());
+    }
+    if (result != 0 && CantBeRefused(errno)) { // nor link: FAT, and many network folders
+        if (QFileInfo::exists(to))
+            return SetSystemFault(fault, EEXIST);
+        result = ::rename(source.constData(), target.constData());
     }
     return result == 0 || SetSystemFault(fault, errno);
 }

@@ -12,6 +12,7 @@ namespace {
 constexpr double MsPerSecond = 1000.0;
 /// Kept free of frames, for the system and the rest of the program.
 constexpr qint64 ReserveBytes = 256 << 20;
+constexpr qint64 MemoryReserveShare = 10; ///< of the free memory at least a tenth
 constexpr qint64 BytesPerKB = 1024; ///< in /proc/meminfo
 
 QString Translate(const char *text) { return QCoreApplication::translate("RunEstimate", text); }
@@ -43,12 +44,19 @@ qint64 FramesOf(const RecordingSettings &settings, double framesPerSecond)
     return -1;
 }
 
-qint64 FramesThatFit(qint64 freeBytes, qint64 frameBytes)
+qint64 WithoutReserve(qint64 freeBytes, qint64 reserve)
 {
-    return freeBytes < 0 ? -1 : qMax(qint64(0), freeBytes - ReserveBytes) / frameBytes;
+    return freeBytes < 0 ? -1 : qMax(qint64(0), freeBytes - reserve);
 }
 
+qint64 FramesThatFit(qint64 bytes, qint64 frameBytes) { return bytes < 0 ? -1 : bytes / frameBytes; }
+
 } // namespace
+
+qint64 RunResources::MemoryForFrames() const
+{
+    return WithoutReserve(freeMemoryBytes, qMax(ReserveBytes, freeMemoryBytes / MemoryReserveShare));
+}
 
 RunResources RunResources::Read(const QString &folder)
 {
@@ -66,19 +74,22 @@ RunEstimate RunEstimate::Make(const RecordingSettings &settings, qint64 frameByt
     RunEstimate estimate;
     estimate.frames = FramesOf(settings, framesPerSecond);
     estimate.bytes = estimate.frames < 0 ? -1 : estimate.frames * frameBytes;
-    const qint64 onDisk = FramesThatFit(resources.freeDiskBytes, frameBytes);
-    const qint64 inMemory = settings.toRam ? FramesThatFit(resources.freeMemoryBytes, frameBytes) : -1;
+    const qint64 diskBytes = WithoutReserve(resources.freeDiskBytes, ReserveBytes);
+    const qint64 onDisk = FramesThatFit(diskBytes, frameBytes);
+    const qint64 inMemory = settings.toRam ? FramesThatFit(resources.MemoryForFrames(), frameBytes) : -1;
     estimate.framesThatFit = onDisk < 0 ? inMemory : inMemory < 0 ? onDisk : qMin(onDisk, inMemory);
     if (estimate.framesThatFit < 0)
         return estimate;
     const bool isMemory = estimate.framesThatFit == inMemory && inMemory != onDisk;
     const QString place = isMemory ? Translate("memory") : Translate("disk");
     const qint64 freeBytes = isMemory ? resources.freeMemoryBytes : resources.freeDiskBytes;
+    const qint64 usableBytes = isMemory ? resources.MemoryForFrames() : diskBytes;
     if (estimate.framesThatFit == 0 || estimate.frames > estimate.framesThatFit) {
         estimate.warning =
-            Translate("The run needs %1, and the %2 has %3 free: room for %4 frames.")
+            Translate("The run needs %1, and the %2 has %3 free, of which %4 are left to the system: room for %5 "
+                      "frames.")
                 .arg(estimate.bytes < 0 ? Translate("more than one frame") : ByteText(estimate.bytes), place,
-                     ByteText(freeBytes))
+                     ByteText(freeBytes), ByteText(freeBytes - usableBytes))
                 .arg(estimate.framesThatFit);
     }
     return estimate;

@@ -9,6 +9,9 @@ struct RunResources
     qint64 freeDiskBytes = -1;
     qint64 freeMemoryBytes = -1;
 
+    /// What frames kept in memory may take, with room left for the system and the program; -1 when not known.
+    qint64 MemoryForFrames() const;
+
     /// Of the folder and of the machine. Looks at the disk: not for the GUI thread.
     static RunResources Read(const QString &folder);
 };

@@ -4,11 +4,52 @@
 #include <QCoreApplication>
 #include <QJsonArray>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int LargestSide = 1 << 20;
+constexpr int ListedChanges = 50;
 
 QString Translate(const char *text) { return QCoreApplication::translate("RunFacts", text); }
+
+/// "12500", or "500 to 12500" of what changed in the run.
+QString RangeText(double start, const QVector<SettingsChange> &changes, double SettingsChange::*value)
+{
+    double least = start;
+    double most = start;
+    for (const SettingsChange &change : changes) {
+        least = qMin(least, change.*value);
+        most = qMax(most, change.*value);
+    }
+    const QString text = QString::number(least, 'g', 12);
+    return least < most ? Translate("%1 to %2").arg(text).arg(most, 0, 'g', 12) : text;
+}
+
+QString SettingText(const QString &value, bool isAuto)
+{
+    return isAuto ? Translate("automatic, %1").arg(value) : value;
+}
+
+bool IsAny(bool start, const QVector<SettingsChange> &changes, bool SettingsChange::*flag)
+{
+    return start
+           || std::any_of(changes.cbegin(), changes.cend(),
+                          [flag](const SettingsChange &change) { return change.*flag; });
+}
+
+void AddChanges(const QVector<SettingsChange> &changes, QVector<std::pair<QString, QString>> *lines)
+{
+    for (const SettingsChange &change : changes.mid(0, ListedChanges))
+        lines->append(
+            { Translate("From about frame %1 on").arg(change.frame + 1),
+              Translate("exposure %1, gain %2, %3 frames/s")
+                  .arg(SettingText(Translate("%1 us").arg(change.exposureUs, 0, 'g', 12), change.isAutoExposure),
+                       SettingText(QString::number(change.gain), change.isAutoGain))
+                  .arg(change.framesPerSecond, 0, 'g', 6) });
+    if (changes.size() > ListedChanges)
+        lines->append({ Translate("Later changes"), QString::number(changes.size() - ListedChanges) });
+}
 
 QString SizeText(const QSize &size) { return QString("%1 x %2").arg(size.width()).arg(size.height()); }
 
@@ -33,9 +74,13 @@ QVector<std::pair<QString, QString>> RunFacts::Lines() const
         { Translate("Serial number"), serial },
         { Translate("Firmware"), firmware },
         { Translate("Start"), start.toString(Qt::ISODateWithMs) },
-        { Translate("Exposure"), Translate("%1 us").arg(exposureUs, 0, 'g', 12) },
-        { Translate("Gain"), QString::number(gain) },
-        { Translate("Frame rate"), Translate("%1 frames/s").arg(framesPerSecond, 0, 'g', 6) },
+        { Translate("Exposure"),
+          SettingText(Translate("%1 us").arg(RangeText(exposureUs, changes, &SettingsChange::exposureUs)),
+                      IsAny(isAutoExposure, changes, &SettingsChange::isAutoExposure)) },
+        { Translate("Gain"), SettingText(RangeText(gain, changes, &SettingsChange::gain),
+                                         IsAny(isAutoGain, changes, &SettingsChange::isAutoGain)) },
+        { Translate("Frame rate"),
+          Translate("%1 frames/s").arg(RangeText(framesPerSecond, changes, &SettingsChange::framesPerSecond)) },
         { Translate("Region"), Translate("%1 x %2 from (%3, %4)")
                                    .arg(region.width())
                                    .arg(region.height())
@@ -46,10 +91,29 @@ QVector<std::pair<QString, QString>> RunFacts::Lines() const
         { Translate("Pixel format"), PixelLayoutName(layout) },
         { Translate("Bit depth"), Translate("%1 bit").arg(BitDepth()) },
     };
+    if (intervalMs > 0)
+        lines.append({ Translate("Time-lapse"), Translate("one frame each %1 ms").arg(intervalMs) });
     if (pixelSizeUm > 0)
         lines.append({ Translate("Pixel size"), Translate("%1 um").arg(pixelSizeUm) });
     lines.append({ Translate("Recorded by"), software });
+    AddChanges(changes, &lines);
     return lines;
+}
+
+RunFacts RunFacts::At(int frame) const
+{
+    RunFacts facts = *this;
+    facts.changes.clear();
+    for (const SettingsChange &change : changes) {
+        if (change.frame > frame)
+            break;
+        facts.exposureUs = change.exposureUs;
+        facts.isAutoExposure = change.isAutoExposure;
+        facts.gain = change.gain;
+        facts.isAutoGain = change.isAutoGain;
+        facts.framesPerSecond = change.framesPerSecond;
+    }
+    return facts;
 }
 
 QJsonObject RunFacts::ToJson() const
@@ -60,8 +124,11 @@ QJsonObject RunFacts::ToJson() const
         { "serial", serial },
         { "firmware", firmware },
         { "exposureUs", exposureUs },
+        { "isAutoExposure", isAutoExposure },
         { "gain", gain },
+        { "isAutoGain", isAutoGain },
         { "framesPerSecond", framesPerSecond },
+        { "intervalMs", intervalMs },
         { "region", QJsonArray{ region.x(), region.y(), region.width(), region.height() } },
         { "binning", QJsonArray{ binning.width(), binning.height() } },
         { "frameSize", QJsonArray{ frameSize.width(), frameSize.height() } },
@@ -79,7 +146,10 @@ bool RunFacts::FromJson(const QJsonObject &json, RunFacts *facts)
     facts->serial = json["serial"].toString();
     facts->firmware = json["firmware"].toString();
     facts->exposureUs = json["exposureUs"].toDouble();
+    facts->isAutoExposure = json["isAutoExposure"].toBool();
     facts->gain = json["gain"].toDouble();
+    facts->isAutoGain = json["isAutoGain"].toBool();
+    facts->intervalMs = json["intervalMs"].toInt();
     facts->framesPerSecond = json["framesPerSecond"].toDouble();
     const QJsonArray region = json["region"].toArray();
     facts->region = QRect(region[0].toInt(), region[1].toInt(), region[2].toInt(), region[3].toInt());

@@ -21,7 +21,19 @@ enum class RunFormat
     Png
 };
 
-/// What a recording is taken with; known before its first frame and written into its file.
+/// What was set anew while a run went on.
+struct SettingsChange
+{
+    int frame = 0; ///< of the recording, from 0: the first one taken with it
+    double exposureUs = 0;
+    bool isAutoExposure = false;
+    double gain = 0;
+    bool isAutoGain = false;
+    double framesPerSecond = 0;
+};
+
+/// What a recording is taken with; known before its first frame, but for what is changed later, and written into its
+/// file.
 struct RunFacts
 {
     QString vendor;
@@ -29,8 +41,12 @@ struct RunFacts
     QString serial;
     QString firmware;
     double exposureUs = 0;
+    bool isAutoExposure = false; ///< found by the camera, frame by frame; `exposureUs` is that of the start
     double gain = 0; ///< in the camera's unit
+    bool isAutoGain = false;
     double framesPerSecond = 0;
+    int intervalMs = 0; ///< of a time-lapse; 0 when every frame was wanted
+    QVector<SettingsChange> changes; ///< in the order of their frames; not in the JSON
     QRect region; ///< of the sensor, in unbinned pixels
     QSize binning{ 1, 1 };
     QSize frameSize; ///< of every frame of the run
@@ -48,6 +64,8 @@ struct RunFacts
     int BitsPerSample() const { return ::BitDepth(layout) > 8 ? 16 : 8; }
     /// Bits of a sample that carry light.
     int BitDepth() const { return ::BitDepth(layout); }
+    /// As they held for one frame of the recording.
+    RunFacts At(int frame) const;
     /// For people: what it is, and its value with the unit.
     QVector<std::pair<QString, QString>> Lines() const;
 
@@ -63,6 +81,13 @@ struct FrameStamp
     qint64 cameraTimeNs = 0; ///< by the camera's clock
     qint64 hostTimeNs = 0;   ///< since 1970
     quint64 checksum = 0;    ///< of the frame's samples, see RunChecksum
+};
+
+/// Frame ids that are missing: so many from the first one on.
+struct IdGap
+{
+    quint64 first = 0;
+    quint64 count = 0;
 };
 
 /// The reason for which a run ended.
@@ -81,7 +106,7 @@ struct RunOutcome
     RunEnd end = RunEnd::Complete;
     QString reason;           ///< in words, empty when complete
     FrameCounts counts;       ///< of this run alone
-    QVector<quint64> lostIds; ///< of frames that arrived and could not be kept; the first ones, if many
+    QVector<IdGap> lostIds;   ///< the first ones and the last one, if many
 
     QString EndText() const;
 };

@@ -7,6 +7,7 @@
 #include <QtEndian>
 
 #include <array>
+#include <cmath>
 #include <cstring>
 
 namespace {
@@ -14,7 +15,12 @@ namespace {
 constexpr char Magic[] = "WBRUN01\n";
 constexpr int MagicBytes = 8;
 constexpr quint32 LargestHeader = 64 << 10;
+constexpr int LengthBytes = 4;
 constexpr int RecordBytes = 32;
+constexpr quint64 LastingId = ~quint64(0);
+constexpr quint64 ChangeId = ~quint64(0) - 4;
+constexpr quint64 AutoExposureBit = 1;
+constexpr quint64 AutoGainBit = 2;
 
 using Record = std::array<uchar, RecordBytes>;
 
@@ -30,6 +36,20 @@ Record ToRecord(const FrameStamp &stamp)
     return record;
 }
 
+quint64 ToBits(double number)
+{
+    quint64 bits = 0;
+    std::memcpy(&bits, &number, sizeof(bits));
+    return bits;
+}
+
+double ToDouble(quint64 bits)
+{
+    double number = 0;
+    std::memcpy(&number, &bits, sizeof(number));
+    return std::isfinite(number) ? number : 0;
+}
+
 FrameStamp FromRecord(const uchar *record)
 {
     FrameStamp stamp;
@@ -40,11 +60,30 @@ FrameStamp FromRecord(const uchar *record)
     return stamp;
 }
 
+void TakeRecord(const FrameStamp &record, RunJournal::Content *content)
+{
+    if (record.frameId == LastingId) {
+        content->lasting = int(qBound(qint64(0), record.cameraTimeNs, qint64(content->stamps.size())));
+    } else if (record.frameId >= ChangeId) {
+        SettingsChange change;
+        change.isAutoExposure = (record.frameId - ChangeId) & AutoExposureBit;
+        change.isAutoGain = (record.frameId - ChangeId) & AutoGainBit;
+        change.frame = content->stamps.size();
+        change.exposureUs = ToDouble(quint64(record.cameraTimeNs));
+        change.gain = ToDouble(quint64(record.hostTimeNs));
+        change.framesPerSecond = ToDouble(record.checksum);
+        content->facts.changes.append(change);
+    } else {
+        content->stamps.append(record);
+    }
+}
+
 bool ReadHeader(RunDisk &disk, RunJournal::Content *content)
 {
     char magic[MagicBytes];
-    uchar length[4];
-    if (!disk.Read(magic, MagicBytes) || std::memcmp(magic, Magic, MagicBytes) != 0 || !disk.Read(length, 4))
+    uchar length[LengthBytes];
+    if (!disk.Read(magic, MagicBytes) || std::memcmp(magic, Magic, MagicBytes) != 0
+        || !disk.Read(length, LengthBytes))
         return false;
     const quint32 size = qFromLittleEndian<quint32>(length);
     if (size > LargestHeader)
@@ -64,16 +103,21 @@ bool ReadHeader(RunDisk &disk, RunJournal::Content *content)
 
 bool RunJournal::Create(const QString &recording, RunFormat format, const RunFacts &facts, FileFault &fault)
 {
-    const QByteArray text =
+    QByteArray text =
         QJsonDocument(QJsonObject{ { "format", int(format) }, { "facts", facts.ToJson() } })
             .toJson(QJsonDocument::Compact);
-    uchar length[4];
+    uchar length[LengthBytes];
+    const int unpadded = MagicBytes + LengthBytes + text.size();
+    text.append(QByteArray((RecordBytes - unpadded % RecordBytes) % RecordBytes, ' '));
     qToLittleEndian(quint32(text.size()), length);
     if (!m_disk.Create(PathFor(recording), fault))
         return false;
     m_disk.Lock();
-    return m_disk.Write(Magic, MagicBytes, fault) && m_disk.Write(length, 4, fault)
-           && m_disk.Write(text.constData(), text.size(), fault);
+    if (m_disk.Write(Magic, MagicBytes, fault) && m_disk.Write(length, LengthBytes, fault)
+        && m_disk.Write(text.constData(), text.size(), fault) && m_disk.Synchronise(fault))
+        return true;
+    Remove();
+    return false;
 }
 
 bool RunJournal::TakeOver(const QString &recording, Content *content, FileFault &fault)
@@ -88,8 +132,27 @@ bool RunJournal::TakeOver(const QString &recording, Content *content, FileFault 
                          Translate("Keep the file and ask for help; its frames may be readable by hand."));
     Record record;
     while (m_disk.Read(record.data(), RecordBytes))
-        content->stamps.append(FromRecord(record.data()));
+        TakeRecord(FromRecord(record.data()), content);
     return true;
+}
+
+bool RunJournal::AppendLasting(int frames, FileFault &fault)
+{
+    FrameStamp record;
+    record.frameId = LastingId;
+    record.cameraTimeNs = frames;
+    return Append(record, fault);
+}
+
+bool RunJournal::AppendChange(const SettingsChange &change, FileFault &fault)
+{
+    FrameStamp record;
+    record.frameId =
+        ChangeId + (change.isAutoExposure ? AutoExposureBit : 0) + (change.isAutoGain ? AutoGainBit : 0);
+    record.cameraTimeNs = qint64(ToBits(change.exposureUs));
+    record.hostTimeNs = qint64(ToBits(change.gain));
+    record.checksum = ToBits(change.framesPerSecond);
+    return Append(record, fault);
 }
 
 bool RunJournal::Append(const FrameStamp &stamp, FileFault &fault)
@@ -97,6 +160,8 @@ bool RunJournal::Append(const FrameStamp &stamp, FileFault &fault)
     const Record record = ToRecord(stamp);
     return m_disk.Write(record.data(), RecordBytes, fault);
 }
+
+void RunJournal::Forget(const QString &recording) { QFile::remove(PathFor(recording)); }
 
 void RunJournal::Remove()
 {

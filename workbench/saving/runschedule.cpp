@@ -23,6 +23,11 @@ bool RunSchedule::Wants(qint64 nowMs)
     return true;
 }
 
+qint64 RunSchedule::MissedIntervals(qint64 nowMs) const
+{
+    return IsTimeLapse() && nowMs > m_nextDueMs ? (nowMs - m_nextDueMs) / m_settings.intervalMs : 0;
+}
+
 bool RunSchedule::IsOver(qint64 nowMs) const
 {
     if (m_settings.EndsByFrames())

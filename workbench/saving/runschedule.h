@@ -15,6 +15,10 @@ public:
     /// Nothing more is to be kept.
     bool IsOver(qint64 nowMs) const;
     int Kept() const { return m_kept; }
+    bool IsTimeLapse() const { return m_settings.intervalMs > 0; }
+    /// Of a time-lapse: intervals that have passed since a frame was due.
+    qint64 MissedIntervals(qint64 nowMs) const;
+    void SkipIntervals(int intervals) { m_nextDueMs += qint64(intervals) * m_settings.intervalMs; }
 
 private:
     RecordingSettings m_settings;

@@ -8,6 +8,8 @@
 #include <QFileInfo>
 #include <QTextStream>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int ListedGaps = 50;
@@ -25,6 +27,7 @@ const StageRow stageTable[] = {
     { LossStage::Camera, QT_TRANSLATE_NOOP("RunSummary", "never arrived from the camera") },
     { LossStage::Transfer, QT_TRANSLATE_NOOP("RunSummary", "arrived incomplete") },
     { LossStage::SaveQueue, QT_TRANSLATE_NOOP("RunSummary", "the disk was too slow and the queue full") },
+    { LossStage::Memory, QT_TRANSLATE_NOOP("RunSummary", "the memory was full") },
     { LossStage::Disk, QT_TRANSLATE_NOOP("RunSummary", "could not be written to the disk") },
 };
 
@@ -37,6 +40,50 @@ QString LostText(const FrameCounts &counts)
     }
     const QString total = QString::number(counts.Lost());
     return parts.isEmpty() ? total : QString("%1 (%2)").arg(total, parts.join(", "));
+}
+
+/// What waited for the disk died with the program, uncounted.
+QString LostText(const RunOutcome &outcome)
+{
+    if (outcome.end != RunEnd::Repaired)
+        return LostText(outcome.counts);
+    return outcome.counts.Lost() == 0 ? Translate("not known")
+                                      : Translate("not known, at least %1").arg(LostText(outcome.counts));
+}
+
+QVector<IdGap> GapsBetween(const QVector<FrameStamp> &stamps)
+{
+    QVector<IdGap> gaps;
+    for (int i = 1; i < stamps.size(); ++i) {
+        const quint64 expected = stamps[i - 1].frameId + 1;
+        if (stamps[i].frameId > expected)
+            gaps.append({ expected, stamps[i].frameId - expected });
+    }
+    return gaps;
+}
+
+/// In order, and what touches made one.
+QVector<IdGap> Joined(QVector<IdGap> gaps)
+{
+    std::sort(gaps.begin(), gaps.end(), [](const IdGap &a, const IdGap &b) { return a.first < b.first; });
+    QVector<IdGap> joined;
+    for (const IdGap &gap : gaps) {
+        if (!joined.isEmpty() && gap.first <= joined.last().first + joined.last().count)
+            joined.last().count =
+                qMax(joined.last().count, gap.first + gap.count - joined.last().first);
+        else
+            joined.append(gap);
+    }
+    return joined;
+}
+
+/// Beside the recording; `attempt` counts the names that were taken.
+QString SummaryPath(const QString &recording, int attempt)
+{
+    const QFileInfo info(recording);
+    if (attempt == 0)
+        return info.path() + '/' + info.completeBaseName() + ".txt";
+    return attempt == 1 ? recording + ".txt" : QString("%1.%2.txt").arg(recording).arg(attempt);
 }
 
 QString GapText(const IdGap &gap)
@@ -63,17 +110,36 @@ void WriteLines(QTextStream &out, const QVector<std::pair<QString, QString>> &li
         out << line.first << ": " << line.second << '\n';
 }
 
+void WriteText(QTextStream &out, const RunFacts &facts, const RunOutcome &outcome,
+               const QVector<FrameStamp> &stamps, const QStringList &files)
+{
+    out.setCodec("UTF-8");
+    out << Translate("Recording") << ": " << QFileInfo(files.value(0)).fileName();
+    if (files.size() > 1)
+        out << " ... " << QFileInfo(files.last()).fileName();
+    out << "\n\n";
+    WriteLines(out, OutcomeLines(facts, outcome, stamps));
+    out << '\n';
+    WriteLines(out, facts.Lines());
+    out << '\n' << Translate("frame\tframe id\tcamera time (ns)\thost time (ns)") << '\n';
+    for (int i = 0; i < stamps.size(); ++i)
+        out << i + 1 << '\t' << stamps[i].frameId << '\t' << stamps[i].cameraTimeNs << '\t'
+            << stamps[i].hostTimeNs << '\n';
+    out.flush();
+}
+
 } // namespace
 
-QVector<IdGap> FindGaps(const QVector<FrameStamp> &stamps)
+QVector<IdGap> MissingIds(const RunOutcome &outcome, const QVector<FrameStamp> &stamps)
 {
-    QVector<IdGap> gaps;
-    for (int i = 1; i < stamps.size(); ++i) {
-        const quint64 expected = stamps[i - 1].frameId + 1;
-        if (stamps[i].frameId > expected)
-            gaps.append({ expected, stamps[i].frameId - expected });
+    QVector<IdGap> gaps = GapsBetween(stamps);
+    for (const IdGap &lost : outcome.lostIds) {
+        const bool isBetween = !stamps.isEmpty() && lost.first > stamps.first().frameId
+                               && lost.first < stamps.last().frameId;
+        if (!isBetween)
+            gaps.append(lost);
     }
-    return gaps;
+    return Joined(gaps);
 }
 
 double AverageRate(const QVector<FrameStamp> &stamps)
@@ -84,7 +150,7 @@ double AverageRate(const QVector<FrameStamp> &stamps)
     return spanNs > 0 ? (stamps.size() - 1) * NsPerSecond / double(spanNs) : 0;
 }
 
-QVector<std::pair<QString, QString>> OutcomeLines(const RunOutcome &outcome,
+QVector<std::pair<QString, QString>> OutcomeLines(const RunFacts &facts, const RunOutcome &outcome,
                                                   const QVector<FrameStamp> &stamps)
 {
     QString end = outcome.EndText();
@@ -92,41 +158,35 @@ QVector<std::pair<QString, QString>> OutcomeLines(const RunOutcome &outcome,
         end += QString(" (%1)").arg(outcome.reason);
     QVector<std::pair<QString, QString>> lines{
         { Translate("Run"), end },
-        { Translate("Frames captured"), QString::number(outcome.counts.captured) },
+        { Translate("Frames captured"), outcome.end == RunEnd::Repaired
+                                            ? Translate("not known")
+                                            : QString::number(outcome.counts.captured) },
         { Translate("Frames saved"), QString::number(outcome.counts.saved) },
-        { Translate("Frames lost"), LostText(outcome.counts) },
-        { Translate("Frame ids missing"), GapsText(FindGaps(stamps)) },
-        { Translate("Average rate"), Translate("%1 frames/s").arg(AverageRate(stamps), 0, 'f', 2) },
-        { Translate("Checksum (XXH3)"), RunChecksum::ToText(RunChecksum::OfRun(stamps)) },
+        { Translate("Frames lost"), LostText(outcome) },
     };
+    if (facts.intervalMs == 0)
+        lines.append({ Translate("Frame ids missing"), GapsText(MissingIds(outcome, stamps)) });
+    lines.append({ Translate("Average rate"), Translate("%1 frames/s").arg(AverageRate(stamps), 0, 'f', 2) });
+    lines.append({ Translate("Checksum (XXH3)"), RunChecksum::ToText(RunChecksum::OfRun(stamps)) });
     return lines;
 }
 
-QString RunSummaryPath(const QString &recording)
+QString WriteRunSummary(const QString &recording, const RunFacts &facts, const RunOutcome &outcome,
+                        const QVector<FrameStamp> &stamps, const QStringList &files, FileFault &fault)
 {
-    const QFileInfo info(recording);
-    return info.path() + '/' + info.completeBaseName() + ".txt";
-}
-
-bool WriteRunSummary(const QString &path, const RunFacts &facts, const RunOutcome &outcome,
-                     const QVector<FrameStamp> &stamps, const QStringList &files)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Text))
-        return false;
+    QFile file;
+    for (int attempt = 0; !file.isOpen(); ++attempt) {
+        file.setFileName(SummaryPath(recording, attempt));
+        if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Text) && !file.exists()) {
+            fault.Set(Translate("its summary could not be written"), DiskAdvice(), file.errorString());
+            return QString();
+        }
+    }
     QTextStream out(&file);
-    out.setCodec("UTF-8");
-    out << Translate("Recording") << ": " << QFileInfo(files.value(0)).fileName();
-    if (files.size() > 1)
-        out << " ... " << QFileInfo(files.last()).fileName();
-    out << "\n\n";
-    WriteLines(out, OutcomeLines(outcome, stamps));
-    out << '\n';
-    WriteLines(out, facts.Lines());
-    out << '\n' << Translate("frame\tframe id\tcamera time (ns)\thost time (ns)") << '\n';
-    for (int i = 0; i < stamps.size(); ++i)
-        out << i + 1 << '\t' << stamps[i].frameId << '\t' << stamps[i].cameraTimeNs << '\t'
-            << stamps[i].hostTimeNs << '\n';
-    out.flush();
-    return file.flush() && out.status() == QTextStream::Ok;
+    WriteText(out, facts, outcome, stamps, files);
+    if (file.flush() && out.status() == QTextStream::Ok)
+        return file.fileName();
+    fault.Set(Translate("its summary could not be written"), DiskAdvice(), file.errorString());
+    file.remove();
+    return QString();
 }

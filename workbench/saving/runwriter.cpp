@@ -14,6 +14,9 @@
 
 namespace {
 
+constexpr int SyncPeriodMs = 1000;
+constexpr int MostNames = 1000;
+
 QString Translate(const char *text) { return QCoreApplication::translate("RunWriter", text); }
 
 bool Report(bool done, const QString &path, const FileFault &fault, QString *error)
@@ -27,8 +30,10 @@ bool Report(bool done, const QString &path, const FileFault &fault, QString *err
 
 RunWriter::RunWriter(const QString &path, RunFormat format)
     : m_path(path)
+    , m_unfinished(UnfinishedRunPath(path))
     , m_format(format)
 {
+    m_syncer.setMaxThreadCount(1);
 }
 
 bool RunWriter::Begin(const RunFacts &facts, QString *error)
@@ -37,8 +42,11 @@ bool RunWriter::Begin(const RunFacts &facts, QString *error)
     FileFault fault;
     if (!CheckName(fault) || !m_journal.Create(m_path, m_format, facts, fault))
         return Report(false, m_path, fault, error);
-    if (CreateData(fault))
+    if (CreateData(fault)) {
+        RunDisk::MakeNamesLasting(m_path);
+        m_sinceSync.start();
         return true;
+    }
     m_journal.Remove();
     return Report(false, m_path, fault, error);
 }
@@ -63,7 +71,74 @@ bool RunWriter::Resume(QString *error)
     if (!ReopenData(&frames, fault))
         return Report(false, m_path, fault, error);
     m_stamps.resize(frames);
-    return Report(CutTo(frames, fault), m_path, fault, error);
+    return Report(DropTornFrames(qMin(content.lasting, frames), fault) && CutTo(m_stamps.size(), fault), m_path,
+                  fault, error);
+}
+
+/// Frames and their records may have come to the disk in any order.
+bool RunWriter::DropTornFrames(int lasting, FileFault &fault)
+{
+    if (m_stamps.size() == lasting)
+        return true;
+    std::vector<uchar> samples(size_t(m_facts.FrameBytes()));
+    const QVector<FrameStamp> written = m_stamps;
+    for (int frame = lasting; frame < written.size(); ++frame) {
+        const int place = frame - m_torn.size();
+        if (!ReadBack(frame, samples.data())
+            || RunChecksum::OfFrame(samples.data(), m_facts.FrameBytes()) != written[frame].checksum) {
+            m_torn.append(written[frame]);
+            ForgetStamp(place);
+        } else if (place < frame && !MoveFrame(frame, place, fault)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void RunWriter::ForgetStamp(int frame)
+{
+    m_stamps.removeAt(frame);
+    for (SettingsChange &change : m_facts.changes) {
+        if (change.frame > frame)
+            --change.frame;
+    }
+}
+
+bool RunWriter::ChangeSettings(SettingsChange change, QString *error)
+{
+    change.frame = m_stamps.size();
+    FileFault fault;
+    if (!m_journal.AppendChange(change, fault))
+        return Report(false, m_path, fault, error);
+    if (!m_facts.changes.isEmpty() && m_facts.changes.last().frame == change.frame)
+        m_facts.changes.removeLast();
+    m_facts.changes.append(change);
+    return true;
+}
+
+/// Without waiting for the disk: what its cache takes at once may come faster than it can be written.
+bool RunWriter::SyncNowAndThen(FileFault &fault)
+{
+    if (const int failed = m_syncError)
+        return RunDisk::SetSystemFault(fault, failed);
+    const int lasting = m_lasting;
+    if (lasting > m_marked && !m_journal.AppendLasting(lasting, fault))
+        return false;
+    m_marked = lasting;
+    if (m_isSyncing || m_sinceSync.elapsed() < SyncPeriodMs)
+        return true;
+    m_isSyncing = true;
+    m_sinceSync.start();
+    m_syncer.start([this, frames = m_stamps.size(), data = DataSync(), journal = m_journal.DataSync()] {
+        int failed = data();
+        if (failed == 0)
+            failed = journal();
+        if (failed == 0)
+            m_lasting = frames;
+        m_syncError = failed;
+        m_isSyncing = false;
+    });
+    return true;
 }
 
 const uchar *RunWriter::Packed(const CameraFrame &frame)
@@ -91,7 +166,7 @@ bool RunWriter::Write(const CameraFrame &frame, QString *error)
     const uchar *samples = Packed(frame);
     const FrameStamp stamp{ frame.frameId, frame.cameraTimeNs, frame.hostTimeNs,
                             RunChecksum::OfFrame(samples, m_facts.FrameBytes()) };
-    if (AppendFrame(samples, stamp, fault) && m_journal.Append(stamp, fault)) {
+    if (SyncNowAndThen(fault) && AppendFrame(samples, stamp, fault) && m_journal.Append(stamp, fault)) {
         m_stamps.append(stamp);
         return true;
     }
@@ -102,11 +177,33 @@ bool RunWriter::Write(const CameraFrame &frame, QString *error)
 
 bool RunWriter::Finish(RunOutcome *outcome, QString *error)
 {
+    m_syncer.waitForDone();
     FileFault fault;
-    if (!CompleteWhatFits(outcome, fault) || !Place(fault))
+    // The system tells a failed write only once: which frames it took is found by the repair, which reads them back.
+    if (const int failed = m_syncError)
+        return Report(RunDisk::SetSystemFault(fault, failed), m_path, fault, error);
+    if (!CompleteWhatFits(outcome, fault) || !PlaceUnderFreeName(fault))
         return Report(false, m_path, fault, error);
-    m_hasSummary = WriteRunSummary(RunSummaryPath(m_path), m_facts, *outcome, m_stamps, DataFiles());
+    RunDisk::MakeNamesLasting(m_path);
+    m_summary = WriteRunSummary(m_path, m_facts, *outcome, m_stamps, DataFiles(), fault);
+    if (m_summary.isEmpty())
+        m_warning = WriteFaultText(m_path, fault);
     m_journal.Remove();
+    return true;
+}
+
+/// The name was free at the beginning; a recording of hours is not to hang on its being free still.
+bool RunWriter::PlaceUnderFreeName(FileFault &fault)
+{
+    const QFileInfo asked(m_path);
+    for (int number = 2; !Place(fault); ++number) {
+        if (!fault.isNameTaken || number > MostNames)
+            return false;
+        m_path = QString("%1/%2_%3.%4")
+                     .arg(asked.path(), asked.completeBaseName())
+                     .arg(number)
+                     .arg(asked.suffix());
+    }
     return true;
 }
 
@@ -122,7 +219,7 @@ bool RunWriter::CompleteWhatFits(RunOutcome *outcome, FileFault &fault)
         if (!CutTo(kept, cutFault))
             return false;
         for (; m_stamps.size() > kept; m_stamps.removeLast()) {
-            outcome->lostIds.append(m_stamps.last().frameId);
+            outcome->lostIds.append({ m_stamps.last().frameId, 1 });
             --outcome->counts.saved;
             ++outcome->counts.lostAt[size_t(LossStage::Disk)];
         }
@@ -132,6 +229,7 @@ bool RunWriter::CompleteWhatFits(RunOutcome *outcome, FileFault &fault)
 
 void RunWriter::Discard()
 {
+    m_syncer.waitForDone();
     RemoveData();
     m_journal.Remove();
 }
@@ -139,8 +237,8 @@ void RunWriter::Discard()
 QStringList RunWriter::Files() const
 {
     QStringList files = DataFiles();
-    if (m_hasSummary)
-        files << RunSummaryPath(m_path);
+    if (!m_summary.isEmpty())
+        files << m_summary;
     return files;
 }
 
@@ -156,6 +254,8 @@ std::unique_ptr<RunWriter> CreateRunWriter(RunFormat format, const QString &path
     }
     return std::make_unique<TiffRunWriter>(path);
 }
+
+QString UnfinishedRunPath(const QString &path) { return path + ".part"; }
 
 QString RunSuffix(RunFormat format)
 {

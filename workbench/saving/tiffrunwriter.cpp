@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <cerrno>
+
 TiffRunWriter::TiffRunWriter(const QString &path)
     : RunWriter(path, RunFormat::Tiff)
 {
@@ -30,6 +32,15 @@ bool TiffRunWriter::AppendFrame(const uchar *samples, const FrameStamp &, FileFa
 
 bool TiffRunWriter::CutTo(int frames, FileFault &fault) { return m_cube.CutTo(frames, fault); }
 
+bool TiffRunWriter::ReadBack(int frame, uchar *samples) { return m_cube.ReadFrame(frame, samples); }
+
+bool TiffRunWriter::MoveFrame(int from, int to, FileFault &fault)
+{
+    std::vector<uchar> samples(size_t(Facts().FrameBytes()));
+    return m_cube.ReadFrame(from, samples.data()) ? m_cube.WriteFrame(to, samples.data(), fault)
+                                                  : RunDisk::SetSystemFault(fault, EIO);
+}
+
 bool TiffRunWriter::Complete(const RunOutcome &outcome, FileFault &fault)
 {
     TiffDirectories directories(Facts(), FramesWritten());
@@ -41,10 +52,7 @@ bool TiffRunWriter::Complete(const RunOutcome &outcome, FileFault &fault)
 bool TiffRunWriter::Place(FileFault &fault)
 {
     m_cube.Close();
-    if (!RunDisk::Rename(UnfinishedPath(), Path(), fault))
-        return false;
-    RunDisk::MakeNamesLasting(Path());
-    return true;
+    return RunDisk::Rename(UnfinishedPath(), Path(), fault);
 }
 
 void TiffRunWriter::RemoveData()

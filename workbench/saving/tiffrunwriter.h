@@ -16,6 +16,9 @@ protected:
     bool ReopenData(int *frames, FileFault &fault) override;
     bool AppendFrame(const uchar *samples, const FrameStamp &stamp, FileFault &fault) override;
     bool CutTo(int frames, FileFault &fault) override;
+    bool ReadBack(int frame, uchar *samples) override;
+    bool MoveFrame(int from, int to, FileFault &fault) override;
+    std::function<int()> DataSync() override { return m_cube.DataSync(); }
     bool Complete(const RunOutcome &outcome, FileFault &fault) override;
     bool Place(FileFault &fault) override;
     void RemoveData() override;

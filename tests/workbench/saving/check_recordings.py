@@ -91,8 +91,9 @@ with tempfile.TemporaryDirectory() as folder:
             if kind == FITS and LAYOUTS[layout][1] == 3:
                 continue
             path = os.path.join(folder, f"run{layout}.{suffix}")
-            if os.path.exists(os.path.join(folder, f"run{layout}.txt")):
-                os.remove(os.path.join(folder, f"run{layout}.txt"))
             record(sys.argv[1], path, kind, layout)
             look(path, layout)
+            summary = os.path.join(folder, f"run{layout}.txt") if kind == TIFF else path + ".txt"
+            with open(summary, encoding="utf-8") as text:
+                check(text.readline().startswith(f"Recording: run{layout}") and suffix in summary or kind == TIFF, summary + " is its own")
 print(checks, "checks")

@@ -3,6 +3,7 @@
 #include "guardedtest.h"
 #include "openpicture.h"
 #include "runchecksum.h"
+#include "runestimate.h"
 #include "runsample.h"
 
 #include <QDir>
@@ -11,6 +12,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <cerrno>
 #include <cstring>
 #include <thread>
 
@@ -41,6 +43,12 @@ protected:
         return FramesWritten() != m_failsAt || fault.Set("the disk is full", "Free some space.");
     }
     bool CutTo(int, FileFault &) override { return true; }
+    bool ReadBack(int, uchar *) override { return true; }
+    bool MoveFrame(int, int, FileFault &) override { return true; }
+    std::function<int()> DataSync() override
+    {
+        return [isGone = m_isGone] { return isGone ? EIO : 0; };
+    }
     bool Complete(const RunOutcome &, FileFault &fault) override
     {
         return !m_isGone || fault.Set("the disk does not answer", "Check that it is still connected.");
@@ -161,8 +169,36 @@ private slots:
         const RunReceipt receipt = Receipt();
         QCOMPARE(receipt.outcome.end, RunEnd::Fault);
         QCOMPARE(receipt.outcome.reason, QString("the memory is full"));
-        QVERIFY(receipt.outcome.counts.LostAt(LossStage::SaveQueue) >= 1);
+        QCOMPARE(receipt.outcome.counts.LostAt(LossStage::SaveQueue), quint64(0));
+        QVERIFY(receipt.outcome.counts.LostAt(LossStage::Memory) >= 1);
+        QVERIFY2(receipt.Text().contains("the memory was full)"), qPrintable(receipt.Text()));
         CompareFile(receipt, 0, 3);
+    }
+
+    /// What the estimate says before the run is what the run takes.
+    void whatFitsIntoTheMemoryIsRecorded_data()
+    {
+        QTest::addColumn<qint64>("frames");
+        QTest::newRow("as many as fit") << qint64(6);
+        QTest::newRow("one more") << qint64(7);
+    }
+
+    void whatFitsIntoTheMemoryIsRecorded()
+    {
+        QFETCH(qint64, frames);
+        RunResources resources;
+        resources.freeMemoryBytes = (qint64(256) << 20) + 6 * FrameBytes; // 256 MiB stay free
+        m_order.settings.toRam = true;
+        m_order.settings.frames = int(frames);
+        m_order.ramBytes = resources.MemoryForFrames();
+        const RunEstimate estimate = RunEstimate::Make(m_order.settings, FrameBytes, 100, resources);
+        QCOMPARE(estimate.framesThatFit, qint64(6));
+        QVERIFY(m_saving->StartRun(m_order));
+        SendUntilEnded();
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.IsWhole(), frames == 6);
+        QCOMPARE(estimate.warning.isEmpty(), frames == 6);
+        CompareFile(receipt, 0, 6);
     }
 
     void waitsForItsDelay()
@@ -234,7 +270,10 @@ private slots:
         const RunReceipt receipt = Receipt();
         QCOMPARE(receipt.outcome.counts.captured, quint64(12));
         QCOMPARE(receipt.outcome.counts.saved, quint64(9));
-        QCOMPARE(receipt.outcome.lostIds, (QVector<quint64>{ 109, 110, 111 }));
+        QCOMPARE(receipt.outcome.lostIds.size(), 1);
+        QCOMPARE(receipt.outcome.lostIds.first().first, quint64(109));
+        QCOMPARE(receipt.outcome.lostIds.first().count, quint64(3));
+        QVERIFY2(receipt.Text().contains("Frame ids missing: 109-111\n"), qPrintable(receipt.Text()));
         QVERIFY(!receipt.IsWhole());
         QVERIFY2(receipt.Text().contains("Frames lost: 3 (3 the disk was too slow and the queue full)"),
                  qPrintable(receipt.Text()));
@@ -272,6 +311,53 @@ private slots:
         QVERIFY(!m_saving->IsBusy());
     }
 
+    /// The cache takes frames long after the disk is gone.
+    void aDiskThatTakesNoMoreEndsTheRun()
+    {
+        QSemaphore permits(1000000);
+        Make([&](RunFormat, const QString &path) {
+            return std::make_unique<SlowDisk>(path, &permits, -1, true);
+        });
+        m_order.settings.mode = RecordingSettings::Mode::UntilStopped;
+        QVERIFY(m_saving->StartRun(m_order));
+        QVERIFY(QTest::qWaitFor(
+            [&] {
+                m_saving->OnFrame(RunSample::Frame(Size, PixelLayout::Mono8, 0));
+                return !m_saving->isRunning();
+            },
+            MsToWait));
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.error.contains("the disk does not answer"), qPrintable(receipt.error));
+        QCOMPARE(receipt.outcome.end, RunEnd::Fault);
+        QVERIFY(receipt.outcome.counts.LostAt(LossStage::Disk) >= 1);
+        QCOMPARE(RunRegister(m_folder->filePath("register")).Entries().size(), 1);
+    }
+
+    /// Frames and losses of a time-lapse whose link is bad for some intervals.
+    void intervalsOfATimeLapseThatNothingCameInAreLost()
+    {
+        CaptureQueue queue;
+        queue.Open(1 << 20);
+        RunCounter counter;
+        FrameGate gate(&queue, &counter);
+        m_order.settings.intervalMs = 100;
+        m_order.settings.mode = RecordingSettings::Mode::Duration;
+        m_order.settings.seconds = 1;
+        gate.Open(m_order.settings, 0);
+        gate.TakeFrame(RunSample::Frame(Size, PixelLayout::Mono8, 0), 0);
+        gate.TakeLoss(LossStage::Transfer, 101, 40);
+        gate.TakeFrame(RunSample::Frame(Size, PixelLayout::Mono8, 41), 420); // those of 100, 200 and 300 are missed
+        QCOMPARE(counter.Counts().LostAt(LossStage::Transfer), quint64(3));
+        gate.TakeFrame(RunSample::Frame(Size, PixelLayout::Mono8, 60), 730); // a slow camera, no loss
+        QCOMPARE(counter.Counts().Lost(), quint64(3));
+        gate.TakeLoss(LossStage::Camera, 161, 1);
+        gate.CloseWhenOver(1000);
+        QCOMPARE(counter.Counts().LostAt(LossStage::Camera), quint64(1));
+        QCOMPARE(counter.Counts().captured, quint64(3));
+        QCOMPARE(queue.Count(), 3);
+        QVERIFY(!queue.IsOpen());
+    }
+
     void aFolderThatIsNotThereIsSaidAtOnce()
     {
         m_order.path = m_folder->filePath("nowhere/run.tif");
@@ -286,17 +372,103 @@ private slots:
         m_order.settings.frames = 4;
         QVERIFY(m_saving->StartRun(m_order));
         SendWhenTaken(1);
-        CameraFrame frame =
-            RunSample::Frame(Size, PixelLayout::Mono8, 4); // 101 to 103 are missing, two of them came in part
-        frame.incompleteBefore = 2;
-        m_saving->OnFrame(frame);
+        m_saving->OnLost(LossStage::Transfer, 101, 1);
+        m_saving->OnLost(LossStage::Camera, 102, 1);
+        m_saving->OnLost(LossStage::Transfer, 103, 1);
+        m_saving->OnFrame(RunSample::Frame(Size, PixelLayout::Mono8, 4));
         m_saving->OnFrame(RunSample::Frame(Size, PixelLayout::Mono8, 5));
+        m_saving->OnLost(LossStage::Camera, 106, 1);
         m_saving->OnFrame(RunSample::Frame(Size, PixelLayout::Mono8, 7));
+        m_saving->OnLost(LossStage::Camera, 108, 1); // after the run
         const RunReceipt receipt = Receipt();
         QCOMPARE(receipt.outcome.counts.saved, quint64(4));
         QCOMPARE(receipt.outcome.counts.LostAt(LossStage::Transfer), quint64(2));
         QCOMPARE(receipt.outcome.counts.LostAt(LossStage::Camera), quint64(2));
         QVERIFY2(receipt.Text().contains("Frame ids missing: 101-103, 106"), qPrintable(receipt.Text()));
+    }
+
+    /// A link that goes bad and stays bad.
+    void lossesBehindTheLastFrameAreCounted()
+    {
+        m_order.settings.mode = RecordingSettings::Mode::Duration;
+        m_order.settings.seconds = 1;
+        QVERIFY(m_saving->StartRun(m_order));
+        SendWhenTaken(2);
+        m_saving->OnLost(LossStage::Transfer, 102, 4);
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.outcome.counts.LostAt(LossStage::Transfer), quint64(4));
+        QVERIFY(!receipt.IsWhole());
+        QVERIFY2(receipt.Text().contains("Frames lost: 4 (4 arrived incomplete)\nFrame ids missing: 102-105\n"),
+                 qPrintable(receipt.Text()));
+        CompareFile(receipt, 0, 2);
+    }
+
+    void aLinkThatBringsNothingWholeIsSaid()
+    {
+        m_order.settings.mode = RecordingSettings::Mode::Duration;
+        m_order.settings.seconds = 1;
+        Said time(m_saving.get(), SIGNAL(signalUpdateTotalTime(int)));
+        QVERIFY(m_saving->StartRun(m_order));
+        QTRY_VERIFY_WITH_TIMEOUT(!time.values.isEmpty(), MsToWait); // frames are counted from now on
+        m_saving->OnLost(LossStage::Transfer, 1, 3);
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.error, QString("No whole frame came from the camera: 3 were lost on the way."));
+        QCOMPARE(receipt.outcome.counts.LostAt(LossStage::Transfer), quint64(3));
+        QVERIFY(!receipt.IsWhole());
+        QCOMPARE(FilesLeft(), QStringList());
+        QVERIFY2(time.values.contains(1) && time.values.last() == -1, "the last second was not told");
+    }
+
+    void aTimeLapseTellsItsIntervalAndNoGaps()
+    {
+        m_order.settings.frames = 3;
+        m_order.settings.intervalMs = 40;
+        QVERIFY(m_saving->StartRun(m_order));
+        SendWhenTaken(1);
+        m_saving->OnLost(LossStage::Transfer, 101, 1); // nobody waits for it yet
+        QVERIFY(SendUntilTaken(RunSample::Frame(Size, PixelLayout::Mono8, 9)));
+        QVERIFY(SendUntilTaken(RunSample::Frame(Size, PixelLayout::Mono8, 17)));
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
+        QVERIFY2(!receipt.Text().contains("missing"), qPrintable(receipt.Text()));
+        QFile summary(receipt.files.last());
+        QVERIFY(summary.open(QIODevice::ReadOnly));
+        const QByteArray text = summary.readAll();
+        QVERIFY2(text.contains("Time-lapse: one frame each 40 ms\n") && !text.contains("missing"), text.constData());
+    }
+
+    void settingsChangedInMidRunAreTold()
+    {
+        m_order.settings.mode = RecordingSettings::Mode::UntilStopped;
+        QVERIFY(m_saving->StartRun(m_order));
+        SendWhenTaken(2);
+        SettingsChange change;
+        change.exposureUs = 20000;
+        change.gain = 3;
+        change.framesPerSecond = 50;
+        m_saving->ChangeSettings(change);
+        QVERIFY(SendUntilTaken(RunSample::Frame(Size, PixelLayout::Mono8, 2)));
+        m_saving->StopRun();
+        const RunReceipt receipt = Receipt();
+        QCOMPARE(receipt.facts.changes.size(), 1);
+        QCOMPARE(receipt.facts.changes.first().frame, 2);
+        QFile summary(receipt.files.last());
+        QVERIFY(summary.open(QIODevice::ReadOnly));
+        const QByteArray text = summary.readAll();
+        for (const char *line : { "Exposure: 12500 to 20000 us\n", "Gain: 1.5 to 3\n", "Frame rate: 50 to 500 frames/s\n",
+                                  "From about frame 3 on: exposure 20000 us, gain 3, 50 frames/s\n" })
+            QVERIFY2(text.contains(line), text.constData());
+    }
+
+    void theRunsStartIsWhenItBegan()
+    {
+        const QDateTime before = QDateTime::currentDateTimeUtc();
+        m_order.settings.delay.milliseconds = 200;
+        QVERIFY(m_saving->StartRun(m_order));
+        SendUntilEnded();
+        const QDateTime start = Receipt().facts.start;
+        QVERIFY2(before.addMSecs(200) <= start && start <= QDateTime::currentDateTimeUtc(),
+                 qPrintable(start.toString(Qt::ISODateWithMs)));
     }
 
     void aLostCameraLeavesAReadableFile()
@@ -309,6 +481,7 @@ private slots:
         QCOMPARE(receipt.outcome.end, RunEnd::CameraLost);
         QVERIFY2(receipt.Text().contains("the camera was lost (C-1 does not answer)"),
                  qPrintable(receipt.Text()));
+        QVERIFY(!receipt.IsWhole());
         CompareFile(receipt, 0, 3);
     }
 

@@ -79,17 +79,17 @@ private slots:
         QTest::newRow("fits") << count << false << reserve + 1000 * frame << qint64(0) << "";
         QTest::newRow("one too many")
             << count << false << reserve + 999 * frame << qint64(0)
-            << "The run needs 1.0 GB, and the disk has 1.3 GB free: room for 999 frames.";
+            << "The run needs 1.0 GB, and the disk has 1.3 GB free, of which 268.4 MB are left to the system: room for 999 frames.";
         QTest::newRow("by time")
             << duration << false << reserve + 999 * frame << qint64(0)
-            << "The run needs 1.0 GB, and the disk has 1.3 GB free: room for 999 frames.";
+            << "The run needs 1.0 GB, and the disk has 1.3 GB free, of which 268.4 MB are left to the system: room for 999 frames.";
         QTest::newRow("memory")
             << count << true << reserve + 5000 * frame << reserve + 10 * frame
-            << "The run needs 1.0 GB, and the memory has 278.4 MB free: room for 10 frames.";
+            << "The run needs 1.0 GB, and the memory has 278.4 MB free, of which 268.4 MB are left to the system: room for 10 frames.";
         QTest::newRow("memory is not asked") << count << false << reserve + 5000 * frame << qint64(0) << "";
         QTest::newRow("nothing free")
             << open << false << qint64(1000) << qint64(0)
-            << "The run needs more than one frame, and the disk has 1.0 kB free: room for 0 frames.";
+            << "The run needs more than one frame, and the disk has 1.0 kB free, of which 1.0 kB are left to the system: room for 0 frames.";
         QTest::newRow("until stopped") << open << false << reserve + frame << qint64(0) << "";
         QTest::newRow("not known") << count << false << qint64(-1) << qint64(-1) << "";
     }
@@ -110,6 +110,34 @@ private slots:
         resources.freeDiskBytes = freeDisk;
         resources.freeMemoryBytes = freeMemory;
         QCOMPARE(RunEstimate::Make(settings, 1000000, 25, resources).warning, warning);
+    }
+
+    void memoryKeepsATenthFree()
+    {
+        RunResources resources;
+        QCOMPARE(resources.MemoryForFrames(), qint64(-1)); // not known
+        resources.freeMemoryBytes = 100000000;
+        QCOMPARE(resources.MemoryForFrames(), qint64(0));
+        resources.freeMemoryBytes = 1000000000;
+        QCOMPARE(resources.MemoryForFrames(), qint64(1000000000 - 268435456));
+        resources.freeMemoryBytes = 20000000000;
+        QCOMPARE(resources.MemoryForFrames(), qint64(18000000000));
+    }
+
+    void intervalsWithoutAFrameAreMissed()
+    {
+        RecordingSettings settings;
+        settings.mode = RecordingSettings::Mode::Duration;
+        settings.intervalMs = 100;
+        RunSchedule schedule(settings, 1000);
+        QVERIFY(schedule.Wants(1000));
+        QCOMPARE(schedule.MissedIntervals(1150), qint64(0)); // the one of 1100 may still come
+        QCOMPARE(schedule.MissedIntervals(1420), qint64(3)); // 1100, 1200 and 1300
+        schedule.SkipIntervals(3);
+        QCOMPARE(schedule.MissedIntervals(1420), qint64(0));
+        QVERIFY(schedule.Wants(1420));
+        settings.intervalMs = 0;
+        QCOMPARE(RunSchedule(settings, 1000).MissedIntervals(5000), qint64(0));
     }
 
     void timeLapseTakesLess()

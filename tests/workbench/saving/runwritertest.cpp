@@ -4,10 +4,10 @@
 #include "openpicture.h"
 #include "runchecksum.h"
 #include "runsample.h"
-#include "runsummary.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -128,7 +128,7 @@ private slots:
         outcome.counts.lostAt[size_t(LossStage::SaveQueue)] = 1;
         outcome.counts.lostAt[size_t(LossStage::Transfer)] = 5;
         QVERIFY2(writer->Finish(&outcome, &error), qPrintable(error));
-        QFile file(RunSummaryPath(Path(RunFormat::Tiff)));
+        QFile file(m_folder->filePath("run.txt"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QString text = QString::fromUtf8(file.readAll());
         for (const char *line :
@@ -171,12 +171,107 @@ private slots:
         QFile file(Path(format));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("mine") == 4);
         file.close();
+        QFile second(m_folder->filePath("run_2." + RunSuffix(format)));
+        QVERIFY(second.open(QIODevice::WriteOnly));
         RunOutcome outcome;
-        QVERIFY(!writer->Finish(&outcome, &error));
-        QVERIFY2(error.contains("is there already"), qPrintable(error));
+        QVERIFY2(writer->Finish(&outcome, &error), qPrintable(error));
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), QByteArray("mine"));
-        QVERIFY(QFile::exists(Path(format) + ".part")); // nothing of the recording is lost
+        QCOMPARE(writer->Files(), QStringList({ m_folder->filePath("run_3." + RunSuffix(format)),
+                                                m_folder->filePath("run_3.txt") }));
+        CompareFrames(writer->Files(), PixelLayout::Mono8, 1);
+        QCOMPARE(LeftOvers(), QStringList());
+    }
+
+    /// Recordings that differ by their format only.
+    void eachRecordingHasItsOwnSummary()
+    {
+        QStringList summaries;
+        for (const RunFormat format : { RunFormat::Tiff, RunFormat::Fits, RunFormat::Png }) {
+            const auto writer = Record(format, PixelLayout::Mono8, 1, 0);
+            QFile summary(writer->Files().last());
+            QVERIFY(summary.open(QIODevice::ReadOnly));
+            QVERIFY(summary.readLine().contains(QFileInfo(writer->Files().first()).fileName().toUtf8()));
+            summaries << QFileInfo(summary).fileName();
+            QCOMPARE(writer->Warning(), QString());
+        }
+        QCOMPARE(summaries, QStringList({ "run.txt", "run.fits.txt", "run.png.txt" }));
+    }
+
+    void aSummaryThatCanNotBeWrittenIsSaid()
+    {
+        const auto writer = Begin(RunFormat::Png, PixelLayout::Mono8);
+        QString error;
+        for (int frame = 0; frame < 3; ++frame)
+            QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, frame), &error));
+        for (const char *name : { "run.txt", "run.png.txt" })
+            QVERIFY(QFile(m_folder->filePath(name)).open(QIODevice::WriteOnly));
+        m_outcome.reason = QString(100000, 'x'); // longer than a file may be now
+        {
+            const FileSizeLimit limit(90000);
+            writer->Finish(&m_outcome, &error);
+        }
+        QVERIFY2(writer->Warning().contains("its summary could not be written"), qPrintable(writer->Warning() + error));
+        QCOMPARE(writer->Files().size(), 3);
+        QVERIFY(!QFile::exists(m_folder->filePath("run.png.2.txt")));
+    }
+
+    void settingsChangedInMidRunAreTold_data() { AddFormats(); }
+
+    void settingsChangedInMidRunAreTold()
+    {
+        QFETCH(RunFormat, format);
+        const auto writer = Begin(format, PixelLayout::Mono8);
+        QString error;
+        SettingsChange change;
+        change.exposureUs = 20000;
+        change.gain = 3;
+        change.framesPerSecond = 50;
+        QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, 0), &error));
+        QVERIFY(writer->ChangeSettings(change, &error));
+        QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, 1), &error));
+        QVERIFY2(Finish(writer.get(), 2, &error), qPrintable(error));
+        QStringList told;
+        for (const QString &path : writer->Files()) {
+            if (path.endsWith(".txt"))
+                continue;
+            const auto file = OpenPicture(path, error);
+            QVERIFY2(file, qPrintable(error));
+            QString all;
+            for (const MetadataEntry &entry : file->Info().metadata)
+                all += entry.key + '=' + entry.value + '\n';
+            told << all;
+        }
+        if (format == RunFormat::Png) { // each frame its own
+            QVERIFY2(told[0].contains("12500 us") && !told[0].contains("20000 us"), qPrintable(told[0]));
+            QVERIFY2(told[1].contains("20000 us") && !told[1].contains("12500 us"), qPrintable(told[1]));
+            return;
+        }
+        QVERIFY2(told[0].contains("12500 to 20000 us") && told[0].contains("exposure 20000 us, gain 3, 50 frames/s"),
+                 qPrintable(told[0]));
+        QVERIFY2(!told[0].contains("EXPTIME"), qPrintable(told[0])); // no one number holds for all
+        if (format == RunFormat::Tiff) {
+            QFile file(writer->Files().first());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QByteArray bytes = file.readAll();
+            QVERIFY(bytes.contains("TheT=\"0\" DeltaT=\"0\" ExposureTime=\"0.0125\""));
+            QVERIFY(bytes.contains("TheT=\"1\" DeltaT=\"0.001\" ExposureTime=\"0.02\""));
+        }
+    }
+
+    void anAutomaticExposureClaimsNoNumberForAFrame()
+    {
+        RunFacts facts = RunSample::Facts(Size, PixelLayout::Mono8);
+        facts.isAutoExposure = true;
+        const auto writer = CreateRunWriter(RunFormat::Tiff, Path(RunFormat::Tiff));
+        QString error;
+        QVERIFY(writer->Begin(facts, &error));
+        QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, 0), &error));
+        QVERIFY(Finish(writer.get(), 1));
+        QFile file(writer->Files().first());
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        QVERIFY(!bytes.contains("ExposureTime=") && bytes.contains("automatic, 12500 us"));
     }
 
     void anotherPngOfAnotherSequenceStays()
@@ -280,9 +375,11 @@ private slots:
         QString error;
         for (int frame = 0; frame < 3; ++frame)
             QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono8, frame), &error));
-        QFile taken(Path(RunFormat::Tiff));
-        QVERIFY(taken.open(QIODevice::WriteOnly));
+        QDir parent(QFileInfo(m_folder->path()).path());
+        const QString name = QFileInfo(m_folder->path()).fileName();
+        QVERIFY(parent.rename(name, name + "-away"));
         QVERIFY(!Finish(writer.get(), 3, &error));
+        QVERIFY(parent.rename(name + "-away", name));
         QCOMPARE(writer->FramesWritten(), 3);
         QCOMPARE(m_outcome.counts.Lost(), quint64(0));
         QVERIFY(QFile(Path(RunFormat::Tiff) + ".part").size() > 3 * Size.width() * Size.height());
