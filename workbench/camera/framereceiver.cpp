@@ -44,6 +44,8 @@ void FrameReceiver::OpenGate(FrameSink *sink)
 {
     std::lock_guard<std::mutex> lock(m_gate);
     m_frameIds.Reset();
+    m_lastId = UnknownFrameId;
+    m_incomplete = 0;
     m_lastFrameMs = SteadyMs();
     m_sink = sink;
 }
@@ -78,14 +80,18 @@ bool FrameReceiver::Deliver(ArvBuffer *buffer)
     if (!m_sink || IsNoFrame(buffer))
         return false;
 
-    const FrameIdUnwrapper::Step step = m_frameIds.Next(arv_buffer_get_frame_id(buffer));
-    if (step.missing > 0)
-        CountLost(LossStage::Camera, step.id - step.missing, step.missing);
     m_lastFrameMs = SteadyMs();
     if (!IsComplete(buffer)) {
-        CountLost(LossStage::Transfer, step.id, 1);
+        // Its own id can't be trusted: without its first packet it is that of the frame before in the same buffer.
+        CountLost(LossStage::Transfer, m_lastId == UnknownFrameId ? UnknownFrameId : m_lastId + 1 + m_incomplete, 1);
+        ++m_incomplete;
         return false;
     }
+    const FrameIdUnwrapper::Step step = m_frameIds.Next(arv_buffer_get_frame_id(buffer));
+    if (step.missing > m_incomplete)
+        CountLost(LossStage::Camera, m_lastId + 1 + m_incomplete, step.missing - m_incomplete);
+    m_lastId = step.id;
+    m_incomplete = 0;
     m_ledger.AddCaptured();
     m_sink->OnFrame(FrameFrom(buffer, step.id));
     return true;

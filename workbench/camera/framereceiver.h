@@ -50,5 +50,7 @@ private:
     std::mutex m_gate; ///< held during a delivery
     FrameSink *m_sink = nullptr;
     FrameIdUnwrapper m_frameIds;
+    quint64 m_lastId = 0;     ///< of the last whole frame
+    quint64 m_incomplete = 0; ///< frames since that one
     std::atomic<qint64> m_lastFrameMs{ 0 }; ///< steady clock
 };

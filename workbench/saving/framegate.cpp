@@ -68,7 +68,7 @@ void FrameGate::TakeFrame(const CameraFrame &frame, qint64 nowMs)
 void FrameGate::TakeLoss(LossStage stage, quint64 firstId, quint64 frames)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_lastId = firstId + frames - 1;
+    m_lastId = qMax(m_lastId, firstId + frames - 1);
     if (!m_isOpen)
         return;
     if (!m_schedule.IsTimeLapse()) {

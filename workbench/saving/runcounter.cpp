@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runcounter.h"
 
+#include "framesink.h"
+
 namespace {
 /// More are counted, and only the newest of them is listed.
 constexpr int ListedGaps = 1000;
@@ -29,6 +31,8 @@ void RunCounter::AddLost(LossStage stage, quint64 firstId, quint64 frames)
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_counts.lostAt[size_t(stage)] += frames;
+    if (firstId == UnknownFrameId)
+        return;
     if (!m_lostIds.isEmpty() && m_lostIds.last().first + m_lostIds.last().count == firstId) {
         m_lostIds.last().count += frames;
         return;

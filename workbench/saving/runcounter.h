@@ -12,7 +12,7 @@ public:
     void Reset();
     void AddCaptured();
     void AddSaved();
-    /// So many frames from `firstId` on.
+    /// So many frames from `firstId` on; of UnknownFrameId only the number counts.
     void AddLost(LossStage stage, quint64 firstId, quint64 frames = 1);
 
     FrameCounts Counts() const;

@@ -18,6 +18,21 @@ void FrameCollector::OnFrame(const CameraFrame &frame)
     m_arrived.notify_all();
 }
 
+void FrameCollector::OnLost(LossStage stage, quint64 firstId, quint64 frames)
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_losses << QString("%1 %2 x %3")
+                    .arg(stage == LossStage::Camera ? "missing" : "incomplete")
+                    .arg(firstId)
+                    .arg(frames);
+}
+
+QStringList FrameCollector::Losses() const
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    return m_losses;
+}
+
 bool FrameCollector::WaitFor(size_t count, int timeoutMs)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
@@ -47,5 +62,6 @@ void FrameCollector::Clear()
     std::lock_guard<std::mutex> lock(m_mutex);
     m_frames.clear();
     m_last = CameraFrame();
+    m_losses.clear();
     m_count = 0;
 }

@@ -4,6 +4,8 @@
 #include "cameraframe.h"
 #include "framesink.h"
 
+#include <QStringList>
+
 #include <condition_variable>
 #include <mutex>
 #include <vector>
@@ -15,6 +17,7 @@ public:
     explicit FrameCollector(size_t capacity = 100);
 
     void OnFrame(const CameraFrame &frame) override;
+    void OnLost(LossStage stage, quint64 firstId, quint64 frames) override;
 
     /// Waits until `count` frames have come in all; false after timeoutMs.
     bool WaitFor(size_t count, int timeoutMs = 5000);
@@ -23,6 +26,8 @@ public:
     size_t Count() const;
     std::vector<CameraFrame> Frames() const;
     CameraFrame Last() const;
+    /// "missing 12 x 2": the stage, the first id, and how many.
+    QStringList Losses() const;
     void Clear();
 
 private:
@@ -31,5 +36,6 @@ private:
     std::condition_variable m_arrived;
     std::vector<CameraFrame> m_frames;
     CameraFrame m_last;
+    QStringList m_losses;
     size_t m_count = 0;
 };

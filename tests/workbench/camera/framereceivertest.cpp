@@ -25,6 +25,7 @@ private slots:
     void CountsMissingIdsAsLostInTheCamera();
     void WrapOfTheShortIdIsNoLoss();
     void CountsDamagedFramesAsLostInTransfer();
+    void IdsOfDamagedFramesAreNotTrusted();
     void ClosedGateNeitherCountsNorDelivers();
     void TicksWithoutExposureAreNoFrames();
     void HeldFramesKeepTheirPixels();
@@ -134,6 +135,28 @@ void FrameReceiverTest::CountsDamagedFramesAsLostInTransfer()
     QCOMPARE(m_ledger.Counts().LostAt(LossStage::Transfer), quint64(1));
     QCOMPARE(m_ledger.Counts().LostAt(LossStage::Camera), quint64(0)); // counted once, not again as a gap
     QCOMPARE(m_collector.Count(), size_t(2));
+}
+
+/// A frame without its first packet has the id that its buffer had before, or none.
+void FrameReceiverTest::IdsOfDamagedFramesAreNotTrusted()
+{
+    const auto deliverDamaged = [this](quint64 id) {
+        ArvBuffer *damaged = arv_buffer_new_allocate(size_t(Width) * (Height - 1));
+        arv_fake_camera_fill_buffer(m_camera, damaged, nullptr);
+        arv_buffer_set_frame_id(damaged, id);
+        QVERIFY(!m_receiver->Deliver(damaged));
+        g_object_unref(damaged);
+    };
+    deliverDamaged(0); // its id is not known before a whole frame came
+    Deliver(65403);
+    deliverDamaged(0);     // 65404
+    deliverDamaged(65403); // 65405
+    Deliver(65408);        // 65406 and 65407 never came
+    deliverDamaged(65402); // 65409
+    QCOMPARE(m_ledger.Counts().LostAt(LossStage::Transfer), quint64(4));
+    QCOMPARE(m_ledger.Counts().LostAt(LossStage::Camera), quint64(2));
+    QCOMPARE(m_collector.Losses(), (QStringList{ "incomplete 0 x 1", "incomplete 65404 x 1", "incomplete 65405 x 1",
+                                                 "missing 65406 x 2", "incomplete 65409 x 1" }));
 }
 
 void FrameReceiverTest::ClosedGateNeitherCountsNorDelivers()

@@ -100,8 +100,7 @@ private slots:
         QVERIFY(!receipt.IsWhole());
         CompareAll(receipt);
         const QVector<IdGap> missing = MissingIds(receipt.outcome, receipt.stamps);
-        QVERIFY(missing.first().first < receipt.stamps.first().frameId);
-        QVERIFY(missing.last().first > receipt.stamps.last().frameId);
+        QVERIFY(!missing.isEmpty() && missing.last().first > receipt.stamps.last().frameId);
     }
 
 private:
@@ -142,11 +141,13 @@ private:
         QCOMPARE(counts.saved, quint64(receipt.stamps.size()));
         // One may have been on its way when the camera was stopped, and another one in the making.
         const quint64 told = counts.captured + counts.Lost();
-        QVERIFY2(told <= m_made && m_made <= told + 2, qPrintable(QString("%1 of %2").arg(told).arg(m_made)));
+        QVERIFY2(told <= m_made && m_made <= told + 2, qPrintable(QString("%1 of %2: %3").arg(told).arg(m_made).arg(receipt.Text())));
         quint64 missing = 0;
         for (const IdGap &gap : MissingIds(receipt.outcome, receipt.stamps))
             missing += gap.count;
-        QCOMPARE(missing, counts.Lost());
+        QVERIFY(missing <= counts.Lost());
+        const quint64 known = receipt.stamps.last().frameId - receipt.stamps.first().frameId + 1 - counts.saved;
+        QVERIFY(missing >= known); // but for those before the first whole frame, whose ids nobody knows
         QVERIFY(receipt.Text().contains(QString("Frames lost: %1 (").arg(counts.Lost())));
         CompareWithTheChart(receipt.files.first(), receipt.stamps.size());
     }
