@@ -24,6 +24,7 @@
 #include "recordingstatus.h"
 #include "savesettings.h"
 #include "shownframes.h"
+#include "spectrometermenu.h"
 #include "statusline.h"
 #include "uimanagerbase.h"
 #include "viewcodes.h"
@@ -175,6 +176,10 @@ void MainWindow::BuildMenus()
     connect(m_viewMenu, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
     connect(m_viewMenu, SIGNAL(signalDrawingChosen(bool)), m_drawingGuard, SLOT(slotSetCPUDraw(bool)));
 
+    auto *spectrometer = new SpectrometerMenu(m_services, this);
+    menuBar()->addMenu(spectrometer);
+    connect(spectrometer, &SpectrometerMenu::signalMessage, this, &MainWindow::slotShowMessage);
+
     QMenu *help = menuBar()->addMenu(tr("&Help"));
     help->addAction(tr("&Plug-ins…"), [this] {
         (new PluginDialog(UIManagerBase::PluginReports(), PluginList::Folders(), this))->open();
@@ -182,7 +187,8 @@ void MainWindow::BuildMenus()
     help->addAction(tr("&About"), [this] { InformationDialog::ShowAbout(this); });
 
     // While the window fills the screen the menu bar is hidden, and its keys would be with it.
-    for (QMenu *menu : {file, edit, static_cast<QMenu *>(camera), static_cast<QMenu *>(recording), static_cast<QMenu *>(m_viewMenu)})
+    for (QMenu *menu : {file, edit, static_cast<QMenu *>(camera), static_cast<QMenu *>(recording), static_cast<QMenu *>(m_viewMenu),
+                        static_cast<QMenu *>(spectrometer)})
         addActions(menu->actions());
 }
 

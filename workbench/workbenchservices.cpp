@@ -41,6 +41,7 @@
 #include "spectrumranges.h"
 #include "spectrumsettings.h"
 #include "usearea.h"
+#include "viewcodes.h"
 #include "workspace.h"
 #include "workspaceconfig.h"
 
@@ -98,6 +99,8 @@ WorkbenchServices::~WorkbenchServices()
 {
     m_repair.waitForDone();
     m_preview->StopPreview();
+    m_frameTee->SetListener(nullptr);
+    m_spectrumPipeline.reset(); // frames that wait there ask for the orientation
     delete m_pictureList;
 }
 
@@ -127,7 +130,7 @@ void WorkbenchServices::StartSpectrum()
     m_spectrumRanges = std::make_unique<SpectrumRanges>();
     m_centreDisplay = std::make_unique<CentreDisplay>(m_settings);
     m_spectrumSettings = std::make_unique<SpectrumSettings>(m_spectrumRanges.get(), m_centreDisplay.get());
-    m_spectrumPipeline = std::make_unique<SpectrumPipeline>();
+    m_spectrumPipeline = std::make_unique<SpectrumPipeline>([this] { return m_orientation->Get(); });
     m_peakFinding = std::make_unique<PeakFinding>();
 }
 
@@ -223,6 +226,21 @@ void WorkbenchServices::ConnectSpectrum()
         connect(m_profiles.get(), &LiveProfiles::signalLinesChanged, picture, &OpenedPicture::slotSetCurveLines);
         picture->slotSetCurveLines(m_profiles->Lines());
     }
+    m_frameTee->SetListener(m_spectrumPipeline.get());
+    SpectrumSettings *settings = m_spectrumSettings.get();
+    connect(m_preview.get(), &LivePreview::signalPictureSizeChanged, settings, &SpectrumSettings::slotSetFrameSize);
+    connect(settings, &SpectrumSettings::signalRecipeChanged, m_spectrumPipeline.get(),
+            [this, settings] { m_spectrumPipeline->SetRecipe(settings->Recipe()); });
+    connect(m_spectrumPipeline.get(), &SpectrumPipeline::signalTracksFound, settings, [settings](const QList<QRectF> &tracks) {
+        if (settings->SetTracks(tracks))
+            settings->SetMultiTrackOnFlag(true);
+    });
+    connect(m_config.get(), &WorkspaceConfig::signalSwitchView, settings, [this, settings] {
+        const int view = m_config->GetCurrentView();
+        settings->slotSetImageShown(view == ImageView || view == ImageCompareView);
+    });
+    connect(m_mainPicture.get(), &OpenedPicture::signalAxis, settings, &SpectrumSettings::SetImageAxis);
+    connect(settings, &SpectrumSettings::signalMessage, this, &WorkbenchServices::signalMessage);
 }
 
 /// The curves of a standing picture need a frame to be made of.

@@ -79,6 +79,7 @@ public:
     CentreDisplay *Centre() const { return m_centreDisplay.get(); }
     SpectrumSettings *Spectrum() const { return m_spectrumSettings.get(); }
     LiveProfiles *Profiles() const { return m_profiles.get(); }
+    SpectrumPipeline *Spectra() const { return m_spectrumPipeline.get(); }
 
 public slots:
     /// Shows what the workbench is used for: the picture or a spectrum page. For the first time when the pages are built.

@@ -20,6 +20,12 @@ bool FrameTee::StartRecording(FrameSink *recording) { return Start(&m_recording,
 
 void FrameTee::StopRecording() { Stop(&m_recording); }
 
+void FrameTee::SetListener(FrameSink *sink)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_listener = sink;
+}
+
 bool FrameTee::Start(FrameSink **place, FrameSink *sink)
 {
     bool isFirst = false;
@@ -54,6 +60,8 @@ void FrameTee::OnFrame(const CameraFrame &frame)
     const std::lock_guard<std::mutex> lock(m_mutex);
     if (m_recording)
         m_recording->OnFrame(frame);
+    if (m_listener)
+        m_listener->OnFrame(frame);
     if (m_display)
         m_display->OnFrame(frame);
 }

@@ -21,6 +21,9 @@ public:
     bool StartRecording(FrameSink *recording);
     /// After this no frame reaches the recording any more.
     void StopRecording();
+    /// `sink` gets every frame that comes, for as long as the display or a recording wants any; null ends it. It belongs
+    /// to none of the two, and no frame comes because of it.
+    void SetListener(FrameSink *sink);
 
 private:
     void OnFrame(const CameraFrame &frame) override;
@@ -32,4 +35,5 @@ private:
     std::mutex m_mutex; ///< held while a frame is handed on
     FrameSink *m_display = nullptr;
     FrameSink *m_recording = nullptr;
+    FrameSink *m_listener = nullptr;
 };

@@ -98,9 +98,21 @@ void OpenedPicture::Take(const LoadedPicture &picture)
         AnnounceDocument();
     else
         AnnounceFrame();
+    AnnounceSpectrum(isOther);
     if (!m_shown.thumbnail.isNull())
         emit sglAddThumbnail(m_shown.thumbnail);
     emit UIConfigManager::GetInstance()->signalImageInfoChanged();
+}
+
+/// An opened spectrum begins along its rows, with the middle one.
+void OpenedPicture::AnnounceSpectrum(bool isOther)
+{
+    emit signalAxis(m_shown.axis);
+    if (!isOther || !IsSenImage())
+        return;
+    emit signalOpenSpefile();
+    const QSize size = m_shown.samples.Size();
+    GetIntensityCurveHistogramData(QPointF(size.width() / 2.0, size.height() / 2.0), QRectF(0, 0, 1, 1), 0);
 }
 
 void OpenedPicture::AnnounceDocument()
@@ -216,6 +228,7 @@ void OpenedPicture::CloseImage()
     emit signalUpdateFileName(QString());
     emit signalResetImageInfo();
     emit signalResetImageSize();
+    emit signalAxis(SpectralAxis());
     TellFrameBrowser();
     emit UIConfigManager::GetInstance()->signalImageInfoChanged();
 }
@@ -252,7 +265,7 @@ PictureDocument *OpenedPicture::WantedDocument() const { return m_wanted; }
 
 bool OpenedPicture::IsNonImage() const { return !m_document; }
 
-bool OpenedPicture::IsSenImage() const { return false; }
+bool OpenedPicture::IsSenImage() const { return !IsNonImage() && m_shown.info.format == PictureFormat::Spe; }
 
 bool OpenedPicture::Is32BitMat() const
 {
@@ -280,7 +293,13 @@ QString OpenedPicture::GetPixelString() const
                      QPoint(int(std::floor(m_mousePos.x())), int(std::floor(m_mousePos.y()))));
 }
 
-QString OpenedPicture::GetExpansionArea() const { return QString(); }
+/// The values of the first and the last column.
+QString OpenedPicture::GetExpansionArea() const
+{
+    if (m_shown.axis.IsEmpty())
+        return QString();
+    return QString("%1;%2").arg(m_shown.axis.values.first(), 0, 'f', 4).arg(m_shown.axis.values.last(), 0, 'f', 4);
+}
 
 int OpenedPicture::GetRotateDegree() const { return m_shown.request.edit.GetOrientation().Degrees(); }
 

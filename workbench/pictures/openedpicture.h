@@ -89,6 +89,8 @@ signals:
     /// A picture, or another one than before, is on the screen.
     void signalShown();
     void signalFailed(PictureDocument *document, QString error);
+    /// What the columns of the picture mean; empty when nobody says.
+    void signalAxis(const SpectralAxis &axis);
     /// The picture that was asked for will not come.
     void signalGivenUp();
     /// The user wants to say where to save what is shown, or to read about it.
@@ -111,6 +113,7 @@ private:
     void AnnounceFrame();
     void AnnounceCurves();
     void TellFrameBrowser();
+    void AnnounceSpectrum(bool isOther);
     void Follow(PictureDocument *document);
     void Forget();
 

@@ -191,6 +191,8 @@ LoadedPicture PictureLoader::Loaded(const PictureRequest &request)
         m_nextFrames.Shown(request.place, { request.file.id, request.frame }, file->Info().frames);
         loaded.info = file->Info();
         loaded.frameDescription = file->FrameDescription(request.frame);
+        if (request.edit.IsNone())
+            loaded.axis = file->AxisOf(request.frame);
     });
     loaded.news = m_access.TakeNews(request.file);
     return loaded;

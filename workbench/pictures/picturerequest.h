@@ -33,6 +33,7 @@ struct LoadedPicture
     QImage image;     ///< the same, for the screen
     QImage thumbnail; ///< null unless it was wanted
     SampleRange range;
+    SpectralAxis axis; ///< of the columns as seen; empty without one, or when an edit has moved them
 };
 Q_DECLARE_METATYPE(LoadedPicture)
 

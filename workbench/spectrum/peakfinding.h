@@ -3,7 +3,7 @@
 
 #include "algspectrometer.h"
 
-/// Spectrometer algorithms. Finds no peaks yet. GUI thread.
+/// Peaks for the plots. GUI thread.
 class PeakFinding : public AlgSpectrometer
 {
     Q_OBJECT
@@ -11,6 +11,8 @@ class PeakFinding : public AlgSpectrometer
 public:
     explicit PeakFinding(QObject *parent = nullptr);
 
+    /// The `peakNumber` highest peaks by rising index, all of them with 0. `window` is the half width of the widest line
+    /// in samples, `threshold` how certain a peak is to be (see PeakRules), and `mode` has no meaning here.
     void Findcurvepeak(unsigned int *data, int count, int peakNumber, std::vector<int> &peaks, int window,
                        float threshold, int mode) override;
 };

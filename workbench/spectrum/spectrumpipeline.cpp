@@ -1,34 +1,261 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectrumpipeline.h"
 
-SpectrumPipeline::SpectrumPipeline(QObject *parent)
-    : SpectrumManager(parent)
+#include "pixelmove.h"
+
+#include <utility>
+
+namespace {
+
+SampleView ViewOf(const CameraFrame &frame)
 {
+    SampleView view;
+    view.samples = frame.pixels.get();
+    view.width = frame.width;
+    view.height = frame.height;
+    view.strideBytes = frame.strideBytes;
+    view.bitDepth = frame.BitDepth();
+    view.isColour = frame.layout == PixelLayout::Rgb8;
+    return view;
+}
+
+/// The frame as it is laid on the screen; `memory` holds it when it is turned.
+SampleView OrientedView(const CameraFrame &frame, const Orientation &orientation, std::vector<uchar> *memory)
+{
+    SampleView view = ViewOf(frame);
+    if (orientation == Orientation())
+        return view;
+    const int bytesPerPixel = BytesPerPixel(frame.layout);
+    const QSize size = orientation.Map(QSize(frame.width, frame.height));
+    memory->resize(size_t(size.width()) * size_t(size.height()) * size_t(bytesPerPixel));
+    view.strideBytes = size.width() * bytesPerPixel;
+    MovePixels({frame.pixels.get(), QSize(frame.width, frame.height), frame.strideBytes, bytesPerPixel}, orientation, memory->data(),
+               view.strideBytes);
+    view.samples = memory->data();
+    view.width = size.width();
+    view.height = size.height();
+    return view;
+}
+
+QList<QRectF> TracksOf(const SampleView &picture)
+{
+    QList<QRectF> tracks;
+    for (const RowBand &band : FindBands(CrossProfile(picture, true)))
+        tracks << QRectF(0, band.top, picture.width, band.bottom - band.top);
+    return tracks;
+}
+
+} // namespace
+
+SpectrumPipeline::SpectrumPipeline(std::function<Orientation()> orientation, QObject *parent)
+    : SpectrumManager(parent)
+    , m_orientation(std::move(orientation))
+    , m_thread([this] { Run(); })
+{
+}
+
+SpectrumPipeline::~SpectrumPipeline()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_stops = true;
+    }
+    m_wake.notify_all();
+    m_thread.join();
+}
+
+void SpectrumPipeline::SetRecipe(const SpectrumRecipe &recipe)
+{
+    m_quantity = recipe.corrections.quantity;
+    ChangeEngine([recipe](SpectrumEngine *engine) { engine->SetRecipe(recipe); });
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_isWanted = recipe.IsAnythingWanted();
+    if (!m_isWanted)
+        m_queue.clear();
+}
+
+bool SpectrumPipeline::TakeDark()
+{
+    if (m_shown.raw.values.empty())
+        return false;
+    ChangeEngine([dark = m_shown.raw.values](SpectrumEngine *engine) { engine->SetDark(dark); });
+    return true;
+}
+
+bool SpectrumPipeline::TakeReference()
+{
+    if (m_shown.raw.values.empty())
+        return false;
+    ChangeEngine([reference = m_shown.raw.values](SpectrumEngine *engine) { engine->SetReference(reference); });
+    return true;
+}
+
+void SpectrumPipeline::FindBandAgain()
+{
+    ChangeEngine([](SpectrumEngine *engine) { engine->FindBandAgain(); });
+}
+
+void SpectrumPipeline::FindTracks()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_findsTracks = true;
+}
+
+void SpectrumPipeline::ChangeEngine(const std::function<void(SpectrumEngine *)> &change)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_change = [before = std::move(m_change), change](SpectrumEngine *engine) {
+        if (before)
+            before(engine);
+        change(engine);
+    };
+}
+
+// The camera's and our own thread
+
+void SpectrumPipeline::OnFrame(const CameraFrame &frame)
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (!m_isWanted && !m_findsTracks)
+            return;
+        ++m_ledger.taken;
+        if (m_queue.size() >= MostWaiting) {
+            ++m_ledger.missed;
+            return;
+        }
+        m_queue.push_back(frame);
+    }
+    m_wake.notify_one();
+}
+
+void SpectrumPipeline::Run()
+{
+    for (;;) {
+        CameraFrame frame;
+        std::function<void(SpectrumEngine *)> change;
+        bool findsTracks = false;
+        {
+            std::unique_lock<std::mutex> lock(m_mutex);
+            m_wake.wait(lock, [this] { return m_stops || !m_queue.empty(); });
+            if (m_stops)
+                return;
+            frame = std::move(m_queue.front());
+            m_queue.pop_front();
+            change = std::exchange(m_change, nullptr);
+            findsTracks = std::exchange(m_findsTracks, false);
+        }
+        Work(frame, change, findsTracks);
+    }
+}
+
+void SpectrumPipeline::Work(const CameraFrame &frame, const std::function<void(SpectrumEngine *)> &change, bool findsTracks)
+{
+    if (change)
+        change(&m_engine);
+    const SampleView picture = OrientedView(frame, m_orientation ? m_orientation() : Orientation(), &m_turned);
+    if (findsTracks) {
+        QMetaObject::invokeMethod(this, [this, tracks = TracksOf(picture)] { emit signalTracksFound(tracks); }, Qt::QueuedConnection);
+    }
+    SpectrumProduct product = m_engine.Make(picture, frame.frameId);
+    ++m_ledger.computed;
+    Deliver(std::move(product));
+}
+
+/// What a spectrum found that nobody has seen yet is handed on with the newer one that takes its place.
+void SpectrumPipeline::Deliver(SpectrumProduct product)
+{
+    const std::lock_guard<std::mutex> lock(m_deliveryMutex);
+    product.isBandNew = product.isBandNew || (m_isNew && m_newest.isBandNew);
+    if (!product.areLinesNew && m_isNew && m_newest.areLinesNew) {
+        product.lines = std::move(m_newest.lines);
+        product.areLinesNew = true;
+    }
+    m_newest = std::move(product);
+    m_isNew = true;
+    if (!std::exchange(m_isOnItsWay, true))
+        QMetaObject::invokeMethod(this, &SpectrumPipeline::slotAnnounce, Qt::QueuedConnection);
+}
+
+// The GUI thread
+
+/// The plots exchange the buffers in events of their own, which run before slotDelivered().
+void SpectrumPipeline::slotAnnounce()
+{
+    {
+        const std::lock_guard<std::mutex> lock(m_deliveryMutex);
+        m_shown = std::move(m_newest);
+        m_isNew = false;
+    }
+    const int width = m_shown.frameSize.width();
+    if (m_shown.isBandNew) {
+        m_band = m_shown.band;
+        emit SignalSpectralineFVB();
+    }
+    if (!m_shown.corrected.values.empty())
+        emit SignalUpdateFVB(m_line.Fill({&m_shown.corrected}, width, m_quantity));
+    if (!m_shown.tracks.empty()) {
+        std::vector<const Spectrum *> tracks;
+        for (const Spectrum &track : m_shown.tracks)
+            tracks.push_back(&track);
+        emit SignalUpdateMultiTrack(m_tracks.Fill(tracks, width, SpectrumQuantity::Counts));
+    }
+    if (m_shown.areLinesNew) {
+        m_lines = m_shown.lines;
+        emit SignalSpectralineAutoDetectFinish();
+    }
+    emit signalSpectrumShown();
+    QMetaObject::invokeMethod(this, &SpectrumPipeline::slotDelivered, Qt::QueuedConnection);
+}
+
+void SpectrumPipeline::slotDelivered()
+{
+    const std::lock_guard<std::mutex> lock(m_deliveryMutex);
+    m_isOnItsWay = m_isNew;
+    if (m_isNew)
+        QMetaObject::invokeMethod(this, &SpectrumPipeline::slotAnnounce, Qt::QueuedConnection);
 }
 
 QList<QPointF> SpectrumPipeline::GetEndPointList() const
 {
-    return {};
+    if (m_band.bottom <= m_band.top)
+        return {};
+    return {QPointF(0, m_band.top), QPointF(0, m_band.bottom - 1)};
 }
 
 QList<float> SpectrumPipeline::GetAngleList() const
 {
-    return {};
+    QList<float> angles;
+    for (const LineFocus &line : m_lines)
+        angles << float(line.tiltDegrees);
+    return angles;
 }
 
 QList<float> SpectrumPipeline::GetDistanceList() const
 {
-    return {};
+    QList<float> widths;
+    for (const LineFocus &line : m_lines)
+        widths << float(line.width);
+    return widths;
 }
 
 QList<QPoint> SpectrumPipeline::GetLinePointList() const
 {
-    return {};
+    QList<QPoint> points;
+    for (const LineFocus &line : m_lines)
+        points << line.area.topRight();
+    return points;
 }
 
 QList<QRect> SpectrumPipeline::GetExtendRectList() const
 {
-    return {};
+    QList<QRect> areas;
+    for (const LineFocus &line : m_lines)
+        areas << line.area;
+    return areas;
 }
 
-void SpectrumPipeline::ClearFocusInfo() {}
+void SpectrumPipeline::ClearFocusInfo()
+{
+    m_lines.clear();
+}

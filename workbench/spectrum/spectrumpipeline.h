@@ -1,15 +1,48 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cameraframe.h"
+#include "framesink.h"
+#include "linepayload.h"
+#include "orientation.h"
+#include "spectrumengine.h"
+#include "spectrumledger.h"
 #include "spectrummanager.h"
 
-/// The spectrum pipeline, which finds no lines yet: every list is empty. GUI thread.
-class SpectrumPipeline : public SpectrumManager
+#include <condition_variable>
+#include <deque>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+/// Makes spectra of the raw samples of every frame, in a thread of its own. A frame is never skipped: they wait in a
+/// bounded queue, and one that finds it full is counted as missed. The screen gets the newest spectrum; at most one
+/// waits for the GUI thread. All but OnFrame() and Run() belongs to the GUI thread.
+class SpectrumPipeline : public SpectrumManager, public FrameSink
 {
     Q_OBJECT
 
 public:
-    explicit SpectrumPipeline(QObject *parent = nullptr);
+    static constexpr size_t MostWaiting = 64; ///< frames
+
+    /// `orientation` says how frames are laid on the screen, from any thread; upright without it.
+    explicit SpectrumPipeline(std::function<Orientation()> orientation = {}, QObject *parent = nullptr);
+    ~SpectrumPipeline() override;
+
+    /// From the next frame on.
+    void SetRecipe(const SpectrumRecipe &recipe);
+    /// The newest uncorrected spectrum becomes the dark or the reference spectrum; false when there is none.
+    bool TakeDark();
+    bool TakeReference();
+    /// The band is looked for again.
+    void FindBandAgain();
+    /// Looks for tracks in the next frame; signalTracksFound() tells.
+    void FindTracks();
+
+    /// The newest one that was announced.
+    const SpectrumProduct &Shown() const { return m_shown; }
+    const SpectrumLedger &Ledger() const { return m_ledger; }
+    void ResetLedger() { m_ledger.Reset(); }
 
     QList<QPointF> GetEndPointList() const override;
     QList<float> GetAngleList() const override;
@@ -17,4 +50,46 @@ public:
     QList<QPoint> GetLinePointList() const override;
     QList<QRect> GetExtendRectList() const override;
     void ClearFocusInfo() override;
+
+    void OnFrame(const CameraFrame &frame) override;
+
+signals:
+    /// Shown() is a new one.
+    void signalSpectrumShown();
+    void signalTracksFound(QList<QRectF> tracks);
+
+private:
+    void Run();
+    void Work(const CameraFrame &frame, const std::function<void(SpectrumEngine *)> &change, bool findsTracks);
+    void ChangeEngine(const std::function<void(SpectrumEngine *)> &change);
+    void Deliver(SpectrumProduct product);
+    void slotAnnounce();
+    void slotDelivered();
+
+    const std::function<Orientation()> m_orientation;
+
+    std::mutex m_mutex; ///< of the next ones
+    std::condition_variable m_wake;
+    std::deque<CameraFrame> m_queue;
+    std::function<void(SpectrumEngine *)> m_change; ///< what is to be done before the next frame
+    bool m_findsTracks = false;
+    bool m_isWanted = false;
+    bool m_stops = false;
+
+    std::mutex m_deliveryMutex; ///< of the next ones
+    SpectrumProduct m_newest;
+    bool m_isNew = false;
+    bool m_isOnItsWay = false;
+
+    SpectrumEngine m_engine; ///< of the thread
+    std::vector<uchar> m_turned; ///< of the thread: the frame as it is laid on the screen
+
+    SpectrumLedger m_ledger;
+    SpectrumQuantity m_quantity = SpectrumQuantity::Counts;
+    SpectrumProduct m_shown;
+    RowBand m_band;
+    std::vector<LineFocus> m_lines;
+    LinePayload m_line;
+    LinePayload m_tracks;
+    std::thread m_thread; ///< last: everything it uses is there before it
 };

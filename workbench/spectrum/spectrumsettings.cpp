@@ -68,77 +68,254 @@ DisplayModeManager *SpectrumSettings::GetDisplayModeManager() const
     return m_ranges;
 }
 
-int SpectrumSettings::GetFVBOnFlag() const
+// Full vertical binning
+
+int SpectrumSettings::GetFVBOnFlag() const { return m_recipe.isBinning ? 1 : 0; }
+
+/// The plot shows either a binned spectrum or tracks.
+void SpectrumSettings::SetFVBOnFlag(int on)
 {
-    return 0;
+    if (m_recipe.isBinning == (on != 0))
+        return;
+    m_recipe.isBinning = on != 0;
+    if (m_recipe.isBinning)
+        SetMultiTrackOnFlag(false);
+    emit SignalFVBOnFlagChanged(m_recipe.isBinning);
+    if (!m_recipe.isBinning)
+        emit SignalFVBClose();
+    emit signalRecipeChanged();
 }
 
-void SpectrumSettings::SetFVBOnFlag(int) {}
+bool SpectrumSettings::IsFVBModeAll() const { return m_recipe.rows == BinnedRows::All; }
 
-bool SpectrumSettings::IsFVBModeAll() const
+bool SpectrumSettings::IsFVBModeAuto() const { return m_recipe.rows == BinnedRows::Auto; }
+
+bool SpectrumSettings::GetManualFlag() const { return m_recipe.rows == BinnedRows::Manual; }
+
+void SpectrumSettings::SetBinnedRows(BinnedRows rows)
 {
+    if (m_recipe.rows == rows)
+        return;
+    const bool wasManual = GetManualFlag();
+    m_recipe.rows = rows;
+    if (rows == BinnedRows::Manual && m_recipe.bottom <= m_recipe.top)
+        m_recipe.bottom = qMax(0, m_frameSize.height() - 1); // the whole picture, to begin with
+    if (rows == BinnedRows::All)
+        emit SignalFVBModeAll();
+    if (wasManual != GetManualFlag())
+        emit SignalFVBManualFlagChanged(GetManualFlag());
+    emit signalRecipeChanged();
+}
+
+int SpectrumSettings::GetTop() const { return m_recipe.top; }
+
+void SpectrumSettings::SetTop(int row)
+{
+    if (m_recipe.top == row)
+        return;
+    m_recipe.top = row;
+    emit signalRecipeChanged();
+}
+
+int SpectrumSettings::GetBottom() const { return m_recipe.bottom; }
+
+void SpectrumSettings::SetBottom(int row)
+{
+    if (m_recipe.bottom == row)
+        return;
+    m_recipe.bottom = row;
+    emit signalRecipeChanged();
+}
+
+// Tracks
+
+bool SpectrumSettings::GetMultiTrackOnFlag() const { return m_recipe.hasTracks; }
+
+void SpectrumSettings::SetMultiTrackOnFlag(bool on)
+{
+    if (m_recipe.hasTracks == on)
+        return;
+    const QString fault = on ? TracksFault(m_tracks, m_frameSize, MostTracks(m_recipe.isHorizontal)) : QString();
+    if (!fault.isEmpty()) {
+        emit signalMessage(fault);
+        return;
+    }
+    m_recipe.hasTracks = on;
+    if (on)
+        SetFVBOnFlag(0);
+    emit SignalMultiTrackOnFlagChanged();
+    emit signalRecipeChanged();
+}
+
+/// Drawn across the tracks, the plot has room for 20 of them.
+int SpectrumSettings::MostTracks(bool horizontal) const
+{
+    constexpr int mostInVerticalPlot = 20;
+    constexpr int mostAtAll = 256;
+    return horizontal ? mostAtAll : mostInVerticalPlot;
+}
+
+bool SpectrumSettings::SetTracks(const QList<QRectF> &tracks)
+{
+    const QString fault = TracksFault(tracks, m_frameSize, MostTracks(m_recipe.isHorizontal));
+    if (!fault.isEmpty()) {
+        emit signalMessage(fault);
+        return false;
+    }
+    m_tracks.clear();
+    m_recipe.tracks.clear();
+    for (const QRectF &track : tracks) {
+        RowBand band;
+        band.top = qRound(track.top());
+        band.bottom = qRound(track.bottom());
+        m_recipe.tracks.push_back(band);
+        // A track is as wide as the frame: the plots count on it.
+        m_tracks << QRectF(0, band.top, m_frameSize.width(), band.bottom - band.top);
+    }
+    if (m_recipe.hasTracks)
+        emit SignalMultiTrackOnFlagChanged();
+    emit signalRecipeChanged();
     return true;
 }
 
-bool SpectrumSettings::IsFVBModeAuto() const
+QList<QRectF> SpectrumSettings::GetMultiTrackList() const { return m_tracks; }
+
+void SpectrumSettings::SwitchTracksOff(const QString &reason)
 {
-    return false;
+    m_tracks.clear();
+    m_recipe.tracks.clear();
+    SetMultiTrackOnFlag(false);
+    emit signalMessage(reason);
 }
 
-bool SpectrumSettings::GetManualFlag() const
+void SpectrumSettings::slotSetFrameSize(QSize size)
 {
-    return false;
+    if (m_frameSize == size)
+        return;
+    m_frameSize = size;
+    for (QRectF &track : m_tracks)
+        track.setWidth(size.width());
+    if (!m_tracks.isEmpty()) {
+        const QString fault = TracksFault(m_tracks, size, MostTracks(m_recipe.isHorizontal));
+        if (!fault.isEmpty())
+            SwitchTracksOff(fault);
+        else if (m_recipe.hasTracks)
+            emit SignalMultiTrackOnFlagChanged();
+    }
+    if (!Calibration().IsNull())
+        AnnounceAxis();
 }
 
-int SpectrumSettings::GetTop() const
+bool SpectrumSettings::GetSpeSelectionFlag() const { return false; }
+
+/// Rectangles and lines.
+int SpectrumSettings::GetSpectrumSelectionMode() const { return 0; }
+
+bool SpectrumSettings::GetFocusAssitanceFlag() const { return m_recipe.isFocusing; }
+
+void SpectrumSettings::SetFocusAssitanceFlag(bool on)
 {
-    return 0;
+    if (m_recipe.isFocusing == on)
+        return;
+    m_recipe.isFocusing = on;
+    emit SignalFocusOnChanged(on);
+    emit SignalFocusCrossLineFlagChanged(on);
+    if (!on)
+        emit SignalAssitanceFocusClose();
+    emit signalRecipeChanged();
 }
 
-void SpectrumSettings::SetTop(int) {}
+// Direction and corrections
 
-int SpectrumSettings::GetBottom() const
+bool SpectrumSettings::IsDirectionHorinzontal() const { return m_recipe.isHorizontal; }
+
+void SpectrumSettings::SetDirectionHorizontal() { SetHorizontal(true); }
+
+void SpectrumSettings::SetHorizontal(bool horizontal)
 {
-    return 0;
+    if (m_recipe.isHorizontal == horizontal)
+        return;
+    if (m_recipe.hasTracks && m_tracks.size() > MostTracks(horizontal)) {
+        emit signalMessage(TracksFault(m_tracks, m_frameSize, MostTracks(horizontal)));
+        return;
+    }
+    m_recipe.isHorizontal = horizontal;
+    emit signalRecipeChanged();
+    if (m_recipe.hasTracks)
+        emit SignalMultiTrackOnFlagChanged(); // the range of the track bar is another
+    AnnounceAxis();
 }
 
-void SpectrumSettings::SetBottom(int) {}
-
-bool SpectrumSettings::GetMultiTrackOnFlag() const
+void SpectrumSettings::SetCorrections(const CorrectionSettings &corrections)
 {
-    return false;
+    if (m_recipe.corrections == corrections)
+        return;
+    m_recipe.corrections = corrections;
+    emit signalRecipeChanged();
 }
 
-void SpectrumSettings::SetMultiTrackOnFlag(bool) {}
+// Calibration
 
-QList<QRectF> SpectrumSettings::GetMultiTrackList() const
+void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration)
 {
-    return {};
+    m_liveAxis.SetCalibration(calibration);
+    AnnounceAxis();
 }
 
-bool SpectrumSettings::GetSpeSelectionFlag() const
+void SpectrumSettings::SetUnit(SpectralUnit unit)
 {
-    return false;
+    if (m_unit == unit)
+        return;
+    m_unit = unit;
+    m_liveAxis.SetUnit(unit);
+    m_imageAxis.SetUnit(unit);
+    emit signalUnitChanged();
+    AnnounceAxis();
 }
 
-int SpectrumSettings::GetSpectrumSelectionMode() const
+void SpectrumSettings::SetImageAxis(const SpectralAxis &axis)
 {
-    return 0;
+    m_imageAxis.SetFileAxis(axis);
+    AnnounceAxis();
 }
 
-bool SpectrumSettings::GetFocusAssitanceFlag() const
+void SpectrumSettings::slotSetImageShown(bool shown)
 {
-    return false;
+    if (m_isImageShown == shown)
+        return;
+    m_isImageShown = shown;
+    AnnounceAxis();
 }
 
-void SpectrumSettings::SetFocusAssitanceFlag(bool) {}
-
-bool SpectrumSettings::IsDirectionHorinzontal() const
+/// Rulers, titles and labels follow.
+void SpectrumSettings::AnnounceAxis()
 {
-    return true;
+    AnnounceLiveArea();
+    CalculateImageArea();
+    emit signalDisplayModePropertyChange();
+    emit SignalConversationFormulaChanged();
 }
 
-void SpectrumSettings::SetDirectionHorizontal() {}
+/// A live spectrum of another width comes from another part of the sensor, of which nothing is known.
+bool SpectrumSettings::Calculate(int pixel, double &x) const
+{
+    x = pixel;
+    const CalibratedAxis &axis = ShownAxis();
+    const bool fits = m_isImageShown || axis.Calibration().Width() == m_frameSize.width();
+    if (!axis.IsCalibrated() || axis.Unit() == SpectralUnit::Pixel || !fits)
+        return false;
+    x = axis.At(pixel);
+    return qIsFinite(x);
+}
+
+/// Two numbers that differ, as OpenedPicture::GetExpansionArea() writes them.
+bool SpectrumSettings::IsValidConversation(QString *text) const
+{
+    const QStringList ends = text ? text->split(';') : QStringList();
+    bool isFirst = false;
+    bool isLast = false;
+    return ends.size() == 2 && ends[0].toDouble(&isFirst) != ends[1].toDouble(&isLast) && isFirst && isLast;
+}
 
 void SpectrumSettings::SlotNewArea(double xmin, double xmax, double ymin, double ymax)
 {
@@ -193,74 +370,46 @@ double SpectrumSettings::RulerValue(double pixel, bool isSpectralSide) const
     return isSpectralSide && Calculate(qRound(pixel), value) ? value : pixel;
 }
 
-bool SpectrumSettings::Calculate(int, double &) const
+// Style
+
+void SpectrumSettings::SetStyle(const PlotStyle &style)
 {
-    return false;
+    m_style = style;
+    emit SignalSpectralPropertyChanged();
 }
 
-bool SpectrumSettings::IsValidConversation(QString *) const
-{
-    return false;
-}
+QPen SpectrumSettings::GetLinePen() const { return m_style.line; }
 
-QPen SpectrumSettings::GetLinePen() const
-{
-    return QPen(Qt::blue, 1.0);
-}
+QColor SpectrumSettings::GetLineColor() const { return m_style.line.color(); }
 
-QColor SpectrumSettings::GetLineColor() const
-{
-    return GetLinePen().color();
-}
+double SpectrumSettings::GetLineWidth() const { return m_style.line.widthF(); }
 
-double SpectrumSettings::GetLineWidth() const
-{
-    return GetLinePen().widthF();
-}
+int SpectrumSettings::GetLineStyle() const { return int(m_style.line.style()) - 1; }
 
-int SpectrumSettings::GetLineStyle() const
-{
-    return 0;
-}
+QPen SpectrumSettings::GetPeakPen() const { return m_style.peak; }
 
-QPen SpectrumSettings::GetPeakPen() const
-{
-    return QPen(Qt::red, 1.0);
-}
+QColor SpectrumSettings::GetPeakColor() const { return m_style.peak.color(); }
 
-QColor SpectrumSettings::GetPeakColor() const
-{
-    return GetPeakPen().color();
-}
+double SpectrumSettings::GetPeakSize() const { return m_style.peakSize; }
 
-double SpectrumSettings::GetPeakSize() const
-{
-    return 8.0;
-}
+int SpectrumSettings::GetPeakNumber() const { return m_style.peakNumber; }
 
-int SpectrumSettings::GetPeakNumber() const
-{
-    return 0;
-}
+QColor SpectrumSettings::GetBackgroundColor() const { return m_style.background; }
 
-QColor SpectrumSettings::GetBackgroundColor() const
-{
-    return Qt::white;
-}
-
-double SpectrumSettings::GetBlankRatio() const
-{
-    return 0.1;
-}
+double SpectrumSettings::GetBlankRatio() const { return m_style.blankRatio; }
 
 QString SpectrumSettings::GetTitleName() const
 {
-    return tr("Pixel Number");
+    double x = 0;
+    return Calculate(0, x) ? ShownAxis().Title() : CalibratedAxis().Title();
 }
 
-bool SpectrumSettings::GetZoomAutoFlag() const
+bool SpectrumSettings::GetZoomAutoFlag() const { return m_isZoomAutomatic; }
+
+void SpectrumSettings::SetZoomAutoFlag(bool on)
 {
-    return false;
+    if (m_isZoomAutomatic == on)
+        return;
+    m_isZoomAutomatic = on;
+    emit SignalZoomAutoFlagChange();
 }
-
-void SpectrumSettings::SetZoomAutoFlag(bool) {}

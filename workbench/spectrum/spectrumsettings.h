@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "calibratedaxis.h"
 #include "displaymode.h"
+#include "plotstyle.h"
+#include "spectrumrecipe.h"
 #include "spectrumuimanager.h"
+
+#include <QSize>
 
 class CentreDisplay;
 
-/// Display settings of the spectrum pages: their mode, and the ranges of their rulers. FVB, tracks and focus assistance
-/// are off and stay off, and nothing is calibrated. GUI thread.
+/// What the spectrum pages show and what is made of every frame for them: display mode, rows that are binned, tracks,
+/// direction, corrections, calibration, style, and the ranges of the rulers. GUI thread.
 class SpectrumSettings : public SpectrumUIManager
 {
     Q_OBJECT
@@ -18,6 +23,26 @@ public:
 
     DisplayMode Mode() const;
     void SetMode(DisplayMode mode);
+
+    const SpectrumRecipe &Recipe() const { return m_recipe; }
+    void SetBinnedRows(BinnedRows rows);
+    /// Refused, in words, when there are more tracks than fit into the plot of the other direction.
+    void SetHorizontal(bool horizontal);
+    /// Replaces the list; refused, in words, when it is empty, overlaps or leaves the frame.
+    bool SetTracks(const QList<QRectF> &tracks);
+    void SetCorrections(const CorrectionSettings &corrections);
+    /// Of live spectra as wide as it; null takes it away.
+    void SetCalibration(const SpectralCalibration &calibration);
+    const SpectralCalibration &Calibration() const { return m_liveAxis.Calibration(); }
+    /// nm, wavenumbers or pixels, as far as there is a calibration.
+    void SetUnit(SpectralUnit unit);
+    SpectralUnit Unit() const { return m_unit; }
+    /// The calibration of the opened file; an empty one for none.
+    void SetImageAxis(const SpectralAxis &axis);
+    /// The axis of what is on the screen.
+    const CalibratedAxis &ShownAxis() const { return m_isImageShown ? m_imageAxis : m_liveAxis; }
+    PlotStyle Style() const { return m_style; }
+    void SetStyle(const PlotStyle &style);
 
     int GetDisplayMode() const override;
     bool IsDisplayModeGeneral() const override;
@@ -65,6 +90,19 @@ public:
     bool GetZoomAutoFlag() const override;
     void SetZoomAutoFlag(bool on) override;
 
+public slots:
+    /// An opened picture is on the screen, or the live one.
+    void slotSetImageShown(bool shown);
+    /// Tracks that do not fit any more are switched off.
+    void slotSetFrameSize(QSize size);
+
+signals:
+    /// Something of Recipe() is another.
+    void signalRecipeChanged();
+    void signalUnitChanged();
+    /// A sentence for the status bar.
+    void signalMessage(QString text);
+
 private:
     /// The visible part of a picture, picture pixels.
     struct Area
@@ -80,9 +118,21 @@ private:
     void AnnounceArea(const Area &area, RangeSignal horizontal, RangeSignal vertical);
     void AnnounceLiveArea();
     double RulerValue(double pixel, bool isSpectralSide) const;
+    int MostTracks(bool horizontal) const;
+    void SwitchTracksOff(const QString &reason);
+    void AnnounceAxis();
 
     DisplayModeManager *m_ranges;
     CentreDisplay *m_centre;
     Area m_liveArea;
     Area m_imageArea;
+    SpectrumRecipe m_recipe;
+    QList<QRectF> m_tracks;
+    QSize m_frameSize;
+    CalibratedAxis m_liveAxis;
+    CalibratedAxis m_imageAxis;
+    SpectralUnit m_unit = SpectralUnit::Nanometre;
+    bool m_isImageShown = false;
+    bool m_isZoomAutomatic = false;
+    PlotStyle m_style;
 };

@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "guardedtest.h"
+#include "peakfinding.h"
+#include "spectrumpipeline.h"
+
+#include <QMutex>
+#include <QSignalSpy>
+
+#include <cmath>
+
+/// Frames in, payloads out, as the plots take them.
+class SpectrumPipelineTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void everyFrameIsComputedAndTheNewestShown();
+    void aFullQueueIsCounted();
+    void nothingIsTakenWhenNothingIsWanted();
+    void saturationFollowsAPixelIntoTheSpectrum();
+    void theBandIsFoundAndTold();
+    void tracksLieOneBehindTheOther();
+    void aTurnedPictureIsBinnedAsItIsSeen();
+    void darkIsTheSpectrumShown();
+    void tracksAreFoundOnRequest();
+    void focusTellsOfTheLines();
+    void changingTheRecipeWhileFramesWaitIsSafe();
+    void thePlotTakesPeaksByIndex();
+};
+
+namespace {
+
+constexpr int width = 300;
+constexpr int height = 80;
+
+/// Every sample 100, rows 20 to 39 a line of light at column 150 above it.
+CameraFrame Frame(quint64 id, int lightTop = 20, int lightBottom = 40)
+{
+    auto samples = std::make_shared<std::vector<quint16>>(size_t(width) * height, 100);
+    for (int y = lightTop; y < lightBottom; ++y) {
+        for (int x = 140; x <= 160; ++x)
+            (*samples)[size_t(y) * width + size_t(x)] = quint16(100 + 5000 * std::exp(-0.5 * std::pow((x - 150) / 2.5, 2)) + (x + y) % 3);
+    }
+    CameraFrame frame;
+    frame.pixels = std::shared_ptr<const uchar>(samples, reinterpret_cast<const uchar *>(samples->data()));
+    frame.width = width;
+    frame.height = height;
+    frame.strideBytes = 2 * width;
+    frame.layout = PixelLayout::Mono16;
+    frame.frameId = id;
+    return frame;
+}
+
+SpectrumRecipe Binning(BinnedRows rows = BinnedRows::All)
+{
+    SpectrumRecipe recipe;
+    recipe.isBinning = true;
+    recipe.rows = rows;
+    return recipe;
+}
+
+/// What a plot does: exchanges the buffers in an event of its own.
+class Plot : public QObject
+{
+public:
+    Plot(SpectrumPipeline *pipeline, void (SpectrumManager::*signal)(void *), int count)
+    {
+        connect(pipeline, signal, this, [this, count](void *param) {
+            auto *payload = static_cast<SpectrumLinePayload *>(param);
+            {
+                const QMutexLocker lock(payload->lock);
+                std::swap(payload->fill, payload->show);
+            }
+            shown = QVector<unsigned>(payload->show, payload->show + count);
+            least = payload->minimum;
+            most = payload->maximum;
+            ++times;
+        }, Qt::QueuedConnection);
+    }
+
+    QVector<unsigned> shown;
+    int least = 0;
+    int most = 0;
+    int times = 0;
+};
+
+} // namespace
+
+void SpectrumPipelineTest::everyFrameIsComputedAndTheNewestShown()
+{
+    SpectrumPipeline pipeline;
+    pipeline.SetRecipe(Binning());
+    Plot plot(&pipeline, &SpectrumManager::SignalUpdateFVB, width);
+    for (quint64 id = 1; id <= 50; ++id)
+        pipeline.OnFrame(Frame(id, 20, 20 + int(id)));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(50));
+    QTRY_VERIFY(!plot.shown.isEmpty() && plot.shown[150] >= 80 * 100 + 50 * 5000);
+    QCOMPARE(pipeline.Ledger().taken.load(), quint64(50));
+    QCOMPARE(pipeline.Ledger().computed.load(), quint64(50));
+    QCOMPARE(pipeline.Ledger().missed.load(), quint64(0));
+    QCOMPARE(plot.shown[0], 8000U);
+    QCOMPARE(plot.shown[150], unsigned(pipeline.Shown().raw.values[150]));
+    QCOMPARE(plot.least, 8000);
+    QCOMPARE(plot.most, int(plot.shown[150]));
+}
+
+void SpectrumPipelineTest::aFullQueueIsCounted()
+{
+    // The thread waits in the middle of the first frame for the orientation.
+    QMutex gate;
+    gate.lock();
+    SpectrumPipeline pipeline([&gate] {
+        const QMutexLocker lock(&gate);
+        return Orientation();
+    });
+    pipeline.SetRecipe(Binning());
+    const quint64 sent = SpectrumPipeline::MostWaiting + 11;
+    for (quint64 id = 1; id <= sent; ++id)
+        pipeline.OnFrame(Frame(id));
+    const quint64 missed = pipeline.Ledger().missed;
+    QVERIFY2(missed == 10 || missed == 11, qPrintable(QString::number(missed)));
+    gate.unlock();
+    QTRY_COMPARE(pipeline.Ledger().computed + pipeline.Ledger().missed, sent);
+}
+
+void SpectrumPipelineTest::nothingIsTakenWhenNothingIsWanted()
+{
+    SpectrumPipeline pipeline;
+    pipeline.OnFrame(Frame(1));
+    pipeline.SetRecipe(Binning());
+    pipeline.OnFrame(Frame(2));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(2));
+    pipeline.SetRecipe(SpectrumRecipe());
+    pipeline.OnFrame(Frame(3));
+    QCOMPARE(pipeline.Ledger().taken.load(), quint64(1));
+}
+
+void SpectrumPipelineTest::saturationFollowsAPixelIntoTheSpectrum()
+{
+    SpectrumPipeline pipeline;
+    pipeline.SetRecipe(Binning());
+    CameraFrame frame = Frame(1);
+    const_cast<quint16 *>(reinterpret_cast<const quint16 *>(frame.Row(33)))[77] = 65535;
+    pipeline.OnFrame(frame);
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(1));
+    std::vector<quint8> expected(width, 0);
+    expected[77] = 1;
+    QCOMPARE(pipeline.Shown().corrected.saturated, expected);
+}
+
+void SpectrumPipelineTest::theBandIsFoundAndTold()
+{
+    SpectrumPipeline pipeline;
+    QSignalSpy told(&pipeline, &SpectrumManager::SignalSpectralineFVB);
+    pipeline.SetRecipe(Binning(BinnedRows::Auto));
+    QVERIFY(pipeline.GetEndPointList().isEmpty());
+    for (quint64 id = 1; id <= 5; ++id)
+        pipeline.OnFrame(Frame(id));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(5));
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(pipeline.GetEndPointList(), QList<QPointF>({QPointF(0, 20), QPointF(0, 39)}));
+    QCOMPARE(pipeline.Shown().raw.values[0], 2000.0);
+}
+
+void SpectrumPipelineTest::tracksLieOneBehindTheOther()
+{
+    SpectrumPipeline pipeline;
+    Plot plot(&pipeline, &SpectrumManager::SignalUpdateMultiTrack, 2 * width);
+    SpectrumRecipe recipe;
+    recipe.hasTracks = true;
+    recipe.tracks = {{0, 10, 0}, {20, 40, 0}};
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(1));
+    QTRY_COMPARE(plot.times, 1);
+    QCOMPARE(plot.shown[0], 1000U);
+    QCOMPARE(plot.shown[width - 1], 1000U);
+    QCOMPARE(plot.shown[width], 2000U);
+    QVERIFY(plot.shown[width + 150] > 20 * 5000U);
+    QCOMPARE(plot.least, 1000);
+}
+
+void SpectrumPipelineTest::aTurnedPictureIsBinnedAsItIsSeen()
+{
+    SpectrumPipeline pipeline([] { return Orientation(false, 1); });
+    pipeline.SetRecipe(Binning());
+    pipeline.OnFrame(Frame(1));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(1));
+    QCOMPARE(pipeline.Shown().frameSize, QSize(height, width));
+    // Clockwise: the top row is the right column.
+    QCOMPARE(pipeline.Shown().raw.values[size_t(height - 1)], width * 100.0);
+    QVERIFY(pipeline.Shown().raw.values[size_t(height - 1 - 30)] > width * 100.0 + 5000);
+}
+
+void SpectrumPipelineTest::darkIsTheSpectrumShown()
+{
+    SpectrumPipeline pipeline;
+    QVERIFY(!pipeline.TakeDark());
+    SpectrumRecipe recipe = Binning();
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(1, 0, 0));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(1));
+    QVERIFY(pipeline.TakeDark());
+    recipe.corrections.subtractsDark = true;
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(2));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(2));
+    QCOMPARE(pipeline.Shown().corrected.values[0], 0.0);
+    QCOMPARE(pipeline.Shown().raw.values[0], 8000.0);
+    QCOMPARE(pipeline.Shown().corrections, QString("Corrections: dark subtracted."));
+}
+
+void SpectrumPipelineTest::tracksAreFoundOnRequest()
+{
+    SpectrumPipeline pipeline;
+    QList<QRectF> found;
+    QObject::connect(&pipeline, &SpectrumPipeline::signalTracksFound, &pipeline, [&](const QList<QRectF> &tracks) { found = tracks; });
+    pipeline.FindTracks();
+    pipeline.OnFrame(Frame(1));
+    QTRY_COMPARE(found, QList<QRectF>({QRectF(0, 20, width, 20)}));
+}
+
+void SpectrumPipelineTest::focusTellsOfTheLines()
+{
+    SpectrumPipeline pipeline;
+    QSignalSpy told(&pipeline, &SpectrumManager::SignalSpectralineAutoDetectFinish);
+    SpectrumRecipe recipe;
+    recipe.isFocusing = true;
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(1));
+    QVERIFY(told.wait());
+    QCOMPARE(pipeline.GetAngleList().size(), 1);
+    QVERIFY(std::abs(pipeline.GetAngleList().first()) < 0.05F);
+    QVERIFY(std::abs(pipeline.GetDistanceList().first() - 2.3548F * 2.5F) < 0.3F);
+    QVERIFY(pipeline.GetExtendRectList().first().contains(150, 30));
+    QCOMPARE(pipeline.GetLinePointList().size(), 1);
+    pipeline.ClearFocusInfo();
+    QVERIFY(pipeline.GetAngleList().isEmpty());
+}
+
+void SpectrumPipelineTest::changingTheRecipeWhileFramesWaitIsSafe()
+{
+    SpectrumPipeline pipeline;
+    Plot plot(&pipeline, &SpectrumManager::SignalUpdateFVB, width);
+    Plot tracks(&pipeline, &SpectrumManager::SignalUpdateMultiTrack, width);
+    SpectrumRecipe recipe = Binning();
+    for (quint64 id = 1; id <= 60; ++id) {
+        recipe.isBinning = id % 2 == 0;
+        recipe.hasTracks = !recipe.isBinning;
+        recipe.tracks.assign(id % 5, RowBand{0, 10, 0});
+        recipe.isHorizontal = id % 3 != 0;
+        pipeline.SetRecipe(recipe);
+        pipeline.OnFrame(Frame(id));
+        QCoreApplication::processEvents();
+    }
+    QTRY_COMPARE(pipeline.Ledger().computed + pipeline.Ledger().missed, quint64(60));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(60));
+}
+
+void SpectrumPipelineTest::thePlotTakesPeaksByIndex()
+{
+    PeakFinding finding;
+    std::vector<unsigned> data(500, 1000);
+    for (size_t i = 0; i < data.size(); ++i)
+        data[i] += unsigned(i * 7919 % 5);
+    for (const int place : {100, 250, 400}) {
+        for (int i = -8; i <= 8; ++i)
+            data[size_t(place + i)] += unsigned((place == 250 ? 900 : 3000) * std::exp(-0.5 * i * i / 4.0));
+    }
+    std::vector<int> peaks = {1, 2, 3};
+    finding.Findcurvepeak(data.data(), 500, 2, peaks, 15, 10.0F, 0);
+    QCOMPARE(peaks, std::vector<int>({100, 400}));
+    finding.Findcurvepeak(data.data(), 500, 0, peaks, 15, 10.0F, 0);
+    QCOMPARE(peaks, std::vector<int>({100, 250, 400}));
+    finding.Findcurvepeak(nullptr, 500, 2, peaks, 15, 10.0F, 0);
+    QVERIFY(peaks.empty());
+}
+
+GUARDED_TEST_MAIN(SpectrumPipelineTest)
+#include "spectrumpipelinetest.moc"

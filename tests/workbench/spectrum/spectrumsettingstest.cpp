@@ -1,0 +1,247 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calibrationfit.h"
+#include "centredisplay.h"
+#include "guardedtest.h"
+#include "spectrumranges.h"
+#include "spectrumsettings.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+/// What is set of spectra, and who is told.
+class SpectrumSettingsTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void binningAndTracksTakeTurns();
+    void rowsOfTheBandAreKept();
+    void tracksThatCannotBeAreRefusedInWords();
+    void moreThanTwentyTracksAreForThePlotAlongTheRows();
+    void aSmallerFrameSwitchesTracksOff();
+    void tracksAreAsWideAsTheFrame();
+    void calibratedInEveryUnit();
+    void aCalibrationOfAnotherWidthIsNotUsed();
+    void theAxisOfAFileIsThatOfItsPage();
+    void whatAFileSaysOfItsAreaIsChecked_data();
+    void whatAFileSaysOfItsAreaIsChecked();
+    void styleReachesThePlots();
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QSettings> m_stored;
+    std::unique_ptr<SpectrumRanges> m_ranges;
+    std::unique_ptr<CentreDisplay> m_centre;
+    std::unique_ptr<SpectrumSettings> m_settings;
+};
+
+namespace {
+
+/// 400 + 0.25 nm a pixel on 1000 pixels.
+SpectralCalibration Straight()
+{
+    QVector<CalibrationPoint> points;
+    points.append({0, 400, QString()});
+    points.append({400, 500, QString()});
+    return FitCalibration(points, 1, 1000).calibration;
+}
+
+} // namespace
+
+void SpectrumSettingsTest::init()
+{
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_stored = std::make_unique<QSettings>(m_folder->filePath("settings.ini"), QSettings::IniFormat);
+    m_ranges = std::make_unique<SpectrumRanges>();
+    m_centre = std::make_unique<CentreDisplay>(m_stored.get());
+    m_settings = std::make_unique<SpectrumSettings>(m_ranges.get(), m_centre.get());
+    m_settings->slotSetFrameSize(QSize(1000, 500));
+}
+
+void SpectrumSettingsTest::cleanup()
+{
+    m_settings.reset();
+    m_centre.reset();
+    m_ranges.reset();
+}
+
+void SpectrumSettingsTest::binningAndTracksTakeTurns()
+{
+    QSignalSpy changed(m_settings.get(), &SpectrumSettings::signalRecipeChanged);
+    QSignalSpy on(m_settings.get(), &SpectrumUIManager::SignalFVBOnFlagChanged);
+    QSignalSpy closed(m_settings.get(), &SpectrumUIManager::SignalFVBClose);
+    QSignalSpy tracks(m_settings.get(), &SpectrumUIManager::SignalMultiTrackOnFlagChanged);
+    m_settings->SetFVBOnFlag(1);
+    m_settings->SetFVBOnFlag(1);
+    QCOMPARE(on.count(), 1);
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(m_settings->SetTracks({QRectF(0, 10, 1000, 20)}));
+    m_settings->SetMultiTrackOnFlag(true);
+    QCOMPARE(m_settings->GetFVBOnFlag(), 0);
+    QCOMPARE(closed.count(), 1);
+    QCOMPARE(tracks.count(), 1);
+    m_settings->SetFVBOnFlag(1);
+    QVERIFY(!m_settings->GetMultiTrackOnFlag());
+    QVERIFY(m_settings->Recipe().isBinning && !m_settings->Recipe().hasTracks);
+}
+
+void SpectrumSettingsTest::rowsOfTheBandAreKept()
+{
+    QSignalSpy manual(m_settings.get(), &SpectrumUIManager::SignalFVBManualFlagChanged);
+    QSignalSpy all(m_settings.get(), &SpectrumUIManager::SignalFVBModeAll);
+    m_settings->SetBinnedRows(BinnedRows::Manual);
+    QVERIFY(m_settings->GetManualFlag() && !m_settings->IsFVBModeAll() && !m_settings->IsFVBModeAuto());
+    QCOMPARE(m_settings->GetTop(), 0);
+    QCOMPARE(m_settings->GetBottom(), 499);
+    m_settings->SetTop(100);
+    m_settings->SetBottom(120);
+    QCOMPARE(m_settings->Recipe().top, 100);
+    QCOMPARE(m_settings->Recipe().bottom, 120);
+    m_settings->SetBinnedRows(BinnedRows::Auto);
+    QVERIFY(m_settings->IsFVBModeAuto());
+    m_settings->SetBinnedRows(BinnedRows::All);
+    QCOMPARE(all.count(), 1);
+    QCOMPARE(manual.count(), 2);
+}
+
+void SpectrumSettingsTest::tracksThatCannotBeAreRefusedInWords()
+{
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    m_settings->SetMultiTrackOnFlag(true);
+    QVERIFY(!m_settings->GetMultiTrackOnFlag());
+    QVERIFY(!m_settings->SetTracks({QRectF(0, 490, 1000, 20)}));
+    QVERIFY(!m_settings->SetTracks({QRectF(0, 10, 1000, 20), QRectF(0, 20, 1000, 20)}));
+    QCOMPARE(told.count(), 3);
+    QVERIFY(told[0][0].toString().startsWith("There are no tracks"));
+    QVERIFY(told[1][0].toString().contains("outside the sensor of 500 rows"));
+    QVERIFY(told[2][0].toString().contains("overlap"));
+    QVERIFY(m_settings->GetMultiTrackList().isEmpty());
+}
+
+void SpectrumSettingsTest::moreThanTwentyTracksAreForThePlotAlongTheRows()
+{
+    QList<QRectF> tracks;
+    for (int i = 0; i < 21; ++i)
+        tracks << QRectF(0, 20 * i, 1000, 10);
+    QVERIFY(m_settings->SetTracks(tracks));
+    m_settings->SetMultiTrackOnFlag(true);
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    m_settings->SetHorizontal(false);
+    QVERIFY(m_settings->IsDirectionHorinzontal());
+    QCOMPARE(told.value(0).value(0).toString(), QString("There are 21 tracks and the plot shows 20 at most: take some away."));
+    tracks.removeLast();
+    QVERIFY(m_settings->SetTracks(tracks));
+    m_settings->SetHorizontal(false);
+    QVERIFY(!m_settings->IsDirectionHorinzontal());
+}
+
+void SpectrumSettingsTest::aSmallerFrameSwitchesTracksOff()
+{
+    QVERIFY(m_settings->SetTracks({QRectF(0, 300, 1000, 20)}));
+    m_settings->SetMultiTrackOnFlag(true);
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    m_settings->slotSetFrameSize(QSize(1000, 200));
+    QVERIFY(!m_settings->GetMultiTrackOnFlag());
+    QVERIFY(m_settings->GetMultiTrackList().isEmpty());
+    QCOMPARE(told.count(), 1);
+}
+
+void SpectrumSettingsTest::tracksAreAsWideAsTheFrame()
+{
+    QVERIFY(m_settings->SetTracks({QRectF(100, 10, 50, 20)}));
+    QCOMPARE(m_settings->GetMultiTrackList(), QList<QRectF>({QRectF(0, 10, 1000, 20)}));
+    m_settings->slotSetFrameSize(QSize(800, 500));
+    QCOMPARE(m_settings->GetMultiTrackList(), QList<QRectF>({QRectF(0, 10, 800, 20)}));
+}
+
+void SpectrumSettingsTest::calibratedInEveryUnit()
+{
+    double x = 0;
+    QVERIFY(!m_settings->Calculate(200, x));
+    QCOMPARE(x, 200.0);
+    QCOMPARE(m_settings->GetTitleName(), QString("Pixel Number"));
+
+    QSignalSpy told(m_settings.get(), &SpectrumUIManager::SignalConversationFormulaChanged);
+    m_settings->SetCalibration(Straight());
+    QCOMPARE(told.count(), 1);
+    QVERIFY(m_settings->Calculate(200, x));
+    QVERIFY(std::abs(x - 450) < 1e-9);
+    QCOMPARE(m_settings->GetTitleName(), QString("Wavelength [nm]"));
+    m_settings->SetUnit(SpectralUnit::Wavenumber);
+    QVERIFY(m_settings->Calculate(400, x));
+    QVERIFY(std::abs(x - 20000) < 1e-6);
+    QCOMPARE(m_settings->GetTitleName(), QString("Wavenumber [1/cm]"));
+    m_settings->SetUnit(SpectralUnit::Pixel);
+    QVERIFY(!m_settings->Calculate(400, x));
+    QCOMPARE(x, 400.0);
+}
+
+void SpectrumSettingsTest::aCalibrationOfAnotherWidthIsNotUsed()
+{
+    m_settings->SetCalibration(Straight());
+    m_settings->slotSetFrameSize(QSize(500, 500));
+    double x = 0;
+    QVERIFY(!m_settings->Calculate(10, x));
+    QCOMPARE(x, 10.0);
+    QCOMPARE(m_settings->GetTitleName(), QString("Pixel Number"));
+}
+
+void SpectrumSettingsTest::theAxisOfAFileIsThatOfItsPage()
+{
+    SpectralAxis axis;
+    axis.unit = SpectralUnit::RamanShift;
+    axis.values = {100, 110, 125};
+    m_settings->SetImageAxis(axis);
+    double x = 0;
+    QVERIFY(!m_settings->Calculate(1, x));
+    m_settings->slotSetImageShown(true);
+    QVERIFY(m_settings->Calculate(1, x));
+    QCOMPARE(x, 110.0);
+    QVERIFY(m_settings->Calculate(4, x)); // on with the last step
+    QCOMPARE(x, 155.0);
+    QCOMPARE(m_settings->GetTitleName(), QString("Raman Shift [1/cm]"));
+    m_settings->SetImageAxis(SpectralAxis());
+    QVERIFY(!m_settings->Calculate(1, x));
+}
+
+void SpectrumSettingsTest::whatAFileSaysOfItsAreaIsChecked_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("valid");
+    QTest::newRow("area") << "500.1;620" << true;
+    QTest::newRow("falling") << "620;-500" << true;
+    QTest::newRow("nothing") << "" << false;
+    QTest::newRow("one number") << "500" << false;
+    QTest::newRow("a point") << "500;500" << false;
+    QTest::newRow("words") << "left;right" << false;
+}
+
+void SpectrumSettingsTest::whatAFileSaysOfItsAreaIsChecked()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, valid);
+    QCOMPARE(m_settings->IsValidConversation(&text), valid);
+    QVERIFY(!m_settings->IsValidConversation(nullptr));
+}
+
+void SpectrumSettingsTest::styleReachesThePlots()
+{
+    QSignalSpy told(m_settings.get(), &SpectrumUIManager::SignalSpectralPropertyChanged);
+    PlotStyle style;
+    style.line = QPen(Qt::green, 2, Qt::DashLine);
+    style.peakNumber = 7;
+    style.blankRatio = 0.3;
+    m_settings->SetStyle(style);
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(m_settings->GetLineColor(), QColor(Qt::green));
+    QCOMPARE(m_settings->GetLineWidth(), 2.0);
+    QCOMPARE(m_settings->GetLineStyle() + 1, int(Qt::DashLine));
+    QCOMPARE(m_settings->GetPeakNumber(), 7);
+    QCOMPARE(m_settings->GetBlankRatio(), 0.3);
+}
+
+GUARDED_TEST_MAIN(SpectrumSettingsTest)
+#include "spectrumsettingstest.moc"

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "spectralaxis.h"
+#include "spectralcalibration.h"
+
+#include <QString>
+
+/// What pixels of a spectrum mean: by a calibration of our own or one that came with a file, in the unit wanted.
+class CalibratedAxis
+{
+public:
+    void SetCalibration(const SpectralCalibration &calibration) { m_calibration = calibration; }
+    void SetFileAxis(const SpectralAxis &axis) { m_fileAxis = axis; }
+    void SetUnit(SpectralUnit unit) { m_unit = unit; }
+
+    const SpectralCalibration &Calibration() const { return m_calibration; }
+    bool IsCalibrated() const { return !m_calibration.IsNull() || !m_fileAxis.IsEmpty(); }
+    /// What At() gives: pixels unless there is a calibration.
+    SpectralUnit Unit() const;
+    /// The value at a pixel, counted from 0, beyond the spectrum too.
+    double At(double pixel) const;
+    /// For the axis: "Wavelength [nm]".
+    QString Title() const;
+
+private:
+    double FileValue(double pixel) const;
+
+    SpectralCalibration m_calibration;
+    SpectralAxis m_fileAxis;
+    SpectralUnit m_unit = SpectralUnit::Nanometre;
+};

@@ -1,0 +1,129 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "spectrumengine.h"
+
+#include "rowbinning.h"
+
+namespace {
+
+/// Measuring lines takes as long as binning ten frames; the eye that turns a screw needs some a second.
+constexpr int picturesPerFocus = 5;
+constexpr int mostFocusLines = 6;
+
+Spectrum SpectrumOf(const BinnedLine &line, quint64 frameId)
+{
+    return {std::vector<double>(line.sums.begin(), line.sums.end()), line.saturated, frameId};
+}
+
+int CrossSize(const SampleView &picture, bool isHorizontal) { return isHorizontal ? picture.height : picture.width; }
+
+BinnedLine LineOf(const SampleView &picture, const RowBand &band, bool isHorizontal)
+{
+    BinnedLine line;
+    if (isHorizontal)
+        BinRows(picture, band.top, band.bottom, &line);
+    else
+        BinColumns(picture, band.top, band.bottom, &line);
+    return line;
+}
+
+} // namespace
+
+std::vector<double> CrossProfile(const SampleView &picture, bool isHorizontal)
+{
+    BinnedLine line;
+    if (isHorizontal)
+        BinColumns(picture, 0, picture.width, &line);
+    else
+        BinRows(picture, 0, picture.height, &line);
+    return std::vector<double>(line.sums.begin(), line.sums.end());
+}
+
+void SpectrumEngine::SetRecipe(const SpectrumRecipe &recipe)
+{
+    if (recipe.rows != m_recipe.rows || recipe.isHorizontal != m_recipe.isHorizontal || recipe.isBinning != m_recipe.isBinning)
+        m_isBandKnown = false;
+    m_recipe = recipe;
+    m_corrections.SetSettings(recipe.corrections);
+    m_trackCorrections.resize(recipe.tracks.size());
+    // Dark and reference are those of the binned spectrum.
+    CorrectionSettings ofTracks = recipe.corrections;
+    ofTracks.subtractsDark = false;
+    ofTracks.subtractsReference = false;
+    ofTracks.quantity = SpectrumQuantity::Counts;
+    for (SpectrumCorrections &corrections : m_trackCorrections)
+        corrections.SetSettings(ofTracks);
+}
+
+SpectrumProduct SpectrumEngine::Make(const SampleView &picture, quint64 frameId)
+{
+    SpectrumProduct product;
+    product.frameId = frameId;
+    product.frameSize = QSize(picture.width, picture.height);
+    if (product.frameSize != m_size) {
+        m_size = product.frameSize;
+        m_isBandKnown = false;
+        m_corrections.Restart();
+    }
+    if (m_recipe.isBinning)
+        Bin(picture, &product);
+    if (m_recipe.hasTracks)
+        BinTracks(picture, &product);
+    if (m_recipe.isFocusing)
+        MeasureFocus(picture, &product);
+    return product;
+}
+
+void SpectrumEngine::Bin(const SampleView &picture, SpectrumProduct *product)
+{
+    if (!m_isBandKnown)
+        m_isBandKnown = UpdateBand(picture);
+    if (m_recipe.rows == BinnedRows::Manual) {
+        m_band.top = std::min(m_recipe.top, m_recipe.bottom);
+        m_band.bottom = std::max(m_recipe.top, m_recipe.bottom) + 1;
+    }
+    product->band = m_band;
+    product->isBandNew = m_isBandNew;
+    m_isBandNew = false;
+    product->raw = SpectrumOf(LineOf(picture, m_band, m_recipe.isHorizontal), product->frameId);
+    product->corrected = m_corrections.Apply(product->raw);
+    product->corrections = m_corrections.Description(product->raw.Count());
+}
+
+bool SpectrumEngine::UpdateBand(const SampleView &picture)
+{
+    m_band = RowBand();
+    m_band.bottom = CrossSize(picture, m_recipe.isHorizontal);
+    m_isBandNew = true;
+    if (m_recipe.rows != BinnedRows::Auto)
+        return true;
+    const std::vector<RowBand> bands = FindBands(CrossProfile(picture, m_recipe.isHorizontal));
+    for (const RowBand &band : bands) {
+        if (band.light > m_band.light)
+            m_band = band;
+    }
+    return !bands.empty();
+}
+
+void SpectrumEngine::BinTracks(const SampleView &picture, SpectrumProduct *product)
+{
+    for (size_t track = 0; track < m_recipe.tracks.size(); ++track) {
+        // The plots show every track along the rows.
+        BinnedLine line = LineOf(picture, m_recipe.tracks[track], true);
+        product->tracks.push_back(m_trackCorrections[track].Apply(SpectrumOf(line, product->frameId)));
+    }
+}
+
+void SpectrumEngine::MeasureFocus(const SampleView &picture, SpectrumProduct *product)
+{
+    if (m_untilFocus-- > 0)
+        return;
+    m_untilFocus = picturesPerFocus - 1;
+    RowBand brightest;
+    brightest.bottom = picture.height;
+    for (const RowBand &band : FindBands(CrossProfile(picture, true))) {
+        if (band.light > brightest.light)
+            brightest = band;
+    }
+    product->lines = MeasureLines(picture, brightest.top, brightest.bottom, mostFocusLines);
+    product->areLinesNew = true;
+}

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "sampleview.h"
+#include "spectrumproduct.h"
+#include "spectrumrecipe.h"
+
+#include <QSize>
+
+/// Makes spectra of one picture after another, for one thread.
+class SpectrumEngine
+{
+public:
+    void SetRecipe(const SpectrumRecipe &recipe);
+    void SetDark(const std::vector<double> &dark) { m_corrections.SetDark(dark); }
+    void SetReference(const std::vector<double> &reference) { m_corrections.SetReference(reference); }
+    /// The band is looked for again with the next picture.
+    void FindBandAgain() { m_isBandKnown = false; }
+
+    SpectrumProduct Make(const SampleView &picture, quint64 frameId);
+
+private:
+    void Bin(const SampleView &picture, SpectrumProduct *product);
+    void BinTracks(const SampleView &picture, SpectrumProduct *product);
+    /// False while there is no light to find a band by.
+    bool UpdateBand(const SampleView &picture);
+    void MeasureFocus(const SampleView &picture, SpectrumProduct *product);
+
+    SpectrumRecipe m_recipe;
+    SpectrumCorrections m_corrections;
+    std::vector<SpectrumCorrections> m_trackCorrections;
+    QSize m_size;
+    RowBand m_band;
+    bool m_isBandKnown = false;
+    bool m_isBandNew = false;
+    int m_untilFocus = 0; ///< pictures
+};
+
+/// The light of each row, or of each column of a spectrum that runs along the columns.
+std::vector<double> CrossProfile(const SampleView &picture, bool isHorizontal);
