@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "levelsdialog.h"
 
+#include "histogramview.h"
 #include "levelbox.h"
-#include "levelshistogram.h"
+#include "levelscurve.h"
 #include "levelsmodel.h"
 
 #include <QComboBox>
@@ -35,7 +36,7 @@ QString KindText(const SampleKind &kind)
 LevelsDialog::LevelsDialog(LevelsModel *model, QWidget *parent)
     : QDialog(parent)
     , m_model(model)
-    , m_histogram(new LevelsHistogram)
+    , m_histogram(new HistogramView)
     , m_depth(new QLabel)
     , m_mode(new QComboBox)
     , m_gamma(new QDoubleSpinBox)
@@ -112,7 +113,7 @@ void LevelsDialog::hideEvent(QHideEvent *event)
 void LevelsDialog::slotReport(LevelsReport report)
 {
     m_report = report;
-    m_histogram->SetReport(report);
+    m_histogram->SetCurve(LevelsCurve(report));
     m_depth->setText(KindText(report.kind));
     // Samples that are no whole numbers have no full range.
     static_cast<QStandardItemModel *>(m_mode->model())
@@ -130,7 +131,7 @@ void LevelsDialog::slotReport(LevelsReport report)
 
 void LevelsDialog::slotNoReport(QString reason)
 {
-    m_histogram->SetReport(LevelsReport());
+    m_histogram->SetCurve(HistogramCurve());
     m_depth->setText(reason);
     for (QWidget *field : {static_cast<QWidget *>(m_mode), static_cast<QWidget *>(m_gamma),
                            static_cast<QWidget *>(m_left), static_cast<QWidget *>(m_right)})

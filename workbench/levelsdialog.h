@@ -7,7 +7,7 @@
 #include <QDialog>
 
 class LevelBox;
-class LevelsHistogram;
+class HistogramView;
 class LevelsModel;
 class QComboBox;
 class QDoubleSpinBox;
@@ -54,7 +54,7 @@ private:
 
     LevelsModel *m_model;
     LevelsReport m_report;
-    LevelsHistogram *m_histogram;
+    HistogramView *m_histogram;
     QLabel *m_depth;
     QComboBox *m_mode;
     LevelBox *m_left = nullptr;

@@ -12,6 +12,7 @@
 #include "globalclass.h"
 #include "globalui.h"
 #include "informationdialog.h"
+#include "panelsources.h"
 #include "picturedesk.h"
 #include "picturedialogs.h"
 #include "picturemenus.h"
@@ -85,6 +86,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     setObjectName("MainWindow");
     setWindowTitle(tr("Workbench"));
 
+    new PanelSources(services->Histogram(), this); // the panels find it while the module is built
     BuildAreas();
     m_drawingGuard->Watch(services->GetWorkspace()->GetCameraScene()->views().first());
     m_shown = new ShownFrames(services->Preview(), services->GetWorkspace(), m_centre->widget(CameraControlPage), this);

@@ -151,7 +151,7 @@ void WorkbenchServices::StartPreview()
     m_preview = std::make_unique<LivePreview>(m_frameTee.get(), m_orientation.get(), m_levels.get());
     m_pixelReadout = std::make_unique<PixelReadout>(m_preview.get(), m_orientation.get());
     m_frameSize = std::make_unique<LiveFrameSize>();
-    m_histogram = std::make_unique<LiveHistogram>();
+    m_histogram = std::make_unique<LiveHistogram>(m_preview.get());
     m_profiles = std::make_unique<LiveProfiles>(m_settings);
     m_preview->AddAnalysis(m_profiles.get());
 }
@@ -296,6 +296,7 @@ void WorkbenchServices::slotCameraStateChanged()
     } else if (state == CameraLink::State::NoCamera || state == CameraLink::State::Opening) {
         m_preview->StopPreview();
         m_preview->Forget();
+        m_histogram->Forget();
         m_openCamera.reset();
     }
     emit m_cameras->signalUpdateCameraList();

@@ -67,6 +67,8 @@ public:
     CameraLink *Link() const { return m_link; }
     LivePreview *Preview() const { return m_preview.get(); }
     LiveLevels *Levels() const { return m_levels.get(); }
+    LiveHistogram *Histogram() const { return m_histogram.get(); }
+    LiveOrientation *LivePosition() const { return m_orientation.get(); }
     WorkspaceConfig *Config() const { return m_config.get(); }
     Workspace *GetWorkspace() const { return m_workspace.get(); }
     PictureDesk *Desk() const { return m_pictureDesk.get(); }

@@ -17,6 +17,8 @@ public:
 
     /// Samples that were counted.
     qint64 Total() const { return m_total; }
+    /// Of every value that a sample can take.
+    const std::vector<quint32> &Counts() const { return m_counts; }
     /// Value of the sample that has `rank` samples before it when all are sorted; 0 <= rank < Total().
     int ValueAtRank(qint64 rank) const;
     /// Counts of `columns` equal ranges that span all values of the bit depth.
@@ -25,5 +27,5 @@ public:
 private:
     int m_bitDepth = 8;
     qint64 m_total = 0;
-    std::vector<quint32> m_counts; ///< of every value that a sample can take
+    std::vector<quint32> m_counts;
 };

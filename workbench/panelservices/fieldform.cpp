@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fieldform.h"
 #include "fieldsource.h"
+#include "histogramview.h"
 #include "numberbox.h"
 
 #include <QCheckBox>
@@ -151,7 +152,8 @@ void FieldForm::AddField(const PanelField &field)
     }
     auto *row = new QHBoxLayout;
     row->addWidget(widget, 1);
-    const bool hasLabel = field.kind != PanelField::Kind::Check && field.kind != PanelField::Kind::Action;
+    const bool hasLabel = field.kind != PanelField::Kind::Check && field.kind != PanelField::Kind::Action
+        && field.kind != PanelField::Kind::Histogram;
     m_form->addRow(hasLabel ? field.text : QString(), row);
     if (hasLabel)
         static_cast<QLabel *>(m_form->labelForField(row))->setBuddy(widget);
@@ -180,6 +182,12 @@ QWidget *FieldForm::MakeWidget(const PanelField &field)
         button->setObjectName(ObjectName("action", key));
         connect(button, &QPushButton::clicked, this, [this, key] { Send(key, QVariant()); });
         return button;
+    }
+    case PanelField::Kind::Histogram: {
+        auto *view = new HistogramView(m_fields);
+        view->setObjectName(ObjectName("histogram", key));
+        view->setAccessibleName(WithoutMnemonic(field.text));
+        return view;
     }
     case PanelField::Kind::Note:
         break;
@@ -280,6 +288,9 @@ void FieldForm::ShowField(const PanelField &field)
         break;
     case PanelField::Kind::Note:
         static_cast<QLabel *>(widget)->setText(field.value.toString());
+        break;
+    case PanelField::Kind::Histogram:
+        static_cast<HistogramView *>(widget)->SetCurve(field.value.value<HistogramCurve>());
         break;
     }
 }

@@ -3,6 +3,14 @@
 
 const char FieldSource::CameraName[] = "camera";
 const char FieldSource::AcquisitionName[] = "acquisition";
+const char FieldSource::CountName[] = "count";
+const char FieldSource::HistogramName[] = "histogram";
+const char FieldSource::AnalysisName[] = "analysis";
+const char FieldSource::ToolName[] = "tool";
+const char FieldSource::ReportName[] = "report";
+const char FieldSource::SpectrumName[] = "spectrum";
+const char FieldSource::ClassCountName[] = "classcount";
+const char FieldSource::CalibrationName[] = "calibration";
 
 namespace {
 

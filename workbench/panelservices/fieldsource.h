@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+class QAbstractItemModel;
+
 /// What stands behind a panel: the application tells the fields and their values, and takes what the user sets.
 /// Panels find it by its name while it lives. GUI thread.
 class WORKBENCH_PANELSERVICES_EXPORT FieldSource : public QObject
@@ -16,6 +18,14 @@ public:
     /// The names that the application gives its sources.
     static const char CameraName[];
     static const char AcquisitionName[];
+    static const char CountName[];
+    static const char HistogramName[];
+    static const char AnalysisName[];
+    static const char ToolName[];
+    static const char ReportName[];
+    static const char SpectrumName[];
+    static const char ClassCountName[];
+    static const char CalibrationName[];
 
     ~FieldSource() override;
     /// Null when no such source is there, as in another host.
@@ -29,6 +39,10 @@ public:
     virtual void Set(const QString &key, const QVariant &value) = 0;
     /// Somebody shows the fields, or nobody any more: then what costs something to know need not be kept up to date.
     virtual void SetWatched(bool watched) { Q_UNUSED(watched) }
+    /// What belongs to the fields but is a table; null without one. Set("saveTable", path) writes it as CSV.
+    virtual QAbstractItemModel *Table() { return nullptr; }
+    /// Said in place of the table's rows while there are none.
+    virtual QString TableNote() const { return QString(); }
 
 signals:
     /// Fields, values or limits are different now.

@@ -16,7 +16,8 @@ struct PanelField
         Text,   ///< value: QString
         Folder, ///< value: QString, a path
         Action, ///< something to do; value is not used
-        Note    ///< value: QString that is only read
+        Note,     ///< value: QString that is only read
+        Histogram ///< value: HistogramCurve
     };
 
     QString key;  ///< names the field to its source; the widget is called "<kind><Key>", as in "numberExposure"
@@ -63,6 +64,13 @@ struct PanelField
     {
         PanelField field = Make(Kind::Choice, key, text, index);
         field.choices = choices;
+        return field;
+    }
+
+    static PanelField MakeNote(const QString &group, const QString &key, const QString &text, const QString &value)
+    {
+        PanelField field = Make(Kind::Note, key, text, value);
+        field.group = group;
         return field;
     }
 };

@@ -2,7 +2,8 @@
 #include "levelsdialog.h"
 #include "guardedtest.h"
 #include "levelbox.h"
-#include "levelshistogram.h"
+#include "histogramview.h"
+#include "levelscurve.h"
 #include "levelsmodel.h"
 
 #include <QComboBox>
@@ -255,9 +256,9 @@ private slots:
         report.kind = SampleKind(SampleKind::Floating, 32);
         report.axis = {0, 1};
         report.levels = {-1, 3}; // the samples take the second quarter
-        LevelsHistogram strip;
+        HistogramView strip;
         strip.resize(256, 100);
-        strip.SetReport(report);
+        strip.SetCurve(LevelsCurve(report));
         QPalette palette = strip.palette();
         palette.setColor(QPalette::Base, Qt::black);
         palette.setColor(QPalette::Mid, Qt::green);
@@ -275,9 +276,9 @@ private slots:
         LevelsReport report = ReportOf(8, 64, 192);
         report.histogram.fill(0);
         report.histogram[128] = 1000;
-        LevelsHistogram strip;
+        HistogramView strip;
         strip.resize(256, 100);
-        strip.SetReport(report);
+        strip.SetCurve(LevelsCurve(report));
         QPalette palette = strip.palette();
         palette.setColor(QPalette::Base, Qt::black);
         palette.setColor(QPalette::Mid, Qt::green);
@@ -305,7 +306,7 @@ private slots:
     {
         QFETCH(qint64, count);
         QFETCH(double, height);
-        QVERIFY(std::abs(LevelsHistogram::ColumnHeight(count, 99) - height) < 1e-9);
+        QVERIFY(std::abs(HistogramView::ColumnHeight(count, 99) - height) < 1e-9);
     }
 
 private:

@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "levelsreport.h"
+#include "histogramcurve.h"
+#include "panelservicesexport.h"
 
 #include <QWidget>
 
 /// A strip with the histogram of the raw samples and the levels in it: what lies left of the first mark is black, right
 /// of the second white, and the curve between them is the grey. GUI thread.
-class LevelsHistogram : public QWidget
+class WORKBENCH_PANELSERVICES_EXPORT HistogramView : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit LevelsHistogram(QWidget *parent = nullptr);
+    explicit HistogramView(QWidget *parent = nullptr);
 
-    void SetReport(const LevelsReport &report);
+    void SetCurve(const HistogramCurve &curve);
     QSize sizeHint() const override;
 
     /// Height of a column for its count, 0 to 1: the logarithm, so that the few bright samples of a dark picture are
@@ -26,10 +27,11 @@ protected:
 
 private:
     /// What the width spans: the histogram, and levels that were set beyond it.
-    SampleRange Span() const;
+    double From() const;
+    double To() const;
     double PositionOf(double value) const;
     void PaintColumns(QPainter &painter);
     void PaintLevels(QPainter &painter);
 
-    LevelsReport m_report;
+    HistogramCurve m_curve;
 };

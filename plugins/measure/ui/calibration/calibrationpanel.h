@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "tablepage.h"
+#include "sourcepanel.h"
+
+/// The bottom page "Calibration Table": what positions in the picture stand for.
+class CalibrationPanel : public SourcePanel<TablePage>
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID GLOBALUI_UIPLUGIN_IID FILE "calibrationpanel.json")
+    Q_INTERFACES(UIPlugin)
+
+public:
+    CalibrationPanel();
+};
