@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The panels beside and below the picture: where they stand, when they can be used, and that they tell the truth.
 #include "camerasession.h"
-#include "guardedtest.h"
-#include "livepreview.h"
 #include "globalnotify.h"
+#include "guardedtest.h"
 #include "histogramview.h"
+#include "livepreview.h"
 #include "runningworkbench.h"
 #include "stylesheet.h"
 #include "uimanagerbase.h"
@@ -28,7 +28,7 @@
 namespace {
 constexpr int WaitMs = 10000;
 const QString Dash = QChar(0x2013);
-}
+} // namespace
 
 class PanelsScenario : public GuardedTest
 {
@@ -59,11 +59,11 @@ private slots:
 
     void panelsStandInTheirOrder()
     {
-        QCOMPARE(Texts(Right()), QStringList({"Spectrum", "Analysis", "Tool Properties", "Report"}));
+        QCOMPARE(Texts(Right()), QStringList({ "Spectrum", "Analysis", "Tool Properties", "Report" }));
         QCOMPARE(Texts(Bottom()),
-                 QStringList({"File Preview", "Histogram(Live)", "Class Counting", "Calibration Table"}));
-        for (const char *name : {"SpectrumPanel", "AnalysisPanel", "ToolPanel", "ReportPanel", "HistogramPanel",
-                                 "ClassCountPanel", "CalibrationPanel", "AutoCountPanel"})
+                 QStringList({ "File Preview", "Histogram(Live)", "Class Counting", "Calibration Table" }));
+        for (const char *name : { "SpectrumPanel", "AnalysisPanel", "ToolPanel", "ReportPanel",
+                                  "HistogramPanel", "ClassCountPanel", "CalibrationPanel", "AutoCountPanel" })
             QVERIFY2(Panel(name), name);
         for (const UIPluginReport &report : UIManagerBase::PluginReports())
             QVERIFY2(report.loaded || report.filePath.isEmpty(), qPrintable(report.filePath + report.reason));
@@ -125,12 +125,12 @@ private slots:
 
     void panelsFollowWhatCanBeMeasured()
     {
-        for (const char *name : {"AnalysisPanel", "ToolPanel", "ReportPanel", "SpectrumPanel", "ClassCountPanel",
-                                 "CalibrationPanel", "HistogramPanel"})
+        for (const char *name : { "AnalysisPanel", "ToolPanel", "ReportPanel", "SpectrumPanel",
+                                  "ClassCountPanel", "CalibrationPanel", "HistogramPanel" })
             QTRY_VERIFY2(Panel(name)->isEnabled(), name);
         m_workbench->link.Close();
-        for (const char *name : {"AnalysisPanel", "ToolPanel", "ReportPanel", "SpectrumPanel", "ClassCountPanel",
-                                 "CalibrationPanel", "HistogramPanel", "AutoCountPanel"})
+        for (const char *name : { "AnalysisPanel", "ToolPanel", "ReportPanel", "SpectrumPanel",
+                                  "ClassCountPanel", "CalibrationPanel", "HistogramPanel", "AutoCountPanel" })
             QTRY_VERIFY2(!Panel(name)->isEnabled(), name);
         QTRY_COMPARE(Note("AnalysisPanel", "noteMean"), Dash);
     }
@@ -156,8 +156,9 @@ private slots:
         auto *table = page->findChild<QTreeWidget *>("treePlugins");
         for (int i = 0; i < table->topLevelItemCount(); ++i)
             names << table->topLevelItem(i)->text(0);
-        for (const char *name : {"Camera", "Acquisition", "Histogram(Live)", "Analysis", "Tool Properties", "Report",
-                                 "Spectrum", "Class Counting", "Calibration Table", "Automatic Counting Table"})
+        for (const char *name :
+             { "Camera", "Acquisition", "Histogram(Live)", "Analysis", "Tool Properties", "Report",
+               "Spectrum", "Class Counting", "Calibration Table", "Automatic Counting Table" })
             QVERIFY2(names.contains(name), name);
         page->close();
     }
@@ -176,7 +177,10 @@ private slots:
     }
 
 private:
-    QTabWidget *Right() const { return qobject_cast<QTabWidget *>(Panel("DockRight")->findChild<QTabWidget *>()); }
+    QTabWidget *Right() const
+    {
+        return qobject_cast<QTabWidget *>(Panel("DockRight")->findChild<QTabWidget *>());
+    }
     QTabWidget *Bottom() const { return m_workbench->window.findChild<QTabWidget *>("BottomTabWidget"); }
     QWidget *Panel(const char *name) const { return m_workbench->window.findChild<QWidget *>(name); }
     QString NumberText(const char *name) const { return Note("HistogramPanel", name); }
@@ -199,7 +203,8 @@ private:
     {
         for (int i = 0; i < tabs->count(); ++i) {
             if (tabs->tabText(i) == text)
-                QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, Qt::NoModifier, tabs->tabBar()->tabRect(i).center());
+                QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, Qt::NoModifier,
+                                  tabs->tabBar()->tabRect(i).center());
         }
     }
 

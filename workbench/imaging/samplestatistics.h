@@ -15,8 +15,8 @@ struct SampleStatistics
     int minimum = 0;
     int maximum = 0;
     double mean = 0;
-    double deviation = 0; ///< root of the mean squared distance to the mean
-    qint64 saturated = 0; ///< samples at full scale or above
+    double deviation = 0;      ///< root of the mean squared distance to the mean
+    qint64 saturated = 0;      ///< samples at full scale or above
     QVector<qint64> histogram; ///< in columns that share the values of the bit depth
 
     static SampleStatistics Of(const SampleView &samples);

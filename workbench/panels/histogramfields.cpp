@@ -20,13 +20,10 @@ PanelFields HistogramFields::Fields() const
     curve.to = (1 << statistics.bitDepth) - 0.5;
     const PanelField histogram =
         PanelField::Make(PanelField::Kind::Histogram, "samples", tr("Histogram"), QVariant::fromValue(curve));
-    return PanelFields{histogram} + StatisticsNotes::Of(statistics, QString());
+    return PanelFields{ histogram } + StatisticsNotes::Of(statistics, QString());
 }
 
 void HistogramFields::Set(const QString &, const QVariant &) {}
 
 /// The page that was in front at the last start is there before anyone could switch to it.
-void HistogramFields::SetWatched(bool watched)
-{
-    m_histogram->SetHistogramStatisticsState(watched);
-}
+void HistogramFields::SetWatched(bool watched) { m_histogram->SetHistogramStatisticsState(watched); }

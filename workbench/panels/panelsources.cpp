@@ -20,7 +20,11 @@ PanelSources::PanelSources(LiveHistogram *histogram, QObject *parent)
     new HistogramFields(histogram, this);
     new AnalysisFields(histogram, this);
     new NoteSource(
-        FieldSource::ToolName, [] { return PanelFields{PanelField::MakeNote(tr("Tool"), "tool", tr("Name"), tr("No tool is chosen."))}; },
+        FieldSource::ToolName,
+        [] {
+            return PanelFields{ PanelField::MakeNote(tr("Tool"), "tool", tr("Name"),
+                                                     tr("No tool is chosen.")) };
+        },
         this);
     AddReport();
     AddSpectrum();
@@ -33,17 +37,20 @@ void PanelSources::AddReport()
         FieldSource::ReportName,
         [] {
             return PictureNotes::Of(tr("Picture"))
-                + PanelFields{PanelField::MakeNote(tr("Measurements"), "measurements", tr("Number"), QLocale().toString(0))};
+                   + PanelFields{ PanelField::MakeNote(tr("Measurements"), "measurements", tr("Number"),
+                                                       QLocale().toString(0)) };
         },
         this);
-    connect(PreviewManager::GetInstance(), &PreviewManager::signalImageSizeChanged, report, &FieldSource::signalChanged);
+    connect(PreviewManager::GetInstance(), &PreviewManager::signalImageSizeChanged, report,
+            &FieldSource::signalChanged);
     connect(GlobalManager::GetInstance()->GetMainImageManager(), &ImageManager::signalUpdateFileName, report,
             [report] { emit report->signalChanged(); });
 }
 
 void PanelSources::AddSpectrum()
 {
-    auto *spectrum = new NoteSource(FieldSource::SpectrumName, [] { return SpectrumNotes::Of(); }, this);
+    auto *spectrum = new NoteSource(
+        FieldSource::SpectrumName, [] { return SpectrumNotes::Of(); }, this);
     const SpectrumUIManager *manager = SpectrumUIManager::GetInstance();
     const auto announce = [spectrum] { emit spectrum->signalChanged(); };
     connect(manager, &SpectrumUIManager::signalDisplayModeChange, spectrum, announce);
@@ -55,8 +62,10 @@ void PanelSources::AddSpectrum()
 
 void PanelSources::AddTables()
 {
-    new EmptyTable(FieldSource::ClassCountName, {tr("Class"), tr("Number"), tr("Share")},
-                   [] { return tr("Nothing was counted by class."); }, this);
-    new EmptyTable(FieldSource::CalibrationName, {tr("Position in pixels"), tr("Calibrated position"), tr("Residual")},
-                   [] { return SpectrumNotes::CalibrationText(); }, this);
+    new EmptyTable(
+        FieldSource::ClassCountName, { tr("Class"), tr("Number"), tr("Share") },
+        [] { return tr("Nothing was counted by class."); }, this);
+    new EmptyTable(
+        FieldSource::CalibrationName, { tr("Position in pixels"), tr("Calibrated position"), tr("Residual") },
+        [] { return SpectrumNotes::CalibrationText(); }, this);
 }

@@ -10,10 +10,11 @@ PanelFields PictureNotes::Of(const QString &group)
     const QSize size = report->GetImageSize();
     const QString name = IsLive() ? tr("Live picture") : report->GetFileName();
     if (size.isEmpty())
-        return {PanelField::MakeNote(group, "picture", tr("Name"), tr("There is no picture."))};
+        return { PanelField::MakeNote(group, "picture", tr("Name"), tr("There is no picture.")) };
     return {
         PanelField::MakeNote(group, "picture", tr("Name"), name),
-        PanelField::MakeNote(group, "size", tr("Size"), tr("%1 x %2 pixels").arg(size.width()).arg(size.height())),
+        PanelField::MakeNote(group, "size", tr("Size"),
+                             tr("%1 x %2 pixels").arg(size.width()).arg(size.height())),
     };
 }
 

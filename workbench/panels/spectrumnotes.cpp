@@ -11,10 +11,12 @@ PanelFields SpectrumNotes::Of()
     return {
         PanelField::MakeNote(shown, "mode", tr("Mode"), ModeText()),
         PanelField::MakeNote(shown, "direction", tr("Direction"),
-                  spectrum->IsDirectionHorinzontal() ? tr("horizontal") : tr("vertical")),
+                             spectrum->IsDirectionHorinzontal() ? tr("horizontal") : tr("vertical")),
         PanelField::MakeNote(made, "binning", tr("Full vertical binning"), BinningText()),
         PanelField::MakeNote(made, "tracks", tr("Tracks"),
-                  spectrum->GetMultiTrackOnFlag() ? QString::number(spectrum->GetMultiTrackList().size()) : tr("off")),
+                             spectrum->GetMultiTrackOnFlag()
+                                 ? QString::number(spectrum->GetMultiTrackList().size())
+                                 : tr("off")),
         PanelField::MakeNote(made, "calibration", tr("Calibration"), CalibrationText()),
     };
 }

@@ -22,13 +22,16 @@ PanelFields StatisticsNotes::Of(const SampleStatistics &statistics, const QStrin
     const double percent = isThere ? 100.0 * double(statistics.saturated) / double(statistics.count) : 0;
     const int most = (1 << statistics.bitDepth) - 1;
     return {
-        PanelField::MakeNote(group, "depth", tr("Depth"),
-                  isThere ? tr("%1 bit, 0 to %2").arg(statistics.bitDepth).arg(locale.toString(most)) : none),
-        PanelField::MakeNote(group, "minimum", tr("Minimum"), isThere ? locale.toString(statistics.minimum) : none),
-        PanelField::MakeNote(group, "maximum", tr("Maximum"), isThere ? locale.toString(statistics.maximum) : none),
+        PanelField::MakeNote(
+            group, "depth", tr("Depth"),
+            isThere ? tr("%1 bit, 0 to %2").arg(statistics.bitDepth).arg(locale.toString(most)) : none),
+        PanelField::MakeNote(group, "minimum", tr("Minimum"),
+                             isThere ? locale.toString(statistics.minimum) : none),
+        PanelField::MakeNote(group, "maximum", tr("Maximum"),
+                             isThere ? locale.toString(statistics.maximum) : none),
         PanelField::MakeNote(group, "mean", tr("Mean"), number(statistics.mean)),
         PanelField::MakeNote(group, "deviation", tr("Deviation"), number(statistics.deviation)),
         PanelField::MakeNote(group, "saturated", tr("Saturated"),
-                  isThere ? tr("%1 %").arg(locale.toString(percent, 'f', PercentDecimals)) : none),
+                             isThere ? tr("%1 %").arg(locale.toString(percent, 'f', PercentDecimals)) : none),
     };
 }

@@ -153,7 +153,7 @@ void FieldForm::AddField(const PanelField &field)
     auto *row = new QHBoxLayout;
     row->addWidget(widget, 1);
     const bool hasLabel = field.kind != PanelField::Kind::Check && field.kind != PanelField::Kind::Action
-        && field.kind != PanelField::Kind::Histogram;
+                          && field.kind != PanelField::Kind::Histogram;
     m_form->addRow(hasLabel ? field.text : QString(), row);
     if (hasLabel)
         static_cast<QLabel *>(m_form->labelForField(row))->setBuddy(widget);

@@ -10,7 +10,7 @@
 namespace {
 constexpr QSize UsualSize(360, 120);
 constexpr int CurveSteps = 48;
-}
+} // namespace
 
 HistogramView::HistogramView(QWidget *parent)
     : QWidget(parent)
@@ -26,10 +26,7 @@ void HistogramView::SetCurve(const HistogramCurve &curve)
     update();
 }
 
-QSize HistogramView::sizeHint() const
-{
-    return UsualSize;
-}
+QSize HistogramView::sizeHint() const { return UsualSize; }
 
 double HistogramView::ColumnHeight(qint64 count, qint64 mostCount)
 {
@@ -90,7 +87,8 @@ void HistogramView::PaintLevels(QPainter &painter)
     QPainterPath grey(QPointF(0, height() - 1));
     for (int step = 0; step <= CurveSteps; ++step) {
         const double part = double(step) / CurveSteps;
-        grey.lineTo(left + (right - left) * part, (height() - 1) * (1.0 - std::pow(part, 1.0 / m_curve.gamma)));
+        grey.lineTo(left + (right - left) * part,
+                    (height() - 1) * (1.0 - std::pow(part, 1.0 / m_curve.gamma)));
     }
     grey.lineTo(width(), 0);
     painter.setPen(QPen(palette().highlight(), 1.5));

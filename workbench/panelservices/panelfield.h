@@ -16,7 +16,7 @@ struct PanelField
         Text,   ///< value: QString
         Folder, ///< value: QString, a path
         Action, ///< something to do; value is not used
-        Note,     ///< value: QString that is only read
+        Note,   ///< value: QString that is only read
         Histogram ///< value: HistogramCurve
     };
 
@@ -67,7 +67,8 @@ struct PanelField
         return field;
     }
 
-    static PanelField MakeNote(const QString &group, const QString &key, const QString &text, const QString &value)
+    static PanelField MakeNote(const QString &group, const QString &key, const QString &text,
+                               const QString &value)
     {
         PanelField field = Make(Kind::Note, key, text, value);
         field.group = group;

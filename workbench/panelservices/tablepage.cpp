@@ -116,14 +116,12 @@ QString TablePage::Text() const
     return text;
 }
 
-void TablePage::slotCopy()
-{
-    QGuiApplication::clipboard()->setText(Text());
-}
+void TablePage::slotCopy() { QGuiApplication::clipboard()->setText(Text()); }
 
 void TablePage::slotSave()
 {
-    const QString path = QFileDialog::getSaveFileName(this, tr("Save Table"), QString(), tr("Tables (*.csv)"));
+    const QString path =
+        QFileDialog::getSaveFileName(this, tr("Save Table"), QString(), tr("Tables (*.csv)"));
     if (m_source && !path.isEmpty())
         m_source->Set("saveTable", path);
 }

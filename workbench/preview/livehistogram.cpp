@@ -17,10 +17,7 @@ LiveHistogram::LiveHistogram(LivePreview *preview, QObject *parent)
     connect(preview, &LivePreview::signalPictureDelivered, this, &LiveHistogram::slotPictureDelivered);
 }
 
-LiveHistogram::~LiveHistogram()
-{
-    m_pool.waitForDone();
-}
+LiveHistogram::~LiveHistogram() { m_pool.waitForDone(); }
 
 void LiveHistogram::SetWatched(Watcher watcher, bool watched)
 {
@@ -28,10 +25,7 @@ void LiveHistogram::SetWatched(Watcher watcher, bool watched)
     slotPictureDelivered(); // a standing picture is not delivered again
 }
 
-void LiveHistogram::SetHistogramStatisticsState(bool enabled)
-{
-    SetWatched(HistogramPage, enabled);
-}
+void LiveHistogram::SetHistogramStatisticsState(bool enabled) { SetWatched(HistogramPage, enabled); }
 
 void LiveHistogram::Forget()
 {
@@ -43,14 +37,16 @@ void LiveHistogram::Forget()
 void LiveHistogram::slotPictureDelivered()
 {
     const CameraFrame frame = m_preview->ShownFrame();
-    const bool isTime = !m_sinceLast.isValid() || m_sinceLast.elapsed() >= PeriodMs || m_statistics.count == 0;
+    const bool isTime =
+        !m_sinceLast.isValid() || m_sinceLast.elapsed() >= PeriodMs || m_statistics.count == 0;
     if (!m_watchers || m_isComputing || !isTime || frame.IsNull())
         return;
     m_isComputing = true;
     m_sinceLast.start();
     m_pool.start([this, frame, picture = ++m_picture] {
         const SampleStatistics statistics = SampleStatistics::Of(PictureMaker::ViewOf(frame));
-        QMetaObject::invokeMethod(this, [=] { Take(statistics, picture); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [=] { Take(statistics, picture); }, Qt::QueuedConnection);
     });
 }
 

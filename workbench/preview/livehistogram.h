@@ -17,7 +17,11 @@ class LiveHistogram : public HistogramCalculateManager
     Q_OBJECT
 
 public:
-    enum Watcher { HistogramPage = 1, AnalysisPanel = 2 };
+    enum Watcher
+    {
+        HistogramPage = 1,
+        AnalysisPanel = 2
+    };
 
     /// `preview` is borrowed and outlives this object.
     explicit LiveHistogram(LivePreview *preview, QObject *parent = nullptr);

@@ -52,7 +52,8 @@ private slots:
         const int fullScale = (1 << bitDepth) - 1;
         const auto isSaturated = [=](int sample) { return sample >= fullScale; };
         QCOMPARE(statistics.saturated, qint64(std::count_if(samples.begin(), samples.end(), isSaturated)));
-        QCOMPARE(std::accumulate(statistics.histogram.begin(), statistics.histogram.end(), qint64(0)), statistics.count);
+        QCOMPARE(std::accumulate(statistics.histogram.begin(), statistics.histogram.end(), qint64(0)),
+                 statistics.count);
     }
 
     void noPictureHasNoNumbers()

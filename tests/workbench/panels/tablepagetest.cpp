@@ -22,7 +22,7 @@ public:
     Counted()
         : FieldSource("counted")
     {
-        table.setHorizontalHeaderLabels({"Name", "Area"});
+        table.setHorizontalHeaderLabels({ "Name", "Area" });
     }
 
     PanelFields Fields() const override { return {}; }
@@ -36,7 +36,7 @@ public:
         first->setData(name, Qt::UserRole);
         auto *second = new QStandardItem(QString::number(area));
         second->setData(area, Qt::UserRole);
-        table.appendRow({first, second});
+        table.appendRow({ first, second });
     }
 
     QStandardItemModel table;

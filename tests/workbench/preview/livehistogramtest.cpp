@@ -87,8 +87,8 @@ private:
     TestFrameSource m_source;
     LiveOrientation m_orientation;
     TestLevels m_levels;
-    LivePreview m_preview{&m_source, &m_orientation, &m_levels.live};
-    LiveHistogram m_histogram{&m_preview};
+    LivePreview m_preview{ &m_source, &m_orientation, &m_levels.live };
+    LiveHistogram m_histogram{ &m_preview };
 };
 
 GUARDED_TEST_MAIN(LiveHistogramTest)

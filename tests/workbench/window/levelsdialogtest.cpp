@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "levelsdialog.h"
 #include "guardedtest.h"
-#include "levelbox.h"
 #include "histogramview.h"
+#include "levelbox.h"
 #include "levelscurve.h"
 #include "levelsmodel.h"
 

@@ -2,6 +2,7 @@
 #include "acquisitionpanel.h"
 
 AcquisitionPanel::AcquisitionPanel()
-    : SourcePanel(FieldSource::AcquisitionName, "AcquisitionPanel", tr("This program does not let panels set up its recordings."))
+    : SourcePanel(FieldSource::AcquisitionName, "AcquisitionPanel",
+                  tr("This program does not let panels set up its recordings."))
 {
 }

@@ -2,6 +2,7 @@
 #include "camerapanel.h"
 
 CameraPanel::CameraPanel()
-    : SourcePanel(FieldSource::CameraName, "CameraPanel", tr("This program does not let panels control its camera."))
+    : SourcePanel(FieldSource::CameraName, "CameraPanel",
+                  tr("This program does not let panels control its camera."))
 {
 }

@@ -46,7 +46,8 @@ QLabel *HistogramPage::NumberOf(const QString &key, const QString &text)
     if (!label) {
         label = new QLabel(this);
         label->setObjectName("note" + key.left(1).toUpper() + key.mid(1));
-        label->setMinimumWidth(fontMetrics().horizontalAdvance("16 bit, 0 to 65,535")); // the histogram keeps its width
+        label->setMinimumWidth(
+            fontMetrics().horizontalAdvance("16 bit, 0 to 65,535")); // the histogram keeps its width
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         m_numbers->addRow(text, label);
     }

@@ -2,6 +2,7 @@
 #include "histogrampanel.h"
 
 HistogramPanel::HistogramPanel()
-    : SourcePanel(FieldSource::HistogramName, "HistogramPanel", tr("This program tells nothing of its live samples."))
+    : SourcePanel(FieldSource::HistogramName, "HistogramPanel",
+                  tr("This program tells nothing of its live samples."))
 {
 }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "tablepage.h"
 #include "sourcepanel.h"
+#include "tablepage.h"
 
 /// The bottom page "Automatic Counting Table": the objects that were counted in the opened picture.
 class AutoCountPanel : public SourcePanel<TablePage>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "tablepage.h"
 #include "sourcepanel.h"
+#include "tablepage.h"
 
 /// The bottom page "Calibration Table": what positions in the picture stand for.
 class CalibrationPanel : public SourcePanel<TablePage>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "tablepage.h"
 #include "sourcepanel.h"
+#include "tablepage.h"
 
 /// The bottom page "Class Counting": how many objects each class has.
 class ClassCountPanel : public SourcePanel<TablePage>
