@@ -3,6 +3,8 @@
 
 #include "spectrumuimanager.h"
 
+#include <QLocale>
+
 PanelFields SpectrumNotes::Of()
 {
     const SpectrumUIManager *spectrum = SpectrumUIManager::GetInstance();
@@ -23,9 +25,10 @@ PanelFields SpectrumNotes::Of()
 
 QString SpectrumNotes::CalibrationText()
 {
-    QString text;
-    if (SpectrumUIManager::GetInstance()->IsValidConversation(&text))
-        return text;
+    const SpectrumUIManager *spectrum = SpectrumUIManager::GetInstance();
+    double first = 0;
+    if (spectrum->Calculate(0, first))
+        return tr("%1, from %2").arg(spectrum->GetTitleName(), QLocale().toString(first, 'f', 2));
     return tr("Not calibrated: positions are in pixels.");
 }
 
