@@ -26,6 +26,7 @@
 #include "savesettings.h"
 #include "shownframes.h"
 #include "spectrometermenu.h"
+#include "spectrumdialogs.h"
 #include "statusline.h"
 #include "uimanagerbase.h"
 #include "viewcodes.h"
@@ -181,6 +182,11 @@ void MainWindow::BuildMenus()
     auto *spectrometer = new SpectrometerMenu(m_services, this);
     menuBar()->addMenu(spectrometer);
     connect(spectrometer, &SpectrometerMenu::signalMessage, this, &MainWindow::slotShowMessage);
+    auto *spectra = new SpectrumDialogs(m_services, m_centre, this);
+    connect(spectrometer, &SpectrometerMenu::signalCalibrationWanted, spectra, &SpectrumDialogs::slotCalibrate);
+    connect(spectrometer, &SpectrometerMenu::signalExportWanted, spectra, &SpectrumDialogs::slotExportSpectrum);
+    connect(spectrometer, &SpectrometerMenu::signalPlotExportWanted, spectra, &SpectrumDialogs::slotExportPlot);
+    connect(spectra, &SpectrumDialogs::signalMessage, this, &MainWindow::slotShowMessage);
 
     QMenu *help = menuBar()->addMenu(tr("&Help"));
     help->addAction(tr("&Plug-ins…"), [this] {

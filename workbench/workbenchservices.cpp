@@ -3,6 +3,7 @@
 
 #include "applicationlook.h"
 #include "autocounting.h"
+#include "calibrationmodel.h"
 #include "cameracaption.h"
 #include "cameralink.h"
 #include "camerasession.h"
@@ -130,6 +131,7 @@ void WorkbenchServices::StartSpectrum()
     m_spectrumRanges = std::make_unique<SpectrumRanges>();
     m_centreDisplay = std::make_unique<CentreDisplay>(m_settings);
     m_spectrumSettings = std::make_unique<SpectrumSettings>(m_spectrumRanges.get(), m_centreDisplay.get());
+    m_calibration = std::make_unique<CalibrationModel>(m_spectrumSettings.get(), m_settings);
     m_spectrumPipeline = std::make_unique<SpectrumPipeline>([this] { return m_orientation->Get(); });
     m_peakFinding = std::make_unique<PeakFinding>();
 }
@@ -231,6 +233,7 @@ void WorkbenchServices::ConnectSpectrum()
     connect(m_preview.get(), &LivePreview::signalPictureSizeChanged, settings, &SpectrumSettings::slotSetFrameSize);
     connect(settings, &SpectrumSettings::signalRecipeChanged, m_spectrumPipeline.get(),
             [this, settings] { m_spectrumPipeline->SetRecipe(settings->Recipe()); });
+    connect(settings, &SpectrumSettings::signalRecipeChanged, this, &WorkbenchServices::UpdateProfilesWanted);
     connect(m_spectrumPipeline.get(), &SpectrumPipeline::signalTracksFound, settings, [settings](const QList<QRectF> &tracks) {
         if (settings->SetTracks(tracks))
             settings->SetMultiTrackOnFlag(true);
@@ -239,15 +242,25 @@ void WorkbenchServices::ConnectSpectrum()
         const int view = m_config->GetCurrentView();
         settings->slotSetImageShown(view == ImageView || view == ImageCompareView);
     });
-    connect(m_mainPicture.get(), &OpenedPicture::signalAxis, settings, &SpectrumSettings::SetImageAxis);
+    connect(m_mainPicture.get(), &OpenedPicture::signalAxis, settings,
+            [this, settings](const SpectralAxis &axis) { settings->SetImageAxis(axis, m_mainPicture->GetImageSize().width()); });
     connect(settings, &SpectrumSettings::signalMessage, this, &WorkbenchServices::signalMessage);
 }
 
 /// The curves of a standing picture need a frame to be made of.
 void WorkbenchServices::slotDisplayModeChanged()
 {
-    m_profiles->SetWanted(m_centreDisplay->Mode() != DisplayMode::General);
+    UpdateProfilesWanted();
     m_preview->slotShowAgain();
+}
+
+/// The curve's page shows a profile of the picture only while there is neither a binned spectrum nor a track.
+void WorkbenchServices::UpdateProfilesWanted()
+{
+    const DisplayMode mode = m_centreDisplay->Mode();
+    const SpectrumRecipe &recipe = m_spectrumSettings->Recipe();
+    const bool isCurve = mode == DisplayMode::Plot || mode == DisplayMode::PlotPeak;
+    m_profiles->SetWanted(mode == DisplayMode::Physics || (isCurve && !recipe.isBinning && !recipe.hasTracks));
 }
 
 void WorkbenchServices::slotShowPalette()

@@ -11,6 +11,7 @@
 
 class ApplicationLook;
 class AutoCounting;
+class CalibrationModel;
 class CameraCaption;
 class CameraLink;
 class CameraSettings;
@@ -82,6 +83,7 @@ public:
     SpectrumSettings *Spectrum() const { return m_spectrumSettings.get(); }
     LiveProfiles *Profiles() const { return m_profiles.get(); }
     SpectrumPipeline *Spectra() const { return m_spectrumPipeline.get(); }
+    CalibrationModel *Calibration() const { return m_calibration.get(); }
 
 public slots:
     /// Shows what the workbench is used for: the picture or a spectrum page. For the first time when the pages are built.
@@ -110,6 +112,7 @@ private:
     void Connect();
     void ConnectPictures();
     void ConnectSpectrum();
+    void UpdateProfilesWanted();
     void RepairRecordings();
 
     QSettings *m_settings;
@@ -136,6 +139,7 @@ private:
     std::unique_ptr<SpectrumRanges> m_spectrumRanges;
     std::unique_ptr<CentreDisplay> m_centreDisplay;
     std::unique_ptr<SpectrumSettings> m_spectrumSettings;
+    std::unique_ptr<CalibrationModel> m_calibration;
     std::unique_ptr<SpectrumPipeline> m_spectrumPipeline;
     std::unique_ptr<PeakFinding> m_peakFinding;
     std::unique_ptr<ConnectedCameras> m_cameras;

@@ -175,6 +175,24 @@ void OpenedPicture::AnnounceCurves()
     emit sglUpdateVerticalCurve(column.samples.data(), int(column.samples.size()), column.offset, column.count);
 }
 
+std::vector<double> OpenedPicture::Profile(bool alongRow) const
+{
+    PictureCurves curves = m_curves;
+    const double factor = m_levels->Factor();
+    if (IsNonImage() || !curves.Make(m_shown.samples, factor))
+        return {};
+    const std::vector<int> &samples = alongRow ? curves.Row().samples : curves.Column().samples;
+    std::vector<double> values(samples.begin(), samples.end());
+    for (double &value : values)
+        value /= factor;
+    return values;
+}
+
+ProfileBand OpenedPicture::LinesOfProfile(bool alongRow) const
+{
+    return alongRow ? m_curves.RowBand(GetImageSize()) : m_curves.ColumnBand(GetImageSize());
+}
+
 void OpenedPicture::Follow(PictureDocument *document)
 {
     if (m_document)

@@ -39,6 +39,10 @@ public:
     PictureDocument *WantedDocument() const;
     const LoadedPicture &Shown() const { return m_shown; }
     void SaveAs(const QString &target, bool allFrames);
+    /// The profile through the point that was picked last, in the units of the file; empty when none was.
+    std::vector<double> Profile(bool alongRow) const;
+    /// The rows, or columns, that it is the mean of.
+    ProfileBand LinesOfProfile(bool alongRow) const;
 
     void ClearAll() override;
     void LineProfileMouseMoveEvent(QMouseEvent *event) override;

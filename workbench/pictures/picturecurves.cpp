@@ -63,6 +63,16 @@ bool PictureCurves::Make(const Picture &picture, double factor)
     return true;
 }
 
+ProfileBand PictureCurves::RowBand(const QSize &picture) const
+{
+    return BandAround(PixelAt(m_point.y(), picture.height()), m_lines, picture.height());
+}
+
+ProfileBand PictureCurves::ColumnBand(const QSize &picture) const
+{
+    return BandAround(PixelAt(m_point.x(), picture.width()), m_lines, picture.width());
+}
+
 void PictureCurves::TakeUnsigned(const Picture &picture, const QPoint &point)
 {
     m_profiles.Extract(PictureDisplay::ViewOf(picture), point, m_lines);

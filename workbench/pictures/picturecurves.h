@@ -5,6 +5,7 @@
 
 #include <QPointF>
 #include <QRectF>
+#include <QSize>
 
 class Picture;
 
@@ -33,6 +34,9 @@ public:
     bool Make(const Picture &picture, double factor);
     Curve &Row() { return m_row; }
     Curve &Column() { return m_column; }
+    /// The rows, or columns, of a picture that the row profile, or the column profile, is the mean of.
+    ProfileBand RowBand(const QSize &picture) const;
+    ProfileBand ColumnBand(const QSize &picture) const;
 
 private:
     void TakeUnsigned(const Picture &picture, const QPoint &point);

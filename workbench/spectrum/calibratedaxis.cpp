@@ -25,6 +25,11 @@ double Converted(double value, SpectralUnit from, SpectralUnit to)
 
 } // namespace
 
+bool CalibratedAxis::IsCalibrated() const
+{
+    return !m_fileAxis.IsEmpty() || (!m_calibration.IsNull() && m_calibration.Width() == m_width);
+}
+
 SpectralUnit CalibratedAxis::Unit() const
 {
     if (!IsCalibrated() || m_unit == SpectralUnit::Pixel)

@@ -86,6 +86,7 @@ void SpectrumEngine::Bin(const SampleView &picture, SpectrumProduct *product)
     m_isBandNew = false;
     product->raw = SpectrumOf(LineOf(picture, m_band, m_recipe.isHorizontal), product->frameId);
     product->corrected = m_corrections.Apply(product->raw);
+    product->quantity = m_recipe.corrections.quantity;
     product->corrections = m_corrections.Description(product->raw.Count());
 }
 
@@ -110,6 +111,7 @@ void SpectrumEngine::BinTracks(const SampleView &picture, SpectrumProduct *produ
         // The plots show every track along the rows.
         BinnedLine line = LineOf(picture, m_recipe.tracks[track], true);
         product->tracks.push_back(m_trackCorrections[track].Apply(SpectrumOf(line, product->frameId)));
+        product->trackBands.push_back(m_recipe.tracks[track]);
     }
 }
 

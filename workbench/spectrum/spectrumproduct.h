@@ -16,7 +16,9 @@ struct SpectrumProduct
     QSize frameSize; ///< as shown
     Spectrum raw;       ///< of full vertical binning; empty when that is off
     Spectrum corrected;
+    SpectrumQuantity quantity = SpectrumQuantity::Counts; ///< of the corrected one
     std::vector<Spectrum> tracks; ///< corrected
+    std::vector<RowBand> trackBands; ///< their rows
     RowBand band; ///< the rows that were binned
     bool isBandNew = false;
     std::vector<LineFocus> lines;

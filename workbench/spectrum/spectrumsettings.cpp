@@ -193,6 +193,7 @@ void SpectrumSettings::slotSetFrameSize(QSize size)
     if (m_frameSize == size)
         return;
     m_frameSize = size;
+    UpdateLiveWidth();
     for (QRectF &track : m_tracks)
         track.setWidth(size.width());
     if (!m_tracks.isEmpty()) {
@@ -240,6 +241,7 @@ void SpectrumSettings::SetHorizontal(bool horizontal)
         return;
     }
     m_recipe.isHorizontal = horizontal;
+    UpdateLiveWidth();
     emit signalRecipeChanged();
     if (m_recipe.hasTracks)
         emit SignalMultiTrackOnFlagChanged(); // the range of the track bar is another
@@ -259,8 +261,11 @@ void SpectrumSettings::SetCorrections(const CorrectionSettings &corrections)
 void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration)
 {
     m_liveAxis.SetCalibration(calibration);
+    m_imageAxis.SetCalibration(calibration);
     AnnounceAxis();
 }
+
+void SpectrumSettings::UpdateLiveWidth() { m_liveAxis.SetWidth(m_recipe.isHorizontal ? m_frameSize.width() : m_frameSize.height()); }
 
 void SpectrumSettings::SetUnit(SpectralUnit unit)
 {
@@ -273,9 +278,10 @@ void SpectrumSettings::SetUnit(SpectralUnit unit)
     AnnounceAxis();
 }
 
-void SpectrumSettings::SetImageAxis(const SpectralAxis &axis)
+void SpectrumSettings::SetImageAxis(const SpectralAxis &axis, int width)
 {
     m_imageAxis.SetFileAxis(axis);
+    m_imageAxis.SetWidth(width);
     AnnounceAxis();
 }
 
@@ -296,13 +302,19 @@ void SpectrumSettings::AnnounceAxis()
     emit SignalConversationFormulaChanged();
 }
 
-/// A live spectrum of another width comes from another part of the sensor, of which nothing is known.
+/// A file's axis is that of its columns: a profile along one of them has none.
+const CalibratedAxis &SpectrumSettings::ShownAxis() const
+{
+    if (!m_isImageShown)
+        return m_liveAxis;
+    return m_recipe.isHorizontal ? m_imageAxis : m_plainAxis;
+}
+
 bool SpectrumSettings::Calculate(int pixel, double &x) const
 {
     x = pixel;
     const CalibratedAxis &axis = ShownAxis();
-    const bool fits = m_isImageShown || axis.Calibration().Width() == m_frameSize.width();
-    if (!axis.IsCalibrated() || axis.Unit() == SpectralUnit::Pixel || !fits)
+    if (axis.Unit() == SpectralUnit::Pixel)
         return false;
     x = axis.At(pixel);
     return qIsFinite(x);

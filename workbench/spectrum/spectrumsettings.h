@@ -31,16 +31,18 @@ public:
     /// Replaces the list; refused, in words, when it is empty, overlaps or leaves the frame.
     bool SetTracks(const QList<QRectF> &tracks);
     void SetCorrections(const CorrectionSettings &corrections);
-    /// Of live spectra as wide as it; null takes it away.
+    /// Of spectra as wide as it, live ones and those of files that say nothing themselves; null takes it away.
     void SetCalibration(const SpectralCalibration &calibration);
     const SpectralCalibration &Calibration() const { return m_liveAxis.Calibration(); }
     /// nm, wavenumbers or pixels, as far as there is a calibration.
     void SetUnit(SpectralUnit unit);
     SpectralUnit Unit() const { return m_unit; }
-    /// The calibration of the opened file; an empty one for none.
-    void SetImageAxis(const SpectralAxis &axis);
+    /// The calibration of the opened file, an empty one for none, and the width of its picture.
+    void SetImageAxis(const SpectralAxis &axis, int width);
     /// The axis of what is on the screen.
-    const CalibratedAxis &ShownAxis() const { return m_isImageShown ? m_imageAxis : m_liveAxis; }
+    const CalibratedAxis &ShownAxis() const;
+    /// An opened picture is on the screen, rather than the live one.
+    bool IsImageShown() const { return m_isImageShown; }
     PlotStyle Style() const { return m_style; }
     void SetStyle(const PlotStyle &style);
 
@@ -121,6 +123,7 @@ private:
     int MostTracks(bool horizontal) const;
     void SwitchTracksOff(const QString &reason);
     void AnnounceAxis();
+    void UpdateLiveWidth();
 
     DisplayModeManager *m_ranges;
     CentreDisplay *m_centre;
@@ -131,6 +134,7 @@ private:
     QSize m_frameSize;
     CalibratedAxis m_liveAxis;
     CalibratedAxis m_imageAxis;
+    const CalibratedAxis m_plainAxis; ///< pixels
     SpectralUnit m_unit = SpectralUnit::Nanometre;
     bool m_isImageShown = false;
     bool m_isZoomAutomatic = false;

@@ -26,6 +26,8 @@ private slots:
     void calibratedInEveryUnit();
     void aCalibrationOfAnotherWidthIsNotUsed();
     void theAxisOfAFileIsThatOfItsPage();
+    void aFileThatSaysNothingIsCalibratedByOurs();
+    void spectraAlongTheColumnsAreAsLongAsThose();
     void whatAFileSaysOfItsAreaIsChecked_data();
     void whatAFileSaysOfItsAreaIsChecked();
     void styleReachesThePlots();
@@ -194,7 +196,7 @@ void SpectrumSettingsTest::theAxisOfAFileIsThatOfItsPage()
     SpectralAxis axis;
     axis.unit = SpectralUnit::RamanShift;
     axis.values = {100, 110, 125};
-    m_settings->SetImageAxis(axis);
+    m_settings->SetImageAxis(axis, 3);
     double x = 0;
     QVERIFY(!m_settings->Calculate(1, x));
     m_settings->slotSetImageShown(true);
@@ -203,8 +205,41 @@ void SpectrumSettingsTest::theAxisOfAFileIsThatOfItsPage()
     QVERIFY(m_settings->Calculate(4, x)); // on with the last step
     QCOMPARE(x, 155.0);
     QCOMPARE(m_settings->GetTitleName(), QString("Raman Shift [1/cm]"));
-    m_settings->SetImageAxis(SpectralAxis());
+    m_settings->SetHorizontal(false);
+    QVERIFY(!m_settings->Calculate(1, x)); // its rows have no wavelengths
+    QCOMPARE(m_settings->GetTitleName(), QString("Pixel Number"));
+    m_settings->SetHorizontal(true);
+    m_settings->SetImageAxis(SpectralAxis(), 3);
     QVERIFY(!m_settings->Calculate(1, x));
+}
+
+void SpectrumSettingsTest::aFileThatSaysNothingIsCalibratedByOurs()
+{
+    SpectralAxis ofFile;
+    ofFile.unit = SpectralUnit::Nanometre;
+    ofFile.values = {100, 110, 125};
+    m_settings->SetCalibration(Straight());
+    m_settings->slotSetImageShown(true);
+    double x = 0;
+    m_settings->SetImageAxis(SpectralAxis(), 1000);
+    QVERIFY(m_settings->Calculate(200, x));
+    QVERIFY(std::abs(x - 450) < 1e-9);
+    m_settings->SetImageAxis(SpectralAxis(), 999);
+    QVERIFY(!m_settings->Calculate(200, x));
+    m_settings->SetImageAxis(ofFile, 1000);
+    QVERIFY(m_settings->Calculate(1, x));
+    QCOMPARE(x, 110.0);
+}
+
+void SpectrumSettingsTest::spectraAlongTheColumnsAreAsLongAsThose()
+{
+    m_settings->SetCalibration(Straight());
+    m_settings->SetHorizontal(false);
+    double x = 0;
+    QVERIFY(!m_settings->Calculate(200, x));
+    m_settings->slotSetFrameSize(QSize(500, 1000));
+    QVERIFY(m_settings->Calculate(200, x));
+    QVERIFY(std::abs(x - 450) < 1e-9);
 }
 
 void SpectrumSettingsTest::whatAFileSaysOfItsAreaIsChecked_data()

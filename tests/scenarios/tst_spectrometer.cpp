@@ -1,0 +1,396 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calibrationmodel.h"
+#include "camerasession.h"
+#include "guardedtest.h"
+#include "openedpicture.h"
+#include "picturedesk.h"
+#include "plotpicture.h"
+#include "runningworkbench.h"
+#include "spectrographoptics.h"
+#include "spectrographscene.h"
+#include "spectrumpipeline.h"
+#include "spectrumsettings.h"
+#include "stylesheet.h"
+#include "workspaceconfig.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDialog>
+#include <QDoubleSpinBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QSvgRenderer>
+#include <QTableWidget>
+#include <QTemporaryDir>
+#include <qcustomplot.h>
+
+#include <cmath>
+#include <memory>
+
+namespace {
+
+constexpr QSize sensor(2048, 2048);
+constexpr int waitMs = 20000;
+constexpr double faintExposureUs = 2000; ///< nothing is cut off
+
+/// The columns of an exported table: its lines without those that begin with "#" and without the names.
+QVector<QVector<double>> ColumnsOf(const QStringList &lines)
+{
+    QVector<QVector<double>> columns;
+    for (const QString &line : lines) {
+        if (line.isEmpty() || line.startsWith('#') || line.startsWith("pixel"))
+            continue;
+        const QStringList cells = line.split(',');
+        columns.resize(cells.size());
+        for (int i = 0; i < cells.size(); ++i)
+            columns[i] << cells[i].toDouble();
+    }
+    return columns;
+}
+
+} // namespace
+
+/// A person puts a lamp before a spectrometer, calibrates it, and takes the spectrum home.
+class SpectrometerScenario : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        // The OpenGL driver starts threads with its first context and keeps them.
+        QOffscreenSurface surface;
+        surface.create();
+        QOpenGLContext context;
+        QVERIFY(context.create() && context.makeCurrent(&surface));
+    }
+
+    void init() override
+    {
+        StartGuard();
+        m_folder = std::make_unique<QTemporaryDir>();
+        Start();
+    }
+
+    void cleanup() override
+    {
+        m_workbench.reset();
+        QVERIFY(CameraSession::WaitForTeardown(waitMs));
+        EndGuard();
+    }
+
+    void fromTheLampToTheCalibratedTable()
+    {
+        ShowLamp();
+        m_workbench->Action("Calibrate…")->trigger();
+        m_dialog = m_workbench->window.findChild<QDialog *>("CalibrationDialog");
+        QVERIFY(m_dialog && QTest::qWaitForWindowExposed(m_dialog));
+        QVERIFY(!Button("Apply")->isEnabled());
+        QVERIFY(Label("labelVerdict").contains("at least 4 points"));
+        Button("Assign")->click();
+        QTRY_VERIFY_WITH_TIMEOUT(Button("Apply")->isEnabled(), waitMs);
+        CheckAgainstTheTruth();
+        PickOneAgainByHand();
+
+        Button("Apply")->click();
+        QVERIFY(Label("labelVerdict").endsWith("It is applied."));
+        QCOMPARE(Plot()->xAxis->label(), QString("Wavelength [nm]"));
+        QTRY_VERIFY(std::abs(Plot()->graph(0)->data()->at(0)->key - 390) < 1);
+        QTRY_VERIFY(std::abs(Plot()->xAxis->range().upper - 930) < 2);
+        Save("calibration");
+        m_dialog->close();
+        Save("calibrated");
+
+        CheckTable(Export("Export Spectrum…", "lamp.csv"));
+        ExportPlots(Plot());
+        m_workbench->Action("Wavenumbers")->trigger();
+        QCOMPARE(Plot()->xAxis->label(), QString("Wavenumber [1/cm]"));
+    }
+
+    void theCalibrationIsThereAtTheNextStart()
+    {
+        ShowLamp();
+        CalibrationModel *model = m_workbench->services.Calibration();
+        model->SetSpectrum(m_workbench->services.Spectra()->Shown().raw.values);
+        QSignalSpy assigned(model, &CalibrationModel::signalAssigned);
+        model->Assign();
+        QVERIFY(assigned.wait(waitMs));
+        QVERIFY(model->Apply());
+        const QVector<CalibrationPoint> points = model->Points();
+        m_workbench.reset();
+        QVERIFY(CameraSession::WaitForTeardown(waitMs));
+        Start();
+        QCOMPARE(m_workbench->services.Calibration()->AppliedPoints(), points);
+        ShowLamp();
+        QTRY_COMPARE(Plot()->xAxis->label(), QString("Wavelength [nm]"));
+    }
+
+    void withoutASpectrumThereIsAWord()
+    {
+        m_workbench->Action("Export Spectrum…")->trigger();
+        QCOMPARE(m_workbench->StatusText(),
+                 QString("There is no spectrum to export: switch vertical binning or tracks on, or open a spectrum."));
+        m_workbench->Action("Export Plot…")->trigger();
+        QCOMPARE(m_workbench->StatusText(), QString("There is no plot to export: show the curve or the tracks in 3D first."));
+        m_workbench->Action("Calibrate…")->trigger();
+        m_dialog = m_workbench->window.findChild<QDialog *>("CalibrationDialog");
+        QVERIFY(Label("labelSpectrum").startsWith("There is no spectrum:"));
+        QVERIFY(!Button("Assign")->isEnabled());
+        m_dialog->close();
+    }
+
+    void tracksAreShownIn3DAndExported()
+    {
+        m_workbench->link.SetScene(SpectrographScene::SceneName());
+        QVERIFY(m_workbench->WaitForNextPicture());
+        m_workbench->Action("Tracks in 3D")->trigger();
+        m_workbench->Action("Find Tracks")->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(m_workbench->services.Spectra()->Shown().tracks.size(), size_t(3), waitMs);
+        QTRY_VERIFY(VisiblePlot(m_workbench->window.centralWidget()));
+        WaitForNextSpectrum();
+        Save("tracks");
+        ExportPlots(VisiblePlot(m_workbench->window.centralWidget()));
+        const QStringList lines = Export("Export Spectrum…", "tracks.csv");
+        QVERIFY(lines.contains("pixel,axis,track1,track2,track3,saturated"));
+        QCOMPARE(ColumnsOf(lines).value(0).size(), sensor.width());
+    }
+
+#ifdef TEST_DATA
+    /// Raman spectra with the calibration of their own program; the numbers are those that others read of the file.
+    void anOpenedSpectrumHasItsOwnAxis()
+    {
+        PictureDesk *desk = m_workbench->services.Desk();
+        m_workbench->Action("Vertical")->trigger();
+        desk->Open({QString(TEST_DATA) + "/spe/blut1.SPE"}, desk->MainPicture());
+        QTRY_VERIFY(desk->MainPicture()->IsSenImage());
+        m_workbench->Action("Curve")->trigger();
+        QVERIFY(m_workbench->Action("Horizontal")->isChecked());
+        QTRY_VERIFY(Plot() && Plot()->graph(0)->dataCount() == 1023);
+        QCOMPARE(Plot()->xAxis->label(), QString("Raman Shift [1/cm]"));
+        QVERIFY(std::abs(Plot()->graph(0)->data()->at(620)->key - 2618.027) < 0.01);
+        m_workbench->window.findChild<QFrame *>("MultiImageToolUI")->findChild<QScrollBar *>()->setValue(4);
+        QTRY_COMPARE(Plot()->graph(0)->data()->at(76)->value, 1484.0);
+        Save("opened");
+
+        const QStringList lines = Export("Export Spectrum…", "raman.csv");
+        QVERIFY(lines.contains("# frame: 5"));
+        QVERIFY(lines.contains("# calibration: from the file"));
+        QVERIFY(lines.contains("# rows: 0 to 0"));
+        const QVector<QVector<double>> columns = ColumnsOf(lines);
+        QCOMPARE(columns.value(0).size(), 1023);
+        QCOMPARE(columns[2][76], 1484.0);
+        QVERIFY(std::abs(columns[1][620] - 2618.027) < 0.01);
+        ExportPlots(Plot());
+        m_workbench->services.Config()->SetCameraView(); // a live picture leaves with its page
+    }
+#endif
+
+    /// A folder that went away after it was chosen.
+    void whatCannotBeWrittenIsTold()
+    {
+        ShowLamp();
+        QFileDialog *dialog = OpenExport("Export Plot…");
+        QVERIFY(dialog);
+        emit dialog->fileSelected(m_folder->filePath("gone") + "/plot.png");
+        dialog->close();
+        QTRY_VERIFY(NoticeText().contains("gone/plot.png"));
+        CloseNotices();
+    }
+
+private:
+    void Start()
+    {
+        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
+        QVERIFY(m_workbench->WaitForPicture());
+    }
+
+    /// The curve of the brightest fibre.
+    void ShowLamp()
+    {
+        m_workbench->link.SetScene(SpectrographScene::SceneName());
+        m_workbench->link.SetPixelLayout(PixelLayout::Mono16);
+        m_workbench->link.Session()->Controls().SetExposureUs(faintExposureUs);
+        QVERIFY(m_workbench->WaitForNextPicture());
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("Band Found by Itself")->trigger();
+        SpectrumPipeline *spectra = m_workbench->services.Spectra();
+        QTRY_VERIFY_WITH_TIMEOUT(spectra->Shown().raw.Count() == sensor.width() && spectra->Shown().band.top > 0, waitMs);
+        QTRY_VERIFY(Plot() && Plot()->graph(0)->dataCount() == sensor.width());
+        WaitForNextSpectrum();
+    }
+
+    /// One that was made of a frame after this call, and drawn.
+    void WaitForNextSpectrum() const
+    {
+        const SpectrumPipeline *spectra = m_workbench->services.Spectra();
+        const quint64 before = spectra->Shown().frameId;
+        QTRY_VERIFY_WITH_TIMEOUT(spectra->Shown().frameId > before + 3, waitMs);
+    }
+
+    QCustomPlot *Plot() const { return qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())); }
+
+    QPushButton *Button(const QString &name) const { return m_dialog->findChild<QPushButton *>("pushButton" + name); }
+
+    QString Label(const QString &name) const { return m_dialog->findChild<QLabel *>(name)->text(); }
+
+    /// Where the optics put the light, at the middle of the band.
+    void CheckAgainstTheTruth() const
+    {
+        const CalibrationModel *model = m_workbench->services.Calibration();
+        QVERIFY2(model->Fit().rmsPixel < 0.1, qPrintable(QString::number(model->Fit().rmsPixel)));
+        QVERIFY2(model->Points().size() >= 10, qPrintable(QString::number(model->Points().size())));
+        const RowBand band = m_workbench->services.Spectra()->Shown().band;
+        const SpectrographOptics truth(sensor);
+        double squares = 0;
+        for (const CalibrationPoint &point : model->Points()) {
+            const double place = truth.LinePosition(point.nm, (band.top + band.bottom - 1) / 2.0);
+            const SpectralCalibration &calibration = model->Fit().calibration;
+            squares += std::pow((calibration.Wavelength(place) - point.nm) / calibration.Dispersion(place), 2);
+        }
+        const double rms = std::sqrt(squares / model->Points().size());
+        QVERIFY2(rms < 0.1, qPrintable(QString::number(rms)));
+    }
+
+    /// A point is taken away and comes back by a click on its peak; both can be undone.
+    void PickOneAgainByHand()
+    {
+        CalibrationModel *model = m_workbench->services.Calibration();
+        const QVector<CalibrationPoint> all = model->Points();
+        const int row = all.size() / 2;
+        auto *table = m_dialog->findChild<QTableWidget *>("tableWidgetPoints");
+        QCOMPARE(table->rowCount(), all.size());
+        table->setCurrentCell(row, 0);
+        Button("Remove")->click();
+        QCOMPARE(model->Points().size(), all.size() - 1);
+
+        auto *plot = m_dialog->findChild<QCustomPlot *>("calibrationPlot");
+        const QPoint besideThePeak(qRound(plot->xAxis->coordToPixel(all[row].pixel + 2)), plot->axisRect()->center().y());
+        QTest::mouseClick(plot, Qt::LeftButton, Qt::NoModifier, besideThePeak);
+        auto *pixel = m_dialog->findChild<QDoubleSpinBox *>("spinBoxPixel");
+        QVERIFY2(std::abs(pixel->value() - all[row].pixel) < 0.01, qPrintable(QString("%1 and not %2").arg(pixel->value()).arg(all[row].pixel)));
+        QCOMPARE(m_dialog->findChild<QComboBox *>("comboBoxWavelength")->currentData().toDouble(), all[row].nm);
+        Button("AddLine")->click();
+        QCOMPARE(model->Points(), all);
+        QTest::keySequence(m_dialog, QKeySequence::Undo);
+        QCOMPARE(model->Points().size(), all.size() - 1);
+        Button("Undo")->click();
+        QCOMPARE(model->Points(), all);
+    }
+
+    QFileDialog *OpenExport(const QString &action)
+    {
+        m_workbench->Action(action)->trigger();
+        auto *dialog = m_workbench->window.findChild<QFileDialog *>("ExportDialog");
+        return dialog && QTest::qWaitForWindowExposed(dialog) ? dialog : nullptr;
+    }
+
+    static void TypeInto(QFileDialog *dialog, const QString &path)
+    {
+        dialog->findChild<QLineEdit *>("fileNameEdit")->setText(path);
+        QMetaObject::invokeMethod(dialog, "accept");
+    }
+
+    /// The window has one for pictures and one for spectra.
+    QString NoticeText() const
+    {
+        for (const QMessageBox *notice : m_workbench->window.findChildren<QMessageBox *>("FaultNotice")) {
+            if (notice->isVisible())
+                return notice->text();
+        }
+        return QString();
+    }
+
+    void CloseNotices() const
+    {
+        for (QMessageBox *notice : m_workbench->window.findChildren<QMessageBox *>("FaultNotice"))
+            notice->close();
+    }
+
+    /// The lines of the file that was written.
+    QStringList Export(const QString &action, const QString &name)
+    {
+        QFileDialog *dialog = OpenExport(action);
+        if (!dialog)
+            return {};
+        TypeInto(dialog, m_folder->filePath(name));
+        const QString told = QString::fromUtf8("“%1” was saved.").arg(name);
+        if (!QTest::qWaitFor([&] { return m_workbench->StatusText() == told && !m_workbench->window.findChild<QFileDialog *>(); }, waitMs))
+            return {};
+        QFile file(m_folder->filePath(name));
+        const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return QString::fromUtf8(content.constData(), content.size()).split('\n'); // with the zeros of a PDF
+    }
+
+    void CheckTable(const QStringList &lines)
+    {
+        QVERIFY(lines.contains("# axis: nm"));
+        QVERIFY(lines.contains("# corrected values: counts"));
+        QVERIFY(lines.contains("pixel,axis,raw,corrected,saturated"));
+        QVERIFY(!lines.filter(QRegularExpression("^# line: pixel .* is 546.07.* nm Hg$")).isEmpty());
+        QVERIFY(!lines.filter(QRegularExpression("^# source: Simulated Camera")).isEmpty());
+        const QVector<QVector<double>> columns = ColumnsOf(lines);
+        QCOMPARE(columns.size(), 5);
+        QCOMPARE(columns[0].size(), sensor.width());
+        // The green line of mercury stands where it belongs.
+        int brightest = -1;
+        for (int i = 0; i < columns[1].size(); ++i) {
+            if (std::abs(columns[1][i] - 546.07) < 3 && (brightest < 0 || columns[2][i] > columns[2][brightest]))
+                brightest = i;
+        }
+        QVERIFY(brightest >= 0);
+        QVERIFY2(std::abs(columns[1][brightest] - 546.074) < 0.2, qPrintable(QString::number(columns[1][brightest])));
+        // The powers of the header give the axis.
+        const QString powers = lines.filter(QRegularExpression("^# coefficients: ")).value(0).section(": ", 1);
+        double nm = 0;
+        const QStringList coefficients = powers.split(' ');
+        for (int power = coefficients.size() - 1; power >= 0; --power)
+            nm = nm * 1000 + coefficients[power].toDouble();
+        QVERIFY2(std::abs(nm - columns[1][1000]) < 1e-6, qPrintable(QString::number(nm)));
+    }
+
+    void ExportPlots(const QWidget *plot)
+    {
+        Export("Export Plot…", "plot.png");
+        const QImage picture(m_folder->filePath("plot.png"));
+        QVERIFY(picture.width() >= plot->width() && picture.height() * plot->width() == picture.width() * plot->height());
+        Export("Export Plot…", "plot.svg");
+        QSvgRenderer drawing(m_folder->filePath("plot.svg"));
+        QVERIFY(drawing.isValid());
+        QCOMPARE(drawing.viewBox().size(), plot->size());
+        const QStringList page = Export("Export Plot…", "plot.pdf");
+        QVERIFY(page.value(0).startsWith("%PDF-"));
+        const QRegularExpressionMatch box = QRegularExpression("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]").match(page.join(' '));
+        QVERIFY2(std::abs(box.captured(1).toDouble() - plot->width() * 0.75) < 1, qPrintable(box.captured(1)));
+        QVERIFY2(std::abs(box.captured(2).toDouble() - plot->height() * 0.75) < 1, qPrintable(box.captured(2)));
+    }
+
+    /// For people: what the screen shows, when a folder for that is named.
+    void Save(const QString &name)
+    {
+        const QString folder = qEnvironmentVariable("SCENARIO_PICTURES");
+        if (folder.isEmpty())
+            return;
+        const QRect place = m_workbench->window.geometry();
+        QGuiApplication::primaryScreen()->grabWindow(0, place.x(), place.y(), place.width(), place.height()).save(folder + '/' + name + ".png");
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<RunningWorkbench> m_workbench;
+    QPointer<QDialog> m_dialog;
+};
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    StyleSheet::Named("dark").Apply(application);
+    SpectrometerScenario test;
+    return GuardedTest::Run(&test, argc, argv);
+}
+
+#include "tst_spectrometer.moc"

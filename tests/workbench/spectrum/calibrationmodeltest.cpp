@@ -1,0 +1,316 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calibrationmodel.h"
+#include "centredisplay.h"
+#include "guardedtest.h"
+#include "madespectra.h"
+#include "spectrumranges.h"
+#include "spectrumsettings.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <cmath>
+
+/// A calibration is made, applied and kept.
+class CalibrationModelTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() override;
+    void cleanup() override;
+    void aPickSnapsToThePeakAndTheListedLine();
+    void nothingNearIsTakenAsItIs();
+    void theFitSaysWhichLineAPeakShouldBe();
+    void everyStepCanBeUndone();
+    void linesAreAssignedInTheBackground();
+    void whatFitsNothingChangesNothing();
+    void anAnswerOfTheSpectrumBeforeIsDropped();
+    void aBadCalibrationIsNotApplied_data();
+    void aBadCalibrationIsNotApplied();
+    void whatWasAppliedIsKept();
+    void whatWasTakenAwayIsGone();
+    void whatIsKeptMayBeNonsense_data();
+    void whatIsKeptMayBeNonsense();
+    void aSpectrumOfAnotherWidthBeginsAnew();
+
+private:
+    std::unique_ptr<CalibrationModel> Model() { return std::make_unique<CalibrationModel>(m_settings.get(), m_stored.get()); }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QSettings> m_stored;
+    std::unique_ptr<SpectrumRanges> m_ranges;
+    std::unique_ptr<CentreDisplay> m_centre;
+    std::unique_ptr<SpectrumSettings> m_settings;
+};
+
+namespace {
+
+constexpr int width = 1000;
+constexpr double hgViolet = 404.6565;
+constexpr double hgBlue = 435.8335;
+constexpr double hgGreen = 546.0750;
+
+/// 400 + 0.2 nm a pixel.
+double PixelOf(double nm) { return (nm - 400) * 5; }
+
+/// Mercury's lines, with a little noise.
+std::vector<double> HgLamp()
+{
+    std::vector<double> samples = NoiseOnly(width, 100, 1, 5);
+    for (const double nm : {hgViolet, hgBlue, hgGreen, 576.9610, 579.0670})
+        AddLine(&samples, PixelOf(nm), 5000, 2.0);
+    Round(&samples);
+    return samples;
+}
+
+} // namespace
+
+void CalibrationModelTest::init()
+{
+    StartGuard();
+    m_folder = std::make_unique<QTemporaryDir>();
+    m_stored = std::make_unique<QSettings>(m_folder->filePath("settings.ini"), QSettings::IniFormat);
+    m_ranges = std::make_unique<SpectrumRanges>();
+    m_centre = std::make_unique<CentreDisplay>(m_stored.get());
+    m_settings = std::make_unique<SpectrumSettings>(m_ranges.get(), m_centre.get());
+    m_settings->slotSetFrameSize(QSize(width, 100));
+}
+
+void CalibrationModelTest::cleanup()
+{
+    m_settings.reset();
+    m_centre.reset();
+    m_ranges.reset();
+    EndGuard();
+}
+
+void CalibrationModelTest::aPickSnapsToThePeakAndTheListedLine()
+{
+    const auto model = Model();
+    model->SetSpectrum(HgLamp());
+    QCOMPARE(model->Peaks().size(), size_t(5));
+    model->AddPoint(PixelOf(hgGreen) - 6, 546);
+    QCOMPARE(model->Points().size(), 1);
+    QVERIFY(std::abs(model->Points()[0].pixel - PixelOf(hgGreen)) < 0.1);
+    QVERIFY(std::abs(model->Points()[0].nm - hgGreen) < 1e-3);
+    QCOMPARE(model->Points()[0].line, QString("Hg"));
+    model->AddPoint(PixelOf(hgBlue) + 3, 436);
+    QVERIFY(model->Points()[0].pixel < model->Points()[1].pixel); // by rising pixel
+}
+
+void CalibrationModelTest::nothingNearIsTakenAsItIs()
+{
+    const auto model = Model();
+    model->SetSpectrum(HgLamp());
+    model->AddPoint(300, 460);
+    QCOMPARE(model->Points()[0].pixel, 300.0);
+    QCOMPARE(model->Points()[0].nm, 460.0);
+    QCOMPARE(model->Points()[0].line, QString());
+}
+
+void CalibrationModelTest::theFitSaysWhichLineAPeakShouldBe()
+{
+    const auto model = Model();
+    model->SetSpectrum(HgLamp());
+    QCOMPARE(model->ExpectedLine(PixelOf(hgViolet)), 0.0);
+    model->SetDegree(1);
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->AddPoint(PixelOf(hgGreen), hgGreen);
+    QVERIFY(std::abs(model->ExpectedLine(PixelOf(hgViolet)) - hgViolet) < 1e-3);
+    QCOMPARE(model->ExpectedLine(PixelOf(460)), 0.0); // there is none
+}
+
+void CalibrationModelTest::everyStepCanBeUndone()
+{
+    const auto model = Model();
+    model->SetSpectrum(HgLamp());
+    QVERIFY(!model->CanUndo());
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->SetWavelength(0, 450);
+    model->SetDegree(2);
+    model->RemovePoint(0);
+    model->RemovePoint(7); // there is none
+    QVERIFY(model->Points().isEmpty());
+    model->Undo();
+    QCOMPARE(model->Points()[0].nm, 450.0);
+    QCOMPARE(model->Degree(), 2);
+    model->Undo();
+    QCOMPARE(model->Degree(), 3);
+    model->Undo();
+    QVERIFY(std::abs(model->Points()[0].nm - hgBlue) < 1e-3);
+    model->Undo();
+    QVERIFY(model->Points().isEmpty());
+    QVERIFY(!model->CanUndo());
+    model->Undo();
+}
+
+void CalibrationModelTest::linesAreAssignedInTheBackground()
+{
+    const auto model = Model();
+    model->SetSpectrum(HgLamp());
+    model->SetLamps({Lamp::Mercury});
+    model->SetRange(400, 600);
+    model->SetDegree(2);
+    QSignalSpy assigned(model.get(), &CalibrationModel::signalAssigned);
+    model->Assign();
+    QVERIFY(model->Points().isEmpty());
+    QVERIFY(assigned.wait());
+    QCOMPARE(assigned[0][0].toBool(), true);
+    QCOMPARE(model->Points().size(), 5);
+    QVERIFY2(model->Fit().IsGood() && model->Fit().rmsPixel < 0.1, qPrintable(model->Fit().fault));
+    for (const double nm : {hgViolet, hgBlue, hgGreen})
+        QVERIFY(std::abs(model->Fit().calibration.Wavelength(PixelOf(nm)) - nm) < 0.02);
+}
+
+void CalibrationModelTest::whatFitsNothingChangesNothing()
+{
+    const auto model = Model();
+    model->SetSpectrum(NoiseOnly(width, 100, 5, 3));
+    model->AddPoint(300, 460);
+    QSignalSpy assigned(model.get(), &CalibrationModel::signalAssigned);
+    model->Assign();
+    QVERIFY(assigned.wait());
+    QCOMPARE(assigned[0][0].toBool(), false);
+    QCOMPARE(model->Points().size(), 1);
+}
+
+void CalibrationModelTest::anAnswerOfTheSpectrumBeforeIsDropped()
+{
+    const auto model = Model();
+    model->SetSpectrum(HgLamp());
+    QSignalSpy assigned(model.get(), &CalibrationModel::signalAssigned);
+    model->Assign();
+    model->SetSpectrum(NoiseOnly(width, 100, 5, 3));
+    model->Assign();
+    QVERIFY(assigned.wait());
+    QCOMPARE(assigned.count(), 1);
+    QCOMPARE(assigned[0][0].toBool(), false);
+}
+
+void CalibrationModelTest::aBadCalibrationIsNotApplied_data()
+{
+    QTest::addColumn<QVector<QPointF>>("points");
+    QTest::addColumn<QString>("said");
+    QTest::newRow("too few") << QVector<QPointF>{{300, 460}, {500, 500}} << "needs at least 3 points and there are 2";
+    QTest::newRow("two equal points") << QVector<QPointF>{{300, 460}, {300, 462}, {500, 500}, {700, 540}}
+                                      << "Two points lie at pixel 300.00";
+    QTest::newRow("one wavelength twice") << QVector<QPointF>{{300, 460}, {350, 460}, {500, 500}, {700, 540}}
+                                          << "Two points have the wavelength 460.000 nm";
+    QTest::newRow("not monotonic") << QVector<QPointF>{{100, 500}, {500, 460}, {900, 501}} << "does not rise or fall steadily";
+}
+
+void CalibrationModelTest::aBadCalibrationIsNotApplied()
+{
+    QFETCH(QVector<QPointF>, points);
+    QFETCH(QString, said);
+    const auto model = Model();
+    model->SetLamps({});
+    model->SetSpectrum(NoiseOnly(width, 100, 5, 3));
+    model->SetDegree(2);
+    for (const QPointF &point : points)
+        model->AddPoint(point.x(), point.y());
+    QSignalSpy applied(model.get(), &CalibrationModel::signalApplied);
+    QVERIFY(!model->Apply());
+    QVERIFY2(model->Fit().fault.contains(said), qPrintable(model->Fit().fault));
+    QVERIFY(applied.isEmpty());
+    QVERIFY(m_settings->Calibration().IsNull());
+    QVERIFY(!model->Applied().IsGood());
+    QVERIFY(m_stored->allKeys().filter("calibration").isEmpty());
+}
+
+void CalibrationModelTest::whatWasAppliedIsKept()
+{
+    auto model = Model();
+    model->SetSpectrum(HgLamp());
+    model->SetDegree(1);
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->AddPoint(PixelOf(hgGreen), hgGreen);
+    m_settings->SetUnit(SpectralUnit::Pixel);
+    QVERIFY(model->Apply());
+    QVERIFY(model->IsApplied());
+    QCOMPARE(m_settings->Unit(), SpectralUnit::Nanometre);
+    double nm = 0;
+    QVERIFY(m_settings->Calculate(500, nm));
+    QVERIFY2(std::abs(nm - 500) < 0.05, qPrintable(QString::number(nm)));
+    const QVector<CalibrationPoint> points = model->Points();
+    model->AddPoint(PixelOf(hgViolet), hgViolet);
+    QVERIFY(!model->IsApplied());
+
+    m_settings->SetCalibration(SpectralCalibration());
+    model = Model();
+    QCOMPARE(model->Points(), points);
+    QCOMPARE(model->AppliedPoints(), points);
+    QCOMPARE(model->Degree(), 1);
+    QCOMPARE(model->Width(), width);
+    double again = 0;
+    QVERIFY(m_settings->Calculate(500, again));
+    QCOMPARE(again, nm);
+}
+
+void CalibrationModelTest::whatWasTakenAwayIsGone()
+{
+    auto model = Model();
+    model->SetSpectrum(HgLamp());
+    model->SetDegree(1);
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->AddPoint(PixelOf(hgGreen), hgGreen);
+    QVERIFY(model->Apply());
+    model->TakeAway();
+    QVERIFY(!model->IsApplied());
+    QCOMPARE(model->Points().size(), 2); // they can be applied again
+    QVERIFY(m_settings->Calibration().IsNull());
+    model = Model();
+    QVERIFY(model->Points().isEmpty());
+    QVERIFY(m_settings->Calibration().IsNull());
+}
+
+void CalibrationModelTest::whatIsKeptMayBeNonsense_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("width of nothing") << "width" << QVariant(0);
+    QTest::newRow("width beyond all frames") << "width" << QVariant(2000000000);
+    QTest::newRow("negative width") << "width" << QVariant(-5);
+    QTest::newRow("degree") << "degree" << QVariant(400);
+    QTest::newRow("a point outside") << "points/1/pixel" << QVariant(5000);
+    QTest::newRow("a pixel that is no number") << "points/1/pixel" << QVariant("nan");
+    QTest::newRow("a wavelength that is no number") << "points/1/nm" << QVariant("nan");
+    QTest::newRow("number of points") << "points/size" << QVariant(2000000000);
+}
+
+void CalibrationModelTest::whatIsKeptMayBeNonsense()
+{
+    QFETCH(QString, key);
+    QFETCH(QVariant, value);
+    auto model = Model();
+    model->SetSpectrum(HgLamp());
+    model->SetDegree(1);
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->AddPoint(PixelOf(hgGreen), hgGreen);
+    QVERIFY(model->Apply());
+    QVERIFY(m_stored->contains("spectrum/calibration/" + key));
+    m_stored->setValue("spectrum/calibration/" + key, value);
+    m_settings->SetCalibration(SpectralCalibration());
+    model = Model();
+    QVERIFY(m_settings->Calibration().IsNull());
+    QVERIFY(model->Points().isEmpty());
+}
+
+void CalibrationModelTest::aSpectrumOfAnotherWidthBeginsAnew()
+{
+    const auto model = Model();
+    model->SetSpectrum(HgLamp());
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->SetSpectrum(HgLamp());
+    QCOMPARE(model->Points().size(), 1);
+    model->SetSpectrum({}); // there is none at the moment
+    QCOMPARE(model->Points().size(), 1);
+    model->SetSpectrum(NoiseOnly(width - 1, 100, 5, 3));
+    QVERIFY(model->Points().isEmpty());
+    QVERIFY(!model->CanUndo());
+}
+
+GUARDED_TEST_MAIN(CalibrationModelTest)
+#include "calibrationmodeltest.moc"

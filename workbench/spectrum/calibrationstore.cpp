@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calibrationstore.h"
+
+#include <QSettings>
+
+namespace {
+constexpr char Group[] = "spectrum/calibration";
+constexpr char PointsKey[] = "points";
+constexpr char DegreeKey[] = "degree";
+constexpr char WidthKey[] = "width";
+constexpr char PixelKey[] = "pixel";
+constexpr char WavelengthKey[] = "nm";
+constexpr char LineKey[] = "line";
+constexpr int mostPoints = 1000;
+constexpr int widestFrame = 65535;
+} // namespace
+
+StoredCalibration LoadCalibration(QSettings &settings)
+{
+    StoredCalibration calibration;
+    settings.beginGroup(Group);
+    calibration.degree = settings.value(DegreeKey).toInt();
+    calibration.width = settings.value(WidthKey).toInt();
+    const int count = qMin(settings.beginReadArray(PointsKey), mostPoints);
+    for (int i = 0; i < count; ++i) {
+        settings.setArrayIndex(i);
+        calibration.points.append({settings.value(PixelKey).toDouble(), settings.value(WavelengthKey).toDouble(),
+                                   settings.value(LineKey).toString()});
+    }
+    settings.endArray();
+    settings.endGroup();
+    return calibration.width > 0 && calibration.width <= widestFrame ? calibration : StoredCalibration();
+}
+
+void StoreCalibration(const StoredCalibration &calibration, QSettings *settings)
+{
+    settings->remove(Group);
+    if (calibration.points.isEmpty())
+        return;
+    settings->beginGroup(Group);
+    settings->setValue(DegreeKey, calibration.degree);
+    settings->setValue(WidthKey, calibration.width);
+    settings->beginWriteArray(PointsKey, calibration.points.size());
+    for (int i = 0; i < calibration.points.size(); ++i) {
+        settings->setArrayIndex(i);
+        settings->setValue(PixelKey, calibration.points[i].pixel);
+        settings->setValue(WavelengthKey, calibration.points[i].nm);
+        settings->setValue(LineKey, calibration.points[i].line);
+    }
+    settings->endArray();
+    settings->endGroup();
+}

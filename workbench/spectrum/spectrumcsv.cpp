@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "spectrumcsv.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+namespace {
+
+/// Names of keys, units and columns are for programs: they stay English.
+struct Column
+{
+    QString name;
+    const Spectrum *spectrum;
+};
+
+QString Number(double value) { return QString::number(value, 'g', 12); }
+
+/// Whatever the value holds stays in its line.
+QString Comment(const QString &key, const QString &value) { return QString("# %1: %2").arg(key, value.simplified()); }
+
+QString RowsText(const RowBand &band) { return QString("%1 to %2").arg(band.top).arg(band.bottom - 1); }
+
+QString UnitName(SpectralUnit unit)
+{
+    switch (unit) {
+    case SpectralUnit::Nanometre: return "nm";
+    case SpectralUnit::Wavenumber: return "1/cm";
+    case SpectralUnit::RamanShift: return "1/cm, Raman shift";
+    case SpectralUnit::Pixel: break;
+    }
+    return "pixel";
+}
+
+QString QuantityName(SpectrumQuantity quantity)
+{
+    switch (quantity) {
+    case SpectrumQuantity::Transmission: return "transmission";
+    case SpectrumQuantity::Absorbance: return "absorbance";
+    case SpectrumQuantity::Counts: break;
+    }
+    return "counts";
+}
+
+void AddOrigin(const ExportedSpectrum &spectrum, QStringList *lines)
+{
+    const SpectrumProduct &product = spectrum.product;
+    *lines << Comment("source", spectrum.source) << Comment("date", spectrum.when.toString(Qt::ISODateWithMs))
+           << Comment("frame", QString::number(product.frameId))
+           << Comment("picture", QString("%1 x %2 pixels").arg(product.frameSize.width()).arg(product.frameSize.height()));
+    if (product.band.bottom > product.band.top)
+        *lines << Comment("rows", RowsText(product.band));
+    for (size_t track = 0; track < product.trackBands.size(); ++track)
+        *lines << Comment(QString("rows of track %1").arg(track + 1), RowsText(product.trackBands[track]));
+    if (!product.corrections.isEmpty())
+        *lines << Comment("corrections", product.corrections);
+    if (product.corrected.Count() > 0)
+        *lines << Comment("corrected values", QuantityName(product.quantity));
+}
+
+void AddCalibration(const ExportedSpectrum &spectrum, QStringList *lines)
+{
+    *lines << Comment("axis", UnitName(spectrum.axis.Unit()));
+    if (!spectrum.axis.IsOwn()) {
+        *lines << Comment("calibration", spectrum.axis.IsCalibrated() ? "from the file" : "none");
+        return;
+    }
+    const SpectralCalibration &calibration = spectrum.axis.Calibration();
+    *lines << Comment("calibration", QString("polynomial of degree %1, wavelength in air [nm] of the pixel, counted from 0, lowest power first")
+                                         .arg(calibration.Degree()));
+    QStringList powers;
+    for (const double coefficient : calibration.PixelCoefficients())
+        powers << QString::number(coefficient, 'g', 17);
+    *lines << Comment("coefficients", powers.join(' '))
+           << Comment("residual", QString("%1 pixels rms").arg(spectrum.residualPixels, 0, 'g', 4));
+    for (const CalibrationPoint &point : spectrum.points)
+        *lines << Comment("line", QString("pixel %1 is %2 nm %3").arg(Number(point.pixel), Number(point.nm), point.line));
+}
+
+QVector<Column> ColumnsOf(const SpectrumProduct &product)
+{
+    QVector<Column> columns;
+    if (product.raw.Count() > 0)
+        columns << Column{"raw", &product.raw};
+    if (product.corrected.Count() > 0)
+        columns << Column{"corrected", &product.corrected};
+    for (size_t track = 0; track < product.tracks.size(); ++track)
+        columns << Column{QString("track%1").arg(track + 1), &product.tracks[track]};
+    return columns;
+}
+
+bool IsSaturated(const QVector<Column> &columns, int pixel)
+{
+    return std::any_of(columns.begin(), columns.end(), [pixel](const Column &column) {
+        return size_t(pixel) < column.spectrum->saturated.size() && column.spectrum->saturated[size_t(pixel)];
+    });
+}
+
+} // namespace
+
+QByteArray SpectrumCsv(const ExportedSpectrum &spectrum)
+{
+    QStringList lines;
+    AddOrigin(spectrum, &lines);
+    AddCalibration(spectrum, &lines);
+    const QVector<Column> columns = ColumnsOf(spectrum.product);
+    QStringList names{"pixel", "axis"};
+    int count = 0;
+    for (const Column &column : columns) {
+        names << column.name;
+        count = std::max(count, column.spectrum->Count());
+    }
+    lines << names.join(',') + ",saturated";
+    for (int pixel = 0; pixel < count; ++pixel) {
+        QStringList cells{QString::number(pixel), Number(spectrum.axis.At(pixel))};
+        for (const Column &column : columns)
+            cells << (pixel < column.spectrum->Count() ? Number(column.spectrum->values[size_t(pixel)]) : QString());
+        cells << QString::number(int(IsSaturated(columns, pixel)));
+        lines << cells.join(',');
+    }
+    return (lines.join('\n') + '\n').toUtf8();
+}

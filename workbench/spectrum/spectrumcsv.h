@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "calibratedaxis.h"
+#include "spectrumproduct.h"
+
+#include <QByteArray>
+#include <QDateTime>
+
+/// A spectrum that leaves the program, with all that is known of it.
+struct ExportedSpectrum
+{
+    SpectrumProduct product; ///< a binned spectrum or tracks
+    CalibratedAxis axis;
+    /// What our own calibration was made of, and how well it fits; not used for that of a file.
+    QVector<CalibrationPoint> points;
+    double residualPixels = 0; ///< root mean square
+    QString source;            ///< a camera or a file
+    QDateTime when;
+};
+
+/// As other programs read it: comment lines that begin with "# " and say all that is known (what was binned,
+/// corrections, calibration with its coefficients and lines), one line of column names, then pixel, value on the axis,
+/// and of the binned spectrum or of each track the values, with 1 where a pixel was saturated. Numbers have a decimal
+/// point, whatever the language.
+QByteArray SpectrumCsv(const ExportedSpectrum &spectrum);

@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "spectrumdialogs.h"
+
+#include "calibrationdialog.h"
+#include "calibrationmodel.h"
+#include "cameralink.h"
+#include "faultnotice.h"
+#include "openedpicture.h"
+#include "picturedesk.h"
+#include "picturedocument.h"
+#include "plotpicture.h"
+#include "spectrumpipeline.h"
+#include "spectrumsettings.h"
+#include "workbenchservices.h"
+
+#include <QFileDialog>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace {
+
+PlotForm FormOf(const QString &suffix)
+{
+    if (suffix == "svg")
+        return PlotForm::Svg;
+    return suffix == "pdf" ? PlotForm::Pdf : PlotForm::Png;
+}
+
+/// "SVG (*.svg)" gives "svg".
+QString SuffixOf(const QString &filter) { return filter.section("*.", 1).remove(')'); }
+
+QString WriteFile(const QString &path, const QByteArray &content)
+{
+    QSaveFile file(path);
+    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
+    return isWritten ? QString() : file.errorString();
+}
+
+} // namespace
+
+SpectrumDialogs::SpectrumDialogs(WorkbenchServices *services, QWidget *centre, QWidget *window)
+    : QObject(window)
+    , m_services(services)
+    , m_centre(centre)
+    , m_window(window)
+    , m_fault(new FaultNotice(window))
+{
+}
+
+/// A file that was begun is brought to its end.
+SpectrumDialogs::~SpectrumDialogs() { m_writing.waitForDone(); }
+
+void SpectrumDialogs::slotCalibrate()
+{
+    if (!m_calibration) {
+        m_calibration = new CalibrationDialog(m_services->Calibration(), [this] { return Shown().product.raw.values; }, m_window);
+        m_calibration->setAttribute(Qt::WA_DeleteOnClose);
+    }
+    m_calibration->show();
+    m_calibration->raise();
+    m_calibration->activateWindow();
+}
+
+// What is on the screen
+
+ExportedSpectrum SpectrumDialogs::Shown() const
+{
+    ExportedSpectrum spectrum = m_services->Spectrum()->IsImageShown() ? OpenedSpectrum() : LiveSpectrum();
+    spectrum.axis = m_services->Spectrum()->ShownAxis();
+    spectrum.points = m_services->Calibration()->AppliedPoints();
+    spectrum.residualPixels = m_services->Calibration()->Applied().rmsPixel;
+    spectrum.when = QDateTime::currentDateTime();
+    return spectrum;
+}
+
+/// What was shown before binning was switched off is no more.
+ExportedSpectrum SpectrumDialogs::LiveSpectrum() const
+{
+    ExportedSpectrum spectrum;
+    const SpectrumRecipe &recipe = m_services->Spectrum()->Recipe();
+    if (recipe.isBinning || recipe.hasTracks)
+        spectrum.product = m_services->Spectra()->Shown();
+    spectrum.source = m_services->Link()->Name();
+    return spectrum;
+}
+
+ExportedSpectrum SpectrumDialogs::OpenedSpectrum() const
+{
+    ExportedSpectrum spectrum;
+    const OpenedPicture *picture = m_services->Desk()->MainPicture();
+    const bool isHorizontal = m_services->Spectrum()->Recipe().isHorizontal;
+    spectrum.product.raw.values = picture->Profile(isHorizontal);
+    if (spectrum.product.raw.values.empty())
+        return spectrum;
+    const ProfileBand lines = picture->LinesOfProfile(isHorizontal);
+    spectrum.product.band.top = lines.first;
+    spectrum.product.band.bottom = lines.end;
+    spectrum.product.frameId = quint64(picture->Shown().request.frame + 1);
+    spectrum.product.frameSize = picture->GetImageSize();
+    spectrum.source = picture->Document()->Path();
+    return spectrum;
+}
+
+// Saving
+
+void SpectrumDialogs::slotExportSpectrum()
+{
+    const ExportedSpectrum spectrum = Shown();
+    if (spectrum.product.raw.values.empty() && spectrum.product.tracks.empty()) {
+        emit signalMessage(tr("There is no spectrum to export: switch vertical binning or tracks on, or open a spectrum."));
+        return;
+    }
+    AskWhere(tr("Export Spectrum"), {tr("Table with commented header (*.csv)")}, "csv",
+             [this, spectrum](const QString &path) { Write(path, SpectrumCsv(spectrum)); });
+}
+
+void SpectrumDialogs::slotExportPlot()
+{
+    QPointer<QWidget> plot = VisiblePlot(m_centre);
+    if (!plot) {
+        emit signalMessage(tr("There is no plot to export: show the curve or the tracks in 3D first."));
+        return;
+    }
+    AskWhere(tr("Export Plot"), {tr("PNG picture (*.png)"), tr("SVG drawing (*.svg)"), tr("PDF page (*.pdf)")}, "png",
+             [this, plot](const QString &path) {
+                 if (plot)
+                     Write(path, PlotPicture(plot, FormOf(QFileInfo(path).suffix().toLower())));
+             });
+}
+
+/// Beside the opened picture, or among the documents.
+QString SpectrumDialogs::SuggestedName() const
+{
+    const PictureDocument *document = m_services->Desk()->MainPicture()->Document();
+    if (m_services->Spectrum()->IsImageShown() && document)
+        return QFileInfo(document->Path()).path() + '/' + tr("%1 spectrum").arg(QFileInfo(document->Path()).completeBaseName());
+    const QString when = QDateTime::currentDateTime().toString("yyyy-MM-dd hh-mm-ss");
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + '/' + tr("spectrum %1").arg(when);
+}
+
+void SpectrumDialogs::AskWhere(const QString &title, const QStringList &filters, const QString &suffix,
+                               const std::function<void(const QString &)> &write)
+{
+    const QFileInfo suggested(SuggestedName());
+    auto *dialog = new QFileDialog(m_window, title, suggested.path());
+    dialog->setObjectName("ExportDialog");
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters(filters);
+    dialog->setDefaultSuffix(suffix);
+    dialog->selectFile(suggested.fileName());
+    connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString &filter) { dialog->setDefaultSuffix(SuffixOf(filter)); });
+    connect(dialog, &QFileDialog::fileSelected, this, write);
+    dialog->open();
+}
+
+void SpectrumDialogs::Write(const QString &path, const QByteArray &content)
+{
+    m_writing.start([this, path, content] {
+        QMetaObject::invokeMethod(
+            this, [this, path, error = WriteFile(path, content)] { slotWritten(path, error); }, Qt::QueuedConnection);
+    });
+}
+
+void SpectrumDialogs::slotWritten(const QString &path, const QString &error)
+{
+    if (error.isEmpty())
+        emit signalMessage(tr("\u201c%1\u201d was saved.").arg(QFileInfo(path).fileName()));
+    else
+        m_fault->slotShowFault(tr("%1 could not be written: %2 Choose another folder.").arg(path, error));
+}
