@@ -7,6 +7,7 @@
 #include "livelevels.h"
 #include "liveorientation.h"
 #include "livepreview.h"
+#include "streambufferpool.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -122,6 +123,8 @@ public:
     ~PacedCamera() override { StopFrames(); }
 
     void Follow(const FrameSaving *saving) { m_saving = saving; }
+    /// Each frame gets memory of its own and is filled, as a camera's are.
+    void FillEach() { m_pool = StreamBufferPool::Create(size_t(m_frames.first().ByteCount())); }
 
     bool StartFrames(FrameSink *sink) override
     {
@@ -146,15 +149,26 @@ private:
         for (quint64 id = 1; m_runs; ++id) {
             CameraFrame frame = m_frames[int(id % quint64(m_frames.size()))];
             frame.frameId = id;
+            if (m_pool)
+                frame.pixels = Filled(frame);
             if (m_framesPerSecond > 0)
                 std::this_thread::sleep_until(
                     start + duration_cast<nanoseconds>(duration<double>(double(id) / m_framesPerSecond)));
+            frame.hostTimeNs = duration_cast<nanoseconds>(system_clock::now().time_since_epoch()).count();
             while (m_framesPerSecond <= 0 && m_runs && m_saving->Queue().Count() >= WaitingAtMost)
                 std::this_thread::sleep_for(microseconds(200));
             sink->OnFrame(frame);
         }
     }
 
+    std::shared_ptr<const uchar> Filled(const CameraFrame &frame) const
+    {
+        const std::shared_ptr<const uchar> pixels = m_pool->Lend(m_pool->Take());
+        std::memcpy(const_cast<uchar *>(pixels.get()), frame.pixels.get(), size_t(frame.ByteCount()));
+        return pixels;
+    }
+
+    std::shared_ptr<StreamBufferPool> m_pool;
     const QVector<CameraFrame> m_frames;
     const double m_framesPerSecond;
     const FrameSaving *m_saving = nullptr;
@@ -222,21 +236,28 @@ struct Display
     QLabel window;
 };
 
-BenchmarkResult MeasureRam()
+/// Two results: what was lost, and whether the frames came at the rate of that camera.
+QVector<BenchmarkResult> MeasureRam()
 {
     constexpr int Seconds = 2;
     const QTemporaryDir folder(QDir::currentPath() + "/bench-XXXXXX");
     const CameraFrame frame = FrameOf(Side, 0);
     const double rate = double(CameraBytesPerSecond) / double(frame.ByteCount());
     PacedCamera camera({ frame }, rate);
+    camera.FillEach();
     FrameTee tee(&camera);
     FrameSaving saving{ RunRegister(folder.filePath("register")) };
     RunOrder order = OrderOf(folder.path(), frame, int(rate * Seconds));
     order.settings.toRam = true;
     order.settings.queueMB = RecordingSettings::LeastQueueMB;
     const RunTime time = Record(&saving, &tee, order);
-    return { "frames lost of a camera at 1 GB/s, to memory", "frames", 0,
-             double(time.receipt.outcome.counts.Lost()), 0 };
+    const QVector<FrameStamp> &stamps = time.receipt.stamps;
+    const double captureMs = double(stamps.last().hostTimeNs - stamps.first().hostTimeNs) / 1e6;
+    const double heldMB = double(frame.ByteCount()) * double(stamps.size()) / 1e6;
+    return { { QString("frames lost of a camera at 1 GB/s, %1 MB held in memory").arg(heldMB, 0, 'f', 0), "frames",
+               0, double(time.receipt.outcome.counts.Lost()), 0 },
+             { "time in which these frames came, against that camera's", "ms",
+               double(stamps.size() - 1) * 1000 / rate, captureMs, DisplayBound } };
 }
 
 BenchmarkResult MeasureDisplay()

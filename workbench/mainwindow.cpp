@@ -95,7 +95,9 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     auto *recordingLabel = new QLabel(this);
     recordingLabel->setObjectName("labelStatusRecording");
     statusBar()->addPermanentWidget(recordingLabel);
-    new RecordingStatus(services->Recording(), recordingLabel, this);
+    m_recordingStatus = new RecordingStatus(services->Recording(), recordingLabel, this);
+    connect(m_recordingStatus, &RecordingStatus::signalLossSeen, this,
+            [this](bool seen) { statusBar()->setVisible(!m_isFullScreen || seen); });
     m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);
     connect(services, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
     connect(m_drawingGuard, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
@@ -280,7 +282,7 @@ void MainWindow::SetFullScreen(bool full)
     // Outside of it the key belongs to whatever tool is at work over the picture.
     m_leaveFullScreen->setEnabled(full);
     menuBar()->setVisible(!full);
-    statusBar()->setVisible(!full);
+    statusBar()->setVisible(!full || m_recordingStatus->IsLossSeen()); // a loss is never hidden
     setWindowState(windowState().setFlag(Qt::WindowFullScreen, full));
     m_viewMenu->slotSetFullScreenChecked(full);
 }

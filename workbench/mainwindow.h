@@ -16,6 +16,7 @@ class QStackedWidget;
 class RecordingFields;
 class RecordingGuard;
 class ShownFrames;
+class RecordingStatus;
 class StatusLine;
 class ViewMenu;
 class WorkbenchServices;
@@ -79,6 +80,7 @@ private:
     QDockWidget *m_bottomDock = nullptr;
     ViewMenu *m_viewMenu = nullptr;
     ShownFrames *m_shown = nullptr;
+    RecordingStatus *m_recordingStatus = nullptr;
     StatusLine *m_statusLine = nullptr;
     PanelsShown m_panelsBeforeFullScreen;
     QShortcut *m_leaveFullScreen = nullptr;

@@ -10,6 +10,11 @@ namespace {
 constexpr int UpdatePeriodMs = 250;
 constexpr double MsPerSecond = 1000.0;
 constexpr double LongestForecast = 3600; // seconds; beyond it the disk keeps up
+
+double SecondsTo(qint64 bytes, double bytesPerSecond)
+{
+    return bytesPerSecond > 0 ? qMax(0.0, double(bytes) / bytesPerSecond) : LongestForecast;
+}
 } // namespace
 
 RecordingStatus::RecordingStatus(const RecordingDesk *desk, QLabel *label, QObject *parent)
@@ -25,15 +30,16 @@ RecordingStatus::RecordingStatus(const RecordingDesk *desk, QLabel *label, QObje
 
 QString RecordingStatus::Text(const Facts &facts)
 {
-    QString text = tr("saved %1").arg(facts.saved);
+    QString text = facts.isToRam ? tr("in memory %1").arg(facts.inRam) : tr("saved %1").arg(facts.saved);
     if (facts.lost > 0)
         text += tr("  LOST %1").arg(facts.lost);
     text += tr("  waiting %1 (%2)").arg(facts.waiting).arg(ByteText(facts.waitingBytes));
-    const double seconds = facts.growthBytesPerSecond > 0
-                               ? double(facts.budgetBytes - facts.waitingBytes) / facts.growthBytesPerSecond
-                               : LongestForecast;
-    if (seconds < LongestForecast)
-        text += tr("  queue full in %1 s").arg(qMax(0.0, seconds), 0, 'f', 0);
+    const double toQueue = SecondsTo(facts.budgetBytes - facts.waitingBytes, facts.growthBytesPerSecond);
+    if (toQueue < LongestForecast)
+        text += tr("  queue full in %1 s").arg(toQueue, 0, 'f', 0);
+    const double toRoom = SecondsTo(facts.roomBytes, facts.keptBytesPerSecond);
+    if (facts.roomBytes >= 0 && toRoom < LongestForecast)
+        text += (facts.isToRam ? tr("  memory full in %1 s") : tr("  disk full in %1 s")).arg(toRoom, 0, 'f', 0);
     return text;
 }
 
@@ -42,6 +48,8 @@ void RecordingStatus::slotStateChanged()
     if (m_desk->IsBusy()) {
         m_lastBytes = 0;
         m_sinceLast.start();
+        m_sinceStart.start();
+        SetLossSeen(false);
         m_timer->start(UpdatePeriodMs);
         m_label->show();
         slotUpdate();
@@ -51,9 +59,25 @@ void RecordingStatus::slotStateChanged()
     const quint64 lost = m_desk->HasReceipt() ? m_desk->LastReceipt().outcome.counts.Lost() : 0;
     m_label->setVisible(lost > 0);
     m_label->setText(tr("last recording LOST %1").arg(lost));
+    SetLossSeen(lost > 0);
+}
+
+void RecordingStatus::SetLossSeen(bool seen)
+{
+    if (m_isLossSeen == seen)
+        return;
+    m_isLossSeen = seen;
+    emit signalLossSeen(seen);
 }
 
 void RecordingStatus::slotUpdate()
+{
+    const Facts facts = CurrentFacts();
+    m_label->setText(Text(facts));
+    SetLossSeen(facts.lost > 0);
+}
+
+RecordingStatus::Facts RecordingStatus::CurrentFacts()
 {
     const FrameSaving *saving = m_desk->Saving();
     const FrameCounts counts = saving->Counts();
@@ -68,5 +92,14 @@ void RecordingStatus::slotUpdate()
         facts.growthBytesPerSecond =
             double(facts.waitingBytes - m_lastBytes) * MsPerSecond / double(elapsedMs);
     m_lastBytes = facts.waitingBytes;
-    m_label->setText(Text(facts));
+
+    facts.isToRam = saving->Order().settings.toRam && saving->FramesInRam() > 0;
+    facts.inRam = saving->FramesInRam();
+    const qint64 frameBytes = saving->Order().facts.FrameBytes();
+    const qint64 kept = facts.isToRam ? saving->BytesInRam() : qint64(counts.saved) * frameBytes;
+    const qint64 room = facts.isToRam ? saving->Order().ramBytes : m_desk->Resources().freeDiskBytes;
+    if (room >= 0)
+        facts.roomBytes = qMax(qint64(0), room - kept);
+    facts.keptBytesPerSecond = double(kept) * MsPerSecond / double(qMax(qint64(1), m_sinceStart.elapsed()));
+    return facts;
 }

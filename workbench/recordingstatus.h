@@ -9,7 +9,8 @@ class QLabel;
 class QTimer;
 class RecordingDesk;
 
-/// What the status bar says of a recording: the frames saved, how many wait and how long the queue would last; after it,
+/// What the status bar says of a recording: the frames saved, how many wait, how long the queue would last and when
+/// memory or disk would be full; after it,
 /// what was lost, until the next one begins. GUI thread.
 class RecordingStatus : public QObject
 {
@@ -27,17 +28,31 @@ public:
         qint64 waitingBytes = 0;
         qint64 budgetBytes = 0;
         double growthBytesPerSecond = 0; ///< of what waits
+        bool isToRam = false;
+        int inRam = 0;           ///< frames in memory
+        qint64 roomBytes = -1;   ///< left on the disk, or in the memory for frames; -1 when not known
+        double keptBytesPerSecond = 0; ///< what takes that room
     };
     static QString Text(const Facts &facts);
+    bool IsLossSeen() const { return m_isLossSeen; }
+
+signals:
+    /// Something was lost, or that is history: a new run begins.
+    void signalLossSeen(bool seen);
 
 private slots:
     void slotStateChanged();
     void slotUpdate();
 
 private:
+    void SetLossSeen(bool seen);
+    Facts CurrentFacts();
+
+    bool m_isLossSeen = false;
     const RecordingDesk *m_desk;
     QLabel *m_label;
     QTimer *m_timer;
     QElapsedTimer m_sinceLast;
+    QElapsedTimer m_sinceStart;
     qint64 m_lastBytes = 0;
 };

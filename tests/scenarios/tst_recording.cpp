@@ -24,6 +24,7 @@
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -327,6 +328,23 @@ private slots:
         QTEST(RecordingStatus::Text(facts), "text");
     }
 
+    void theStatusBarTellsWhenTheRoomIsUsedUp()
+    {
+        RecordingStatus::Facts facts;
+        facts.saved = 120;
+        facts.roomBytes = 5000000000;
+        facts.keptBytesPerSecond = 1e8;
+        QCOMPARE(RecordingStatus::Text(facts), QString("saved 120  waiting 0 (0.0 kB)  disk full in 50 s"));
+        facts.isToRam = true;
+        facts.inRam = 77;
+        QCOMPARE(RecordingStatus::Text(facts), QString("in memory 77  waiting 0 (0.0 kB)  memory full in 50 s"));
+        facts.keptBytesPerSecond = 1e5; // hours away
+        QCOMPARE(RecordingStatus::Text(facts), QString("in memory 77  waiting 0 (0.0 kB)"));
+        facts.roomBytes = -1; // nobody knows
+        facts.keptBytesPerSecond = 1e8;
+        QCOMPARE(RecordingStatus::Text(facts), QString("in memory 77  waiting 0 (0.0 kB)"));
+    }
+
     void binnedFramesAreMeansAndSaySo()
     {
         m_workbench->Action("2 x 2")->trigger();
@@ -365,6 +383,7 @@ private slots:
 
     void aLostCameraLeavesWhatWasRecorded()
     {
+        m_workbench->link.Session()->Controls().SetExposureUs(7000);
         m_settings.mode = RecordingSettings::Mode::UntilStopped;
         Apply();
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);
@@ -372,9 +391,116 @@ private slots:
         emit m_workbench->link.Session()->signalControlLost();
         const RunReceipt receipt = Receipt();
         QCOMPARE(receipt.outcome.end, RunEnd::CameraLost);
+        QVERIFY(!receipt.IsWhole());
+        const QString sentence = QString("The recording ended early: Simulated Camera does not answer. %1 frames saved "
+                                         "as run1.tif, none lost.")
+                                     .arg(receipt.stamps.size());
+        QVERIFY2(m_workbench->StatusText().contains(sentence), qPrintable(m_workbench->StatusText()));
+        auto *dialog = m_workbench->window.findChild<QDialog *>("ReceiptDialog"); // without being asked for
+        QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
+        QStringList lines;
+        for (const QLabel *label : dialog->findChildren<QLabel *>())
+            lines << label->text();
+        QVERIFY2(lines.contains("the camera was lost (Simulated Camera does not answer)"), qPrintable(lines.join('\n')));
+        dialog->close();
         CompareWithTheScene(receipt, receipt.stamps.size());
         QTRY_VERIFY_WITH_TIMEOUT(m_workbench->link.GetState() == CameraLink::State::Open, MsToWait);
         QCOMPARE(m_workbench->link.Session()->Format().Region(), SmallRegion);
+        QCOMPARE(m_workbench->link.Session()->Controls().ExposureUs(), 7000.0);
+    }
+
+    /// Also while the status bar is hidden.
+    void aLossStaysVisibleUntilTheNextStart()
+    {
+        m_settings.mode = RecordingSettings::Mode::UntilStopped;
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 3, MsToWait);
+        FrameSink *sink = const_cast<FrameSaving *>(Desk()->Saving());
+        sink->OnLost(LossStage::Transfer, UnknownFrameId, 2);
+        m_workbench->Action("Full Screen")->trigger();
+        QTRY_VERIFY(m_workbench->window.isFullScreen());
+        auto *bar = m_workbench->window.statusBar();
+        QTRY_VERIFY_WITH_TIMEOUT(bar->isVisible() && m_workbench->StatusText().contains("LOST 2"), MsToWait);
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QCOMPARE(Receipt().outcome.counts.Lost(), quint64(2));
+        auto *dialog = m_workbench->window.findChild<QDialog *>("ReceiptDialog");
+        QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
+        dialog->close();
+        QVERIFY(bar->isVisible());
+        QVERIFY2(m_workbench->StatusText().contains("last recording LOST 2"), qPrintable(m_workbench->StatusText()));
+        Desk()->slotCapture(false, true);
+        Receipt();
+        QVERIFY2(!m_workbench->StatusText().contains("LOST"), qPrintable(m_workbench->StatusText()));
+        QVERIFY(!bar->isVisible());
+        m_workbench->Action("Full Screen")->trigger();
+        QTRY_VERIFY(!m_workbench->window.isFullScreen());
+        QVERIFY(bar->isVisible());
+    }
+
+    void f10DuringTheDelayLeavesNothing()
+    {
+        m_settings.delay.minutes = 5;
+        Apply();
+        auto *time = m_workbench->window.findChild<QLabel *>("labelTime");
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_VERIFY_WITH_TIMEOUT(time->text().startsWith("Delaying : "), MsToWait);
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QCOMPARE(Receipt().files, QStringList());
+        QVERIFY(!Desk()->IsBusy());
+        QCOMPARE(QDir(m_folder->path()).entryList({ "run*" }), QStringList());
+        m_settings.delay.minutes = 0;
+        m_settings.delay.seconds = 1;
+        Apply(); // the delay of the next run is shown while the panel of this one is still about to hide
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_COMPARE_WITH_TIMEOUT(time->text(), QString("Delaying : 00 : 00 / 00 : 01"), MsToWait);
+        CompareWithTheScene(Receipt(), 20);
+    }
+
+    void exposureChangedInMidRunIsTold()
+    {
+        m_settings.mode = RecordingSettings::Mode::UntilStopped;
+        Apply();
+        m_workbench->link.Session()->Controls().SetExposureUs(4000);
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 3, MsToWait);
+        m_workbench->link.Session()->Controls().SetExposureUs(9000);
+        const quint64 before = Desk()->Saving()->Counts().saved;
+        QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > before + 5, MsToWait);
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
+        QCOMPARE(receipt.facts.exposureUs, 4000.0);
+        QCOMPARE(receipt.facts.changes.last().exposureUs, 9000.0);
+        QVERIFY(receipt.facts.changes.last().frame > 3 && receipt.facts.changes.last().frame < receipt.stamps.size());
+        QFile summary(receipt.files.last());
+        QVERIFY(summary.open(QIODevice::ReadOnly));
+        QVERIFY(summary.readAll().contains("Exposure: 4000 to 9000 us\n"));
+    }
+
+    void aRunOfSecondsIntoACube()
+    {
+        m_settings.mode = RecordingSettings::Mode::Duration;
+        m_settings.seconds = 1;
+        m_settings.format = RunFormat::Fits;
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.IsWhole() && receipt.files.first().endsWith("run1.fits"), qPrintable(receipt.Text()));
+        QVERIFY(receipt.stamps.last().hostTimeNs - receipt.stamps.first().hostTimeNs <= 1000000000);
+        CompareWithTheScene(receipt, receipt.stamps.size());
+    }
+
+    void aRunIntoMemoryCanBeDiscarded()
+    {
+        m_settings.mode = RecordingSettings::Mode::UntilStopped;
+        m_settings.toRam = true;
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_VERIFY_WITH_TIMEOUT(m_workbench->StatusText().contains(QRegularExpression("in memory [1-9]")), MsToWait);
+        m_workbench->Action("Discard")->trigger();
+        QCOMPARE(Receipt().files, QStringList());
+        QCOMPARE(QDir(m_folder->path()).entryList({ "run*" }), QStringList());
     }
 
 private:
