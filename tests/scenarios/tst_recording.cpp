@@ -421,17 +421,18 @@ private slots:
         m_workbench->Action("Full Screen")->trigger();
         QTRY_VERIFY(m_workbench->window.isFullScreen());
         auto *bar = m_workbench->window.statusBar();
-        QTRY_VERIFY_WITH_TIMEOUT(bar->isVisible() && m_workbench->StatusText().contains("LOST 2"), MsToWait);
+        QTRY_VERIFY_WITH_TIMEOUT(bar->isVisible() && RecordingLabel()->text().contains("LOST 2"), MsToWait);
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);
         QCOMPARE(Receipt().outcome.counts.Lost(), quint64(2));
         auto *dialog = m_workbench->window.findChild<QDialog *>("ReceiptDialog");
         QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
         dialog->close();
         QVERIFY(bar->isVisible());
-        QVERIFY2(m_workbench->StatusText().contains("last recording LOST 2"), qPrintable(m_workbench->StatusText()));
+        QCOMPARE(RecordingLabel()->text(), QString("last recording LOST 2"));
+        QVERIFY(RecordingLabel()->isVisible());
         Desk()->slotCapture(false, true);
         Receipt();
-        QVERIFY2(!m_workbench->StatusText().contains("LOST"), qPrintable(m_workbench->StatusText()));
+        QVERIFY(!RecordingLabel()->isVisible());
         QVERIFY(!bar->isVisible());
         m_workbench->Action("Full Screen")->trigger();
         QTRY_VERIFY(!m_workbench->window.isFullScreen());
@@ -497,7 +498,7 @@ private slots:
         m_settings.toRam = true;
         Apply();
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);
-        QTRY_VERIFY_WITH_TIMEOUT(m_workbench->StatusText().contains(QRegularExpression("in memory [1-9]")), MsToWait);
+        QTRY_VERIFY_WITH_TIMEOUT(RecordingLabel()->text().contains(QRegularExpression("in memory [1-9]")), MsToWait);
         m_workbench->Action("Discard")->trigger();
         QCOMPARE(Receipt().files, QStringList());
         QCOMPARE(QDir(m_folder->path()).entryList({ "run*" }), QStringList());
@@ -506,6 +507,7 @@ private slots:
 private:
     RecordingDesk *Desk() const { return m_workbench->services.Recording(); }
     void Apply() { Desk()->Settings()->Set(m_settings); }
+    QLabel *RecordingLabel() const { return m_workbench->window.findChild<QLabel *>("labelStatusRecording"); }
     QPushButton *Button(const char *name) const { return m_workbench->window.findChild<QPushButton *>(name); }
 
     RunReceipt Receipt()
