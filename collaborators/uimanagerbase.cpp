@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QHash>
 #include <QLabel>
 #include <QMap>
@@ -26,6 +27,7 @@ struct ManagerRegistry
     QSet<int> takenIds;
     QList<UIPluginReport> reports;
     QMap<int, QString> missing; ///< id and title of the panels that were asked for and not found
+    qint64 loadNs = 0;
     int managers = 0;
     int leftPage = CameraControlPage; ///< the one last shown
 };
@@ -140,12 +142,15 @@ UIManagerBase::~UIManagerBase()
 
 void UIManagerBase::LoadUIPluginAndInitUI(const QString &directory, QWidget *parent, bool complete)
 {
+    QElapsedTimer timer;
+    timer.start();
     for (const QString &file : UIPluginLoader::FindFiles(PluginRoots(), directory))
         m_private->Load(file, parent, this);
-    if (!complete)
-        return;
-    for (const LoadedPlugin &loaded : qAsConst(m_private->plugins))
-        loaded.plugin->UpdateUI();
+    if (complete) {
+        for (const LoadedPlugin &loaded : qAsConst(m_private->plugins))
+            loaded.plugin->UpdateUI();
+    }
+    Registry().loadNs += timer.nsecsElapsed();
 }
 
 QWidget *UIManagerBase::GetScrollArea(int firstId, int lastId, const QStringList &tabNames,
@@ -251,6 +256,12 @@ QList<UIPluginReport> UIManagerBase::PluginReports()
         reports.append(report);
     }
     return reports;
+}
+
+int UIManagerBase::PluginLoadMs()
+{
+    constexpr qint64 nsPerMs = 1000000;
+    return int(Registry().loadNs / nsPerMs);
 }
 
 const QList<UIManagerBase::LoadedPlugin> &UIManagerBase::Plugins() const

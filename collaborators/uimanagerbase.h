@@ -55,6 +55,8 @@ public:
     /// All plug-ins found so far, of all managers, in the order they were found; then the panels that were asked for
     /// and that none brings, by id.
     static QList<UIPluginReport> PluginReports();
+    /// What loading them took so far, in all; what they have to show is not there before they are seen.
+    static int PluginLoadMs();
 
 protected:
     /// A plug-in that was loaded.

@@ -5,6 +5,7 @@
 #include "levelbox.h"
 #include "levelscurve.h"
 #include "levelsmodel.h"
+#include "levelstexts.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -17,21 +18,8 @@
 #include <QVBoxLayout>
 
 namespace {
-constexpr double LeastGamma = 0.1;
-constexpr double MostGamma = 10.0;
 constexpr double GammaStep = 0.1;
-
-QString KindText(const SampleKind &kind)
-{
-    if (!kind.IsWhole())
-        return LevelsDialog::tr("%1 bit floating point samples").arg(kind.Bits());
-    return LevelsDialog::tr("%1 bit samples, %2 to %3")
-        .arg(kind.Bits())
-        .arg(kind.Least(), 0, 'f', 0)
-        .arg(kind.Most(), 0, 'f', 0);
 }
-
-} // namespace
 
 LevelsDialog::LevelsDialog(LevelsModel *model, QWidget *parent)
     : QDialog(parent)
@@ -62,16 +50,14 @@ void LevelsDialog::AddFields()
     auto *form = new QFormLayout;
     static_cast<QVBoxLayout *>(layout())->addLayout(form);
     m_mode->setObjectName("comboBoxLevelsMode");
-    m_mode->addItem(tr("Automatic (0.1 % to 99.9 %)"), int(LevelsMode::Automatic));
-    m_mode->addItem(tr("Minimum and maximum"), int(LevelsMode::MinimumMaximum));
-    m_mode->addItem(tr("Manual"), int(LevelsMode::Manual));
-    m_mode->addItem(tr("Full range"), int(LevelsMode::FullRange));
+    for (const QString &mode : LevelsTexts::Modes())
+        m_mode->addItem(mode, m_mode->count());
     form->addRow(tr("&Mode"), m_mode);
     m_left = AddValue(form, tr("&Black"), "spinBoxLevelsLeft");
     m_right = AddValue(form, tr("&White"), "spinBoxLevelsRight");
 
     m_gamma->setObjectName("doubleSpinBoxLevelsGamma");
-    m_gamma->setRange(LeastGamma, MostGamma);
+    m_gamma->setRange(DisplayLevels::LeastGamma, DisplayLevels::MostGamma);
     m_gamma->setSingleStep(GammaStep);
     m_gamma->setKeyboardTracking(false);
     form->addRow(tr("&Gamma"), m_gamma);
@@ -114,7 +100,7 @@ void LevelsDialog::slotReport(LevelsReport report)
 {
     m_report = report;
     m_histogram->SetCurve(LevelsCurve(report));
-    m_depth->setText(KindText(report.kind));
+    m_depth->setText(LevelsTexts::Kind(report.kind));
     // Samples that are no whole numbers have no full range.
     static_cast<QStandardItemModel *>(m_mode->model())
         ->item(m_mode->findData(int(LevelsMode::FullRange)))

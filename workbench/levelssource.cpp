@@ -34,7 +34,7 @@ void LevelsSource::slotViewSwitched()
     const bool isLive = m_workspace->IsCameraView();
     if (m_isWatched && isLive)
         emit signalNoReport(tr("There is no live picture."));
-    m_live->SetWatched(m_isWatched && isLive);
+    m_live->SetWatched(this, m_isWatched && isLive);
     if (m_isWatched && !isLive)
         ReportOpenedPicture();
 }

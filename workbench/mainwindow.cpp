@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "mainwindow.h"
 
+#include "adjustmentfields.h"
 #include "camerafeaturetree.h"
 #include "camerafields.h"
 #include "cameralink.h"
@@ -12,6 +13,9 @@
 #include "globalclass.h"
 #include "globalui.h"
 #include "informationdialog.h"
+#include "levelssource.h"
+#include "liveorientation.h"
+#include "openedpicture.h"
 #include "panelsources.h"
 #include "picturedesk.h"
 #include "picturedialogs.h"
@@ -87,7 +91,10 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     setObjectName("MainWindow");
     setWindowTitle(tr("Workbench"));
 
-    new PanelSources(services->Histogram(), this); // the panels find it while the module is built
+    // The panels find them while the module is built.
+    new PanelSources({services->Histogram(), services->Spectrum(), services->Spectra()}, this);
+    AddAdjustment(FieldSource::CameraAdjustmentName, services->LivePosition(), SLOT(slotSetMirrorRotate(int)));
+    AddAdjustment(FieldSource::ImageAdjustmentName, services->Desk()->MainPicture(), SLOT(slotRotateImage(int)));
     BuildAreas();
     m_drawingGuard->Watch(services->GetWorkspace()->GetCameraScene()->views().first());
     m_shown = new ShownFrames(services->Preview(), services->GetWorkspace(), m_centre->widget(CameraControlPage), this);
@@ -115,6 +122,17 @@ MainWindow::~MainWindow()
 {
     GlobalDetachObserver(this);
     delete GlobalUI::GetInstance();
+}
+
+/// The panel of one of the two pictures, which is turned by `turnSlot` of `turned`.
+void MainWindow::AddAdjustment(const char *name, QObject *turned, const char *turnSlot)
+{
+    auto *source = new LevelsSource(m_services, this);
+    auto *fields = new AdjustmentFields(name, source->Model(), this);
+    connect(fields, &AdjustmentFields::signalWatched, source, &LevelsSource::slotSetWatched);
+    connect(source, &LevelsSource::signalReport, fields, &AdjustmentFields::slotReport);
+    connect(source, &LevelsSource::signalNoReport, fields, &AdjustmentFields::slotNoReport);
+    connect(fields, SIGNAL(signalTurnWanted(int)), turned, turnSlot);
 }
 
 void MainWindow::BuildAreas()

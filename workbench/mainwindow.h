@@ -60,6 +60,7 @@ private:
     void BuildAreas();
     QDockWidget *AddDock(const char *name, QWidget *area, Qt::DockWidgetArea where);
     PictureMenus *BuildPictureCommands();
+    void AddAdjustment(const char *name, QObject *turned, const char *turnSlot);
     void BuildMenus();
     void RestoreLayout();
     void ArrangeDefault();

@@ -4,6 +4,7 @@
 #include "cameralink.h"
 #include "processfacts.h"
 #include "shownframes.h"
+#include "uimanagerbase.h"
 
 #include <QCoreApplication>
 #include <QPixmap>
@@ -33,13 +34,14 @@ TimedRun::TimedRun(const CameraLink *link, const ShownFrames *shown, QWidget *wi
 
 QString TimedRun::Line(const Facts &facts)
 {
-    return QString("captured %1, shown %2, lost %3, %4 frames/s, first frame after %5 ms, peak memory %6 MB")
+    return QString("captured %1, shown %2, lost %3, %4 frames/s, first frame after %5 ms, peak memory %6 MB, panels loaded in %7 ms")
         .arg(facts.captured)
         .arg(facts.shown)
         .arg(facts.lost)
         .arg(facts.framesPerSecond, 0, 'f', 1)
         .arg(facts.firstFrameMs)
-        .arg(facts.peakMemoryMB);
+        .arg(facts.peakMemoryMB)
+        .arg(facts.panelLoadMs);
 }
 
 void TimedRun::slotFrameShown()
@@ -91,6 +93,7 @@ TimedRun::Facts TimedRun::Measure() const
     facts.framesPerSecond = seconds > 0 ? (facts.shown - 1) / seconds : 0;
     facts.firstFrameMs = m_firstFrameMs;
     facts.peakMemoryMB = ProcessFacts::PeakMemoryMB();
+    facts.panelLoadMs = UIManagerBase::PluginLoadMs();
     return facts;
 }
 

@@ -25,6 +25,7 @@ public:
         double framesPerSecond = 0; ///< shown
         qint64 firstFrameMs = 0;    ///< from the start of the process to the first frame on the screen
         int peakMemoryMB = 0;
+        int panelLoadMs = 0; ///< of the first frame's time
     };
 
     /// All are borrowed and outlive this object. `screenshot` may be empty; without `frames` the run

@@ -8,6 +8,7 @@
 #include "levelsdialog.h"
 #include "levelsmodel.h"
 #include "levelssource.h"
+#include "levelstexts.h"
 #include "livecover.h"
 #include "livelevels.h"
 #include "scenecatalogue.h"
@@ -19,17 +20,7 @@
 
 namespace {
 enum Panel { LeftPanel, RightPanel, BottomPanel };
-
-/// Most palettes are known by the names that their authors gave them.
-QString PaletteTitle(const QString &name)
-{
-    if (name == "grey")
-        return ViewMenu::tr("&Grey");
-    if (name == "inverted")
-        return ViewMenu::tr("&Inverted");
-    return name.left(1).toUpper() + name.mid(1);
 }
-} // namespace
 
 ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     : QMenu(tr("&View"), parent)
@@ -102,7 +93,7 @@ void ViewMenu::AddPalettes()
 {
     QMenu *menu = addMenu(tr("Pale&tte"));
     for (const QString &name : Palette::Names())
-        AddChoice(m_paletteGroup, menu, PaletteTitle(name), name);
+        AddChoice(m_paletteGroup, menu, LevelsTexts::PaletteTitle(name), name);
 }
 
 void ViewMenu::AddCover()

@@ -17,5 +17,5 @@ DisplayLevels DisplayLevels::Guarded(int bitDepth) const
 
 double DisplayLevels::GuardedGamma(double gamma)
 {
-    return gamma > 0 ? std::clamp(gamma, 0.1, 10.0) : 1.0; // also for "not a number"
+    return gamma > 0 ? std::clamp(gamma, LeastGamma, MostGamma) : 1.0; // also for "not a number"
 }

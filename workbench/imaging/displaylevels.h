@@ -10,7 +10,9 @@ struct DisplayLevels
     double gamma = 1.0;
 
     static DisplayLevels FullRange(int bitDepth);
-    /// 0.1 to 10; 1 for what makes no sense.
+    static constexpr double LeastGamma = 0.1;
+    static constexpr double MostGamma = 10.0;
+    /// LeastGamma to MostGamma; 1 for what makes no sense.
     static double GuardedGamma(double gamma);
     /// The nearest levels that make sense for samples of that depth: 0 <= left < right <= full scale, gamma 0.1 to 10.
     DisplayLevels Guarded(int bitDepth) const;

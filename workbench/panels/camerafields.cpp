@@ -44,12 +44,6 @@ PanelField Choice(const QString &key, const QString &text, const QStringList &ch
     return field;
 }
 
-void InGroup(PanelFields &fields, int first, const QString &group)
-{
-    for (int i = first; i < fields.size(); ++i)
-        fields[i].group = group;
-}
-
 } // namespace
 
 CameraFields::CameraFields(CameraLink *link, ConnectedCameras *cameras, RegionOfInterest *region, QObject *parent)
@@ -117,7 +111,7 @@ void CameraFields::AddCamera(PanelFields &fields) const
     fields << Choice("device", tr("Device"), names, current);
     fields.last().isEnabled = true;
     fields << PanelField::Make(PanelField::Kind::Action, "search", tr("Refresh List"));
-    InGroup(fields, first, tr("Camera"));
+    SetGroup(fields, first, tr("Camera"));
 }
 
 void CameraFields::AddExposure(PanelFields &fields) const
@@ -135,7 +129,7 @@ void CameraFields::AddExposure(PanelFields &fields) const
     fields << Number("frameRate", tr("Frame rate"), controls.FrameRate(), controls.FrameRateRange(), 2,
                      tr(" frames/s"));
     fields.last().toolTip = tr("A long exposure lowers it.");
-    InGroup(fields, first, tr("Exposure"));
+    SetGroup(fields, first, tr("Exposure"));
 }
 
 void CameraFields::AddFrame(PanelFields &fields) const
@@ -150,7 +144,7 @@ void CameraFields::AddFrame(PanelFields &fields) const
         binnings << tr("%1 x %1").arg(binning);
     fields << Choice("pixelFormat", tr("Pixel format"), layouts, format.Layouts().indexOf(format.Layout()));
     fields << Choice("binning", tr("Binning"), binnings, format.Binnings().indexOf(format.Binning()));
-    InGroup(fields, first, tr("Frame"));
+    SetGroup(fields, first, tr("Frame"));
 }
 
 void CameraFields::AddRegion(PanelFields &fields) const
@@ -177,7 +171,7 @@ void CameraFields::AddRegion(PanelFields &fields) const
     fields.last().toolTip = tr("Drag a frame over the live picture.");
     fields << PanelField::Make(PanelField::Kind::Action, "fullSensor", tr("Full Sensor"));
     fields.last().isEnabled = region.size() != sensor;
-    InGroup(fields, first, tr("Region on the sensor"));
+    SetGroup(fields, first, tr("Region on the sensor"));
 }
 
 void CameraFields::Set(const QString &key, const QVariant &value)

@@ -9,16 +9,16 @@
 #include "notesource.h"
 #include "picturenotes.h"
 #include "previewmanager.h"
-#include "spectrumnotes.h"
+#include "spectrumfields.h"
 #include "spectrumuimanager.h"
 
 #include <QLocale>
 
-PanelSources::PanelSources(LiveHistogram *histogram, QObject *parent)
+PanelSources::PanelSources(const Parts &parts, QObject *parent)
     : QObject(parent)
 {
-    new HistogramFields(histogram, this);
-    new AnalysisFields(histogram, this);
+    new HistogramFields(parts.histogram, this);
+    new AnalysisFields(parts.histogram, this);
     new NoteSource(
         FieldSource::ToolName,
         [] {
@@ -27,7 +27,7 @@ PanelSources::PanelSources(LiveHistogram *histogram, QObject *parent)
         },
         this);
     AddReport();
-    AddSpectrum();
+    new SpectrumFields(parts.spectrum, parts.spectra, this);
     AddTables();
 }
 
@@ -47,17 +47,13 @@ void PanelSources::AddReport()
             [report] { emit report->signalChanged(); });
 }
 
-void PanelSources::AddSpectrum()
+QString PanelSources::CalibrationText()
 {
-    auto *spectrum = new NoteSource(
-        FieldSource::SpectrumName, [] { return SpectrumNotes::Of(); }, this);
-    const SpectrumUIManager *manager = SpectrumUIManager::GetInstance();
-    const auto announce = [spectrum] { emit spectrum->signalChanged(); };
-    connect(manager, &SpectrumUIManager::signalDisplayModeChange, spectrum, announce);
-    connect(manager, &SpectrumUIManager::SignalConversationFormulaChanged, spectrum, announce);
-    connect(manager, &SpectrumUIManager::SignalMultiTrackOnFlagChanged, spectrum, announce);
-    connect(manager, &SpectrumUIManager::SignalFVBOnFlagChanged, spectrum, announce);
-    connect(manager, &SpectrumUIManager::SignalTopBottomChanged, spectrum, announce);
+    const SpectrumUIManager *spectrum = SpectrumUIManager::GetInstance();
+    double first = 0;
+    if (spectrum->Calculate(0, first))
+        return tr("%1, from %2").arg(spectrum->GetTitleName(), QLocale().toString(first, 'f', 2));
+    return tr("Not calibrated: positions are in pixels.");
 }
 
 void PanelSources::AddTables()
@@ -67,5 +63,5 @@ void PanelSources::AddTables()
         [] { return tr("Nothing was counted by class."); }, this);
     new EmptyTable(
         FieldSource::CalibrationName, { tr("Position in pixels"), tr("Calibrated position"), tr("Residual") },
-        [] { return SpectrumNotes::CalibrationText(); }, this);
+        &PanelSources::CalibrationText, this);
 }

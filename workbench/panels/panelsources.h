@@ -4,6 +4,8 @@
 #include <QObject>
 
 class LiveHistogram;
+class SpectrumPipeline;
+class SpectrumSettings;
 
 /// What stands behind the panels beside and below the picture: histogram, analysis, tool, report, spectrum, and the tables
 /// of counting and calibration. Made after the services and before the module, so that the panels find it. GUI thread.
@@ -12,11 +14,18 @@ class PanelSources : public QObject
     Q_OBJECT
 
 public:
-    /// `histogram` is borrowed and outlives this object.
-    explicit PanelSources(LiveHistogram *histogram, QObject *parent = nullptr);
+    /// All are borrowed and outlive this object.
+    struct Parts
+    {
+        LiveHistogram *histogram = nullptr;
+        SpectrumSettings *spectrum = nullptr;
+        SpectrumPipeline *spectra = nullptr;
+    };
+
+    explicit PanelSources(const Parts &parts, QObject *parent = nullptr);
 
 private:
     void AddReport();
-    void AddSpectrum();
     void AddTables();
+    static QString CalibrationText();
 };

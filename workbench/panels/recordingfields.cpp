@@ -76,8 +76,7 @@ void RecordingFields::AddFile(PanelFields &fields, const RecordingSettings &sett
     fields << PanelField::MakeNumber("queue", tr("Waiting frames"), settings.queueMB, RecordingSettings::LeastQueueMB,
                      RecordingSettings::MostQueueMB, 0, tr(" MB"));
     fields.last().toolTip = tr("Memory for frames that wait while the disk is busy.");
-    for (int i = first; i < fields.size(); ++i)
-        fields[i].group = tr("File");
+    SetGroup(fields, first, tr("File"));
 }
 
 QString RecordingFields::NameText(const RecordingSettings &settings) const

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fieldform.h"
+
+#include "colourbutton.h"
 #include "fieldsource.h"
 #include "histogramview.h"
 #include "numberbox.h"
@@ -76,7 +78,6 @@ FieldForm::FieldForm(FieldSource *source, const QString &absentText, QWidget *pa
     connect(source, &FieldSource::signalChanged, this, &FieldForm::slotUpdate);
     connect(source, &FieldSource::signalFault, this, &FieldForm::slotFault);
     connect(source, &QObject::destroyed, this, &FieldForm::slotSourceGone);
-    slotUpdate();
 }
 
 void FieldForm::showEvent(QShowEvent *event)
@@ -96,7 +97,7 @@ void FieldForm::hideEvent(QHideEvent *event)
 
 void FieldForm::slotUpdate()
 {
-    if (!m_source)
+    if (!m_source || !isVisible())
         return;
     const PanelFields fields = m_source->Fields();
     if (Shape(fields) != m_shape)
@@ -113,7 +114,8 @@ void FieldForm::slotFault(QString text)
 
 void FieldForm::slotSourceGone()
 {
-    m_fields->setEnabled(false);
+    if (m_fields)
+        m_fields->setEnabled(false);
 }
 
 void FieldForm::Build(const PanelFields &fields)
@@ -181,6 +183,12 @@ QWidget *FieldForm::MakeWidget(const PanelField &field)
         auto *button = new QPushButton(field.text, m_fields);
         button->setObjectName(ObjectName("action", key));
         connect(button, &QPushButton::clicked, this, [this, key] { Send(key, QVariant()); });
+        return button;
+    }
+    case PanelField::Kind::Colour: {
+        auto *button = new ColourButton(WithoutMnemonic(field.text), m_fields);
+        button->setObjectName(ObjectName("colour", key));
+        connect(button, &ColourButton::signalChosen, this, [this, key](const QColor &colour) { Send(key, colour); });
         return button;
     }
     case PanelField::Kind::Histogram: {
@@ -288,6 +296,9 @@ void FieldForm::ShowField(const PanelField &field)
         break;
     case PanelField::Kind::Note:
         static_cast<QLabel *>(widget)->setText(field.value.toString());
+        break;
+    case PanelField::Kind::Colour:
+        static_cast<ColourButton *>(widget)->SetColour(field.value.value<QColor>());
         break;
     case PanelField::Kind::Histogram:
         static_cast<HistogramView *>(widget)->SetCurve(field.value.value<HistogramCurve>());

@@ -14,8 +14,8 @@ class QLabel;
 class QVBoxLayout;
 
 /// Shows the fields of a source as a form, in its order and groups, and passes on what the user sets. The widgets stay
-/// while their values change; they are made anew only when the source has other fields. Without a source it says
-/// `absentText`. GUI thread.
+/// while their values change; they are made when the form is first seen, and anew only when the source has other fields.
+/// Without a source it says `absentText`. GUI thread.
 class WORKBENCH_PANELSERVICES_EXPORT FieldForm : public QWidget
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     FieldForm(FieldSource *source, const QString &absentText, QWidget *parent = nullptr);
 
 public slots:
-    /// Shows the state of the source anew.
+    /// Shows the state of the source anew, unless the form is not seen: then when it is.
     void slotUpdate();
 
 protected:

@@ -18,6 +18,8 @@ public:
     /// The names that the application gives its sources.
     static const char CameraName[];
     static const char AcquisitionName[];
+    static const char CameraAdjustmentName[];
+    static const char ImageAdjustmentName[];
     static const char CountName[];
     static const char HistogramName[];
     static const char AnalysisName[];

@@ -17,6 +17,7 @@ struct PanelField
         Folder, ///< value: QString, a path
         Action, ///< something to do; value is not used
         Note,   ///< value: QString that is only read
+        Colour, ///< value: QColor
         Histogram ///< value: HistogramCurve
     };
 
@@ -67,6 +68,13 @@ struct PanelField
         return field;
     }
 
+    static PanelField MakeAction(const QString &key, const QString &text, bool isEnabled = true)
+    {
+        PanelField field = Make(Kind::Action, key, text);
+        field.isEnabled = isEnabled;
+        return field;
+    }
+
     static PanelField MakeNote(const QString &group, const QString &key, const QString &text,
                                const QString &value)
     {
@@ -77,3 +85,10 @@ struct PanelField
 };
 
 using PanelFields = QVector<PanelField>;
+
+/// Puts the fields from `first` on under one heading.
+inline void SetGroup(PanelFields &fields, int first, const QString &group)
+{
+    for (int i = first; i < fields.size(); ++i)
+        fields[i].group = group;
+}

@@ -45,10 +45,15 @@ Palette LiveLevels::GetPalette() const
     return m_model->GetPalette();
 }
 
-void LiveLevels::SetWatched(bool watched)
+void LiveLevels::SetWatched(const QObject *watcher, bool watched)
 {
-    m_isWatched = watched;
-    m_reportsNext = watched;
     if (watched)
-        emit signalPictureWanted();
+        m_watchers.insert(watcher);
+    else
+        m_watchers.remove(watcher);
+    m_isWatched = !m_watchers.isEmpty();
+    if (!watched)
+        return;
+    m_reportsNext = true;
+    emit signalPictureWanted();
 }

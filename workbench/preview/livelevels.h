@@ -7,6 +7,7 @@
 
 #include <QElapsedTimer>
 #include <QObject>
+#include <QSet>
 
 #include <atomic>
 
@@ -29,8 +30,8 @@ public:
     bool MarksSaturated() const;
     Palette GetPalette() const;
 
-    /// Starts or ends the reports. A standing picture is shown again, so that there is a report of it.
-    void SetWatched(bool watched);
+    /// There are reports while anybody watches. A standing picture is shown again, so that there is a report of it.
+    void SetWatched(const QObject *watcher, bool watched);
 
 signals:
     /// The picture is to be made anew, even if no new frame comes.
@@ -40,6 +41,7 @@ signals:
 
 private:
     LevelsModel *m_model;
+    QSet<const QObject *> m_watchers;
     std::atomic<bool> m_isWatched{false};
     std::atomic<bool> m_reportsNext{false};
 

@@ -93,6 +93,7 @@ void FieldFormTest::fieldsAreShownInOrder()
 {
     Recorder source("test");
     FieldForm form(&source, "absent");
+    form.show();
     const QList<QGroupBox *> boxes = form.findChildren<QGroupBox *>();
     QCOMPARE(boxes.size(), 2);
     QCOMPARE(boxes.at(0)->title(), QString("First"));
@@ -135,6 +136,7 @@ void FieldFormTest::valuesFollowAndWidgetsStay()
 {
     Recorder source("test");
     FieldForm form(&source, "absent");
+    form.show();
     auto *number = form.findChild<NumberBox *>("numberWidth");
     source.fields[0].value = 30;
     source.fields[0].isEnabled = false;
@@ -152,6 +154,7 @@ void FieldFormTest::otherFieldsMakeOtherWidgets()
 {
     Recorder source("test");
     FieldForm form(&source, "absent");
+    form.show();
     source.fields.remove(0);
     emit source.signalChanged();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

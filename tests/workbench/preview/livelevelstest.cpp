@@ -91,7 +91,7 @@ private slots:
         preview.Show(TestFrames::Make(33, 4, PixelLayout::Mono12));
         QCOMPARE(reports.count(), 0);
 
-        preview.levels.live.SetWatched(true);
+        preview.levels.live.SetWatched(this, true);
         preview.Show(TestFrames::Make(33, 4, PixelLayout::Mono12));
         QTRY_VERIFY(reports.count() > 0);
         const auto report = reports.at(0).at(0).value<LevelsReport>();
@@ -109,7 +109,7 @@ private slots:
     void everyChangeOfTheSettingIsReportedThoughReportsAreRare()
     {
         Preview preview;
-        preview.levels.live.SetWatched(true);
+        preview.levels.live.SetWatched(this, true);
         QSignalSpy reports(&preview.levels.live, SIGNAL(signalReport(LevelsReport)));
         preview.Show(TestFrames::Make(9, 1, PixelLayout::Mono8));
         for (const double right : {100, 120, 140}) {
@@ -125,7 +125,7 @@ private slots:
         preview.Show(TestFrames::Make(9, 1, PixelLayout::Mono16));
         preview.preview.StopPreview();
         QSignalSpy reports(&preview.levels.live, SIGNAL(signalReport(LevelsReport)));
-        preview.levels.live.SetWatched(true);
+        preview.levels.live.SetWatched(this, true);
         QTRY_COMPARE(reports.count(), 1);
         QVERIFY(reports.at(0).at(0).value<LevelsReport>().kind == SampleKind(16));
         QTRY_COMPARE(preview.preview.DeliveredCount(), quint64(2));

@@ -43,8 +43,10 @@ private slots:
         facts.framesPerSecond = 59.84;
         facts.firstFrameMs = 412;
         facts.peakMemoryMB = 142;
+        facts.panelLoadMs = 35;
         QCOMPARE(TimedRun::Line(facts),
-                 QString("captured 120, shown 60, lost 0, 59.8 frames/s, first frame after 412 ms, peak memory 142 MB"));
+                 QString("captured 120, shown 60, lost 0, 59.8 frames/s, first frame after 412 ms, peak memory 142 MB, "
+                         "panels loaded in 35 ms"));
     }
 };
 

@@ -66,7 +66,8 @@ private slots:
         QCOMPARE(outcome.exitCode, 0);
 
         static const QRegularExpression line("^captured (\\d+), shown (\\d+), lost (\\d+), (\\d+\\.\\d) frames/s, "
-                                             "first frame after (\\d+) ms, peak memory (\\d+) MB\n$");
+                                             "first frame after (\\d+) ms, peak memory (\\d+) MB, "
+                                             "panels loaded in (\\d+) ms\n$");
         const QRegularExpressionMatch facts = line.match(outcome.output);
         QVERIFY2(facts.hasMatch(), qPrintable(outcome.output));
         const int shown = facts.captured(2).toInt();
@@ -76,6 +77,8 @@ private slots:
         QVERIFY(facts.captured(4).toDouble() > 0);
         QVERIFY(facts.captured(5).toInt() > 0);
         QVERIFY(facts.captured(6).toInt() > 0);
+        QVERIFY(facts.captured(7).toInt() > 0);
+        QVERIFY(facts.captured(7).toInt() < facts.captured(5).toInt());
 
         const QImage picture(pictureName);
         QVERIFY(picture.width() >= 800);

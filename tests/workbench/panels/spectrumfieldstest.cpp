@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "centredisplay.h"
+#include "guardedtest.h"
+#include "spectrumfields.h"
+#include "spectrumpipeline.h"
+#include "spectrumranges.h"
+#include "spectrumsettings.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <memory>
+
+namespace {
+
+constexpr int Width = 200;
+constexpr int Height = 40;
+
+/// All samples `value`.
+CameraFrame Frame(quint64 id, quint16 value)
+{
+    auto samples = std::make_shared<std::vector<quint16>>(size_t(Width) * Height, value);
+    CameraFrame frame;
+    frame.pixels = std::shared_ptr<const uchar>(samples, reinterpret_cast<const uchar *>(samples->data()));
+    frame.width = Width;
+    frame.height = Height;
+    frame.strideBytes = 2 * Width;
+    frame.layout = PixelLayout::Mono16;
+    frame.frameId = id;
+    return frame;
+}
+
+} // namespace
+
+/// How the panel "Spectrum" sets what is made of every frame and how it is shown.
+class SpectrumFieldsTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() override
+    {
+        StartGuard();
+        m_stored = std::make_unique<QSettings>(m_folder.filePath("settings.ini"), QSettings::IniFormat);
+        m_stored->clear();
+        m_centre = std::make_unique<CentreDisplay>(m_stored.get());
+        m_settings = std::make_unique<SpectrumSettings>(&m_ranges, m_centre.get());
+        m_settings->slotSetFrameSize(QSize(Width, Height));
+        m_spectra = std::make_unique<SpectrumPipeline>();
+        connect(m_settings.get(), &SpectrumSettings::signalRecipeChanged, m_spectra.get(),
+                [this] { m_spectra->SetRecipe(m_settings->Recipe()); });
+        m_fields = std::make_unique<SpectrumFields>(m_settings.get(), m_spectra.get());
+    }
+
+    void cleanup() override
+    {
+        m_fields.reset();
+        m_spectra.reset();
+        m_settings.reset();
+        m_centre.reset();
+        m_stored.reset();
+        EndGuard();
+    }
+
+    void displayIsSet()
+    {
+        m_fields->Set("mode", int(DisplayMode::PlotPeak));
+        QVERIFY(m_settings->Mode() == DisplayMode::PlotPeak);
+        m_fields->Set("mode", 99);
+        QVERIFY(m_settings->Mode() == DisplayMode::Tracks3D);
+        m_fields->Set("direction", 1);
+        QVERIFY(!m_settings->IsDirectionHorinzontal());
+        m_fields->Set("unit", int(SpectralUnit::Wavenumber));
+        QVERIFY(m_settings->Unit() == SpectralUnit::Wavenumber);
+        QCOMPARE(Field("mode").value.toInt(), int(DisplayMode::Tracks3D));
+        QCOMPARE(Field("direction").value.toInt(), 1);
+        QCOMPARE(Field("unit").value.toInt(), int(SpectralUnit::Wavenumber));
+    }
+
+    void changesFromElsewhereAreShown()
+    {
+        QSignalSpy changes(m_fields.get(), SIGNAL(signalChanged()));
+        m_settings->SetMode(DisplayMode::Plot);
+        QVERIFY(changes.count() > 0);
+        QCOMPARE(Field("mode").value.toInt(), int(DisplayMode::Plot));
+        changes.clear();
+        m_settings->SetFVBOnFlag(1);
+        QVERIFY(changes.count() > 0);
+        QCOMPARE(Field("binning").value.toInt(), 1);
+    }
+
+    void rowsAreBinned()
+    {
+        QVERIFY(!Field("top").isEnabled);
+        m_fields->Set("binning", 3);
+        QVERIFY(m_settings->GetFVBOnFlag() && m_settings->GetManualFlag());
+        QCOMPARE(m_settings->GetBottom(), Height - 1);
+        QVERIFY(Field("top").isEnabled);
+        m_fields->Set("top", 12);
+        m_fields->Set("bottom", 20);
+        QCOMPARE(m_settings->GetTop(), 12);
+        QCOMPARE(m_settings->GetBottom(), 20);
+        m_fields->Set("top", 33); // not below the last one
+        QCOMPARE(m_settings->GetTop(), 20);
+        m_fields->Set("binning", 2);
+        QVERIFY(m_settings->IsFVBModeAuto());
+        QVERIFY(Field("findBand").isEnabled);
+        m_fields->Set("binning", 0);
+        QCOMPARE(m_settings->GetFVBOnFlag(), 0);
+        QVERIFY(!Field("findBand").isEnabled);
+    }
+
+    void tracksThatAreNotThereAreRefusedInWords()
+    {
+        QVERIFY(!Field("showTracks").isEnabled);
+        QSignalSpy faults(m_fields.get(), SIGNAL(signalFault(QString)));
+        m_fields->Set("showTracks", true);
+        QVERIFY(!m_settings->GetMultiTrackOnFlag());
+        QVERIFY(!faults.last().at(0).toString().isEmpty());
+        QVERIFY(m_settings->SetTracks({QRectF(0, 2, Width, 5), QRectF(0, 20, Width, 5)}));
+        QCOMPARE(Field("tracks").value.toString(), QString("2"));
+        m_fields->Set("showTracks", true);
+        QVERIFY(m_settings->GetMultiTrackOnFlag());
+        QCOMPARE(faults.last().at(0).toString(), QString());
+    }
+
+    void correctionsAreSet_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QVariant>("set");
+        QTest::addColumn<QVariant>("kept");
+        QTest::newRow("dark") << "dark" << QVariant(true) << QVariant(true);
+        QTest::newRow("reference") << "reference" << QVariant(true) << QVariant(true);
+        QTest::newRow("absorbance") << "quantity" << QVariant(2) << QVariant(2);
+        QTest::newRow("a quantity that is none") << "quantity" << QVariant(8) << QVariant(2);
+        QTest::newRow("average") << "average" << QVariant(12) << QVariant(12);
+        QTest::newRow("average of none") << "average" << QVariant(0) << QVariant(1);
+        QTest::newRow("average of too many") << "average" << QVariant(100000) << QVariant(256);
+        QTest::newRow("smoothing") << "smoothing" << QVariant(9) << QVariant(9);
+        QTest::newRow("a window is odd") << "smoothing" << QVariant(8) << QVariant(9);
+        QTest::newRow("no smoothing") << "smoothing" << QVariant(1) << QVariant(1);
+        QTest::newRow("cosmic rays") << "cosmicRays" << QVariant(true) << QVariant(true);
+        QTest::newRow("baseline") << "baseline" << QVariant(true) << QVariant(true);
+    }
+
+    void correctionsAreSet()
+    {
+        QFETCH(QString, key);
+        QFETCH(QVariant, set);
+        QFETCH(QVariant, kept);
+        m_fields->Set(key, set);
+        QCOMPARE(Field(key).value.toDouble(), kept.toDouble());
+    }
+
+    void windowOfOneSampleIsOff()
+    {
+        m_fields->Set("smoothing", 5);
+        QCOMPARE(m_settings->Recipe().corrections.smoothing, 5);
+        m_fields->Set("smoothing", 1);
+        QCOMPARE(m_settings->Recipe().corrections.smoothing, 0);
+    }
+
+    void darkIsTakenOfTheSpectrumShown()
+    {
+        QVERIFY(!Field("takeDark").isEnabled);
+        QCOMPARE(Field("corrections").value.toString(), QString("There is no spectrum yet."));
+        m_fields->Set("binning", 1);
+        m_spectra->OnFrame(Frame(1, 50));
+        QTRY_VERIFY(Field("takeDark").isEnabled);
+        const QString plain = Field("corrections").value.toString();
+        QVERIFY(!plain.isEmpty());
+        m_fields->Set("takeDark", QVariant());
+        m_fields->Set("dark", true);
+        m_spectra->OnFrame(Frame(2, 80));
+        QTRY_COMPARE(m_spectra->Shown().frameId, quint64(2));
+        QCOMPARE(m_spectra->Shown().corrected.values.at(10), 30.0 * Height);
+        QTRY_VERIFY(Field("corrections").value.toString() != plain);
+        QCOMPARE(Field("corrections").value.toString(), m_spectra->Shown().corrections);
+    }
+
+    void spectraThatSayNothingNewDoNotBuildTheFormAnew()
+    {
+        m_fields->Set("binning", 1);
+        m_spectra->OnFrame(Frame(1, 50));
+        QTRY_COMPARE(m_spectra->Shown().frameId, quint64(1));
+        QTRY_VERIFY(Field("takeDark").isEnabled);
+        QSignalSpy changes(m_fields.get(), SIGNAL(signalChanged()));
+        m_spectra->OnFrame(Frame(2, 70));
+        QTRY_COMPARE(m_spectra->Shown().frameId, quint64(2));
+        QCOMPARE(changes.count(), 0);
+    }
+
+    void lookReachesThePlots()
+    {
+        QSignalSpy told(m_settings.get(), SIGNAL(SignalSpectralPropertyChanged()));
+        m_fields->Set("lineColour", QColor(1, 2, 3));
+        m_fields->Set("lineWidth", 99);
+        m_fields->Set("lineStyle", 3);
+        m_fields->Set("peakColour", QColor(4, 5, 6));
+        m_fields->Set("peakSize", 12);
+        m_fields->Set("peakNumber", 7);
+        m_fields->Set("background", QColor(Qt::black));
+        m_fields->Set("blank", 25);
+        QCOMPARE(told.count(), 8);
+        QCOMPARE(m_settings->GetLineColor(), QColor(1, 2, 3));
+        QCOMPARE(m_settings->GetLineWidth(), 10.0);
+        QCOMPARE(m_settings->GetLineStyle(), 3);
+        QCOMPARE(m_settings->GetLinePen().style(), Qt::DashDotLine);
+        QCOMPARE(m_settings->GetPeakColor(), QColor(4, 5, 6));
+        QCOMPARE(m_settings->GetPeakSize(), 12.0);
+        QCOMPARE(m_settings->GetPeakNumber(), 7);
+        QCOMPARE(m_settings->GetBackgroundColor(), QColor(Qt::black));
+        QCOMPARE(m_settings->GetBlankRatio(), 0.25);
+        QCOMPARE(Field("lineStyle").value.toInt(), 3);
+        QCOMPARE(Field("blank").value.toDouble(), 25.0);
+    }
+
+    void unknownKeysAreIgnored()
+    {
+        QSignalSpy changes(m_fields.get(), SIGNAL(signalChanged()));
+        m_fields->Set("nothing", 5);
+        QCOMPARE(changes.count(), 0);
+    }
+
+private:
+    PanelField Field(const QString &key) const
+    {
+        for (const PanelField &field : m_fields->Fields()) {
+            if (field.key == key)
+                return field;
+        }
+        return PanelField();
+    }
+
+    QTemporaryDir m_folder;
+    SpectrumRanges m_ranges;
+    std::unique_ptr<QSettings> m_stored;
+    std::unique_ptr<CentreDisplay> m_centre;
+    std::unique_ptr<SpectrumSettings> m_settings;
+    std::unique_ptr<SpectrumPipeline> m_spectra;
+    std::unique_ptr<SpectrumFields> m_fields;
+};
+
+GUARDED_TEST_MAIN(SpectrumFieldsTest)
+#include "spectrumfieldstest.moc"

@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "spectrumfields.h"
+
+#include "spectrumpipeline.h"
+#include "spectrumsettings.h"
+
+namespace {
+
+constexpr int MostAveraged = 256;
+constexpr int MostSmoothed = 201; ///< samples
+constexpr double MostLineWidth = 10;
+constexpr double MostPeakSize = 40;
+constexpr int MostPeaks = 100;
+constexpr double MostBlankPercent = 90;
+
+enum Binning { BinningOff, BinAll, BinFound, BinByHand };
+
+int BinningOf(const SpectrumRecipe &recipe)
+{
+    return recipe.isBinning ? BinAll + int(recipe.rows) : BinningOff;
+}
+
+/// Windows are odd; those too small to smooth anything are off.
+int SmoothingWindow(int samples) { return samples < 3 ? 0 : samples | 1; }
+
+PanelField CheckField(const QString &key, const QString &text, bool value)
+{
+    return PanelField::Make(PanelField::Kind::Check, key, text, value);
+}
+
+PanelField ColourField(const QString &key, const QString &text, const QColor &colour)
+{
+    return PanelField::Make(PanelField::Kind::Colour, key, text, colour);
+}
+
+} // namespace
+
+SpectrumFields::SpectrumFields(SpectrumSettings *settings, SpectrumPipeline *spectra, QObject *parent)
+    : FieldSource(SpectrumName, parent)
+    , m_settings(settings)
+    , m_spectra(spectra)
+{
+    connect(settings, &SpectrumSettings::signalRecipeChanged, this, &FieldSource::signalChanged);
+    connect(settings, &SpectrumSettings::signalUnitChanged, this, &FieldSource::signalChanged);
+    connect(settings, &SpectrumSettings::signalDisplayModeChange, this, &FieldSource::signalChanged);
+    connect(settings, &SpectrumSettings::SignalSpectralPropertyChanged, this, &FieldSource::signalChanged);
+    connect(settings, &SpectrumSettings::signalMessage, this, &FieldSource::signalFault);
+    connect(spectra, &SpectrumPipeline::signalSpectrumShown, this, &SpectrumFields::slotSpectrumShown);
+}
+
+/// Comes with every spectrum; the form is shown anew only for what it says of it.
+void SpectrumFields::slotSpectrumShown()
+{
+    const SpectrumProduct &product = m_spectra->Shown();
+    if (m_corrections == product.corrections && m_samples == product.raw.Count() && m_rows == product.frameSize.height())
+        return;
+    m_corrections = product.corrections;
+    m_samples = product.raw.Count();
+    m_rows = product.frameSize.height();
+    emit signalChanged();
+}
+
+PanelFields SpectrumFields::Fields() const
+{
+    PanelFields fields;
+    AddDisplay(fields);
+    AddBinning(fields);
+    AddTracks(fields);
+    const int first = fields.size();
+    AddReferences(fields);
+    AddFilters(fields);
+    SetGroup(fields, first, tr("Corrections"));
+    AddLook(fields);
+    return fields;
+}
+
+void SpectrumFields::AddDisplay(PanelFields &fields) const
+{
+    const int first = fields.size();
+    fields << PanelField::MakeChoice("mode", tr("&Show"), int(m_settings->Mode()),
+                                     {tr("Picture"), tr("Sensor image"), tr("Curve"), tr("Curve with peaks"),
+                                      tr("Tracks in 3D")});
+    fields.last().toolTip = tr("Ctrl+1 to Ctrl+5");
+    fields << PanelField::MakeChoice("direction", tr("&Direction"), m_settings->IsDirectionHorinzontal() ? 0 : 1,
+                                     {tr("horizontal"), tr("vertical")});
+    fields.last().toolTip = tr("The direction in which the wavelength changes on the sensor.");
+    fields << PanelField::MakeChoice("unit", tr("&Unit"), int(m_settings->Unit()),
+                                     {tr("pixels"), tr("nanometres"), tr("wavenumbers")});
+    fields.last().toolTip = tr("Without a calibration spectra are shown over pixels.");
+    SetGroup(fields, first, tr("Display"));
+}
+
+void SpectrumFields::AddBinning(PanelFields &fields) const
+{
+    const int first = fields.size();
+    const SpectrumRecipe &recipe = m_settings->Recipe();
+    const bool isManual = recipe.isBinning && recipe.rows == BinnedRows::Manual;
+    const double last = qMax(m_rows - 1, qMax(recipe.top, recipe.bottom));
+    fields << PanelField::MakeChoice("binning", tr("&Rows"), BinningOf(recipe),
+                                     {tr("off"), tr("all rows"), tr("band found by itself"), tr("band by hand")});
+    fields << PanelField::MakeNumber("top", tr("First row"), recipe.top, 0, last);
+    fields.last().isEnabled = isManual;
+    fields << PanelField::MakeNumber("bottom", tr("Last row"), recipe.bottom, 0, last);
+    fields.last().isEnabled = isManual;
+    fields << PanelField::MakeAction("findBand", tr("Find the Band Again"),
+                                     recipe.isBinning && recipe.rows == BinnedRows::Auto);
+    SetGroup(fields, first, tr("Vertical binning"));
+}
+
+void SpectrumFields::AddTracks(PanelFields &fields) const
+{
+    const int first = fields.size();
+    const SpectrumRecipe &recipe = m_settings->Recipe();
+    fields << PanelField::Make(PanelField::Kind::Note, "tracks", tr("Tracks"),
+                               m_settings->GetMultiTrackList().isEmpty()
+                                   ? tr("none")
+                                   : QString::number(m_settings->GetMultiTrackList().size()));
+    fields << PanelField::MakeAction("findTracks", tr("&Find Tracks"));
+    fields << CheckField("showTracks", tr("Show &tracks"), recipe.hasTracks);
+    fields.last().isEnabled = recipe.hasTracks || !m_settings->GetMultiTrackList().isEmpty();
+    fields << CheckField("focus", tr("F&ocus assistance"), recipe.isFocusing);
+    SetGroup(fields, first, tr("Tracks"));
+}
+
+void SpectrumFields::AddReferences(PanelFields &fields) const
+{
+    const CorrectionSettings &corrections = m_settings->Recipe().corrections;
+    const QString none = tr("There is no spectrum yet: switch vertical binning on first.");
+    fields << PanelField::Make(PanelField::Kind::Note, "corrections", tr("Now"),
+                               m_corrections.isEmpty() ? tr("There is no spectrum yet.") : m_corrections);
+    fields << PanelField::MakeAction("takeDark", tr("Take D&ark"), m_samples > 0);
+    fields.last().toolTip = m_samples > 0 ? tr("The spectrum shown becomes the dark spectrum.") : none;
+    fields << CheckField("dark", tr("subtract"), corrections.subtractsDark);
+    fields.last().isBeside = true;
+    fields << PanelField::MakeAction("takeReference", tr("Take R&eference"), m_samples > 0);
+    fields.last().toolTip = m_samples > 0 ? tr("The spectrum shown becomes the reference spectrum.") : none;
+    fields << CheckField("reference", tr("subtract"), corrections.subtractsReference);
+    fields.last().isBeside = true;
+    fields.last().isEnabled = corrections.quantity == SpectrumQuantity::Counts;
+    fields << PanelField::MakeChoice("quantity", tr("&Quantity"), int(corrections.quantity),
+                                     {tr("counts"), tr("transmission"), tr("absorbance")});
+}
+
+void SpectrumFields::AddFilters(PanelFields &fields) const
+{
+    const CorrectionSettings &corrections = m_settings->Recipe().corrections;
+    fields << PanelField::MakeNumber("average", tr("A&verage"), corrections.averaged, 1, MostAveraged, 0,
+                                     tr(" spectra"));
+    fields.last().zeroText = tr("off");
+    fields << PanelField::MakeNumber("smoothing", tr("S&mooth over"), qMax(1, corrections.smoothing), 1, MostSmoothed,
+                                     0, tr(" samples"));
+    fields.last().zeroText = tr("off");
+    fields.last().step = 2;
+    fields << CheckField("cosmicRays", tr("Remove cosmic rays"), corrections.removesCosmicRays);
+    fields << CheckField("baseline", tr("Remove the baseline"), corrections.removesBaseline);
+}
+
+void SpectrumFields::AddLook(PanelFields &fields) const
+{
+    const int first = fields.size();
+    const PlotStyle style = m_settings->Style();
+    fields << ColourField("lineColour", tr("Line"), style.line.color());
+    fields << PanelField::MakeNumber("lineWidth", tr("Line width"), style.line.widthF(), 0.5, MostLineWidth, 1,
+                                     tr(" px"));
+    fields.last().step = 0.5;
+    fields << PanelField::MakeChoice("lineStyle", tr("Line style"), m_settings->GetLineStyle(),
+                                     {tr("solid"), tr("dashes"), tr("dots"), tr("dash dot"), tr("dash dot dot")});
+    fields << ColourField("peakColour", tr("Peaks"), style.peak.color());
+    fields << PanelField::MakeNumber("peakSize", tr("Peak size"), style.peakSize, 2, MostPeakSize, 0, tr(" px"));
+    fields << PanelField::MakeNumber("peakNumber", tr("Most peaks"), style.peakNumber, 0, MostPeaks);
+    fields.last().zeroText = tr("all");
+    fields << ColourField("background", tr("Background"), style.background);
+    fields << PanelField::MakeNumber("blank", tr("Free above"), style.blankRatio * 100, 0, MostBlankPercent, 0, tr(" %"));
+    fields.last().toolTip = tr("Part of the height that stays free above the highest value.");
+    SetGroup(fields, first, tr("Look of the plots"));
+}
+
+void SpectrumFields::Set(const QString &key, const QVariant &value)
+{
+    emit signalFault(QString());
+    if (Do(key) || SetDisplay(key, value) || SetRows(key, value) || SetCorrection(key, value) || SetLook(key, value))
+        emit signalChanged();
+}
+
+/// What is done at once. True when the key was one of these.
+bool SpectrumFields::Do(const QString &key)
+{
+    if (key == "findBand")
+        m_spectra->FindBandAgain();
+    else if (key == "findTracks")
+        m_spectra->FindTracks();
+    else if (key == "takeDark")
+        m_spectra->TakeDark();
+    else if (key == "takeReference")
+        m_spectra->TakeReference();
+    else
+        return false;
+    return true;
+}
+
+/// True when the key was one of these, here and below.
+bool SpectrumFields::SetDisplay(const QString &key, const QVariant &value)
+{
+    if (key == "mode")
+        m_settings->SetMode(DisplayMode(qBound(0, value.toInt(), int(DisplayMode::Tracks3D))));
+    else if (key == "direction")
+        m_settings->SetHorizontal(value.toInt() == 0);
+    else if (key == "unit")
+        m_settings->SetUnit(SpectralUnit(qBound(0, value.toInt(), int(SpectralUnit::Wavenumber))));
+    else
+        return false;
+    return true;
+}
+
+bool SpectrumFields::SetRows(const QString &key, const QVariant &value)
+{
+    const SpectrumRecipe &recipe = m_settings->Recipe();
+    if (key == "binning") {
+        const int binning = qBound(int(BinningOff), value.toInt(), int(BinByHand));
+        if (binning != BinningOff)
+            m_settings->SetBinnedRows(BinnedRows(binning - BinAll));
+        m_settings->SetFVBOnFlag(binning != BinningOff);
+    } else if (key == "top") {
+        m_settings->SetTop(qBound(0, value.toInt(), recipe.bottom));
+    } else if (key == "bottom") {
+        m_settings->SetBottom(qMax(recipe.top, value.toInt()));
+    } else if (key == "showTracks") {
+        m_settings->SetMultiTrackOnFlag(value.toBool());
+    } else if (key == "focus") {
+        m_settings->SetFocusAssitanceFlag(value.toBool());
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool SpectrumFields::SetCorrection(const QString &key, const QVariant &value)
+{
+    CorrectionSettings corrections = m_settings->Recipe().corrections;
+    if (key == "dark")
+        corrections.subtractsDark = value.toBool();
+    else if (key == "reference")
+        corrections.subtractsReference = value.toBool();
+    else if (key == "quantity")
+        corrections.quantity = SpectrumQuantity(qBound(0, value.toInt(), int(SpectrumQuantity::Absorbance)));
+    else if (key == "average")
+        corrections.averaged = qBound(1, value.toInt(), MostAveraged);
+    else if (key == "smoothing")
+        corrections.smoothing = SmoothingWindow(qMin(value.toInt(), MostSmoothed));
+    else if (key == "cosmicRays")
+        corrections.removesCosmicRays = value.toBool();
+    else if (key == "baseline")
+        corrections.removesBaseline = value.toBool();
+    else
+        return false;
+    m_settings->SetCorrections(corrections);
+    return true;
+}
+
+bool SpectrumFields::SetLook(const QString &key, const QVariant &value)
+{
+    PlotStyle style = m_settings->Style();
+    if (key == "lineColour")
+        style.line.setColor(value.value<QColor>());
+    else if (key == "lineWidth")
+        style.line.setWidthF(qBound(0.5, value.toDouble(), MostLineWidth));
+    else if (key == "lineStyle")
+        style.line.setStyle(Qt::PenStyle(Qt::SolidLine + qBound(0, value.toInt(), 4)));
+    else if (key == "peakColour")
+        style.peak.setColor(value.value<QColor>());
+    else if (key == "peakSize")
+        style.peakSize = qBound(2.0, value.toDouble(), MostPeakSize);
+    else if (key == "peakNumber")
+        style.peakNumber = qBound(0, value.toInt(), MostPeaks);
+    else if (key == "background")
+        style.background = value.value<QColor>();
+    else if (key == "blank")
+        style.blankRatio = qBound(0.0, value.toDouble(), MostBlankPercent) / 100;
+    else
+        return false;
+    m_settings->SetStyle(style);
+    return true;
+}

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "fieldsource.h"
+
+class SpectrumPipeline;
+class SpectrumSettings;
+struct CorrectionSettings;
+struct PlotStyle;
+struct SpectrumRecipe;
+
+/// Spectra as a panel sets them: what is shown of them, which rows make them, what is corrected, and how the plots look.
+/// GUI thread.
+class SpectrumFields : public FieldSource
+{
+    Q_OBJECT
+
+public:
+    /// Both are borrowed and outlive this object.
+    SpectrumFields(SpectrumSettings *settings, SpectrumPipeline *spectra, QObject *parent = nullptr);
+
+    PanelFields Fields() const override;
+    void Set(const QString &key, const QVariant &value) override;
+
+private slots:
+    void slotSpectrumShown();
+
+private:
+    void AddDisplay(PanelFields &fields) const;
+    void AddBinning(PanelFields &fields) const;
+    void AddTracks(PanelFields &fields) const;
+    void AddReferences(PanelFields &fields) const;
+    void AddFilters(PanelFields &fields) const;
+    void AddLook(PanelFields &fields) const;
+    bool Do(const QString &key);
+    bool SetDisplay(const QString &key, const QVariant &value);
+    bool SetRows(const QString &key, const QVariant &value);
+    bool SetCorrection(const QString &key, const QVariant &value);
+    bool SetLook(const QString &key, const QVariant &value);
+
+    SpectrumSettings *m_settings;
+    SpectrumPipeline *m_spectra;
+    QString m_corrections; ///< the sentence of the newest spectrum
+    int m_samples = 0;     ///< of it; 0 without one
+    int m_rows = 0;        ///< of its frame
+};
