@@ -1,25 +1,42 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "filesystemview.h"
 
+#include "foldertreemodel.h"
+
 #include <QDir>
-#include <QFileSystemModel>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QTreeView>
 
+namespace {
+
+/// As typed: "~" stands for the home folder.
+QString PathTyped(const QString &text)
+{
+    const QString path = QDir::fromNativeSeparators(text);
+    return path == "~" || path.startsWith("~/") ? QDir::homePath() + path.mid(1) : path;
+}
+
+} // namespace
+
 FileSystemView::FileSystemView(QWidget *parent)
     : QWidget(parent)
+    , m_model(new FolderTreeModel(this))
     , m_tree(new QTreeView(this))
     , m_path(new QLineEdit(this))
 {
     auto *backButton = new QPushButton(tr("Back"), this);
     backButton->setObjectName("pushButtonBack");
+    backButton->setToolTip(tr("Back to the view before (Ctrl+P)"));
     m_path->setObjectName("lineEditPath");
+    m_path->setAccessibleName(tr("Folder"));
+    m_path->setPlaceholderText(tr("Path of a folder"));
+    m_path->setToolTip(tr("Type the path of a folder and press Enter"));
     m_tree->setObjectName("treeViewFolders");
+    m_tree->setAccessibleName(tr("Folders"));
     auto *row = new QHBoxLayout;
     row->addWidget(m_path);
     row->addWidget(backButton);
@@ -28,8 +45,10 @@ FileSystemView::FileSystemView(QWidget *parent)
     column->addWidget(m_tree);
 
     m_tree->setHeaderHidden(true);
-    ReadFolders(false);
+    m_tree->setUniformRowHeights(true);
+    m_tree->setModel(m_model);
 
+    connect(m_model, SIGNAL(signalNearer()), this, SLOT(slotNearer()));
     connect(m_tree, SIGNAL(clicked(QModelIndex)), this, SLOT(slotFolderClicked(QModelIndex)));
     connect(m_tree, SIGNAL(activated(QModelIndex)), this, SLOT(slotFolderClicked(QModelIndex)));
     connect(m_path, SIGNAL(returnPressed()), this, SLOT(slotPathEntered()));
@@ -38,13 +57,9 @@ FileSystemView::FileSystemView(QWidget *parent)
 
 void FileSystemView::StartFolderChecked()
 {
-    if (m_checked)
-        return;
-    m_checked = true;
-    ReadFolders(true);
-    m_model->setRootPath(QDir::rootPath());
+    m_model->SetWatched(true);
     if (!m_folder.isEmpty()) {
-        ShowCurrentFolder();
+        slotNearer();
         return;
     }
     const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
@@ -53,33 +68,7 @@ void FileSystemView::StartFolderChecked()
 
 void FileSystemView::StopFolderChecked()
 {
-    m_checked = false;
-    m_model->setOption(QFileSystemModel::DontWatchForChanges);
-}
-
-// A model that has stopped watching never watches again what it has read by then, so each start takes
-// a new one.
-void FileSystemView::ReadFolders(bool watch)
-{
-    auto *model = new QFileSystemModel(this);
-    model->setFilter(QDir::Dirs | QDir::Drives | QDir::NoDotAndDotDot);
-    model->setOption(QFileSystemModel::DontWatchForChanges, !watch);
-    model->setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
-    connect(model, SIGNAL(directoryLoaded(QString)), this, SLOT(slotFolderRead(QString)));
-    m_tree->setModel(model);
-    for (int column = 1; column < model->columnCount(); ++column)
-        m_tree->hideColumn(column);
-    delete m_model;
-    m_model = model;
-    m_foldersRead.clear();
-}
-
-void FileSystemView::ShowCurrentFolder()
-{
-    const QModelIndex index = m_model->index(m_folder);
-    m_tree->setCurrentIndex(index);
-    m_tree->expand(index);
-    m_tree->scrollTo(index);
+    m_model->SetWatched(false);
 }
 
 void FileSystemView::BindingConnectionsWithWidget(QWidget *fileThumbnail)
@@ -91,32 +80,32 @@ void FileSystemView::BindingConnectionsWithWidget(QWidget *fileThumbnail)
 void FileSystemView::slotShowFolder(QString folder)
 {
     const QString path = QDir::cleanPath(folder);
-    if (folder.isEmpty() || path == m_folder || !QDir(path).exists())
+    if (folder.isEmpty() || !QDir::isAbsolutePath(path) || path == m_folder)
         return;
     m_folder = path;
     m_path->setText(QDir::toNativeSeparators(path));
-    ShowCurrentFolder();
+    slotNearer();
     emit signalFolderChanged(path);
 }
 
 void FileSystemView::slotFolderClicked(const QModelIndex &index)
 {
-    slotShowFolder(m_model->filePath(index));
+    slotShowFolder(index.data(FolderTreeModel::PathRole).toString());
 }
 
 void FileSystemView::slotPathEntered()
 {
-    slotShowFolder(QDir::fromNativeSeparators(m_path->text()));
-    m_path->setText(QDir::toNativeSeparators(m_folder)); // a folder that is not there was refused
+    slotShowFolder(PathTyped(m_path->text()));
+    m_path->setText(QDir::toNativeSeparators(m_folder)); // what is no path was refused
 }
 
-// Folders are read one after the other; what comes before the shown one pushes it out of sight.
-void FileSystemView::slotFolderRead(QString folder)
+/// The tree is read from the top down; each step leads nearer to the folder.
+void FileSystemView::slotNearer()
 {
-    const bool isFirstTime = !m_foldersRead.contains(folder);
-    m_foldersRead.insert(folder);
-    if (!isFirstTime || !m_folder.startsWith(folder))
-        return;
-    // The model puts what it has read into order a moment later.
-    QTimer::singleShot(0, this, [this] { m_tree->scrollTo(m_tree->currentIndex()); });
+    const QModelIndex index = m_model->Seek(m_folder);
+    m_tree->setCurrentIndex(index);
+    m_tree->expand(index);
+    m_tree->scrollTo(index);
+    // The view puts new rows in their places a moment later.
+    QTimer::singleShot(0, m_tree, [this] { m_tree->scrollTo(m_tree->currentIndex()); });
 }

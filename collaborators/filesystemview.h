@@ -3,11 +3,10 @@
 
 #include "collaboratorsexport.h"
 
-#include <QSet>
 #include <QString>
 #include <QWidget>
 
-class QFileSystemModel;
+class FolderTreeModel;
 class QLineEdit;
 class QModelIndex;
 class QTreeView;
@@ -27,7 +26,8 @@ public:
     void BindingConnectionsWithWidget(QWidget *fileThumbnail);
 
 public slots:
-    /// Goes to a folder; one that is not there is ignored.
+    /// Goes to a folder. Of one that is not there the tree shows the nearest one above it; the thumbnail
+    /// view says what is the matter.
     void slotShowFolder(QString folder);
 
 signals:
@@ -37,17 +37,11 @@ signals:
 private slots:
     void slotFolderClicked(const QModelIndex &index);
     void slotPathEntered();
-    void slotFolderRead(QString folder);
+    void slotNearer();
 
 private:
-    /// The tree begins again with what is on the disk now.
-    void ReadFolders(bool watch);
-    void ShowCurrentFolder();
-
-    QFileSystemModel *m_model = nullptr;
+    FolderTreeModel *m_model;
     QTreeView *m_tree;
     QLineEdit *m_path;
     QString m_folder;
-    QSet<QString> m_foldersRead; ///< by the model, since it began
-    bool m_checked = false;      ///< the folders are being watched
 };

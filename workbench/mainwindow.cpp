@@ -10,6 +10,8 @@
 #include "camerasession.h"
 #include "drawingguard.h"
 #include "filedrop.h"
+#include "filepagecommands.h"
+#include "filethumbnail.h"
 #include "globalclass.h"
 #include "globalui.h"
 #include "informationdialog.h"
@@ -171,6 +173,7 @@ PictureMenus *MainWindow::BuildPictureCommands()
     auto *dialogs = new PictureDialogs(m_services, this);
     auto *drop = new FileDrop(this);
     connect(drop, SIGNAL(signalFilesDropped(QStringList)), dialogs, SLOT(slotOpenFiles(QStringList)));
+    new FilePageCommands(m_services, qobject_cast<FileThumbnail *>(m_centre->widget(FileSystemPage)), this);
     connect(m_services->Desk(), SIGNAL(signalFault(QString)), this, SLOT(slotShowMessage(QString)));
     return new PictureMenus(m_services, dialogs, this);
 }

@@ -11,6 +11,7 @@
 #include "centredisplay.h"
 #include "channelsynthesis.h"
 #include "connectedcameras.h"
+#include "filejobs.h"
 #include "framesaving.h"
 #include "frametee.h"
 #include "language.h"
@@ -33,6 +34,7 @@
 #include "pictureloader.h"
 #include "pictureprocessing.h"
 #include "pictureshelf.h"
+#include "picturethumbnails.h"
 #include "pixelreadout.h"
 #include "recordingdesk.h"
 #include "regionofinterest.h"
@@ -121,6 +123,8 @@ void WorkbenchServices::StartPictures()
     m_pictureDesk = std::make_unique<PictureDesk>(m_pictureLoader.get(), m_pictureShelf.get(), m_mainPicture.get(),
                                                   m_comparePicture.get());
     m_pictureProcessing = std::make_unique<PictureProcessing>();
+    m_pictureThumbnails = std::make_unique<PictureThumbnails>();
+    m_fileJobs = std::make_unique<FileJobs>();
     m_channelSynthesis = std::make_unique<ChannelSynthesis>();
     m_pictureFrames = std::make_unique<PictureFrames>(m_mainPicture.get());
     m_pictureList = new PictureList(m_pictureShelf.get(), m_mainPicture.get()); // reparented by the "File Preview" tab
@@ -214,7 +218,7 @@ void WorkbenchServices::Connect()
     connect(m_preview.get(), SIGNAL(signalCaptureWanted(bool, bool)), m_recording.get(), SLOT(slotCapture(bool, bool)));
     connect(m_recording.get(), SIGNAL(signalStateChanged()), this, SLOT(slotRecordingStateChanged()));
     connect(m_recording.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
-    connect(m_config.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
+    connect(m_fileJobs.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_workspace.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_pictureDesk.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
 }
@@ -276,6 +280,10 @@ void WorkbenchServices::ConnectPictures()
     connect(m_pictureDesk.get(), SIGNAL(signalOpened()), m_workspace.get(), SLOT(slotPictureOpened()));
     connect(m_pictureDesk.get(), SIGNAL(signalLastClosed()), m_workspace.get(), SLOT(slotLastPictureClosed()));
     connect(m_pictureDesk.get(), SIGNAL(signalCompareLost()), m_workspace.get(), SLOT(slotCompareLost()));
+    connect(m_fileJobs.get(), &FileJobs::signalFault, m_pictureDesk.get(), &PictureDesk::signalFault);
+    connect(m_fileJobs.get(), &FileJobs::signalChanged, m_pictureDesk.get(), &PictureDesk::slotFileChanged);
+    connect(m_fileJobs.get(), &FileJobs::signalMerged, this,
+            [this](const QString &path) { m_workspace->slotOpenImage(path, nullptr); });
     connect(m_workspace.get(), SIGNAL(signalUpdateImageCompareFrame()), m_pictureDesk.get(), SLOT(slotUpdateUndo()));
     // The module's frame browser listens to the picture that was active when it was built.
     connect(m_comparePicture.get(), SIGNAL(signalCurrentFileFrameNumber(int)), m_mainPicture.get(),

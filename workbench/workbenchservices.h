@@ -18,6 +18,7 @@ class CameraSettings;
 class CentreDisplay;
 class ChannelSynthesis;
 class ConnectedCameras;
+class FileJobs;
 class FrameSaving;
 class FrameTee;
 class Language;
@@ -40,6 +41,7 @@ class PictureList;
 class PictureLoader;
 class PictureProcessing;
 class PictureShelf;
+class PictureThumbnails;
 class PixelReadout;
 class QSettings;
 class RecordingDesk;
@@ -74,6 +76,9 @@ public:
     Workspace *GetWorkspace() const { return m_workspace.get(); }
     PictureDesk *Desk() const { return m_pictureDesk.get(); }
     PictureLoader *Loader() const { return m_pictureLoader.get(); }
+    PictureProcessing *Processing() const { return m_pictureProcessing.get(); }
+    PictureThumbnails *Thumbnails() const { return m_pictureThumbnails.get(); }
+    FileJobs *Jobs() const { return m_fileJobs.get(); }
     ConnectedCameras *Cameras() const { return m_cameras.get(); }
     RegionOfInterest *Region() const { return m_region.get(); }
     RecordingDesk *Recording() const { return m_recording.get(); }
@@ -132,6 +137,8 @@ private:
     std::unique_ptr<OpenedPicture> m_comparePicture;
     std::unique_ptr<PictureDesk> m_pictureDesk;
     std::unique_ptr<PictureProcessing> m_pictureProcessing;
+    std::unique_ptr<PictureThumbnails> m_pictureThumbnails;
+    std::unique_ptr<FileJobs> m_fileJobs;
     std::unique_ptr<ChannelSynthesis> m_channelSynthesis;
     std::unique_ptr<PictureFrames> m_pictureFrames;
     std::unique_ptr<FrameSaving> m_frameSaving;

@@ -11,7 +11,7 @@
 
 #include <QDir>
 #include <QGraphicsScene>
-#include <QListWidget>
+#include <QListView>
 #include <QMouseEvent>
 #include <QShortcut>
 #include <QSignalSpy>
@@ -176,12 +176,12 @@ void CenterWiringTest::fileViewsFollowEachOther()
     host.Build();
     auto *thumbnail = host.window.findChild<FileThumbnail *>();
     auto *fileSystem = host.window.findChild<FileSystemView *>();
-    auto *files = thumbnail->findChild<QListWidget *>();
+    const auto *files = thumbnail->findChild<QListView *>("listViewFiles")->model();
     emit fileSystem->signalFolderChanged(folder.path());
-    QCOMPARE(files->count(), 1);
+    QTRY_COMPARE(files->rowCount(), 1);
     QSignalSpy folders(fileSystem, SIGNAL(signalFolderChanged(QString)));
     emit host.services.thumbnails->sglShowFileThumbnail(folder.filePath("below"));
-    QCOMPARE(files->count(), 0);
+    QCOMPARE(files->rowCount(), 0);
     QCOMPARE(folders.count(), 1);
     QCOMPARE(folders.first().first().toString(), folder.filePath("below"));
 }

@@ -18,9 +18,7 @@
 
 #include <QCheckBox>
 #include <QDir>
-#include <QFileSystemModel>
-#include <QFileSystemWatcher>
-#include <QListWidget>
+#include <QListView>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -169,29 +167,22 @@ void SwitchViewTest::foldersAreWatchedInTheFileView()
     Window host;
     auto *tree = host.window.findChild<FileSystemView *>()->findChild<QTreeView *>();
     auto *thumbnails = host.window.findChild<FileThumbnail *>();
-    auto *files = thumbnails->findChild<QListWidget *>();
-    auto *watcher = thumbnails->findChild<QFileSystemWatcher *>();
+    const auto *files = thumbnails->findChild<QListView *>("listViewFiles")->model();
     thumbnails->slotOpenFileDirectory(folder.path());
-    QCOMPARE(watcher->directories(), QStringList());
     const auto folders = [tree] { return tree->model()->rowCount(tree->currentIndex()); };
 
     for (int visit = 1; visit <= 2; ++visit) {
         host.SwitchTo(FileView);
-        QCOMPARE(watcher->directories(), QStringList(folder.path()));
         QTRY_COMPARE(folders(), visit - 1);
-        QCOMPARE(files->count(), visit * 2 - 2);
+        QTRY_COMPARE(files->rowCount(), visit * 2 - 2);
         write(QString("seen%1.tif").arg(visit));
         QVERIFY(QDir(folder.path()).mkdir(QString::number(visit)));
-        QTRY_COMPARE(files->count(), visit * 2 - 1);
+        QTRY_COMPARE(files->rowCount(), visit * 2 - 1);
         QTRY_COMPARE(folders(), visit);
 
         host.SwitchTo(ImageView);
-        QCOMPARE(watcher->directories(), QStringList());
-        write(QString("unseen%1.tif").arg(visit));
-        QCOMPARE(files->count(), visit * 2 - 1);
+        write(QString("unseen%1.tif").arg(visit)); // seen at the next visit
     }
-    auto *model = qobject_cast<QFileSystemModel *>(tree->model());
-    QVERIFY(model->testOption(QFileSystemModel::DontWatchForChanges));
 }
 
 void SwitchViewTest::overlaysFollow()

@@ -9,6 +9,14 @@ namespace {
 // A damaged file can have a message for each of a million strips; the first ones tell the reason.
 constexpr int keptMessages = 3;
 
+/// What libtiff allocates for itself are tables that stand in the file (at most four times as large in memory)
+/// and raw strips.
+qint64 LargestAllocation(qint64 fileSize)
+{
+    constexpr qint64 smallTables = 8 << 20;
+    return smallTables + 4 * fileSize;
+}
+
 } // namespace
 
 TiffHandle::~TiffHandle()
@@ -18,10 +26,12 @@ TiffHandle::~TiffHandle()
 
 bool TiffHandle::OpenForReading(int fd, const QByteArray &name, qint64 fileSize)
 {
-    // What libtiff allocates for itself are tables that stand in the file (at most four times as large
-    // in memory) and raw strips.
-    constexpr qint64 smallTables = 8 << 20;
-    return Open(fd, name, "rmhD", smallTables + 4 * fileSize);
+    return Open(fd, name, "rmhD", LargestAllocation(fileSize));
+}
+
+bool TiffHandle::OpenForUpdating(int fd, const QByteArray &name, qint64 fileSize)
+{
+    return Open(fd, name, "r+mhD", LargestAllocation(fileSize));
 }
 
 bool TiffHandle::OpenForWriting(int fd, const QByteArray &name, bool bigTiff)

@@ -21,6 +21,8 @@ public:
     bool OpenForReading(int fd, const QByteArray &name, qint64 fileSize);
     /// Takes the descriptor of an empty file.
     bool OpenForWriting(int fd, const QByteArray &name, bool bigTiff);
+    /// Takes the descriptor. Pages that are there can be read and written anew.
+    bool OpenForUpdating(int fd, const QByteArray &name, qint64 fileSize);
     /// Flushes what was written; false when that failed.
     bool Close();
 

@@ -146,6 +146,32 @@ bool PictureDesk::ChooseForCompare()
     return true;
 }
 
+void PictureDesk::ChooseForCompare(const QString &mainPath, const QString &comparePath)
+{
+    m_main->Show(m_shelf->Add(mainPath));
+    m_compare->Show(m_shelf->Add(comparePath));
+}
+
+void PictureDesk::SetFileUndoStack(QUndoStack *stack)
+{
+    m_fileUndoStack = stack;
+    m_undoGroup->addStack(stack);
+}
+
+void PictureDesk::slotFileMoved(const QString &from, const QString &to)
+{
+    if (PictureDocument *document = m_shelf->Find(from)) {
+        m_loader->Rename(document->File().id, to);
+        document->SetPath(to);
+    }
+}
+
+void PictureDesk::slotFileChanged(const QString &path)
+{
+    if (PictureDocument *document = m_shelf->Find(path))
+        Reread(document);
+}
+
 PictureDocument *PictureDesk::PartnerOf(const PictureDocument *document) const
 {
     return m_before && m_before != document ? m_before.data() : m_shelf->Neighbour(document);
@@ -191,7 +217,11 @@ void PictureDesk::slotCompareFailed()
 void PictureDesk::slotUpdateUndo()
 {
     const int view = UIConfigManager::GetInstance()->GetCurrentView();
-    const bool isSeen = view != CameraView && view != FileView;
+    if (view == FileView) {
+        m_undoGroup->setActiveStack(m_fileUndoStack);
+        return;
+    }
+    const bool isSeen = view != CameraView;
     const bool isCompare = GlobalManager::GetInstance()->GetActiveImageManager() == m_compare;
     const PictureDocument *document = (isCompare ? m_compare : m_main)->Document();
     m_undoGroup->setActiveStack(isSeen && document ? document->UndoStack() : nullptr);

@@ -3,6 +3,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QUndoStack>
 
 class OpenedPicture;
 class PictureDocument;
@@ -44,10 +45,19 @@ public:
     /// Lays out two pictures: those that are checked or selected in the list, else the main picture and the
     /// one before it. False when there are no two.
     bool ChooseForCompare();
+    /// Lays out these two files, opened before or not.
+    void ChooseForCompare(const QString &mainPath, const QString &comparePath);
+
+    /// The steps done to files on the file page; borrowed.
+    void SetFileUndoStack(QUndoStack *stack);
 
 public slots:
     /// Another picture is worked on, or another view is shown.
     void slotUpdateUndo();
+    /// The file has another path.
+    void slotFileMoved(const QString &from, const QString &to);
+    /// The file was written anew.
+    void slotFileChanged(const QString &path);
 
 signals:
     /// The main picture that the user asked for is ready.
@@ -77,6 +87,7 @@ private:
     OpenedPicture *m_main;
     OpenedPicture *m_compare;
     QUndoGroup *m_undoGroup;
+    QPointer<QUndoStack> m_fileUndoStack;
     bool m_isAskedFor = false;          ///< the next main picture is one that the user asked for
     QPointer<PictureDocument> m_shown;  ///< in the main picture
     QPointer<PictureDocument> m_before; ///< was shown there before

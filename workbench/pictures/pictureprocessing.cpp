@@ -6,4 +6,7 @@ PictureProcessing::PictureProcessing(QObject *parent)
 {
 }
 
-void PictureProcessing::slotMergeImages(QList<QString>) {}
+void PictureProcessing::slotMergeImages(QList<QString> fileNames)
+{
+    emit signalMergeWanted(fileNames);
+}

@@ -3,7 +3,7 @@
 
 #include "advancedprocessmanager.h"
 
-/// Processing that makes new pictures from several. Makes none yet. GUI thread.
+/// Processing that makes new pictures from several. GUI thread.
 class PictureProcessing : public AdvancedProcessManager
 {
     Q_OBJECT
@@ -13,4 +13,8 @@ public:
 
 public slots:
     void slotMergeImages(QList<QString> fileNames) override;
+
+signals:
+    /// These files are to become one; the user says where to.
+    void signalMergeWanted(QStringList paths);
 };

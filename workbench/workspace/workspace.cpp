@@ -196,6 +196,13 @@ void Workspace::slotOpenImage(QString fileName, QObject *image)
         m_parts.desk->Open({fileName}, PlaceForPictures());
 }
 
+void Workspace::CompareFiles(const QString &one, const QString &other)
+{
+    m_parts.desk->ChooseForCompare(one, other);
+    m_parts.config->SetImageView();
+    m_parts.config->SetCompareView();
+}
+
 OpenedPicture *Workspace::PlaceForPictures() const
 {
     const bool isSecond = m_parts.config->GetCurrentView() == ImageCompareView

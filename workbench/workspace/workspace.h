@@ -34,6 +34,8 @@ public:
 
     /// The scene the live picture is in; null before the camera page was built.
     QGraphicsScene *GetCameraScene() const { return m_cameraScene; }
+    /// Shows two files side by side.
+    void CompareFiles(const QString &one, const QString &other);
     /// Where a picture that is opened now is to be shown: in a comparison of two, the half that is worked on.
     OpenedPicture *PlaceForPictures() const;
 

@@ -173,6 +173,7 @@ void WorkspaceConfig::SwitchTo(ViewCode view)
 {
     m_view = view;
     emit signalSwitchView();
+    emit signalSetMergeButtonVisible(view == FileView);
     UpdateAllControlUI();
 }
 
@@ -218,12 +219,12 @@ void WorkspaceConfig::slotSetFileView()
 
 void WorkspaceConfig::slotConvertToCSV()
 {
-    emit signalMessage(tr("Pictures can't be converted to CSV by this version."));
+    emit signalConvertToCSVWanted();
 }
 
 void WorkspaceConfig::slotModifyDPI()
 {
-    emit signalMessage(tr("The DPI of a picture can't be changed by this version."));
+    emit signalModifyDPIWanted();
 }
 
 void WorkspaceConfig::Load()

@@ -69,8 +69,9 @@ public slots:
     void slotModifyDPI() override;
 
 signals:
-    /// A sentence for the status bar.
-    void signalMessage(QString text);
+    /// Of the files selected on the file page, elsewhere of the picture that is worked on.
+    void signalConvertToCSVWanted();
+    void signalModifyDPIWanted();
 
 private:
     struct Layout

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "filegrid.h"
+
+#include "filedelegate.h"
+#include "filelistmodel.h"
+
+#include <QEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+FileGrid::FileGrid(FileListModel *model, int edge, QWidget *parent)
+    : QListView(parent)
+    , m_delegate(new FileDelegate(edge, this))
+{
+    setModel(model);
+    setItemDelegate(m_delegate);
+    // Rows of cells that wrap: unlike the icon mode it keeps no record of every item.
+    setViewMode(QListView::ListMode);
+    setFlow(QListView::LeftToRight);
+    setWrapping(true);
+    setResizeMode(QListView::Adjust);
+    setUniformItemSizes(true);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setSelectionRectVisible(true);
+    setEditTriggers(QAbstractItemView::NoEditTriggers); // F2 is an action, which knows what is selected
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setMouseTracking(true);
+    UpdateCellSize();
+}
+
+void FileGrid::UpdateCellSize()
+{
+    setGridSize(m_delegate->CellSize(font()));
+    verticalScrollBar()->setSingleStep(gridSize().height() / 3);
+}
+
+void FileGrid::changeEvent(QEvent *event)
+{
+    QListView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        UpdateCellSize();
+}
+
+int FileGrid::FirstRowBelow(int y) const
+{
+    int first = 0;
+    int behind = model()->rowCount();
+    while (first < behind) {
+        const int middle = (first + behind) / 2;
+        if (visualRect(model()->index(middle, 0)).bottom() < y)
+            first = middle + 1;
+        else
+            behind = middle;
+    }
+    return first;
+}
+
+QVector<int> FileGrid::SeenRows() const
+{
+    QVector<int> rows;
+    const int height = viewport()->height();
+    for (int row = FirstRowBelow(0); row < model()->rowCount(); ++row) {
+        if (visualRect(model()->index(row, 0)).top() > height)
+            break;
+        rows.append(row);
+    }
+    return rows;
+}
+
+QVector<int> FileGrid::WantedRows() const
+{
+    QVector<int> rows = SeenRows();
+    if (rows.isEmpty())
+        return rows;
+    const int page = rows.size();
+    const int first = rows.first();
+    const int last = rows.last();
+    for (int row = last + 1; row <= last + page && row < model()->rowCount(); ++row)
+        rows.append(row);
+    for (int row = first - 1; row >= first - page && row >= 0; --row)
+        rows.append(row);
+    return rows;
+}
+
+QVector<int> FileGrid::SelectedRows() const
+{
+    QVector<int> rows;
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row);
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+void FileGrid::SelectRows(const QVector<int> &rows, int current)
+{
+    QItemSelection selection;
+    for (int i = 0; i < rows.size();) {
+        int behind = i + 1;
+        while (behind < rows.size() && rows[behind] == rows[behind - 1] + 1)
+            ++behind;
+        selection.append(QItemSelectionRange(model()->index(rows[i], 0), model()->index(rows[behind - 1], 0)));
+        i = behind;
+    }
+    if (current >= 0)
+        selectionModel()->setCurrentIndex(model()->index(current, 0), QItemSelectionModel::NoUpdate);
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+void FileGrid::resizeEvent(QResizeEvent *event)
+{
+    QListView::resizeEvent(event);
+    emit signalScrolled();
+}
+
+void FileGrid::showEvent(QShowEvent *event)
+{
+    QListView::showEvent(event);
+    emit signalScrolled();
+}
+
+void FileGrid::updateGeometries()
+{
+    QListView::updateGeometries();
+    emit signalScrolled();
+}
+
+void FileGrid::scrollContentsBy(int dx, int dy)
+{
+    QListView::scrollContentsBy(dx, dy);
+    emit signalScrolled();
+}
+
+void FileGrid::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    QListView::selectionChanged(selected, deselected);
+    emit signalSelectionChanged();
+}
