@@ -313,7 +313,7 @@ void FileThumbnail::slotShowNotice(const QString &text)
 
 void FileThumbnail::slotSelectionChanged()
 {
-    const int selected = m_grid->SelectedRows().size();
+    const int selected = m_grid->SelectedCount();
     for (QAction *action : {m_open, m_trash, m_convert, m_modifyDpi})
         action->setEnabled(selected > 0);
     m_rename->setEnabled(selected == 1);

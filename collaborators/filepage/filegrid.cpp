@@ -84,6 +84,14 @@ QVector<int> FileGrid::WantedRows() const
     return rows;
 }
 
+int FileGrid::SelectedCount() const
+{
+    int count = 0;
+    for (const QItemSelectionRange &range : selectionModel()->selection())
+        count += range.height();
+    return count;
+}
+
 QVector<int> FileGrid::SelectedRows() const
 {
     QVector<int> rows;
@@ -108,6 +116,12 @@ void FileGrid::SelectRows(const QVector<int> &rows, int current)
     if (current >= 0)
         selectionModel()->setCurrentIndex(model()->index(current, 0), QItemSelectionModel::NoUpdate);
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+/// To be painted anew. Looking for the places of all files costs more than painting those that are seen.
+QRegion FileGrid::visualRegionForSelection(const QItemSelection &selection) const
+{
+    return selection.isEmpty() ? QRegion() : QRegion(viewport()->rect());
 }
 
 void FileGrid::resizeEvent(QResizeEvent *event)

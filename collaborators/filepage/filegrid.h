@@ -21,6 +21,7 @@ public:
     QVector<int> WantedRows() const;
     /// The rows that are seen.
     QVector<int> SeenRows() const;
+    int SelectedCount() const;
     /// In the order they are listed.
     QVector<int> SelectedRows() const;
     void SelectRows(const QVector<int> &rows, int current);
@@ -35,6 +36,7 @@ protected:
     void showEvent(QShowEvent *event) override;
     void updateGeometries() override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
+    QRegion visualRegionForSelection(const QItemSelection &selection) const override;
     void scrollContentsBy(int dx, int dy) override;
     void changeEvent(QEvent *event) override;
 

@@ -238,5 +238,6 @@ bool FolderTreeModel::canFetchMore(const QModelIndex &parent) const
 
 void FolderTreeModel::fetchMore(const QModelIndex &parent)
 {
-    Ask(NodeOf(parent));
+    if (canFetchMore(parent))
+        Ask(NodeOf(parent));
 }

@@ -3,7 +3,6 @@
 #include "foldertreemodel.h"
 #include "guardedtest.h"
 
-#include <QAbstractItemModelTester>
 #include <QFileInfo>
 
 /// The tree of folders.
@@ -17,7 +16,6 @@ private slots:
         const FileFolder folder;
         QVERIFY(QDir(folder.Path()).mkpath("one/.hidden/two"));
         FolderTreeModel model;
-        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         const QString wanted = folder.Path("one/.hidden/two");
         QTRY_COMPARE(model.Seek(wanted).data(FolderTreeModel::PathRole).toString(), wanted);
         QCOMPARE(model.Seek(wanted).data().toString(), QString("two"));
@@ -42,7 +40,6 @@ private slots:
         for (const char *name : {"b", "d", "f"})
             QVERIFY(QDir(folder.Path()).mkdir(name));
         FolderTreeModel model;
-        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
         QTRY_COMPARE(model.Seek(folder.Path("d")).data().toString(), QString("d"));
         const QPersistentModelIndex d(model.Seek(folder.Path("d")));
         model.SetWatched(true);

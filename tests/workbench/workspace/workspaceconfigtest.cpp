@@ -178,15 +178,26 @@ private slots:
         QCOMPARE(config.GetCurrentView(), int(FileView));
     }
 
-    void commandsOnAFileSayThatNoneIsOpen()
+    void commandsOnAFileAreHandedOn()
     {
         WorkspaceConfig config(m_settings.get());
-        QSignalSpy messages(&config, SIGNAL(signalMessage(QString)));
+        QSignalSpy convert(&config, SIGNAL(signalConvertToCSVWanted()));
+        QSignalSpy modify(&config, SIGNAL(signalModifyDPIWanted()));
         config.slotConvertToCSV();
+        QCOMPARE(convert.count(), 1);
+        QCOMPARE(modify.count(), 0);
         config.slotModifyDPI();
-        QCOMPARE(messages.count(), 2);
-        QCOMPARE(messages.at(0).at(0).toString(), QString("Pictures can't be converted to CSV by this version."));
-        QCOMPARE(messages.at(1).at(0).toString(), QString("The DPI of a picture can't be changed by this version."));
+        QCOMPARE(modify.count(), 1);
+    }
+
+    void filesAreMergedOnTheFilePage()
+    {
+        WorkspaceConfig config(m_settings.get());
+        QSignalSpy merge(&config, SIGNAL(signalSetMergeButtonVisible(bool)));
+        config.SetFileView();
+        QCOMPARE(merge.last().first().toBool(), true);
+        config.SetImageView();
+        QCOMPARE(merge.last().first().toBool(), false);
     }
 
 private:
