@@ -6,6 +6,6 @@ QVector<BenchmarkGroup> BenchmarkGroups()
     return {{"cpuframe", BenchmarkCpuFrame}, {"gpuframe", BenchmarkGpuFrame}, {"zoom", BenchmarkZoom},
             {"levels", BenchmarkLevels},     {"stack", BenchmarkStack},       {"items", BenchmarkItems},
             {"spectrum", BenchmarkSpectrumFrame},
-            {"record", BenchmarkRecord},
+            {"record", BenchmarkRecord}, {"thumbnails", BenchmarkThumbnails},
             {"start", BenchmarkStart}};
 }

@@ -29,5 +29,7 @@ QVector<BenchmarkResult> BenchmarkItems();
 QVector<BenchmarkResult> BenchmarkSpectrumFrame();
 /// A recording: to disk against plain writing, while shown against not shown, and what fast and long runs lose.
 QVector<BenchmarkResult> BenchmarkRecord();
+/// A folder of pictures, until its first screen of thumbnails is painted.
+QVector<BenchmarkResult> BenchmarkThumbnails();
 /// The whole program: first frame on screen, peak memory, growth over 10,000 frames.
 QVector<BenchmarkResult> BenchmarkStart();

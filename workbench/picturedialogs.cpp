@@ -18,11 +18,8 @@ namespace {
 QString OpenFilter()
 {
     QStringList patterns;
-    for (const PictureFormat format : { PictureFormat::Tiff, PictureFormat::Fits, PictureFormat::Png,
-                                        PictureFormat::Jpeg, PictureFormat::Bmp, PictureFormat::Spe }) {
-        for (const QString &suffix : FormatSuffixes(format))
-            patterns << "*." + suffix;
-    }
+    for (const QString &suffix : OpenableSuffixes())
+        patterns << "*." + suffix;
     return PictureDialogs::tr("Pictures (%1)").arg(patterns.join(' '));
 }
 

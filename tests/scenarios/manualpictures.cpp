@@ -2,6 +2,7 @@
 // Works with the program as a reader of the manual does, and saves the pictures of it.
 #include "camerasession.h"
 #include "createpicture.h"
+#include "filethumbnail.h"
 #include "levelsmodel.h"
 #include "livelevels.h"
 #include "openedpicture.h"
@@ -21,6 +22,7 @@
 #include <QDir>
 #include <QFrame>
 #include <QGraphicsView>
+#include <QListView>
 #include <QLoggingCategory>
 #include <QScreen>
 #include <QScrollBar>
@@ -66,6 +68,7 @@ public:
         TakeRecording();
         TakeOpenedPicture();
         TakeCompare();
+        TakeFiles();
     }
 
 private:
@@ -145,6 +148,45 @@ private:
         m_workbench.Action("Compare")->trigger();
         Save("compare");
         m_workbench.Action("Compare")->trigger();
+    }
+
+    void TakeFiles()
+    {
+        const QDir folder(m_files.filePath("Pictures/cells"));
+        folder.mkpath(".");
+        m_files.mkpath("Pictures/spectra");
+        for (int number = 1; number <= 14; ++number)
+            WriteSpecimen(folder.filePath(QString("cells %1.%2").arg(number).arg(number % 5 ? "tif" : "png")), number);
+        m_workbench.services.Config()->SetFileView();
+        ShowPanels(true, true);
+        auto *page = m_workbench.window.findChild<FileThumbnail *>();
+        page->slotOpenFileDirectory(folder.path());
+        auto *list = page->findChild<QListView *>("listViewFiles");
+        const auto isThere = [list] {
+            return list->model()->rowCount() == 14
+                   && !list->model()->index(13, 0).data(Qt::DecorationRole).value<QPixmap>().isNull();
+        };
+        if (!QTest::qWaitFor(isThere, WaitMs))
+            qFatal("The thumbnails do not come.");
+        list->setCurrentIndex(list->model()->index(2, 0));
+        list->selectionModel()->select(list->model()->index(4, 0), QItemSelectionModel::Select);
+        Save("files");
+    }
+
+    static void WriteSpecimen(const QString &path, int seed)
+    {
+        Picture picture(StackSize.width() / 2, StackSize.height() / 2, 1, SampleType::U16);
+        SpecimenScene scene(seed);
+        SceneFrame frame;
+        frame.pixels = picture.Data();
+        frame.width = frame.sensorWidth = picture.Width();
+        frame.height = frame.sensorHeight = picture.Height();
+        frame.strideBytes = int(picture.BytesPerRow());
+        frame.bitDepth = 16;
+        scene.Fill(frame);
+        QString error;
+        if (!SavePicture(path, picture, SaveOptions(), error))
+            qFatal("%s", qPrintable(error));
     }
 
     /// A drift of the cells under the microscope.
@@ -232,6 +274,7 @@ int main(int argc, char **argv)
         qFatal("Usage: manual_pictures FOLDER");
     StyleSheet::Named("dark").Apply(application);
     const QTemporaryDir folder;
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(folder.filePath("cache")));
     {
         Album album(folder.path(), QDir(argv[1]));
         album.TakeAll();

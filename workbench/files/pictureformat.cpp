@@ -68,6 +68,14 @@ QString FormatName(PictureFormat format)
     return row ? QString(row->name) : QString();
 }
 
+QStringList OpenableSuffixes()
+{
+    QStringList suffixes;
+    for (const FormatRow &row : formatTable)
+        suffixes += FormatSuffixes(row.format);
+    return suffixes;
+}
+
 QStringList FormatSuffixes(PictureFormat format)
 {
     const FormatRow *row = RowOf(format);

@@ -17,3 +17,5 @@ PictureFormat FormatOfName(const QString &path);
 QString FormatName(PictureFormat format);
 /// Endings in lower case without a dot, the usual one first.
 QStringList FormatSuffixes(PictureFormat format);
+/// Those of all formats that can be opened.
+QStringList OpenableSuffixes();

@@ -72,8 +72,8 @@ bool IsSamePicture(const QString &copyPath, const PictureInfo &info)
 
 bool CheckCanHold(const PictureInfo &info, FileFault &fault)
 {
-    if (info.format == PictureFormat::Fits)
-        return fault.Set(Translate("FITS files have no place for a resolution"),
+    if (info.format == PictureFormat::Fits || info.format == PictureFormat::Spe)
+        return fault.Set(Translate("%1 files have no place for a resolution").arg(FormatName(info.format)),
                          Translate("Save the picture as TIFF or PNG first."));
     if (IsOmeDescription(DescriptionOf(info.metadata)))
         return fault.Set(Translate("its OME description gives the size of a pixel, which a resolution would contradict"),

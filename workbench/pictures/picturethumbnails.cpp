@@ -45,11 +45,7 @@ QImage Thumbnail(const Picture &frame, int edge)
 
 QStringList PictureThumbnails::Suffixes() const
 {
-    QStringList suffixes;
-    for (const PictureFormat format :
-         {PictureFormat::Tiff, PictureFormat::Fits, PictureFormat::Png, PictureFormat::Jpeg, PictureFormat::Bmp})
-        suffixes += FormatSuffixes(format);
-    return suffixes;
+    return OpenableSuffixes();
 }
 
 QImage PictureThumbnails::Make(const QString &path, int edge, QString &fault)
