@@ -9,6 +9,10 @@
 
 #include <algorithm>
 
+namespace {
+constexpr int RowsAtOnce = 10000;
+}
+
 FileGrid::FileGrid(FileListModel *model, int edge, QWidget *parent)
     : QListView(parent)
     , m_delegate(new FileDelegate(edge, this))
@@ -21,6 +25,10 @@ FileGrid::FileGrid(FileListModel *model, int edge, QWidget *parent)
     setWrapping(true);
     setResizeMode(QListView::Adjust);
     setUniformItemSizes(true);
+    // A part of a long list is laid out at a time, and none of it twice for a scroll bar that comes.
+    setLayoutMode(QListView::Batched);
+    setBatchSize(RowsAtOnce);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setSelectionRectVisible(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers); // F2 is an action, which knows what is selected
@@ -49,7 +57,8 @@ int FileGrid::FirstRowBelow(int y) const
     int behind = model()->rowCount();
     while (first < behind) {
         const int middle = (first + behind) / 2;
-        if (visualRect(model()->index(middle, 0)).bottom() < y)
+        const QRect cell = visualRect(model()->index(middle, 0));
+        if (!cell.isEmpty() && cell.bottom() < y) // empty: it has no place yet
             first = middle + 1;
         else
             behind = middle;
@@ -62,7 +71,8 @@ QVector<int> FileGrid::SeenRows() const
     QVector<int> rows;
     const int height = viewport()->height();
     for (int row = FirstRowBelow(0); row < model()->rowCount(); ++row) {
-        if (visualRect(model()->index(row, 0)).top() > height)
+        const QRect cell = visualRect(model()->index(row, 0));
+        if (cell.isEmpty() || cell.top() > height)
             break;
         rows.append(row);
     }
