@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runestimate.h"
 
+#include "availablememory.h"
+
 #include <QCoreApplication>
-#include <QFile>
 #include <QStorageInfo>
 
 #include <cmath>
@@ -13,21 +14,8 @@ constexpr double MsPerSecond = 1000.0;
 /// Kept free of frames, for the system and the rest of the program.
 constexpr qint64 ReserveBytes = 256 << 20;
 constexpr qint64 MemoryReserveShare = 10; ///< of the free memory at least a tenth
-constexpr qint64 BytesPerKB = 1024; ///< in /proc/meminfo
 
 QString Translate(const char *text) { return QCoreApplication::translate("RunEstimate", text); }
-
-qint64 AvailableMemory()
-{
-    QFile file("/proc/meminfo");
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : file.readAll().split('\n')) {
-        if (line.startsWith("MemAvailable:"))
-            return line.mid(13).trimmed().split(' ').first().toLongLong() * BytesPerKB;
-    }
-    return -1;
-}
 
 double KeptPerSecond(const RecordingSettings &settings, double framesPerSecond)
 {

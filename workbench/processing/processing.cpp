@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "processing.h"
+
+#include "availablememory.h"
+#include "background.h"
+#include "bandpass.h"
+#include "flatfield.h"
+#include "morphology.h"
+#include "opencvcall.h"
+#include "samplebinning.h"
+#include "smoothing.h"
+#include "thresholding.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+
+namespace {
+
+QString Translate(const char *text) { return QCoreApplication::translate("Processing", text); }
+
+class Step
+{
+public:
+    Step(const Picture &picture, const ReferenceReader &readReference, QString &error)
+        : m_picture(picture)
+        , m_readReference(readReference)
+        , m_error(error)
+    {
+    }
+
+    Picture operator()(const std::monostate &) const { return m_picture; }
+    Picture operator()(const BackgroundSettings &settings) const { return WithoutBackground(m_picture, settings); }
+    Picture operator()(const FlatFieldSettings &settings) const
+    {
+        if (settings.reference.isEmpty()) {
+            m_error = Translate("Choose a reference: a picture of an evenly lit field.");
+            return Picture();
+        }
+        Picture reference;
+        if (!m_readReference(settings.reference, reference, m_error))
+            return Picture();
+        return FlatFielded(m_picture, reference, m_error);
+    }
+    Picture operator()(const DenoiseSettings &settings) const { return Denoised(m_picture, settings); }
+    Picture operator()(const SharpenSettings &settings) const { return Sharpened(m_picture, settings); }
+    Picture operator()(const ThresholdSettings &settings) const { return Thresholded(m_picture, settings); }
+    Picture operator()(const MorphologySettings &settings) const { return Morphed(m_picture, settings); }
+    Picture operator()(const BinningSettings &settings) const { return Binned(m_picture, settings, m_error); }
+    Picture operator()(const BandPassSettings &settings) const { return BandPassed(m_picture, settings); }
+    Picture operator()(const ProjectionSettings &) const { return m_picture; } // of one frame
+
+private:
+    const Picture &m_picture;
+    const ReferenceReader &m_readReference;
+    QString &m_error;
+};
+
+} // namespace
+
+Picture Processed(const Picture &picture, const ProcessSettings &settings, const ReferenceReader &readReference,
+                  QString &error)
+{
+    if (picture.Size().isEmpty()) {
+        error = Translate("There is no picture that could be processed.");
+        return Picture();
+    }
+    error = MemoryFault(WorkingBytes(picture, settings), AvailableMemory());
+    if (!error.isEmpty())
+        return Picture();
+    Picture result;
+    QString fault;
+    CallOpenCv(fault, [&] { result = std::visit(Step(picture, readReference, error), settings); });
+    if (!fault.isEmpty())
+        error = Translate("The picture could not be processed: %1.").arg(fault);
+    return result;
+}
+
+bool IsProjection(const ProcessSettings &settings) { return std::holds_alternative<ProjectionSettings>(settings); }
+
+QSize ProcessedSize(const QSize &size, const ProcessSettings &settings)
+{
+    const auto *binning = std::get_if<BinningSettings>(&settings);
+    return binning ? BinnedSize(size, *binning) : size;
+}
+
+qint64 WorkingBytes(const Picture &picture, const ProcessSettings &settings)
+{
+    constexpr int planes = 4; // the values, their result and what the filters keep in between
+    constexpr int mirrored = 4; // of twice the sides
+    const qint64 plane = qint64(picture.Width()) * picture.Height() * qint64(sizeof(double));
+    const bool isBandPass = std::holds_alternative<BandPassSettings>(settings);
+    return picture.ByteCount() + plane * (isBandPass ? planes + 2 * mirrored : planes);
+}
+
+QString MemoryFault(qint64 wantedBytes, qint64 availableBytes)
+{
+    if (availableBytes < 0 || wantedBytes <= availableBytes)
+        return QString();
+    return Translate("This needs %1 of memory, and %2 is free. Close other pictures or programs.")
+        .arg(QLocale().formattedDataSize(wantedBytes), QLocale().formattedDataSize(availableBytes));
+}
