@@ -72,7 +72,7 @@ void PictureDialogs::slotAskWhereToSave()
     SaveDialog::Subject subject;
     subject.suggestedPath = SuggestedPath(m_pictureToSave->Document());
     subject.type = m_pictureToSave->Shown().samples.Type();
-    subject.frames = m_pictureToSave->Shown().info.frames;
+    subject.frames = m_pictureToSave->FrameCount();
     auto *dialog = new SaveDialog(subject, m_window);
     connect(dialog, SIGNAL(accepted()), this, SLOT(slotSavePicture()));
     dialog->open();

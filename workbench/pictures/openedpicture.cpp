@@ -37,13 +37,18 @@ void OpenedPicture::Show(PictureDocument *document) { Request(document, document
 
 void OpenedPicture::Request(PictureDocument *document, int frame)
 {
+    if (document != m_document)
+        EndPreview();
     PictureRequest request;
     request.place = m_place;
     request.file = document->File();
     request.frame = frame;
-    request.edit = document->Edit();
-    request.range = document->Range();
-    request.wantsThumbnail = document != m_document || request.edit != m_shown.request.edit;
+    request.isPreview = !IsNone(m_preview);
+    request.edit = document->Edit().Processed(m_preview);
+    request.range = request.isPreview ? SampleRange() : document->Range();
+    request.wantsThumbnail =
+        !request.isPreview
+        && (document != m_document || m_shown.request.isPreview || request.edit != m_shown.request.edit);
     m_wanted = document;
     m_wantedFrame = frame;
     m_wantedTicket = m_loader->Load(request);
@@ -57,6 +62,9 @@ void OpenedPicture::slotLoaded(const LoadedPicture &picture)
         return;
     if (picture.error.isEmpty()) {
         Take(picture);
+    } else if (picture.request.isPreview) {
+        if (picture.request.ticket == m_wantedTicket)
+            FailPreview(picture.error);
     } else if (picture.request.ticket == m_wantedTicket) {
         PictureDocument *failed = m_wanted;
         if (failed != m_document)
@@ -83,8 +91,9 @@ void OpenedPicture::Take(const LoadedPicture &picture)
     const bool isOther = m_document != m_wanted;
     m_shown = picture;
     m_wanted->SetInfo(picture.info);
-    m_wanted->SetRange(picture.range);
     m_wanted->SetFrame(picture.request.frame);
+    if (!picture.request.isPreview)
+        m_wanted->SetRange(picture.range);
     if (isOther)
         Follow(m_wanted);
     m_levels->Set(picture.samples.Type(), picture.range);
@@ -102,6 +111,27 @@ void OpenedPicture::Take(const LoadedPicture &picture)
     if (!m_shown.thumbnail.isNull())
         emit sglAddThumbnail(m_shown.thumbnail);
     emit UIConfigManager::GetInstance()->signalImageInfoChanged();
+    if (picture.request.isPreview)
+        FinishApply();
+    else
+        Settle(isOther);
+}
+
+/// The picture is there without anything that is only tried.
+void OpenedPicture::Settle(bool isOther)
+{
+    const bool was32Bit = Is32BitMat();
+    m_settledType = m_shown.samples.Type();
+    if (isOther || m_frameCount != m_shown.frames) {
+        m_frameCount = m_shown.frames;
+        m_wantedFrame = m_wantedFrame < m_frameCount ? m_wantedFrame : 0; // a stack that became one picture
+        m_document->SetFrame(m_wantedFrame);
+        TellFrameBrowser();
+    }
+    if (isOther)
+        emit signalShown();
+    else if (was32Bit != Is32BitMat())
+        emit UIConfigManager::GetInstance()->signalUpdateImageControlUI();
 }
 
 /// An opened spectrum begins along its rows, with the middle one.
@@ -118,8 +148,6 @@ void OpenedPicture::AnnounceSpectrum(bool isOther)
 void OpenedPicture::AnnounceDocument()
 {
     emit signalUpdateFileName(m_document->Name());
-    TellFrameBrowser();
-    emit signalShown();
     if (!m_shown.info.warning.isEmpty())
         emit signalMessage(m_shown.info.warning);
 }
@@ -136,8 +164,8 @@ void OpenedPicture::TellFrameBrowser()
     if (!m_isBrowsed)
         return;
     m_isTellingBrowser = true;
-    emit signalCurrentFileFrameNumber(m_shown.info.frames);
-    if (m_shown.info.frames > 0)
+    emit signalCurrentFileFrameNumber(m_frameCount);
+    if (m_frameCount > 0)
         emit signalCurrentFrame(m_wantedFrame);
     m_isTellingBrowser = false;
 }
@@ -148,7 +176,7 @@ void OpenedPicture::AnnounceFrame()
     if (!m_shown.frameDescription.isEmpty())
         emit signalMessage(tr("Frame %1 of %2: %3")
                                .arg(m_shown.request.frame + 1)
-                               .arg(m_shown.info.frames)
+                               .arg(m_shown.frames)
                                .arg(m_shown.frameDescription));
 }
 
@@ -224,7 +252,7 @@ void OpenedPicture::slotLevelsChanged()
 
 void OpenedPicture::SetImage(int index)
 {
-    if (m_isTellingBrowser || !m_wanted || m_wanted != m_document || index < 0 || index >= m_shown.info.frames
+    if (m_isTellingBrowser || !m_wanted || m_wanted != m_document || index < 0 || index >= m_frameCount
         || index == m_wantedFrame)
         return;
     Request(m_document, index);
@@ -255,8 +283,10 @@ void OpenedPicture::Forget()
 {
     if (m_document)
         disconnect(m_document, nullptr, this, nullptr);
+    EndPreview();
     m_document.clear();
     m_wanted.clear();
+    m_frameCount = 0;
     m_wantedFrame = 0;
     m_shown = LoadedPicture();
     m_levels->Set(SampleType::U8, { 0, 255 });
@@ -275,6 +305,57 @@ void OpenedPicture::ConnectWidthDrawView(QObject *view, bool spectrum)
     connect(view, SIGNAL(signalUpdateImageGrayValueInfo()), this, SLOT(slotReadPixel()));
 }
 
+// What is tried
+
+void OpenedPicture::Preview(const ProcessSettings &settings)
+{
+    if (!m_document || m_wanted != m_document || settings == m_preview)
+        return;
+    m_applyText.clear();
+    m_preview = settings;
+    Request(m_document, m_wantedFrame);
+    if (IsNone(settings))
+        emit signalPreviewEnded();
+}
+
+void OpenedPicture::ApplyPreview(const QString &text)
+{
+    if (IsNone(m_preview))
+        return;
+    m_applyText = text;
+    if (m_shown.request.ticket == m_wantedTicket)
+        FinishApply();
+}
+
+void OpenedPicture::FinishApply()
+{
+    emit signalPreviewed(QString());
+    if (m_applyText.isEmpty() || m_shown.request.ticket != m_wantedTicket)
+        return;
+    const PictureEdit edit = m_document->Edit().Processed(m_preview);
+    const QString text = m_applyText;
+    m_preview = ProcessSettings();
+    m_applyText.clear();
+    m_document->PushEdit(edit, text);
+    emit signalPreviewEnded();
+}
+
+/// What was shown before stays, and what is tried is still what the user set.
+void OpenedPicture::FailPreview(const QString &error)
+{
+    m_applyText.clear();
+    emit signalPreviewed(error);
+}
+
+void OpenedPicture::EndPreview()
+{
+    if (IsNone(m_preview))
+        return;
+    m_preview = ProcessSettings();
+    m_applyText.clear();
+    emit signalPreviewEnded();
+}
+
 // What is shown
 
 PictureDocument *OpenedPicture::Document() const { return m_document; }
@@ -287,7 +368,7 @@ bool OpenedPicture::IsSenImage() const { return !IsNonImage() && m_shown.info.fo
 
 bool OpenedPicture::Is32BitMat() const
 {
-    return !IsNonImage() && BytesPerSample(m_shown.samples.Type()) >= 4;
+    return !IsNonImage() && BytesPerSample(m_settledType) >= 4;
 }
 
 QSize OpenedPicture::GetImageSize() const { return IsNonImage() ? QSize() : m_shown.samples.Size(); }
@@ -344,6 +425,8 @@ void OpenedPicture::slotRotateImage(int type)
 
 void OpenedPicture::slotImageCrop()
 {
+    // What is cropped out is said in pixels of the picture without what is tried.
+    Preview(ProcessSettings());
     if (!IsNonImage())
         emit signalSetCropState(NewSelection, true);
 }
@@ -368,9 +451,9 @@ void OpenedPicture::SaveAs(const QString &target, bool allFrames)
     SaveRequest request;
     request.file = m_document->File();
     request.firstFrame = allFrames ? 0 : m_shown.request.frame;
-    request.frameCount = allFrames ? m_shown.info.frames : 1;
-    request.edit = m_shown.request.edit;
-    request.range = m_shown.range;
+    request.frameCount = allFrames ? m_frameCount : 1;
+    request.edit = m_document->Edit();
+    request.range = m_document->Range();
     request.target = target;
     m_loader->Save(request);
 }
@@ -387,9 +470,15 @@ void OpenedPicture::LineProfileMouseMoveEvent(QMouseEvent *) {}
 
 MeasureManager *OpenedPicture::GetMeasureManager() const { return m_measuring; }
 
-void OpenedPicture::SetProcessType(int) {}
+/// Panels say themselves what they process; the module only ends it.
+void OpenedPicture::SetProcessType(int type)
+{
+    constexpr int none = 0;
+    if (type == none)
+        emit signalProcessingEnded();
+}
 
-void OpenedPicture::SetAdjustApply(int) {}
+void OpenedPicture::SetAdjustApply(int) { emit signalApplyWanted(); }
 
 void OpenedPicture::slotFinishSetBrush() {}
 

@@ -38,11 +38,20 @@ public:
     /// The one that was asked for last: that which is shown, or will be.
     PictureDocument *WantedDocument() const;
     const LoadedPicture &Shown() const { return m_shown; }
+    /// Without what is only tried.
     void SaveAs(const QString &target, bool allFrames);
     /// The profile through the point that was picked last, in the units of the file; empty when none was.
     std::vector<double> Profile(bool alongRow) const;
     /// The rows, or columns, that it is the mean of.
     ProfileBand LinesOfProfile(bool alongRow) const;
+
+    /// Shows what a step of processing would make of the picture; none ends it. Ends by itself when another picture is
+    /// shown or the user begins to crop.
+    void Preview(const ProcessSettings &settings);
+    /// Makes what is tried a step that can be undone, `text`, as soon as it is shown.
+    void ApplyPreview(const QString &text);
+    /// How many frames can be browsed.
+    int FrameCount() const { return m_frameCount; }
 
     void ClearAll() override;
     void LineProfileMouseMoveEvent(QMouseEvent *event) override;
@@ -100,6 +109,14 @@ signals:
     /// The user wants to say where to save what is shown, or to read about it.
     void signalSaveAsWanted();
     void signalInformationWanted();
+    /// What is tried is on the screen, or `error` says why not.
+    void signalPreviewed(QString error);
+    /// Nothing is tried any more, though nobody asked for that.
+    void signalPreviewEnded();
+    /// What is tried is to be applied.
+    void signalApplyWanted();
+    /// The processing is left.
+    void signalProcessingEnded();
     /// A sentence for the status bar.
     void signalMessage(QString text);
 
@@ -119,6 +136,10 @@ private:
     void TellFrameBrowser();
     void AnnounceSpectrum(bool isOther);
     void Follow(PictureDocument *document);
+    void Settle(bool isOther);
+    void FailPreview(const QString &error);
+    void FinishApply();
+    void EndPreview();
     void Forget();
 
     PictureLoader *m_loader;
@@ -133,5 +154,9 @@ private:
     bool m_isTellingBrowser = false;
     quint64 m_wantedTicket = 0;
     LoadedPicture m_shown;
+    ProcessSettings m_preview; ///< of m_document
+    QString m_applyText;       ///< of the step that the preview becomes when it is shown; empty: it does not
+    SampleType m_settledType = SampleType::U8; ///< without what is only tried
+    int m_frameCount = 0;                      ///< likewise
     QPointF m_mousePos; ///< picture pixels
 };

@@ -79,11 +79,14 @@ void PictureDocument::PushEdit(const PictureEdit &edit, const QString &text)
 void PictureDocument::Reset()
 {
     m_undoStack->clear();
+    m_range = SampleRange();
     m_edit = PictureEdit();
 }
 
 void PictureDocument::SetEdit(const PictureEdit &edit)
 {
+    if (!edit.HasSameSteps(m_edit))
+        m_range = SampleRange(); // other samples
     m_edit = edit;
     emit signalEdited();
 }

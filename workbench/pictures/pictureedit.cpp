@@ -2,11 +2,41 @@
 #include "pictureedit.h"
 
 #include "picturegeometry.h"
+#include "processing.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+/// Laid in one way and then in another.
+Orientation Then(const Orientation &first, const Orientation &second)
+{
+    const Orientation flipped = second.IsFlipped() ? first.FlippedHorizontally() : first;
+    return Orientation(flipped.IsFlipped(), flipped.QuarterTurns() + second.QuarterTurns());
+}
+
+} // namespace
+
+Orientation PictureEdit::GetOrientation() const
+{
+    Orientation orientation;
+    for (const ProcessStep &step : m_steps)
+        orientation = Then(orientation, step.before.orientation);
+    return Then(orientation, m_last.orientation);
+}
+
+bool PictureEdit::IsCropped() const
+{
+    return !m_last.region.isNull()
+           || std::any_of(m_steps.begin(), m_steps.end(),
+                          [](const ProcessStep &step) { return !step.before.region.isNull(); });
+}
 
 PictureEdit PictureEdit::Turned(int rotateType) const
 {
     PictureEdit edit = *this;
-    edit.m_orientation = m_orientation.After(rotateType);
+    edit.m_last.orientation = m_last.orientation.After(rotateType);
     return edit;
 }
 
@@ -17,22 +47,63 @@ PictureEdit PictureEdit::Cropped(const QRect &seen, const QSize &fileSize) const
     if (left.isEmpty() || left.size() == seenSize)
         return *this;
     PictureEdit edit = *this;
-    edit.m_region = m_orientation.Inverse().Map(left, seenSize).translated(RegionOf(fileSize).topLeft());
+    edit.m_last.region = m_last.orientation.Inverse().Map(left, seenSize)
+                             .translated(m_last.RegionOf(SizeAfterSteps(fileSize)).topLeft());
     return edit;
 }
 
-QRect PictureEdit::RegionOf(const QSize &fileSize) const
+PictureEdit PictureEdit::Processed(const ProcessSettings &settings) const
 {
-    const QRect whole(QPoint(0, 0), fileSize);
-    return m_region.isNull() ? whole : m_region & whole;
+    if (::IsNone(settings))
+        return *this;
+    PictureEdit edit = *this;
+    edit.m_steps << ProcessStep{ m_last, settings };
+    edit.m_last = Geometry();
+    return edit;
+}
+
+PictureEdit PictureEdit::FirstSteps(int count) const
+{
+    PictureEdit edit;
+    edit.m_steps = m_steps.mid(0, count);
+    return edit;
+}
+
+QRect PictureEdit::Geometry::RegionOf(const QSize &size) const
+{
+    const QRect whole(QPoint(0, 0), size);
+    return region.isNull() ? whole : region & whole;
+}
+
+QSize PictureEdit::SizeAfterSteps(const QSize &fileSize) const
+{
+    QSize size = fileSize;
+    for (const ProcessStep &step : m_steps)
+        size = ProcessedSize(step.before.orientation.Map(step.before.RegionOf(size).size()), step.process);
+    return size;
 }
 
 QSize PictureEdit::SeenSize(const QSize &fileSize) const
 {
-    return m_orientation.Map(RegionOf(fileSize).size());
+    return m_last.orientation.Map(m_last.RegionOf(SizeAfterSteps(fileSize)).size());
 }
 
-Picture PictureEdit::Applied(const Picture &frame) const
+int PictureEdit::PixelsJoined() const
 {
-    return Oriented(::Cropped(frame, RegionOf(frame.Size())), m_orientation);
+    return std::accumulate(m_steps.begin(), m_steps.end(), 1, [](int pixels, const ProcessStep &step) {
+        return pixels * ::PixelsJoined(step.process);
+    });
+}
+
+int PictureEdit::SeenFrames(int fileFrames) const
+{
+    const bool isOne = std::any_of(m_steps.begin(), m_steps.end(),
+                                   [](const ProcessStep &step) { return IsProjection(step.process); });
+    return isOne ? qMin(1, fileFrames) : fileFrames;
+}
+
+Picture PictureEdit::Applied(const Picture &processed, int step) const
+{
+    const Geometry &geometry = step < m_steps.size() ? m_steps.at(step).before : m_last;
+    return Oriented(::Cropped(processed, geometry.RegionOf(processed.Size())), geometry.orientation);
 }

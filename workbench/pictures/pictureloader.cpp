@@ -43,6 +43,7 @@ void Guarded(const QString &path, QString &error, Function work)
 PictureLoader::PictureLoader(const LevelsModel *levels, QObject *parent)
     : QThread(parent)
     , m_access(MostOpenFiles, CacheBytes)
+    , m_frames(&m_access)
     , m_display(levels)
 {
     qRegisterMetaType<LoadedPicture>();
@@ -146,10 +147,12 @@ void PictureLoader::ChangeFiles()
         changes.swap(m_fileChanges);
     }
     for (const PictureAccess::FileName &change : qAsConst(changes)) {
-        if (change.path.isEmpty())
+        if (change.path.isEmpty()) {
             m_access.Close(change.id);
-        else
+            m_frames.Forget(change.id);
+        } else {
             m_access.Rename(change.id, change.path);
+        }
     }
 }
 
@@ -165,7 +168,19 @@ void PictureLoader::LoadNext()
         request = *oldest;
         m_requests.erase(oldest);
     }
-    emit signalLoaded(Loaded(request));
+    const LoadedPicture loaded = Loaded(request);
+    if (!loaded.samples.IsNull() || !loaded.error.isEmpty())
+        emit signalLoaded(loaded);
+}
+
+/// Another picture, or the same one processed in another way, is wanted in its place.
+bool PictureLoader::IsReplaced(const PictureRequest &request)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const auto newer = m_requests.constFind(request.place);
+    const bool isOther = newer != m_requests.constEnd()
+                         && (newer->file.id != request.file.id || newer->edit != request.edit);
+    return m_ends || isOther;
 }
 
 LoadedPicture PictureLoader::Loaded(const PictureRequest &request)
@@ -174,22 +189,17 @@ LoadedPicture PictureLoader::Loaded(const PictureRequest &request)
     loaded.request = request;
     loaded.range = request.range;
     Guarded(request.file.path, loaded.error, [&] {
-        Picture frame;
-        if (!m_access.ReadFrame(request.file, request.frame, frame, loaded.error))
+        const IsUnwanted isUnwanted = [&] { return IsReplaced(request); };
+        if (!m_frames.Read(request.file, request.frame, request.edit, isUnwanted, loaded.samples, loaded.fileSize,
+                           loaded.error))
             return;
-        loaded.fileSize = frame.Size();
-        loaded.samples = request.edit.Applied(frame);
-        if (loaded.samples.IsNull()) {
-            loaded.error = tr("Frame %1 is too small to be cropped like the others. Undo the crop to see it.")
-                               .arg(request.frame + 1);
-            return;
-        }
         loaded.image = m_display.Make(loaded.samples, loaded.range);
         if (request.wantsThumbnail)
             loaded.thumbnail = ThumbnailOf(loaded.image);
         const PictureFile *file = m_access.Open(request.file, loaded.error);
         m_nextFrames.Shown(request.place, { request.file.id, request.frame }, file->Info().frames);
         loaded.info = file->Info();
+        loaded.frames = request.edit.SeenFrames(loaded.info.frames);
         loaded.frameDescription = file->FrameDescription(request.frame);
         if (request.edit.IsNone())
             loaded.axis = file->AxisOf(request.frame);
@@ -207,7 +217,7 @@ void PictureLoader::SaveStep()
     }
     bool goesOn = false;
     QString error;
-    Guarded(task->Request().target, error, [&] { goesOn = task->Step(m_access, m_display); });
+    Guarded(task->Request().target, error, [&] { goesOn = task->Step(m_frames, m_display); });
     if (goesOn)
         return;
     if (error.isEmpty())

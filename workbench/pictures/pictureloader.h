@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "editedframes.h"
 #include "nextframes.h"
 #include "picturedisplay.h"
 #include "picturerequest.h"
@@ -65,6 +66,7 @@ private:
     void SaveStep();
     void ThumbnailNext();
     void ReadAhead();
+    bool IsReplaced(const PictureRequest &request);
     LoadedPicture Loaded(const PictureRequest &request);
     PictureThumbnail Thumbnail(const PictureAccess::FileName &file);
 
@@ -79,6 +81,7 @@ private:
 
     /// The worker's own.
     PictureAccess m_access;
+    EditedFrames m_frames;
     PictureDisplay m_display;
     NextFrames m_nextFrames;
 };

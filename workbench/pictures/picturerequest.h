@@ -16,6 +16,7 @@ struct PictureRequest
     PictureAccess::FileName file;
     int frame = 0;
     PictureEdit edit;
+    bool isPreview = false;      ///< the last step of the edit is only tried
     SampleRange range;           ///< of the frame before, which automatic levels keep
     bool wantsThumbnail = false; ///< another picture than before, for the list
 };
@@ -27,6 +28,7 @@ struct LoadedPicture
     QString error;
     QString news; ///< what happened to the file meanwhile, or what is odd about it; may be empty
     PictureInfo info;
+    int frames = 0; ///< that can be looked at after the edit
     QString frameDescription;
     QSize fileSize;   ///< of the frame in the file
     Picture samples;  ///< as seen, after the edit

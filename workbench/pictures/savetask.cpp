@@ -40,12 +40,12 @@ SaveTask::SaveTask(const SaveRequest &request)
 {
 }
 
-bool SaveTask::Step(PictureAccess &access, PictureDisplay &display)
+bool SaveTask::Step(EditedFrames &frames, PictureDisplay &display)
 {
-    if (!m_writer && !Begin(access))
+    if (!m_writer && !Begin(*frames.Access()))
         return false;
     Picture frame;
-    if (!Frame(access, display, frame) || !m_writer->Append(frame, m_error)) {
+    if (!Frame(frames, display, frame) || !m_writer->Append(frame, m_error)) {
         m_writer.reset();
         return false;
     }
@@ -65,8 +65,8 @@ bool SaveTask::Begin(PictureAccess &access)
         const PictureFile *file = access.Open(m_request.file, m_error);
         if (!file)
             return false;
-        options.dpiX = file->Info().dpiX;
-        options.dpiY = file->Info().dpiY;
+        options.dpiX = file->Info().dpiX / m_request.edit.PixelsJoined();
+        options.dpiY = file->Info().dpiY / m_request.edit.PixelsJoined();
         if (m_request.edit.GetOrientation().SwapsSides())
             std::swap(options.dpiX, options.dpiY);
         options.metadata = file->Info().metadata;
@@ -75,23 +75,17 @@ bool SaveTask::Begin(PictureAccess &access)
     return m_writer != nullptr;
 }
 
-bool SaveTask::Frame(PictureAccess &access, PictureDisplay &display, Picture &frame)
+bool SaveTask::Frame(EditedFrames &frames, PictureDisplay &display, Picture &frame)
 {
     if (!m_request.image.isNull()) {
         frame = FromImage(m_request.image);
         return true;
     }
     const int index = m_request.firstFrame + m_framesDone;
-    if (!access.ReadFrame(m_request.file, index, frame, m_error))
+    QSize fileSize;
+    const IsUnwanted isUnwanted = [] { return false; }; // a save that was begun is brought to an end
+    if (!frames.Read(m_request.file, index, m_request.edit, isUnwanted, frame, fileSize, m_error))
         return false;
-    frame = m_request.edit.Applied(frame);
-    if (frame.IsNull()) {
-        m_error =
-            Translate(
-                "Frame %1 is too small to be cropped like the others; undo the crop or save a single frame.")
-                .arg(index + 1);
-        return false;
-    }
     if (!HoldsSamples(FormatOfName(m_request.target), frame.Type()))
         frame = FromImage(display.Make(frame, m_request.range));
     return true;

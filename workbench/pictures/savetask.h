@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "pictureaccess.h"
-#include "pictureedit.h"
+#include "editedframes.h"
 #include "picturewriter.h"
 #include "samplerange.h"
 
@@ -33,12 +32,12 @@ public:
 
     const SaveRequest &Request() const { return m_request; }
     /// False when the task has ended, for good or, with a text in Error(), for bad.
-    bool Step(PictureAccess &access, PictureDisplay &display);
+    bool Step(EditedFrames &frames, PictureDisplay &display);
     const QString &Error() const { return m_error; }
 
 private:
     bool Begin(PictureAccess &access);
-    bool Frame(PictureAccess &access, PictureDisplay &display, Picture &frame);
+    bool Frame(EditedFrames &frames, PictureDisplay &display, Picture &frame);
 
     SaveRequest m_request;
     std::unique_ptr<PictureWriter> m_writer;

@@ -21,9 +21,10 @@ QString Translate(const char *text) { return QCoreApplication::translate("Proces
 class Step
 {
 public:
-    Step(const Picture &picture, const ReferenceReader &readReference, QString &error)
+    Step(const Picture &picture, const ReferenceReader &readReference, const IsUnwanted &isUnwanted, QString &error)
         : m_picture(picture)
         , m_readReference(readReference)
+        , m_isUnwanted(isUnwanted)
         , m_error(error)
     {
     }
@@ -45,20 +46,33 @@ public:
     Picture operator()(const SharpenSettings &settings) const { return Sharpened(m_picture, settings); }
     Picture operator()(const ThresholdSettings &settings) const { return Thresholded(m_picture, settings); }
     Picture operator()(const MorphologySettings &settings) const { return Morphed(m_picture, settings); }
-    Picture operator()(const BinningSettings &settings) const { return Binned(m_picture, settings, m_error); }
+    Picture operator()(const BinningSettings &settings) const { return BinnedBy(m_picture, settings, m_error); }
     Picture operator()(const BandPassSettings &settings) const { return BandPassed(m_picture, settings); }
     Picture operator()(const ProjectionSettings &) const { return m_picture; } // of one frame
+    Picture operator()(const MergeSettings &settings) const
+    {
+        if (settings.others.isEmpty()) {
+            m_error = Translate("Check the other pictures to merge in the list of opened pictures.");
+            return Picture();
+        }
+        const auto read = [&](int index, Picture &frame, QString &error) {
+            frame = m_picture;
+            return index == 0 || m_readReference(settings.others.at(index - 1), frame, error);
+        };
+        return Projected(settings.projection, settings.others.size() + 1, read, m_isUnwanted, m_error);
+    }
 
 private:
     const Picture &m_picture;
     const ReferenceReader &m_readReference;
+    const IsUnwanted &m_isUnwanted;
     QString &m_error;
 };
 
 } // namespace
 
 Picture Processed(const Picture &picture, const ProcessSettings &settings, const ReferenceReader &readReference,
-                  QString &error)
+                  const IsUnwanted &isUnwanted, QString &error)
 {
     if (picture.Size().isEmpty()) {
         error = Translate("There is no picture that could be processed.");
@@ -69,7 +83,7 @@ Picture Processed(const Picture &picture, const ProcessSettings &settings, const
         return Picture();
     Picture result;
     QString fault;
-    CallOpenCv(fault, [&] { result = std::visit(Step(picture, readReference, error), settings); });
+    CallOpenCv(fault, [&] { result = std::visit(Step(picture, readReference, isUnwanted, error), settings); });
     if (!fault.isEmpty())
         error = Translate("The picture could not be processed: %1.").arg(fault);
     return result;
@@ -81,6 +95,12 @@ QSize ProcessedSize(const QSize &size, const ProcessSettings &settings)
 {
     const auto *binning = std::get_if<BinningSettings>(&settings);
     return binning ? BinnedSize(size, *binning) : size;
+}
+
+int PixelsJoined(const ProcessSettings &settings)
+{
+    const auto *binning = std::get_if<BinningSettings>(&settings);
+    return binning ? BinningSide(*binning) : 1;
 }
 
 qint64 WorkingBytes(const Picture &picture, const ProcessSettings &settings)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <tuple>
 #include <variant>
@@ -110,7 +110,7 @@ struct MorphologySettings
 };
 
 /// Each square of `size` pixels becomes one; what does not fill a square at the right and the bottom is left out.
-/// Result: the type of the picture for the mean; for the sum one that holds it: 8 bit become 16 bit, 16 bit 32 bit, 32
+/// Result: the type of the picture for the mean, halves rounded away from 0; for the sum one that holds it: 8 bit become 16 bit, 16 bit 32 bit, 32
 /// bit integers 64-bit floating point; floating point stays.
 struct BinningSettings
 {
@@ -153,7 +153,19 @@ struct ProjectionSettings
     }
 };
 
+/// The first frames of other files and the picture become one, as the frames of a stack do.
+struct MergeSettings
+{
+    ProjectionSettings projection;
+    QStringList others; ///< files
+
+    bool operator==(const MergeSettings &o) const { return projection == o.projection && others == o.others; }
+};
+
 /// One step; without any, nothing is done.
 using ProcessSettings =
     std::variant<std::monostate, BackgroundSettings, FlatFieldSettings, DenoiseSettings, SharpenSettings,
-                 ThresholdSettings, MorphologySettings, BinningSettings, BandPassSettings, ProjectionSettings>;
+                 ThresholdSettings, MorphologySettings, BinningSettings, BandPassSettings, ProjectionSettings,
+                 MergeSettings>;
+
+inline bool IsNone(const ProcessSettings &settings) { return std::holds_alternative<std::monostate>(settings); }

@@ -1,47 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "samplebinning.h"
 
-#include "limitedsample.h"
+#include "picturegeometry.h"
 
 #include <QCoreApplication>
 
-#include <cmath>
-#include <vector>
+#include <algorithm>
 
 namespace {
 
-int SideOf(const BinningSettings &settings) { return qBound(2, settings.size, BinningSettings::MostSize); }
-
-/// Sum of the numbers of a square, or their mean; no number when there is none.
-struct SquareSum
+/// The same values in a type that holds them all.
+Picture InType(const Picture &picture, SampleType type)
 {
-    double sum = 0;
-    int count = 0;
-
-    void Add(double value)
-    {
-        if (!std::isfinite(value))
-            return;
-        sum += value;
-        ++count;
-    }
-    double Result(bool sums) const
-    {
-        if (count == 0)
-            return std::numeric_limits<double>::quiet_NaN();
-        return sums ? sum : sum / count;
-    }
-};
-
-template <typename From>
-void AddRow(const From *row, int columns, int channels, int side, std::vector<SquareSum> &sums)
-{
-    for (int column = 0; column < columns; ++column) {
-        for (int x = column * side; x < (column + 1) * side; ++x) {
-            for (int channel = 0; channel < channels; ++channel)
-                sums[size_t(column * channels + channel)].Add(double(row[x * channels + channel]));
-        }
-    }
+    Picture result(picture.Width(), picture.Height(), picture.Channels(), type);
+    const qint64 count = qint64(picture.Width()) * picture.Height() * picture.Channels();
+    VisitSampleType(picture.Type(), [&](auto fromType) {
+        const auto *from = reinterpret_cast<const decltype(fromType) *>(picture.Data());
+        VisitSampleType(type, [&](auto toType) {
+            auto *to = reinterpret_cast<decltype(toType) *>(result.Data());
+            std::transform(from, from + count, to, [](auto sample) { return decltype(toType)(sample); });
+        });
+    });
+    return result;
 }
 
 } // namespace
@@ -64,15 +44,17 @@ SampleType SumType(SampleType type)
     }
 }
 
+int BinningSide(const BinningSettings &settings) { return qBound(2, settings.size, BinningSettings::MostSize); }
+
 QSize BinnedSize(const QSize &size, const BinningSettings &settings)
 {
-    const int side = SideOf(settings);
+    const int side = BinningSide(settings);
     return QSize(size.width() / side, size.height() / side); // QSize's own division rounds
 }
 
-Picture Binned(const Picture &picture, const BinningSettings &settings, QString &error)
+Picture BinnedBy(const Picture &picture, const BinningSettings &settings, QString &error)
 {
-    const int side = SideOf(settings);
+    const int side = BinningSide(settings);
     const QSize size = BinnedSize(picture.Size(), settings);
     if (size.isEmpty()) {
         error = QCoreApplication::translate("Binning", "The picture, %1x%2 pixels, is smaller than %3x%3.")
@@ -81,21 +63,7 @@ Picture Binned(const Picture &picture, const BinningSettings &settings, QString 
                     .arg(side);
         return Picture();
     }
-    const int channels = picture.Channels();
-    Picture result(size.width(), size.height(), channels,
-                   settings.sums ? SumType(picture.Type()) : picture.Type());
-    std::vector<SquareSum> sums;
-    for (int y = 0; y < size.height(); ++y) {
-        sums.assign(size_t(size.width() * channels), SquareSum());
-        for (int row = y * side; row < (y + 1) * side; ++row)
-            VisitSampleType(picture.Type(), [&](auto type) {
-                AddRow(picture.Samples<decltype(type)>(row), size.width(), channels, side, sums);
-            });
-        VisitSampleType(result.Type(), [&](auto type) {
-            using Sample = decltype(type);
-            for (size_t i = 0; i < sums.size(); ++i)
-                result.Samples<Sample>(y)[i] = LimitedSample<Sample>(sums[i].Result(settings.sums));
-        });
-    }
-    return result;
+    const bool isWider = settings.sums && SumType(picture.Type()) != picture.Type();
+    return Binned(isWider ? InType(picture, SumType(picture.Type())) : picture, side, side,
+                  settings.sums ? Binning::Sum : Binning::Mean);
 }

@@ -7,7 +7,9 @@
 /// Type that holds the sum of many samples of a type.
 SampleType SumType(SampleType type);
 
+/// The size of the settings, within its limits.
+int BinningSide(const BinningSettings &settings);
 QSize BinnedSize(const QSize &size, const BinningSettings &settings);
-/// What is no number is left out; where there is none in a square, none is in the result. Null, with the reason in
+/// A square with a sample that is no number becomes one that is none. Null, with the reason in
 /// `error`, when the picture is smaller than one square.
-Picture Binned(const Picture &picture, const BinningSettings &settings, QString &error);
+Picture BinnedBy(const Picture &picture, const BinningSettings &settings, QString &error);

@@ -248,7 +248,7 @@ SampleType ProjectedType(SampleType type, const ProjectionSettings &settings)
 }
 
 Picture Projected(const ProjectionSettings &settings, int frames, const FrameReader &read,
-                  const IsUnwanted &isUnwanted, qint64 medianBytes, QString &error)
+                  const IsUnwanted &isUnwanted, QString &error, qint64 medianBytes)
 {
     if (frames < 1) {
         error = QCoreApplication::translate("StackProjection", "There is no picture that could be projected.");

@@ -70,7 +70,7 @@ private slots:
                 }
             }
             QCOMPARE(edit.SeenSize(frame.Size()), expected.Size());
-            QVERIFY2(edit.Applied(frame) == expected, qPrintable(QString::number(sequence)));
+            QVERIFY2(edit.Applied(frame, 0) == expected, qPrintable(QString::number(sequence)));
         }
     }
 
@@ -85,11 +85,62 @@ private slots:
         QCOMPARE(edit.Cropped(QRect(-5, 2, 7, 100), size).SeenSize(size), QSize(2, 4));
     }
 
+    /// A step of processing sees what was seen, and what is done after it is done to what it made.
+    void processingStandsBetweenTurnsAndCrops()
+    {
+        const QSize size(12, 8);
+        BinningSettings half; // to 2 x 2
+        PictureEdit edit = PictureEdit().Turned(RotateBy90).Cropped(QRect(0, 0, 6, 12), size);
+        QCOMPARE(edit.SeenSize(size), QSize(6, 12));
+        edit = edit.Processed(half);
+        QCOMPARE(edit.StepCount(), 1);
+        QCOMPARE(edit.SeenSize(size), QSize(3, 6));
+        edit = edit.Turned(RotateBy90).Cropped(QRect(1, 0, 4, 3), size);
+        QCOMPARE(edit.SeenSize(size), QSize(4, 3));
+        QCOMPARE(edit.GetOrientation().Degrees(), 180);
+        QVERIFY(edit.IsCropped());
+        QCOMPARE(edit.PixelsJoined(), 2);
+
+        const Picture frame = Numbered(12, 8);
+        const Picture turned = Part(Turned(frame, RotateBy90), QRect(0, 0, 6, 12));
+        QVERIFY(edit.Applied(frame, 0) == turned);
+        const Picture binned = Numbered(3, 6); // whatever the step makes of it
+        QVERIFY(edit.Applied(binned, 1) == Part(Turned(binned, RotateBy90), QRect(1, 0, 4, 3)));
+    }
+
+    void everyRowOfTurnsAroundAStepGivesTheSumOfThem()
+    {
+        const int commands = 3;
+        for (int sequence = 0; sequence < commands * commands * commands * commands; ++sequence) {
+            PictureEdit inParts;
+            PictureEdit atOnce;
+            for (int rest = sequence, step = 0; step < 4; rest /= commands, ++step) {
+                if (step == 2)
+                    inParts = inParts.Processed(DenoiseSettings());
+                inParts = inParts.Turned(rest % commands);
+                atOnce = atOnce.Turned(rest % commands);
+            }
+            QCOMPARE(inParts.GetOrientation(), atOnce.GetOrientation());
+        }
+    }
+
+    void aProjectionLeavesOneFrame()
+    {
+        const PictureEdit edit = PictureEdit().Processed(DenoiseSettings());
+        QCOMPARE(edit.SeenFrames(7), 7);
+        QCOMPARE(edit.Processed(ProjectionSettings()).Turned(RotateBy90).SeenFrames(7), 1);
+        QCOMPARE(edit.Processed(ProjectionSettings()).FirstSteps(1), edit);
+        QCOMPARE(edit.Processed(ProcessSettings()), edit);
+        QVERIFY(edit.HasSameSteps(edit.Turned(RotateBy90)));
+        QVERIFY(!edit.HasSameSteps(PictureEdit()));
+        QVERIFY(!edit.IsNone());
+    }
+
     void aFrameTooSmallForTheCropGivesNothing()
     {
         const PictureEdit edit = PictureEdit().Cropped(QRect(10, 5, 4, 4), QSize(20, 20));
-        QVERIFY(edit.Applied(Numbered(10, 20)).IsNull());
-        QCOMPARE(edit.Applied(Numbered(12, 20)).Size(), QSize(2, 4));
+        QVERIFY(edit.Applied(Numbered(10, 20), 0).IsNull());
+        QCOMPARE(edit.Applied(Numbered(12, 20), 0).Size(), QSize(2, 4));
     }
 };
 

@@ -24,7 +24,7 @@ Picture Done(const Picture &picture, const ProcessSettings &settings, QString *e
              const ReferenceReader &read = NoReference)
 {
     QString text;
-    const Picture result = Processed(picture, settings, read, text);
+    const Picture result = Processed(picture, settings, read, [] { return false; }, text);
     if (error)
         *error = text;
     return result;
@@ -424,7 +424,7 @@ private slots:
     void binningGivesMeansAndSums_data() { AddShapes(); }
     void binningGivesMeansAndSums()
     {
-        const Picture picture = RowPicture(30);
+        const Picture picture = RowPicture(3);
         for (const bool sums : { false, true }) {
             BinningSettings settings;
             settings.size = 3;
@@ -443,15 +443,11 @@ private slots:
             QCOMPARE(ProcessedSize(picture.Size(), settings), size);
             const auto expected = [&](int x, int y, int channel) {
                 double sum = 0;
-                int count = 0;
-                for (int i = 0; i < 9; ++i) {
-                    const double value = At(picture, 3 * x + i % 3, 3 * y + i / 3, channel);
-                    sum += std::isfinite(value) ? value : 0;
-                    count += std::isfinite(value) ? 1 : 0;
-                }
-                if (count == 0)
+                for (int i = 0; i < 9; ++i)
+                    sum += At(picture, 3 * x + i % 3, 3 * y + i / 3, channel);
+                if (!std::isfinite(sum))
                     return double(NAN);
-                return sums ? sum : Stored(sum / count, picture.Type());
+                return sums || IsFloat(picture.Type()) ? (sums ? sum : sum / 9) : std::round(sum / 9);
             };
             QCOMPARE(Difference(result, expected, Digits(picture.Type())), QString());
         }
@@ -568,6 +564,35 @@ private slots:
             };
             QCOMPARE(Difference(result, expected, RoundedDigits(picture.Type())), QString());
         }
+    }
+
+    void picturesOfOtherFilesAreMerged()
+    {
+        const QVector<Picture> pictures = { Make(QSize(6, 5), 3, SampleType::U16, 1),
+                                            Make(QSize(6, 5), 3, SampleType::U16, 2),
+                                            Make(QSize(6, 5), 3, SampleType::U16, 3) };
+        const ReferenceReader read = [&](const QString &path, Picture &frame, QString &error) {
+            frame = pictures.at(path == "b.tif" ? 1 : 2);
+            error = path == "gone.tif" ? "gone.tif is gone" : "";
+            return error.isEmpty();
+        };
+        MergeSettings settings;
+        settings.projection.method = ProjectionSettings::Method::Minimum;
+        settings.others = QStringList{ "b.tif", "c.tif" };
+        QString error;
+        const Picture merged = Done(pictures.first(), settings, &error, read);
+        QCOMPARE(error, QString());
+        QCOMPARE(Difference(merged,
+                            [&](int x, int y, int channel) {
+                                return std::min({ At(pictures.at(0), x, y, channel), At(pictures.at(1), x, y, channel),
+                                                  At(pictures.at(2), x, y, channel) });
+                            }),
+                 QString());
+        settings.others << "gone.tif";
+        QVERIFY(Done(pictures.first(), settings, &error, read).IsNull());
+        QCOMPARE(error, QString("gone.tif is gone"));
+        QVERIFY(Done(pictures.first(), MergeSettings(), &error, read).IsNull());
+        QCOMPARE(error, QString("Check the other pictures to merge in the list of opened pictures."));
     }
 
     void nothingIsDoneWithoutASetting()

@@ -12,12 +12,10 @@ using Method = ProjectionSettings::Method;
 
 namespace {
 
-constexpr qint64 Plenty = 1 << 30;
-
 bool Wanted() { return false; }
 
 Picture Project(const QVector<Picture> &frames, const ProjectionSettings &settings, QString &error,
-                qint64 medianBytes = Plenty)
+                qint64 medianBytes = MedianBytes)
 {
     return Projected(
         settings, frames.size(),
@@ -25,7 +23,7 @@ Picture Project(const QVector<Picture> &frames, const ProjectionSettings &settin
             frame = frames.at(index);
             return true;
         },
-        Wanted, medianBytes, error);
+        Wanted, error, medianBytes);
 }
 
 /// The value of a method for the numbers of one place.
@@ -154,7 +152,7 @@ private slots:
             return index != 3;
         };
         for (const Method method : { Method::Mean, Method::Median }) {
-            QVERIFY(Projected({ method, false }, 6, read, Wanted, Plenty, error).IsNull());
+            QVERIFY(Projected({ method, false }, 6, read, Wanted, error).IsNull());
             QCOMPARE(error, QString("frame 4 is damaged"));
         }
     }
@@ -175,7 +173,7 @@ private slots:
             ++reads;
             return true;
         };
-        QVERIFY(Projected(ProjectionSettings(), 100, read, [&] { return reads == 10; }, Plenty, error).IsNull());
+        QVERIFY(Projected(ProjectionSettings(), 100, read, [&] { return reads == 10; }, error).IsNull());
         QCOMPARE(reads, 10);
         QCOMPARE(error, QString());
     }
