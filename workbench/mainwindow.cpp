@@ -8,6 +8,7 @@
 #include "cameramenu.h"
 #include "cameranotice.h"
 #include "camerasession.h"
+#include "countfields.h"
 #include "drawingguard.h"
 #include "filedrop.h"
 #include "filepagecommands.h"
@@ -24,6 +25,7 @@
 #include "picturemenus.h"
 #include "plugindialog.h"
 #include "pluginlist.h"
+#include "processfields.h"
 #include "recordingdesk.h"
 #include "recordingfields.h"
 #include "recordingguard.h"
@@ -89,6 +91,8 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     , m_cameraFields(new CameraFields(services->Link(), services->Cameras(), services->Region(), this))
     , m_cameraFeatures(new CameraFeatureTree(services->Link(), this))
     , m_recordingFields(new RecordingFields(services->Recording()->Settings(), NameExample(services->Link()), this))
+    , m_processFields(new ProcessFields(services->Desk()->MainPicture(), services->Desk()->Shelf(), this))
+    , m_countFields(new CountFields(services->Desk()->MainPicture(), services->Counting(), this))
 {
     setObjectName("MainWindow");
     setWindowTitle(tr("Workbench"));
@@ -110,6 +114,8 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);
     connect(services, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
     connect(m_drawingGuard, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
+    connect(m_processFields, &ProcessFields::signalMessage, this, &MainWindow::slotShowMessage);
+    connect(m_countFields, &CountFields::signalMessage, this, &MainWindow::slotShowMessage);
     m_leaveFullScreen = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     m_leaveFullScreen->setEnabled(false);
     connect(m_leaveFullScreen, SIGNAL(activated()), this, SLOT(slotLeaveFullScreen()));

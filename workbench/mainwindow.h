@@ -7,8 +7,10 @@
 
 class CameraFeatureTree;
 class CameraFields;
+class CountFields;
 class DrawingGuard;
 class PictureMenus;
+class ProcessFields;
 class QDockWidget;
 class QSettings;
 class QShortcut;
@@ -75,6 +77,8 @@ private:
     CameraFields *m_cameraFields;       ///< of the panels, which find them while the module is built
     CameraFeatureTree *m_cameraFeatures; ///< likewise
     RecordingFields *m_recordingFields; ///< likewise
+    ProcessFields *m_processFields;     ///< likewise
+    CountFields *m_countFields;         ///< likewise
     QStackedWidget *m_centre = nullptr;
     QDockWidget *m_leftDock = nullptr;
     QDockWidget *m_rightDock = nullptr;

@@ -75,6 +75,7 @@ public:
     WorkspaceConfig *Config() const { return m_config.get(); }
     Workspace *GetWorkspace() const { return m_workspace.get(); }
     PictureDesk *Desk() const { return m_pictureDesk.get(); }
+    AutoCounting *Counting() const { return m_autoCounting.get(); }
     PictureLoader *Loader() const { return m_pictureLoader.get(); }
     PictureProcessing *Processing() const { return m_pictureProcessing.get(); }
     PictureThumbnails *Thumbnails() const { return m_pictureThumbnails.get(); }

@@ -118,8 +118,20 @@ void FieldForm::slotSourceGone()
         m_fields->setEnabled(false);
 }
 
+/// Of the field that the user is at, who goes on there when the widgets are made anew; empty without one.
+QString FieldForm::FocusedKey() const
+{
+    for (auto widget = m_widgets.cbegin(); widget != m_widgets.cend(); ++widget) {
+        const QWidget *focused = widget.value()->window()->focusWidget();
+        if (focused && (focused == widget.value() || widget.value()->isAncestorOf(focused)))
+            return widget.key();
+    }
+    return QString();
+}
+
 void FieldForm::Build(const PanelFields &fields)
 {
+    const QString focused = FocusedKey();
     if (m_fields) {
         m_fields->hide();
         m_fields->deleteLater(); // one of its widgets may be what asked for this
@@ -133,6 +145,10 @@ void FieldForm::Build(const PanelFields &fields)
     for (const PanelField &field : fields)
         AddField(field);
     m_column->insertWidget(0, m_fields);
+    if (QWidget *widget = m_widgets.value(focused)) {
+        m_fields->show(); // what is not seen takes no focus
+        widget->setFocus();
+    }
 }
 
 void FieldForm::AddField(const PanelField &field)
@@ -157,8 +173,8 @@ void FieldForm::AddField(const PanelField &field)
     const bool hasLabel = field.kind != PanelField::Kind::Check && field.kind != PanelField::Kind::Action
                           && field.kind != PanelField::Kind::Histogram;
     m_form->addRow(hasLabel ? field.text : QString(), row);
-    if (hasLabel)
-        static_cast<QLabel *>(m_form->labelForField(row))->setBuddy(widget);
+    if (auto *label = qobject_cast<QLabel *>(m_form->labelForField(row))) // none for an empty text
+        label->setBuddy(widget);
 }
 
 QWidget *FieldForm::MakeWidget(const PanelField &field)

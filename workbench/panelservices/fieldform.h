@@ -37,6 +37,7 @@ private slots:
     void slotSourceGone();
 
 private:
+    QString FocusedKey() const;
     void Build(const PanelFields &fields);
     void AddField(const PanelField &field);
     QWidget *MakeWidget(const PanelField &field);

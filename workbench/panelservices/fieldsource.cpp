@@ -5,6 +5,7 @@ const char FieldSource::CameraName[] = "camera";
 const char FieldSource::AcquisitionName[] = "acquisition";
 const char FieldSource::CameraAdjustmentName[] = "cameraadjustment";
 const char FieldSource::ImageAdjustmentName[] = "imageadjustment";
+const char FieldSource::ProcessName[] = "process";
 const char FieldSource::CountName[] = "count";
 const char FieldSource::HistogramName[] = "histogram";
 const char FieldSource::AnalysisName[] = "analysis";

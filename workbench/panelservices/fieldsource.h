@@ -20,6 +20,7 @@ public:
     static const char AcquisitionName[];
     static const char CameraAdjustmentName[];
     static const char ImageAdjustmentName[];
+    static const char ProcessName[];
     static const char CountName[];
     static const char HistogramName[];
     static const char AnalysisName[];

@@ -38,13 +38,14 @@ void OpenedPicture::Show(PictureDocument *document) { Request(document, document
 void OpenedPicture::Request(PictureDocument *document, int frame)
 {
     if (document != m_document)
-        EndPreview();
+        EndTrials();
     PictureRequest request;
     request.place = m_place;
     request.file = document->File();
     request.frame = frame;
     request.isPreview = !IsNone(m_preview);
     request.edit = document->Edit().Processed(m_preview);
+    request.count = m_count;
     request.range = request.isPreview ? SampleRange() : document->Range();
     request.wantsThumbnail =
         !request.isPreview
@@ -115,6 +116,8 @@ void OpenedPicture::Take(const LoadedPicture &picture)
         FinishApply();
     else
         Settle(isOther);
+    if (picture.request.count && m_count)
+        emit signalCounted();
 }
 
 /// The picture is there without anything that is only tried.
@@ -283,7 +286,7 @@ void OpenedPicture::Forget()
 {
     if (m_document)
         disconnect(m_document, nullptr, this, nullptr);
-    EndPreview();
+    EndTrials();
     m_document.clear();
     m_wanted.clear();
     m_frameCount = 0;
@@ -347,13 +350,26 @@ void OpenedPicture::FailPreview(const QString &error)
     emit signalPreviewed(error);
 }
 
-void OpenedPicture::EndPreview()
+/// Another picture is wanted.
+void OpenedPicture::EndTrials()
 {
-    if (IsNone(m_preview))
+    if (!IsNone(m_preview)) {
+        m_preview = ProcessSettings();
+        m_applyText.clear();
+        emit signalPreviewEnded();
+    }
+    if (m_count) {
+        m_count.reset();
+        emit signalProcessingEnded();
+    }
+}
+
+void OpenedPicture::Count(const std::optional<CountSettings> &settings)
+{
+    if (!m_document || m_wanted != m_document || settings == m_count)
         return;
-    m_preview = ProcessSettings();
-    m_applyText.clear();
-    emit signalPreviewEnded();
+    m_count = settings;
+    Request(m_document, m_wantedFrame);
 }
 
 // What is shown

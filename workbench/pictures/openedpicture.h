@@ -50,6 +50,8 @@ public:
     void Preview(const ProcessSettings &settings);
     /// Makes what is tried a step that can be undone, `text`, as soon as it is shown.
     void ApplyPreview(const QString &text);
+    /// Counts and marks the objects of what is shown, until it is told otherwise or another picture is shown.
+    void Count(const std::optional<CountSettings> &settings);
     /// How many frames can be browsed.
     int FrameCount() const { return m_frameCount; }
 
@@ -115,7 +117,9 @@ signals:
     void signalPreviewEnded();
     /// What is tried is to be applied.
     void signalApplyWanted();
-    /// The processing is left.
+    /// The objects of what is shown were counted.
+    void signalCounted();
+    /// The counting is left.
     void signalProcessingEnded();
     /// A sentence for the status bar.
     void signalMessage(QString text);
@@ -139,7 +143,7 @@ private:
     void Settle(bool isOther);
     void FailPreview(const QString &error);
     void FinishApply();
-    void EndPreview();
+    void EndTrials();
     void Forget();
 
     PictureLoader *m_loader;
@@ -156,6 +160,7 @@ private:
     LoadedPicture m_shown;
     ProcessSettings m_preview; ///< of m_document
     QString m_applyText;       ///< of the step that the preview becomes when it is shown; empty: it does not
+    std::optional<CountSettings> m_count; ///< of m_document
     SampleType m_settledType = SampleType::U8; ///< without what is only tried
     int m_frameCount = 0;                      ///< likewise
     QPointF m_mousePos; ///< picture pixels

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictureloader.h"
 
+#include "countmarks.h"
+
 #include <QCoreApplication>
 #include <QFileInfo>
 
@@ -179,7 +181,8 @@ bool PictureLoader::IsReplaced(const PictureRequest &request)
     const std::lock_guard<std::mutex> lock(m_mutex);
     const auto newer = m_requests.constFind(request.place);
     const bool isOther = newer != m_requests.constEnd()
-                         && (newer->file.id != request.file.id || newer->edit != request.edit);
+                         && (newer->file.id != request.file.id || newer->edit != request.edit
+                             || newer->count != request.count);
     return m_ends || isOther;
 }
 
@@ -196,6 +199,8 @@ LoadedPicture PictureLoader::Loaded(const PictureRequest &request)
         loaded.image = m_display.Make(loaded.samples, loaded.range);
         if (request.wantsThumbnail)
             loaded.thumbnail = ThumbnailOf(loaded.image);
+        if (request.count)
+            Count(loaded);
         const PictureFile *file = m_access.Open(request.file, loaded.error);
         m_nextFrames.Shown(request.place, { request.file.id, request.frame }, file->Info().frames);
         loaded.info = file->Info();
@@ -206,6 +211,19 @@ LoadedPicture PictureLoader::Loaded(const PictureRequest &request)
     });
     loaded.news = m_access.TakeNews(request.file);
     return loaded;
+}
+
+/// Counts and marks the objects of the picture.
+void PictureLoader::Count(LoadedPicture &loaded)
+{
+    const ObjectCount count = CountObjects(loaded.samples, *loaded.request.count, loaded.countError);
+    if (!loaded.countError.isEmpty())
+        return;
+    loaded.countLevel = count.level;
+    loaded.objects = count.objects;
+    loaded.image = WithOutlines(loaded.image, count.labels);
+    if (loaded.image.isNull())
+        throw std::bad_alloc();
 }
 
 void PictureLoader::SaveStep()

@@ -68,6 +68,7 @@ private:
     void ReadAhead();
     bool IsReplaced(const PictureRequest &request);
     LoadedPicture Loaded(const PictureRequest &request);
+    static void Count(LoadedPicture &loaded);
     PictureThumbnail Thumbnail(const PictureAccess::FileName &file);
 
     std::mutex m_mutex; ///< guards the queues, which come next

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "countsettings.h"
+#include "objectcount.h"
 #include "pictureaccess.h"
 #include "pictureedit.h"
 #include "samplerange.h"
 
 #include <QImage>
 #include <QMetaType>
+
+#include <optional>
 
 /// A frame of a file, wanted for the screen.
 struct PictureRequest
@@ -17,6 +21,7 @@ struct PictureRequest
     int frame = 0;
     PictureEdit edit;
     bool isPreview = false;      ///< the last step of the edit is only tried
+    std::optional<CountSettings> count; ///< its objects are to be counted and marked
     SampleRange range;           ///< of the frame before, which automatic levels keep
     bool wantsThumbnail = false; ///< another picture than before, for the list
 };
@@ -32,7 +37,10 @@ struct LoadedPicture
     QString frameDescription;
     QSize fileSize;   ///< of the frame in the file
     Picture samples;  ///< as seen, after the edit
-    QImage image;     ///< the same, for the screen
+    QImage image;     ///< the same, for the screen, with the marks of its objects
+    double countLevel = 0; ///< that separates the objects from the rest
+    QVector<CountedObject> objects;
+    QString countError; ///< why the objects were not counted
     QImage thumbnail; ///< null unless it was wanted
     SampleRange range;
     SpectralAxis axis; ///< of the columns as seen; empty without one, or when an edit has moved them

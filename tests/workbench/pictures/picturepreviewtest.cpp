@@ -217,6 +217,36 @@ private slots:
         QCOMPARE(SampleAt(MadePictures::Read(bench.Path("one.tif")), 3, 2), MadePictures::Value(3, 2, 2) - 500);
     }
 
+    void objectsAreCountedAndMarked()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("a.tif", QSize(20, 12)));
+        QSignalSpy counted(&bench.main, &OpenedPicture::signalCounted);
+        CountSettings settings;
+        settings.isAutomatic = false;
+        settings.level = MadePictures::Value(0, 6, 0); // the lower half
+        bench.main.Count(settings);
+        QTRY_COMPARE(counted.size(), 1);
+        QCOMPARE(bench.main.Shown().objects.size(), 1);
+        QCOMPARE(bench.main.Shown().objects.first().area, 120);
+        QCOMPARE(bench.main.Shown().objects.first().centroid, QPointF(10, 9));
+        const QImage &image = bench.main.Shown().image;
+        QCOMPARE(image.pixelColor(3, 6), QColor(255, 60, 60)); // its first row
+        QVERIFY(image.pixelColor(3, 5) != QColor(255, 60, 60));
+        QVERIFY(image.pixelColor(3, 8) != QColor(255, 60, 60)); // inside
+        QSignalSpy ended(&bench.main, &OpenedPicture::signalProcessingEnded);
+        bench.main.SetProcessType(0);
+        QCOMPARE(ended.size(), 1);
+        bench.main.Count(std::nullopt);
+        QTRY_VERIFY(bench.main.Shown().image.pixelColor(3, 6) != QColor(255, 60, 60));
+        QCOMPARE(counted.size(), 1);
+        bench.main.Count(settings);
+        QTRY_COMPARE(counted.size(), 2);
+        QVERIFY(bench.Open("b.tif", QSize(6, 4)));
+        QCOMPARE(ended.size(), 2);
+        QVERIFY(bench.main.Shown().objects.isEmpty());
+    }
+
     /// A reference that is gone when its step is needed again: said, and nothing is shown wrong.
     void aReferenceThatIsGoneIsSaid()
     {
