@@ -5,7 +5,7 @@ QVector<BenchmarkGroup> BenchmarkGroups()
 {
     return {{"cpuframe", BenchmarkCpuFrame}, {"gpuframe", BenchmarkGpuFrame}, {"zoom", BenchmarkZoom},
             {"levels", BenchmarkLevels},     {"stack", BenchmarkStack},       {"items", BenchmarkItems},
-            {"spectrum", BenchmarkSpectrumFrame},
-            {"record", BenchmarkRecord}, {"thumbnails", BenchmarkThumbnails},
+            {"profiles", BenchmarkProfiles}, {"spectrum", BenchmarkSpectrumFrame},
+            {"record", BenchmarkRecord},     {"thumbnails", BenchmarkThumbnails},
             {"start", BenchmarkStart}};
 }

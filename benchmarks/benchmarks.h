@@ -25,6 +25,8 @@ QVector<BenchmarkResult> BenchmarkLevels();
 QVector<BenchmarkResult> BenchmarkStack();
 /// The lines of an intensity curve and the ticks of a ruler, each in its own time.
 QVector<BenchmarkResult> BenchmarkItems();
+/// The row and the column profile of a frame, of single lines and of the widest bands, against reading its samples once.
+QVector<BenchmarkResult> BenchmarkProfiles();
 /// One live frame on the spectrum page, with all its aids, against the same picture alone.
 QVector<BenchmarkResult> BenchmarkSpectrumFrame();
 /// A recording: to disk against plain writing, while shown against not shown, and what fast and long runs lose.

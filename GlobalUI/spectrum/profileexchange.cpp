@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "profileexchange.h"
 
+#include "payloadlocker.h"
 #include "spectrumcurvepayload.h"
-
-#include <QMutex>
-#include <QMutexLocker>
 
 #include <utility>
 
@@ -36,7 +34,7 @@ bool ExchangeProfiles(SpectrumCurvePayload *payload, const QSize &frameSize, Exc
 {
     if (!payload || !payload->lock)
         return false;
-    const QMutexLocker locker(payload->lock);
+    const PayloadLocker locker(payload->lock);
     if (!FitsFrame(*payload, frameSize))
         return false;
     // The fill buffers become those that are shown.

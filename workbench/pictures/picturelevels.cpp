@@ -8,12 +8,16 @@
 namespace {
 
 constexpr double EnoughSteps = 1000;
+/// Leaves room for samples beyond the levels.
+constexpr double MostLevel = 1e8;
 constexpr double MostFactor = 1e9;
 
 double FactorFor(SampleType type, const SampleRange &range)
 {
+    const double largest = std::max(std::abs(range.left), std::abs(range.right));
     double factor = 1;
-    while (IsFloat(type) && (range.right - range.left) * factor < EnoughSteps && factor < MostFactor)
+    while (IsFloat(type) && (range.right - range.left) * factor < EnoughSteps && largest * factor < MostLevel
+           && factor < MostFactor)
         factor *= 10;
     return factor;
 }

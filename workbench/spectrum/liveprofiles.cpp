@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "liveprofiles.h"
 
-#include <QMutexLocker>
+#include "payloadlocker.h"
+
 #include <QSettings>
 
 #include <algorithm>
@@ -103,7 +104,7 @@ void LiveProfiles::Hand(const AnalysedFrame &frame, const QRectF &region)
     const bool isColumnReversed = corner.y() != 0;
     const bool swaps = frame.orientation.SwapsSides();
 
-    const QMutexLocker locker(&m_lock);
+    const PayloadLocker locker(&m_lock);
     CopyProfile(m_profiles.Row(), isRowReversed, swaps ? m_payload.verticalFill : m_payload.horizontalFill);
     CopyProfile(m_profiles.Column(), isColumnReversed, swaps ? m_payload.horizontalFill : m_payload.verticalFill);
     m_payload.horizontalSize = seenSize.width();

@@ -6,6 +6,8 @@
 
 #include <QUndoStack>
 
+#include <cmath>
+
 namespace {
 
 /// The mouse and the picture of a view.
@@ -78,6 +80,47 @@ private slots:
         QVERIFY(!bench.main.IsNonImage());
         QVERIFY(!bench.main.IsSenImage());
         QCOMPARE(bench.shown.last().first().value<QImage>().size(), QSize(6, 4));
+    }
+
+    void curvesGoThroughThePickedPoint()
+    {
+        PictureBench bench;
+        QVector<std::vector<int>> rows;
+        QVector<std::vector<int>> columns;
+        connect(&bench.main, &ImageManager::sglUpdateHorizontalCurve, &bench.main,
+                [&](int *data, int size, int offset, int count) {
+                    QVERIFY(size == 6 && offset + count <= size);
+                    rows << std::vector<int>(data + offset, data + offset + count);
+                });
+        connect(&bench.main, &ImageManager::sglUpdateVerticalCurve, &bench.main,
+                [&](int *data, int size, int offset, int count) {
+                    QVERIFY(size == 4 && offset + count <= size);
+                    columns << std::vector<int>(data + offset, data + offset + count);
+                });
+        bench.main.GetIntensityCurveHistogramData(QPointF(1, 1), QRectF(0, 0, 1, 1), 0);
+        QVERIFY(rows.isEmpty()); // nothing is open
+        bench.main.slotSetCurveLines(1);
+
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 2));
+        rows.clear();
+        bench.main.GetIntensityCurveHistogramData(QPointF(2.5, 1.5), QRectF(0, 0, 1, 1), 0);
+        QCOMPARE(rows.last(), std::vector<int>({20, 21, 22, 23, 24, 25}));
+        QCOMPARE(columns.last(), std::vector<int>({2, 22, 42, 62}));
+        bench.main.GetIntensityCurveHistogramData(QPointF(2.5, 1.5), QRectF(0.5, 0.25, 1, 0.75), 0);
+        QCOMPARE(rows.last(), std::vector<int>({23, 24, 25}));
+        QCOMPARE(columns.last(), std::vector<int>({22, 42}));
+
+        bench.main.SetImage(1); // another frame, the same point
+        QTRY_COMPARE(rows.last(), std::vector<int>({1023, 1024, 1025}));
+        bench.main.slotSetCurveLines(3); // rows 0 to 2
+        QCOMPARE(rows.last(), std::vector<int>({1023, 1024, 1025}));
+
+        const int count = rows.size();
+        bench.main.GetIntensityCurveHistogramData(QPointF(std::nan(""), 0), QRectF(0, 0, 1, 1), 0);
+        QCOMPARE(rows.last(), std::vector<int>({1023, 1024, 1025})); // still the point before
+        bench.main.CloseImage();
+        bench.main.slotSetCurveLines(1);
+        QCOMPARE(rows.size(), count + 1);
     }
 
     void thePixelUnderTheMouseIsRead()

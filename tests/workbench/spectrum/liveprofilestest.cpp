@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "liveprofiles.h"
 #include "guardedtest.h"
+#include "payloadlocker.h"
 
-#include <QMutexLocker>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -40,7 +40,7 @@ struct Shown
 {
     explicit Shown(SpectrumCurvePayload *payload)
     {
-        const QMutexLocker locker(payload->lock);
+        const PayloadLocker locker(payload->lock);
         std::swap(payload->horizontalFill, payload->horizontalShow);
         std::swap(payload->verticalFill, payload->verticalShow);
         row.assign(payload->horizontalShow, payload->horizontalShow + payload->horizontalSize);
@@ -307,7 +307,7 @@ void LiveProfilesTest::exchangeAtFullSpeed()
         const int *row = nullptr;
         int size = 0;
         {
-            const QMutexLocker locker(payload->lock);
+            const PayloadLocker locker(payload->lock);
             std::swap(payload->horizontalFill, payload->horizontalShow);
             std::swap(payload->verticalFill, payload->verticalShow);
             row = payload->horizontalShow;

@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "picturecurves.h"
+#include "guardedtest.h"
+#include "picture.h"
+#include "picturelevels.h"
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr double NotANumber = std::numeric_limits<double>::quiet_NaN();
+const QRectF Whole(0, 0, 1, 1);
+
+/// Sample (x, y) is scale * (100 y + x).
+Picture Slope(SampleType type, double scale = 1, int channels = 1)
+{
+    Picture picture(20, 10, channels, type);
+    VisitSampleType(type, [&](auto sample) {
+        using Sample = decltype(sample);
+        for (int y = 0; y < 10; ++y) {
+            for (int i = 0; i < 20 * channels; ++i)
+                picture.Samples<Sample>(y)[i] = Sample(scale * (100 * y + i / channels));
+        }
+    });
+    return picture;
+}
+
+std::vector<int> Line(int count, int first, int step)
+{
+    std::vector<int> line;
+    for (int i = 0; i < count; ++i)
+        line.push_back(first + i * step);
+    return line;
+}
+
+} // namespace
+
+class PictureCurvesTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void goThroughThePixelOfAnyType_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<int>("channels");
+        for (const int channels : {1, 3}) {
+            for (const SampleType type : {SampleType::U16, SampleType::S16, SampleType::U32, SampleType::S32, SampleType::F32,
+                                          SampleType::F64})
+                QTest::newRow(qPrintable(QString("%1 x %2").arg(SampleTypeName(type)).arg(channels))) << int(type) << channels;
+        }
+    }
+
+    void goThroughThePixelOfAnyType()
+    {
+        QFETCH(int, type);
+        QFETCH(int, channels);
+        PictureCurves curves;
+        curves.Pick(QPointF(7.9, 3.0), Whole);
+        QVERIFY(curves.Make(Slope(SampleType(type), 1, channels), 1));
+        QCOMPARE(curves.Row().samples, Line(20, 300, 1));
+        QCOMPARE(curves.Column().samples, Line(10, 7, 100));
+        curves.SetLines(5);
+        QVERIFY(curves.Make(Slope(SampleType(type), 1, channels), 1));
+        QCOMPARE(curves.Row().samples, Line(20, 300, 1));
+        QCOMPARE(curves.Column().samples, Line(10, 7, 100));
+    }
+
+    void smallFractionsAreTold()
+    {
+        PictureLevels levels;
+        levels.Set(SampleType::F32, {0, 0.5});
+        QCOMPARE(levels.Factor(), 10000.0);
+        QCOMPARE(levels.GetRightLevel(), 5000);
+        QCOMPARE(levels.RightValue(), 1); // of the ruler, rounded
+        PictureCurves curves;
+        curves.Pick(QPointF(0, 2), Whole);
+        QVERIFY(curves.Make(Slope(SampleType::F32, 0.0005), levels.Factor()));
+        QCOMPARE(curves.Row().samples, Line(20, 1000, 5));
+
+        levels.Set(SampleType::F32, {0, 60000});
+        QCOMPARE(levels.Factor(), 1.0);
+        levels.Set(SampleType::S16, {0, 5});
+        QCOMPARE(levels.Factor(), 1.0);
+        levels.Set(SampleType::F64, {3, 3}); // no difference is enlarged for ever
+        QCOMPARE(levels.Factor(), 1e8);
+        QCOMPARE(levels.GetLeftLevel(), 300000000);
+    }
+
+    void whatIsNoNumberIsNothing()
+    {
+        Picture picture = Slope(SampleType::F64);
+        picture.Samples<double>(3)[4] = NotANumber;
+        picture.Samples<double>(3)[5] = std::numeric_limits<double>::infinity();
+        picture.Samples<double>(3)[6] = -1e300;
+        PictureCurves curves;
+        curves.Pick(QPointF(0, 3), Whole);
+        QVERIFY(curves.Make(picture, 1));
+        QCOMPARE(curves.Row().samples[3], 303);
+        QCOMPARE(curves.Row().samples[4], 0);
+        QCOMPARE(curves.Row().samples[5], std::numeric_limits<int>::max());
+        QCOMPARE(curves.Row().samples[6], std::numeric_limits<int>::min());
+    }
+
+    void visiblePart_data()
+    {
+        QTest::addColumn<QRectF>("region");
+        QTest::addColumn<int>("offset");
+        QTest::addColumn<int>("count");
+        QTest::newRow("all") << Whole << 0 << 20;
+        QTest::newRow("half") << QRectF(0.25, 0, 0.75, 1) << 5 << 10;
+        QTest::newRow("beyond") << QRectF(-0.5, 0, 1.5, 1) << 0 << 20;
+        QTest::newRow("no number") << QRectF(NotANumber, 0, 1, 1) << 0 << 20;
+        QTest::newRow("turned round") << QRectF(0.75, 0, 0.25, 1) << 0 << 20;
+        QTest::newRow("right of the picture") << QRectF(1.5, 0, 2, 1) << 0 << 20;
+        QTest::newRow("less than a pixel") << QRectF(0.51, 0, 0.52, 1) << 10 << 0;
+    }
+
+    void visiblePart()
+    {
+        QFETCH(QRectF, region);
+        PictureCurves curves;
+        curves.Pick(QPointF(1, 1), region);
+        QVERIFY(curves.Make(Slope(SampleType::U16), 1));
+        QTEST(curves.Row().offset, "offset");
+        QTEST(curves.Row().count, "count");
+        QCOMPARE(int(curves.Row().samples.size()), 20);
+    }
+
+    void pointsOutsideAreAtTheEdge()
+    {
+        PictureCurves curves;
+        curves.Pick(QPointF(-5, 1e300), Whole);
+        QVERIFY(curves.Make(Slope(SampleType::U16), 1));
+        QCOMPARE(curves.Row().samples, Line(20, 900, 1));
+        QCOMPARE(curves.Column().samples, Line(10, 0, 100));
+    }
+
+    void nothingPickedNothingMade()
+    {
+        PictureCurves curves;
+        QVERIFY(!curves.Make(Slope(SampleType::U16), 1));
+        curves.Pick(QPointF(NotANumber, 1), Whole);
+        QVERIFY(!curves.IsPicked());
+        curves.Pick(QPointF(1, 1), Whole);
+        QVERIFY(!curves.Make(Picture(), 1));
+        QVERIFY(curves.Make(Slope(SampleType::U8), 1));
+        curves.Forget();
+        QVERIFY(!curves.Make(Slope(SampleType::U16), 1));
+    }
+};
+
+GUARDED_TEST_MAIN(PictureCurvesTest)
+#include "picturecurvestest.moc"
