@@ -16,25 +16,25 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("FileMoves", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FileMoves)
+};
 
 QString ReasonText(int reason)
 {
     switch (reason) {
     case EEXIST:
-        return Translate("there is a file of that name already. Choose another name");
+        return Text::tr("there is a file of that name already. Choose another name");
     case ENOENT:
-        return Translate("it is not there any more");
+        return Text::tr("it is not there any more");
     case EACCES:
     case EPERM:
-        return Translate("you have no right to change this folder. Ask its owner for it");
+        return Text::tr("you have no right to change this folder. Ask its owner for it");
     case EROFS:
-        return Translate("its disk is write-protected");
+        return Text::tr("its disk is write-protected");
     case ENAMETOOLONG:
-        return Translate("the name is too long. Choose a shorter one");
+        return Text::tr("the name is too long. Choose a shorter one");
     default:
         return qt_error_string(reason);
     }
@@ -73,11 +73,11 @@ QString TrashNote(const QString &trashedPath)
 QString FileMoves::NameFault(const QString &name)
 {
     if (name.trimmed().isEmpty())
-        return Translate("A file needs a name. Type one.");
+        return Text::tr("A file needs a name. Type one.");
     if (name == "." || name == "..")
-        return Translate("\u201c%1\u201d is the name of a folder. Choose another name.").arg(name);
+        return Text::tr("\u201c%1\u201d is the name of a folder. Choose another name.").arg(name);
     if (name.contains('/'))
-        return Translate("A name cannot contain a slash. Choose another name.");
+        return Text::tr("A name cannot contain a slash. Choose another name.");
     return QString();
 }
 
@@ -85,7 +85,7 @@ bool FileMoves::Rename(const FileMove &move, QString &fault)
 {
     const int reason = MoveFile(move);
     if (reason != 0)
-        fault = Translate("\u201c%1\u201d was not renamed to \u201c%2\u201d: %3.")
+        fault = Text::tr("\u201c%1\u201d was not renamed to \u201c%2\u201d: %3.")
                     .arg(NameOf(move.from), NameOf(move.to), ReasonText(reason));
     return reason == 0;
 }
@@ -93,14 +93,14 @@ bool FileMoves::Rename(const FileMove &move, QString &fault)
 bool FileMoves::Trash(FileMove &move, QString &fault)
 {
     if (!QFileInfo(move.from).isSymLink() && !QFileInfo::exists(move.from)) {
-        fault = Translate("\u201c%1\u201d was not moved to the trash: %2.").arg(NameOf(move.from), ReasonText(ENOENT));
+        fault = Text::tr("\u201c%1\u201d was not moved to the trash: %2.").arg(NameOf(move.from), ReasonText(ENOENT));
         return false;
     }
     // The trash of a new user has no folder to lie in yet.
     QDir().mkpath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     if (QFile::moveToTrash(move.from, &move.to))
         return true;
-    fault = Translate("\u201c%1\u201d was not moved to the trash: the disk has none, or you have no right to change "
+    fault = Text::tr("\u201c%1\u201d was not moved to the trash: the disk has none, or you have no right to change "
                       "this folder. Copy it elsewhere, or delete it with a file manager.").arg(NameOf(move.from));
     return false;
 }
@@ -109,7 +109,7 @@ bool FileMoves::Restore(const FileMove &move, QString &fault)
 {
     const int reason = MoveFile({move.to, move.from});
     if (reason != 0) {
-        fault = Translate("\u201c%1\u201d was not taken out of the trash: %2.").arg(NameOf(move.from), ReasonText(reason));
+        fault = Text::tr("\u201c%1\u201d was not taken out of the trash: %2.").arg(NameOf(move.from), ReasonText(reason));
         return false;
     }
     QFile::remove(TrashNote(move.to));

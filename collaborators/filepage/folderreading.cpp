@@ -19,30 +19,30 @@ namespace {
 /// Entries between two looks whether the result is still wanted.
 constexpr int EntriesPerLook = 512;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("FolderReading", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FolderReading)
+};
 
 QString FaultText(const QString &folder, int reason)
 {
     const QString name = FileNameText(QDir::toNativeSeparators(folder));
     switch (reason) {
     case ENOENT:
-        return Translate("The folder \u201c%1\u201d is not there. It may have been moved, renamed or deleted, or its disk "
+        return Text::tr("The folder \u201c%1\u201d is not there. It may have been moved, renamed or deleted, or its disk "
                          "is not connected. Choose another folder.").arg(name);
     case EACCES:
     case EPERM:
-        return Translate("You have no right to look into the folder \u201c%1\u201d. Ask its owner for it, or choose "
+        return Text::tr("You have no right to look into the folder \u201c%1\u201d. Ask its owner for it, or choose "
                          "another folder.").arg(name);
     case ENOTDIR:
-        return Translate("\u201c%1\u201d is a file, not a folder. Choose the folder that it lies in.").arg(name);
+        return Text::tr("\u201c%1\u201d is a file, not a folder. Choose the folder that it lies in.").arg(name);
     case ENAMETOOLONG:
     case ELOOP:
-        return Translate("The folder \u201c%1\u201d cannot be reached: its name is too long, or its links lead in a "
+        return Text::tr("The folder \u201c%1\u201d cannot be reached: its name is too long, or its links lead in a "
                          "circle. Choose another folder.").arg(name);
     default:
-        return Translate("The folder \u201c%1\u201d cannot be read: %2. Look whether its disk or network is connected.")
+        return Text::tr("The folder \u201c%1\u201d cannot be read: %2. Look whether its disk or network is connected.")
             .arg(name, qt_error_string(reason));
     }
 }

@@ -6,10 +6,10 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("FileFault", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FileFault)
+};
 
 /// Libraries quote what stands in a damaged file.
 QString Printable(QString text)
@@ -43,30 +43,30 @@ bool FileFault::Set(const QString &newWhat, const QString &newAdvice, const QStr
 
 QString ReadFaultText(const QString &path, const FileFault &fault)
 {
-    return FaultText(Translate("\u201c%1\u201d cannot be read: %2"), path, fault);
+    return FaultText(Text::tr("\u201c%1\u201d cannot be read: %2"), path, fault);
 }
 
 QString WriteFaultText(const QString &path, const FileFault &fault)
 {
-    return FaultText(Translate("\u201c%1\u201d was not saved: %2"), path, fault);
+    return FaultText(Text::tr("\u201c%1\u201d was not saved: %2"), path, fault);
 }
 
 QString DamagedAdvice()
 {
-    return Translate("The file is damaged or was cut short: copy it again from where it came from.");
+    return Text::tr("The file is damaged or was cut short: copy it again from where it came from.");
 }
 
 QString UnsupportedAdvice()
 {
-    return Translate("Save it from the program that made it as an ordinary TIFF, FITS or PNG file.");
+    return Text::tr("Save it from the program that made it as an ordinary TIFF, FITS or PNG file.");
 }
 
 QString DiskAdvice()
 {
-    return Translate("Check the free space and your rights in that folder, or choose another one; the old file is unchanged.");
+    return Text::tr("Check the free space and your rights in that folder, or choose another one; the old file is unchanged.");
 }
 
 QString MemoryAdvice()
 {
-    return Translate("Close other pictures or programs and try again.");
+    return Text::tr("Close other pictures or programs and try again.");
 }

@@ -15,10 +15,10 @@ constexpr int keyBytes = 8;
 /// Far more than any header has; a file that never ends its header is not read whole.
 constexpr int mostCards = 100000;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("FitsHeader", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FitsHeader)
+};
 
 /// A quoted text at the start: 'It''s ' / why -> It's; trailing blanks mean nothing. Null without one.
 QString QuotedText(const QString &field, QString &rest)
@@ -86,7 +86,7 @@ bool FitsHeader::Read(QFile &file, qint64 offset, FileFault &fault)
         if (block.size() < blockBytes)
             break;
     }
-    return fault.Set(Translate("the header that begins at byte %1 has no end").arg(offset), DamagedAdvice());
+    return fault.Set(Text::tr("the header that begins at byte %1 has no end").arg(offset), DamagedAdvice());
 }
 
 void FitsHeader::Append(const QByteArray &card)

@@ -11,10 +11,10 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("FitsLayout", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FitsLayout)
+};
 
 bool IsCompressed(const FitsHeader &header)
 {
@@ -57,7 +57,7 @@ bool SetSampleType(const FitsHeader &header, FitsLayout &layout, FileFault &faul
     const double bits = header.Number(PictureKey(header, "BITPIX"), 0);
     static const QVector<double> knownBits{8, 16, 32, 64, -32, -64};
     if (!knownBits.contains(bits))
-        return fault.Set(Translate("its samples of %1 bits make no sense").arg(bits), DamagedAdvice());
+        return fault.Set(Text::tr("its samples of %1 bits make no sense").arg(bits), DamagedAdvice());
     layout.storedBits = int(bits);
     layout.zero = header.Number("BZERO", 0);
     layout.scale = header.Number("BSCALE", 1);
@@ -80,7 +80,7 @@ bool SetSize(const QVector<double> &sizes, FitsLayout &layout, FileFault &fault)
         frames *= sizes[axis];
     constexpr double largestSide = 1 << 28; // keeps products of two in 64 bits
     if (width < 1 || height < 1 || frames < 1 || width > largestSide || height > largestSide || frames > INT_MAX) {
-        return fault.Set(Translate("its size, %1 x %2 pixels in %3 frames, makes no sense").arg(width).arg(height).arg(frames),
+        return fault.Set(Text::tr("its size, %1 x %2 pixels in %3 frames, makes no sense").arg(width).arg(height).arg(frames),
                          DamagedAdvice());
     }
     layout.width = int(width);
@@ -95,7 +95,7 @@ bool CheckCompressed(double dataBytes, const FitsLayout &layout, FileFault &faul
     constexpr double largestRatio = 1032;
     if (double(layout.FrameSamples()) * layout.frames * layout.StoredBytes() <= dataBytes * largestRatio)
         return true;
-    return fault.Set(Translate("its size, %1 x %2 pixels in %3 frames, is more than its %4 compressed bytes can hold")
+    return fault.Set(Text::tr("its size, %1 x %2 pixels in %3 frames, is more than its %4 compressed bytes can hold")
                          .arg(layout.width).arg(layout.height).arg(layout.frames).arg(dataBytes, 0, 'f', 0),
                      DamagedAdvice());
 }
@@ -105,7 +105,7 @@ bool CheckPlain(double dataBytes, FitsLayout &layout, FileFault &fault)
     const double frameBytes = double(layout.FrameSamples()) * layout.StoredBytes();
     const double whole = std::floor(dataBytes / frameBytes);
     if (whole < 1) {
-        return fault.Set(Translate("a frame of %1 x %2 pixels takes %3 bytes, but the file has only %4 after its header")
+        return fault.Set(Text::tr("a frame of %1 x %2 pixels takes %3 bytes, but the file has only %4 after its header")
                              .arg(layout.width).arg(layout.height).arg(frameBytes, 0, 'f', 0).arg(dataBytes, 0, 'f', 0),
                          DamagedAdvice());
     }
@@ -131,7 +131,7 @@ bool ReadFitsLayout(const FitsHeader &header, qint64 fileSize, FitsLayout &layou
     layout.isCompressed = IsCompressed(header);
     const QVector<double> sizes = SizesOf(header);
     if (sizes.isEmpty())
-        return fault.Set(Translate("its header describes no picture"), DamagedAdvice());
+        return fault.Set(Text::tr("its header describes no picture"), DamagedAdvice());
     if (!SetSampleType(header, layout, fault) || !SetSize(sizes, layout, fault))
         return false;
     const double dataBytes = std::max(0.0, std::min(header.DataBytes(), double(fileSize - header.DataOffset())));

@@ -14,10 +14,10 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("FitsPictureFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FitsPictureFile)
+};
 
 void FlipRows(Picture &picture)
 {
@@ -89,7 +89,7 @@ bool FitsPictureFile::FindPicture(FitsHeader &header, int &extension, FileFault 
             break;
         offset = header.DataOffset() + qint64(blocks) * FitsHeader::blockBytes;
     }
-    return fault.Set(Translate("there is no picture in it, only tables or nothing"), UnsupportedAdvice());
+    return fault.Set(Text::tr("there is no picture in it, only tables or nothing"), UnsupportedAdvice());
 }
 
 void FitsPictureFile::FillInfo(const FitsHeader &header, int extension)
@@ -102,12 +102,12 @@ void FitsPictureFile::FillInfo(const FitsHeader &header, int extension)
     info.metadata = header.Metadata();
     QStringList details;
     if (m_layout.isCompressed)
-        details << Translate("compressed");
+        details << Text::tr("compressed");
     if (extension > 0)
-        details << Translate("in extension %1").arg(extension);
+        details << Text::tr("in extension %1").arg(extension);
     info.formatDetail = details.join(", ");
     if (m_layout.missingFrames > 0) {
-        AddWarning(ReadFaultText(Path(), {Translate("only the first %1 of its %2 frames are there")
+        AddWarning(ReadFaultText(Path(), {Text::tr("only the first %1 of its %2 frames are there")
                                               .arg(info.frames).arg(info.frames + m_layout.missingFrames),
                                           DamagedAdvice(), QString()}));
     }
@@ -121,7 +121,7 @@ bool FitsPictureFile::Decode(int index, Picture &frame, FileFault &fault)
     m_file.seek(m_dataOffset + index * m_layout.FrameSamples() * m_layout.StoredBytes());
     if (m_layout.isDirect ? DecodeDirect(frame) : DecodeScaled(frame))
         return true;
-    return fault.Set(Translate("frame %1 of %2 is not whole").arg(index + 1).arg(m_layout.frames), DamagedAdvice());
+    return fault.Set(Text::tr("frame %1 of %2 is not whole").arg(index + 1).arg(m_layout.frames), DamagedAdvice());
 }
 
 bool FitsPictureFile::DecodeDirect(Picture &frame)

@@ -26,14 +26,14 @@ constexpr int roundedBytes = 4;
 constexpr size_t mostSamplesPerByte = 1032;
 constexpr double nothing = std::numeric_limits<double>::quiet_NaN();
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("FitsTiles", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(FitsTiles)
+};
 
 QString UnpackAdvice()
 {
-    return Translate("Unpack it with funpack.");
+    return Text::tr("Unpack it with funpack.");
 }
 
 /// At most `limit` bytes; empty when the data is damaged or unpacks to more.
@@ -96,7 +96,7 @@ bool FitsTiles::Open(const FitsHeader &header, const FitsLayout &layout, FileFau
     const double rows = header.Number("NAXIS2", 0);
     const double heap = header.Number("THEAP", rowBytes * rows);
     if (!(rowBytes >= 1 && rowBytes <= INT_MAX && rows >= 1 && rows <= INT_MAX && heap >= 0 && heap <= largestTable))
-        return fault.Set(Translate("the table of its tiles has no size"), DamagedAdvice());
+        return fault.Set(Text::tr("the table of its tiles has no size"), DamagedAdvice());
     m_tableOffset = header.DataOffset();
     m_rowBytes = qint64(rowBytes);
     m_heapOffset = m_tableOffset + qint64(heap);
@@ -105,7 +105,7 @@ bool FitsTiles::Open(const FitsHeader &header, const FitsLayout &layout, FileFau
     if (!ReadCoding(header, fault) || !ReadTileSize(header, fault))
         return false;
     if (double(TilesAcross()) * TilesDown() * layout.frames > rows)
-        return fault.Set(Translate("the table of its tiles is not whole"), DamagedAdvice());
+        return fault.Set(Text::tr("the table of its tiles is not whole"), DamagedAdvice());
     return true;
 }
 
@@ -121,7 +121,7 @@ bool FitsTiles::ReadCoding(const FitsHeader &header, FileFault &fault)
     else if (name == "NOCOMPRESS")
         m_coding = Coding::Plain;
     else
-        return fault.Set(Translate("its compression (%1) is not supported").arg(name), UnpackAdvice());
+        return fault.Set(Text::tr("its compression (%1) is not supported").arg(name), UnpackAdvice());
     double block = m_riceBlock;
     double bytes = m_riceBytes;
     for (int i = 1; i <= 2; ++i) {
@@ -133,7 +133,7 @@ bool FitsTiles::ReadCoding(const FitsHeader &header, FileFault &fault)
     }
     constexpr double largestBlock = 4096;
     if (!(block >= 1 && block <= largestBlock && (bytes == 1 || bytes == 2 || bytes == 4)))
-        return fault.Set(Translate("its compression has parameters that make no sense"), DamagedAdvice());
+        return fault.Set(Text::tr("its compression has parameters that make no sense"), DamagedAdvice());
     m_riceBlock = int(block);
     m_riceBytes = int(bytes);
     return true;
@@ -146,7 +146,7 @@ bool FitsTiles::ReadTileSize(const FitsHeader &header, FileFault &fault)
     for (int axis = 3; axis <= axes; ++axis)
         frames *= header.Number("ZTILE", axis, 1);
     if (frames != 1)
-        return fault.Set(Translate("its compressed tiles reach over several frames, which is not supported"), UnpackAdvice());
+        return fault.Set(Text::tr("its compressed tiles reach over several frames, which is not supported"), UnpackAdvice());
     // A tile larger than the picture is as large as the picture.
     m_tileWidth = int(qBound(1.0, header.Number("ZTILE", 1, m_layout.width), double(m_layout.width)));
     m_tileHeight = int(qBound(1.0, header.Number("ZTILE", 2, 1), double(m_layout.height)));
@@ -210,7 +210,7 @@ bool FitsTiles::ReadFrame(QFile &file, int index, Picture &frame, FileFault &fau
         const Place place = PlaceOf(index, i);
         QString reason;
         if (!ReadTile(file, place, values, reason)) {
-            return fault.Set(Translate("frame %1 of %2: tile %3 cannot be decoded").arg(index + 1).arg(m_layout.frames).arg(i + 1),
+            return fault.Set(Text::tr("frame %1 of %2: tile %3 cannot be decoded").arg(index + 1).arg(m_layout.frames).arg(i + 1),
                              DamagedAdvice(), reason);
         }
         for (int y = 0; y < place.height; ++y)
@@ -236,7 +236,7 @@ bool FitsTiles::ReadTile(QFile &file, const Place &place, std::vector<double> &v
         const bool canHold = samples <= size_t(bytes.size()) * mostSamplesPerByte && samples <= size_t(INT_MAX / sampleBytes);
         values.resize(canHold ? samples : 0);
         if (!canHold || !Unpack(source.coding, m_layout.storedBits < 0 && !source.isRounded, sampleBytes, bytes, values)) {
-            reason = Translate("its packed data is damaged");
+            reason = Text::tr("its packed data is damaged");
             return false;
         }
         if (source.isRounded)
@@ -245,7 +245,7 @@ bool FitsTiles::ReadTile(QFile &file, const Place &place, std::vector<double> &v
             Scale(values);
         return true;
     }
-    reason = Translate("it has no data in the file");
+    reason = Text::tr("it has no data in the file");
     return false;
 }
 

@@ -18,10 +18,10 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("OpenPicture", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(OpenPicture)
+};
 
 /// An open regular file; closed at the end unless it was taken.
 class OpenedFile
@@ -49,19 +49,19 @@ bool OpenedFile::Open(const QString &path, FileFault &fault)
     m_fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (m_fd < 0) {
         const int reason = errno;
-        const QString advice = reason == ENOENT ? Translate("Look whether it was moved or renamed.")
-                                                : Translate("Ask its owner for the right to read it, or copy it to a folder of yours.");
+        const QString advice = reason == ENOENT ? Text::tr("Look whether it was moved or renamed.")
+                                                : Text::tr("Ask its owner for the right to read it, or copy it to a folder of yours.");
         return fault.Set(qt_error_string(reason), advice);
     }
     struct stat status = {};
     ::fstat(m_fd, &status);
     m_size = status.st_size;
     if (S_ISDIR(status.st_mode))
-        return fault.Set(Translate("it is a folder"), Translate("Choose the picture files in it."));
+        return fault.Set(Text::tr("it is a folder"), Text::tr("Choose the picture files in it."));
     if (!S_ISREG(status.st_mode))
-        return fault.Set(Translate("it is not an ordinary file"), Translate("Choose a picture file."));
+        return fault.Set(Text::tr("it is not an ordinary file"), Text::tr("Choose a picture file."));
     if (m_size == 0)
-        return fault.Set(Translate("it is empty"), DamagedAdvice());
+        return fault.Set(Text::tr("it is empty"), DamagedAdvice());
     return true;
 }
 
@@ -76,8 +76,8 @@ QByteArray OpenedFile::FirstBytes() const
 bool SetUnknown(const QByteArray &firstBytes, FileFault &fault)
 {
     if (firstBytes.startsWith("\x1f\x8b") || firstBytes.startsWith("PK\x03\x04") || firstBytes.startsWith("BZh"))
-        return fault.Set(Translate("it is a compressed archive"), Translate("Unpack it first."));
-    return fault.Set(Translate("its content is none of TIFF, FITS, PNG, JPEG, BMP or SPE"), UnsupportedAdvice());
+        return fault.Set(Text::tr("it is a compressed archive"), Text::tr("Unpack it first."));
+    return fault.Set(Text::tr("its content is none of TIFF, FITS, PNG, JPEG, BMP or SPE"), UnsupportedAdvice());
 }
 
 template <typename File, typename... Arguments>
@@ -115,7 +115,7 @@ void WarnOfWrongEnding(PictureFile &file)
     const PictureFormat format = file.Info().format;
     if (FormatOfName(file.Path()) == format)
         return;
-    file.AddWarning(Translate("\u201c%1\u201d is a %2 file, though its name does not end in \u201c.%3\u201d.")
+    file.AddWarning(Text::tr("\u201c%1\u201d is a %2 file, though its name does not end in \u201c.%3\u201d.")
                         .arg(QFileInfo(file.Path()).fileName(), FormatName(format), FormatSuffixes(format).first()));
 }
 
@@ -128,7 +128,7 @@ std::unique_ptr<PictureFile> OpenPicture(const QString &path, QString &error)
     try {
         file = OpenContent(path, fault);
     } catch (const std::bad_alloc &) {
-        fault.Set(Translate("there is not enough memory to open it"), MemoryAdvice());
+        fault.Set(Text::tr("there is not enough memory to open it"), MemoryAdvice());
     }
     error = file ? QString() : ReadFaultText(path, fault);
     if (file)

@@ -20,10 +20,10 @@ namespace {
 constexpr double micrometresPerInch = 25400;
 constexpr qint64 copyBytes = 1 << 20;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("SetPictureResolution", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SetPictureResolution)
+};
 
 bool Copy(QFile &from, QFile &to, FileFault &fault)
 {
@@ -43,7 +43,7 @@ bool WriteTiff(const QString &path, const PictureInfo &info, double dpi, FileFau
     if (fd < 0)
         return fault.Set(qt_error_string(errno), DiskAdvice());
     TiffHandle tiff;
-    const QString what = Translate("the resolution of page %1 could not be written");
+    const QString what = Text::tr("the resolution of page %1 could not be written");
     if (!tiff.OpenForUpdating(fd, name, QFileInfo(path).size()))
         return fault.Set(what.arg(1), DamagedAdvice(), tiff.TakeMessages());
     // ImageJ counts pixels to the micrometre and calls the unit none.
@@ -73,11 +73,11 @@ bool IsSamePicture(const QString &copyPath, const PictureInfo &info)
 bool CheckCanHold(const PictureInfo &info, FileFault &fault)
 {
     if (info.format == PictureFormat::Fits || info.format == PictureFormat::Spe)
-        return fault.Set(Translate("%1 files have no place for a resolution").arg(FormatName(info.format)),
-                         Translate("Save the picture as TIFF or PNG first."));
+        return fault.Set(Text::tr("%1 files have no place for a resolution").arg(FormatName(info.format)),
+                         Text::tr("Save the picture as TIFF or PNG first."));
     if (IsOmeDescription(DescriptionOf(info.metadata)))
-        return fault.Set(Translate("its OME description gives the size of a pixel, which a resolution would contradict"),
-                         Translate("Change the size of a pixel in the program that recorded it."));
+        return fault.Set(Text::tr("its OME description gives the size of a pixel, which a resolution would contradict"),
+                         Text::tr("Change the size of a pixel in the program that recorded it."));
     return true;
 }
 
@@ -99,7 +99,7 @@ bool Write(const QString &path, const PictureInfo &info, double dpi, FileFault &
     if (!isRaster && !WriteTiff(target.TemporaryPath(), info, dpi, fault))
         return false;
     if (!IsSamePicture(target.TemporaryPath(), info))
-        return fault.Set(Translate("its copy with another resolution was not the same picture"), UnsupportedAdvice());
+        return fault.Set(Text::tr("its copy with another resolution was not the same picture"), UnsupportedAdvice());
     return target.Commit(fault);
 }
 

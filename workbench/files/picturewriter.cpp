@@ -5,10 +5,10 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("PictureWriter", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PictureWriter)
+};
 
 } // namespace
 
@@ -30,10 +30,10 @@ bool PictureWriter::Append(const Picture &frame, QString &error)
     FileFault fault;
     bool done = false;
     if (frame.IsNull() || m_framesWritten == m_options.frameCount) {
-        fault.Set(Translate("frame %1 of %2 was to be written").arg(m_framesWritten + 1).arg(m_options.frameCount), Translate("Save it again."));
+        fault.Set(Text::tr("frame %1 of %2 was to be written").arg(m_framesWritten + 1).arg(m_options.frameCount), Text::tr("Save it again."));
     } else if (m_framesWritten > 0 && !m_shape.Fits(frame)) {
-        fault.Set(Translate("frame %1 has another size or sample type than the first one").arg(m_framesWritten + 1),
-                  Translate("Save the frames to files of their own."));
+        fault.Set(Text::tr("frame %1 has another size or sample type than the first one").arg(m_framesWritten + 1),
+                  Text::tr("Save the frames to files of their own."));
     } else {
         m_shape = {frame.Size(), frame.Channels(), frame.Type()};
         done = Write(frame, fault);
@@ -47,7 +47,7 @@ bool PictureWriter::Commit(QString &error)
     FileFault fault;
     bool done = false;
     if (m_framesWritten < m_options.frameCount)
-        fault.Set(Translate("only %1 of its %2 frames were written").arg(m_framesWritten).arg(m_options.frameCount), DiskAdvice());
+        fault.Set(Text::tr("only %1 of its %2 frames were written").arg(m_framesWritten).arg(m_options.frameCount), DiskAdvice());
     else
         done = Finish(fault) && m_file.Commit(fault);
     return Report(done, fault, error);

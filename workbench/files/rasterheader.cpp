@@ -11,14 +11,14 @@ namespace {
 
 constexpr double metresPerInch = 0.0254;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("RasterHeader", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(RasterHeader)
+};
 
 bool SetTruncated(FileFault &fault, const QString &part, qint64 offset)
 {
-    return fault.Set(Translate("it ends in the middle of its %1 (from byte %2)").arg(part).arg(offset), DamagedAdvice());
+    return fault.Set(Text::tr("it ends in the middle of its %1 (from byte %2)").arg(part).arg(offset), DamagedAdvice());
 }
 
 /// `decoded` bytes from `stored`, when one byte can become `ratio`.
@@ -27,7 +27,7 @@ bool CheckRatio(const RasterHeader &header, double decoded, qint64 stored, int r
     constexpr double extraBytes = 4096;
     if (decoded <= double(stored) * ratio + extraBytes)
         return true;
-    return fault.Set(Translate("its size, %1 x %2 pixels, is more than its %3 bytes of picture data can hold")
+    return fault.Set(Text::tr("its size, %1 x %2 pixels, is more than its %3 bytes of picture data can hold")
                          .arg(header.size.width()).arg(header.size.height()).arg(stored),
                      DamagedAdvice());
 }
@@ -35,7 +35,7 @@ bool CheckRatio(const RasterHeader &header, double decoded, qint64 stored, int r
 bool CheckSize(quint64 width, quint64 height, RasterHeader &header, FileFault &fault)
 {
     if (width == 0 || height == 0 || width > INT_MAX || height > INT_MAX)
-        return fault.Set(Translate("its size, %1 x %2 pixels, makes no sense").arg(width).arg(height), DamagedAdvice());
+        return fault.Set(Text::tr("its size, %1 x %2 pixels, makes no sense").arg(width).arg(height), DamagedAdvice());
     header.size = QSize(int(width), int(height));
     return true;
 }
@@ -70,12 +70,12 @@ int PngBitsPerPixel(int depth, int colourType)
 bool ReadPngHeader(const QByteArray &ihdr, RasterHeader &header, int &bitsPerPixel, FileFault &fault)
 {
     if (ihdr.size() < 13)
-        return fault.Set(Translate("its header makes no sense"), DamagedAdvice());
+        return fault.Set(Text::tr("its header makes no sense"), DamagedAdvice());
     const int depth = uchar(ihdr[8]);
     const int colourType = uchar(ihdr[9]);
     bitsPerPixel = PngBitsPerPixel(depth, colourType);
     if (bitsPerPixel == 0 || depth > 16)
-        return fault.Set(Translate("its colour type %1 with %2 bits makes no sense").arg(colourType).arg(depth), DamagedAdvice());
+        return fault.Set(Text::tr("its colour type %1 with %2 bits makes no sense").arg(colourType).arg(depth), DamagedAdvice());
     header.channels = colourType == 0 || colourType == 4 ? 1 : 3;
     header.type = depth == 16 ? SampleType::U16 : SampleType::U8;
     return CheckSize(BigEndian<quint32>(ihdr, 0), BigEndian<quint32>(ihdr, 4), header, fault);
@@ -101,11 +101,11 @@ bool ReadPng(QFile &file, RasterHeader &header, FileFault &fault)
         file.seek(offset);
         const QByteArray start = file.read(8);
         if (start.size() < 8)
-            return SetTruncated(fault, Translate("list of parts"), offset);
+            return SetTruncated(fault, Text::tr("list of parts"), offset);
         const qint64 length = BigEndian<quint32>(start, 0);
         const QByteArray name = start.mid(4);
         if (length > file.size() - offset - frameBytes)
-            return SetTruncated(fault, Translate("part %1").arg(QString::fromLatin1(name)), offset);
+            return SetTruncated(fault, Text::tr("part %1").arg(QString::fromLatin1(name)), offset);
         const QByteArray content = length <= shortChunk ? file.read(length) : QByteArray();
         if (name == "IHDR" && !ReadPngHeader(content, header, bitsPerPixel, fault))
             return false;
@@ -119,7 +119,7 @@ bool ReadPng(QFile &file, RasterHeader &header, FileFault &fault)
     }
     constexpr int deflateRatio = 1032;
     const double rowBytes = 1 + double(header.size.width()) * bitsPerPixel / 8;
-    return header.size.isEmpty() ? fault.Set(Translate("its header is missing"), DamagedAdvice())
+    return header.size.isEmpty() ? fault.Set(Text::tr("its header is missing"), DamagedAdvice())
                                  : CheckRatio(header, rowBytes * header.size.height(), dataBytes, deflateRatio, fault);
 }
 
@@ -133,9 +133,9 @@ bool IsFrameMarker(int marker)
 bool ReadJpegFrame(const QByteArray &segment, RasterHeader &header, FileFault &fault)
 {
     if (segment.size() < 8)
-        return fault.Set(Translate("its header makes no sense"), DamagedAdvice());
+        return fault.Set(Text::tr("its header makes no sense"), DamagedAdvice());
     if (segment[2] != 8)
-        return fault.Set(Translate("its samples of %1 bits are not supported").arg(int(segment[2])), UnsupportedAdvice());
+        return fault.Set(Text::tr("its samples of %1 bits are not supported").arg(int(segment[2])), UnsupportedAdvice());
     header.channels = segment[7] == 1 ? 1 : 3;
     return CheckSize(BigEndian<quint16>(segment, 5), BigEndian<quint16>(segment, 3), header, fault);
 }
@@ -172,7 +172,7 @@ bool ReadJpeg(QFile &file, RasterHeader &header, FileFault &fault)
         const int marker = uchar(bytes[offset + 1]);
         const int length = offset + 4 <= bytes.size() ? BigEndian<quint16>(bytes, offset + 2) : 0;
         if (length < 2 || offset + 2 + length > bytes.size())
-            return SetTruncated(fault, Translate("part %1").arg(marker, 2, 16), offset);
+            return SetTruncated(fault, Text::tr("part %1").arg(marker, 2, 16), offset);
         const QByteArray segment = bytes.mid(offset + 2, length);
         if (IsFrameMarker(marker) && !ReadJpegFrame(segment, header, fault))
             return false;
@@ -181,9 +181,9 @@ bool ReadJpeg(QFile &file, RasterHeader &header, FileFault &fault)
         offset = NextMarker(bytes, offset + 2 + length);
     }
     if (header.size.isEmpty())
-        return fault.Set(Translate("it has no picture"), DamagedAdvice());
+        return fault.Set(Text::tr("it has no picture"), DamagedAdvice());
     if (offset >= bytes.size())
-        return SetTruncated(fault, Translate("picture data"), 0);
+        return SetTruncated(fault, Text::tr("picture data"), 0);
     // A block of 64 samples takes a bit at least, and colour may have a quarter of the blocks.
     constexpr int jpegRatio = 1100;
     return CheckRatio(header, double(header.size.width()) * header.size.height() * header.channels, bytes.size(), jpegRatio, fault);
@@ -208,13 +208,13 @@ bool ReadBmp(QFile &file, RasterHeader &header, FileFault &fault)
     file.seek(0);
     const QByteArray head = file.read(fileHeaderBytes + infoHeaderBytes);
     if (head.size() < fileHeaderBytes + infoHeaderBytes)
-        return SetTruncated(fault, Translate("header"), 0);
+        return SetTruncated(fault, Text::tr("header"), 0);
     const qint64 pixelOffset = LittleEndian<quint32>(head, 10);
     const quint32 headerBytes = LittleEndian<quint32>(head, 14);
     const int bitsPerPixel = LittleEndian<quint16>(head, 28);
     const quint32 compression = LittleEndian<quint32>(head, 30);
     if (headerBytes < infoHeaderBytes || headerBytes > 1024)
-        return fault.Set(Translate("it is of an early kind of BMP that is not supported"), UnsupportedAdvice());
+        return fault.Set(Text::tr("it is of an early kind of BMP that is not supported"), UnsupportedAdvice());
     const qint64 height = LittleEndian<qint32>(head, 22); // negative: the top row comes first
     const qint64 width = LittleEndian<qint32>(head, 18);
     if (!CheckSize(width < 0 ? 0 : quint64(width), quint64(std::llabs(height)), header, fault))
@@ -231,7 +231,7 @@ bool ReadBmp(QFile &file, RasterHeader &header, FileFault &fault)
     const qint64 dataBytes = qMax(qint64(0), file.size() - pixelOffset);
     const bool isRunLength = compression == 1 || compression == 2;
     if (!isRunLength && rowBytes * header.size.height() > double(dataBytes)) {
-        return fault.Set(Translate("a picture of %1 x %2 pixels takes %3 bytes, but the file has only %4 after its header")
+        return fault.Set(Text::tr("a picture of %1 x %2 pixels takes %3 bytes, but the file has only %4 after its header")
                              .arg(width).arg(std::llabs(height)).arg(rowBytes * header.size.height(), 0, 'f', 0).arg(dataBytes),
                          DamagedAdvice());
     }

@@ -13,10 +13,10 @@ namespace {
 
 constexpr double inchesPerMetre = 1 / 0.0254;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("RasterPictureWriter", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(RasterPictureWriter)
+};
 
 QImage ShallowImage(const Picture &frame)
 {
@@ -75,13 +75,13 @@ bool RasterPictureWriter::Write(const Picture &frame, FileFault &fault)
 {
     const bool fits = frame.Type() == SampleType::U8 || (frame.Type() == SampleType::U16 && m_format == PictureFormat::Png);
     if (!fits || Options().frameCount != 1) {
-        return fault.Set(Translate("%1 cannot hold %2 frames of %3 samples").arg(FormatName(m_format)).arg(Options().frameCount)
+        return fault.Set(Text::tr("%1 cannot hold %2 frames of %3 samples").arg(FormatName(m_format)).arg(Options().frameCount)
                              .arg(SampleTypeName(frame.Type())),
-                         Translate("Save it as TIFF or FITS, or save a single frame with fewer bits."));
+                         Text::tr("Save it as TIFF or FITS, or save a single frame with fewer bits."));
     }
     QImage image = frame.Type() == SampleType::U8 ? ShallowImage(frame) : DeepImage(frame);
     if (image.isNull())
-        return fault.Set(Translate("there is not enough memory"), MemoryAdvice());
+        return fault.Set(Text::tr("there is not enough memory"), MemoryAdvice());
     image.setDotsPerMeterX(qRound(Options().dpiX * inchesPerMetre));
     image.setDotsPerMeterY(qRound(Options().dpiY * inchesPerMetre));
     SetTexts(image, Options().metadata);
@@ -94,7 +94,7 @@ bool RasterPictureWriter::Write(const Picture &frame, FileFault &fault)
     if (m_format == PictureFormat::Jpeg)
         writer.setQuality(Options().jpegQuality);
     if (!writer.write(image))
-        return fault.Set(Translate("it could not be encoded"), MemoryAdvice(), writer.errorString());
+        return fault.Set(Text::tr("it could not be encoded"), MemoryAdvice(), writer.errorString());
     return WriteFile(TemporaryPath(), bytes, fault);
 }
 

@@ -15,10 +15,10 @@ namespace {
 constexpr double inchesPerMetre = 1 / 0.0254;
 constexpr qint64 copyBytes = 1 << 20;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("CopyWithResolution", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CopyWithResolution)
+};
 
 template <typename Number>
 QByteArray BigEndian(Number number)
@@ -35,7 +35,7 @@ quint32 PerMetre(double dpi)
 
 bool SetDamaged(FileFault &fault)
 {
-    return fault.Set(Translate("its header makes no sense"), DamagedAdvice());
+    return fault.Set(Text::tr("its header makes no sense"), DamagedAdvice());
 }
 
 bool Put(QFile &to, const QByteArray &bytes, FileFault &fault)
@@ -121,8 +121,8 @@ bool CopyBmp(QFile &from, QFile &to, double dpi, FileFault &fault)
     if (header.size() < resolutionAt + 8)
         return SetDamaged(fault);
     if (qFromLittleEndian<quint32>(header.constData() + headerSizeAt) < headerSize)
-        return fault.Set(Translate("this old kind of BMP has no place for a resolution"),
-                         Translate("Save the picture as TIFF or PNG first."));
+        return fault.Set(Text::tr("this old kind of BMP has no place for a resolution"),
+                         Text::tr("Save the picture as TIFF or PNG first."));
     for (const int at : {resolutionAt, resolutionAt + 4})
         qToLittleEndian(PerMetre(dpi), header.data() + at);
     return Put(to, header, fault) && CopyBytes(from, to, -1, fault);
@@ -138,12 +138,12 @@ bool CopyWithResolution(QFile &from, QFile &to, PictureFormat format, double dpi
         return CopyPng(from, to, dpi, fault);
     case PictureFormat::Jpeg:
         if (dpi > mostJpegDpi)
-            return fault.Set(Translate("a JPEG file holds at most %1 pixels an inch").arg(mostJpegDpi),
-                             Translate("Choose a lower resolution."));
+            return fault.Set(Text::tr("a JPEG file holds at most %1 pixels an inch").arg(mostJpegDpi),
+                             Text::tr("Choose a lower resolution."));
         return CopyJpeg(from, to, dpi, fault);
     case PictureFormat::Bmp:
         return CopyBmp(from, to, dpi, fault);
     default:
-        return fault.Set(Translate("this format has no place for a resolution"), UnsupportedAdvice());
+        return fault.Set(Text::tr("this format has no place for a resolution"), UnsupportedAdvice());
     }
 }

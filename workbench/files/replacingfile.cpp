@@ -14,10 +14,10 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("ReplacingFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ReplacingFile)
+};
 
 bool SetSystemFault(FileFault &fault, int reason)
 {
@@ -65,9 +65,9 @@ bool ReplacingFile::Create(FileFault &fault)
 {
     const QFileInfo target(m_target);
     if (target.isDir())
-        return fault.Set(Translate("a folder has that name"), Translate("Choose another name."));
+        return fault.Set(Text::tr("a folder has that name"), Text::tr("Choose another name."));
     if (target.exists() && !target.isWritable())
-        return fault.Set(Translate("the file of that name is write-protected"), Translate("Choose another name, or lift the protection."));
+        return fault.Set(Text::tr("the file of that name is write-protected"), Text::tr("Choose another name, or lift the protection."));
     QByteArray path = QFile::encodeName(target.absolutePath() + "/." + target.fileName() + ".XXXXXX");
     const int fd = ::mkostemp(path.data(), O_CLOEXEC);
     if (fd < 0)

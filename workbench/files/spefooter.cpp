@@ -12,10 +12,10 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("SpeFooter", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SpeFooter)
+};
 
 /// Where a region lies on the sensor.
 struct SensorMapping
@@ -102,7 +102,7 @@ void ApplyReferences(const References &references, const Calibrations &calibrati
             region.axis.unit = region.axis.IsEmpty() ? SpectralUnit::Pixel : SpectralUnit::Nanometre;
             region.axis.laserNm = calibrations.lasers.value(id);
             if (region.axis.IsEmpty())
-                layout.warning = Translate("its list of wavelengths does not fit its columns and is left out");
+                layout.warning = Text::tr("its list of wavelengths does not fit its columns and is left out");
         }
     }
 }
@@ -120,7 +120,7 @@ bool ReadFrameBlock(const QXmlStreamAttributes &attributes, SpeLayout &layout, R
 {
     const QString format = attributes.value("pixelFormat").toString();
     if (!ReadPixelFormat(format, layout.type))
-        return fault.Set(Translate("its samples (%1) are of a kind that is not supported").arg(format), UnsupportedAdvice());
+        return fault.Set(Text::tr("its samples (%1) are of a kind that is not supported").arg(format), UnsupportedAdvice());
     const qint64 count = attributes.value("count").toLongLong();
     layout.frames = int(qBound(qint64(0), count, qint64(std::numeric_limits<int>::max())));
     layout.frameStride = attributes.value("stride").toLongLong();
@@ -209,10 +209,10 @@ bool ReadSpeFooter(const QByteArray &xml, SpeLayout &layout, FileFault &fault)
         }
     }
     if (reader.hasError())
-        return fault.Set(Translate("its description (XML at the end) breaks off or is damaged in line %1").arg(reader.lineNumber()),
+        return fault.Set(Text::tr("its description (XML at the end) breaks off or is damaged in line %1").arg(reader.lineNumber()),
                          DamagedAdvice(), reader.errorString());
     if (layout.regions.isEmpty() || layout.frameStride <= 0)
-        return fault.Set(Translate("its description (XML at the end) tells of no frames"), DamagedAdvice());
+        return fault.Set(Text::tr("its description (XML at the end) tells of no frames"), DamagedAdvice());
     ApplyReferences(references, calibrations, layout);
     return true;
 }

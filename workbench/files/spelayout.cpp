@@ -15,10 +15,10 @@ namespace {
 /// Real ones take 30 kB to some MB; the rest of a file that says otherwise is not read into memory.
 constexpr qint64 mostFooterBytes = 64 * 1024 * 1024;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("SpeLayout", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SpeLayout)
+};
 
 bool TypeOfCode(int code, SampleType &type, FileFault &fault)
 {
@@ -30,7 +30,7 @@ bool TypeOfCode(int code, SampleType &type, FileFault &fault)
     case 5: type = SampleType::F64; return true;
     case 6: type = SampleType::U8; return true;
     case 8: type = SampleType::U32; return true;
-    default: return fault.Set(Translate("its samples are of an unknown kind (code %1)").arg(code), UnsupportedAdvice());
+    default: return fault.Set(Text::tr("its samples are of an unknown kind (code %1)").arg(code), UnsupportedAdvice());
     }
 }
 
@@ -39,7 +39,7 @@ bool LayoutOfHeader(const SpeHeader &header, SpeLayout &layout, FileFault &fault
     if (!TypeOfCode(header.TypeCode(), layout.type, fault))
         return false;
     if (header.Width() == 0 || header.Height() == 0)
-        return fault.Set(Translate("its header gives a size of %1 x %2 pixels").arg(header.Width()).arg(header.Height()),
+        return fault.Set(Text::tr("its header gives a size of %1 x %2 pixels").arg(header.Width()).arg(header.Height()),
                          DamagedAdvice());
     SpeRegion region;
     region.width = header.Width();
@@ -75,13 +75,13 @@ bool LayoutOfFooter(QIODevice &file, const SpeHeader &header, SpeLayout &layout,
     const quint64 offset = header.FooterOffset();
     if (offset >= quint64(SpeLayout::headerBytes) && offset < quint64(file.size())) {
         if (file.size() - qint64(offset) > mostFooterBytes)
-            return fault.Set(Translate("its description (XML at the end) is larger than any such file needs"), DamagedAdvice());
+            return fault.Set(Text::tr("its description (XML at the end) is larger than any such file needs"), DamagedAdvice());
         file.seek(qint64(offset));
         return ReadSpeFooter(file.read(mostFooterBytes), layout, fault);
     }
     if (header.Width() == 0 || header.Height() == 0)
-        return fault.Set(Translate("its description (XML at the end) is missing"), DamagedAdvice());
-    layout.warning = Translate("its description (XML at the end) is missing, and with it the wavelengths");
+        return fault.Set(Text::tr("its description (XML at the end) is missing"), DamagedAdvice());
+    layout.warning = Text::tr("its description (XML at the end) is missing, and with it the wavelengths");
     return LayoutOfHeader(header, layout, fault);
 }
 
@@ -89,15 +89,15 @@ bool CheckRegions(const SpeLayout &layout, qint64 dataBytes, FileFault &fault)
 {
     for (int i = 0; i < layout.regions.size(); ++i) {
         const SpeRegion &region = layout.regions[i];
-        const QString name = Translate("region %1 of %2").arg(i + 1).arg(layout.regions.size());
+        const QString name = Text::tr("region %1 of %2").arg(i + 1).arg(layout.regions.size());
         if (region.width <= 0 || region.height <= 0)
-            return fault.Set(Translate("%1 has a size of %2 x %3 pixels").arg(name).arg(region.width).arg(region.height), DamagedAdvice());
+            return fault.Set(Text::tr("%1 has a size of %2 x %3 pixels").arg(name).arg(region.width).arg(region.height), DamagedAdvice());
         const qint64 samples = qint64(region.width) * region.height;
         if (samples > std::numeric_limits<qint64>::max() / 8 || region.offset < 0
             || layout.RegionBytes(region) > layout.frameStride - region.offset)
-            return fault.Set(Translate("%1 does not fit into its frame").arg(name), DamagedAdvice());
+            return fault.Set(Text::tr("%1 does not fit into its frame").arg(name), DamagedAdvice());
         if (region.offset > dataBytes || layout.RegionBytes(region) > dataBytes - region.offset)
-            return fault.Set(Translate("not even its first frame of %1 x %2 pixels is whole").arg(region.width).arg(region.height),
+            return fault.Set(Text::tr("not even its first frame of %1 x %2 pixels is whole").arg(region.width).arg(region.height),
                              DamagedAdvice());
     }
     return true;
@@ -122,7 +122,7 @@ bool ReadSpeLayout(QIODevice &file, SpeLayout &layout, FileFault &fault)
     file.seek(0);
     const QByteArray bytes = file.read(SpeLayout::headerBytes);
     if (bytes.size() < SpeLayout::headerBytes)
-        return fault.Set(Translate("its header is cut short"), DamagedAdvice());
+        return fault.Set(Text::tr("its header is cut short"), DamagedAdvice());
     const SpeHeader header(bytes);
     layout = SpeLayout();
     layout.version = header.Version();

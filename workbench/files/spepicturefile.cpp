@@ -9,10 +9,10 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("SpePictureFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SpePictureFile)
+};
 
 } // namespace
 
@@ -42,13 +42,13 @@ void SpePictureFile::FillInfo()
     info.size = QSize(first.width, first.height);
     info.sampleType = m_layout.type;
     info.metadata = m_layout.metadata;
-    info.formatDetail = Translate("version %1").arg(m_layout.version < 3 ? 2 : 3);
+    info.formatDetail = Text::tr("version %1").arg(m_layout.version < 3 ? 2 : 3);
     if (regions > 1)
-        info.formatDetail += Translate(", %1 regions").arg(regions);
+        info.formatDetail += Text::tr(", %1 regions").arg(regions);
     if (!m_layout.warning.isEmpty())
-        AddWarning(Translate("\u201c%1\u201d: %2. %3").arg(QFileInfo(Path()).fileName(), m_layout.warning, DamagedAdvice()));
+        AddWarning(Text::tr("\u201c%1\u201d: %2. %3").arg(QFileInfo(Path()).fileName(), m_layout.warning, DamagedAdvice()));
     if (m_layout.missingFrames > 0) {
-        AddWarning(ReadFaultText(Path(), {Translate("only the first %1 of its %2 frames are there")
+        AddWarning(ReadFaultText(Path(), {Text::tr("only the first %1 of its %2 frames are there")
                                               .arg(m_layout.frames).arg(m_layout.frames + m_layout.missingFrames),
                                           DamagedAdvice(), QString()}));
     }
@@ -60,7 +60,7 @@ QString SpePictureFile::FrameDescription(int index) const
     if (regions == 1)
         return QString();
     const SpeRegion &region = RegionOf(index);
-    return Translate("exposure %1 of %2, region %3 of %4, from column %5 and row %6 of the sensor")
+    return Text::tr("exposure %1 of %2, region %3 of %4, from column %5 and row %6 of the sensor")
         .arg(index / regions + 1).arg(m_layout.frames).arg(index % regions + 1).arg(regions)
         .arg(region.onSensor.x()).arg(region.onSensor.y());
 }
@@ -74,7 +74,7 @@ bool SpePictureFile::Decode(int index, Picture &frame, FileFault &fault)
     const qint64 exposure = index / m_layout.regions.size();
     m_file.seek(SpeLayout::headerBytes + exposure * m_layout.frameStride + region.offset);
     if (m_file.read(reinterpret_cast<char *>(frame.Data()), frame.ByteCount()) != frame.ByteCount())
-        return fault.Set(Translate("frame %1 of %2 is not whole").arg(index + 1).arg(Info().frames), DamagedAdvice());
+        return fault.Set(Text::tr("frame %1 of %2 is not whole").arg(index + 1).arg(Info().frames), DamagedAdvice());
     if (Q_BYTE_ORDER == Q_BIG_ENDIAN)
         SwapSampleBytes(frame);
     return true;

@@ -17,10 +17,10 @@ constexpr quint32 maskFlag = 4;
 /// Covers the directory of an ordinary page in one read.
 constexpr int usualDirectoryBytes = 1024;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("TiffChain", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(TiffChain)
+};
 
 /// One directory as it lies in the file.
 struct Directory
@@ -74,17 +74,17 @@ TiffChain ChainReader::Read()
     while (offset != 0) {
         const int page = seen.size() + 1;
         if (seen.contains(offset)) {
-            m_chain.fault = Translate("the chain of its pages runs in a circle after page %1").arg(page - 1);
+            m_chain.fault = Text::tr("the chain of its pages runs in a circle after page %1").arg(page - 1);
             break;
         }
         // Directories that overlap one another would make more pages than the file has room for.
         if (quint64(page) > m_fileSize / quint64(CountBytes() + EntryBytes() + OffsetBytes()) + 1) {
-            m_chain.fault = Translate("it names more pages than it can hold");
+            m_chain.fault = Text::tr("it names more pages than it can hold");
             break;
         }
         Directory directory;
         if (!ReadDirectory(offset, directory)) {
-            m_chain.fault = Translate("the description of page %1 (at byte %2) lies beyond the end of the file (%3 bytes)")
+            m_chain.fault = Text::tr("the description of page %1 (at byte %2) lies beyond the end of the file (%3 bytes)")
                                 .arg(page).arg(offset).arg(m_fileSize);
             break;
         }
@@ -100,18 +100,18 @@ TiffChain ChainReader::Read()
 bool ChainReader::ReadHeader(quint64 &first)
 {
     if (!EnsureBytes(0, 8)) {
-        m_chain.fault = Translate("it ends within its header");
+        m_chain.fault = Text::tr("it ends within its header");
         return false;
     }
     m_chain.isBigEndian = Bytes()[0] == 'M';
     m_chain.isBigTiff = Number<quint16>(Bytes() + 2) == 43;
     if (m_chain.isBigTiff && !EnsureBytes(0, 16)) {
-        m_chain.fault = Translate("it ends within its header");
+        m_chain.fault = Text::tr("it ends within its header");
         return false;
     }
     first = Offset(Bytes() + (m_chain.isBigTiff ? 8 : 4));
     if (first == 0)
-        m_chain.fault = Translate("it has no page; its writer did not finish it");
+        m_chain.fault = Text::tr("it has no page; its writer did not finish it");
     return first != 0;
 }
 

@@ -11,10 +11,10 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("TiffDecode", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(TiffDecode)
+};
 
 /// A run of samples of one channel: from a row of a block into a row of the picture.
 struct SampleRun
@@ -201,7 +201,7 @@ bool ConvertPalette(TIFF *tiff, const TiffPage &page, Picture &picture, FileFaul
 {
     Palette palette;
     if (!ReadPalette(tiff, page.bits, palette))
-        return fault.Set(Translate("its colour palette is missing"), DamagedAdvice());
+        return fault.Set(Text::tr("its colour palette is missing"), DamagedAdvice());
     if (palette.isGreyRamp)
         return true;
     const Picture indices = picture;
@@ -220,7 +220,7 @@ bool DecodeTiffPage(TiffHandle &handle, const TiffPage &page, Picture &picture, 
     picture.Reshape(page.width, page.height, page.channels, page.type);
     const qint64 failed = BlockReader(handle.Get(), page, picture).ReadAll();
     if (failed >= 0) {
-        return fault.Set((page.isTiled ? Translate("tile %1 cannot be decoded") : Translate("strip %1 cannot be decoded")).arg(failed),
+        return fault.Set((page.isTiled ? Text::tr("tile %1 cannot be decoded") : Text::tr("strip %1 cannot be decoded")).arg(failed),
                          DamagedAdvice(), handle.TakeMessages());
     }
     if (page.isMinWhite)

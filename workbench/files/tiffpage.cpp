@@ -9,10 +9,10 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("TiffPage", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(TiffPage)
+};
 
 struct CompressionRow
 {
@@ -76,12 +76,12 @@ bool SetChannels(int photometric, TiffPage &page, FileFault &fault)
     case PHOTOMETRIC_RGB:
         page.channels = 3;
         if (page.samplesPerPixel < 3)
-            return fault.Set(Translate("it is marked as RGB but has %1 samples a pixel").arg(page.samplesPerPixel), DamagedAdvice());
+            return fault.Set(Text::tr("it is marked as RGB but has %1 samples a pixel").arg(page.samplesPerPixel), DamagedAdvice());
         return true;
     case PHOTOMETRIC_PALETTE:
         page.isPalette = true;
         if (page.bits > 16 || page.samplesPerPixel != 1)
-            return fault.Set(Translate("its colour palette does not fit its samples"), DamagedAdvice());
+            return fault.Set(Text::tr("its colour palette does not fit its samples"), DamagedAdvice());
         return true;
     case PHOTOMETRIC_MINISWHITE:
         page.isMinWhite = true;
@@ -90,7 +90,7 @@ bool SetChannels(int photometric, TiffPage &page, FileFault &fault)
     case PHOTOMETRIC_CFA:
         return true;
     default:
-        return fault.Set(Translate("its colours are of a kind (%1) that is not supported").arg(photometric), UnsupportedAdvice());
+        return fault.Set(Text::tr("its colours are of a kind (%1) that is not supported").arg(photometric), UnsupportedAdvice());
     }
 }
 
@@ -101,12 +101,12 @@ bool SetBlocks(TIFF *tiff, TiffPage &page, FileFault &fault)
     const quint32 height = page.isTiled ? LongTag(tiff, TIFFTAG_TILELENGTH)
                                         : qMin(LongTag(tiff, TIFFTAG_ROWSPERSTRIP), quint32(page.height));
     if (width == 0 || height == 0 || width > INT_MAX / 2 || height > INT_MAX / 2)
-        return fault.Set(Translate("its strips or tiles have the size %1 x %2").arg(width).arg(height), DamagedAdvice());
+        return fault.Set(Text::tr("its strips or tiles have the size %1 x %2").arg(width).arg(height), DamagedAdvice());
     page.blockWidth = int(width);
     page.blockHeight = int(height);
     const quint64 libraryRowBytes = page.isTiled ? TIFFTileRowSize64(tiff) : TIFFScanlineSize64(tiff);
     if (libraryRowBytes != quint64(page.BlockRowBytes()))
-        return fault.Set(Translate("its rows have a layout that is not supported"), UnsupportedAdvice());
+        return fault.Set(Text::tr("its rows have a layout that is not supported"), UnsupportedAdvice());
     return true;
 }
 
@@ -142,19 +142,19 @@ bool ReadTiffPage(const TiffHandle &handle, TiffPage &page, FileFault &fault)
     page.isPlanar = page.samplesPerPixel > 1 && ShortTag(tiff, TIFFTAG_PLANARCONFIG) == PLANARCONFIG_SEPARATE;
     page.compression = ShortTag(tiff, TIFFTAG_COMPRESSION);
     if (width == 0 || height == 0 || page.samplesPerPixel == 0)
-        return fault.Set(Translate("it has no size"), DamagedAdvice());
+        return fault.Set(Text::tr("it has no size"), DamagedAdvice());
     constexpr quint32 largestSide = 1u << 28; // keeps every product below in 64 bits
     if (width > largestSide || height > largestSide)
-        return fault.Set(Translate("its size, %1 x %2 pixels, is beyond any picture").arg(width).arg(height), DamagedAdvice());
+        return fault.Set(Text::tr("its size, %1 x %2 pixels, is beyond any picture").arg(width).arg(height), DamagedAdvice());
     page.width = int(width);
     page.height = int(height);
 
     const CompressionRow *compression = FindCompression(page.compression);
     if (!compression || !TIFFIsCODECConfigured(uint16_t(page.compression)))
-        return fault.Set(Translate("its compression (%1) is not supported").arg(page.compression), UnsupportedAdvice());
+        return fault.Set(Text::tr("its compression (%1) is not supported").arg(page.compression), UnsupportedAdvice());
     const int sampleFormat = ShortTag(tiff, TIFFTAG_SAMPLEFORMAT);
     if (!SetSampleType(sampleFormat, page)) {
-        return fault.Set(Translate("its samples of %1 bits (sample format %2) are not supported").arg(page.bits).arg(sampleFormat),
+        return fault.Set(Text::tr("its samples of %1 bits (sample format %2) are not supported").arg(page.bits).arg(sampleFormat),
                          UnsupportedAdvice());
     }
     uint16_t photometric = PHOTOMETRIC_MINISBLACK;
@@ -166,28 +166,28 @@ bool CheckTiffBlocks(const TiffHandle &handle, TiffPage &page, qint64 fileSize, 
 {
     TIFF *tiff = handle.Get();
     const qint64 blocks = page.BlocksOfPlane() * page.PlanesToRead();
-    const QString gigantic = Translate("its size, %1 x %2 pixels, is more than the %3 bytes of the file can hold")
+    const QString gigantic = Text::tr("its size, %1 x %2 pixels, is more than the %3 bytes of the file can hold")
                                  .arg(page.width).arg(page.height).arg(fileSize);
     if (blocks > fileSize)
         return fault.Set(gigantic, DamagedAdvice());
 
-    const QString blockName = page.isTiled ? Translate("tile %1") : Translate("strip %1");
+    const QString blockName = page.isTiled ? Text::tr("tile %1") : Text::tr("strip %1");
     quint64 stored = 0;
     for (qint64 block = 0; block < blocks; ++block) {
         int failed = 0;
         const quint64 offset = TIFFGetStrileOffsetWithErr(tiff, uint32_t(block), &failed);
         const quint64 bytes = failed ? 0 : TIFFGetStrileByteCountWithErr(tiff, uint32_t(block), &failed);
         if (failed || bytes == 0)
-            return fault.Set(Translate("%1 has no data").arg(blockName.arg(block)), DamagedAdvice());
+            return fault.Set(Text::tr("%1 has no data").arg(blockName.arg(block)), DamagedAdvice());
         if (offset > quint64(fileSize) || bytes > quint64(fileSize) - offset) {
-            return fault.Set(Translate("%1 (%2 bytes from byte %3) lies beyond the end of the file (%4 bytes)")
+            return fault.Set(Text::tr("%1 (%2 bytes from byte %3) lies beyond the end of the file (%4 bytes)")
                                  .arg(blockName.arg(block)).arg(bytes).arg(offset).arg(fileSize),
                              DamagedAdvice());
         }
         const int rows = page.BlockRows(int(block % page.BlocksOfPlane() / page.BlocksAcross()));
         const double needed = double(rows) * page.BlockRowBytes();
         if (page.compression == COMPRESSION_NONE && double(bytes) < needed) {
-            return fault.Set(Translate("%1 has %2 bytes and needs %3").arg(blockName.arg(block)).arg(bytes).arg(needed, 0, 'f', 0),
+            return fault.Set(Text::tr("%1 has %2 bytes and needs %3").arg(blockName.arg(block)).arg(bytes).arg(needed, 0, 'f', 0),
                              DamagedAdvice());
         }
         if (page.IsPlain())

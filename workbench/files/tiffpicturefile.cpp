@@ -10,10 +10,10 @@
 
 namespace {
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("TiffPictureFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(TiffPictureFile)
+};
 
 } // namespace
 
@@ -30,7 +30,7 @@ bool TiffPictureFile::Open(int fd, qint64 fileSize, FileFault &fault)
     if (m_chain.pages.isEmpty())
         return fault.Set(m_chain.fault, DamagedAdvice());
     if (!opened)
-        return fault.Set(Translate("its header makes no sense"), DamagedAdvice(), m_tiff.TakeMessages());
+        return fault.Set(Text::tr("its header makes no sense"), DamagedAdvice(), m_tiff.TakeMessages());
     TiffPage page;
     if (!SelectPage(0, page, fault))
         return false;
@@ -49,11 +49,11 @@ bool TiffPictureFile::SelectPage(int index, TiffPage &page, FileFault &fault)
     const QString messages = m_tiff.TakeMessages();
     bool usable = false;
     if (!selected)
-        fault.Set(Translate("its description cannot be read"), DamagedAdvice(), messages);
+        fault.Set(Text::tr("its description cannot be read"), DamagedAdvice(), messages);
     else
         usable = ReadTiffPage(m_tiff, page, fault) && CheckTiffBlocks(m_tiff, page, m_fileSize, fault);
     if (!usable)
-        fault.what = Translate("page %1 of %2: %3").arg(index + 1).arg(m_chain.pages.size()).arg(fault.what);
+        fault.what = Text::tr("page %1 of %2: %3").arg(index + 1).arg(m_chain.pages.size()).arg(fault.what);
     return usable;
 }
 
@@ -73,11 +73,11 @@ void TiffPictureFile::FillInfo(const TiffPage &page)
     const QString description = DescriptionOf(info.metadata);
     ReadTiffResolution(m_tiff.Get(), description, info.dpiX, info.dpiY);
     if (!m_chain.fault.isEmpty()) {
-        AddWarning(ReadFaultText(Path(), {Translate("only its first %1 pages are there: %2").arg(info.frames).arg(m_chain.fault),
+        AddWarning(ReadFaultText(Path(), {Text::tr("only its first %1 pages are there: %2").arg(info.frames).arg(m_chain.fault),
                                           DamagedAdvice(), QString()}));
     }
     if (page.channels == 1 && page.samplesPerPixel > 2)
-        AddWarning(Translate("Only the first of the %1 samples of each pixel is shown.").arg(page.samplesPerPixel));
+        AddWarning(Text::tr("Only the first of the %1 samples of each pixel is shown.").arg(page.samplesPerPixel));
     if (IsImageJDescription(description)) {
         FindContiguousFrames(page);
         m_order = StackOrder::FromImageJ(description, info.frames);
@@ -99,7 +99,7 @@ void TiffPictureFile::FindContiguousFrames(const TiffPage &page)
     const qint64 present = page.samples.Count() == 1 ? (end - qint64(first)) / frameBytes : 1;
     info.frames = int(qMin(qint64(claimed), qMax(qint64(1), present)));
     if (info.frames < claimed) {
-        AddWarning(ReadFaultText(Path(), {Translate("only the first %1 of its %2 frames are there").arg(info.frames).arg(claimed),
+        AddWarning(ReadFaultText(Path(), {Text::tr("only the first %1 of its %2 frames are there").arg(info.frames).arg(claimed),
                                           DamagedAdvice(), QString()}));
     }
     if (info.frames > 1) {
@@ -118,14 +118,14 @@ bool TiffPictureFile::Decode(int index, Picture &frame, FileFault &fault)
         frame.Reshape(info.size.width(), info.size.height(), info.channels, info.sampleType, samples.FirstOffset());
         if (ReadSamples(samples, frame))
             return true;
-        return fault.Set(Translate("frame %1 of %2 is not whole").arg(index + 1).arg(info.frames), DamagedAdvice());
+        return fault.Set(Text::tr("frame %1 of %2 is not whole").arg(index + 1).arg(info.frames), DamagedAdvice());
     }
     TiffPage page;
     if (!SelectPage(index, page, fault))
         return false;
     if (DecodePage(page, frame, fault))
         return true;
-    fault.what = Translate("page %1 of %2: %3").arg(index + 1).arg(m_chain.pages.size()).arg(fault.what);
+    fault.what = Text::tr("page %1 of %2: %3").arg(index + 1).arg(m_chain.pages.size()).arg(fault.what);
     return false;
 }
 
@@ -134,7 +134,7 @@ bool TiffPictureFile::DecodePage(const TiffPage &page, Picture &frame, FileFault
     if (!page.IsPlain())
         return DecodeTiffPage(m_tiff, page, frame, fault);
     frame.Reshape(page.width, page.height, page.channels, page.type, page.samples.FirstOffset());
-    return ReadSamples(page.samples, frame) || fault.Set(Translate("its samples are not whole"), DamagedAdvice());
+    return ReadSamples(page.samples, frame) || fault.Set(Text::tr("its samples are not whole"), DamagedAdvice());
 }
 
 bool TiffPictureFile::ReadSamples(const FileRuns &samples, Picture &frame)

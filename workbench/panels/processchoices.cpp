@@ -9,9 +9,12 @@ namespace {
 
 constexpr double MostLevel = 1e12;
 
-QString Translate(const char *text) { return QCoreApplication::translate("ProcessChoices", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(ProcessChoices)
+};
 
-QString Px() { return Translate(" px"); }
+QString Px() { return Text::tr(" px"); }
 
 PanelField Level(const QString &key, const QString &text, double value, bool isFloat)
 {
@@ -34,8 +37,8 @@ void TakeChoice(Choice &setting, const QVariant &value, Choice last)
 
 QStringList ProjectionNames()
 {
-    return { Translate("Maximum"), Translate("Minimum"), Translate("Mean"),
-             Translate("Median"),  Translate("Sum"),     Translate("Standard deviation") };
+    return { Text::tr("Maximum"), Text::tr("Minimum"), Text::tr("Mean"),
+             Text::tr("Median"),  Text::tr("Sum"),     Text::tr("Standard deviation") };
 }
 
 bool HasFractions(const ProjectionSettings &settings)
@@ -45,10 +48,10 @@ bool HasFractions(const ProjectionSettings &settings)
 
 void AddProjection(PanelFields &fields, const ProjectionSettings &settings)
 {
-    fields << ChoiceField("method", Translate("Value"), int(settings.method), ProjectionNames());
-    fields << CheckField("fractions", Translate("Keep fractions"), settings.keepsFractions);
+    fields << ChoiceField("method", Text::tr("Value"), int(settings.method), ProjectionNames());
+    fields << CheckField("fractions", Text::tr("Keep fractions"), settings.keepsFractions);
     fields.last().isEnabled = HasFractions(settings);
-    fields.last().toolTip = Translate("The result is floating point instead of the kind of samples of the frames.");
+    fields.last().toolTip = Text::tr("The result is floating point instead of the kind of samples of the frames.");
 }
 
 /// Writes the value of a field into the settings that have such a field.
@@ -172,9 +175,9 @@ private:
 
 QStringList ProcessChoices::Names()
 {
-    return { Translate("None"),      Translate("Background"), Translate("Flat field"), Translate("Denoise"),
-             Translate("Sharpen"),   Translate("Threshold"),  Translate("Morphology"), Translate("Binning"),
-             Translate("Band pass"), Translate("Projection of the stack"), Translate("Merge pictures") };
+    return { Text::tr("None"),      Text::tr("Background"), Text::tr("Flat field"), Text::tr("Denoise"),
+             Text::tr("Sharpen"),   Text::tr("Threshold"),  Text::tr("Morphology"), Text::tr("Binning"),
+             Text::tr("Band pass"), Text::tr("Projection of the stack"), Text::tr("Merge pictures") };
 }
 
 QString ProcessChoices::StepText(const ProcessSettings &settings) { return Names().at(int(settings.index())); }
@@ -206,102 +209,102 @@ bool ProcessChoices::Set(const QString &key, const QVariant &value, const Contex
 
 void ProcessChoices::AddFields(PanelFields &fields, const BackgroundSettings &settings, const Context &context) const
 {
-    fields << ChoiceField("method", Translate("Take away"), int(settings.method),
-                          { Translate("A level"), Translate("Wide structures"), Translate("A slope") });
+    fields << ChoiceField("method", Text::tr("Take away"), int(settings.method),
+                          { Text::tr("A level"), Text::tr("Wide structures"), Text::tr("A slope") });
     if (settings.method == BackgroundSettings::Method::Constant)
-        fields << Level("level", Translate("Level"), settings.level, context.isFloat);
+        fields << Level("level", Text::tr("Level"), settings.level, context.isFloat);
     if (settings.method == BackgroundSettings::Method::Opening) {
-        fields << NumberField("radius", Translate("Radius"), settings.radius, 1, BackgroundSettings::MostRadius, 0,
+        fields << NumberField("radius", Text::tr("Radius"), settings.radius, 1, BackgroundSettings::MostRadius, 0,
                               Px());
-        fields.last().toolTip = Translate("Structures that are narrower than twice the radius stay.");
+        fields.last().toolTip = Text::tr("Structures that are narrower than twice the radius stay.");
     }
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const FlatFieldSettings &settings, const Context &context) const
 {
-    fields << ChoiceField("reference", Translate("Reference"), context.references.indexOf(settings.reference),
+    fields << ChoiceField("reference", Text::tr("Reference"), context.references.indexOf(settings.reference),
                           context.referenceNames);
     fields.last().isEnabled = !context.references.isEmpty();
-    fields.last().toolTip = Translate("An opened picture of an evenly lit field, of the same size.");
+    fields.last().toolTip = Text::tr("An opened picture of an evenly lit field, of the same size.");
     if (context.references.isEmpty())
-        fields << NoteField("hint", QString(), Translate("Open a picture of an evenly lit field beside this one."));
+        fields << NoteField("hint", QString(), Text::tr("Open a picture of an evenly lit field beside this one."));
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const DenoiseSettings &settings, const Context &) const
 {
     using Method = DenoiseSettings::Method;
-    fields << ChoiceField("method", Translate("Filter"), int(settings.method),
-                          { Translate("Gaussian"), Translate("Median"), Translate("Bilateral") });
+    fields << ChoiceField("method", Text::tr("Filter"), int(settings.method),
+                          { Text::tr("Gaussian"), Text::tr("Median"), Text::tr("Bilateral") });
     if (settings.method == Method::Median) {
-        fields << NumberField("radius", Translate("Radius"), settings.radius, 1, DenoiseSettings::MostRadius, 0, Px());
+        fields << NumberField("radius", Text::tr("Radius"), settings.radius, 1, DenoiseSettings::MostRadius, 0, Px());
         return;
     }
     const bool isBilateral = settings.method == Method::Bilateral;
-    fields << NumberField("sigma", Translate("Sigma"), settings.sigma, DenoiseSettings::LeastSigma,
+    fields << NumberField("sigma", Text::tr("Sigma"), settings.sigma, DenoiseSettings::LeastSigma,
                           isBilateral ? DenoiseSettings::MostBilateralSigma : DenoiseSettings::MostSigma, 1, Px());
     fields.last().step = 0.5;
     if (isBilateral) {
-        fields << NumberField("levelSigma", Translate("Edge height"), settings.levelSigma, 0.001, MostLevel, 3);
-        fields.last().toolTip = Translate("Steps that are higher than this, in units of the samples, stay sharp.");
+        fields << NumberField("levelSigma", Text::tr("Edge height"), settings.levelSigma, 0.001, MostLevel, 3);
+        fields.last().toolTip = Text::tr("Steps that are higher than this, in units of the samples, stay sharp.");
     }
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const SharpenSettings &settings, const Context &) const
 {
-    fields << NumberField("sigma", Translate("Sigma"), settings.sigma, DenoiseSettings::LeastSigma,
+    fields << NumberField("sigma", Text::tr("Sigma"), settings.sigma, DenoiseSettings::LeastSigma,
                           DenoiseSettings::MostSigma, 1, Px());
     fields.last().step = 0.5;
-    fields << NumberField("amount", Translate("Amount"), settings.amount, 0, SharpenSettings::MostAmount, 2);
+    fields << NumberField("amount", Text::tr("Amount"), settings.amount, 0, SharpenSettings::MostAmount, 2);
     fields.last().step = 0.1;
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const ThresholdSettings &settings, const Context &context) const
 {
-    fields << CheckField("automatic", Translate("Find the level"), settings.isAutomatic);
-    fields << Level("level", Translate("Level"), settings.level, context.isFloat);
+    fields << CheckField("automatic", Text::tr("Find the level"), settings.isAutomatic);
+    fields << Level("level", Text::tr("Level"), settings.level, context.isFloat);
     fields.last().isEnabled = !settings.isAutomatic;
-    fields << CheckField("dark", Translate("Take what is darker"), settings.takesDark);
+    fields << CheckField("dark", Text::tr("Take what is darker"), settings.takesDark);
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const MorphologySettings &settings, const Context &) const
 {
     const bool isDisc = settings.shape == MorphologySettings::Shape::Disc;
-    fields << ChoiceField("method", Translate("Operation"), int(settings.method),
-                          { Translate("Erode"), Translate("Dilate"), Translate("Open"), Translate("Close"),
-                            Translate("Top hat") });
-    fields << ChoiceField("shape", Translate("Shape"), int(settings.shape),
-                          { Translate("Square"), Translate("Disc") });
-    fields << NumberField("radius", Translate("Radius"), settings.radius, 1,
+    fields << ChoiceField("method", Text::tr("Operation"), int(settings.method),
+                          { Text::tr("Erode"), Text::tr("Dilate"), Text::tr("Open"), Text::tr("Close"),
+                            Text::tr("Top hat") });
+    fields << ChoiceField("shape", Text::tr("Shape"), int(settings.shape),
+                          { Text::tr("Square"), Text::tr("Disc") });
+    fields << NumberField("radius", Text::tr("Radius"), settings.radius, 1,
                           isDisc ? MorphologySettings::MostDiscRadius : MorphologySettings::MostSquareRadius, 0, Px());
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const BinningSettings &settings, const Context &) const
 {
-    fields << NumberField("size", Translate("Square"), settings.size, 2, BinningSettings::MostSize, 0, Px());
-    fields << ChoiceField("sums", Translate("Value"), settings.sums ? 1 : 0,
-                          { Translate("Mean"), Translate("Sum") });
+    fields << NumberField("size", Text::tr("Square"), settings.size, 2, BinningSettings::MostSize, 0, Px());
+    fields << ChoiceField("sums", Text::tr("Value"), settings.sums ? 1 : 0,
+                          { Text::tr("Mean"), Text::tr("Sum") });
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const BandPassSettings &settings, const Context &) const
 {
-    fields << NumberField("smallest", Translate("From"), settings.smallest, 0, BandPassSettings::MostLength, 1, Px());
-    fields.last().zeroText = Translate("all small ones");
-    fields.last().toolTip = Translate("Smaller structures are taken away.");
-    fields << NumberField("largest", Translate("To"), settings.largest, 0, BandPassSettings::MostLength, 1, Px());
-    fields.last().zeroText = Translate("all large ones");
-    fields.last().toolTip = Translate("Larger structures are taken away.");
+    fields << NumberField("smallest", Text::tr("From"), settings.smallest, 0, BandPassSettings::MostLength, 1, Px());
+    fields.last().zeroText = Text::tr("all small ones");
+    fields.last().toolTip = Text::tr("Smaller structures are taken away.");
+    fields << NumberField("largest", Text::tr("To"), settings.largest, 0, BandPassSettings::MostLength, 1, Px());
+    fields.last().zeroText = Text::tr("all large ones");
+    fields.last().toolTip = Text::tr("Larger structures are taken away.");
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const ProjectionSettings &settings, const Context &context) const
 {
     AddProjection(fields, settings);
-    fields << NoteField("frames", Translate("Frames"), QString::number(context.frames));
+    fields << NoteField("frames", Text::tr("Frames"), QString::number(context.frames));
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const MergeSettings &settings, const Context &context) const
 {
     AddProjection(fields, settings.projection);
-    const QString none = Translate("Check the other pictures to merge in the list of opened pictures.");
-    fields << NoteField("others", Translate("With"),
+    const QString none = Text::tr("Check the other pictures to merge in the list of opened pictures.");
+    fields << NoteField("others", Text::tr("With"),
                         context.otherNames.isEmpty() ? none : context.otherNames.join('\n'));
 }

@@ -12,7 +12,10 @@
 
 namespace {
 
-QString Translate(const char *text) { return QCoreApplication::translate("PictureAccess", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(PictureAccess)
+};
 
 } // namespace
 
@@ -108,12 +111,12 @@ QString PictureAccess::TakeNews(const FileName &name)
     file->identity = now;
     const QString fileName = QFileInfo(file->name.path).fileName();
     if (isGone)
-        return Translate("\u201c%1\u201d was deleted or moved. It stays open; save it to keep it.")
+        return Text::tr("\u201c%1\u201d was deleted or moved. It stays open; save it to keep it.")
             .arg(fileName);
     if (isSame)
-        return Translate("\u201c%1\u201d was changed on the disk. Open it again to see it as it is now.")
+        return Text::tr("\u201c%1\u201d was changed on the disk. Open it again to see it as it is now.")
             .arg(fileName);
-    return Translate(
+    return Text::tr(
                "\u201c%1\u201d was replaced by another file. What you see is the old one; open it again to see the new one.")
         .arg(fileName);
 }

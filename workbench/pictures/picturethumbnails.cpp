@@ -15,10 +15,10 @@ namespace {
 constexpr double LargeBytes = 64 << 20;
 constexpr double MostBytes = 1 << 30;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("PictureThumbnails", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(PictureThumbnails)
+};
 
 QString NameOf(const QString &path)
 {
@@ -56,14 +56,14 @@ QImage PictureThumbnails::Make(const QString &path, int edge, QString &fault)
             return QImage();
         const double bytes = BytesOf(file->Info());
         if (bytes > MostBytes) {
-            fault = Translate("\u201c%1\u201d is too large for a thumbnail. It can still be opened.").arg(NameOf(path));
+            fault = Text::tr("\u201c%1\u201d is too large for a thumbnail. It can still be opened.").arg(NameOf(path));
             return QImage();
         }
         QMutexLocker lock(bytes > LargeBytes ? &m_large : nullptr);
         Picture frame;
         return file->ReadFrame(0, frame, fault) ? Thumbnail(frame, edge) : QImage();
     } catch (const std::bad_alloc &) {
-        fault = Translate("There is not enough memory for a thumbnail of \u201c%1\u201d.").arg(NameOf(path));
+        fault = Text::tr("There is not enough memory for a thumbnail of \u201c%1\u201d.").arg(NameOf(path));
         return QImage();
     }
 }

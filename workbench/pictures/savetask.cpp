@@ -10,7 +10,10 @@
 
 namespace {
 
-QString Translate(const char *text) { return QCoreApplication::translate("SaveTask", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(SaveTask)
+};
 
 bool HoldsSamples(PictureFormat format, SampleType type)
 {
@@ -95,10 +98,10 @@ QString SavingLossText(PictureFormat format, SampleType type)
 {
     const QString holds = HoldsSamples(format, type)
                               ? QString()
-                              : Translate("The %1 samples become 8 bits, with the levels of the screen.")
+                              : Text::tr("The %1 samples become 8 bits, with the levels of the screen.")
                                     .arg(SampleTypeName(type));
     if (format != PictureFormat::Jpeg)
         return holds;
-    const QString changes = Translate("JPEG changes every sample a little.");
+    const QString changes = Text::tr("JPEG changes every sample a little.");
     return holds.isEmpty() ? changes : changes + ' ' + holds;
 }

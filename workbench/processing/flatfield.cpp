@@ -7,7 +7,10 @@
 
 namespace {
 
-QString Translate(const char *text) { return QCoreApplication::translate("FlatField", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(FlatField)
+};
 
 QString SizeText(const QSize &size) { return QString("%1x%2").arg(size.width()).arg(size.height()); }
 
@@ -41,7 +44,7 @@ cv::Mat Gains(const Picture &reference, int channel)
 Picture FlatFielded(const Picture &picture, const Picture &reference, QString &error)
 {
     if (reference.Size() != picture.Size()) {
-        error = Translate("The reference is %1 pixels and the picture %2. Choose a reference of the same size, and "
+        error = Text::tr("The reference is %1 pixels and the picture %2. Choose a reference of the same size, and "
                           "correct the picture before it is cropped, turned or binned.")
                     .arg(SizeText(reference.Size()), SizeText(picture.Size()));
         return Picture();

@@ -16,7 +16,10 @@
 
 namespace {
 
-QString Translate(const char *text) { return QCoreApplication::translate("Processing", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Processing)
+};
 
 class Step
 {
@@ -34,7 +37,7 @@ public:
     Picture operator()(const FlatFieldSettings &settings) const
     {
         if (settings.reference.isEmpty()) {
-            m_error = Translate("Choose a reference: a picture of an evenly lit field.");
+            m_error = Text::tr("Choose a reference: a picture of an evenly lit field.");
             return Picture();
         }
         Picture reference;
@@ -52,7 +55,7 @@ public:
     Picture operator()(const MergeSettings &settings) const
     {
         if (settings.others.isEmpty()) {
-            m_error = Translate("Check the other pictures to merge in the list of opened pictures.");
+            m_error = Text::tr("Check the other pictures to merge in the list of opened pictures.");
             return Picture();
         }
         const auto read = [&](int index, Picture &frame, QString &error) {
@@ -75,7 +78,7 @@ Picture Processed(const Picture &picture, const ProcessSettings &settings, const
                   const IsUnwanted &isUnwanted, QString &error)
 {
     if (picture.Size().isEmpty()) {
-        error = Translate("There is no picture that could be processed.");
+        error = Text::tr("There is no picture that could be processed.");
         return Picture();
     }
     error = MemoryFault(WorkingBytes(picture, settings), AvailableMemory());
@@ -85,7 +88,7 @@ Picture Processed(const Picture &picture, const ProcessSettings &settings, const
     QString fault;
     CallOpenCv(fault, [&] { result = std::visit(Step(picture, readReference, isUnwanted, error), settings); });
     if (!fault.isEmpty())
-        error = Translate("The picture could not be processed: %1.").arg(fault);
+        error = Text::tr("The picture could not be processed: %1.").arg(fault);
     return result;
 }
 
@@ -116,6 +119,6 @@ QString MemoryFault(qint64 wantedBytes, qint64 availableBytes)
 {
     if (availableBytes < 0 || wantedBytes <= availableBytes)
         return QString();
-    return Translate("This needs %1 of memory, and %2 is free. Close other pictures or programs.")
+    return Text::tr("This needs %1 of memory, and %2 is free. Close other pictures or programs.")
         .arg(QLocale().formattedDataSize(wantedBytes), QLocale().formattedDataSize(availableBytes));
 }

@@ -19,7 +19,10 @@ constexpr int CardBytes = 80;
 constexpr int HeaderBytes = 8 * BlockBytes;
 constexpr quint16 SignBit = 0x8000; ///< what BZERO 32768 does to the samples
 
-QString Translate(const char *text) { return QCoreApplication::translate("FitsRunWriter", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(FitsRunWriter)
+};
 
 QByteArray Card(const char *keyword, const QByteArray &value)
 {
@@ -69,8 +72,8 @@ QByteArray FitsRunWriter::Header(int frames) const
 bool FitsRunWriter::CreateData(FileFault &fault)
 {
     if (Facts().Channels() != 1)
-        return fault.Set(Translate("a FITS cube holds frames of one channel, not colour"),
-                         Translate("Record colour as TIFF or PNG."));
+        return fault.Set(Text::tr("a FITS cube holds frames of one channel, not colour"),
+                         Text::tr("Record colour as TIFF or PNG."));
     m_rows.resize(size_t(Facts().FrameBytes()));
     return m_cube.Create(UnfinishedPath(), Header(0), Facts().FrameBytes(), fault);
 }
@@ -189,7 +192,7 @@ bool FitsRunWriter::AddFactsAndTable(const RunOutcome &outcome, FileFault &fault
     if (status == 0 && closeStatus == 0)
         return true;
     const int failed = status != 0 ? status : closeStatus;
-    fault.Set(Translate("its header or its table of frames could not be written"), DiskAdvice(),
+    fault.Set(Text::tr("its header or its table of frames could not be written"), DiskAdvice(),
               session.TakeMessages(failed));
     fault.isDiskFull = failed == WRITE_ERROR;
     return false;

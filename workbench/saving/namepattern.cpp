@@ -12,7 +12,10 @@ namespace {
 constexpr int LongestName = 200; // bytes; file systems take 255, and numbers and suffixes follow
 constexpr int MostDigits = 9;
 
-QString Translate(const char *text) { return QCoreApplication::translate("NamePattern", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(NamePattern)
+};
 
 const QRegularExpression &Token()
 {
@@ -66,16 +69,16 @@ void NamePattern::Check()
         m_hasNumber = m_hasNumber || isNumber;
         if (!isNumber && !known.contains(token) && m_fault.isEmpty()) {
             m_fault =
-                Translate(
+                Text::tr(
                     "\"{%1}\" is not known. There are {camera}, {date}, {time}, {exposure}, {gain}, {number} and {number:4}.")
                     .arg(token);
         }
     }
     rest.remove(Token());
     if (m_fault.isEmpty() && (rest.contains('{') || rest.contains('}')))
-        m_fault = Translate("A brace is left open. Write {date}, for instance.");
+        m_fault = Text::tr("A brace is left open. Write {date}, for instance.");
     if (m_fault.isEmpty() && m_pattern.trimmed().isEmpty())
-        m_fault = Translate("The name is empty.");
+        m_fault = Text::tr("The name is empty.");
 }
 
 QString NamePattern::Name(const Values &values, int number) const

@@ -20,7 +20,10 @@ namespace {
 /// Of 0 to 100: little compression, for speed.
 constexpr int PngQuality = 90;
 
-QString Translate(const char *text) { return QCoreApplication::translate("PngRunWriter", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(PngRunWriter)
+};
 
 QString UnfinishedName(const QString &path) { return path + ".part"; }
 
@@ -54,8 +57,8 @@ bool PngRunWriter::CheckName(FileFault &fault) const
     const QFileInfo first(FramePath(Path(), 0));
     if (!first.exists())
         return true;
-    return fault.Set(Translate("a sequence of that name is there already"),
-                     Translate("Choose another name; recordings never replace a file."));
+    return fault.Set(Text::tr("a sequence of that name is there already"),
+                     Text::tr("Choose another name; recordings never replace a file."));
 }
 
 /// There is nothing to make before the first frame.
@@ -86,7 +89,7 @@ bool PngRunWriter::AppendFrame(const uchar *samples, const FrameStamp &stamp, Fi
     writer.setText("CameraTime", QString("%1 ns").arg(stamp.cameraTimeNs));
     writer.setText("HostTime", QString("%1 ns").arg(stamp.hostTimeNs));
     if (!writer.write(image))
-        return fault.Set(Translate("frame %1 could not be compressed").arg(FramesWritten() + 1),
+        return fault.Set(Text::tr("frame %1 could not be compressed").arg(FramesWritten() + 1),
                          MemoryAdvice(), writer.errorString());
     const QString path = FramePath(Path(), m_placed);
     RunDisk disk;
@@ -158,7 +161,7 @@ bool PngRunWriter::AddLedger(const RunOutcome &outcome, FileFault &fault) const
     QBuffer buffer(&bytes);
     RunDisk disk;
     if (stored.isNull() || !image.save(&buffer, "png", PngQuality))
-        return fault.Set(Translate("its first frame could not be read again"), DiskAdvice());
+        return fault.Set(Text::tr("its first frame could not be read again"), DiskAdvice());
     const bool isWritten = disk.Create(UnfinishedName(path), fault)
                            && disk.Write(bytes.constData(), bytes.size(), fault) && disk.Synchronise(fault);
     if (isWritten

@@ -15,7 +15,10 @@
 
 namespace {
 
-QString Translate(const char *text) { return QCoreApplication::translate("RunDisk", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(RunDisk)
+};
 
 /// What the system says, and what the user can do about it.
 bool SetFaultText(FileFault &fault, int reason)
@@ -23,32 +26,32 @@ bool SetFaultText(FileFault &fault, int reason)
     switch (reason) {
     case ENOSPC:
     case EDQUOT:
-        return fault.Set(Translate("the disk is full"),
-                         Translate("Free some space or record to another disk; the frames before are kept."));
+        return fault.Set(Text::tr("the disk is full"),
+                         Text::tr("Free some space or record to another disk; the frames before are kept."));
     case EFBIG:
-        return fault.Set(Translate("the file has become larger than this disk allows"),
-                         Translate("Record fewer frames, or to another disk; the frames before are kept."));
+        return fault.Set(Text::tr("the file has become larger than this disk allows"),
+                         Text::tr("Record fewer frames, or to another disk; the frames before are kept."));
     case EEXIST:
-        return fault.Set(Translate("a file of that name is there already"),
-                         Translate("Choose another name; recordings never replace a file."));
+        return fault.Set(Text::tr("a file of that name is there already"),
+                         Text::tr("Choose another name; recordings never replace a file."));
     case EACCES:
     case EPERM:
     case EROFS:
-        return fault.Set(Translate("you may not write in that folder"),
-                         Translate("Choose another folder, or ask for the right to write there."));
+        return fault.Set(Text::tr("you may not write in that folder"),
+                         Text::tr("Choose another folder, or ask for the right to write there."));
     case ENOENT:
     case ENOTDIR:
     case ENAMETOOLONG:
-        return fault.Set(Translate("that folder does not exist"),
-                         Translate("Choose a folder that is there."));
+        return fault.Set(Text::tr("that folder does not exist"),
+                         Text::tr("Choose a folder that is there."));
     case EIO:
     case ENODEV:
     case ENXIO:
         return fault.Set(
-            Translate("the disk does not answer"),
-            Translate("Check that it is still connected; what was written before may be readable."));
+            Text::tr("the disk does not answer"),
+            Text::tr("Check that it is still connected; what was written before may be readable."));
     default:
-        return fault.Set(qt_error_string(reason), Translate("Check the disk, or record to another one."));
+        return fault.Set(qt_error_string(reason), Text::tr("Check the disk, or record to another one."));
     }
 }
 

@@ -15,7 +15,10 @@ constexpr double MsPerSecond = 1000.0;
 constexpr qint64 ReserveBytes = 256 << 20;
 constexpr qint64 MemoryReserveShare = 10; ///< of the free memory at least a tenth
 
-QString Translate(const char *text) { return QCoreApplication::translate("RunEstimate", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(RunEstimate)
+};
 
 double KeptPerSecond(const RecordingSettings &settings, double framesPerSecond)
 {
@@ -69,14 +72,14 @@ RunEstimate RunEstimate::Make(const RecordingSettings &settings, qint64 frameByt
     if (estimate.framesThatFit < 0)
         return estimate;
     const bool isMemory = estimate.framesThatFit == inMemory && inMemory != onDisk;
-    const QString place = isMemory ? Translate("memory") : Translate("disk");
+    const QString place = isMemory ? Text::tr("memory") : Text::tr("disk");
     const qint64 freeBytes = isMemory ? resources.freeMemoryBytes : resources.freeDiskBytes;
     const qint64 usableBytes = isMemory ? resources.MemoryForFrames() : diskBytes;
     if (estimate.framesThatFit == 0 || estimate.frames > estimate.framesThatFit) {
         estimate.warning =
-            Translate("The run needs %1, and the %2 has %3 free, of which %4 are left to the system: room for %5 "
+            Text::tr("The run needs %1, and the %2 has %3 free, of which %4 are left to the system: room for %5 "
                       "frames.")
-                .arg(estimate.bytes < 0 ? Translate("more than one frame") : ByteText(estimate.bytes), place,
+                .arg(estimate.bytes < 0 ? Text::tr("more than one frame") : ByteText(estimate.bytes), place,
                      ByteText(freeBytes), ByteText(freeBytes - usableBytes))
                 .arg(estimate.framesThatFit);
     }

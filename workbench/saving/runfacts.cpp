@@ -11,7 +11,10 @@ namespace {
 constexpr int LargestSide = 1 << 20;
 constexpr int ListedChanges = 50;
 
-QString Translate(const char *text) { return QCoreApplication::translate("RunFacts", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(RunFacts)
+};
 
 /// "12500", or "500 to 12500" of what changed in the run.
 QString RangeText(double start, const QVector<SettingsChange> &changes, double SettingsChange::*value)
@@ -23,12 +26,12 @@ QString RangeText(double start, const QVector<SettingsChange> &changes, double S
         most = qMax(most, change.*value);
     }
     const QString text = QString::number(least, 'g', 12);
-    return least < most ? Translate("%1 to %2").arg(text).arg(most, 0, 'g', 12) : text;
+    return least < most ? Text::tr("%1 to %2").arg(text).arg(most, 0, 'g', 12) : text;
 }
 
 QString SettingText(const QString &value, bool isAuto)
 {
-    return isAuto ? Translate("automatic, %1").arg(value) : value;
+    return isAuto ? Text::tr("automatic, %1").arg(value) : value;
 }
 
 bool IsAny(bool start, const QVector<SettingsChange> &changes, bool SettingsChange::*flag)
@@ -42,13 +45,13 @@ void AddChanges(const QVector<SettingsChange> &changes, QVector<std::pair<QStrin
 {
     for (const SettingsChange &change : changes.mid(0, ListedChanges))
         lines->append(
-            { Translate("From about frame %1 on").arg(change.frame + 1),
-              Translate("exposure %1, gain %2, %3 frames/s")
-                  .arg(SettingText(Translate("%1 us").arg(change.exposureUs, 0, 'g', 12), change.isAutoExposure),
+            { Text::tr("From about frame %1 on").arg(change.frame + 1),
+              Text::tr("exposure %1, gain %2, %3 frames/s")
+                  .arg(SettingText(Text::tr("%1 us").arg(change.exposureUs, 0, 'g', 12), change.isAutoExposure),
                        SettingText(QString::number(change.gain), change.isAutoGain))
                   .arg(change.framesPerSecond, 0, 'g', 6) });
     if (changes.size() > ListedChanges)
-        lines->append({ Translate("Later changes"), QString::number(changes.size() - ListedChanges) });
+        lines->append({ Text::tr("Later changes"), QString::number(changes.size() - ListedChanges) });
 }
 
 QString SizeText(const QSize &size) { return QString("%1 x %2").arg(size.width()).arg(size.height()); }
@@ -70,32 +73,32 @@ bool LayoutFromName(const QString &name, PixelLayout *layout)
 QVector<std::pair<QString, QString>> RunFacts::Lines() const
 {
     QVector<std::pair<QString, QString>> lines{
-        { Translate("Camera"), QString("%1 %2").arg(vendor, model).trimmed() },
-        { Translate("Serial number"), serial },
-        { Translate("Firmware"), firmware },
-        { Translate("Start"), start.toString(Qt::ISODateWithMs) },
-        { Translate("Exposure"),
-          SettingText(Translate("%1 us").arg(RangeText(exposureUs, changes, &SettingsChange::exposureUs)),
+        { Text::tr("Camera"), QString("%1 %2").arg(vendor, model).trimmed() },
+        { Text::tr("Serial number"), serial },
+        { Text::tr("Firmware"), firmware },
+        { Text::tr("Start"), start.toString(Qt::ISODateWithMs) },
+        { Text::tr("Exposure"),
+          SettingText(Text::tr("%1 us").arg(RangeText(exposureUs, changes, &SettingsChange::exposureUs)),
                       IsAny(isAutoExposure, changes, &SettingsChange::isAutoExposure)) },
-        { Translate("Gain"), SettingText(RangeText(gain, changes, &SettingsChange::gain),
+        { Text::tr("Gain"), SettingText(RangeText(gain, changes, &SettingsChange::gain),
                                          IsAny(isAutoGain, changes, &SettingsChange::isAutoGain)) },
-        { Translate("Frame rate"),
-          Translate("%1 frames/s").arg(RangeText(framesPerSecond, changes, &SettingsChange::framesPerSecond)) },
-        { Translate("Region"), Translate("%1 x %2 from (%3, %4)")
+        { Text::tr("Frame rate"),
+          Text::tr("%1 frames/s").arg(RangeText(framesPerSecond, changes, &SettingsChange::framesPerSecond)) },
+        { Text::tr("Region"), Text::tr("%1 x %2 from (%3, %4)")
                                    .arg(region.width())
                                    .arg(region.height())
                                    .arg(region.x())
                                    .arg(region.y()) },
-        { Translate("Binning"), SizeText(binning) },
-        { Translate("Frame size"), SizeText(frameSize) },
-        { Translate("Pixel format"), PixelLayoutName(layout) },
-        { Translate("Bit depth"), Translate("%1 bit").arg(BitDepth()) },
+        { Text::tr("Binning"), SizeText(binning) },
+        { Text::tr("Frame size"), SizeText(frameSize) },
+        { Text::tr("Pixel format"), PixelLayoutName(layout) },
+        { Text::tr("Bit depth"), Text::tr("%1 bit").arg(BitDepth()) },
     };
     if (intervalMs > 0)
-        lines.append({ Translate("Time-lapse"), Translate("one frame each %1 ms").arg(intervalMs) });
+        lines.append({ Text::tr("Time-lapse"), Text::tr("one frame each %1 ms").arg(intervalMs) });
     if (pixelSizeUm > 0)
-        lines.append({ Translate("Pixel size"), Translate("%1 um").arg(pixelSizeUm) });
-    lines.append({ Translate("Recorded by"), software });
+        lines.append({ Text::tr("Pixel size"), Text::tr("%1 um").arg(pixelSizeUm) });
+    lines.append({ Text::tr("Recorded by"), software });
     AddChanges(changes, &lines);
     return lines;
 }
@@ -170,15 +173,15 @@ QString RunOutcome::EndText() const
 {
     switch (end) {
     case RunEnd::Complete:
-        return Translate("complete");
+        return Text::tr("complete");
     case RunEnd::Stopped:
-        return Translate("stopped by the user");
+        return Text::tr("stopped by the user");
     case RunEnd::CameraLost:
-        return Translate("the camera was lost");
+        return Text::tr("the camera was lost");
     case RunEnd::Fault:
-        return Translate("ended by a fault");
+        return Text::tr("ended by a fault");
     case RunEnd::Repaired:
-        return Translate("the program had ended in mid-run; repaired later");
+        return Text::tr("the program had ended in mid-run; repaired later");
     }
     return QString();
 }

@@ -24,7 +24,10 @@ constexpr quint64 AutoGainBit = 2;
 
 using Record = std::array<uchar, RecordBytes>;
 
-QString Translate(const char *text) { return QCoreApplication::translate("RunJournal", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(RunJournal)
+};
 
 Record ToRecord(const FrameStamp &stamp)
 {
@@ -125,11 +128,11 @@ bool RunJournal::TakeOver(const QString &recording, Content *content, FileFault 
     if (!m_disk.OpenExisting(PathFor(recording), fault))
         return false;
     if (!m_disk.Lock())
-        return fault.Set(Translate("it is still being recorded"),
-                         Translate("Wait until that run has ended."));
+        return fault.Set(Text::tr("it is still being recorded"),
+                         Text::tr("Wait until that run has ended."));
     if (!ReadHeader(m_disk, content))
-        return fault.Set(Translate("the journal beside it makes no sense"),
-                         Translate("Keep the file and ask for help; its frames may be readable by hand."));
+        return fault.Set(Text::tr("the journal beside it makes no sense"),
+                         Text::tr("Keep the file and ask for help; its frames may be readable by hand."));
     Record record;
     while (m_disk.Read(record.data(), RecordBytes))
         TakeRecord(FromRecord(record.data()), content);

@@ -9,7 +9,10 @@ namespace {
 
 constexpr int ListedFiles = 3;
 
-QString Translate(const char *text) { return QCoreApplication::translate("RunReceipt", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(RunReceipt)
+};
 
 } // namespace
 
@@ -27,10 +30,10 @@ QString RunReceipt::Text() const
     for (const QString &file : files.size() > ListedFiles
                                    ? QStringList{ files.first(), "...", files[files.size() - 2], files.last() }
                                    : files)
-        text += Translate("File") + ": " + file + '\n';
+        text += Text::tr("File") + ": " + file + '\n';
     if (!error.isEmpty())
-        text += Translate("Error") + ": " + error + '\n';
+        text += Text::tr("Error") + ": " + error + '\n';
     if (!warning.isEmpty())
-        text += Translate("Warning") + ": " + warning + '\n';
+        text += Text::tr("Warning") + ": " + warning + '\n';
     return text;
 }

@@ -18,7 +18,10 @@ namespace {
 
 constexpr qint64 LargestEntry = 32 << 10;
 
-QString Translate(const char *text) { return QCoreApplication::translate("RunRegister", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(RunRegister)
+};
 
 /// Of the folder that holds the file; 0 when it is not there. A mount point is another folder while its disk is away.
 quint64 FolderId(const QString &path)
@@ -101,8 +104,8 @@ RepairedRun Repair(const QString &recording)
     if (!ReadFormat(recording, &format, &fault))
         return GivenUp(recording, fault);
     if (format != RunFormat::Png && !QFileInfo::exists(UnfinishedRunPath(recording))) {
-        fault.Set(Translate("the file with its frames is gone"),
-                  Translate("If you have moved it, move its journal beside it and ask for help."));
+        fault.Set(Text::tr("the file with its frames is gone"),
+                  Text::tr("If you have moved it, move its journal beside it and ask for help."));
         return GivenUp(recording, fault);
     }
     RepairedRun run;
@@ -118,8 +121,8 @@ RepairedRun Repair(const QString &recording)
     } else if (run.torn == 0) {
         writer->Discard(); // nothing that any program could open
     } else {
-        fault.Set(Translate("not one of its frames is whole"),
-                  Translate("Keep the file and ask for help; parts of its frames may be readable by hand."));
+        fault.Set(Text::tr("not one of its frames is whole"),
+                  Text::tr("Keep the file and ask for help; parts of its frames may be readable by hand."));
         return GivenUp(recording, fault);
     }
     return run;

@@ -15,7 +15,10 @@ namespace {
 constexpr int ListedGaps = 50;
 constexpr double NsPerSecond = 1e9;
 
-QString Translate(const char *text) { return QCoreApplication::translate("RunSummary", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(RunSummary)
+};
 
 struct StageRow
 {
@@ -36,7 +39,7 @@ QString LostText(const FrameCounts &counts)
     QStringList parts;
     for (const StageRow &row : stageTable) {
         if (const quint64 lost = counts.LostAt(row.stage))
-            parts << QString("%1 %2").arg(lost).arg(Translate(row.text));
+            parts << QString("%1 %2").arg(lost).arg(Text::tr(row.text));
     }
     const QString total = QString::number(counts.Lost());
     return parts.isEmpty() ? total : QString("%1 (%2)").arg(total, parts.join(", "));
@@ -47,8 +50,8 @@ QString LostText(const RunOutcome &outcome)
 {
     if (outcome.end != RunEnd::Repaired)
         return LostText(outcome.counts);
-    return outcome.counts.Lost() == 0 ? Translate("not known")
-                                      : Translate("not known, at least %1").arg(LostText(outcome.counts));
+    return outcome.counts.Lost() == 0 ? Text::tr("not known")
+                                      : Text::tr("not known, at least %1").arg(LostText(outcome.counts));
 }
 
 QVector<IdGap> GapsBetween(const QVector<FrameStamp> &stamps)
@@ -95,12 +98,12 @@ QString GapText(const IdGap &gap)
 QString GapsText(const QVector<IdGap> &gaps)
 {
     if (gaps.isEmpty())
-        return Translate("none");
+        return Text::tr("none");
     QStringList texts;
     for (const IdGap &gap : gaps.mid(0, ListedGaps))
         texts << GapText(gap);
     if (gaps.size() > ListedGaps)
-        texts << Translate("and %1 more").arg(gaps.size() - ListedGaps);
+        texts << Text::tr("and %1 more").arg(gaps.size() - ListedGaps);
     return texts.join(", ");
 }
 
@@ -114,14 +117,14 @@ void WriteText(QTextStream &out, const RunFacts &facts, const RunOutcome &outcom
                const QVector<FrameStamp> &stamps, const QStringList &files)
 {
     out.setCodec("UTF-8");
-    out << Translate("Recording") << ": " << QFileInfo(files.value(0)).fileName();
+    out << Text::tr("Recording") << ": " << QFileInfo(files.value(0)).fileName();
     if (files.size() > 1)
         out << " ... " << QFileInfo(files.last()).fileName();
     out << "\n\n";
     WriteLines(out, OutcomeLines(facts, outcome, stamps));
     out << '\n';
     WriteLines(out, facts.Lines());
-    out << '\n' << Translate("frame\tframe id\tcamera time (ns)\thost time (ns)") << '\n';
+    out << '\n' << Text::tr("frame\tframe id\tcamera time (ns)\thost time (ns)") << '\n';
     for (int i = 0; i < stamps.size(); ++i)
         out << i + 1 << '\t' << stamps[i].frameId << '\t' << stamps[i].cameraTimeNs << '\t'
             << stamps[i].hostTimeNs << '\n';
@@ -157,17 +160,17 @@ QVector<std::pair<QString, QString>> OutcomeLines(const RunFacts &facts, const R
     if (!outcome.reason.isEmpty())
         end += QString(" (%1)").arg(outcome.reason);
     QVector<std::pair<QString, QString>> lines{
-        { Translate("Run"), end },
-        { Translate("Frames captured"), outcome.end == RunEnd::Repaired
-                                            ? Translate("not known")
+        { Text::tr("Run"), end },
+        { Text::tr("Frames captured"), outcome.end == RunEnd::Repaired
+                                            ? Text::tr("not known")
                                             : QString::number(outcome.counts.captured) },
-        { Translate("Frames saved"), QString::number(outcome.counts.saved) },
-        { Translate("Frames lost"), LostText(outcome) },
+        { Text::tr("Frames saved"), QString::number(outcome.counts.saved) },
+        { Text::tr("Frames lost"), LostText(outcome) },
     };
     if (facts.intervalMs == 0)
-        lines.append({ Translate("Frame ids missing"), GapsText(MissingIds(outcome, stamps)) });
-    lines.append({ Translate("Average rate"), Translate("%1 frames/s").arg(AverageRate(stamps), 0, 'f', 2) });
-    lines.append({ Translate("Checksum (XXH3)"), RunChecksum::ToText(RunChecksum::OfRun(stamps)) });
+        lines.append({ Text::tr("Frame ids missing"), GapsText(MissingIds(outcome, stamps)) });
+    lines.append({ Text::tr("Average rate"), Text::tr("%1 frames/s").arg(AverageRate(stamps), 0, 'f', 2) });
+    lines.append({ Text::tr("Checksum (XXH3)"), RunChecksum::ToText(RunChecksum::OfRun(stamps)) });
     return lines;
 }
 
@@ -178,7 +181,7 @@ QString WriteRunSummary(const QString &recording, const RunFacts &facts, const R
     for (int attempt = 0; !file.isOpen(); ++attempt) {
         file.setFileName(SummaryPath(recording, attempt));
         if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Text) && !file.exists()) {
-            fault.Set(Translate("its summary could not be written"), DiskAdvice(), file.errorString());
+            fault.Set(Text::tr("its summary could not be written"), DiskAdvice(), file.errorString());
             return QString();
         }
     }
@@ -186,7 +189,7 @@ QString WriteRunSummary(const QString &recording, const RunFacts &facts, const R
     WriteText(out, facts, outcome, stamps, files);
     if (file.flush() && out.status() == QTextStream::Ok)
         return file.fileName();
-    fault.Set(Translate("its summary could not be written"), DiskAdvice(), file.errorString());
+    fault.Set(Text::tr("its summary could not be written"), DiskAdvice(), file.errorString());
     file.remove();
     return QString();
 }

@@ -17,7 +17,10 @@ namespace {
 constexpr int SyncPeriodMs = 1000;
 constexpr int MostNames = 1000;
 
-QString Translate(const char *text) { return QCoreApplication::translate("RunWriter", text); }
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(RunWriter)
+};
 
 bool Report(bool done, const QString &path, const FileFault &fault, QString *error)
 {
@@ -55,8 +58,8 @@ bool RunWriter::CheckName(FileFault &fault) const
 {
     if (!QFileInfo::exists(m_path))
         return true;
-    return fault.Set(Translate("a file of that name is there already"),
-                     Translate("Choose another name; recordings never replace a file."));
+    return fault.Set(Text::tr("a file of that name is there already"),
+                     Text::tr("Choose another name; recordings never replace a file."));
 }
 
 bool RunWriter::Resume(QString *error)
@@ -156,11 +159,11 @@ bool RunWriter::Write(const CameraFrame &frame, QString *error)
 {
     FileFault fault;
     if (QSize(frame.width, frame.height) != m_facts.frameSize || frame.layout != m_facts.layout) {
-        fault.Set(Translate("a frame of another size or pixel format came (%1 x %2, %3)")
+        fault.Set(Text::tr("a frame of another size or pixel format came (%1 x %2, %3)")
                       .arg(frame.width)
                       .arg(frame.height)
                       .arg(PixelLayoutName(frame.layout)),
-                  Translate("Change the camera's format between recordings only."));
+                  Text::tr("Change the camera's format between recordings only."));
         return Report(false, m_path, fault, error);
     }
     const uchar *samples = Packed(frame);

@@ -10,10 +10,10 @@ namespace {
 
 constexpr double nanometresPerCentimetre = 1e7;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("CalibratedAxis", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CalibratedAxis)
+};
 
 /// Nanometres and wavenumbers are each other's inverse; a Raman shift stays what it is.
 double Converted(double value, SpectralUnit from, SpectralUnit to)
@@ -59,10 +59,10 @@ double CalibratedAxis::FileValue(double pixel) const
 QString CalibratedAxis::Title() const
 {
     switch (Unit()) {
-    case SpectralUnit::Nanometre: return Translate("Wavelength [nm]");
-    case SpectralUnit::Wavenumber: return Translate("Wavenumber [1/cm]");
-    case SpectralUnit::RamanShift: return Translate("Raman Shift [1/cm]");
+    case SpectralUnit::Nanometre: return Text::tr("Wavelength [nm]");
+    case SpectralUnit::Wavenumber: return Text::tr("Wavenumber [1/cm]");
+    case SpectralUnit::RamanShift: return Text::tr("Raman Shift [1/cm]");
     case SpectralUnit::Pixel: break;
     }
-    return Translate("Pixel Number");
+    return Text::tr("Pixel Number");
 }

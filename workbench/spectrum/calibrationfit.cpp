@@ -12,10 +12,10 @@ namespace {
 constexpr double samePixel = 0.5;
 constexpr double sameNm = 1e-4;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("CalibrationFit", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CalibrationFit)
+};
 
 SpectralCalibration Solve(const QVector<CalibrationPoint> &points, int degree, int width)
 {
@@ -39,10 +39,10 @@ SpectralCalibration Solve(const QVector<CalibrationPoint> &points, int degree, i
 QString FaultOfPair(const CalibrationPoint &one, const CalibrationPoint &other)
 {
     if (std::abs(one.pixel - other.pixel) < samePixel)
-        return Translate("Two points lie at pixel %1 (%2 nm and %3 nm): remove one of them.")
+        return Text::tr("Two points lie at pixel %1 (%2 nm and %3 nm): remove one of them.")
             .arg(one.pixel, 0, 'f', 2).arg(one.nm, 0, 'f', 3).arg(other.nm, 0, 'f', 3);
     if (std::abs(one.nm - other.nm) < sameNm)
-        return Translate("Two points have the wavelength %1 nm (at pixel %2 and %3): give one of them another line.")
+        return Text::tr("Two points have the wavelength %1 nm (at pixel %2 and %3): give one of them another line.")
             .arg(one.nm, 0, 'f', 3).arg(one.pixel, 0, 'f', 2).arg(other.pixel, 0, 'f', 2);
     return QString();
 }
@@ -50,10 +50,10 @@ QString FaultOfPair(const CalibrationPoint &one, const CalibrationPoint &other)
 QString FaultOf(const QVector<CalibrationPoint> &points, int degree, int width)
 {
     if (degree < LeastCalibrationDegree || degree > MostCalibrationDegree)
-        return Translate("The degree must be from %1 to %2.").arg(LeastCalibrationDegree).arg(MostCalibrationDegree);
+        return Text::tr("The degree must be from %1 to %2.").arg(LeastCalibrationDegree).arg(MostCalibrationDegree);
     for (const CalibrationPoint &point : points) {
         if (!std::isfinite(point.nm) || !(point.pixel >= 0 && point.pixel <= width - 1))
-            return Translate("The point at pixel %1 lies outside the spectrum of %2 pixels: remove it.").arg(point.pixel).arg(width);
+            return Text::tr("The point at pixel %1 lies outside the spectrum of %2 pixels: remove it.").arg(point.pixel).arg(width);
     }
     for (int i = 0; i < points.size(); ++i) {
         for (int k = i + 1; k < points.size(); ++k) {
@@ -63,7 +63,7 @@ QString FaultOf(const QVector<CalibrationPoint> &points, int degree, int width)
         }
     }
     if (points.size() <= degree)
-        return Translate("A polynomial of degree %1 needs at least %2 points and there are %3: assign more lines or choose a lower degree.")
+        return Text::tr("A polynomial of degree %1 needs at least %2 points and there are %3: assign more lines or choose a lower degree.")
             .arg(degree).arg(degree + 1).arg(points.size());
     return QString();
 }
@@ -107,7 +107,7 @@ CalibrationFit FitCalibration(const QVector<CalibrationPoint> &points, int degre
     const SpectralCalibration calibration = Solve(points, degree, width);
     double turn = 0;
     if (!calibration.IsSteady(&turn)) {
-        fit.fault = Translate("With these points the wavelength does not rise or fall steadily (it turns at pixel %1): check which line "
+        fit.fault = Text::tr("With these points the wavelength does not rise or fall steadily (it turns at pixel %1): check which line "
                               "each point has, or choose a lower degree.").arg(turn, 0, 'f', 0);
         return fit;
     }

@@ -19,10 +19,10 @@ constexpr double rayShare = 0.05;
 /// When more than that share of the samples jumps the light has changed.
 constexpr double mostRayShare = 0.05;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("SpectrumCorrections", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(SpectrumCorrections)
+};
 
 double MiddleOf(double a, double b, double c)
 {
@@ -147,25 +147,25 @@ QString SpectrumCorrections::Description(int count) const
 {
     QStringList parts;
     if (m_settings.removesCosmicRays)
-        parts << Translate("cosmic rays removed");
+        parts << Text::tr("cosmic rays removed");
     if (m_settings.averaged > 1)
-        parts << Translate("average of %1").arg(m_settings.averaged);
+        parts << Text::tr("average of %1").arg(m_settings.averaged);
     if (m_settings.subtractsDark)
-        parts << (HasDark(count) ? Translate("dark subtracted") : Translate("no dark spectrum of this width to subtract"));
+        parts << (HasDark(count) ? Text::tr("dark subtracted") : Text::tr("no dark spectrum of this width to subtract"));
     const bool wantsReference = m_settings.subtractsReference || m_settings.quantity != SpectrumQuantity::Counts;
     if (wantsReference && !HasReference(count))
-        parts << Translate("no reference spectrum of this width");
+        parts << Text::tr("no reference spectrum of this width");
     else if (m_settings.quantity == SpectrumQuantity::Transmission)
-        parts << Translate("transmission in 1/100 %");
+        parts << Text::tr("transmission in 1/100 %");
     else if (m_settings.quantity == SpectrumQuantity::Absorbance)
-        parts << Translate("absorbance in 1/10000");
+        parts << Text::tr("absorbance in 1/10000");
     else if (m_settings.subtractsReference)
-        parts << Translate("reference subtracted");
+        parts << Text::tr("reference subtracted");
     if (m_settings.removesBaseline)
-        parts << Translate("baseline removed");
+        parts << Text::tr("baseline removed");
     if (m_settings.smoothing >= 3)
-        parts << Translate("smoothed over %1 samples").arg(m_settings.smoothing / 2 * 2 + 1);
-    return parts.isEmpty() ? Translate("No correction is on.") : Translate("Corrections: %1.").arg(parts.join(Translate(", ")));
+        parts << Text::tr("smoothed over %1 samples").arg(m_settings.smoothing / 2 * 2 + 1);
+    return parts.isEmpty() ? Text::tr("No correction is on.") : Text::tr("Corrections: %1.").arg(parts.join(Text::tr(", ")));
 }
 
 std::vector<double> Baseline(const std::vector<double> &samples, int reach)

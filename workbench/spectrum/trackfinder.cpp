@@ -14,10 +14,10 @@ constexpr double darkShare = 0.2;
 constexpr double leastDeviations = 8;
 constexpr double leastShareOfBrightest = 0.01;
 
-QString Translate(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("TrackFinder", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(TrackFinder)
+};
 
 double QuantileOf(std::vector<double> values, double share)
 {
@@ -70,17 +70,17 @@ std::vector<RowBand> FindBands(const std::vector<double> &profile)
 QString TracksFault(const QList<QRectF> &tracks, QSize frame, int most)
 {
     if (tracks.isEmpty())
-        return Translate("There are no tracks: draw them on the picture or have them found.");
+        return Text::tr("There are no tracks: draw them on the picture or have them found.");
     if (tracks.size() > most)
-        return Translate("There are %1 tracks and the plot shows %2 at most: take some away.").arg(tracks.size()).arg(most);
+        return Text::tr("There are %1 tracks and the plot shows %2 at most: take some away.").arg(tracks.size()).arg(most);
     for (int i = 0; i < tracks.size(); ++i) {
         const QRectF &track = tracks[i];
         if (!(track.height() >= 1) || !(track.top() >= 0) || !(track.bottom() <= frame.height()))
-            return Translate("Track %1 (rows %2 to %3) lies outside the sensor of %4 rows: move or remove it.")
+            return Text::tr("Track %1 (rows %2 to %3) lies outside the sensor of %4 rows: move or remove it.")
                 .arg(i + 1).arg(track.top(), 0, 'f', 0).arg(track.bottom(), 0, 'f', 0).arg(frame.height());
         for (int k = 0; k < i; ++k) {
             if (track.top() < tracks[k].bottom() && tracks[k].top() < track.bottom())
-                return Translate("Tracks %1 and %2 overlap: move or remove one of them.").arg(k + 1).arg(i + 1);
+                return Text::tr("Tracks %1 and %2 overlap: move or remove one of them.").arg(k + 1).arg(i + 1);
         }
     }
     return QString();
