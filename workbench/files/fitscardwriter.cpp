@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fitscardwriter.h"
 
+#include "fitstext.h"
+
 #include <QRegularExpression>
 
 namespace {
@@ -12,26 +14,13 @@ bool IsKeyword(const QString &key)
     return pattern.match(key).hasMatch();
 }
 
-/// FITS knows the printable letters of ASCII only.
-QByteArray Printable(const QString &text)
-{
-    QByteArray bytes = text.toLatin1();
-    for (char &byte : bytes) {
-        if (byte == '\n' || byte == '\t' || byte == '\r')
-            byte = ' ';
-        else if (byte < ' ' || byte > '~')
-            byte = '?';
-    }
-    return bytes;
-}
-
 void WriteKeyword(fitsfile *fits, const MetadataEntry &entry, int *status)
 {
     constexpr int keyLetters = 8;
     constexpr int cardLetters = 80;
-    const QByteArray key = Printable(entry.key);
-    const QByteArray value = Printable(entry.value);
-    const QByteArray comment = Printable(entry.comment);
+    const QByteArray key = FitsText(entry.key);
+    const QByteArray value = FitsText(entry.value);
+    const QByteArray comment = FitsText(entry.comment);
     if (entry.isText) {
         fits_write_key_longstr(fits, key.constData(), value.constData(), comment.constData(), status);
         return;
@@ -45,11 +34,11 @@ void WriteKeyword(fitsfile *fits, const MetadataEntry &entry, int *status)
 void WriteFitsCard(fitsfile *fits, const MetadataEntry &entry, int *status)
 {
     if (entry.key == "HISTORY")
-        fits_write_history(fits, Printable(entry.value).constData(), status);
+        fits_write_history(fits, FitsText(entry.value).constData(), status);
     else if (entry.key == "COMMENT")
-        fits_write_comment(fits, Printable(entry.value).constData(), status);
+        fits_write_comment(fits, FitsText(entry.value).constData(), status);
     else if (IsKeyword(entry.key))
         WriteKeyword(fits, entry, status);
     else
-        fits_write_comment(fits, Printable(entry.key + ": " + entry.value).constData(), status);
+        fits_write_comment(fits, FitsText(entry.key + ": " + entry.value).constData(), status);
 }

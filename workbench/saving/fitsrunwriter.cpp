@@ -2,6 +2,7 @@
 #include "fitsrunwriter.h"
 
 #include "fitssession.h"
+#include "fitstext.h"
 #include "runsummary.h"
 
 #include <QCoreApplication>
@@ -158,16 +159,16 @@ bool FitsRunWriter::AddFactsAndTable(const RunOutcome &outcome, FileFault &fault
     fits_open_diskfile(&fits, QFile::encodeName(UnfinishedPath()).constData(), READWRITE, &status);
     for (const auto &lines : { Facts().Lines(), OutcomeLines(Facts(), outcome, Stamps()) }) {
         for (const auto &line : lines) {
-            const QByteArray text = (line.first + ": " + line.second).toLatin1();
+            const QByteArray text = FitsText(line.first + ": " + line.second);
             fits_write_comment(fits, text.constData(), &status);
         }
     }
     WriteExposure(fits, &status);
     int depth = Facts().BitDepth();
     fits_update_key(fits, TINT, "BITDEPTH", &depth, "bits of a sample that carry light", &status);
-    fits_update_key_str(fits, "INSTRUME", (Facts().vendor + ' ' + Facts().model).toLatin1().constData(),
+    fits_update_key_str(fits, "INSTRUME", FitsText(Facts().vendor + ' ' + Facts().model).constData(),
                         "camera", &status);
-    fits_update_key_str(fits, "SERIALNO", Facts().serial.toLatin1().constData(), "of the camera", &status);
+    fits_update_key_str(fits, "SERIALNO", FitsText(Facts().serial).constData(), "of the camera", &status);
     fits_update_key_str(fits, "DATE-OBS",
                         Facts().start.toUTC().toString("yyyy-MM-ddTHH:mm:ss.zzz").toLatin1().constData(),
                         "start of the recording (UTC)", &status);
