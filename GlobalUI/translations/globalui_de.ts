@@ -75,17 +75,269 @@
     </message>
 </context>
 <context>
+    <name>FileCommands</name>
+    <message>
+        <source>Rename %1</source>
+        <translation>%1 umbenennen</translation>
+    </message>
+    <message numerus="yes">
+        <source>Move %n file(s) to Trash</source>
+        <translation>
+            <numerusform>%n Datei in den Papierkorb</numerusform>
+            <numerusform>%n Dateien in den Papierkorb</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) moved to the trash. Undo brings them back.</source>
+        <translation>
+            <numerusform>%n Datei liegt im Papierkorb. Rückgängig holt sie zurück.</numerusform>
+            <numerusform>%n Dateien liegen im Papierkorb. Rückgängig holt sie zurück.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>And %n more.</source>
+        <translation>
+            <numerusform>Und %n weiterer.</numerusform>
+            <numerusform>Und %n weitere.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>FileListModel</name>
+    <message>
+        <source>A link to a file that is not there any more.</source>
+        <translation>Ein Verweis auf eine Datei, die es nicht mehr gibt.</translation>
+    </message>
+    <message>
+        <source>%1, changed %2</source>
+        <translation>%1, geändert %2</translation>
+    </message>
+</context>
+<context>
+    <name>FileMoves</name>
+    <message>
+        <source>there is a file of that name already. Choose another name</source>
+        <translation>es gibt schon eine Datei dieses Namens. Einen anderen Namen wählen</translation>
+    </message>
+    <message>
+        <source>it is not there any more</source>
+        <translation>die Datei ist nicht mehr da</translation>
+    </message>
+    <message>
+        <source>you have no right to change this folder. Ask its owner for it</source>
+        <translation>das Recht, diesen Ordner zu ändern, fehlt. Den Eigentümer darum bitten</translation>
+    </message>
+    <message>
+        <source>its disk is write-protected</source>
+        <translation>die Platte ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>the name is too long. Choose a shorter one</source>
+        <translation>der Name ist zu lang. Einen kürzeren wählen</translation>
+    </message>
+    <message>
+        <source>A file needs a name. Type one.</source>
+        <translation>Eine Datei braucht einen Namen. Einen eingeben.</translation>
+    </message>
+    <message>
+        <source>“%1” is the name of a folder. Choose another name.</source>
+        <translation>„%1“ ist der Name eines Ordners. Einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>A name cannot contain a slash. Choose another name.</source>
+        <translation>Ein Name kann keinen Schrägstrich enthalten. Einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>“%1” was not renamed to “%2”: %3.</source>
+        <translation>„%1“ wurde nicht in „%2“ umbenannt: %3.</translation>
+    </message>
+    <message>
+        <source>“%1” was not moved to the trash: %2.</source>
+        <translation>„%1“ wurde nicht in den Papierkorb gelegt: %2.</translation>
+    </message>
+    <message>
+        <source>“%1” was not moved to the trash: the disk has none, or you have no right to change this folder. Copy it elsewhere, or delete it with a file manager.</source>
+        <translation>„%1“ wurde nicht in den Papierkorb gelegt: Die Platte hat keinen, oder das Recht, diesen Ordner zu ändern, fehlt. Die Datei anderswohin kopieren oder mit einer Dateiverwaltung löschen.</translation>
+    </message>
+    <message>
+        <source>“%1” was not taken out of the trash: %2.</source>
+        <translation>„%1“ wurde nicht aus dem Papierkorb geholt: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>FilePageBar</name>
+    <message>
+        <source>Filter names</source>
+        <translation>Namen filtern</translation>
+    </message>
+    <message>
+        <source>Part of the names, or a pattern with * and ? (Ctrl+F)</source>
+        <translation>Teil der Namen oder ein Muster mit * und ? (Strg+F)</translation>
+    </message>
+    <message>
+        <source>Sort by</source>
+        <translation>Sortieren nach</translation>
+    </message>
+    <message>
+        <source>What the files are sorted by</source>
+        <translation>Wonach die Dateien sortiert werden</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Hide the message</source>
+        <translation>Meldung ausblenden</translation>
+    </message>
+    <message>
+        <source>Pictures: %1</source>
+        <translation>Bilder: %1</translation>
+    </message>
+    <message>
+        <source>Pictures: %1 of %2</source>
+        <translation>Bilder: %1 von %2</translation>
+    </message>
+    <message>
+        <source>%1, selected: %2</source>
+        <translation>%1, ausgewählt: %2</translation>
+    </message>
+    <message>
+        <source>Sorted downwards. Click to sort upwards.</source>
+        <translation>Absteigend sortiert. Klicken für aufsteigend.</translation>
+    </message>
+    <message>
+        <source>Sorted upwards. Click to sort downwards.</source>
+        <translation>Aufsteigend sortiert. Klicken für absteigend.</translation>
+    </message>
+</context>
+<context>
     <name>FileSystemView</name>
     <message>
         <source>Back</source>
         <translation>Zurück</translation>
     </message>
+    <message>
+        <source>Back to the view before (Ctrl+P)</source>
+        <translation>Zurück zur vorigen Ansicht (Strg+P)</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Path of a folder</source>
+        <translation>Pfad eines Ordners</translation>
+    </message>
+    <message>
+        <source>Type the path of a folder and press Enter</source>
+        <translation>Den Pfad eines Ordners eingeben und Eingabe drücken</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Ordner</translation>
+    </message>
 </context>
 <context>
     <name>FileThumbnail</name>
     <message>
-        <source>Merge</source>
-        <translation>Zusammenfügen</translation>
+        <source>&amp;Open</source>
+        <translation>&amp;Öffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Vergleichen</translation>
+    </message>
+    <message>
+        <source>Compare the two selected pictures side by side</source>
+        <translation>Die beiden ausgewählten Bilder nebeneinander vergleichen</translation>
+    </message>
+    <message>
+        <source>&amp;Merge</source>
+        <translation>&amp;Zusammenfügen</translation>
+    </message>
+    <message>
+        <source>Put the selected pictures into one file, one behind the other</source>
+        <translation>Die ausgewählten Bilder hintereinander in eine Datei legen</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>Move to &amp;Trash</source>
+        <translation>In den &amp;Papierkorb</translation>
+    </message>
+    <message>
+        <source>Convert to CS&amp;V</source>
+        <translation>In &amp;CSV umwandeln</translation>
+    </message>
+    <message>
+        <source>Modify &amp;DPI…</source>
+        <translation>&amp;DPI ändern…</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>&amp;Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Read the Folder &amp;Again</source>
+        <translation>Ordner neu &amp;lesen</translation>
+    </message>
+    <message>
+        <source>Pictures of the folder</source>
+        <translation>Bilder des Ordners</translation>
+    </message>
+    <message>
+        <source>Reading the folder…</source>
+        <translation>Der Ordner wird gelesen…</translation>
+    </message>
+    <message>
+        <source>No picture&apos;s name fits “%1”.</source>
+        <translation>Kein Bildname passt zu „%1“.</translation>
+    </message>
+    <message>
+        <source>There is no picture in this folder.</source>
+        <translation>In diesem Ordner ist kein Bild.</translation>
+    </message>
+    <message>
+        <source>%1 pictures are selected; at most %2 are opened at once. Select fewer.</source>
+        <translation>%1 Bilder sind ausgewählt; höchstens %2 werden auf einmal geöffnet. Weniger auswählen.</translation>
+    </message>
+</context>
+<context>
+    <name>FolderReading</name>
+    <message>
+        <source>The folder “%1” is not there. It may have been moved, renamed or deleted, or its disk is not connected. Choose another folder.</source>
+        <translation>Der Ordner „%1“ ist nicht da. Vielleicht wurde er verschoben, umbenannt oder gelöscht, oder seine Platte ist nicht angeschlossen. Einen anderen Ordner wählen.</translation>
+    </message>
+    <message>
+        <source>You have no right to look into the folder “%1”. Ask its owner for it, or choose another folder.</source>
+        <translation>Das Recht, in den Ordner „%1“ zu sehen, fehlt. Den Eigentümer darum bitten oder einen anderen Ordner wählen.</translation>
+    </message>
+    <message>
+        <source>“%1” is a file, not a folder. Choose the folder that it lies in.</source>
+        <translation>„%1“ ist eine Datei, kein Ordner. Den Ordner wählen, in dem sie liegt.</translation>
+    </message>
+    <message>
+        <source>The folder “%1” cannot be reached: its name is too long, or its links lead in a circle. Choose another folder.</source>
+        <translation>Der Ordner „%1“ ist nicht erreichbar: Sein Name ist zu lang, oder seine Verweise führen im Kreis. Einen anderen Ordner wählen.</translation>
+    </message>
+    <message>
+        <source>The folder “%1” cannot be read: %2. Look whether its disk or network is connected.</source>
+        <translation>Der Ordner „%1“ kann nicht gelesen werden: %2. Prüfen, ob seine Platte oder das Netz verbunden ist.</translation>
     </message>
 </context>
 <context>

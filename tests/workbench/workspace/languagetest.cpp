@@ -20,7 +20,9 @@ private slots:
     void nameFollowsChoiceThenSystem();
     void choiceIsKept();
     void textsAreTranslated();
-    void englishNeedsNoCatalogue();
+    void englishIsWhatTheSourcesSay();
+    void numbersHaveTheirPlural_data();
+    void numbersHaveTheirPlural();
 
 private:
     QSettings *NewSettings();
@@ -85,11 +87,31 @@ void LanguageTest::textsAreTranslated()
     QCOMPARE(box.button(QDialogButtonBox::Cancel)->text().remove('&'), QString("Abbrechen"));
 }
 
-void LanguageTest::englishNeedsNoCatalogue()
+void LanguageTest::englishIsWhatTheSourcesSay()
 {
     QSettings *settings = NewSettings();
     Language(settings, "en").Install();
     QCOMPARE(QCoreApplication::translate("MainWindow", "&File"), QString("&File"));
+}
+
+void LanguageTest::numbersHaveTheirPlural_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("English, one") << "en" << 1 << "1 object";
+    QTest::newRow("English, none") << "en" << 0 << "0 objects";
+    QTest::newRow("German, one") << "de" << 1 << "1 Objekt";
+    QTest::newRow("German, many") << "de" << 7 << "7 Objekte";
+}
+
+void LanguageTest::numbersHaveTheirPlural()
+{
+    QFETCH(QString, name);
+    QFETCH(int, number);
+    QFETCH(QString, text);
+    Language(NewSettings(), name).Install();
+    QCOMPARE(QCoreApplication::translate("CountFields", "%n object(s)", nullptr, number), text);
 }
 
 GUARDED_TEST_MAIN(LanguageTest)

@@ -9,6 +9,66 @@
     </message>
 </context>
 <context>
+    <name>AutoCounting</name>
+    <message>
+        <source>The table was not saved as “%1”: %2. Choose another folder or name.</source>
+        <translation>Die Tabelle wurde nicht als „%1“ gespeichert: %2. Einen anderen Ordner oder Namen wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>Binning</name>
+    <message>
+        <source>The picture, %1x%2 pixels, is smaller than %3x%3.</source>
+        <translation>Das Bild mit %1x%2 Pixeln ist kleiner als %3x%3.</translation>
+    </message>
+</context>
+<context>
+    <name>CalibratedAxis</name>
+    <message>
+        <source>Wavelength [nm]</source>
+        <translation>Wellenlänge [nm]</translation>
+    </message>
+    <message>
+        <source>Wavenumber [1/cm]</source>
+        <translation>Wellenzahl [1/cm]</translation>
+    </message>
+    <message>
+        <source>Raman Shift [1/cm]</source>
+        <translation>Raman-Verschiebung [1/cm]</translation>
+    </message>
+    <message>
+        <source>Pixel Number</source>
+        <translation>Pixelnummer</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrationFit</name>
+    <message>
+        <source>Two points lie at pixel %1 (%2 nm and %3 nm): remove one of them.</source>
+        <translation>Zwei Punkte liegen bei Pixel %1 (%2 nm und %3 nm): einen davon entfernen.</translation>
+    </message>
+    <message>
+        <source>Two points have the wavelength %1 nm (at pixel %2 and %3): give one of them another line.</source>
+        <translation>Zwei Punkte haben die Wellenlänge %1 nm (bei Pixel %2 und %3): einem davon eine andere Linie geben.</translation>
+    </message>
+    <message>
+        <source>The degree must be from %1 to %2.</source>
+        <translation>Der Grad muss zwischen %1 und %2 liegen.</translation>
+    </message>
+    <message>
+        <source>The point at pixel %1 lies outside the spectrum of %2 pixels: remove it.</source>
+        <translation>Der Punkt bei Pixel %1 liegt außerhalb des Spektrums mit %2 Pixeln: ihn entfernen.</translation>
+    </message>
+    <message>
+        <source>A polynomial of degree %1 needs at least %2 points and there are %3: assign more lines or choose a lower degree.</source>
+        <translation>Ein Polynom vom Grad %1 braucht mindestens %2 Punkte, und es gibt %3: mehr Linien zuordnen oder einen niedrigeren Grad wählen.</translation>
+    </message>
+    <message>
+        <source>With these points the wavelength does not rise or fall steadily (it turns at pixel %1): check which line each point has, or choose a lower degree.</source>
+        <translation>Mit diesen Punkten steigt oder fällt die Wellenlänge nicht stetig (sie kehrt bei Pixel %1 um): prüfen, welche Linie jeder Punkt hat, oder einen niedrigeren Grad wählen.</translation>
+    </message>
+</context>
+<context>
     <name>CameraControls</name>
     <message>
         <source>%1 could not be set: %2. Choose another value, or open the camera again.</source>
@@ -360,6 +420,154 @@ Im Menü Kamera eine wählen.</translation>
     </message>
 </context>
 <context>
+    <name>CopyWithResolution</name>
+    <message>
+        <source>its header makes no sense</source>
+        <translation>der Dateikopf ergibt keinen Sinn</translation>
+    </message>
+    <message>
+        <source>this old kind of BMP has no place for a resolution</source>
+        <translation>diese alte Art von BMP hat keinen Platz für eine Auflösung</translation>
+    </message>
+    <message>
+        <source>Save the picture as TIFF or PNG first.</source>
+        <translation>Das Bild zuerst als TIFF oder PNG speichern.</translation>
+    </message>
+    <message>
+        <source>a JPEG file holds at most %1 pixels an inch</source>
+        <translation>eine JPEG-Datei fasst höchstens %1 Pixel je Zoll</translation>
+    </message>
+    <message>
+        <source>Choose a lower resolution.</source>
+        <translation>Eine niedrigere Auflösung wählen.</translation>
+    </message>
+    <message>
+        <source>this format has no place for a resolution</source>
+        <translation>dieses Format hat keinen Platz für eine Auflösung</translation>
+    </message>
+</context>
+<context>
+    <name>CountFields</name>
+    <message>
+        <source>Find the level</source>
+        <translation>Schwelle bestimmen</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Schwelle</translation>
+    </message>
+    <message>
+        <source>Objects are darker</source>
+        <translation>Objekte sind dunkler</translation>
+    </message>
+    <message>
+        <source>Fill holes</source>
+        <translation>Löcher füllen</translation>
+    </message>
+    <message>
+        <source>Split objects that touch</source>
+        <translation>Berührende Objekte trennen</translation>
+    </message>
+    <message>
+        <source>Waist</source>
+        <translation>Einschnürung</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>How much narrower, on each side, a waist is than the parts that it parts.</source>
+        <translation>Um wie viel schmaler, auf jeder Seite, eine Einschnürung ist als die Teile, die sie trennt.</translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>Area from</source>
+        <translation>Fläche ab</translation>
+    </message>
+    <message>
+        <source>Area to</source>
+        <translation>Fläche bis</translation>
+    </message>
+    <message>
+        <source>Circularity from</source>
+        <translation>Zirkularität ab</translation>
+    </message>
+    <message>
+        <source>4π area / perimeter²: 1 for a disc, less the longer or rougher an object is.</source>
+        <translation>4π Fläche / Umfang²: 1 für eine Scheibe, weniger, je länger oder rauer ein Objekt ist.</translation>
+    </message>
+    <message>
+        <source>Circularity to</source>
+        <translation>Zirkularität bis</translation>
+    </message>
+    <message>
+        <source>Leave out objects at the edge</source>
+        <translation>Objekte am Rand weglassen</translation>
+    </message>
+    <message>
+        <source>What counts</source>
+        <translation>Was zählt</translation>
+    </message>
+    <message>
+        <source>Pixel size</source>
+        <translation>Pixelgröße</translation>
+    </message>
+    <message>
+        <source>not set</source>
+        <translation>nicht gesetzt</translation>
+    </message>
+    <message>
+        <source>Side of a pixel in the specimen; areas and lengths of the table are in this unit.</source>
+        <translation>Seite eines Pixels in der Probe; Flächen und Längen der Tabelle stehen in dieser Einheit.</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>&amp;End Counting</source>
+        <translation>Zählung &amp;beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Count</source>
+        <translation>&amp;Zählen</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>No picture is open.</source>
+        <translation>Es ist kein Bild offen.</translation>
+    </message>
+    <message>
+        <source>Nothing is being counted.</source>
+        <translation>Es wird nichts gezählt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n object(s)</source>
+        <translation>
+            <numerusform>%n Objekt</numerusform>
+            <numerusform>%n Objekte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>“%1” was saved.</source>
+        <translation>„%1“ wurde gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>CountingPanel</name>
+    <message>
+        <source>This program does not let panels count in its pictures.</source>
+        <translation>Dieses Programm lässt Bedienfelder nicht in seinen Bildern zählen.</translation>
+    </message>
+</context>
+<context>
     <name>CreatePicture</name>
     <message>
         <source>its name ends in no format that can be written</source>
@@ -379,6 +587,13 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>OpenGL has failed. The picture is drawn by the CPU from here on.</source>
         <translation>OpenGL ist ausgefallen. Das Bild zeichnet von nun an die CPU.</translation>
+    </message>
+</context>
+<context>
+    <name>EditedFrames</name>
+    <message>
+        <source>Frame %1 is too small to be cropped like the others. Undo the crop to see it.</source>
+        <translation>Das Bild %1 ist zu klein, um wie die anderen zugeschnitten zu werden. Den Zuschnitt rückgängig machen, um es zu sehen.</translation>
     </message>
 </context>
 <context>
@@ -423,6 +638,170 @@ Im Menü Kamera eine wählen.</translation>
     </message>
 </context>
 <context>
+    <name>FileFault</name>
+    <message>
+        <source>“%1” cannot be read: %2</source>
+        <translation>„%1“ kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>“%1” was not saved: %2</source>
+        <translation>„%1“ wurde nicht gespeichert: %2</translation>
+    </message>
+    <message>
+        <source>The file is damaged or was cut short: copy it again from where it came from.</source>
+        <translation>Die Datei ist beschädigt oder abgeschnitten: sie noch einmal von ihrem Ursprung kopieren.</translation>
+    </message>
+    <message>
+        <source>Save it from the program that made it as an ordinary TIFF, FITS or PNG file.</source>
+        <translation>Das Bild in dem Programm, das es erzeugt hat, als gewöhnliche TIFF-, FITS- oder PNG-Datei speichern.</translation>
+    </message>
+    <message>
+        <source>Check the free space and your rights in that folder, or choose another one; the old file is unchanged.</source>
+        <translation>Den freien Platz und die Rechte in diesem Ordner prüfen oder einen anderen wählen; die alte Datei ist unverändert.</translation>
+    </message>
+    <message>
+        <source>Close other pictures or programs and try again.</source>
+        <translation>Andere Bilder oder Programme schließen und noch einmal versuchen.</translation>
+    </message>
+</context>
+<context>
+    <name>FileJobs</name>
+    <message>
+        <source>There is not enough memory for “%1”. Close other pictures or programs.</source>
+        <translation>Der Speicher reicht nicht für „%1“. Andere Bilder oder Programme schließen.</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels, %3, channels: %4</source>
+        <translation>%1 x %2 Pixel, %3, Kanäle: %4</translation>
+    </message>
+    <message>
+        <source>“%1” was written as “%2”.</source>
+        <translation>„%1“ wurde als „%2“ geschrieben.</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 pixels an inch now.</source>
+        <translation>„%1“ hat jetzt %2 Pixel je Zoll.</translation>
+    </message>
+    <message>
+        <source>%1 pictures were merged into “%2”.</source>
+        <translation>%1 Bilder wurden in „%2“ zusammengefügt.</translation>
+    </message>
+    <message>
+        <source>The pictures were not merged: “%1” (%2) and “%3” (%4) differ. Choose pictures of one size and one kind of samples.</source>
+        <translation>Die Bilder wurden nicht zusammengefügt: „%1“ (%2) und „%3“ (%4) unterscheiden sich. Bilder gleicher Größe mit Werten gleicher Art wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>FilePageCommands</name>
+    <message>
+        <source>“%1”</source>
+        <translation>„%1“</translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” and %n more</source>
+        <translation>
+            <numerusform>„%1“ und %n weiteres</numerusform>
+            <numerusform>„%1“ und %n weitere</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Open a picture first: its samples are written as CSV.</source>
+        <translation>Zuerst ein Bild öffnen: Seine Werte werden als CSV geschrieben.</translation>
+    </message>
+    <message>
+        <source>Select pictures first: their samples are written as CSV.</source>
+        <translation>Zuerst Bilder auswählen: Ihre Werte werden als CSV geschrieben.</translation>
+    </message>
+    <message>
+        <source>Select pictures first: their resolution is changed.</source>
+        <translation>Zuerst Bilder auswählen: Ihre Auflösung wird geändert.</translation>
+    </message>
+    <message>
+        <source>Open a picture first: its resolution is changed.</source>
+        <translation>Zuerst ein Bild öffnen: Seine Auflösung wird geändert.</translation>
+    </message>
+    <message>
+        <source>Modify DPI</source>
+        <translation>DPI ändern</translation>
+    </message>
+    <message>
+        <source>Pixels an inch (DPI) of %1. The file is written anew; its samples stay.</source>
+        <translation>Pixel je Zoll (DPI) von %1. Die Datei wird neu geschrieben; ihre Werte bleiben.</translation>
+    </message>
+    <message>
+        <source>Select two or more pictures first: they are merged into one file.</source>
+        <translation>Zuerst zwei oder mehr Bilder auswählen: Sie werden in eine Datei zusammengefügt.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Merge %n Pictures</source>
+        <translation>
+            <numerusform>%n Bild zusammenfügen</numerusform>
+            <numerusform>%n Bilder zusammenfügen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>TIFF (*.tif *.tiff)</source>
+        <translation>TIFF (*.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>%1 merged.tif</source>
+        <translation>%1 zusammengefügt.tif</translation>
+    </message>
+</context>
+<context>
+    <name>FitsHeader</name>
+    <message>
+        <source>the header that begins at byte %1 has no end</source>
+        <translation>der Kopf, der bei Byte %1 beginnt, hat kein Ende</translation>
+    </message>
+</context>
+<context>
+    <name>FitsLayout</name>
+    <message>
+        <source>its samples of %1 bits make no sense</source>
+        <translation>die Werte mit %1 Bit ergeben keinen Sinn</translation>
+    </message>
+    <message>
+        <source>its size, %1 x %2 pixels in %3 frames, makes no sense</source>
+        <translation>die Größe, %1 x %2 Pixel in %3 Bildern, ergibt keinen Sinn</translation>
+    </message>
+    <message>
+        <source>its size, %1 x %2 pixels in %3 frames, is more than its %4 compressed bytes can hold</source>
+        <translation>die Größe, %1 x %2 Pixel in %3 Bildern, ist mehr, als die %4 komprimierten Byte fassen können</translation>
+    </message>
+    <message>
+        <source>a frame of %1 x %2 pixels takes %3 bytes, but the file has only %4 after its header</source>
+        <translation>ein Bild mit %1 x %2 Pixeln braucht %3 Byte, aber die Datei hat nach ihrem Kopf nur %4</translation>
+    </message>
+    <message>
+        <source>its header describes no picture</source>
+        <translation>der Dateikopf beschreibt kein Bild</translation>
+    </message>
+</context>
+<context>
+    <name>FitsPictureFile</name>
+    <message>
+        <source>there is no picture in it, only tables or nothing</source>
+        <translation>es ist kein Bild darin, nur Tabellen oder nichts</translation>
+    </message>
+    <message>
+        <source>compressed</source>
+        <translation>komprimiert</translation>
+    </message>
+    <message>
+        <source>in extension %1</source>
+        <translation>in Erweiterung %1</translation>
+    </message>
+    <message>
+        <source>only the first %1 of its %2 frames are there</source>
+        <translation>nur die ersten %1 von %2 Bildern sind da</translation>
+    </message>
+    <message>
+        <source>frame %1 of %2 is not whole</source>
+        <translation>das Bild %1 von %2 ist nicht vollständig</translation>
+    </message>
+</context>
+<context>
     <name>FitsPictureWriter</name>
     <message>
         <source>frame %1 could not be written</source>
@@ -434,15 +813,68 @@ Im Menü Kamera eine wählen.</translation>
     </message>
 </context>
 <context>
+    <name>FitsRunWriter</name>
+    <message>
+        <source>a FITS cube holds frames of one channel, not colour</source>
+        <translation>ein FITS-Würfel fasst Bilder mit einem Kanal, keine Farbe</translation>
+    </message>
+    <message>
+        <source>Record colour as TIFF or PNG.</source>
+        <translation>Farbe als TIFF oder PNG aufzeichnen.</translation>
+    </message>
+    <message>
+        <source>its header or its table of frames could not be written</source>
+        <translation>der Dateikopf oder die Tabelle der Bilder ließ sich nicht schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>FitsTiles</name>
+    <message>
+        <source>Unpack it with funpack.</source>
+        <translation>Mit funpack entpacken.</translation>
+    </message>
+    <message>
+        <source>the table of its tiles has no size</source>
+        <translation>die Tabelle der Kacheln hat keine Größe</translation>
+    </message>
+    <message>
+        <source>the table of its tiles is not whole</source>
+        <translation>die Tabelle der Kacheln ist nicht vollständig</translation>
+    </message>
+    <message>
+        <source>its compression (%1) is not supported</source>
+        <translation>die Kompression (%1) wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>its compression has parameters that make no sense</source>
+        <translation>die Kompression hat Parameter, die keinen Sinn ergeben</translation>
+    </message>
+    <message>
+        <source>its compressed tiles reach over several frames, which is not supported</source>
+        <translation>die komprimierten Kacheln reichen über mehrere Bilder, was nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>frame %1 of %2: tile %3 cannot be decoded</source>
+        <translation>Bild %1 von %2: Die Kachel %3 lässt sich nicht entschlüsseln</translation>
+    </message>
+    <message>
+        <source>its packed data is damaged</source>
+        <translation>ihre gepackten Daten sind beschädigt</translation>
+    </message>
+    <message>
+        <source>it has no data in the file</source>
+        <translation>sie hat keine Daten in der Datei</translation>
+    </message>
+</context>
+<context>
+    <name>FlatField</name>
+    <message>
+        <source>The reference is %1 pixels and the picture %2. Choose a reference of the same size, and correct the picture before it is cropped, turned or binned.</source>
+        <translation>Die Referenz misst %1 Pixel und das Bild %2. Eine Referenz gleicher Größe wählen und das Bild korrigieren, bevor es zugeschnitten, gedreht oder gebinnt wird.</translation>
+    </message>
+</context>
+<context>
     <name>FrameSaving</name>
-    <message>
-        <source>File</source>
-        <translation>Datei</translation>
-    </message>
-    <message>
-        <source>Error</source>
-        <translation>Fehler</translation>
-    </message>
     <message>
         <source>the memory is full</source>
         <translation>der Speicher ist voll</translation>
@@ -450,6 +882,10 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>No frame came from the camera.</source>
         <translation>Von der Kamera kam kein Bild.</translation>
+    </message>
+    <message>
+        <source>No whole frame came from the camera: %1 were lost on the way.</source>
+        <translation>Von der Kamera kam kein vollständiges Bild: %1 gingen unterwegs verloren.</translation>
     </message>
 </context>
 <context>
@@ -573,6 +1009,75 @@ Im Menü Kamera eine wählen.</translation>
     </message>
 </context>
 <context>
+    <name>NamePattern</name>
+    <message>
+        <source>&quot;{%1}&quot; is not known. There are {camera}, {date}, {time}, {exposure}, {gain}, {number} and {number:4}.</source>
+        <translation>„{%1}“ ist unbekannt. Es gibt {camera}, {date}, {time}, {exposure}, {gain}, {number} und {number:4}.</translation>
+    </message>
+    <message>
+        <source>A brace is left open. Write {date}, for instance.</source>
+        <translation>Eine Klammer ist offen geblieben. Zum Beispiel {date} schreiben.</translation>
+    </message>
+    <message>
+        <source>The name is empty.</source>
+        <translation>Der Name ist leer.</translation>
+    </message>
+</context>
+<context>
+    <name>ObjectCount</name>
+    <message>
+        <source>There is no picture whose objects could be counted.</source>
+        <translation>Es gibt kein Bild, dessen Objekte gezählt werden könnten.</translation>
+    </message>
+    <message>
+        <source>The objects could not be counted: %1.</source>
+        <translation>Die Objekte ließen sich nicht zählen: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>ObjectTable</name>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Area (%1)</source>
+        <translation>Fläche (%1)</translation>
+    </message>
+    <message>
+        <source>Area (px)</source>
+        <translation>Fläche (px)</translation>
+    </message>
+    <message>
+        <source>X (%1)</source>
+        <translation>X (%1)</translation>
+    </message>
+    <message>
+        <source>Y (%1)</source>
+        <translation>Y (%1)</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>Diameter (%1)</source>
+        <translation>Durchmesser (%1)</translation>
+    </message>
+    <message>
+        <source>Perimeter (%1)</source>
+        <translation>Umfang (%1)</translation>
+    </message>
+    <message>
+        <source>Circularity</source>
+        <translation>Zirkularität</translation>
+    </message>
+</context>
+<context>
     <name>OpenGLProbe</name>
     <message>
         <source>the display offers none</source>
@@ -585,6 +1090,57 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>the driver gives no context</source>
         <translation>der Treiber gibt keinen Kontext</translation>
+    </message>
+</context>
+<context>
+    <name>OpenPicture</name>
+    <message>
+        <source>Look whether it was moved or renamed.</source>
+        <translation>Prüfen, ob die Datei verschoben oder umbenannt wurde.</translation>
+    </message>
+    <message>
+        <source>Ask its owner for the right to read it, or copy it to a folder of yours.</source>
+        <translation>Den Eigentümer um das Leserecht bitten oder die Datei in einen eigenen Ordner kopieren.</translation>
+    </message>
+    <message>
+        <source>it is a folder</source>
+        <translation>es ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>Choose the picture files in it.</source>
+        <translation>Die Bilddateien darin wählen.</translation>
+    </message>
+    <message>
+        <source>it is not an ordinary file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>Choose a picture file.</source>
+        <translation>Eine Bilddatei wählen.</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>die Datei ist leer</translation>
+    </message>
+    <message>
+        <source>it is a compressed archive</source>
+        <translation>es ist ein komprimiertes Archiv</translation>
+    </message>
+    <message>
+        <source>Unpack it first.</source>
+        <translation>Zuerst entpacken.</translation>
+    </message>
+    <message>
+        <source>its content is none of TIFF, FITS, PNG, JPEG, BMP or SPE</source>
+        <translation>der Inhalt ist weder TIFF, FITS, PNG, JPEG, BMP noch SPE</translation>
+    </message>
+    <message>
+        <source>“%1” is a %2 file, though its name does not end in “.%3”.</source>
+        <translation>„%1“ ist eine %2-Datei, obwohl der Name nicht auf „.%3“ endet.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to open it</source>
+        <translation>der Speicher reicht nicht, um es zu öffnen</translation>
     </message>
 </context>
 <context>
@@ -608,6 +1164,21 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>No picture is open that could be saved.</source>
         <translation>Es ist kein Bild offen, das gespeichert werden könnte.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureAccess</name>
+    <message>
+        <source>“%1” was deleted or moved. It stays open; save it to keep it.</source>
+        <translation>„%1“ wurde gelöscht oder verschoben. Das Bild bleibt offen; speichern, um es zu behalten.</translation>
+    </message>
+    <message>
+        <source>“%1” was changed on the disk. Open it again to see it as it is now.</source>
+        <translation>„%1“ wurde auf der Platte geändert. Neu öffnen, um den jetzigen Stand zu sehen.</translation>
+    </message>
+    <message>
+        <source>“%1” was replaced by another file. What you see is the old one; open it again to see the new one.</source>
+        <translation>„%1“ wurde durch eine andere Datei ersetzt. Zu sehen ist die alte; neu öffnen, um die neue zu sehen.</translation>
     </message>
 </context>
 <context>
@@ -727,10 +1298,6 @@ Im Menü Kamera eine wählen.</translation>
         <source>There is not enough memory for “%1”. Close other pictures or programs.</source>
         <translation>Der Speicher reicht nicht für „%1“. Andere Bilder oder Programme schließen.</translation>
     </message>
-    <message>
-        <source>Frame %1 is too small to be cropped like the others. Undo the crop to see it.</source>
-        <translation>Das Bild %1 ist zu klein, um wie die anderen zugeschnitten zu werden. Den Zuschnitt rückgängig machen, um es zu sehen.</translation>
-    </message>
 </context>
 <context>
     <name>PictureMenus</name>
@@ -773,6 +1340,40 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>C&amp;ompare</source>
         <translation>&amp;Vergleichen</translation>
+    </message>
+</context>
+<context>
+    <name>PictureThumbnails</name>
+    <message>
+        <source>“%1” is too large for a thumbnail. It can still be opened.</source>
+        <translation>„%1“ ist zu groß für ein Vorschaubild. Öffnen lässt es sich trotzdem.</translation>
+    </message>
+    <message>
+        <source>There is not enough memory for a thumbnail of “%1”.</source>
+        <translation>Der Speicher reicht nicht für ein Vorschaubild von „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>PictureWriter</name>
+    <message>
+        <source>frame %1 of %2 was to be written</source>
+        <translation>das Bild %1 von %2 sollte geschrieben werden</translation>
+    </message>
+    <message>
+        <source>Save it again.</source>
+        <translation>Noch einmal speichern.</translation>
+    </message>
+    <message>
+        <source>frame %1 has another size or sample type than the first one</source>
+        <translation>das Bild %1 hat eine andere Größe oder Art von Werten als das erste</translation>
+    </message>
+    <message>
+        <source>Save the frames to files of their own.</source>
+        <translation>Die Bilder in eigene Dateien speichern.</translation>
+    </message>
+    <message>
+        <source>only %1 of its %2 frames were written</source>
+        <translation>nur %1 von %2 Bildern wurden geschrieben</translation>
     </message>
 </context>
 <context>
@@ -826,6 +1427,333 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
 </context>
 <context>
+    <name>PngRunWriter</name>
+    <message>
+        <source>a sequence of that name is there already</source>
+        <translation>es gibt schon eine Folge dieses Namens</translation>
+    </message>
+    <message>
+        <source>Choose another name; recordings never replace a file.</source>
+        <translation>Einen anderen Namen wählen; Aufzeichnungen ersetzen nie eine Datei.</translation>
+    </message>
+    <message>
+        <source>frame %1 could not be compressed</source>
+        <translation>das Bild %1 ließ sich nicht komprimieren</translation>
+    </message>
+    <message>
+        <source>its first frame could not be read again</source>
+        <translation>das erste Bild ließ sich nicht wieder lesen</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessChoices</name>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>Sum</source>
+        <translation>Summe</translation>
+    </message>
+    <message>
+        <source>Standard deviation</source>
+        <translation>Standardabweichung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Keep fractions</source>
+        <translation>Nachkommastellen behalten</translation>
+    </message>
+    <message>
+        <source>The result is floating point instead of the kind of samples of the frames.</source>
+        <translation>Das Ergebnis ist Gleitkomma statt der Art der Werte der Bilder.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Flat field</source>
+        <translation>Flachfeld</translation>
+    </message>
+    <message>
+        <source>Denoise</source>
+        <translation>Entrauschen</translation>
+    </message>
+    <message>
+        <source>Sharpen</source>
+        <translation>Schärfen</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Schwellwert</translation>
+    </message>
+    <message>
+        <source>Morphology</source>
+        <translation>Morphologie</translation>
+    </message>
+    <message>
+        <source>Binning</source>
+        <translation>Binning</translation>
+    </message>
+    <message>
+        <source>Band pass</source>
+        <translation>Bandpass</translation>
+    </message>
+    <message>
+        <source>Projection of the stack</source>
+        <translation>Projektion des Stapels</translation>
+    </message>
+    <message>
+        <source>Merge pictures</source>
+        <translation>Bilder zusammenfügen</translation>
+    </message>
+    <message>
+        <source>Take away</source>
+        <translation>Abziehen</translation>
+    </message>
+    <message>
+        <source>A level</source>
+        <translation>Fester Tonwert</translation>
+    </message>
+    <message>
+        <source>Wide structures</source>
+        <translation>Breite Strukturen</translation>
+    </message>
+    <message>
+        <source>A slope</source>
+        <translation>Gefälle</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Tonwert</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Radius</translation>
+    </message>
+    <message>
+        <source>Structures that are narrower than twice the radius stay.</source>
+        <translation>Strukturen, die schmaler als der doppelte Radius sind, bleiben.</translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation>Referenz</translation>
+    </message>
+    <message>
+        <source>An opened picture of an evenly lit field, of the same size.</source>
+        <translation>Ein offenes Bild eines gleichmäßig beleuchteten Feldes, von gleicher Größe.</translation>
+    </message>
+    <message>
+        <source>Open a picture of an evenly lit field beside this one.</source>
+        <translation>Neben diesem ein Bild eines gleichmäßig beleuchteten Feldes öffnen.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Gaussian</source>
+        <translation>Gauß</translation>
+    </message>
+    <message>
+        <source>Bilateral</source>
+        <translation>Bilateral</translation>
+    </message>
+    <message>
+        <source>Sigma</source>
+        <translation>Sigma</translation>
+    </message>
+    <message>
+        <source>Edge height</source>
+        <translation>Kantenhöhe</translation>
+    </message>
+    <message>
+        <source>Steps that are higher than this, in units of the samples, stay sharp.</source>
+        <translation>Stufen, die höher als dies sind, in Einheiten der Werte, bleiben scharf.</translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Stärke</translation>
+    </message>
+    <message>
+        <source>Find the level</source>
+        <translation>Schwelle bestimmen</translation>
+    </message>
+    <message>
+        <source>Take what is darker</source>
+        <translation>Dunkleres nehmen</translation>
+    </message>
+    <message>
+        <source>Operation</source>
+        <translation>Operation</translation>
+    </message>
+    <message>
+        <source>Erode</source>
+        <translation>Erodieren</translation>
+    </message>
+    <message>
+        <source>Dilate</source>
+        <translation>Dilatieren</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Top hat</source>
+        <translation>Top-Hat</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Quadrat</translation>
+    </message>
+    <message>
+        <source>Disc</source>
+        <translation>Scheibe</translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation>Von</translation>
+    </message>
+    <message>
+        <source>all small ones</source>
+        <translation>alle kleinen</translation>
+    </message>
+    <message>
+        <source>Smaller structures are taken away.</source>
+        <translation>Kleinere Strukturen werden entfernt.</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>Bis</translation>
+    </message>
+    <message>
+        <source>all large ones</source>
+        <translation>alle großen</translation>
+    </message>
+    <message>
+        <source>Larger structures are taken away.</source>
+        <translation>Größere Strukturen werden entfernt.</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Check the other pictures to merge in the list of opened pictures.</source>
+        <translation>Die übrigen Bilder zum Zusammenfügen in der Liste der offenen Bilder ankreuzen.</translation>
+    </message>
+    <message>
+        <source>With</source>
+        <translation>Mit</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessFields</name>
+    <message>
+        <source>&amp;Step</source>
+        <translation>&amp;Schritt</translation>
+    </message>
+    <message>
+        <source>Processing</source>
+        <translation>Verarbeitung</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Übernehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>No picture is open.</source>
+        <translation>Es ist kein Bild offen.</translation>
+    </message>
+    <message>
+        <source>Choose a step to try it on the picture.</source>
+        <translation>Einen Schritt wählen, um ihn am Bild zu erproben.</translation>
+    </message>
+    <message>
+        <source>Tried on the picture, not applied yet.</source>
+        <translation>Am Bild erprobt, noch nicht übernommen.</translation>
+    </message>
+    <message>
+        <source>Working…</source>
+        <translation>Wird berechnet…</translation>
+    </message>
+    <message>
+        <source>There is nothing to apply: choose a step in the panel Process first.</source>
+        <translation>Es gibt nichts zu übernehmen: zuerst im Bedienfeld Verarbeitung einen Schritt wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>ProcessPanel</name>
+    <message>
+        <source>This program does not let panels process its pictures.</source>
+        <translation>Dieses Programm lässt Bedienfelder seine Bilder nicht verarbeiten.</translation>
+    </message>
+</context>
+<context>
+    <name>Processing</name>
+    <message>
+        <source>Choose a reference: a picture of an evenly lit field.</source>
+        <translation>Eine Referenz wählen: ein Bild eines gleichmäßig beleuchteten Feldes.</translation>
+    </message>
+    <message>
+        <source>Check the other pictures to merge in the list of opened pictures.</source>
+        <translation>Die übrigen Bilder zum Zusammenfügen in der Liste der offenen Bilder ankreuzen.</translation>
+    </message>
+    <message>
+        <source>There is no picture that could be processed.</source>
+        <translation>Es gibt kein Bild, das verarbeitet werden könnte.</translation>
+    </message>
+    <message>
+        <source>The picture could not be processed: %1.</source>
+        <translation>Das Bild ließ sich nicht verarbeiten: %1.</translation>
+    </message>
+    <message>
+        <source>This needs %1 of memory, and %2 is free. Close other pictures or programs.</source>
+        <translation>Das braucht %1 Speicher, und %2 sind frei. Andere Bilder oder Programme schließen.</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>The settings were not used: %1. They were kept as %2.</source>
@@ -833,10 +1761,88 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
 </context>
 <context>
+    <name>RasterHeader</name>
+    <message>
+        <source>it ends in the middle of its %1 (from byte %2)</source>
+        <translation>die Datei endet mitten in %1 (ab Byte %2)</translation>
+    </message>
+    <message>
+        <source>its size, %1 x %2 pixels, is more than its %3 bytes of picture data can hold</source>
+        <translation>die Größe, %1 x %2 Pixel, ist mehr, als %3 Byte Bilddaten fassen können</translation>
+    </message>
+    <message>
+        <source>its size, %1 x %2 pixels, makes no sense</source>
+        <translation>die Größe, %1 x %2 Pixel, ergibt keinen Sinn</translation>
+    </message>
+    <message>
+        <source>its header makes no sense</source>
+        <translation>der Dateikopf ergibt keinen Sinn</translation>
+    </message>
+    <message>
+        <source>its colour type %1 with %2 bits makes no sense</source>
+        <translation>der Farbtyp %1 mit %2 Bit ergibt keinen Sinn</translation>
+    </message>
+    <message>
+        <source>list of parts</source>
+        <translation>der Teileliste</translation>
+    </message>
+    <message>
+        <source>part %1</source>
+        <translation>Teil %1</translation>
+    </message>
+    <message>
+        <source>its header is missing</source>
+        <translation>der Dateikopf fehlt</translation>
+    </message>
+    <message>
+        <source>its samples of %1 bits are not supported</source>
+        <translation>Werte mit %1 Bit werden nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>it has no picture</source>
+        <translation>die Datei enthält kein Bild</translation>
+    </message>
+    <message>
+        <source>picture data</source>
+        <translation>den Bilddaten</translation>
+    </message>
+    <message>
+        <source>header</source>
+        <translation>dem Dateikopf</translation>
+    </message>
+    <message>
+        <source>it is of an early kind of BMP that is not supported</source>
+        <translation>es ist eine frühe Art von BMP, die nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>a picture of %1 x %2 pixels takes %3 bytes, but the file has only %4 after its header</source>
+        <translation>ein Bild mit %1 x %2 Pixeln braucht %3 Byte, aber die Datei hat nach ihrem Kopf nur %4</translation>
+    </message>
+</context>
+<context>
     <name>RasterPictureFile</name>
     <message>
         <source>it cannot be decoded</source>
         <translation>es lässt sich nicht entschlüsseln</translation>
+    </message>
+</context>
+<context>
+    <name>RasterPictureWriter</name>
+    <message>
+        <source>%1 cannot hold %2 frames of %3 samples</source>
+        <translation>%1 kann dies nicht fassen (Bilder: %2, Werte: %3)</translation>
+    </message>
+    <message>
+        <source>Save it as TIFF or FITS, or save a single frame with fewer bits.</source>
+        <translation>Als TIFF oder FITS speichern oder ein einzelnes Bild mit weniger Bit speichern.</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Speicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>it could not be encoded</source>
+        <translation>es ließ sich nicht kodieren</translation>
     </message>
 </context>
 <context>
@@ -877,6 +1883,17 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>The files do NOT hold what was captured: checksum %1.</source>
         <translation>Die Dateien enthalten NICHT das Aufgenommene: Prüfsumme %1.</translation>
     </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+</context>
+<context>
+    <name>RecordRun</name>
+    <message>
+        <source>No frame came from the camera.</source>
+        <translation>Von der Kamera kam kein Bild.</translation>
+    </message>
 </context>
 <context>
     <name>RecordingDesk</name>
@@ -915,6 +1932,10 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>%1, %2 LOST.</source>
         <translation>%1, %2 VERLOREN.</translation>
+    </message>
+    <message>
+        <source>The recording ended early: %1. %2</source>
+        <translation>Die Aufzeichnung endete vorzeitig: %1. %2</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +2151,279 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
 </context>
 <context>
+    <name>ReplacingFile</name>
+    <message>
+        <source>a folder has that name</source>
+        <translation>ein Ordner hat diesen Namen</translation>
+    </message>
+    <message>
+        <source>Choose another name.</source>
+        <translation>Einen anderen Namen wählen.</translation>
+    </message>
+    <message>
+        <source>the file of that name is write-protected</source>
+        <translation>die Datei dieses Namens ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>Choose another name, or lift the protection.</source>
+        <translation>Einen anderen Namen wählen oder den Schutz aufheben.</translation>
+    </message>
+</context>
+<context>
+    <name>RunDisk</name>
+    <message>
+        <source>the disk is full</source>
+        <translation>die Platte ist voll</translation>
+    </message>
+    <message>
+        <source>Free some space or record to another disk; the frames before are kept.</source>
+        <translation>Platz schaffen oder auf eine andere Platte aufzeichnen; die Bilder davor bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>the file has become larger than this disk allows</source>
+        <translation>die Datei ist größer geworden, als diese Platte erlaubt</translation>
+    </message>
+    <message>
+        <source>Record fewer frames, or to another disk; the frames before are kept.</source>
+        <translation>Weniger Bilder oder auf eine andere Platte aufzeichnen; die Bilder davor bleiben erhalten.</translation>
+    </message>
+    <message>
+        <source>a file of that name is there already</source>
+        <translation>es gibt schon eine Datei dieses Namens</translation>
+    </message>
+    <message>
+        <source>Choose another name; recordings never replace a file.</source>
+        <translation>Einen anderen Namen wählen; Aufzeichnungen ersetzen nie eine Datei.</translation>
+    </message>
+    <message>
+        <source>you may not write in that folder</source>
+        <translation>in diesem Ordner fehlt das Schreibrecht</translation>
+    </message>
+    <message>
+        <source>Choose another folder, or ask for the right to write there.</source>
+        <translation>Einen anderen Ordner wählen oder um das Schreibrecht bitten.</translation>
+    </message>
+    <message>
+        <source>that folder does not exist</source>
+        <translation>diesen Ordner gibt es nicht</translation>
+    </message>
+    <message>
+        <source>Choose a folder that is there.</source>
+        <translation>Einen Ordner wählen, den es gibt.</translation>
+    </message>
+    <message>
+        <source>the disk does not answer</source>
+        <translation>die Platte antwortet nicht</translation>
+    </message>
+    <message>
+        <source>Check that it is still connected; what was written before may be readable.</source>
+        <translation>Prüfen, ob sie noch angeschlossen ist; was zuvor geschrieben wurde, ist vielleicht lesbar.</translation>
+    </message>
+    <message>
+        <source>Check the disk, or record to another one.</source>
+        <translation>Die Platte prüfen oder auf eine andere aufzeichnen.</translation>
+    </message>
+</context>
+<context>
+    <name>RunEstimate</name>
+    <message>
+        <source>memory</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>disk</source>
+        <translation>Platte</translation>
+    </message>
+    <message>
+        <source>The run needs %1, and the %2 has %3 free, of which %4 are left to the system: room for %5 frames.</source>
+        <translation>Die Aufzeichnung braucht %1. Frei (%2) sind %3, davon bleiben %4 dem System: Platz für %5 Bilder.</translation>
+    </message>
+    <message>
+        <source>more than one frame</source>
+        <translation>mehr als ein Bild</translation>
+    </message>
+</context>
+<context>
+    <name>RunFacts</name>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>automatic, %1</source>
+        <translation>automatisch, %1</translation>
+    </message>
+    <message>
+        <source>From about frame %1 on</source>
+        <translation>Etwa ab Bild %1</translation>
+    </message>
+    <message>
+        <source>exposure %1, gain %2, %3 frames/s</source>
+        <translation>Belichtung %1, Verstärkung %2, %3 Bilder/s</translation>
+    </message>
+    <message>
+        <source>%1 us</source>
+        <translation>%1 us</translation>
+    </message>
+    <message>
+        <source>Later changes</source>
+        <translation>Weitere Änderungen</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>Exposure</source>
+        <translation>Belichtung</translation>
+    </message>
+    <message>
+        <source>Gain</source>
+        <translation>Verstärkung</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Bildrate</translation>
+    </message>
+    <message>
+        <source>%1 frames/s</source>
+        <translation>%1 Bilder/s</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>%1 x %2 from (%3, %4)</source>
+        <translation>%1 x %2 ab (%3, %4)</translation>
+    </message>
+    <message>
+        <source>Binning</source>
+        <translation>Binning</translation>
+    </message>
+    <message>
+        <source>Frame size</source>
+        <translation>Bildformat</translation>
+    </message>
+    <message>
+        <source>Pixel format</source>
+        <translation>Pixelformat</translation>
+    </message>
+    <message>
+        <source>Bit depth</source>
+        <translation>Bittiefe</translation>
+    </message>
+    <message>
+        <source>%1 bit</source>
+        <translation>%1 Bit</translation>
+    </message>
+    <message>
+        <source>Time-lapse</source>
+        <translation>Zeitraffer</translation>
+    </message>
+    <message>
+        <source>one frame each %1 ms</source>
+        <translation>alle %1 ms ein Bild</translation>
+    </message>
+    <message>
+        <source>Pixel size</source>
+        <translation>Pixelgröße</translation>
+    </message>
+    <message>
+        <source>%1 um</source>
+        <translation>%1 um</translation>
+    </message>
+    <message>
+        <source>Recorded by</source>
+        <translation>Aufgezeichnet mit</translation>
+    </message>
+    <message>
+        <source>complete</source>
+        <translation>vollständig</translation>
+    </message>
+    <message>
+        <source>stopped by the user</source>
+        <translation>vom Benutzer beendet</translation>
+    </message>
+    <message>
+        <source>the camera was lost</source>
+        <translation>die Kamera ging verloren</translation>
+    </message>
+    <message>
+        <source>ended by a fault</source>
+        <translation>durch einen Fehler beendet</translation>
+    </message>
+    <message>
+        <source>the program had ended in mid-run; repaired later</source>
+        <translation>das Programm endete mitten in der Aufzeichnung; später wiederhergestellt</translation>
+    </message>
+</context>
+<context>
+    <name>RunJournal</name>
+    <message>
+        <source>it is still being recorded</source>
+        <translation>die Aufzeichnung läuft noch</translation>
+    </message>
+    <message>
+        <source>Wait until that run has ended.</source>
+        <translation>Warten, bis die Aufzeichnung beendet ist.</translation>
+    </message>
+    <message>
+        <source>the journal beside it makes no sense</source>
+        <translation>das Journal daneben ergibt keinen Sinn</translation>
+    </message>
+    <message>
+        <source>Keep the file and ask for help; its frames may be readable by hand.</source>
+        <translation>Die Datei behalten und um Hilfe bitten; ihre Bilder sind vielleicht von Hand lesbar.</translation>
+    </message>
+</context>
+<context>
+    <name>RunReceipt</name>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+</context>
+<context>
+    <name>RunRegister</name>
+    <message>
+        <source>the file with its frames is gone</source>
+        <translation>die Datei mit den Bildern ist weg</translation>
+    </message>
+    <message>
+        <source>If you have moved it, move its journal beside it and ask for help.</source>
+        <translation>Wurde sie verschoben, das Journal daneben legen und um Hilfe bitten.</translation>
+    </message>
+    <message>
+        <source>not one of its frames is whole</source>
+        <translation>kein einziges Bild ist vollständig</translation>
+    </message>
+    <message>
+        <source>Keep the file and ask for help; parts of its frames may be readable by hand.</source>
+        <translation>Die Datei behalten und um Hilfe bitten; Teile ihrer Bilder sind vielleicht von Hand lesbar.</translation>
+    </message>
+</context>
+<context>
     <name>RunSummary</name>
     <message>
         <source>never arrived from the camera</source>
@@ -1146,6 +2440,89 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>could not be written to the disk</source>
         <translation>ließen sich nicht auf die Platte schreiben</translation>
+    </message>
+    <message>
+        <source>the memory was full</source>
+        <translation>der Speicher war voll</translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>not known, at least %1</source>
+        <translation>unbekannt, mindestens %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>frame	frame id	camera time (ns)	host time (ns)</source>
+        <translation>Bild<byte value="x9"/>Bild-ID<byte value="x9"/>Kamerazeit (ns)<byte value="x9"/>Rechnerzeit (ns)</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Durchlauf</translation>
+    </message>
+    <message>
+        <source>Frames captured</source>
+        <translation>Aufgenommene Bilder</translation>
+    </message>
+    <message>
+        <source>Frames saved</source>
+        <translation>Gespeicherte Bilder</translation>
+    </message>
+    <message>
+        <source>Frames lost</source>
+        <translation>Verlorene Bilder</translation>
+    </message>
+    <message>
+        <source>Frame ids missing</source>
+        <translation>Fehlende Bild-IDs</translation>
+    </message>
+    <message>
+        <source>Average rate</source>
+        <translation>Mittlere Bildrate</translation>
+    </message>
+    <message>
+        <source>%1 frames/s</source>
+        <translation>%1 Bilder/s</translation>
+    </message>
+    <message>
+        <source>Checksum (XXH3)</source>
+        <translation>Prüfsumme (XXH3)</translation>
+    </message>
+    <message>
+        <source>its summary could not be written</source>
+        <translation>die Zusammenfassung ließ sich nicht schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>RunWriter</name>
+    <message>
+        <source>a file of that name is there already</source>
+        <translation>es gibt schon eine Datei dieses Namens</translation>
+    </message>
+    <message>
+        <source>Choose another name; recordings never replace a file.</source>
+        <translation>Einen anderen Namen wählen; Aufzeichnungen ersetzen nie eine Datei.</translation>
+    </message>
+    <message>
+        <source>a frame of another size or pixel format came (%1 x %2, %3)</source>
+        <translation>es kam ein Bild anderer Größe oder mit anderem Pixelformat (%1 x %2, %3)</translation>
+    </message>
+    <message>
+        <source>Change the camera&apos;s format between recordings only.</source>
+        <translation>Das Format der Kamera nur zwischen Aufzeichnungen ändern.</translation>
     </message>
 </context>
 <context>
@@ -1175,6 +2552,402 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
 </context>
 <context>
+    <name>SaveTask</name>
+    <message>
+        <source>The %1 samples become 8 bits, with the levels of the screen.</source>
+        <translation>Die Werte (%1) werden zu 8 Bit, mit den Tonwerten des Bildschirms.</translation>
+    </message>
+    <message>
+        <source>JPEG changes every sample a little.</source>
+        <translation>JPEG ändert jeden Wert ein wenig.</translation>
+    </message>
+</context>
+<context>
+    <name>SetPictureResolution</name>
+    <message>
+        <source>the resolution of page %1 could not be written</source>
+        <translation>die Auflösung der Seite %1 ließ sich nicht schreiben</translation>
+    </message>
+    <message>
+        <source>%1 files have no place for a resolution</source>
+        <translation>%1-Dateien haben keinen Platz für eine Auflösung</translation>
+    </message>
+    <message>
+        <source>Save the picture as TIFF or PNG first.</source>
+        <translation>Das Bild zuerst als TIFF oder PNG speichern.</translation>
+    </message>
+    <message>
+        <source>its OME description gives the size of a pixel, which a resolution would contradict</source>
+        <translation>die OME-Beschreibung nennt die Größe eines Pixels, der eine Auflösung widerspräche</translation>
+    </message>
+    <message>
+        <source>Change the size of a pixel in the program that recorded it.</source>
+        <translation>Die Größe eines Pixels in dem Programm ändern, das es aufgezeichnet hat.</translation>
+    </message>
+    <message>
+        <source>its copy with another resolution was not the same picture</source>
+        <translation>die Kopie mit anderer Auflösung war nicht dasselbe Bild</translation>
+    </message>
+</context>
+<context>
+    <name>SpeFooter</name>
+    <message>
+        <source>its list of wavelengths does not fit its columns and is left out</source>
+        <translation>die Liste der Wellenlängen passt nicht zu den Spalten und wird weggelassen</translation>
+    </message>
+    <message>
+        <source>its samples (%1) are of a kind that is not supported</source>
+        <translation>die Werte (%1) sind von einer Art, die nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>its description (XML at the end) breaks off or is damaged in line %1</source>
+        <translation>die Beschreibung (XML am Ende) bricht ab oder ist in Zeile %1 beschädigt</translation>
+    </message>
+    <message>
+        <source>its description (XML at the end) tells of no frames</source>
+        <translation>die Beschreibung (XML am Ende) nennt keine Bilder</translation>
+    </message>
+</context>
+<context>
+    <name>SpeLayout</name>
+    <message>
+        <source>its samples are of an unknown kind (code %1)</source>
+        <translation>die Werte sind von unbekannter Art (Code %1)</translation>
+    </message>
+    <message>
+        <source>its header gives a size of %1 x %2 pixels</source>
+        <translation>der Dateikopf nennt eine Größe von %1 x %2 Pixeln</translation>
+    </message>
+    <message>
+        <source>its description (XML at the end) is larger than any such file needs</source>
+        <translation>die Beschreibung (XML am Ende) ist größer, als eine solche Datei sie braucht</translation>
+    </message>
+    <message>
+        <source>its description (XML at the end) is missing</source>
+        <translation>die Beschreibung (XML am Ende) fehlt</translation>
+    </message>
+    <message>
+        <source>its description (XML at the end) is missing, and with it the wavelengths</source>
+        <translation>die Beschreibung (XML am Ende) fehlt und mit ihr die Wellenlängen</translation>
+    </message>
+    <message>
+        <source>region %1 of %2</source>
+        <translation>Bereich %1 von %2</translation>
+    </message>
+    <message>
+        <source>%1 has a size of %2 x %3 pixels</source>
+        <translation>%1 hat eine Größe von %2 x %3 Pixeln</translation>
+    </message>
+    <message>
+        <source>%1 does not fit into its frame</source>
+        <translation>%1 passt nicht in sein Bild</translation>
+    </message>
+    <message>
+        <source>not even its first frame of %1 x %2 pixels is whole</source>
+        <translation>nicht einmal das erste Bild mit %1 x %2 Pixeln ist vollständig</translation>
+    </message>
+    <message>
+        <source>its header is cut short</source>
+        <translation>der Dateikopf ist abgeschnitten</translation>
+    </message>
+</context>
+<context>
+    <name>SpePictureFile</name>
+    <message>
+        <source>version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>, %1 regions</source>
+        <translation>, %1 Bereiche</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. %3</source>
+        <translation>„%1“: %2. %3</translation>
+    </message>
+    <message>
+        <source>only the first %1 of its %2 frames are there</source>
+        <translation>nur die ersten %1 von %2 Bildern sind da</translation>
+    </message>
+    <message>
+        <source>exposure %1 of %2, region %3 of %4, from column %5 and row %6 of the sensor</source>
+        <translation>Belichtung %1 von %2, Bereich %3 von %4, ab Spalte %5 und Zeile %6 des Sensors</translation>
+    </message>
+    <message>
+        <source>frame %1 of %2 is not whole</source>
+        <translation>das Bild %1 von %2 ist nicht vollständig</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrometerMenu</name>
+    <message>
+        <source>&amp;Spectrum</source>
+        <translation>&amp;Spektrum</translation>
+    </message>
+    <message>
+        <source>&amp;Picture</source>
+        <translation>&amp;Bild</translation>
+    </message>
+    <message>
+        <source>Sensor &amp;Image</source>
+        <translation>&amp;Sensorbild</translation>
+    </message>
+    <message>
+        <source>&amp;Curve</source>
+        <translation>&amp;Kurve</translation>
+    </message>
+    <message>
+        <source>Curve with Pea&amp;ks</source>
+        <translation>Kurve &amp;mit Peaks</translation>
+    </message>
+    <message>
+        <source>Tracks in &amp;3D</source>
+        <translation>Spuren in &amp;3D</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical Binning</source>
+        <translation>&amp;Vertikales Binning</translation>
+    </message>
+    <message>
+        <source>&amp;Off</source>
+        <translation>&amp;Aus</translation>
+    </message>
+    <message>
+        <source>&amp;All Rows</source>
+        <translation>Alle &amp;Zeilen</translation>
+    </message>
+    <message>
+        <source>Band &amp;Found by Itself</source>
+        <translation>Band au&amp;tomatisch</translation>
+    </message>
+    <message>
+        <source>Band by &amp;Hand</source>
+        <translation>Band von &amp;Hand</translation>
+    </message>
+    <message>
+        <source>Find the Band Aga&amp;in</source>
+        <translation>Band &amp;neu suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Direction</source>
+        <translation>&amp;Richtung</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontal</source>
+        <translation>&amp;Waagrecht</translation>
+    </message>
+    <message>
+        <source>&amp;Vertical</source>
+        <translation>&amp;Senkrecht</translation>
+    </message>
+    <message>
+        <source>&amp;Tracks</source>
+        <translation>S&amp;puren</translation>
+    </message>
+    <message>
+        <source>&amp;Find Tracks</source>
+        <translation>Spuren &amp;suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Show Tracks</source>
+        <translation>Spuren &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Focus Assistance</source>
+        <translation>&amp;Fokushilfe</translation>
+    </message>
+    <message>
+        <source>C&amp;orrections</source>
+        <translation>K&amp;orrekturen</translation>
+    </message>
+    <message>
+        <source>Take &amp;Dark Spectrum</source>
+        <translation>&amp;Dunkelspektrum aufnehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Subtract Dark</source>
+        <translation>D&amp;unkelspektrum abziehen</translation>
+    </message>
+    <message>
+        <source>Take &amp;Reference Spectrum</source>
+        <translation>&amp;Referenzspektrum aufnehmen</translation>
+    </message>
+    <message>
+        <source>Subtract R&amp;eference</source>
+        <translation>R&amp;eferenz abziehen</translation>
+    </message>
+    <message>
+        <source>&amp;Counts</source>
+        <translation>&amp;Zählwerte</translation>
+    </message>
+    <message>
+        <source>&amp;Transmission</source>
+        <translation>&amp;Transmission</translation>
+    </message>
+    <message>
+        <source>&amp;Absorbance</source>
+        <translation>&amp;Absorbanz</translation>
+    </message>
+    <message>
+        <source>Remove Cosmic Ra&amp;ys</source>
+        <translation>&amp;Kosmische Strahlung entfernen</translation>
+    </message>
+    <message>
+        <source>Remove &amp;Baseline</source>
+        <translation>&amp;Basislinie entfernen</translation>
+    </message>
+    <message>
+        <source>%1 Spectra</source>
+        <translation>%1 Spektren</translation>
+    </message>
+    <message>
+        <source>A&amp;verage</source>
+        <translation>&amp;Mittelung</translation>
+    </message>
+    <message>
+        <source>%1 Samples</source>
+        <translation>%1 Werte</translation>
+    </message>
+    <message>
+        <source>S&amp;mooth</source>
+        <translation>&amp;Glättung</translation>
+    </message>
+    <message>
+        <source>&amp;Unit</source>
+        <translation>&amp;Einheit</translation>
+    </message>
+    <message>
+        <source>&amp;Nanometres</source>
+        <translation>&amp;Nanometer</translation>
+    </message>
+    <message>
+        <source>&amp;Wavenumbers</source>
+        <translation>&amp;Wellenzahlen</translation>
+    </message>
+    <message>
+        <source>&amp;Pixels</source>
+        <translation>&amp;Pixel</translation>
+    </message>
+    <message>
+        <source>Ca&amp;librate…</source>
+        <translation>Ka&amp;librieren…</translation>
+    </message>
+    <message>
+        <source>&amp;Export Spectrum…</source>
+        <translation>Spektrum e&amp;xportieren…</translation>
+    </message>
+    <message>
+        <source>E&amp;xport Plot…</source>
+        <translation>&amp;Diagramm exportieren…</translation>
+    </message>
+    <message>
+        <source>There is no spectrum yet: switch vertical binning on first.</source>
+        <translation>Es gibt noch kein Spektrum: zuerst das vertikale Binning einschalten.</translation>
+    </message>
+    <message>
+        <source>The spectrum shown is the dark spectrum now.</source>
+        <translation>Das gezeigte Spektrum ist jetzt das Dunkelspektrum.</translation>
+    </message>
+    <message>
+        <source>The spectrum shown is the reference spectrum now.</source>
+        <translation>Das gezeigte Spektrum ist jetzt das Referenzspektrum.</translation>
+    </message>
+    <message>
+        <source>There is no spectrum yet.</source>
+        <translation>Es gibt noch kein Spektrum.</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumCorrections</name>
+    <message>
+        <source>cosmic rays removed</source>
+        <translation>kosmische Strahlung entfernt</translation>
+    </message>
+    <message>
+        <source>average of %1</source>
+        <translation>Mittel aus %1</translation>
+    </message>
+    <message>
+        <source>dark subtracted</source>
+        <translation>Dunkelspektrum abgezogen</translation>
+    </message>
+    <message>
+        <source>no dark spectrum of this width to subtract</source>
+        <translation>kein Dunkelspektrum dieser Breite zum Abziehen</translation>
+    </message>
+    <message>
+        <source>no reference spectrum of this width</source>
+        <translation>kein Referenzspektrum dieser Breite</translation>
+    </message>
+    <message>
+        <source>transmission in 1/100 %</source>
+        <translation>Transmission in 1/100 %</translation>
+    </message>
+    <message>
+        <source>absorbance in 1/10000</source>
+        <translation>Absorbanz in 1/10000</translation>
+    </message>
+    <message>
+        <source>reference subtracted</source>
+        <translation>Referenz abgezogen</translation>
+    </message>
+    <message>
+        <source>baseline removed</source>
+        <translation>Basislinie entfernt</translation>
+    </message>
+    <message>
+        <source>smoothed over %1 samples</source>
+        <translation>über %1 Werte geglättet</translation>
+    </message>
+    <message>
+        <source>No correction is on.</source>
+        <translation>Keine Korrektur ist an.</translation>
+    </message>
+    <message>
+        <source>Corrections: %1.</source>
+        <translation>Korrekturen: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumMenu</name>
+    <message>
+        <source>S&amp;pectrum</source>
+        <translation>Spektrumsa&amp;nzeige</translation>
+    </message>
+    <message>
+        <source>&amp;Spectrum Page</source>
+        <translation>&amp;Spektrumseite</translation>
+    </message>
+    <message>
+        <source>&amp;Rulers</source>
+        <translation>&amp;Lineale</translation>
+    </message>
+    <message>
+        <source>&amp;Intensity Curves</source>
+        <translation>&amp;Intensitätskurven</translation>
+    </message>
+    <message>
+        <source>&amp;Colour Bar</source>
+        <translation>&amp;Farbbalken</translation>
+    </message>
+    <message>
+        <source>Curves of &amp;Lines</source>
+        <translation>Linien je &amp;Kurve</translation>
+    </message>
+    <message>
+        <source>One row, one column</source>
+        <translation>Eine Zeile, eine Spalte</translation>
+    </message>
+    <message>
+        <source>Mean of %1</source>
+        <translation>Mittel aus %1</translation>
+    </message>
+</context>
+<context>
     <name>StackOrder</name>
     <message>
         <source>channel</source>
@@ -1191,6 +2964,17 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>%1 %2 of %3</source>
         <translation>%1 %2 von %3</translation>
+    </message>
+</context>
+<context>
+    <name>StackProjection</name>
+    <message>
+        <source>Picture %1 is not like the first one: it needs the same size, as many colours and samples of the same kind.</source>
+        <translation>Das Bild %1 ist nicht wie das erste: Es braucht die gleiche Größe, ebenso viele Farben und Werte gleicher Art.</translation>
+    </message>
+    <message>
+        <source>There is no picture that could be projected.</source>
+        <translation>Es gibt kein Bild, das projiziert werden könnte.</translation>
     </message>
 </context>
 <context>
@@ -1245,6 +3029,142 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
 </context>
 <context>
+    <name>TiffChain</name>
+    <message>
+        <source>the chain of its pages runs in a circle after page %1</source>
+        <translation>die Kette der Seiten läuft nach Seite %1 im Kreis</translation>
+    </message>
+    <message>
+        <source>it names more pages than it can hold</source>
+        <translation>die Datei nennt mehr Seiten, als sie fassen kann</translation>
+    </message>
+    <message>
+        <source>the description of page %1 (at byte %2) lies beyond the end of the file (%3 bytes)</source>
+        <translation>die Beschreibung der Seite %1 (bei Byte %2) liegt hinter dem Dateiende (%3 Byte)</translation>
+    </message>
+    <message>
+        <source>it ends within its header</source>
+        <translation>die Datei endet in ihrem Kopf</translation>
+    </message>
+    <message>
+        <source>it has no page; its writer did not finish it</source>
+        <translation>die Datei hat keine Seite; das schreibende Programm hat sie nicht fertiggestellt</translation>
+    </message>
+</context>
+<context>
+    <name>TiffDecode</name>
+    <message>
+        <source>its colour palette is missing</source>
+        <translation>die Farbpalette fehlt</translation>
+    </message>
+    <message>
+        <source>tile %1 cannot be decoded</source>
+        <translation>die Kachel %1 lässt sich nicht entschlüsseln</translation>
+    </message>
+    <message>
+        <source>strip %1 cannot be decoded</source>
+        <translation>der Streifen %1 lässt sich nicht entschlüsseln</translation>
+    </message>
+</context>
+<context>
+    <name>TiffPage</name>
+    <message>
+        <source>it is marked as RGB but has %1 samples a pixel</source>
+        <translation>sie ist als RGB gekennzeichnet, hat aber %1 Werte je Pixel</translation>
+    </message>
+    <message>
+        <source>its colour palette does not fit its samples</source>
+        <translation>die Farbpalette passt nicht zu den Werten</translation>
+    </message>
+    <message>
+        <source>its colours are of a kind (%1) that is not supported</source>
+        <translation>die Farben sind von einer Art (%1), die nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>its strips or tiles have the size %1 x %2</source>
+        <translation>die Streifen oder Kacheln haben die Größe %1 x %2</translation>
+    </message>
+    <message>
+        <source>its rows have a layout that is not supported</source>
+        <translation>die Zeilen haben eine Anordnung, die nicht unterstützt wird</translation>
+    </message>
+    <message>
+        <source>it has no size</source>
+        <translation>sie hat keine Größe</translation>
+    </message>
+    <message>
+        <source>its size, %1 x %2 pixels, is beyond any picture</source>
+        <translation>die Größe, %1 x %2 Pixel, übersteigt jedes Bild</translation>
+    </message>
+    <message>
+        <source>its compression (%1) is not supported</source>
+        <translation>die Kompression (%1) wird nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>its samples of %1 bits (sample format %2) are not supported</source>
+        <translation>Werte mit %1 Bit (Werteformat %2) werden nicht unterstützt</translation>
+    </message>
+    <message>
+        <source>its size, %1 x %2 pixels, is more than the %3 bytes of the file can hold</source>
+        <translation>die Größe, %1 x %2 Pixel, ist mehr, als die %3 Byte der Datei fassen können</translation>
+    </message>
+    <message>
+        <source>tile %1</source>
+        <translation>Kachel %1</translation>
+    </message>
+    <message>
+        <source>strip %1</source>
+        <translation>Streifen %1</translation>
+    </message>
+    <message>
+        <source>%1 has no data</source>
+        <translation>%1 hat keine Daten</translation>
+    </message>
+    <message>
+        <source>%1 (%2 bytes from byte %3) lies beyond the end of the file (%4 bytes)</source>
+        <translation>%1 (%2 Byte ab Byte %3) liegt hinter dem Dateiende (%4 Byte)</translation>
+    </message>
+    <message>
+        <source>%1 has %2 bytes and needs %3</source>
+        <translation>%1 hat %2 Byte und braucht %3</translation>
+    </message>
+</context>
+<context>
+    <name>TiffPictureFile</name>
+    <message>
+        <source>its header makes no sense</source>
+        <translation>der Dateikopf ergibt keinen Sinn</translation>
+    </message>
+    <message>
+        <source>its description cannot be read</source>
+        <translation>die Beschreibung kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>page %1 of %2: %3</source>
+        <translation>Seite %1 von %2: %3</translation>
+    </message>
+    <message>
+        <source>only its first %1 pages are there: %2</source>
+        <translation>nur die ersten %1 Seiten sind da: %2</translation>
+    </message>
+    <message>
+        <source>Only the first of the %1 samples of each pixel is shown.</source>
+        <translation>Nur der erste der %1 Werte jedes Pixels wird gezeigt.</translation>
+    </message>
+    <message>
+        <source>only the first %1 of its %2 frames are there</source>
+        <translation>nur die ersten %1 von %2 Bildern sind da</translation>
+    </message>
+    <message>
+        <source>frame %1 of %2 is not whole</source>
+        <translation>das Bild %1 von %2 ist nicht vollständig</translation>
+    </message>
+    <message>
+        <source>its samples are not whole</source>
+        <translation>die Werte sind nicht vollständig</translation>
+    </message>
+</context>
+<context>
     <name>TiffPictureWriter</name>
     <message>
         <source>the file could not be begun</source>
@@ -1257,6 +3177,25 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>the end of the file could not be written</source>
         <translation>das Ende der Datei ließ sich nicht schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>TrackFinder</name>
+    <message>
+        <source>There are no tracks: draw them on the picture or have them found.</source>
+        <translation>Es gibt keine Spuren: sie ins Bild zeichnen oder suchen lassen.</translation>
+    </message>
+    <message>
+        <source>There are %1 tracks and the plot shows %2 at most: take some away.</source>
+        <translation>Es gibt %1 Spuren, und das Diagramm zeigt höchstens %2: einige entfernen.</translation>
+    </message>
+    <message>
+        <source>Track %1 (rows %2 to %3) lies outside the sensor of %4 rows: move or remove it.</source>
+        <translation>Die Spur %1 (Zeilen %2 bis %3) liegt außerhalb des Sensors mit %4 Zeilen: sie verschieben oder entfernen.</translation>
+    </message>
+    <message>
+        <source>Tracks %1 and %2 overlap: move or remove one of them.</source>
+        <translation>Die Spuren %1 und %2 überlappen: eine davon verschieben oder entfernen.</translation>
     </message>
 </context>
 <context>
@@ -1357,6 +3296,18 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>The language changes at the next start.</source>
         <translation>Die Sprache ändert sich beim nächsten Start.</translation>
     </message>
+    <message>
+        <source>&amp;Grey</source>
+        <translation>&amp;Grau</translation>
+    </message>
+    <message>
+        <source>&amp;Inverted</source>
+        <translation>&amp;Invertiert</translation>
+    </message>
+    <message>
+        <source>Pale&amp;tte</source>
+        <translation>P&amp;alette</translation>
+    </message>
 </context>
 <context>
     <name>WorkbenchServices</name>
@@ -1372,23 +3323,20 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>A recording that was cut off was repaired: %1 frames in %2</source>
         <translation>Eine abgebrochene Aufzeichnung wurde wiederhergestellt: %1 Bilder in %2</translation>
     </message>
+    <message>
+        <source>A recording that was cut off waits until its disk is back: %1</source>
+        <translation>Eine abgebrochene Aufzeichnung wartet, bis ihre Platte wieder da ist: %1</translation>
+    </message>
+    <message>
+        <source>A recording that was cut off was repaired: %1 frames in %2, and %3 that were torn are lost</source>
+        <translation>Eine abgebrochene Aufzeichnung wurde wiederhergestellt: %1 Bilder in %2, und %3, die zerrissen waren, sind verloren</translation>
+    </message>
 </context>
 <context>
     <name>Workspace</name>
     <message>
         <source>There is no comparison to be saved: choose View &gt; Compare first.</source>
         <translation>Es gibt keinen Vergleich zu speichern: zuerst Ansicht &gt; Vergleichen wählen.</translation>
-    </message>
-</context>
-<context>
-    <name>WorkspaceConfig</name>
-    <message>
-        <source>Pictures can&apos;t be converted to CSV by this version.</source>
-        <translation>Diese Version kann Bilder nicht in CSV umwandeln.</translation>
-    </message>
-    <message>
-        <source>The DPI of a picture can&apos;t be changed by this version.</source>
-        <translation>Diese Version kann die DPI eines Bildes nicht ändern.</translation>
     </message>
 </context>
 </TS>
