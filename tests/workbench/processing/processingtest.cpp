@@ -445,8 +445,7 @@ private slots:
                 double sum = 0;
                 for (int i = 0; i < 9; ++i)
                     sum += At(picture, 3 * x + i % 3, 3 * y + i / 3, channel);
-                if (!std::isfinite(sum))
-                    return double(NAN);
+                // Infinite samples make an infinite sum, or none.
                 return sums || IsFloat(picture.Type()) ? (sums ? sum : sum / 9) : std::round(sum / 9);
             };
             QCOMPARE(Difference(result, expected, Digits(picture.Type())), QString());

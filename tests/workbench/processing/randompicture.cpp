@@ -69,7 +69,8 @@ QString Difference(const Picture &picture, const Expected &expected, double tole
             for (int channel = 0; channel < picture.Channels(); ++channel) {
                 const double is = At(picture, x, y, channel);
                 const double wanted = expected(x, y, channel);
-                const bool isSame = std::isnan(wanted) ? std::isnan(is) : std::abs(is - wanted) <= tolerance;
+                const bool isSame = std::isnan(wanted) ? std::isnan(is)
+                                                       : is == wanted || std::abs(is - wanted) <= tolerance;
                 if (!isSame)
                     return QString("(%1, %2) channel %3: %4 instead of %5")
                         .arg(x)

@@ -9,6 +9,39 @@
     </message>
 </context>
 <context>
+    <name>AnalysisFields</name>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Measurements</source>
+        <translation>Messungen</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Anzahl</translation>
+    </message>
+</context>
+<context>
+    <name>AnalysisPanel</name>
+    <message>
+        <source>This program has no analysis.</source>
+        <translation>Dieses Programm hat keine Auswertung.</translation>
+    </message>
+</context>
+<context>
+    <name>AutoCountPanel</name>
+    <message>
+        <source>This program does not count by itself.</source>
+        <translation>Dieses Programm zählt nicht von selbst.</translation>
+    </message>
+</context>
+<context>
     <name>AutoCounting</name>
     <message>
         <source>The table was not saved as “%1”: %2. Choose another folder or name.</source>
@@ -66,6 +99,13 @@
     <message>
         <source>With these points the wavelength does not rise or fall steadily (it turns at pixel %1): check which line each point has, or choose a lower degree.</source>
         <translation>Mit diesen Punkten steigt oder fällt die Wellenlänge nicht stetig (sie kehrt bei Pixel %1 um): prüfen, welche Linie jeder Punkt hat, oder einen niedrigeren Grad wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrationPanel</name>
+    <message>
+        <source>This program does not calibrate.</source>
+        <translation>Dieses Programm kalibriert nicht.</translation>
     </message>
 </context>
 <context>
@@ -410,6 +450,13 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>The camera %1 did not start: %2. Close it and open it again.</source>
         <translation>Die Kamera %1 lief nicht an: %2. Schließen und neu öffnen.</translation>
+    </message>
+</context>
+<context>
+    <name>ClassCountPanel</name>
+    <message>
+        <source>This program does not count by class.</source>
+        <translation>Dieses Programm zählt nicht nach Klassen.</translation>
     </message>
 </context>
 <context>
@@ -889,6 +936,27 @@ Im Menü Kamera eine wählen.</translation>
     </message>
 </context>
 <context>
+    <name>HistogramFields</name>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramm</translation>
+    </message>
+</context>
+<context>
+    <name>HistogramPage</name>
+    <message>
+        <source>Histogram of the live picture</source>
+        <translation>Histogramm des Livebilds</translation>
+    </message>
+</context>
+<context>
+    <name>HistogramPanel</name>
+    <message>
+        <source>This program tells nothing of its live samples.</source>
+        <translation>Dieses Programm sagt nichts über seine Livewerte.</translation>
+    </message>
+</context>
+<context>
     <name>InformationDialog</name>
     <message>
         <source>Camera Information</source>
@@ -1167,6 +1235,57 @@ Im Menü Kamera eine wählen.</translation>
     </message>
 </context>
 <context>
+    <name>PanelSources</name>
+    <message>
+        <source>Tool</source>
+        <translation>Werkzeug</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>No tool is chosen.</source>
+        <translation>Kein Werkzeug ist gewählt.</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Measurements</source>
+        <translation>Messungen</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>Class</source>
+        <translation>Klasse</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Anteil</translation>
+    </message>
+    <message>
+        <source>Nothing was counted by class.</source>
+        <translation>Nach Klassen wurde nichts gezählt.</translation>
+    </message>
+    <message>
+        <source>Position in pixels</source>
+        <translation>Position in Pixeln</translation>
+    </message>
+    <message>
+        <source>Calibrated position</source>
+        <translation>Kalibrierte Position</translation>
+    </message>
+    <message>
+        <source>Residual</source>
+        <translation>Abweichung</translation>
+    </message>
+</context>
+<context>
     <name>PictureAccess</name>
     <message>
         <source>“%1” was deleted or moved. It stays open; save it to keep it.</source>
@@ -1340,6 +1459,29 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>C&amp;ompare</source>
         <translation>&amp;Vergleichen</translation>
+    </message>
+</context>
+<context>
+    <name>PictureNotes</name>
+    <message>
+        <source>Live picture</source>
+        <translation>Livebild</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>There is no picture.</source>
+        <translation>Es gibt kein Bild.</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>%1 x %2 pixels</source>
+        <translation>%1 x %2 Pixel</translation>
     </message>
 </context>
 <context>
@@ -2170,6 +2312,13 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
 </context>
 <context>
+    <name>ReportPanel</name>
+    <message>
+        <source>This program makes no reports.</source>
+        <translation>Dieses Programm macht keine Berichte.</translation>
+    </message>
+</context>
+<context>
     <name>RunDisk</name>
     <message>
         <source>the disk is full</source>
@@ -2467,7 +2616,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>frame	frame id	camera time (ns)	host time (ns)</source>
-        <translation>Bild<byte value="x9"/>Bild-ID<byte value="x9"/>Kamerazeit (ns)<byte value="x9"/>Rechnerzeit (ns)</translation>
+        <translation>Bild	Bild-ID	Kamerazeit (ns)	Rechnerzeit (ns)</translation>
     </message>
     <message>
         <source>Run</source>
@@ -2948,6 +3097,96 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
 </context>
 <context>
+    <name>SpectrumNotes</name>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>Spectrum</source>
+        <translation>Spektrum</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>horizontal</source>
+        <translation>horizontal</translation>
+    </message>
+    <message>
+        <source>vertical</source>
+        <translation>vertikal</translation>
+    </message>
+    <message>
+        <source>Full vertical binning</source>
+        <translation>Volles vertikales Binning</translation>
+    </message>
+    <message>
+        <source>Tracks</source>
+        <translation>Spuren</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>Calibration</source>
+        <translation>Kalibrierung</translation>
+    </message>
+    <message>
+        <source>%1, from %2</source>
+        <translation>%1, ab %2</translation>
+    </message>
+    <message>
+        <source>Not calibrated: positions are in pixels.</source>
+        <translation>Nicht kalibriert: Positionen in Pixeln.</translation>
+    </message>
+    <message>
+        <source>2D with peaks</source>
+        <translation>2D mit Linien</translation>
+    </message>
+    <message>
+        <source>2D</source>
+        <translation>2D</translation>
+    </message>
+    <message>
+        <source>3D</source>
+        <translation>3D</translation>
+    </message>
+    <message>
+        <source>Physics</source>
+        <translation>Physik</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>all rows</source>
+        <translation>alle Zeilen</translation>
+    </message>
+    <message>
+        <source>rows %1 to %2</source>
+        <translation>Zeilen %1 bis %2</translation>
+    </message>
+    <message>
+        <source>automatic, %1</source>
+        <translation>automatisch, %1</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumPanel</name>
+    <message>
+        <source>This program shows no spectra.</source>
+        <translation>Dieses Programm zeigt keine Spektren.</translation>
+    </message>
+</context>
+<context>
     <name>StackOrder</name>
     <message>
         <source>channel</source>
@@ -2975,6 +3214,41 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>There is no picture that could be projected.</source>
         <translation>Es gibt kein Bild, das projiziert werden könnte.</translation>
+    </message>
+</context>
+<context>
+    <name>StatisticsNotes</name>
+    <message>
+        <source>Depth</source>
+        <translation>Tiefe</translation>
+    </message>
+    <message>
+        <source>%1 bit, 0 to %2</source>
+        <translation>%1 Bit, 0 bis %2</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>Deviation</source>
+        <translation>Streuung</translation>
+    </message>
+    <message>
+        <source>Saturated</source>
+        <translation>Gesättigt</translation>
+    </message>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
 </context>
 <context>
@@ -3026,6 +3300,33 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>shown %1  lost %2</source>
         <translation>gezeigt %1  verloren %2</translation>
+    </message>
+</context>
+<context>
+    <name>TablePage</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copies the selected rows, or all (Ctrl+C)</source>
+        <translation>Kopiert die gewählten Zeilen, oder alle (Strg+C)</translation>
+    </message>
+    <message>
+        <source>Save…</source>
+        <translation>Speichern…</translation>
+    </message>
+    <message>
+        <source>Saves the table as CSV</source>
+        <translation>Speichert die Tabelle als CSV</translation>
+    </message>
+    <message>
+        <source>Save Table</source>
+        <translation>Tabelle speichern</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv)</source>
+        <translation>Tabellen (*.csv)</translation>
     </message>
 </context>
 <context>
@@ -3177,6 +3478,13 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>the end of the file could not be written</source>
         <translation>das Ende der Datei ließ sich nicht schreiben</translation>
+    </message>
+</context>
+<context>
+    <name>ToolPanel</name>
+    <message>
+        <source>This program has no tools.</source>
+        <translation>Dieses Programm hat keine Werkzeuge.</translation>
     </message>
 </context>
 <context>
