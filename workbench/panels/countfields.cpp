@@ -2,7 +2,6 @@
 #include "countfields.h"
 
 #include "autocounting.h"
-#include "fieldmakers.h"
 #include "openedpicture.h"
 
 #include <QFileInfo>
@@ -46,15 +45,19 @@ void CountFields::AddObjects(PanelFields &fields) const
 {
     const int first = fields.size();
     const bool isFloat = IsFloat(m_picture->Shown().samples.Type());
-    fields << CheckField("automatic", tr("Find the level"), m_settings.isAutomatic);
-    const double level = m_settings.isAutomatic && m_counting->IsCounting() ? m_picture->Shown().countLevel
-                                                                            : m_settings.level;
-    fields << NumberField("level", tr("Level"), level, -MostLevel, MostLevel, isFloat ? 4 : 0);
+    fields << PanelField::Make(PanelField::Kind::Check, "automatic", tr("Find the level"),
+                               m_settings.isAutomatic);
+    const double level =
+        m_settings.isAutomatic && m_counting->IsCounting() ? m_picture->Shown().countLevel : m_settings.level;
+    fields << PanelField::MakeNumber("level", tr("Level"), level, -MostLevel, MostLevel, isFloat ? 4 : 0);
     fields.last().isEnabled = !m_settings.isAutomatic;
-    fields << CheckField("dark", tr("Objects are darker"), m_settings.takesDark);
-    fields << CheckField("fill", tr("Fill holes"), m_settings.fillsHoles);
-    fields << CheckField("split", tr("Split objects that touch"), m_settings.splits);
-    fields << NumberField("depth", tr("Waist"), m_settings.splitDepthPx, 0, MostSplitDepth, 1, tr(" px"));
+    fields << PanelField::Make(PanelField::Kind::Check, "dark", tr("Objects are darker"),
+                               m_settings.takesDark);
+    fields << PanelField::Make(PanelField::Kind::Check, "fill", tr("Fill holes"), m_settings.fillsHoles);
+    fields << PanelField::Make(PanelField::Kind::Check, "split", tr("Split objects that touch"),
+                               m_settings.splits);
+    fields << PanelField::MakeNumber("depth", tr("Waist"), m_settings.splitDepthPx, 0, MostSplitDepth, 1,
+                                     tr(" px"));
     fields.last().isEnabled = m_settings.splits;
     fields.last().step = 0.5;
     fields.last().toolTip = tr("How much narrower, on each side, a waist is than the parts that it parts.");
@@ -64,27 +67,34 @@ void CountFields::AddObjects(PanelFields &fields) const
 void CountFields::AddLimits(PanelFields &fields) const
 {
     const int first = fields.size();
-    fields << NumberField("leastArea", tr("Area from"), m_settings.leastArea, 0, CountSettings::MostArea, 0, tr(" px"));
-    fields << NumberField("mostArea", tr("Area to"), m_settings.mostArea, 0, CountSettings::MostArea, 0, tr(" px"));
-    fields << NumberField("leastCircularity", tr("Circularity from"), m_settings.leastCircularity, 0, 1, 2);
+    fields << PanelField::MakeNumber("leastArea", tr("Area from"), m_settings.leastArea, 0,
+                                     CountSettings::MostArea, 0, tr(" px"));
+    fields << PanelField::MakeNumber("mostArea", tr("Area to"), m_settings.mostArea, 0,
+                                     CountSettings::MostArea, 0, tr(" px"));
+    fields << PanelField::MakeNumber("leastCircularity", tr("Circularity from"), m_settings.leastCircularity,
+                                     0, 1, 2);
     fields.last().step = 0.05;
-    fields.last().toolTip = tr("4\u03c0 area / perimeter\u00b2: 1 for a disc, less the longer or rougher an object is.");
-    fields << NumberField("mostCircularity", tr("Circularity to"), m_settings.mostCircularity, 0, 1, 2);
+    fields.last().toolTip =
+        tr("4\u03c0 area / perimeter\u00b2: 1 for a disc, less the longer or rougher an object is.");
+    fields << PanelField::MakeNumber("mostCircularity", tr("Circularity to"), m_settings.mostCircularity, 0,
+                                     1, 2);
     fields.last().step = 0.05;
-    fields << CheckField("leaveEdge", tr("Leave out objects at the edge"), m_settings.leavesOutEdge);
+    fields << PanelField::Make(PanelField::Kind::Check, "leaveEdge", tr("Leave out objects at the edge"),
+                               m_settings.leavesOutEdge);
     SetGroup(fields, first, tr("What counts"));
 }
 
 void CountFields::AddResult(PanelFields &fields) const
 {
     const int first = fields.size();
-    fields << NumberField("pixelSize", tr("Pixel size"), m_pixelSize, 0, MostPixelSize, 4);
+    fields << PanelField::MakeNumber("pixelSize", tr("Pixel size"), m_pixelSize, 0, MostPixelSize, 4);
     fields.last().zeroText = tr("not set");
-    fields.last().toolTip = tr("Side of a pixel in the specimen; areas and lengths of the table are in this unit.");
-    fields << ChoiceField("unit", tr("Unit"), m_unit, Units());
-    fields << NoteField("result", QString(), ResultText());
-    fields << ActionField("count", m_counting->IsCounting() ? tr("&End Counting") : tr("&Count"),
-                          !m_picture->IsNonImage());
+    fields.last().toolTip =
+        tr("Side of a pixel in the specimen; areas and lengths of the table are in this unit.");
+    fields << PanelField::MakeChoice("unit", tr("Unit"), m_unit, Units());
+    fields << PanelField::MakeNote(QString(), "result", QString(), ResultText());
+    fields << PanelField::MakeAction("count", m_counting->IsCounting() ? tr("&End Counting") : tr("&Count"),
+                                     !m_picture->IsNonImage());
     SetGroup(fields, first, tr("Result"));
 }
 
@@ -192,5 +202,6 @@ void CountFields::slotEnd()
 
 void CountFields::slotSaved(QString path, QString error)
 {
-    emit signalMessage(error.isEmpty() ? tr("\u201c%1\u201d was saved.").arg(QFileInfo(path).fileName()) : error);
+    emit signalMessage(error.isEmpty() ? tr("\u201c%1\u201d was saved.").arg(QFileInfo(path).fileName())
+                                       : error);
 }

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "processchoices.h"
 
-#include "fieldmakers.h"
-
 #include <QCoreApplication>
 
 namespace {
@@ -19,7 +17,7 @@ QString Px() { return Text::tr(" px"); }
 PanelField Level(const QString &key, const QString &text, double value, bool isFloat)
 {
     constexpr int decimalsOfFloat = 4;
-    return NumberField(key, text, value, -MostLevel, MostLevel, isFloat ? decimalsOfFloat : 0);
+    return PanelField::MakeNumber(key, text, value, -MostLevel, MostLevel, isFloat ? decimalsOfFloat : 0);
 }
 
 /// Takes the number of a field into a setting.
@@ -43,15 +41,18 @@ QStringList ProjectionNames()
 
 bool HasFractions(const ProjectionSettings &settings)
 {
-    return settings.method == ProjectionSettings::Method::Mean || settings.method == ProjectionSettings::Method::Median;
+    return settings.method == ProjectionSettings::Method::Mean
+           || settings.method == ProjectionSettings::Method::Median;
 }
 
 void AddProjection(PanelFields &fields, const ProjectionSettings &settings)
 {
-    fields << ChoiceField("method", Text::tr("Value"), int(settings.method), ProjectionNames());
-    fields << CheckField("fractions", Text::tr("Keep fractions"), settings.keepsFractions);
+    fields << PanelField::MakeChoice("method", Text::tr("Value"), int(settings.method), ProjectionNames());
+    fields << PanelField::Make(PanelField::Kind::Check, "fractions", Text::tr("Keep fractions"),
+                               settings.keepsFractions);
     fields.last().isEnabled = HasFractions(settings);
-    fields.last().toolTip = Text::tr("The result is floating point instead of the kind of samples of the frames.");
+    fields.last().toolTip =
+        Text::tr("The result is floating point instead of the kind of samples of the frames.");
 }
 
 /// Writes the value of a field into the settings that have such a field.
@@ -175,12 +176,18 @@ private:
 
 QStringList ProcessChoices::Names()
 {
-    return { Text::tr("None"),      Text::tr("Background"), Text::tr("Flat field"), Text::tr("Denoise"),
-             Text::tr("Sharpen"),   Text::tr("Threshold"),  Text::tr("Morphology"), Text::tr("Binning"),
-             Text::tr("Band pass"), Text::tr("Projection of the stack"), Text::tr("Merge pictures") };
+    return { Text::tr("None"),          Text::tr("Background"),
+             Text::tr("Flat field"),    Text::tr("Denoise"),
+             Text::tr("Sharpen"),       Text::tr("Threshold"),
+             Text::tr("Morphology"),    Text::tr("Binning"),
+             Text::tr("Band pass"),     Text::tr("Projection of the stack"),
+             Text::tr("Merge pictures") };
 }
 
-QString ProcessChoices::StepText(const ProcessSettings &settings) { return Names().at(int(settings.index())); }
+QString ProcessChoices::StepText(const ProcessSettings &settings)
+{
+    return Names().at(int(settings.index()));
+}
 
 void ProcessChoices::SetIndex(int index) { m_index = qBound(0, index, m_settings.size() - 1); }
 
@@ -207,104 +214,122 @@ bool ProcessChoices::Set(const QString &key, const QVariant &value, const Contex
     return std::visit(Setter(key, value, context), m_settings[m_index]);
 }
 
-void ProcessChoices::AddFields(PanelFields &fields, const BackgroundSettings &settings, const Context &context) const
+void ProcessChoices::AddFields(PanelFields &fields, const BackgroundSettings &settings,
+                               const Context &context) const
 {
-    fields << ChoiceField("method", Text::tr("Take away"), int(settings.method),
-                          { Text::tr("A level"), Text::tr("Wide structures"), Text::tr("A slope") });
+    fields << PanelField::MakeChoice(
+        "method", Text::tr("Take away"), int(settings.method),
+        { Text::tr("A level"), Text::tr("Wide structures"), Text::tr("A slope") });
     if (settings.method == BackgroundSettings::Method::Constant)
         fields << Level("level", Text::tr("Level"), settings.level, context.isFloat);
     if (settings.method == BackgroundSettings::Method::Opening) {
-        fields << NumberField("radius", Text::tr("Radius"), settings.radius, 1, BackgroundSettings::MostRadius, 0,
-                              Px());
+        fields << PanelField::MakeNumber("radius", Text::tr("Radius"), settings.radius, 1,
+                                         BackgroundSettings::MostRadius, 0, Px());
         fields.last().toolTip = Text::tr("Structures that are narrower than twice the radius stay.");
     }
 }
 
-void ProcessChoices::AddFields(PanelFields &fields, const FlatFieldSettings &settings, const Context &context) const
+void ProcessChoices::AddFields(PanelFields &fields, const FlatFieldSettings &settings,
+                               const Context &context) const
 {
-    fields << ChoiceField("reference", Text::tr("Reference"), context.references.indexOf(settings.reference),
-                          context.referenceNames);
+    fields << PanelField::MakeChoice("reference", Text::tr("Reference"),
+                                     context.references.indexOf(settings.reference), context.referenceNames);
     fields.last().isEnabled = !context.references.isEmpty();
     fields.last().toolTip = Text::tr("An opened picture of an evenly lit field, of the same size.");
     if (context.references.isEmpty())
-        fields << NoteField("hint", QString(), Text::tr("Open a picture of an evenly lit field beside this one."));
+        fields << PanelField::MakeNote(QString(), "hint", QString(),
+                                       Text::tr("Open a picture of an evenly lit field beside this one."));
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const DenoiseSettings &settings, const Context &) const
 {
     using Method = DenoiseSettings::Method;
-    fields << ChoiceField("method", Text::tr("Filter"), int(settings.method),
-                          { Text::tr("Gaussian"), Text::tr("Median"), Text::tr("Bilateral") });
+    fields << PanelField::MakeChoice("method", Text::tr("Filter"), int(settings.method),
+                                     { Text::tr("Gaussian"), Text::tr("Median"), Text::tr("Bilateral") });
     if (settings.method == Method::Median) {
-        fields << NumberField("radius", Text::tr("Radius"), settings.radius, 1, DenoiseSettings::MostRadius, 0, Px());
+        fields << PanelField::MakeNumber("radius", Text::tr("Radius"), settings.radius, 1,
+                                         DenoiseSettings::MostRadius, 0, Px());
         return;
     }
     const bool isBilateral = settings.method == Method::Bilateral;
-    fields << NumberField("sigma", Text::tr("Sigma"), settings.sigma, DenoiseSettings::LeastSigma,
-                          isBilateral ? DenoiseSettings::MostBilateralSigma : DenoiseSettings::MostSigma, 1, Px());
+    fields << PanelField::MakeNumber(
+        "sigma", Text::tr("Sigma"), settings.sigma, DenoiseSettings::LeastSigma,
+        isBilateral ? DenoiseSettings::MostBilateralSigma : DenoiseSettings::MostSigma, 1, Px());
     fields.last().step = 0.5;
     if (isBilateral) {
-        fields << NumberField("levelSigma", Text::tr("Edge height"), settings.levelSigma, 0.001, MostLevel, 3);
-        fields.last().toolTip = Text::tr("Steps that are higher than this, in units of the samples, stay sharp.");
+        fields << PanelField::MakeNumber("levelSigma", Text::tr("Edge height"), settings.levelSigma, 0.001,
+                                         MostLevel, 3);
+        fields.last().toolTip =
+            Text::tr("Steps that are higher than this, in units of the samples, stay sharp.");
     }
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const SharpenSettings &settings, const Context &) const
 {
-    fields << NumberField("sigma", Text::tr("Sigma"), settings.sigma, DenoiseSettings::LeastSigma,
-                          DenoiseSettings::MostSigma, 1, Px());
+    fields << PanelField::MakeNumber("sigma", Text::tr("Sigma"), settings.sigma, DenoiseSettings::LeastSigma,
+                                     DenoiseSettings::MostSigma, 1, Px());
     fields.last().step = 0.5;
-    fields << NumberField("amount", Text::tr("Amount"), settings.amount, 0, SharpenSettings::MostAmount, 2);
+    fields << PanelField::MakeNumber("amount", Text::tr("Amount"), settings.amount, 0,
+                                     SharpenSettings::MostAmount, 2);
     fields.last().step = 0.1;
 }
 
-void ProcessChoices::AddFields(PanelFields &fields, const ThresholdSettings &settings, const Context &context) const
+void ProcessChoices::AddFields(PanelFields &fields, const ThresholdSettings &settings,
+                               const Context &context) const
 {
-    fields << CheckField("automatic", Text::tr("Find the level"), settings.isAutomatic);
+    fields << PanelField::Make(PanelField::Kind::Check, "automatic", Text::tr("Find the level"),
+                               settings.isAutomatic);
     fields << Level("level", Text::tr("Level"), settings.level, context.isFloat);
     fields.last().isEnabled = !settings.isAutomatic;
-    fields << CheckField("dark", Text::tr("Take what is darker"), settings.takesDark);
+    fields << PanelField::Make(PanelField::Kind::Check, "dark", Text::tr("Take what is darker"),
+                               settings.takesDark);
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const MorphologySettings &settings, const Context &) const
 {
     const bool isDisc = settings.shape == MorphologySettings::Shape::Disc;
-    fields << ChoiceField("method", Text::tr("Operation"), int(settings.method),
-                          { Text::tr("Erode"), Text::tr("Dilate"), Text::tr("Open"), Text::tr("Close"),
-                            Text::tr("Top hat") });
-    fields << ChoiceField("shape", Text::tr("Shape"), int(settings.shape),
-                          { Text::tr("Square"), Text::tr("Disc") });
-    fields << NumberField("radius", Text::tr("Radius"), settings.radius, 1,
-                          isDisc ? MorphologySettings::MostDiscRadius : MorphologySettings::MostSquareRadius, 0, Px());
+    fields << PanelField::MakeChoice(
+        "method", Text::tr("Operation"), int(settings.method),
+        { Text::tr("Erode"), Text::tr("Dilate"), Text::tr("Open"), Text::tr("Close"), Text::tr("Top hat") });
+    fields << PanelField::MakeChoice("shape", Text::tr("Shape"), int(settings.shape),
+                                     { Text::tr("Square"), Text::tr("Disc") });
+    fields << PanelField::MakeNumber(
+        "radius", Text::tr("Radius"), settings.radius, 1,
+        isDisc ? MorphologySettings::MostDiscRadius : MorphologySettings::MostSquareRadius, 0, Px());
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const BinningSettings &settings, const Context &) const
 {
-    fields << NumberField("size", Text::tr("Square"), settings.size, 2, BinningSettings::MostSize, 0, Px());
-    fields << ChoiceField("sums", Text::tr("Value"), settings.sums ? 1 : 0,
-                          { Text::tr("Mean"), Text::tr("Sum") });
+    fields << PanelField::MakeNumber("size", Text::tr("Square"), settings.size, 2, BinningSettings::MostSize,
+                                     0, Px());
+    fields << PanelField::MakeChoice("sums", Text::tr("Value"), settings.sums ? 1 : 0,
+                                     { Text::tr("Mean"), Text::tr("Sum") });
 }
 
 void ProcessChoices::AddFields(PanelFields &fields, const BandPassSettings &settings, const Context &) const
 {
-    fields << NumberField("smallest", Text::tr("From"), settings.smallest, 0, BandPassSettings::MostLength, 1, Px());
+    fields << PanelField::MakeNumber("smallest", Text::tr("From"), settings.smallest, 0,
+                                     BandPassSettings::MostLength, 1, Px());
     fields.last().zeroText = Text::tr("all small ones");
     fields.last().toolTip = Text::tr("Smaller structures are taken away.");
-    fields << NumberField("largest", Text::tr("To"), settings.largest, 0, BandPassSettings::MostLength, 1, Px());
+    fields << PanelField::MakeNumber("largest", Text::tr("To"), settings.largest, 0,
+                                     BandPassSettings::MostLength, 1, Px());
     fields.last().zeroText = Text::tr("all large ones");
     fields.last().toolTip = Text::tr("Larger structures are taken away.");
 }
 
-void ProcessChoices::AddFields(PanelFields &fields, const ProjectionSettings &settings, const Context &context) const
+void ProcessChoices::AddFields(PanelFields &fields, const ProjectionSettings &settings,
+                               const Context &context) const
 {
     AddProjection(fields, settings);
-    fields << NoteField("frames", Text::tr("Frames"), QString::number(context.frames));
+    fields << PanelField::MakeNote(QString(), "frames", Text::tr("Frames"), QString::number(context.frames));
 }
 
-void ProcessChoices::AddFields(PanelFields &fields, const MergeSettings &settings, const Context &context) const
+void ProcessChoices::AddFields(PanelFields &fields, const MergeSettings &settings,
+                               const Context &context) const
 {
     AddProjection(fields, settings.projection);
     const QString none = Text::tr("Check the other pictures to merge in the list of opened pictures.");
-    fields << NoteField("others", Text::tr("With"),
-                        context.otherNames.isEmpty() ? none : context.otherNames.join('\n'));
+    fields << PanelField::MakeNote(QString(), "others", Text::tr("With"),
+                                   context.otherNames.isEmpty() ? none : context.otherNames.join('\n'));
 }

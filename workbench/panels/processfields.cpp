@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "processfields.h"
 
-#include "fieldmakers.h"
 #include "openedpicture.h"
 #include "picturedocument.h"
 #include "pictureshelf.h"
@@ -65,16 +64,16 @@ PanelFields ProcessFields::Fields() const
 {
     const bool isOpen = !m_picture->IsNonImage();
     PanelFields fields;
-    fields << ChoiceField("step", tr("&Step"), m_choices.Index(), ProcessChoices::Names());
+    fields << PanelField::MakeChoice("step", tr("&Step"), m_choices.Index(), ProcessChoices::Names());
     fields.last().isEnabled = isOpen;
     SetGroup(fields, 0, tr("Processing"));
     const int first = fields.size();
     fields << m_choices.Fields(Context());
     SetGroup(fields, first, ProcessChoices::Names().at(m_choices.Index()));
     const int last = fields.size();
-    fields << NoteField("state", QString(), StateText());
-    fields << ActionField("apply", tr("&Apply"), m_choices.Index() != 0);
-    fields << ActionField("cancel", tr("&Cancel"), m_choices.Index() != 0);
+    fields << PanelField::MakeNote(QString(), "state", QString(), StateText());
+    fields << PanelField::MakeAction("apply", tr("&Apply"), m_choices.Index() != 0);
+    fields << PanelField::MakeAction("cancel", tr("&Cancel"), m_choices.Index() != 0);
     fields.last().isBeside = true;
     SetGroup(fields, last, tr("Preview"));
     return fields;
