@@ -158,7 +158,7 @@ private:
         for (int number = 1; number <= 14; ++number)
             WriteSpecimen(folder.filePath(QString("cells %1.%2").arg(number).arg(number % 5 ? "tif" : "png")), number);
         m_workbench.services.Config()->SetFileView();
-        ShowPanels(true, true);
+        ShowPanels(false, true); // the tree would show the folders of this computer
         auto *page = m_workbench.window.findChild<FileThumbnail *>();
         page->slotOpenFileDirectory(folder.path());
         auto *list = page->findChild<QListView *>("listViewFiles");

@@ -83,6 +83,8 @@ void CalibrationModelTest::cleanup()
     m_settings.reset();
     m_centre.reset();
     m_ranges.reset();
+    m_stored.reset(); // writes its file, so before the folder goes
+    m_folder.reset();
     EndGuard();
 }
 
