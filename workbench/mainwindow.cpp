@@ -98,7 +98,8 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     setWindowTitle(tr("Workbench"));
 
     // The panels find them while the module is built.
-    new PanelSources({services->Histogram(), services->Spectrum(), services->Spectra()}, this);
+    auto *sources = new PanelSources(
+        {services->Histogram(), services->Spectrum(), services->Spectra(), services->Calibration()}, this);
     AddAdjustment(FieldSource::CameraAdjustmentName, services->LivePosition(), SLOT(slotSetMirrorRotate(int)));
     AddAdjustment(FieldSource::ImageAdjustmentName, services->Desk()->MainPicture(), SLOT(slotRotateImage(int)));
     BuildAreas();
@@ -116,6 +117,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     connect(m_drawingGuard, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
     connect(m_processFields, &ProcessFields::signalMessage, this, &MainWindow::slotShowMessage);
     connect(m_countFields, &CountFields::signalMessage, this, &MainWindow::slotShowMessage);
+    connect(sources, &PanelSources::signalMessage, this, &MainWindow::slotShowMessage);
     m_leaveFullScreen = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     m_leaveFullScreen->setEnabled(false);
     connect(m_leaveFullScreen, SIGNAL(activated()), this, SLOT(slotLeaveFullScreen()));

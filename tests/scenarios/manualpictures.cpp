@@ -11,7 +11,9 @@
 #include "runningworkbench.h"
 #include "savesettings.h"
 #include "specimenscene.h"
+#include "spectrumsettings.h"
 #include "stylesheet.h"
+#include "usearea.h"
 #include "viewcodes.h"
 #include "workspaceconfig.h"
 
@@ -20,13 +22,16 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QDockWidget>
 #include <QFrame>
 #include <QGraphicsView>
 #include <QListView>
 #include <QLoggingCategory>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -64,6 +69,7 @@ public:
     void TakeAll()
     {
         TakeLive();
+        TakePanels();
         TakeLevels();
         TakeRecording();
         TakeOpenedPicture();
@@ -86,6 +92,42 @@ private:
         Save("saturation");
         m_workbench.Action("Mark Saturated Pixels")->trigger();
         m_workbench.link.Session()->Controls().SetExposureUs(exposureUs);
+    }
+
+    /// All of the camera's side and around it; those of opened pictures come with one.
+    void TakePanels()
+    {
+        ShowPanels(true, true);
+        m_workbench.services.GetUseArea()->slotSetSpectrum(true);
+        m_workbench.services.Spectrum()->SetFVBOnFlag(1);
+        m_workbench.services.Config()->SetRightUIChecked(true);
+        ShowPanels(true, true);
+        Save("panels");
+        TakeTabs(m_workbench.window.findChild<QTabWidget *>("CameraTabWidget"));
+        auto *right = m_workbench.window.findChild<QDockWidget *>("DockRight");
+        TakeTabs(qobject_cast<QTabWidget *>(right->widget()));
+        TakeTabs(m_workbench.window.findChild<QTabWidget *>("BottomTabWidget"));
+        m_workbench.services.Spectrum()->SetFVBOnFlag(0);
+        m_workbench.services.GetUseArea()->slotSetSpectrum(false);
+        m_workbench.services.Config()->SetRightUIChecked(false);
+    }
+
+    /// Each panel in full length, by its object name.
+    void TakeTabs(QTabWidget *tabs)
+    {
+        for (int i = 0; i < tabs->count(); ++i) {
+            tabs->setCurrentIndex(i);
+            Settle();
+            auto *area = qobject_cast<QScrollArea *>(tabs->widget(i));
+            QWidget *panel = area ? area->widget() : tabs->widget(i);
+            if (!panel->objectName().endsWith("Panel"))
+                continue; // brought by no plug-in
+            QPixmap picture(panel->size());
+            picture.fill(panel->palette().color(QPalette::Window));
+            panel->render(&picture, QPoint(), QRegion(), QWidget::DrawChildren);
+            SaveAs(picture, panel->objectName().toLower());
+        }
+        tabs->setCurrentIndex(0);
     }
 
     void TakeLevels()
@@ -139,6 +181,7 @@ private:
         if (!QTest::qWaitFor([&] { return isShown(4); }, WaitMs))
             qFatal("The stack shows no other frame.");
         Save("opened");
+        TakeTabs(m_workbench.window.findChild<QTabWidget *>("ImageTabWidget"));
     }
 
     void TakeCompare()
@@ -255,6 +298,11 @@ private:
         const QRect window = m_workbench.window.geometry();
         const QPixmap picture = QGuiApplication::primaryScreen()->grabWindow(0, window.x(), window.y(),
                                                                              window.width(), window.height());
+        SaveAs(picture, name);
+    }
+
+    void SaveAs(const QPixmap &picture, const QString &name)
+    {
         if (!picture.save(m_target.filePath(name + ".png")))
             qFatal("%s.png can't be written.", qPrintable(name));
     }
@@ -270,9 +318,9 @@ int main(int argc, char **argv)
 {
     QLoggingCategory::setFilterRules("default.debug=false");
     QApplication application(argc, argv);
-    if (argc != 2 || !QDir().mkpath(argv[1]))
-        qFatal("Usage: manual_pictures FOLDER");
-    StyleSheet::Named("dark").Apply(application);
+    if (argc < 2 || argc > 3 || !QDir().mkpath(argv[1]))
+        qFatal("Usage: manual_pictures FOLDER [dark|light]");
+    StyleSheet::Named(argc == 3 ? argv[2] : "dark").Apply(application);
     const QTemporaryDir folder;
     qputenv("XDG_CACHE_HOME", QFile::encodeName(folder.filePath("cache")));
     {

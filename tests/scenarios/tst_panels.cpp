@@ -145,7 +145,8 @@ private slots:
         GlobalNotifyObserver(NotifyRaiseCalibrationTable, nullptr);
         QVERIFY(Panel("CalibrationPanel")->isVisible());
         QCOMPARE(Panel("CalibrationPanel")->findChild<QLabel *>("labelTableNote")->text(),
-                 QString("Not calibrated: positions are in pixels."));
+                 QString("Not calibrated: positions are in pixels. Spectrum > Calibrate… (Ctrl+Shift+L) takes the lines of a "
+                         "lamp."));
     }
 
     void pluginPageListsThem()

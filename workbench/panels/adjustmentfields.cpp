@@ -50,12 +50,13 @@ void AdjustmentFields::AddLevels(PanelFields &fields) const
     QStringList modes = LevelsTexts::Modes();
     if (!m_report.kind.IsWhole())
         modes.removeLast(); // such samples have no full range
-    fields << PanelField::MakeChoice("mode", tr("&Mode"), int(setting.mode), modes);
-    fields << LevelField("black", tr("&Black"), m_report.levels.left, setting.left);
-    fields << LevelField("white", tr("&White"), m_report.levels.right, setting.right);
-    fields << PanelField::MakeNumber("gamma", tr("&Gamma"), setting.gamma, DisplayLevels::LeastGamma,
+    fields << PanelField::MakeChoice("mode", tr("Mode"), int(setting.mode), modes);
+    fields << LevelField("black", tr("Black"), m_report.levels.left, setting.left);
+    fields << LevelField("white", tr("White"), m_report.levels.right, setting.right);
+    fields << PanelField::MakeNumber("gamma", tr("Gamma"), setting.gamma, DisplayLevels::LeastGamma,
                                      DisplayLevels::MostGamma, 2);
     fields.last().step = GammaStep;
+    fields.last().toolTip = tr("Above 1 it brightens the middle.");
     fields << PanelField::MakeAction("reset", tr("Reset Levels"));
     SetGroup(fields, first, tr("Levels"));
     for (int i = first; i < fields.size(); ++i)
@@ -85,10 +86,10 @@ void AdjustmentFields::AddColours(PanelFields &fields) const
     QStringList titles;
     for (const QString &name : Palette::Names())
         titles << LevelsTexts::PaletteTitle(name).remove('&');
-    fields << PanelField::MakeChoice("palette", tr("&Palette"), Palette::Names().indexOf(m_model->GetPalette().Name()),
+    fields << PanelField::MakeChoice("palette", tr("Palette"), Palette::Names().indexOf(m_model->GetPalette().Name()),
                                      titles);
     fields.last().toolTip = tr("Of mono pictures; colour pictures keep their own colours.");
-    fields << PanelField::Make(PanelField::Kind::Check, "saturated", tr("Mark &saturated pixels"),
+    fields << PanelField::Make(PanelField::Kind::Check, "saturated", tr("Mark saturated pixels"),
                                m_model->MarksSaturated());
     fields.last().toolTip = tr("Pixels at full scale are shown red (Ctrl+M).");
     SetGroup(fields, first, tr("Colours"));
@@ -97,11 +98,13 @@ void AdjustmentFields::AddColours(PanelFields &fields) const
 void AdjustmentFields::AddPosition(PanelFields &fields) const
 {
     const int first = fields.size();
-    fields << PanelField::MakeAction("flipHorizontal", tr("Flip &Horizontally"), m_hasPicture);
-    fields << PanelField::MakeAction("flipVertical", tr("Flip &Vertically"), m_hasPicture);
+    fields << PanelField::MakeAction("flipHorizontal", tr("Flip Horizontally"), m_hasPicture);
+    fields.last().toolTip = tr("Ctrl+H");
+    fields << PanelField::MakeAction("flipVertical", tr("Flip Vertically"), m_hasPicture);
+    fields.last().toolTip = tr("Ctrl+V");
     fields.last().isBeside = true;
-    fields << PanelField::MakeAction("rotate", tr("&Rotate by 90°"), m_hasPicture);
-    fields.last().toolTip = tr("Clockwise");
+    fields << PanelField::MakeAction("rotate", tr("Rotate by 90°"), m_hasPicture);
+    fields.last().toolTip = tr("Clockwise (Ctrl+R)");
     SetGroup(fields, first, tr("Position"));
 }
 

@@ -2,6 +2,7 @@
 #include "panelsources.h"
 
 #include "analysisfields.h"
+#include "calibrationtable.h"
 #include "emptytable.h"
 #include "globalmanager.h"
 #include "histogramfields.h"
@@ -10,12 +11,12 @@
 #include "picturenotes.h"
 #include "previewmanager.h"
 #include "spectrumfields.h"
-#include "spectrumuimanager.h"
 
 #include <QLocale>
 
 PanelSources::PanelSources(const Parts &parts, QObject *parent)
     : QObject(parent)
+    , m_parts(parts)
 {
     new HistogramFields(parts.histogram, this);
     new AnalysisFields(parts.histogram, this);
@@ -47,21 +48,11 @@ void PanelSources::AddReport()
             [report] { emit report->signalChanged(); });
 }
 
-QString PanelSources::CalibrationText()
-{
-    const SpectrumUIManager *spectrum = SpectrumUIManager::GetInstance();
-    double first = 0;
-    if (spectrum->Calculate(0, first))
-        return tr("%1, from %2").arg(spectrum->GetTitleName(), QLocale().toString(first, 'f', 2));
-    return tr("Not calibrated: positions are in pixels.");
-}
-
 void PanelSources::AddTables()
 {
     new EmptyTable(
         FieldSource::ClassCountName, { tr("Class"), tr("Number"), tr("Share") },
         [] { return tr("Nothing was counted by class."); }, this);
-    new EmptyTable(
-        FieldSource::CalibrationName, { tr("Position in pixels"), tr("Calibrated position"), tr("Residual") },
-        &PanelSources::CalibrationText, this);
+    auto *calibration = new CalibrationTable(m_parts.calibration, this);
+    connect(calibration, &CalibrationTable::signalMessage, this, &PanelSources::signalMessage);
 }

@@ -3,6 +3,7 @@
 
 #include <QObject>
 
+class CalibrationModel;
 class LiveHistogram;
 class SpectrumPipeline;
 class SpectrumSettings;
@@ -20,12 +21,18 @@ public:
         LiveHistogram *histogram = nullptr;
         SpectrumSettings *spectrum = nullptr;
         SpectrumPipeline *spectra = nullptr;
+        CalibrationModel *calibration = nullptr;
     };
 
     explicit PanelSources(const Parts &parts, QObject *parent = nullptr);
 
+signals:
+    /// A sentence for the status bar.
+    void signalMessage(QString text);
+
 private:
     void AddReport();
     void AddTables();
-    static QString CalibrationText();
+
+    Parts m_parts;
 };

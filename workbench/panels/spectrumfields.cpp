@@ -77,14 +77,14 @@ PanelFields SpectrumFields::Fields() const
 void SpectrumFields::AddDisplay(PanelFields &fields) const
 {
     const int first = fields.size();
-    fields << PanelField::MakeChoice("mode", tr("&Show"), int(m_settings->Mode()),
+    fields << PanelField::MakeChoice("mode", tr("Show"), int(m_settings->Mode()),
                                      {tr("Picture"), tr("Sensor image"), tr("Curve"), tr("Curve with peaks"),
                                       tr("Tracks in 3D")});
     fields.last().toolTip = tr("Ctrl+1 to Ctrl+5");
-    fields << PanelField::MakeChoice("direction", tr("&Direction"), m_settings->IsDirectionHorinzontal() ? 0 : 1,
+    fields << PanelField::MakeChoice("direction", tr("Direction"), m_settings->IsDirectionHorinzontal() ? 0 : 1,
                                      {tr("horizontal"), tr("vertical")});
     fields.last().toolTip = tr("The direction in which the wavelength changes on the sensor.");
-    fields << PanelField::MakeChoice("unit", tr("&Unit"), int(m_settings->Unit()),
+    fields << PanelField::MakeChoice("unit", tr("Unit"), int(m_settings->Unit()),
                                      {tr("pixels"), tr("nanometres"), tr("wavenumbers")});
     fields.last().toolTip = tr("Without a calibration spectra are shown over pixels.");
     SetGroup(fields, first, tr("Display"));
@@ -96,7 +96,7 @@ void SpectrumFields::AddBinning(PanelFields &fields) const
     const SpectrumRecipe &recipe = m_settings->Recipe();
     const bool isManual = recipe.isBinning && recipe.rows == BinnedRows::Manual;
     const double last = qMax(m_rows - 1, qMax(recipe.top, recipe.bottom));
-    fields << PanelField::MakeChoice("binning", tr("&Rows"), BinningOf(recipe),
+    fields << PanelField::MakeChoice("binning", tr("Rows"), BinningOf(recipe),
                                      {tr("off"), tr("all rows"), tr("band found by itself"), tr("band by hand")});
     fields << PanelField::MakeNumber("top", tr("First row"), recipe.top, 0, last);
     fields.last().isEnabled = isManual;
@@ -115,10 +115,10 @@ void SpectrumFields::AddTracks(PanelFields &fields) const
                                m_settings->GetMultiTrackList().isEmpty()
                                    ? tr("none")
                                    : QString::number(m_settings->GetMultiTrackList().size()));
-    fields << PanelField::MakeAction("findTracks", tr("&Find Tracks"));
-    fields << CheckField("showTracks", tr("Show &tracks"), recipe.hasTracks);
+    fields << PanelField::MakeAction("findTracks", tr("Find Tracks"));
+    fields << CheckField("showTracks", tr("Show tracks"), recipe.hasTracks);
     fields.last().isEnabled = recipe.hasTracks || !m_settings->GetMultiTrackList().isEmpty();
-    fields << CheckField("focus", tr("F&ocus assistance"), recipe.isFocusing);
+    fields << CheckField("focus", tr("Focus assistance"), recipe.isFocusing);
     SetGroup(fields, first, tr("Tracks"));
 }
 
@@ -128,26 +128,26 @@ void SpectrumFields::AddReferences(PanelFields &fields) const
     const QString none = tr("There is no spectrum yet: switch vertical binning on first.");
     fields << PanelField::Make(PanelField::Kind::Note, "corrections", tr("Now"),
                                m_corrections.isEmpty() ? tr("There is no spectrum yet.") : m_corrections);
-    fields << PanelField::MakeAction("takeDark", tr("Take D&ark"), m_samples > 0);
+    fields << PanelField::MakeAction("takeDark", tr("Take Dark"), m_samples > 0);
     fields.last().toolTip = m_samples > 0 ? tr("The spectrum shown becomes the dark spectrum.") : none;
     fields << CheckField("dark", tr("subtract"), corrections.subtractsDark);
     fields.last().isBeside = true;
-    fields << PanelField::MakeAction("takeReference", tr("Take R&eference"), m_samples > 0);
+    fields << PanelField::MakeAction("takeReference", tr("Take Reference"), m_samples > 0);
     fields.last().toolTip = m_samples > 0 ? tr("The spectrum shown becomes the reference spectrum.") : none;
     fields << CheckField("reference", tr("subtract"), corrections.subtractsReference);
     fields.last().isBeside = true;
     fields.last().isEnabled = corrections.quantity == SpectrumQuantity::Counts;
-    fields << PanelField::MakeChoice("quantity", tr("&Quantity"), int(corrections.quantity),
+    fields << PanelField::MakeChoice("quantity", tr("Quantity"), int(corrections.quantity),
                                      {tr("counts"), tr("transmission"), tr("absorbance")});
 }
 
 void SpectrumFields::AddFilters(PanelFields &fields) const
 {
     const CorrectionSettings &corrections = m_settings->Recipe().corrections;
-    fields << PanelField::MakeNumber("average", tr("A&verage"), corrections.averaged, 1, MostAveraged, 0,
+    fields << PanelField::MakeNumber("average", tr("Average"), corrections.averaged, 1, MostAveraged, 0,
                                      tr(" spectra"));
     fields.last().zeroText = tr("off");
-    fields << PanelField::MakeNumber("smoothing", tr("S&mooth over"), qMax(1, corrections.smoothing), 1, MostSmoothed,
+    fields << PanelField::MakeNumber("smoothing", tr("Smooth over"), qMax(1, corrections.smoothing), 1, MostSmoothed,
                                      0, tr(" samples"));
     fields.last().zeroText = tr("off");
     fields.last().step = 2;

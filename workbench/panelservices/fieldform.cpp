@@ -44,6 +44,7 @@ QString ToolTip(const PanelField &field)
     return lines.join('\n');
 }
 
+/// The menu bar, which is seen beside every panel, has the same keys.
 QString WithoutMnemonic(QString text)
 {
     return text.remove('&');
@@ -165,14 +166,16 @@ void FieldForm::AddField(const PanelField &field)
     m_widgets.insert(field.key, widget);
     if (field.isBeside && m_form->rowCount() > 0) {
         QLayoutItem *last = m_form->itemAt(m_form->rowCount() - 1, QFormLayout::FieldRole);
-        static_cast<QHBoxLayout *>(last->layout())->addWidget(widget);
+        const bool sharesRow = field.kind == PanelField::Kind::Action;
+        static_cast<QHBoxLayout *>(last->layout())->addWidget(widget, sharesRow ? 1 : 0);
         return;
     }
+    if (field.kind == PanelField::Kind::Histogram)
+        return m_form->addRow(widget); // as wide as the box
     auto *row = new QHBoxLayout;
     row->addWidget(widget, 1);
-    const bool hasLabel = field.kind != PanelField::Kind::Check && field.kind != PanelField::Kind::Action
-                          && field.kind != PanelField::Kind::Histogram;
-    m_form->addRow(hasLabel ? field.text : QString(), row);
+    const bool hasLabel = field.kind != PanelField::Kind::Check && field.kind != PanelField::Kind::Action;
+    m_form->addRow(hasLabel ? WithoutMnemonic(field.text) : QString(), row);
     if (auto *label = qobject_cast<QLabel *>(m_form->labelForField(row))) // none for an empty text
         label->setBuddy(widget);
 }
@@ -190,13 +193,13 @@ QWidget *FieldForm::MakeWidget(const PanelField &field)
     case PanelField::Kind::Folder:
         return MakeFolder(field);
     case PanelField::Kind::Check: {
-        auto *box = new QCheckBox(field.text, m_fields);
+        auto *box = new QCheckBox(WithoutMnemonic(field.text), m_fields);
         box->setObjectName(ObjectName("check", key));
         connect(box, &QCheckBox::toggled, this, [this, key](bool checked) { Send(key, checked); });
         return box;
     }
     case PanelField::Kind::Action: {
-        auto *button = new QPushButton(field.text, m_fields);
+        auto *button = new QPushButton(WithoutMnemonic(field.text), m_fields);
         button->setObjectName(ObjectName("action", key));
         connect(button, &QPushButton::clicked, this, [this, key] { Send(key, QVariant()); });
         return button;
@@ -308,7 +311,7 @@ void FieldForm::ShowField(const PanelField &field)
         break;
     }
     case PanelField::Kind::Action:
-        static_cast<QPushButton *>(widget)->setText(field.text);
+        static_cast<QPushButton *>(widget)->setText(WithoutMnemonic(field.text));
         break;
     case PanelField::Kind::Note:
         static_cast<QLabel *>(widget)->setText(field.value.toString());

@@ -22,7 +22,7 @@ struct PanelField
     };
 
     QString key;  ///< names the field to its source; the widget is called "<kind><Key>", as in "numberExposure"
-    QString text; ///< label, with its mnemonic
+    QString text; ///< label; a mnemonic in it is left out
     Kind kind = Kind::Note;
     QVariant value;
     bool isEnabled = true;

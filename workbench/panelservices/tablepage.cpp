@@ -65,10 +65,12 @@ QPushButton *TablePage::AddButton(const QString &text, const char *name, const Q
 void TablePage::BuildTable()
 {
     m_table->setObjectName("tableRows");
+    m_table->setAccessibleName(tr("Table"));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_table->setAlternatingRowColors(true);
     m_table->verticalHeader()->hide();
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     auto *copy = new QAction(this);
     copy->setShortcut(QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetWithChildrenShortcut);

@@ -16,7 +16,7 @@ FeatureView::FeatureView(FeatureTree *tree, QWidget *parent)
     : QWidget(parent)
     , m_tree(tree)
     , m_filter(new FeatureFilter(this))
-    , m_view(new QTreeView(this))
+    , m_view(new QTreeView)
     , m_fault(new QLabel(this))
 {
     auto *search = new QLineEdit(this);
