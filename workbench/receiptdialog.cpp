@@ -4,11 +4,14 @@
 #include "runchecksum.h"
 #include "runsummary.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QFormLayout>
 #include <QLabel>
+#include <QPointer>
 #include <QPushButton>
+#include <QThreadPool>
 #include <QVBoxLayout>
 
 namespace {
@@ -25,15 +28,21 @@ QLabel *TextLabel(const QString &text, const char *name)
 } // namespace
 
 ReceiptDialog::ReceiptDialog(const RunReceipt &receipt, QWidget *parent)
+    : ReceiptDialog(receipt, RunChecksum::OfFiles, parent)
+{
+}
+
+ReceiptDialog::ReceiptDialog(const RunReceipt &receipt, const Reader &reader, QWidget *parent)
     : QDialog(parent)
     , m_receipt(receipt)
+    , m_reader(reader)
+    , m_isClosing(std::make_shared<std::atomic<bool>>(false))
     , m_verdict(TextLabel(QString(), "labelVerdict"))
     , m_verify(new QPushButton(tr("&Verify"), this))
 {
     setObjectName("ReceiptDialog");
     setWindowTitle(tr("Recording"));
     setAttribute(Qt::WA_DeleteOnClose);
-    m_worker.setMaxThreadCount(1);
 
     auto *column = new QVBoxLayout(this);
     auto *form = new QFormLayout;
@@ -63,22 +72,27 @@ ReceiptDialog::ReceiptDialog(const RunReceipt &receipt, QWidget *parent)
     setMinimumWidth(fontMetrics().averageCharWidth() * 70);
 }
 
-ReceiptDialog::~ReceiptDialog()
-{
-    m_isClosing = true;
-    m_worker.waitForDone(); // for one frame
-}
+ReceiptDialog::~ReceiptDialog() { *m_isClosing = true; }
 
 void ReceiptDialog::slotVerify()
 {
     m_verify->setEnabled(false);
     m_verdict->setText(tr("Reading the files…"));
-    m_worker.start([this] {
+    // The verdict goes by the application, which outlives the workers, to a dialog that may be gone.
+    QThreadPool::globalInstance()->start([reader = m_reader, files = m_receipt.files, isClosing = m_isClosing,
+                                          dialog = QPointer<ReceiptDialog>(this), application = qApp] {
         quint64 checksum = 0;
         QString error;
-        RunChecksum::OfFiles(m_receipt.files, &checksum, &error, [this] { return bool(m_isClosing); });
+        reader(files, &checksum, &error, [isClosing] { return bool(*isClosing); });
+        if (*isClosing)
+            return;
         QMetaObject::invokeMethod(
-            this, [this, checksum, error] { Show(checksum, error); }, Qt::QueuedConnection);
+            application,
+            [dialog, checksum, error] {
+                if (dialog)
+                    dialog->Show(checksum, error);
+            },
+            Qt::QueuedConnection);
     });
 }
 
