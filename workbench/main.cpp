@@ -55,10 +55,14 @@ int Record(const CommandLine &line)
     CameraLink link;
     link.SetScene(line.scene);
     WorkbenchServices services(settings.Settings(), &link);
+    QObject::connect(&services, &WorkbenchServices::signalRepaired,
+                     [](const QString &text) { fprintf(stderr, "workbench: %s\n", qPrintable(text)); });
     const RecordRun run(&link, services.Recording(), SettingsOf(line), line.record,
                         line.frames > 0 ? line.seconds : 0);
     link.Open(line.cameraId.isEmpty() ? SimulatedCameraInfo().id : line.cameraId);
-    return QApplication::exec();
+    const int exitCode = QApplication::exec();
+    services.FinishRepair();
+    return exitCode;
 }
 
 int ListPlugins()

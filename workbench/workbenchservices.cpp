@@ -48,6 +48,7 @@
 #include "workspace.h"
 #include "workspaceconfig.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -182,9 +183,15 @@ void WorkbenchServices::RepairRecordings()
         const QVector<RepairedRun> runs = RepairRuns(RunRegister(folder));
         QMetaObject::invokeMethod(this, [this, runs] {
             for (const RepairedRun &run : runs)
-                emit signalMessage(RepairText(run));
+                emit signalRepaired(RepairText(run));
         }, Qt::QueuedConnection);
     });
+}
+
+void WorkbenchServices::FinishRepair()
+{
+    m_repair.waitForDone();
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
 }
 
 void WorkbenchServices::StartWorkspace()
@@ -217,6 +224,7 @@ void WorkbenchServices::Connect()
     connect(m_link, SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_preview.get(), SIGNAL(signalCaptureWanted(bool, bool)), m_recording.get(), SLOT(slotCapture(bool, bool)));
     connect(m_recording.get(), SIGNAL(signalStateChanged()), this, SLOT(slotRecordingStateChanged()));
+    connect(this, SIGNAL(signalRepaired(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_recording.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_fileJobs.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_workspace.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));

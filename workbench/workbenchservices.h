@@ -91,6 +91,9 @@ public:
     SpectrumPipeline *Spectra() const { return m_spectrumPipeline.get(); }
     CalibrationModel *Calibration() const { return m_calibration.get(); }
 
+    /// Waits for the repair of recordings that were cut off, and tells it, when the event loop has ended already.
+    void FinishRepair();
+
 public slots:
     /// Shows what the workbench is used for: the picture or a spectrum page. For the first time when the pages are built.
     void slotShowUseArea();
@@ -98,6 +101,8 @@ public slots:
 signals:
     /// A sentence for the status bar, from any service.
     void signalMessage(QString text);
+    /// What became of a recording that a program that died had left; also a sentence for the status bar.
+    void signalRepaired(QString text);
 
 private slots:
     void slotCameraStateChanged();

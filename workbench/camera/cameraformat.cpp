@@ -146,15 +146,22 @@ bool CameraFormat::SetRegion(const QRect &region, QString *error)
 
 void CameraFormat::ReadBinnings()
 {
-    int least = 1;
-    int most = m_sensor ? LargestSimulatedBinning : 1;
-    if (!m_sensor && arv_camera_is_binning_available(m_camera, nullptr)) {
-        arv_camera_get_x_binning_bounds(m_camera, &least, &most, nullptr);
-        int ignored = 1;
-        arv_camera_get_binning(m_camera, &m_binning, &ignored, nullptr);
+    if (m_sensor) {
+        for (int binning = 2; binning <= LargestSimulatedBinning; binning *= 2)
+            m_binnings.append(binning);
+        return;
     }
-    for (int binning = 2; binning <= qMin(most, LargestBinning); binning *= 2)
+    if (!arv_camera_is_binning_available(m_camera, nullptr))
+        return;
+    int ignored = 1;
+    int mostAcross = 1;
+    int mostDown = 1;
+    arv_camera_get_x_binning_bounds(m_camera, &ignored, &mostAcross, nullptr);
+    arv_camera_get_y_binning_bounds(m_camera, &ignored, &mostDown, nullptr);
+    const int step = std::max(arv_camera_get_x_binning_increment(m_camera, nullptr), 1);
+    for (int binning = 1 + step; binning <= std::min({ mostAcross, mostDown, LargestBinning }); binning += step)
         m_binnings.append(binning);
+    arv_camera_get_binning(m_camera, &m_binning, &ignored, nullptr);
 }
 
 bool CameraFormat::SetBinning(int binning, QString *error)

@@ -317,6 +317,10 @@ QStringList CameraLink::SettingsThatDiffer() const
         differing << tr("region");
     if (m_session->Format().Binning() != m_settings.binning)
         differing << tr("binning");
+    if (controls.IsAutoExposure() != m_settings.isAutoExposure)
+        differing << tr("automatic exposure");
+    if (controls.IsAutoGain() != m_settings.isAutoGain)
+        differing << tr("automatic gain");
     if (!m_settings.isAutoExposure && !IsNear(controls.ExposureUs(), m_settings.exposureUs))
         differing << tr("exposure");
     if (!m_settings.isAutoGain && !IsNear(controls.Gain(), m_settings.gain))

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "programrun.h"
 #include "guardedtest.h"
 
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
@@ -17,7 +17,7 @@ class ProgramTest : public GuardedTest
 private slots:
     void unknownCameraIsRefusedWithTheChoices()
     {
-        const Outcome outcome = Run({"--camera", "Nobody_7"});
+        const ProgramOutcome outcome = Run({"--camera", "Nobody_7"});
         QCOMPARE(outcome.exitCode, 2);
         QCOMPARE(outcome.output, QString());
         QCOMPARE(outcome.errors.count('\n'), 1);
@@ -28,7 +28,7 @@ private slots:
 
     void unknownSceneIsRefusedWithTheChoices()
     {
-        const Outcome outcome = Run({"--scene", "moon"});
+        const ProgramOutcome outcome = Run({"--scene", "moon"});
         QCOMPARE(outcome.exitCode, 2);
         QCOMPARE(outcome.output, QString());
         QCOMPARE(outcome.errors,
@@ -38,31 +38,17 @@ private slots:
     void helpAndVersionNeedNoDisplay()
     {
         for (const char *option : {"--help", "--version"}) {
-            const Outcome outcome = Run({option}, {"DISPLAY=", "WAYLAND_DISPLAY="});
+            const ProgramOutcome outcome = Run({option}, {"DISPLAY=", "WAYLAND_DISPLAY="});
             QCOMPARE(outcome.exitCode, 0);
             QVERIFY(outcome.output.contains("workbench"));
             QCOMPARE(outcome.errors, QString());
         }
     }
 
-    void recordsWithoutHandsOrDisplay()
-    {
-        const QString path = m_folder.filePath("hands.tif");
-        const Outcome outcome = Run({"--record", path, "--frames", "8"}, {"DISPLAY=", "QT_QPA_PLATFORM="});
-        QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.errors));
-        QVERIFY2(outcome.output.contains("Run: complete\nFrames captured: 8\nFrames saved: 8\nFrames lost: 0\nFrame ids missing: none\n"),
-                 qPrintable(outcome.output));
-        QVERIFY(QFile::exists(path) && QFile::exists(m_folder.filePath("hands.txt")));
-
-        const Outcome again = Run({"--record", path, "--frames", "8"}, {"DISPLAY=", "QT_QPA_PLATFORM="});
-        QCOMPARE(again.exitCode, 1);
-        QVERIFY2(again.errors.contains("hands.tif") && again.errors.contains("is there already"), qPrintable(again.errors));
-    }
-
     void framesAreShownMeasuredAndPictured()
     {
         const QString pictureName = m_folder.filePath("window.png");
-        const Outcome outcome = Run({"--scene", "testchart", "--frames", "20", "--screenshot", pictureName});
+        const ProgramOutcome outcome = Run({"--scene", "testchart", "--frames", "20", "--screenshot", pictureName});
         QCOMPARE(outcome.exitCode, 0);
 
         static const QRegularExpression line("^captured (\\d+), shown (\\d+), lost (\\d+), (\\d+\\.\\d) frames/s, "
@@ -87,7 +73,7 @@ private slots:
 
     void pictureThatCanNotBeSavedIsAFailure()
     {
-        const Outcome outcome = Run({"--screenshot", m_folder.filePath("no/such/folder/x.png")});
+        const ProgramOutcome outcome = Run({"--screenshot", m_folder.filePath("no/such/folder/x.png")});
         QCOMPARE(outcome.exitCode, 1);
         QVERIFY(outcome.errors.contains("could not be saved as"));
     }
@@ -98,7 +84,7 @@ private slots:
         QVERIFY(QDir().mkpath(folder));
         for (const char *name : {"b_histogrampage.so", "n_otherqt.so", "o_throws.so"})
             QVERIFY(QFile::copy(QDir(TEST_PLUGIN_FOLDER).filePath(name), QDir(folder).filePath(name)));
-        const Outcome outcome =
+        const ProgramOutcome outcome =
             Run({"--list-plugins"}, {"DISPLAY=", "QT_QPA_PLATFORM=", "GLOBALUI_PLUGIN_PATH=" + m_folder.filePath("lab")});
         QCOMPARE(outcome.exitCode, 1);
         const QStringList lines = outcome.output.split('\n');
@@ -119,39 +105,16 @@ private slots:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("[settings]\nversion=999\n");
         file.close();
-        const Outcome outcome = Run({"--frames", "1"});
+        const ProgramOutcome outcome = Run({"--frames", "1"});
         QCOMPARE(outcome.exitCode, 0);
         QVERIFY2(outcome.errors.contains(path + ".bak-1"), qPrintable(outcome.errors));
         QVERIFY(QFile::exists(path + ".bak-1"));
     }
 
 private:
-    struct Outcome
+    ProgramOutcome Run(const QStringList &arguments, const QStringList &environment = {}) const
     {
-        int exitCode = -1;
-        QString output;
-        QString errors;
-    };
-
-    Outcome Run(const QStringList &arguments, const QStringList &environment = {}) const
-    {
-        QProcess program;
-        QProcessEnvironment variables = QProcessEnvironment::systemEnvironment();
-        variables.insert("XDG_CONFIG_HOME", m_folder.path());
-        variables.insert("XDG_RUNTIME_DIR", m_folder.path());
-        for (const QString &variable : environment)
-            variables.insert(variable.section('=', 0, 0), variable.section('=', 1));
-        program.setProcessEnvironment(variables);
-        program.start(WORKBENCH_PROGRAM, arguments);
-        if (!program.waitForFinished(60000)) {
-            program.kill();
-            program.waitForFinished();
-        }
-        Outcome outcome;
-        outcome.exitCode = program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
-        outcome.output = QString::fromLocal8Bit(program.readAllStandardOutput());
-        outcome.errors = QString::fromLocal8Bit(program.readAllStandardError());
-        return outcome;
+        return RunProgram(m_folder.path(), arguments, environment);
     }
 
     /// How many shades of pure grey are in the picture.

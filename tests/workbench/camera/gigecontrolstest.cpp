@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <arv.h> // before Qt, whose "signals" GLib uses as a name
+
+#include "cameralink.h"
+#include "camerasession.h"
+#include "framecollector.h"
+#include "guardedtest.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr int MsToWait = 60000;
+constexpr guint64 ExposureAutoRegister = 0x8000; // of the memory that the simulated camera leaves free
+constexpr quint32 Off = 1;
+constexpr quint32 Continuous = 2;
+
+/// What Aravis' camera says of its features, with an automatic exposure.
+QByteArray FeaturesWithAutomaticExposure()
+{
+    ArvFakeCamera *plain = arv_fake_camera_new("plain");
+    size_t size = 0;
+    const char *text = arv_fake_camera_get_genicam_xml(plain, &size);
+    QByteArray features(text, int(size));
+    g_object_unref(plain);
+    features.replace("<pFeature>GainAuto</pFeature>",
+                     "<pFeature>GainAuto</pFeature><pFeature>ExposureAuto</pFeature>");
+    features.replace("<Enumeration Name=\"GainAuto\"", R"(
+        <Enumeration Name="ExposureAuto" NameSpace="Standard">
+            <EnumEntry Name="Off" NameSpace="Standard"><Value>1</Value></EnumEntry>
+            <EnumEntry Name="Continuous" NameSpace="Standard"><Value>2</Value></EnumEntry>
+            <pValue>ExposureAutoRegister</pValue>
+        </Enumeration>
+        <IntReg Name="ExposureAutoRegister" NameSpace="Custom">
+            <Address>0x8000</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>
+            <Sign>Unsigned</Sign><Endianess>BigEndian</Endianess>
+        </IntReg>
+        <Enumeration Name="GainAuto")");
+    return features;
+}
+
+} // namespace
+
+/// What a GenICam camera does by itself, and bins by itself, on one that runs in this process behind real sockets. Its
+/// registers are looked at from the other side.
+class GigEControlsTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        QFile file(m_folder.filePath("features.xml"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(FeaturesWithAutomaticExposure()) > 0);
+    }
+
+    void init() override
+    {
+        StartGuard();
+        StartCamera(m_folder.filePath("features.xml"));
+    }
+
+    void cleanup() override
+    {
+        QVERIFY(CameraSession::WaitForTeardown(30000));
+        g_clear_object(&m_camera);
+        EndGuard();
+    }
+
+    void exposureAndGainAreLeftToTheCamera()
+    {
+        CameraSession session;
+        QVERIFY(Open(&session));
+        CameraControls &controls = session.Controls();
+        QVERIFY(controls.HasAutoExposure() && controls.HasAutoGain());
+        QVERIFY(!controls.IsAutoExposure() && !controls.IsAutoGain());
+        QString error;
+        QVERIFY2(controls.SetAutoExposure(true, &error), qPrintable(error));
+        QVERIFY2(controls.SetAutoGain(true, &error), qPrintable(error));
+        QVERIFY(controls.IsAutoExposure() && controls.IsAutoGain());
+        QCOMPARE(Register(ExposureAutoRegister), Continuous);
+        QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_GAIN_MODE), Continuous);
+
+        Put(ARV_FAKE_CAMERA_REGISTER_EXPOSURE_TIME_US, 4321); // the camera finds others
+        Put(ARV_FAKE_CAMERA_REGISTER_GAIN_RAW, 7);
+        controls.Refresh();
+        QCOMPARE(controls.ExposureUs(), 4321.0);
+        QCOMPARE(controls.Gain(), 7.0);
+
+        QVERIFY(controls.SetAutoExposure(false) && controls.SetAutoGain(false));
+        QCOMPARE(Register(ExposureAutoRegister), Off);
+        QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_GAIN_MODE), Off);
+        QCOMPARE(controls.ExposureUs(), 4321.0); // what it has found stays
+        Put(ARV_FAKE_CAMERA_REGISTER_EXPOSURE_TIME_US, 999);
+        controls.Refresh();
+        QCOMPARE(controls.ExposureUs(), 4321.0); // and is not asked for again
+    }
+
+    void whatTheCameraHasNotIsNotOffered()
+    {
+        g_clear_object(&m_camera);
+        StartCamera(QString());
+        CameraSession session;
+        QVERIFY(Open(&session));
+        QVERIFY(!session.Controls().HasAutoExposure());
+        QVERIFY(!session.Controls().SetAutoExposure(true));
+        QVERIFY(session.Controls().HasAutoGain());
+    }
+
+    void binningsAreTheCameras()
+    {
+        CameraSession session;
+        QVERIFY(Open(&session));
+        QCOMPARE(session.Format().Binnings(), QVector<int>({ 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16 }));
+        QVERIFY(session.SetRegion(QRect(0, 0, 510, 300)));
+        QString error;
+        QVERIFY2(session.SetBinning(3, &error), qPrintable(error));
+        QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_BINNING_HORIZONTAL), 3u);
+        QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_BINNING_VERTICAL), 3u);
+        QCOMPARE(session.Format().Region(), QRect(0, 0, 510, 300)); // in pixels of the sensor
+        QCOMPARE(session.Format().FrameSize(), QSize(170, 100));
+        FrameCollector frames;
+        QVERIFY(session.Start(&frames));
+        QVERIFY(frames.WaitFor(3, MsToWait));
+        session.Stop();
+        QCOMPARE(QSize(frames.Last().width, frames.Last().height), QSize(170, 100));
+        QVERIFY(!session.SetBinning(17, &error));
+        QVERIFY2(error.contains("17 x 17"), qPrintable(error));
+        QCOMPARE(session.Format().Binning(), 3);
+    }
+
+    /// It was switched off and on meanwhile, and knows nothing any more.
+    void lostCameraGetsItsAutomaticsAndItsBinningBack()
+    {
+        CameraLink link;
+        link.Open(Id);
+        QTRY_COMPARE_WITH_TIMEOUT(link.GetState(), CameraLink::State::Open, MsToWait);
+        link.SetBinning(2);
+        link.SetRegion(QRect(0, 0, 256, 128));
+        QVERIFY(link.Session()->Controls().SetAutoExposure(true));
+        QVERIFY(link.Session()->Controls().SetAutoGain(true));
+        QSignalSpy messages(&link, SIGNAL(signalMessage(QString)));
+        g_clear_object(&m_camera);
+        StartCamera(m_folder.filePath("features.xml"));
+        QVERIFY(Register(ARV_FAKE_CAMERA_REGISTER_GAIN_MODE) != Continuous);
+        emit link.Session()->signalControlLost();
+        QTRY_COMPARE_WITH_TIMEOUT(link.GetState(), CameraLink::State::Open, MsToWait);
+        QVERIFY(link.Session()->Controls().IsAutoExposure() && link.Session()->Controls().IsAutoGain());
+        QCOMPARE(Register(ExposureAutoRegister), Continuous);
+        QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_GAIN_MODE), Continuous);
+        QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_BINNING_HORIZONTAL), 2u);
+        QCOMPARE(link.Session()->Format().Region(), QRect(0, 0, 256, 128));
+        QVERIFY2(messages.last().first().toString().endsWith("is back."),
+                 qPrintable(messages.last().first().toString()));
+        link.Close();
+    }
+
+private:
+    static constexpr const char *Id = "Aravis-Fake-WB6";
+
+    void StartCamera(const QString &features)
+    {
+        m_camera = arv_gv_fake_camera_new_full("127.0.0.1", "WB6",
+                                               features.isEmpty() ? nullptr : QFile::encodeName(features).constData());
+        QVERIFY(arv_gv_fake_camera_is_running(m_camera));
+        Put(ExposureAutoRegister, Off);
+        Put(ARV_FAKE_CAMERA_REGISTER_GAIN_MODE, Off);
+    }
+
+    bool Open(CameraSession *session)
+    {
+        QString error;
+        const bool isOpen = session->Open(Id, &error);
+        if (!isOpen)
+            qWarning("%s", qPrintable(error));
+        return isOpen;
+    }
+
+    void Put(guint64 address, quint32 value)
+    {
+        arv_fake_camera_write_register(arv_gv_fake_camera_get_fake_camera(m_camera), guint32(address), value);
+    }
+
+    quint32 Register(guint64 address) const
+    {
+        guint32 value = 0;
+        arv_fake_camera_read_register(arv_gv_fake_camera_get_fake_camera(m_camera), guint32(address), &value);
+        return value;
+    }
+
+    const QTemporaryDir m_folder;
+    ArvGvFakeCamera *m_camera = nullptr;
+};
+
+GUARDED_TEST_MAIN(GigEControlsTest)
+#include "gigecontrolstest.moc"
