@@ -113,6 +113,14 @@ void TestCapturePreviewUI::form()
         return QHBoxLayout(&widget).contentsMargins();
     }();
 
+    const QMargins inner = [] { // of a layout in another one
+        QWidget widget;
+        auto *row = new QHBoxLayout(&widget);
+        auto *column = new QVBoxLayout;
+        row->addLayout(column);
+        return column->contentsMargins();
+    }();
+
     QCOMPARE(ui.objectName(), QString("CapturePreviewUI"));
     QCOMPARE(ui.windowTitle(), QString("Form"));
     QCOMPARE(ui.size(), QSize(400, 78));
@@ -130,13 +138,14 @@ void TestCapturePreviewUI::form()
     QCOMPARE(parts.previewColumn->objectName(), QString("verticalLayout_2"));
     for (const QVBoxLayout *column : {parts.captureColumn, parts.previewColumn}) {
         QCOMPARE(column->spacing(), 0);
-        QCOMPARE(column->contentsMargins().right(), 0);
+        QCOMPARE(column->contentsMargins(), QMargins(inner.left(), inner.top(), 0, inner.bottom()));
     }
     QCOMPARE(parts.capture->objectName(), QString("pushButtonCapture"));
     QCOMPARE(parts.capture->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
     QCOMPARE(parts.capture->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
     QCOMPARE(parts.capture->toolTip(), QString("F10"));
     QCOMPARE(parts.preview->objectName(), QString("pushButtonPreview"));
+    QCOMPARE(parts.preview->sizePolicy(), QPushButton().sizePolicy());
     for (const QPushButton *button : {parts.capture, parts.preview}) {
         QCOMPARE(button->minimumSize(), QSize(0, 40));
         QCOMPARE(button->iconSize(), QSize(iconSize, iconSize));

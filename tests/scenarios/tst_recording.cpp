@@ -241,7 +241,7 @@ private slots:
         QFETCH(QString, answer);
         QFETCH(bool, records);
         m_workbench->link.SetRegion(QRect(0, 0, 2048, 2048));
-        m_settings.frames = RecordingSettings::MostFrames; // 42 TB
+        m_settings.frames = RecordingSettings::MostFrames; // 17 TB
         Apply();
         Answer(answer);
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);

@@ -18,7 +18,7 @@ public:
         return m_disk.WriteAt(OffsetOf(frame), bytes, m_frameBytes, fault);
     }
     std::function<int()> DataSync() const { return m_disk.DataSync(); }
-    /// Behind the last frame.
+    /// Behind the last frame, or what was written there before.
     bool WriteEnd(const QByteArray &bytes, FileFault &fault)
     {
         return m_disk.Write(bytes.constData(), bytes.size(), fault);

@@ -20,7 +20,7 @@ struct RecordingSettings
         UntilStopped
     };
 
-    static constexpr int MostFrames = 10000000;
+    static constexpr int MostFrames = MostRunFrames;
     static constexpr int MostSeconds = 7 * 24 * 3600;
     static constexpr int MostDelayMinutes = 24 * 60;
     static constexpr int LongestIntervalMs = 24 * 3600 * 1000;

@@ -69,6 +69,13 @@ RunEstimate RunEstimate::Make(const RecordingSettings &settings, qint64 frameByt
     const qint64 onDisk = FramesThatFit(diskBytes, frameBytes);
     const qint64 inMemory = settings.toRam ? FramesThatFit(resources.MemoryForFrames(), frameBytes) : -1;
     estimate.framesThatFit = onDisk < 0 ? inMemory : inMemory < 0 ? onDisk : qMin(onDisk, inMemory);
+    if (estimate.frames > MostRunFrames && (estimate.framesThatFit < 0 || estimate.framesThatFit > MostRunFrames)) {
+        estimate.framesThatFit = MostRunFrames;
+        estimate.warning = Text::tr("The run needs %1 frames, and a recording holds %2 at most.")
+                               .arg(estimate.frames)
+                               .arg(MostRunFrames);
+        return estimate;
+    }
     if (estimate.framesThatFit < 0)
         return estimate;
     const bool isMemory = estimate.framesThatFit == inMemory && inMemory != onDisk;

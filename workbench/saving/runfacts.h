@@ -14,6 +14,9 @@
 
 #include <utility>
 
+/// Frames of one recording: what is told of each of them at the end of its file has to fit into memory.
+constexpr int MostRunFrames = 4000000;
+
 enum class RunFormat
 {
     Tiff,

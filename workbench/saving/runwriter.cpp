@@ -155,17 +155,25 @@ const uchar *RunWriter::Packed(const CameraFrame &frame)
     return m_packed.data();
 }
 
+bool RunWriter::MayTake(const CameraFrame &frame, FileFault &fault) const
+{
+    if (m_stamps.size() >= MostFrames())
+        return fault.Set(Text::tr("a recording holds %1 frames at most").arg(MostFrames()),
+                         Text::tr("The frames before are kept; go on with another recording."));
+    if (QSize(frame.width, frame.height) == m_facts.frameSize && frame.layout == m_facts.layout)
+        return true;
+    return fault.Set(Text::tr("a frame of another size or pixel format came (%1 x %2, %3)")
+                         .arg(frame.width)
+                         .arg(frame.height)
+                         .arg(PixelLayoutName(frame.layout)),
+                     Text::tr("Change the camera's format between recordings only."));
+}
+
 bool RunWriter::Write(const CameraFrame &frame, QString *error)
 {
     FileFault fault;
-    if (QSize(frame.width, frame.height) != m_facts.frameSize || frame.layout != m_facts.layout) {
-        fault.Set(Text::tr("a frame of another size or pixel format came (%1 x %2, %3)")
-                      .arg(frame.width)
-                      .arg(frame.height)
-                      .arg(PixelLayoutName(frame.layout)),
-                  Text::tr("Change the camera's format between recordings only."));
+    if (!MayTake(frame, fault))
         return Report(false, m_path, fault, error);
-    }
     const uchar *samples = Packed(frame);
     const FrameStamp stamp{ frame.frameId, frame.cameraTimeNs, frame.hostTimeNs,
                             RunChecksum::OfFrame(samples, m_facts.FrameBytes()) };

@@ -35,7 +35,8 @@ public:
     const QVector<FrameStamp> &Torn() const { return m_torn; }
     /// Exposure, gain and rate from the next frame on.
     bool ChangeSettings(SettingsChange change, QString *error);
-    /// A frame of the size and layout of the facts. After a failure the frames before it can still be finished.
+    /// A frame of the size and layout of the facts, MostRunFrames at most. After a failure the frames before it can
+    /// still be finished.
     bool Write(const CameraFrame &frame, QString *error);
     /// Brings everything to the disk under the name asked for, with a summary beside it. Frames that a full disk can't
     /// keep after all are counted in the outcome.
@@ -58,6 +59,7 @@ protected:
 
     const QString &UnfinishedPath() const { return m_unfinished; }
 
+    virtual int MostFrames() const { return MostRunFrames; }
     /// The name asked for is free.
     virtual bool CheckName(FileFault &fault) const;
     virtual bool CreateData(FileFault &fault) = 0;
@@ -81,6 +83,7 @@ protected:
     virtual QStringList DataFiles() const { return { m_path }; }
 
 private:
+    bool MayTake(const CameraFrame &frame, FileFault &fault) const;
     bool DropTornFrames(int lasting, FileFault &fault);
     void ForgetStamp(int frame);
     bool SyncNowAndThen(FileFault &fault);

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <limits>
 #include <tiff.h>
+#include <utility>
 
 namespace {
 
@@ -63,6 +64,14 @@ public:
     {
         Add(tag, TIFF_ASCII, quint64(text.size()) + 1, QByteArray(text.constData(), text.size() + 1));
     }
+    /// A text of so many bytes that stands outside of the directory, longer than fits into an entry.
+    void AddTextAt(quint16 tag, qint64 offset, int bytes)
+    {
+        Put(&m_entries, tag);
+        Put(&m_entries, quint16(TIFF_ASCII));
+        AddNumber(quint64(bytes));
+        AddNumber(quint64(offset));
+    }
     void AddRational(quint16 tag, quint32 numerator, quint32 denominator)
     {
         QByteArray value;
@@ -89,21 +98,22 @@ private:
         const int room = m_isBig ? 8 : 4;
         Put(&m_entries, tag);
         Put(&m_entries, type);
-        if (m_isBig)
-            Put(&m_entries, count);
-        else
-            Put(&m_entries, quint32(count));
+        AddNumber(count);
         if (value.size() <= room) {
             m_entries.append(value + QByteArray(room - value.size(), '\0'));
             return;
         }
-        const quint64 place = quint64(m_areaOffset + m_area.size());
-        if (m_isBig)
-            Put(&m_entries, place);
-        else
-            Put(&m_entries, quint32(place));
+        AddNumber(quint64(m_areaOffset + m_area.size()));
         m_area.append(value);
         PadToEven(&m_area);
+    }
+    /// A count or a place.
+    void AddNumber(quint64 number)
+    {
+        if (m_isBig)
+            Put(&m_entries, number);
+        else
+            Put(&m_entries, quint32(number));
     }
 
     const bool m_isBig;
@@ -115,6 +125,8 @@ private:
 constexpr double MicrometresPerCentimetre = 10000.0;
 constexpr quint32 ResolutionDenominator = 1000;
 constexpr int PlainEntries = 12;
+constexpr int ShortestDescription = 9; ///< shorter ones would have to stand in their entries
+constexpr int PieceBytes = 1 << 20;
 /// Of a directory but for its texts; deciding the kind of the file needs no exact number.
 constexpr qint64 LargestPlainDirectory = 512;
 
@@ -127,9 +139,11 @@ TiffDirectories::TiffDirectories(const RunFacts &facts, int frames)
     DecideKind();
 }
 
-void TiffDirectories::SetFirstDescription(const QByteArray &text)
+/// It may be as large as half of the memory: there is only one of it.
+void TiffDirectories::SetFirstDescription(QByteArray text)
 {
-    m_description = text;
+    m_description = std::move(text);
+    m_description.append(QByteArray(qMax(1, ShortestDescription - m_description.size()), '\0'));
     DecideKind();
 }
 
@@ -139,9 +153,15 @@ void TiffDirectories::DecideKind()
     m_isBig = end > qint64(std::numeric_limits<quint32>::max());
 }
 
+qint64 TiffDirectories::FirstDirectoryOffset() const
+{
+    return m_description.isEmpty() ? DescriptionOffset()
+                                   : DescriptionOffset() + m_description.size() + m_description.size() % 2;
+}
+
 QByteArray TiffDirectories::Header() const
 {
-    const quint64 first = m_frames > 0 ? quint64(DataEnd() + DataEnd() % 2) : 0;
+    const quint64 first = m_frames > 0 ? quint64(FirstDirectoryOffset()) : 0;
     QByteArray header = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? "II" : "MM";
     if (m_isBig) {
         Put(&header, quint16(TIFF_VERSION_BIG));
@@ -156,41 +176,55 @@ QByteArray TiffDirectories::Header() const
     return header;
 }
 
-QByteArray TiffDirectories::Bytes() const
+bool TiffDirectories::Write(const Sink &sink) const
 {
-    QByteArray bytes;
-    if (DataEnd() % 2 != 0)
-        bytes.append('\0'); // directories begin at even places
-    const bool hasResolution = m_facts.pixelSizeUm > 0;
-    const quint16 channels = quint16(m_facts.Channels());
+    if (DataEnd() % 2 != 0 && !sink(QByteArray(1, '\0')))
+        return false;
+    if (!m_description.isEmpty()
+        && !(sink(m_description) && (m_description.size() % 2 == 0 || sink(QByteArray(1, '\0')))))
+        return false;
+    QByteArray piece;
+    qint64 pieceOffset = FirstDirectoryOffset();
     for (int frame = 0; frame < m_frames; ++frame) {
-        const bool hasDescription = frame == 0 && !m_description.isEmpty();
-        const int entries = PlainEntries + (hasDescription ? 1 : 0) + (hasResolution ? 3 : 0);
-        Directory directory(DataEnd() + bytes.size(), m_isBig, entries);
-        directory.AddLong(TIFFTAG_SUBFILETYPE, m_frames > 1 ? FILETYPE_PAGE : 0);
-        directory.AddLong(TIFFTAG_IMAGEWIDTH, quint32(m_facts.frameSize.width()));
-        directory.AddLong(TIFFTAG_IMAGELENGTH, quint32(m_facts.frameSize.height()));
-        directory.AddShorts(TIFFTAG_BITSPERSAMPLE,
-                            QVector<quint16>(channels, quint16(m_facts.BitsPerSample())));
-        directory.AddShort(TIFFTAG_COMPRESSION, COMPRESSION_NONE);
-        directory.AddShort(TIFFTAG_PHOTOMETRIC, channels == 3 ? PHOTOMETRIC_RGB : PHOTOMETRIC_MINISBLACK);
-        if (hasDescription)
-            directory.AddText(TIFFTAG_IMAGEDESCRIPTION, m_description);
-        directory.AddOffset(TIFFTAG_STRIPOFFSETS, quint64(HeaderBytes + frame * m_facts.FrameBytes()));
-        directory.AddShort(TIFFTAG_SAMPLESPERPIXEL, channels);
-        directory.AddLong(TIFFTAG_ROWSPERSTRIP, quint32(m_facts.frameSize.height()));
-        directory.AddOffset(TIFFTAG_STRIPBYTECOUNTS, quint64(m_facts.FrameBytes()));
-        if (hasResolution) {
-            const auto perCentimetre =
-                quint32(MicrometresPerCentimetre / m_facts.pixelSizeUm * ResolutionDenominator + 0.5);
-            directory.AddRational(TIFFTAG_XRESOLUTION, perCentimetre, ResolutionDenominator);
-            directory.AddRational(TIFFTAG_YRESOLUTION, perCentimetre, ResolutionDenominator);
-        }
-        directory.AddShort(TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
-        if (hasResolution)
-            directory.AddShort(TIFFTAG_RESOLUTIONUNIT, RESUNIT_CENTIMETER);
-        directory.AddText(TIFFTAG_SOFTWARE, m_facts.software.toUtf8());
-        bytes.append(directory.Bytes(frame == m_frames - 1));
+        piece.append(DirectoryAt(pieceOffset + piece.size(), frame));
+        if (piece.size() < PieceBytes && frame + 1 < m_frames)
+            continue;
+        if (!sink(piece))
+            return false;
+        pieceOffset += piece.size();
+        piece.clear();
     }
-    return bytes;
+    return true;
+}
+
+QByteArray TiffDirectories::DirectoryAt(qint64 offset, int frame) const
+{
+    const bool hasResolution = m_facts.pixelSizeUm > 0;
+    const bool hasDescription = frame == 0 && !m_description.isEmpty();
+    const quint16 channels = quint16(m_facts.Channels());
+    const int entries = PlainEntries + (hasDescription ? 1 : 0) + (hasResolution ? 3 : 0);
+    Directory directory(offset, m_isBig, entries);
+    directory.AddLong(TIFFTAG_SUBFILETYPE, m_frames > 1 ? FILETYPE_PAGE : 0);
+    directory.AddLong(TIFFTAG_IMAGEWIDTH, quint32(m_facts.frameSize.width()));
+    directory.AddLong(TIFFTAG_IMAGELENGTH, quint32(m_facts.frameSize.height()));
+    directory.AddShorts(TIFFTAG_BITSPERSAMPLE, QVector<quint16>(channels, quint16(m_facts.BitsPerSample())));
+    directory.AddShort(TIFFTAG_COMPRESSION, COMPRESSION_NONE);
+    directory.AddShort(TIFFTAG_PHOTOMETRIC, channels == 3 ? PHOTOMETRIC_RGB : PHOTOMETRIC_MINISBLACK);
+    if (hasDescription)
+        directory.AddTextAt(TIFFTAG_IMAGEDESCRIPTION, DescriptionOffset(), m_description.size());
+    directory.AddOffset(TIFFTAG_STRIPOFFSETS, quint64(HeaderBytes + frame * m_facts.FrameBytes()));
+    directory.AddShort(TIFFTAG_SAMPLESPERPIXEL, channels);
+    directory.AddLong(TIFFTAG_ROWSPERSTRIP, quint32(m_facts.frameSize.height()));
+    directory.AddOffset(TIFFTAG_STRIPBYTECOUNTS, quint64(m_facts.FrameBytes()));
+    if (hasResolution) {
+        const auto perCentimetre =
+            quint32(MicrometresPerCentimetre / m_facts.pixelSizeUm * ResolutionDenominator + 0.5);
+        directory.AddRational(TIFFTAG_XRESOLUTION, perCentimetre, ResolutionDenominator);
+        directory.AddRational(TIFFTAG_YRESOLUTION, perCentimetre, ResolutionDenominator);
+    }
+    directory.AddShort(TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
+    if (hasResolution)
+        directory.AddShort(TIFFTAG_RESOLUTIONUNIT, RESUNIT_CENTIMETER);
+    directory.AddText(TIFFTAG_SOFTWARE, m_facts.software.toUtf8());
+    return directory.Bytes(frame == m_frames - 1);
 }

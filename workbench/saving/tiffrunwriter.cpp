@@ -45,8 +45,8 @@ bool TiffRunWriter::Complete(const RunOutcome &outcome, FileFault &fault)
 {
     TiffDirectories directories(Facts(), FramesWritten());
     directories.SetFirstDescription(OmeDescription(Facts(), outcome, Stamps(), Path()));
-    return m_cube.WriteEnd(directories.Bytes(), fault) && m_cube.WriteHeader(directories.Header(), fault)
-           && m_cube.Synchronise(fault);
+    return directories.Write([&](const QByteArray &bytes) { return m_cube.WriteEnd(bytes, fault); })
+           && m_cube.WriteHeader(directories.Header(), fault) && m_cube.Synchronise(fault);
 }
 
 bool TiffRunWriter::Place(FileFault &fault)

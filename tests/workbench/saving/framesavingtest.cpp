@@ -5,6 +5,7 @@
 #include "runchecksum.h"
 #include "runestimate.h"
 #include "runsample.h"
+#include "tiffrunwriter.h"
 
 #include <QDir>
 #include <QFile>
@@ -60,6 +61,27 @@ private:
     QSemaphore *m_permits;
     const int m_failsAt;
     const bool m_isGone; ///< from the failure on
+};
+
+/// Writes a TIFF, each frame when the test lets it.
+class SlowTiff : public TiffRunWriter
+{
+public:
+    SlowTiff(const QString &path, QSemaphore *permits)
+        : TiffRunWriter(path)
+        , m_permits(permits)
+    {
+    }
+
+protected:
+    bool AppendFrame(const uchar *samples, const FrameStamp &stamp, FileFault &fault) override
+    {
+        m_permits->acquire();
+        return TiffRunWriter::AppendFrame(samples, stamp, fault);
+    }
+
+private:
+    QSemaphore *m_permits;
 };
 
 } // namespace
@@ -277,6 +299,38 @@ private slots:
         QVERIFY(!receipt.IsWhole());
         QVERIFY2(receipt.Text().contains("Frames lost: 3 (3 the disk was too slow and the queue full)"),
                  qPrintable(receipt.Text()));
+    }
+
+    void theLossOfASlowDiskStandsInTheFile()
+    {
+        QSemaphore permits;
+        Make([&](RunFormat, const QString &path) { return std::make_unique<SlowTiff>(path, &permits); });
+        const QSize large(2048, 1024); // 2 MiB; 16 MB hold eight of them
+        m_order.facts = RunSample::Facts(large, PixelLayout::Mono8);
+        m_order.settings.mode = RecordingSettings::Mode::UntilStopped;
+        m_order.settings.queueMB = RecordingSettings::LeastQueueMB;
+        QVERIFY(m_saving->StartRun(m_order));
+        CameraFrame frame = RunSample::Frame(large, PixelLayout::Mono8, 0);
+        QVERIFY(SendUntilTaken(frame));
+        QTRY_COMPARE_WITH_TIMEOUT(m_saving->Queue().Count(), 0, MsToWait);
+        for (int i = 1; i <= 10; ++i) {
+            ++frame.frameId;
+            m_saving->OnFrame(frame);
+        }
+        permits.release(100);
+        m_saving->StopRun();
+        const RunReceipt receipt = Receipt();
+        QString error;
+        const auto file = OpenPicture(receipt.files.first(), error);
+        QVERIFY2(file, qPrintable(error));
+        QCOMPARE(file->Info().frames, 9);
+        QString all;
+        for (const MetadataEntry &entry : file->Info().metadata)
+            all += entry.key + '=' + entry.value + '\n';
+        QVERIFY2(all.contains("2 the disk was too slow and the queue full") && all.contains("109-110"), qPrintable(all));
+        QFile summary(receipt.files.last());
+        QVERIFY(summary.open(QIODevice::ReadOnly));
+        QVERIFY(summary.readAll().contains("Frames lost: 2 (2 the disk was too slow and the queue full)\n"));
     }
 
     void aFullDiskEndsTheRunWithTheFramesBefore()

@@ -112,6 +112,35 @@ private slots:
         QCOMPARE(RunEstimate::Make(settings, 1000000, 25, resources).warning, warning);
     }
 
+    /// For a week at 1000 frames/s there may be room on the disk.
+    void saysWhenARunHasTooManyFrames_data()
+    {
+        QTest::addColumn<qint64>("freeDisk");
+        QTest::addColumn<qint64>("fit");
+        QTest::addColumn<QString>("warning");
+        const QString tooMany = "The run needs 604800000 frames, and a recording holds 4000000 at most.";
+        QTest::newRow("room") << (qint64(1) << 50) << qint64(4000000) << tooMany;
+        QTest::newRow("not known") << qint64(-1) << qint64(4000000) << tooMany;
+        QTest::newRow("less room than that")
+            << (qint64(256) << 20) + 1000000 << qint64(1000)
+            << "The run needs 604.8 GB, and the disk has 269.4 MB free, of which 268.4 MB are left to the system: room for 1000 frames.";
+    }
+
+    void saysWhenARunHasTooManyFrames()
+    {
+        QFETCH(qint64, freeDisk);
+        QFETCH(qint64, fit);
+        QFETCH(QString, warning);
+        RecordingSettings settings;
+        settings.mode = RecordingSettings::Mode::Duration;
+        settings.seconds = RecordingSettings::MostSeconds;
+        RunResources resources;
+        resources.freeDiskBytes = freeDisk;
+        const RunEstimate estimate = RunEstimate::Make(settings, 1000, 1000, resources);
+        QCOMPARE(estimate.warning, warning);
+        QCOMPARE(estimate.framesThatFit, fit);
+    }
+
     void memoryKeepsATenthFree()
     {
         RunResources resources;

@@ -4,6 +4,8 @@
 #include "openpicture.h"
 #include "runchecksum.h"
 #include "runsample.h"
+#include "tiffrunwriter.h"
+#include "omedescription.h"
 
 #include <QDir>
 #include <QFile>
@@ -12,11 +14,22 @@
 
 #include <csignal>
 #include <cstring>
+#include <limits>
 #include <sys/resource.h>
 
 namespace {
 
 constexpr QSize Size(37, 21);
+
+/// Holds three frames.
+class ShortTiff : public TiffRunWriter
+{
+public:
+    using TiffRunWriter::TiffRunWriter;
+
+protected:
+    int MostFrames() const override { return 3; }
+};
 
 struct FormatRow
 {
@@ -311,6 +324,38 @@ private slots:
         CompareFrames(writer->Files(), PixelLayout::Mono8, 1);
     }
 
+    void moreFramesThanCanBeToldAreRefused()
+    {
+        ShortTiff writer(Path(RunFormat::Tiff));
+        QString error;
+        QVERIFY(writer.Begin(RunSample::Facts(Size, PixelLayout::Mono8), &error));
+        for (int frame = 0; frame < 3; ++frame)
+            QVERIFY(writer.Write(RunSample::Frame(Size, PixelLayout::Mono8, frame), &error));
+        QVERIFY(!writer.Write(RunSample::Frame(Size, PixelLayout::Mono8, 3), &error));
+        QVERIFY2(error.contains("run.tif") && error.contains("holds 3 frames at most")
+                     && error.contains("another recording"),
+                 qPrintable(error));
+        QVERIFY2(Finish(&writer, 3, &error), qPrintable(error));
+        CompareFrames(writer.Files(), PixelLayout::Mono8, 3);
+    }
+
+    /// One block of memory of less than 2 GiB holds it, however long the numbers are.
+    void whatIsToldOfAllFramesFitsIntoMemory()
+    {
+        RunFacts facts = RunSample::Facts(Size, PixelLayout::Mono8);
+        facts.exposureUs = 123456.789012345;
+        constexpr quint64 LongNumber = quint64(std::numeric_limits<qint64>::max());
+        QVector<FrameStamp> stamps(1, FrameStamp{ 0, 0, 0, 0 });
+        const int one = OmeDescription(facts, RunOutcome(), stamps, "run.tif").size();
+        constexpr int More = 1000;
+        for (int i = 0; i < More; ++i)
+            stamps.append({ LongNumber - More + quint64(i), qint64(LongNumber) - 7 * i, qint64(LongNumber), LongNumber });
+        const qint64 ofEach = (OmeDescription(facts, RunOutcome(), stamps, "run.tif").size() - one) / More + 1;
+        const qint64 longerNumbers = 2 * 4; // those of the frames have up to 7 digits
+        QVERIFY2((ofEach + longerNumbers) * MostRunFrames < (qint64(1) << 31) - (1 << 20),
+                 qPrintable(QString::number(ofEach)));
+    }
+
     void foldersThatCannotBe_data()
     {
         QTest::addColumn<QString>("folder");
@@ -366,6 +411,23 @@ private slots:
         CompareFrames(writer->Files(), PixelLayout::Mono16, writer->FramesWritten());
         QCOMPARE(m_outcome.counts.saved + m_outcome.counts.LostAt(LossStage::Disk), quint64(written));
         QCOMPARE(m_outcome.counts.saved, quint64(writer->FramesWritten()));
+    }
+
+    void aFullDiskEndsASequenceWithTheFramesBefore()
+    {
+        const auto writer = Begin(RunFormat::Png, PixelLayout::Mono16);
+        QString error;
+        for (int frame = 0; frame < 3; ++frame)
+            QVERIFY(writer->Write(RunSample::Frame(Size, PixelLayout::Mono16, frame), &error));
+        {
+            const FileSizeLimit limit(500); // less than a frame
+            QVERIFY(!writer->Write(RunSample::Frame(Size, PixelLayout::Mono16, 3), &error));
+        }
+        QVERIFY2(error.contains("run.png") && error.contains("larger than this disk allows"), qPrintable(error));
+        QVERIFY2(Finish(writer.get(), 3, &error), qPrintable(error));
+        CompareFrames(writer->Files(), PixelLayout::Mono16, 3);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files),
+                 QStringList({ "run.txt", "run_000001.png", "run_000002.png", "run_000003.png" }));
     }
 
     /// A disk that fails for good: nothing is cut away, so that the repair finds it all.

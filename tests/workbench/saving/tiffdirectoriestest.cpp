@@ -44,7 +44,7 @@ private slots:
         // The last row of the last frame is written.
         const QByteArray row(2048 * 2, 'x');
         QVERIFY(file.seek(dataEnd - row.size()) && file.write(row) == row.size());
-        QVERIFY(file.write(directories.Bytes()) > 0);
+        QVERIFY(directories.Write([&](const QByteArray &bytes) { return file.write(bytes) == bytes.size(); }));
         file.close();
 
         QString error;
@@ -58,6 +58,59 @@ private slots:
         const Picture &samples = frame;
         QVERIFY(std::memcmp(samples.Row(2047), row.constData(), size_t(row.size())) == 0);
         QVERIFY(picture->ReadFrame(0, frame, error));
+    }
+
+    void manyFramesAreToldInPieces_data()
+    {
+        QTest::addColumn<int>("frames");
+        QTest::addColumn<QByteArray>("description");
+        QTest::newRow("odd data, odd text") << 20001 << QByteArray("what it is"); // the text has a zero at its end
+        QTest::newRow("odd data, even text") << 20001 << QByteArray("what it was");
+        QTest::newRow("even data, short text") << 20000 << QByteArray("it");
+        QTest::newRow("no text") << 20000 << QByteArray();
+    }
+
+    void manyFramesAreToldInPieces()
+    {
+        QFETCH(int, frames);
+        QFETCH(QByteArray, description);
+        TiffDirectories directories(RunSample::Facts(QSize(1, 1), PixelLayout::Mono8), frames);
+        if (!description.isEmpty())
+            directories.SetFirstDescription(description);
+        const QTemporaryDir folder;
+        QFile file(folder.filePath("run.tif"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(directories.Header() + QByteArray(frames, 'x'));
+        int pieces = 0;
+        QVERIFY(directories.Write([&](const QByteArray &bytes) {
+            ++pieces;
+            return file.write(bytes) == bytes.size();
+        }));
+        QVERIFY(pieces > 3);
+        file.close();
+        QString error;
+        const auto picture = OpenPicture(file.fileName(), error);
+        QVERIFY2(picture, qPrintable(error));
+        QCOMPARE(picture->Info().frames, frames);
+        QCOMPARE(picture->Info().warning, QString());
+        Picture frame;
+        for (const int index : { 0, frames / 2, frames - 1 }) {
+            QVERIFY2(picture->ReadFrame(index, frame, error), qPrintable(error));
+            const Picture &samples = frame;
+            QCOMPARE(char(samples.Row(0)[0]), 'x');
+        }
+        bool isTold = description.isEmpty();
+        for (const MetadataEntry &entry : picture->Info().metadata)
+            isTold = isTold || entry.value == QString::fromUtf8(description);
+        QVERIFY(isTold);
+    }
+
+    void aDiskThatTakesNoMoreEndsTheWriting()
+    {
+        const TiffDirectories directories(RunSample::Facts(QSize(1, 1), PixelLayout::Mono8), 20000);
+        int pieces = 0;
+        QVERIFY(!directories.Write([&](const QByteArray &) { return ++pieces < 2; }));
+        QCOMPARE(pieces, 2);
     }
 
     void tellsAPixelSizeOnlyWhereItIsKnown()
@@ -76,7 +129,8 @@ private:
         const TiffDirectories directories(facts, 1);
         if (!file.open(QIODevice::WriteOnly))
             return -1;
-        file.write(directories.Header() + QByteArray(16, '\0') + directories.Bytes());
+        file.write(directories.Header() + QByteArray(16, '\0'));
+        directories.Write([&](const QByteArray &bytes) { return file.write(bytes) == bytes.size(); });
         file.close();
         QString error;
         const auto picture = OpenPicture(file.fileName(), error);
