@@ -77,40 +77,6 @@ private:
     int m_number = 0;
 };
 
-class RecordedWrite
-{
-public:
-    void Run(const QString &folder, CameraFrame frame)
-    {
-        for (const QString &path : m_files)
-            QFile::remove(path);
-        const auto writer = CreateRunWriter(RunFormat::Tiff, folder + QString("/run%1.tif").arg(m_number++));
-        QString error;
-        bool done = writer->Begin(FactsOf(frame), &error);
-        for (int i = 0; i < FramesOnDisk && done; ++i, ++frame.frameId)
-            done = writer->Write(frame, &error);
-        RunOutcome outcome;
-        if (!done || !writer->Finish(&outcome, &error))
-            qFatal("%s", qPrintable(error));
-        m_files = writer->Files();
-    }
-
-private:
-    QStringList m_files;
-    int m_number = 0;
-};
-
-QVector<BenchmarkResult> MeasureDisk()
-{
-    const QTemporaryDir folder(QDir::currentPath() + "/bench-XXXXXX"); // a disk; /tmp may be memory
-    const CameraFrame frame = FrameOf(Side, 0);
-    PlainWrite plain;
-    RecordedWrite recorded;
-    return { MeasureRatio(
-        QString("recording %1 frames %2 x %2, 16 bit, to disk").arg(FramesOnDisk).arg(Side), DiskBound,
-        DiskRounds, [&] { plain.Run(folder.path(), frame); }, [&] { recorded.Run(folder.path(), frame); }) };
-}
-
 /// A camera that sends at a rate, or as fast as the recording takes frames without losing one.
 class PacedCamera : public FrameSource
 {
@@ -213,6 +179,42 @@ RunOrder OrderOf(const QString &folder, const CameraFrame &frame, int frames)
     order.settings.mode = RecordingSettings::Mode::Count;
     order.settings.frames = frames;
     return order;
+}
+
+/// Camera, queue, thread and file, as the program records: as fast as the disk takes it without a loss.
+class RecordedWrite
+{
+public:
+    RecordedWrite(const QString &folder, const CameraFrame &frame)
+        : m_camera({ frame }, 0)
+        , m_saving(RunRegister(folder + "/register"))
+        , m_order(OrderOf(folder, frame, FramesOnDisk))
+    {
+        m_camera.Follow(&m_saving);
+    }
+
+    void Run()
+    {
+        if (Record(&m_saving, &m_tee, m_order).receipt.outcome.counts.Lost() > 0)
+            qFatal("a frame was lost");
+    }
+
+private:
+    PacedCamera m_camera;
+    FrameTee m_tee{ &m_camera };
+    FrameSaving m_saving;
+    const RunOrder m_order;
+};
+
+QVector<BenchmarkResult> MeasureDisk()
+{
+    const QTemporaryDir folder(QDir::currentPath() + "/bench-XXXXXX"); // a disk; /tmp may be memory
+    const CameraFrame frame = FrameOf(Side, 0);
+    PlainWrite plain;
+    RecordedWrite recorded(folder.path(), frame);
+    return { MeasureRatio(
+        QString("recording %1 frames %2 x %2, 16 bit, to disk").arg(FramesOnDisk).arg(Side), DiskBound,
+        DiskRounds, [&] { plain.Run(folder.path(), frame); }, [&] { recorded.Run(); }) };
 }
 
 /// The services of the live view as the program has them, and a window that shows the pictures.

@@ -8,6 +8,8 @@
 #include "recordingdesk.h"
 #include "recordingstatus.h"
 #include "runningworkbench.h"
+#include "runregister.h"
+#include "runwriter.h"
 #include "savesettings.h"
 #include "shownframes.h"
 #include "testchartscene.h"
@@ -15,10 +17,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
 #include <QOffscreenSurface>
@@ -490,6 +494,62 @@ private slots:
         QVERIFY2(receipt.IsWhole() && receipt.files.first().endsWith("run1.fits"), qPrintable(receipt.Text()));
         QVERIFY(receipt.stamps.last().hostTimeNs - receipt.stamps.first().hostTimeNs <= 1000000000);
         CompareWithTheScene(receipt, receipt.stamps.size());
+    }
+
+    void aSequenceChosenInThePanel()
+    {
+        m_settings.frames = 3;
+        Apply();
+        m_workbench->Action("Settings")->trigger();
+        auto *panel = m_workbench->window.findChild<QWidget *>("AcquisitionPanel");
+        QVERIFY(panel);
+        QTRY_VERIFY(panel->isVisible());
+        auto *format = panel->findChild<QComboBox *>("choiceFormat");
+        QVERIFY(format);
+        format->setFocus();
+        QTest::keyClick(format, Qt::Key_End); // the last one
+        QCOMPARE(Desk()->Settings()->Get().format, RunFormat::Png);
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
+        QStringList names;
+        for (const QString &file : receipt.files)
+            names << QFileInfo(file).fileName();
+        QCOMPARE(names, QStringList({ "run1_000001.png", "run1_000002.png", "run1_000003.png", "run1.txt" }));
+        CompareWithTheScene(receipt, 1);
+    }
+
+    void whatAProgramThatDiedHasLeftIsRepairedAndTold()
+    {
+        m_ended.reset();
+        m_workbench.reset();
+        const QString path = m_folder->filePath("cut.tif");
+        const RunRegister runs(m_folder->filePath("recordings"));
+        {
+            RunFacts facts;
+            facts.frameSize = QSize(2, 1);
+            const std::unique_ptr<RunWriter> writer = CreateRunWriter(RunFormat::Tiff, path);
+            const std::shared_ptr<const uchar> pixels(new uchar[2]{ 7, 8 }, std::default_delete<const uchar[]>());
+            CameraFrame frame;
+            frame.pixels = pixels;
+            frame.width = 2;
+            frame.height = 1;
+            frame.strideBytes = 2;
+            QString error;
+            QString entry;
+            QVERIFY2(writer->Begin(facts, &error) && writer->Write(frame, &error) && runs.Add(path, &entry),
+                     qPrintable(error));
+        }
+        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
+        QSignalSpy messages(&m_workbench->services, SIGNAL(signalMessage(QString)));
+        const QString told = "A recording that was cut off was repaired: 1 frames in " + path;
+        QTRY_VERIFY_WITH_TIMEOUT(messages.contains(QVariantList{ told }), MsToWait);
+        QString error;
+        const auto file = OpenPicture(path, error);
+        QVERIFY2(file, qPrintable(error));
+        QCOMPARE(file->Info().frames, 1);
+        QCOMPARE(runs.Entries().size(), 0);
+        QVERIFY(m_workbench->WaitForPicture());
     }
 
     void aRunIntoMemoryCanBeDiscarded()
