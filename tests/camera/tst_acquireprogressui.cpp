@@ -70,6 +70,7 @@ private slots:
     void height();
     void startOfARun_data();
     void startOfARun();
+    void startOfARunBringsThePanelToTheFront();
     void endOfARunHidesThePanelAfterHalfASecond();
     void tickDuringARunLeavesThePanel();
     void newRunWithinHalfASecondKeepsThePanel();
@@ -364,6 +365,15 @@ void TestAcquireProgressUI::startOfARun()
     QVERIFY(p.panel->isVisible());
     const QObjectList children = p.host.children();
     QVERIFY(children.indexOf(p.panel) > children.indexOf(inFront)); // the last child lies in front
+}
+
+void TestAcquireProgressUI::startOfARunBringsThePanelToTheFront()
+{
+    Panel p;
+    QWidget above(&p.host);
+    QCOMPARE(p.host.children().last(), &above);
+    emit p.Saver().signalSaveThreadRunningChanged(true);
+    QCOMPARE(p.host.children().last(), p.panel); // the last one is painted over the others
 }
 
 void TestAcquireProgressUI::endOfARunHidesThePanelAfterHalfASecond()

@@ -48,9 +48,9 @@ private slots:
         QTest::newRow("a cube by its ending") << "run.fits" << QStringList{ "--frames", "5" } << "run.fits" << 5;
         QTest::newRow("a sequence by its ending") << "run.png" << QStringList{ "--frames", "3" } << "run_000001.png" << 3;
         QTest::newRow("format said") << "run.dat" << QStringList{ "--frames", "2", "--format", "fits" } << "run.dat" << 2;
-        QTest::newRow("seconds") << "run.tif" << QStringList{ "--seconds", "1" } << "run.tif" << 0;
+        QTest::newRow("seconds") << "run.tif" << QStringList{ "--seconds", "4" } << "run.tif" << 0;
         QTest::newRow("frames come first") << "run.tif" << QStringList{ "--frames", "4", "--seconds", "50" } << "run.tif" << 4;
-        QTest::newRow("seconds come first") << "run.tif" << QStringList{ "--frames", "9000", "--seconds", "1" } << "run.tif" << 0;
+        QTest::newRow("seconds come first") << "run.tif" << QStringList{ "--frames", "9000", "--seconds", "4" } << "run.tif" << 0;
     }
 
     void recordsWhatIsAskedFor()
@@ -111,7 +111,7 @@ private slots:
     /// Nobody can be asked, so it is said and done all the same.
     void aRunThatDoesNotFitIsSaid()
     {
-        const ProgramOutcome outcome = Record("run.tif", { "--frames", "1000000", "--seconds", "1" });
+        const ProgramOutcome outcome = Record("run.tif", { "--frames", "1000000", "--seconds", "4" });
         QVERIFY2(outcome.errors.startsWith("workbench: The run needs 4.2 TB, and the disk has "),
                  qPrintable(outcome.errors));
         QCOMPARE(outcome.exitCode, 0);
