@@ -5,7 +5,7 @@ QVector<BenchmarkGroup> BenchmarkGroups()
 {
     return {{"cpuframe", BenchmarkCpuFrame}, {"gpuframe", BenchmarkGpuFrame}, {"zoom", BenchmarkZoom},
             {"levels", BenchmarkLevels},     {"stack", BenchmarkStack},       {"items", BenchmarkItems},
-            {"profiles", BenchmarkProfiles}, {"spectrum", BenchmarkSpectrumFrame},
+            {"profiles", BenchmarkProfiles}, {"spectrum", BenchmarkSpectrumFrame}, {"spectra", BenchmarkSpectra},
             {"record", BenchmarkRecord},     {"thumbnails", BenchmarkThumbnails},
             {"start", BenchmarkStart}};
 }

@@ -29,6 +29,11 @@ QVector<BenchmarkResult> BenchmarkItems();
 QVector<BenchmarkResult> BenchmarkProfiles();
 /// One live frame on the spectrum page, with all its aids, against the same picture alone.
 QVector<BenchmarkResult> BenchmarkSpectrumFrame();
+/// Spectra: a curve and tracks from payload to screen against the plotting libraries alone, binning against memory, and
+/// a stream of 100 a second.
+QVector<BenchmarkResult> BenchmarkSpectra();
+BenchmarkResult BenchmarkTracks();
+QVector<BenchmarkResult> BenchmarkSpectrumStream();
 /// A recording: to disk against plain writing, while shown against not shown, and what fast and long runs lose.
 QVector<BenchmarkResult> BenchmarkRecord();
 /// A folder of pictures, until its first screen of thumbnails is painted.

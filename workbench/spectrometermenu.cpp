@@ -3,7 +3,6 @@
 
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
-#include "usearea.h"
 #include "workbenchservices.h"
 
 #include <QActionGroup>
@@ -46,7 +45,7 @@ void SpectrometerMenu::AddDisplay()
     m_modes = AddChoices(this, {{tr("&Picture"), int(DisplayMode::General)}, {tr("Sensor &Image"), int(DisplayMode::Physics)},
                                 {tr("&Curve"), int(DisplayMode::Plot)}, {tr("Curve with Pea&ks"), int(DisplayMode::PlotPeak)},
                                 {tr("Tracks in &3D"), int(DisplayMode::Tracks3D)}},
-                         [this](int mode) { ShowMode(mode); });
+                         [this](int mode) { m_settings->SetMode(DisplayMode(mode)); });
     int key = 1;
     for (QAction *action : m_modes->actions())
         action->setShortcut(QKeySequence(QString("Ctrl+%1").arg(key++)));
@@ -153,14 +152,6 @@ QAction *SpectrometerMenu::AddCheck(QMenu *menu, const QString &text, const std:
         slotUpdate();
     });
     return action;
-}
-
-/// A spectrum page belongs to the use for spectra.
-void SpectrometerMenu::ShowMode(int mode)
-{
-    if (DisplayMode(mode) != DisplayMode::General)
-        m_services->GetUseArea()->slotSetSpectrum(true);
-    m_settings->SetMode(DisplayMode(mode));
 }
 
 void SpectrometerMenu::FindTracks()

@@ -34,7 +34,6 @@ private:
     void AddOutput();
     QActionGroup *AddChoices(QMenu *menu, const QList<QPair<QString, int>> &choices, const std::function<void(int)> &choose);
     QAction *AddCheck(QMenu *menu, const QString &text, const std::function<void(bool)> &set);
-    void ShowMode(int mode);
     void FindTracks();
     void Take(bool dark);
     void slotUpdate();

@@ -11,10 +11,10 @@
 #include "plotpicture.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
+#include "wholefile.h"
 #include "workbenchservices.h"
 
 #include <QFileDialog>
-#include <QSaveFile>
 #include <QStandardPaths>
 
 namespace {
@@ -28,13 +28,6 @@ PlotForm FormOf(const QString &suffix)
 
 /// "SVG (*.svg)" gives "svg".
 QString SuffixOf(const QString &filter) { return filter.section("*.", 1).remove(')'); }
-
-QString WriteFile(const QString &path, const QByteArray &content)
-{
-    QSaveFile file(path);
-    const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit();
-    return isWritten ? QString() : file.errorString();
-}
 
 } // namespace
 
@@ -159,14 +152,14 @@ void SpectrumDialogs::Write(const QString &path, const QByteArray &content)
 {
     m_writing.start([this, path, content] {
         QMetaObject::invokeMethod(
-            this, [this, path, error = WriteFile(path, content)] { slotWritten(path, error); }, Qt::QueuedConnection);
+            this, [this, path, fault = WriteWholeFile(path, content)] { slotWritten(path, fault); }, Qt::QueuedConnection);
     });
 }
 
-void SpectrumDialogs::slotWritten(const QString &path, const QString &error)
+void SpectrumDialogs::slotWritten(const QString &path, const QString &fault)
 {
-    if (error.isEmpty())
+    if (fault.isEmpty())
         emit signalMessage(tr("\u201c%1\u201d was saved.").arg(QFileInfo(path).fileName()));
     else
-        m_fault->slotShowFault(tr("%1 could not be written: %2 Choose another folder.").arg(path, error));
+        m_fault->slotShowFault(fault);
 }

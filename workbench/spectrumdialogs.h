@@ -43,7 +43,7 @@ private:
     void AskWhere(const QString &title, const QStringList &filters, const QString &suffix,
                   const std::function<void(const QString &)> &write);
     void Write(const QString &path, const QByteArray &content);
-    void slotWritten(const QString &path, const QString &error);
+    void slotWritten(const QString &path, const QString &fault);
 
     WorkbenchServices *m_services;
     QWidget *m_centre;

@@ -262,6 +262,8 @@ void WorkbenchServices::ConnectSpectrum()
 /// The curves of a standing picture need a frame to be made of.
 void WorkbenchServices::slotDisplayModeChanged()
 {
+    if (m_centreDisplay->Mode() != DisplayMode::General)
+        m_useArea->slotSetSpectrum(true); // its pages belong to that use
     UpdateProfilesWanted();
     m_preview->slotShowAgain();
 }

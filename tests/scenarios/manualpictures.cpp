@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Works with the program as a reader of the manual does, and saves the pictures of it.
+#include "calibrationmodel.h"
 #include "camerasession.h"
 #include "createpicture.h"
+#include "globalnotify.h"
 #include "filethumbnail.h"
 #include "levelsmodel.h"
 #include "livelevels.h"
@@ -11,6 +13,8 @@
 #include "runningworkbench.h"
 #include "savesettings.h"
 #include "specimenscene.h"
+#include "spectrographscene.h"
+#include "spectrumpipeline.h"
 #include "spectrumsettings.h"
 #include "stylesheet.h"
 #include "usearea.h"
@@ -44,6 +48,7 @@ constexpr QSize StackSize(1024, 1024);
 constexpr int StackFrames = 12;
 constexpr int FramesApart = 20; ///< so that the cells have moved
 constexpr double BrightExposureUs = 25000;
+constexpr double LampExposureUs = 2000; ///< nothing is cut off
 constexpr int WheelNotch = 120;
 constexpr int WaitMs = 10000;
 constexpr int SettleMs = 1000;
@@ -75,6 +80,7 @@ public:
         TakeOpenedPicture();
         TakeCompare();
         TakeFiles();
+        TakeSpectra();
     }
 
 private:
@@ -230,6 +236,43 @@ private:
         QString error;
         if (!SavePicture(path, picture, SaveOptions(), error))
             qFatal("%s", qPrintable(error));
+    }
+
+    /// A lamp before a spectrometer: its lines are named, the spectrum is calibrated, and the fibres are seen side by side.
+    void TakeSpectra()
+    {
+        m_workbench.services.Config()->SetCameraView();
+        ShowPanels(false, false);
+        m_workbench.link.SetScene(SpectrographScene::SceneName());
+        m_workbench.link.SetPixelLayout(PixelLayout::Mono16);
+        m_workbench.link.Session()->Controls().SetExposureUs(LampExposureUs);
+        m_workbench.Action("Curve with Peaks")->trigger();
+        m_workbench.Action("Band Found by Itself")->trigger();
+        const SpectrumPipeline *spectra = m_workbench.services.Spectra();
+        if (!QTest::qWaitFor([&] { return spectra->Shown().band.top > 0; }, WaitMs))
+            qFatal("The lamp's light is not found.");
+        Settle();
+
+        m_workbench.Action("Calibrate…")->trigger();
+        auto *dialog = m_workbench.window.findChild<QDialog *>("CalibrationDialog");
+        CalibrationModel *calibration = m_workbench.services.Calibration();
+        calibration->Assign();
+        if (!QTest::qWaitFor([&] { return calibration->Apply(); }, WaitMs))
+            qFatal("The lamp's lines are not assigned.");
+        const QRect window = m_workbench.window.geometry();
+        dialog->move(window.center() - dialog->rect().center());
+        Save("calibration");
+        dialog->close();
+        ShowPanels(false, true);
+        GlobalNotifyObserver(NotifyRaiseCalibrationTable, nullptr);
+        Save("spectra");
+        ShowPanels(false, false);
+        m_workbench.Action("Tracks in 3D")->trigger();
+        m_workbench.Action("Find Tracks")->trigger();
+        if (!QTest::qWaitFor([&] { return !spectra->Shown().tracks.empty(); }, WaitMs))
+            qFatal("The fibres' tracks are not found.");
+        Save("tracks");
+        m_workbench.Action("Picture")->trigger();
     }
 
     /// A drift of the cells under the microscope.

@@ -22,6 +22,7 @@ constexpr size_t neighbours = 2; // to each side
 /// Noise that grows with the signal makes bumps on the flank of a strong line.
 constexpr double leastShareOfHeight = 0.01;
 constexpr double shareOfOwnFoot = 0.3;
+constexpr double leastValleyShare = 0.05;
 
 std::vector<double> KernelOf(double sigma)
 {
@@ -125,6 +126,16 @@ bool IsCutOff(const std::vector<double> &samples, int index, bool standsOut, dou
     return top >= saturation || (isFlat && standsOut);
 }
 
+/// A neighbour too close to be a peak of the smooth curve would pull the place to itself: behind a valley of the samples
+/// that is deeper than noise makes it, the line ends.
+void LeaveOutNeighbours(const std::vector<double> &samples, const SpectralPeak &peak, double noise, LineWindow *window)
+{
+    constexpr double nothing = -std::numeric_limits<double>::infinity();
+    const double rise = std::max(noise, leastValleyShare * peak.height);
+    window->from = std::max(window->from, int(CrossingFrom(samples, peak.index, -1, nothing, rise)));
+    window->to = std::min(window->to, int(CrossingFrom(samples, peak.index, 1, nothing, rise)));
+}
+
 struct FoundLine
 {
     SpectralPeak peak;
@@ -191,7 +202,9 @@ std::vector<FoundLine> LinesAt(double sigma, const std::vector<double> &samples,
         const double room = peak.isSaturated ? (right - left) / 4 : 0; // only the flanks are left
         window.from = std::max(0, int(std::floor(left - room)));
         window.to = std::min(int(samples.size()) - 1, int(std::ceil(right + room)));
-        if (peak.isSaturated)
+        if (!peak.isSaturated)
+            LeaveOutNeighbours(samples, peak, DeviationsFor(rules.certainty) * noise, &window);
+        else
             window.limit = std::min(samples[size_t(peak.index)], rules.saturation);
         found.push_back({peak, window});
     }

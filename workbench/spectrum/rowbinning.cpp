@@ -15,21 +15,12 @@ namespace {
 constexpr qint64 worthwhileSamples = 512 * 1024;
 constexpr int rowsAtOnce = 8;
 
-/// Sums of columns and their largest samples. Several rows at a time, so that the sums are not what is waited for.
+/// Sums of columns and their largest samples. Several rows at a time, so that the sums are not what is waited for. That
+/// nothing overlaps is said of the parameters: the compiler believes it only there, and else adds one after the other.
 template <typename Sample>
-struct Columns
+INLINE_LOOP void AddRowsLoop(const Sample *const *rows, quint32 *__restrict sums, Sample *__restrict largest, int count)
 {
-    quint32 *sums;
-    Sample *largest;
-    int count;
-};
-
-template <typename Sample>
-INLINE_LOOP void AddRowsLoop(const Sample *const *rows, const Columns<Sample> &columns)
-{
-    quint32 *__restrict sums = columns.sums;
-    Sample *__restrict largest = columns.largest;
-    for (int i = 0; i < columns.count; ++i) {
+    for (int i = 0; i < count; ++i) {
         quint32 sum = 0;
         Sample most = largest[i];
         for (int row = 0; row < rowsAtOnce; ++row) {
@@ -45,15 +36,16 @@ INLINE_LOOP void AddRowsLoop(const Sample *const *rows, const Columns<Sample> &c
 #if defined(__x86_64__)
 
 template <typename Sample>
-__attribute__((target("avx2"))) void AddRowsAvx2(const Sample *const *rows, const Columns<Sample> &columns)
+__attribute__((target("avx2"))) void AddRowsAvx2(const Sample *const *rows, quint32 *__restrict sums, Sample *__restrict largest,
+                                                 int count)
 {
-    AddRowsLoop(rows, columns);
+    AddRowsLoop(rows, sums, largest, count);
 }
 
 #endif
 
 template <typename Sample>
-auto BestAddRows() -> void (*)(const Sample *const *, const Columns<Sample> &)
+auto BestAddRows() -> void (*)(const Sample *const *, quint32 *__restrict, Sample *__restrict, int)
 {
 #if defined(__x86_64__)
     if (__builtin_cpu_supports("avx2"))
@@ -80,7 +72,7 @@ struct Accumulator
             const Sample *rows[rowsAtOnce];
             for (int k = 0; k < rowsAtOnce; ++k)
                 rows[k] = y + k < bottom ? reinterpret_cast<const Sample *>(picture.Row8(y + k)) : none.data();
-            addRows(rows, {sums.data(), largest.data(), int(sums.size())});
+            addRows(rows, sums.data(), largest.data(), int(sums.size()));
         }
     }
 

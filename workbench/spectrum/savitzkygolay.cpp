@@ -23,8 +23,8 @@ double GramPolynomial(int i, int m, int k)
 double FallingFactorial(int a, int b)
 {
     double product = 1;
-    for (int factor = a - b + 1; factor <= a; ++factor)
-        product *= factor;
+    for (int i = 0; i < b; ++i)
+        product *= a - i;
     return product;
 }
 
