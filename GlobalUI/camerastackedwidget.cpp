@@ -111,7 +111,7 @@ void CameraStackedWidget::UpdateViewOverlays()
     StackedWidgetBase::UpdateViewOverlays();
     if (cameraPresent)
         ShowCameraCapabilities();
-    slotUpdateToolBarPosition(); // its height goes with the buttons that it shows
+    PlaceToolBar();
 }
 
 void CameraStackedWidget::ShowCameraCapabilities()

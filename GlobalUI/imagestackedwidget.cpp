@@ -95,7 +95,7 @@ void ImageStackedWidget::UpdateViewOverlays()
     m_toolBar->SetCloseCompareVisible(IsImageCompareView());
     m_toolBar->slotSetImageInfoButtonVisible(ActiveImage()->IsSenImage());
     slotUpdateImageInfoUI();
-    slotUpdateToolBarPosition(); // its height goes with the buttons that it shows
+    PlaceToolBar();
 }
 
 void ImageStackedWidget::slotUpdateImageInfoUI()

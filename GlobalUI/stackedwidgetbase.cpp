@@ -2,6 +2,7 @@
 #include "stackedwidgetbase.h"
 
 #include "autocountmanager.h"
+#include "compareframe.h"
 #include "drawframebase.h"
 #include "drawviewbase.h"
 #include "globalclass.h"
@@ -62,17 +63,22 @@ void StackedWidgetBase::RestoreMainPage()
     if (!m_mainFrame)
         return;
     insertWidget(0, m_mainFrame);
-    const SpectrumUIManager *spectrumUI = SpectrumUIManager::GetInstance();
-    if (spectrumUI->IsDisplayModeGeneral()) {
-        setCurrentIndex(0);
+    QWidget *page = PageOfDisplayMode();
+    setCurrentWidget(page);
+    if (page == m_mainFrame) {
         m_mainFrame->raise();
         m_mainFrame->show();
         layout()->setGeometry(rect()); // a hidden stack would leave the frame as wide as its compare half
         GetMainDrawView()->ZoomFit();
-    } else {
-        setCurrentIndex(spectrumUI->GetDisplayMode());
     }
     RaiseToolBars();
+}
+
+QWidget *StackedWidgetBase::PageOfDisplayMode() const
+{
+    const SpectrumUIManager *spectrumUI = SpectrumUIManager::GetInstance();
+    QWidget *page = spectrumUI->IsDisplayModeGeneral() ? nullptr : widget(spectrumUI->GetDisplayMode());
+    return page && !qobject_cast<CompareFrame *>(page) ? page : m_mainFrame.data();
 }
 
 void StackedWidgetBase::RaiseToolBars()
@@ -97,10 +103,15 @@ void StackedWidgetBase::PlaceInfoBar()
     m_infoBar->raise();
 }
 
-void StackedWidgetBase::slotUpdateToolBarPosition()
+void StackedWidgetBase::PlaceToolBar()
 {
     m_toolBar->move(width() - GlobalClass::GetActualSize(30) - m_toolBar->width(),
                     height() / 2 - m_toolBar->height() / 2);
+}
+
+void StackedWidgetBase::slotUpdateToolBarPosition()
+{
+    PlaceToolBar();
     m_toolBar->raise();
 }
 

@@ -13,6 +13,8 @@ class ViewToolBar;
 /// The page that shows one picture source: the draw frame as page 0, with a tool bar at the right
 /// edge and an information bar along the bottom floating over it. Zoom commands of the bars go out
 /// stamped with the report manager that is active at that moment; each view obeys its own only.
+/// The display mode says which page follows a comparison; the compare frame, which may have that
+/// place, never does: it is on its way out, and the main frame is shown.
 class StackedWidgetBase : public QStackedWidget
 {
     Q_OBJECT
@@ -50,6 +52,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
     void ShowSizeAndScale(const ReportManager &viewManager);
+    /// Its height goes with the buttons that it shows. What covers it goes on covering it.
+    void PlaceToolBar();
 
     QPointer<GPUDrawFrame> m_mainFrame;
     ImageInfoUI *m_infoBar = nullptr;
@@ -57,4 +61,5 @@ protected:
 
 private:
     void PlaceInfoBar();
+    QWidget *PageOfDisplayMode() const;
 };

@@ -45,6 +45,7 @@
 #include "spectrumsettings.h"
 #include "usearea.h"
 #include "viewcodes.h"
+#include "viewrules.h"
 #include "workspace.h"
 #include "workspaceconfig.h"
 
@@ -234,6 +235,11 @@ void WorkbenchServices::Connect()
 void WorkbenchServices::ConnectSpectrum()
 {
     connect(m_centreDisplay.get(), &CentreDisplay::signalModeChanged, this, &WorkbenchServices::slotDisplayModeChanged);
+    // The pages that a comparison takes the place of are switched before it begins.
+    connect(m_config.get(), &WorkspaceConfig::signalSwitchView, m_centreDisplay.get(),
+            [this] { m_centreDisplay->SetComparing(ViewRules::IsComparison(m_config->WorkedView())); });
+    connect(m_centreDisplay.get(), &CentreDisplay::signalEndComparisonWanted, m_config.get(),
+            [this] { m_config->SetCompareView(); });
     connect(m_profiles.get(), &LiveProfiles::signalFrameWanted, m_preview.get(), &LivePreview::slotShowAgain);
     connect(m_levelsModel.get(), &LevelsModel::signalPaletteChanged, this, &WorkbenchServices::slotShowPalette);
     for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()}) {

@@ -5,6 +5,7 @@
 #include "shortfilename.h"
 #include "zoomtext.h"
 
+#include <QAbstractScrollArea>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -16,8 +17,8 @@
 #include <algorithm>
 
 namespace {
-constexpr int FileNamePanelWidth = 500;
-constexpr int LivePanelWidth = 680;
+constexpr int FileNamePanelDesignWidth = 500;
+constexpr int LivePanelDesignWidth = 680;
 constexpr int LineDesignHeight = 22;
 constexpr int PairDesignGap = 10;
 
@@ -28,6 +29,14 @@ QLabel *NewCaption(const char *name, const QString &text, QWidget *parent)
     caption->setObjectName(name);
     caption->setContentsMargins(GlobalClass::GetActualSize(PairDesignGap), 0, 0, 0);
     return caption;
+}
+
+/// What a view gives the mouse position in the coordinates of; null when `sender` is no widget in `stack`.
+const QWidget *SpaceOf(const QObject *sender, const QWidget *stack)
+{
+    const auto *scrolled = qobject_cast<const QAbstractScrollArea *>(sender);
+    const QWidget *space = scrolled ? scrolled->viewport() : qobject_cast<const QWidget *>(sender);
+    return space && stack->isAncestorOf(space) ? space : nullptr;
 }
 } // namespace
 
@@ -87,7 +96,7 @@ void ImageInfoUI::BuildForm(bool showFileName)
     pixelLine->addStretch();
     pictureLine->addStretch();
 
-    resize(showFileName ? FileNamePanelWidth : LivePanelWidth,
+    resize(GlobalClass::GetActualSize(showFileName ? FileNamePanelDesignWidth : LivePanelDesignWidth),
            GlobalClass::GetActualSize(LineDesignHeight) * lines->rowCount());
 
     QMetaObject::connectSlotsByName(this);
@@ -150,7 +159,8 @@ void ImageInfoUI::slotUpdateFileName(QString text)
 {
     text = ShortFileName(text);
     m_fileName.value->setText(text);
-    setFixedWidth(std::max(m_fileName.caption->width() + GlobalClass::GetStringWidth2(text), FileNamePanelWidth));
+    setFixedWidth(std::max(m_fileName.caption->width() + GlobalClass::GetStringWidth2(text),
+                           GlobalClass::GetActualSize(FileNamePanelDesignWidth)));
     m_fileName.value->setFixedWidth(GlobalClass::GetStringWidth(text));
 }
 
@@ -189,9 +199,15 @@ void ImageInfoUI::slotEnableScaleFactor(QPoint point)
     // The panel sits at the bottom of its parent.
     const QRect box = m_zoom->geometry();
     const int left = box.x();
-    const int top = parentWidget()->height() - m_frame->height() + box.y();
-    const bool isOverBox = point.x() >= left && point.x() <= left + box.width() && point.y() >= top
-                           && point.y() <= top + box.height();
+    int top = parentWidget()->height() - m_frame->height() + box.y();
+    const int bottom = top + box.height();
+    if (const QWidget *space = SpaceOf(sender(), parentWidget())) {
+        // A view may be larger than the stack and scrolled in it; and the stack lifts the panel a little.
+        point = space->mapTo(parentWidget(), point);
+        top = std::min(top, m_zoom->mapTo(parentWidget(), QPoint(0, 0)).y());
+    }
+    const bool isOverBox =
+        point.x() >= left && point.x() <= left + box.width() && point.y() >= top && point.y() <= bottom;
     setAttribute(Qt::WA_TransparentForMouseEvents, !isOverBox);
 }
 

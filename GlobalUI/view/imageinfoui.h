@@ -38,8 +38,8 @@ public slots:
     void slotUpdateRotateDegree(int value);
     void slotUpdateImageSize(QString text);
     void slotUpdatePixelInfo(QPointF pos, QString rgbInfo);
-    /// Takes mouse events while `point`, in the coordinates of the panel's parent, is over the zoom
-    /// box; lets them pass otherwise.
+    /// Takes mouse events while `point` is over the zoom box; lets them pass otherwise. In the coordinates of the
+    /// panel's parent, but of a view inside that when it is what calls.
     void slotEnableScaleFactor(QPoint point);
 
 signals:

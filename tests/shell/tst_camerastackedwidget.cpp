@@ -13,9 +13,11 @@
 #include "viewcodes.h"
 #include "viewtoolbar.h"
 
+#include <QApplication>
 #include <QGraphicsScene>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QSignalSpy>
 
@@ -69,6 +71,7 @@ private slots:
     void zoomCommandsCarryTheActiveReportManager();
     void otherManagersZoomDoesNotTouchTheView();
     void typedZoomReachesTheView();
+    void zoomBoxIsReachedInAScrolledPicture();
     void liveFrameIsShownAndAnnounced();
     void takesTheStoredDrawingMode();
     void withoutCameraFrameAndToolBarAreDisabled();
@@ -253,6 +256,44 @@ void CameraStackedWidgetTest::typedZoomReachesTheView()
     QCOMPARE(page.view->transform().m11(), 4.0);
     QCOMPARE(services.cameraReport.GetScaleFactor(), 4.0F);
     QCOMPARE(page.Zoom(), QString("400.00%"));
+    // A lone point asks for 0, which the view raises to the least scale of its picture.
+    zoom->setText(".");
+    QTest::keyClick(zoom, Qt::Key_Return);
+    QCOMPARE(page.view->transform().m11(), 256.0 / 300); // the longer side on 256 pixels of the screen
+}
+
+/// At a high zoom the view is larger than the stack and lies somewhere behind it.
+void CameraStackedWidgetTest::zoomBoxIsReachedInAScrolledPicture()
+{
+    ShellServices services;
+    DisplayScale scale(1.0);
+    FakeCameraMainManager camera;
+    services.cameraReport.imageSize = QSize(300, 200);
+    Page page;
+    page.Show({ 600, 500 });
+    emit services.preview.signalPreviewImage(QImage(300, 200, QImage::Format_Grayscale8));
+    page.stack.slotSetScaleFactor(8.0);
+    page.frame->MoveImage(QPointF(-700, -500));
+    QWidget *viewport = page.view->viewport();
+    QVERIFY(viewport->mapTo(&page.stack, QPoint(0, 0)).x() < -100);
+
+    auto *zoom = page.infoBar->findChild<QLineEdit *>("lineEditZoom");
+    const auto isReachedAt = [&](const QPoint &place) {
+        const QPoint viewPos = viewport->mapFrom(&page.stack, place);
+        QMouseEvent move(QEvent::MouseMove, viewPos, viewport->mapToGlobal(viewPos), Qt::NoButton, Qt::NoButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(viewport, &move);
+        return !page.infoBar->testAttribute(Qt::WA_TransparentForMouseEvents);
+    };
+    // All of the box, whose panel the stack lifts a little above its lower edge.
+    const QRect box(zoom->mapTo(&page.stack, QPoint(0, 0)), zoom->size());
+    QVERIFY(!isReachedAt(QPoint(300, 200)));
+    for (const QPoint &place : { box.center(), box.topLeft(), box.bottomRight() })
+        QVERIFY(isReachedAt(place));
+    QVERIFY(!isReachedAt(box.topLeft() - QPoint(0, 2)));
+    QVERIFY(!isReachedAt(box.topLeft() - QPoint(2, 0)));
+    QVERIFY(isReachedAt(box.center()));
+    QCOMPARE(page.stack.childAt(box.center()), zoom);
 }
 
 void CameraStackedWidgetTest::liveFrameIsShownAndAnnounced()
@@ -469,6 +510,11 @@ void CameraStackedWidgetTest::progressPanelTakesTheWholePage()
     QCOMPARE(panel->pos(), QPoint(0, 0));
     QCOMPARE(panel->size(), QSize(200, 50)); // its own fixed size bounds it
     QCOMPARE(page.stack.children().last(), static_cast<QObject *>(panel));
+
+    FakeCameraMainManager camera;
+    page.stack.UpdateViewOverlays(); // any change of a camera control
+    QCOMPARE(page.stack.children().last(), static_cast<QObject *>(panel));
+    QCOMPARE(page.toolBar->y(), 520 / 2 - page.toolBar->height() / 2);
 }
 
 void CameraStackedWidgetTest::resizeFitsThePicture()
@@ -513,9 +559,12 @@ void CameraStackedWidgetTest::restoredPageFollowsDisplayMode()
     page.stack.removeWidget(page.frame);
     services.spectrumUI.displayModeGeneral = false;
     services.spectrumUI.displayMode = 1;
+    page.stack.widget(0)->raise();
     page.stack.RestoreMainPage();
     QCOMPARE(page.stack.widget(0), static_cast<QWidget *>(page.frame));
     QCOMPARE(page.stack.currentIndex(), 1);
+    const QObjectList top = page.stack.children().mid(page.stack.children().size() - 2);
+    QCOMPARE(top, QObjectList({ page.infoBar, page.toolBar }));
 }
 
 GUARDED_TEST_MAIN(CameraStackedWidgetTest)

@@ -108,7 +108,8 @@ private slots:
     void fromImageCompareToCameraCompare();
     void fromCameraCompareToImageCompare();
     void allViewsAndBack();
-    void leftCompareFollowsTheDisplayMode();
+    void pictureIsBackWhateverTheDisplayMode_data();
+    void pictureIsBackWhateverTheDisplayMode();
     void activeHalfFollowsTheActiveManager();
     void pressedHalfGetsTheFocus();
     void floatingPanelsStayOnTop();
@@ -495,15 +496,51 @@ void SwitchViewTest::allViewsAndBack()
     host.VerifyAtHome();
 }
 
-void SwitchViewTest::leftCompareFollowsTheDisplayMode()
+void SwitchViewTest::pictureIsBackWhateverTheDisplayMode_data()
 {
+    QTest::addColumn<int>("compareView");
+    QTest::addColumn<int>("mode");
+    for (int mode : { 1, 2, 3, 4 }) { // the compare frame has the place of the first
+        QTest::addRow("camera compare, mode %d", mode) << int(CameraCompareView) << mode;
+        QTest::addRow("image compare, mode %d", mode) << int(ImageCompareView) << mode;
+    }
+}
+
+/// A spectrum page was chosen during the comparison: behind it the picture is in its place again, as wide as the page.
+void SwitchViewTest::pictureIsBackWhateverTheDisplayMode()
+{
+    QFETCH(int, compareView);
+    QFETCH(int, mode);
+    const bool isLive = compareView == CameraCompareView;
     Window host;
-    host.SwitchTo(ImageCompareView);
+    const int homeView = isLive ? CameraView : ImageView;
+    host.SwitchTo(homeView);
+    StackedWidgetBase *stack =
+        isLive ? static_cast<StackedWidgetBase *>(host.CameraStack()) : host.ImageStack();
+    GPUDrawFrame *frame = stack->GetMainFrame();
+    DrawViewBase *view = stack->GetMainDrawView();
+    view->slotPaintPreview(QImage(1600, 200, QImage::Format_Grayscale8)); // as wide as it is shown
+    view->slotZoomFit();
+    const double fitted = view->transform().m11();
+
+    host.SwitchTo(compareView);
     host.services.spectrumUI.displayModeGeneral = false;
+    host.services.spectrumUI.displayMode = mode;
+    host.services.displayModeUI.currentDisplayMode = mode;
+    emit host.services.spectrumUI.signalDisplayModeChange();
+    host.SwitchTo(homeView);
+    QVERIFY(host.Compare()->isHidden());
+    QCOMPARE(stack->currentWidget(), static_cast<QWidget *>(frame));
+    QVERIFY(!frame->isHidden());
+    QCOMPARE(view->transform().m11(), fitted);
+
+    host.services.spectrumUI.displayModeGeneral = true;
     host.services.spectrumUI.displayMode = 0;
-    host.SwitchTo(ImageView);
-    QCOMPARE(host.ImageStack()->currentIndex(), 0);
-    QCOMPARE(host.ImageStack()->widget(0), static_cast<QWidget *>(host.ImageFrame()));
+    host.services.displayModeUI.currentDisplayMode = 0;
+    emit host.services.spectrumUI.signalDisplayModeChange();
+    QVERIFY(frame->isVisible());
+    QCOMPARE(view->transform().m11(), fitted);
+    host.VerifyAtHome();
 }
 
 void SwitchViewTest::activeHalfFollowsTheActiveManager()

@@ -5,6 +5,7 @@
 #include "globalclass.h"
 #include "guardedtest.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
@@ -17,11 +18,29 @@ const QString restingStyle = "background: transparent; border-width: 0; border-s
 const QString editingStyle = "background-color: rgb(55, 55, 55); border-width: 0;";
 const QString degree = QString(QChar(0xB0));
 
+/// While it lives, texts are as large as those of a display with so many dots per inch more.
+class TextScale
+{
+public:
+    explicit TextScale(double scale)
+    {
+        QFont font = m_font;
+        font.setPointSizeF(font.pointSizeF() * scale);
+        QApplication::setFont(font);
+    }
+    ~TextScale() { QApplication::setFont(m_font); }
+
+private:
+    Q_DISABLE_COPY(TextScale)
+    const QFont m_font = QApplication::font();
+};
+
 /// The panel at the bottom of a view's host that is 800 x 600.
 struct Host
 {
-    explicit Host(bool showFileName)
-        : panel(new ImageInfoUI(&window, showFileName))
+    explicit Host(bool showFileName, double scale = 1.0)
+        : displayScale(scale)
+        , panel(new ImageInfoUI(&window, showFileName))
         , zoom(panel->findChild<QLineEdit *>("lineEditZoom"))
         , frame(panel->findChild<QFrame *>("FrameInfoUIFrame"))
     {
@@ -39,7 +58,7 @@ struct Host
     QString Text(const char *name) const { return Label(name)->text(); }
     bool IsShown(const char *name) const { return !Label(name)->isHidden(); }
 
-    DisplayScale displayScale{1.0};
+    DisplayScale displayScale;
     QWidget window;
     ImageInfoUI *panel;
     QLineEdit *zoom;
@@ -160,11 +179,20 @@ void TestImageInfoUI::everythingFits_data()
     QTest::addColumn<QString>("pixel");
     QTest::addColumn<int>("rotation");
     QTest::addColumn<double>("depthScale");
-    QTest::newRow("live, colour") << false << "" << "(255, 255, 255)" << 270 << 0.0;
-    QTest::newRow("live, 16 bit") << false << "" << "65535" << 270 << 0.0;
-    QTest::newRow("file, colour") << true << "abcdefghijklmnopqrstuvwxyz.tiff" << "(255, 255, 255)" << 270 << 0.0;
-    QTest::newRow("file, 16 bit") << true << "abcdefghijklmnopqrstuvwxyz.tiff" << "65535" << 270 << 0.0;
-    QTest::newRow("file, 32 bit") << true << "cells.tif" << "0.12345" << 0 << 0.00002;
+    QTest::addColumn<double>("scale");
+    const QString longName = "abcdefghijklmnopqrstuvwxyz.tiff";
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        const auto row = [scale](const char *name) -> QTestData & {
+            return QTest::newRow(qPrintable(QString("%1, %2 times").arg(name).arg(scale)));
+        };
+        row("live, colour") << false << "" << "(255, 255, 255)" << 270 << 0.0 << scale;
+        row("live, 16 bit") << false << "" << "65535" << 270 << 0.0 << scale;
+        row("live, 16 bit colour") << false << "" << "(65535, 65535, 65535)" << 270 << 0.0 << scale;
+        row("file, colour") << true << longName << "(255, 255, 255)" << 270 << 0.0 << scale;
+        row("file, 16 bit") << true << longName << "65535" << 270 << 0.0 << scale;
+        row("file, 16 bit colour") << true << longName << "(65535, 65535, 65535)" << 270 << 0.0 << scale;
+        row("file, 32 bit") << true << "cells.tif" << "0.12345" << 0 << 0.00002 << scale;
+    }
 }
 
 void TestImageInfoUI::everythingFits()
@@ -174,7 +202,9 @@ void TestImageInfoUI::everythingFits()
     QFETCH(QString, pixel);
     QFETCH(int, rotation);
     QFETCH(double, depthScale);
-    Host host(showFileName);
+    QFETCH(double, scale);
+    const TextScale textScale(scale);
+    Host host(showFileName, scale);
     QVERIFY(host.Show());
     host.panel->slotUpdateImageSize("4096x4096");
     if (showFileName)
@@ -245,7 +275,9 @@ void TestImageInfoUI::shownZoomEndsEditing()
     QTest::keyClicks(host.zoom, "12");
     QVERIFY(host.zoom->hasFocus());
     QCOMPARE(host.zoom->styleSheet(), editingStyle);
+    const QSignalSpy ratios(host.panel, SIGNAL(signalSetZoomRatio(double)));
     host.panel->slotUpdateScaleFactor(2);
+    QCOMPARE(ratios.count(), 0); // a zoom that is shown was not typed
     QVERIFY(!host.zoom->hasFocus());
     QCOMPARE(host.zoom->text(), QString("200.00%"));
     QCOMPARE(host.zoom->styleSheet(), restingStyle);

@@ -113,15 +113,25 @@ void PictureDesk::Rename(PictureDocument *document, const QString &name)
         tr("\u201c%1\u201d was not renamed to \u201c%2\u201d: %3.").arg(document->Name(), name, reason));
 }
 
+PictureDocument *PictureDesk::OnlyChosen() const
+{
+    const QVector<PictureDocument *> chosen = m_shelf->Chosen();
+    return chosen.size() == 1 ? chosen.first() : nullptr;
+}
+
 bool PictureDesk::ChooseForLiveCompare()
 {
-    if (m_main->WantedDocument())
-        return true;
-    if (m_shelf->IsEmpty()) {
+    PictureDocument *picture = OnlyChosen();
+    if (!picture)
+        picture = m_main->WantedDocument();
+    if (!picture && m_shelf->IsEmpty()) {
         emit signalMessage(tr("Open a picture first: the live picture is compared with it."));
         return false;
     }
-    m_main->Show(m_shelf->Documents().last());
+    if (!picture)
+        picture = m_shelf->Documents().last();
+    if (picture != m_main->WantedDocument())
+        m_main->Show(picture);
     return true;
 }
 
@@ -134,7 +144,9 @@ bool PictureDesk::ChooseForCompare()
         left = chosen.contains(left) ? left : chosen.first();
         right = chosen.first() == left ? chosen.last() : chosen.first();
     } else if (left) {
-        right = PartnerOf(left);
+        right = OnlyChosen();
+        if (!right || right == left)
+            right = PartnerOf(left);
     }
     if (!left || !right) {
         emit signalMessage(tr("Open a second picture first: two are compared."));

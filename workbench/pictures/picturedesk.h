@@ -39,11 +39,11 @@ public:
     /// Renames the file on the disk; its folder stays.
     void Rename(PictureDocument *document, const QString &name);
 
-    /// Sees to it that the main picture shows something to compare the live picture with; false when
-    /// nothing is open.
+    /// Sees to it that the main picture shows something to compare the live picture with: the only one that is
+    /// checked or selected in the list, else what is open. False when nothing is.
     bool ChooseForLiveCompare();
-    /// Lays out two pictures: those that are checked or selected in the list, else the main picture and the
-    /// one before it. False when there are no two.
+    /// Lays out two pictures: those that are checked or selected in the list; when that is one, the main picture and
+    /// it; else the main picture and the one before it. False when there are no two.
     bool ChooseForCompare();
     /// Lays out these two files, opened before or not.
     void ChooseForCompare(const QString &mainPath, const QString &comparePath);
@@ -81,6 +81,8 @@ private slots:
 private:
     void Reread(PictureDocument *document);
     PictureDocument *PartnerOf(const PictureDocument *document) const;
+    /// Checked or selected in the list; null when that is none or more than one.
+    PictureDocument *OnlyChosen() const;
 
     PictureLoader *m_loader;
     PictureShelf *m_shelf;

@@ -15,6 +15,12 @@ CentreDisplay::CentreDisplay(QSettings *settings, QObject *parent)
 
 void CentreDisplay::SetMode(DisplayMode mode)
 {
+    if (m_isComparing) {
+        m_modeAfterComparison = mode;
+        if (mode != DisplayMode::General)
+            emit signalEndComparisonWanted();
+        return;
+    }
     if (mode == m_mode)
         return;
     m_mode = mode;
@@ -23,9 +29,23 @@ void CentreDisplay::SetMode(DisplayMode mode)
     emit signalModeChanged();
 }
 
+void CentreDisplay::SetComparing(bool comparing)
+{
+    if (comparing == m_isComparing)
+        return;
+    if (comparing) {
+        m_modeAfterComparison = m_mode;
+        SetMode(DisplayMode::General);
+    }
+    m_isComparing = comparing;
+    if (!comparing)
+        SetMode(m_modeAfterComparison);
+}
+
 void CentreDisplay::ShowSpectrum(bool spectrum)
 {
-    if (spectrum == (m_mode == DisplayMode::General))
+    const DisplayMode wanted = m_isComparing ? m_modeAfterComparison : m_mode;
+    if (spectrum == (wanted == DisplayMode::General))
         SetMode(spectrum ? LastSpectrumMode() : DisplayMode::General);
 }
 

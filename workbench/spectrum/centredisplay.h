@@ -17,8 +17,10 @@ public:
     explicit CentreDisplay(QSettings *settings, QObject *parent = nullptr);
 
     DisplayMode Mode() const { return m_mode; }
-    /// A spectrum page is remembered as the one to come back to.
+    /// A spectrum page is remembered as the one to come back to. While pictures are compared it ends the comparison.
     void SetMode(DisplayMode mode);
+    /// Pictures are compared side by side: a spectrum page gives way to them, and comes back when they are not any more.
+    void SetComparing(bool comparing);
     /// To the spectrum page that was shown last, or from it to the picture.
     void ShowSpectrum(bool spectrum);
     /// Null unless an opened picture brought a valid area.
@@ -31,6 +33,8 @@ public:
 
 signals:
     void signalModeChanged();
+    /// A spectrum page was chosen in the comparison.
+    void signalEndComparisonWanted();
     /// The rulers of the live picture are to be told their ranges anew.
     void signalPreviewAreaWanted();
 
@@ -39,6 +43,8 @@ private:
 
     QSettings *m_settings;
     DisplayMode m_mode = DisplayMode::General;
+    DisplayMode m_modeAfterComparison = DisplayMode::General;
+    bool m_isComparing = false;
     bool m_isAreaValid = false;
     QString m_area;
 };

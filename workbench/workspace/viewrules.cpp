@@ -37,3 +37,8 @@ bool ViewRules::ShowsCamera(ViewCode view)
 {
     return view == CameraView || view == CameraCompareView;
 }
+
+bool ViewRules::IsComparison(ViewCode view)
+{
+    return view == CameraCompareView || view == ImageCompareView;
+}

@@ -12,5 +12,7 @@ LeftPage PageOf(ViewCode view);
 ViewCode AfterCompareCommand(ViewCode view);
 /// The view shows the live picture, alone or in a comparison.
 bool ShowsCamera(ViewCode view);
+/// Two pictures side by side.
+bool IsComparison(ViewCode view);
 
 } // namespace ViewRules

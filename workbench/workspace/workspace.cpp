@@ -221,8 +221,7 @@ void Workspace::slotPictureOpened()
 
 void Workspace::slotLastPictureClosed()
 {
-    const int view = m_parts.config->GetCurrentView();
-    if (view == CameraCompareView || view == ImageCompareView)
+    if (ViewRules::IsComparison(ViewCode(m_parts.config->GetCurrentView())))
         m_parts.config->SetCompareView();
     slotLeaveEmptyPage();
 }

@@ -197,6 +197,41 @@ private slots:
         QTRY_COMPARE(bench.compare.GetFileName(), QString("b.tif"));
     }
 
+    /// The list's menu is opened on one picture, which is selected then.
+    void comparingTakesTheOneThatWasClicked()
+    {
+        PictureBench bench;
+        for (const char *name : { "a.tif", "b.tif", "c.tif" })
+            QVERIFY(bench.Open(name, QSize(5, 3)));
+        bench.shelf.SetSelected({ bench.shelf.Documents().at(0) });
+        QVERIFY(bench.desk.ChooseForCompare());
+        QTRY_COMPARE(bench.compare.GetFileName(), QString("a.tif")); // not b, which was shown before
+        QCOMPARE(bench.main.GetFileName(), QString("c.tif"));
+    }
+
+    void comparingTakesTheOneBeforeWhenThatShownWasClicked()
+    {
+        PictureBench bench;
+        for (const char *name : { "a.tif", "b.tif", "c.tif" })
+            QVERIFY(bench.Open(name, QSize(5, 3)));
+        bench.shelf.SetSelected({ bench.shelf.Documents().at(2) });
+        QVERIFY(bench.desk.ChooseForCompare());
+        QTRY_COMPARE(bench.compare.GetFileName(), QString("b.tif"));
+    }
+
+    void liveComparisonTakesTheOneThatWasClicked()
+    {
+        PictureBench bench;
+        for (const char *name : { "a.tif", "b.tif", "c.tif" })
+            QVERIFY(bench.Open(name, QSize(5, 3)));
+        bench.shelf.SetSelected({ bench.shelf.Documents().at(0) });
+        QVERIFY(bench.desk.ChooseForLiveCompare());
+        QVERIFY(bench.WaitForShown("a.tif"));
+        bench.shelf.SetSelected({});
+        QVERIFY(bench.desk.ChooseForLiveCompare());
+        QCOMPARE(bench.main.WantedDocument()->Name(), QString("a.tif"));
+    }
+
     void closingTheSecondPictureEndsTheComparison()
     {
         PictureBench bench;

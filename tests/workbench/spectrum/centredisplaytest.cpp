@@ -67,6 +67,48 @@ private slots:
         QVERIFY(centre.Mode() == DisplayMode::Physics);
     }
 
+    void comparingTakesThePlaceOfTheSpectrumPage()
+    {
+        CentreDisplay centre(&m_settings);
+        centre.SetMode(DisplayMode::Plot);
+        const QSignalSpy ends(&centre, &CentreDisplay::signalEndComparisonWanted);
+        centre.SetComparing(true);
+        QVERIFY(centre.Mode() == DisplayMode::General);
+        centre.SetComparing(true); // from one comparison to another
+        centre.SetComparing(false);
+        QVERIFY(centre.Mode() == DisplayMode::Plot);
+        QCOMPARE(ends.count(), 0);
+    }
+
+    void spectrumPageEndsTheComparison()
+    {
+        CentreDisplay centre(&m_settings);
+        const QSignalSpy ends(&centre, &CentreDisplay::signalEndComparisonWanted);
+        centre.SetComparing(true);
+        centre.SetMode(DisplayMode::Plot);
+        QCOMPARE(ends.count(), 1);
+        QVERIFY(centre.Mode() == DisplayMode::General); // until it has ended
+        centre.SetComparing(false);
+        QVERIFY(centre.Mode() == DisplayMode::Plot);
+    }
+
+    void spectrumPageThatWasGivenUpInTheComparisonStaysAway()
+    {
+        CentreDisplay centre(&m_settings);
+        centre.SetMode(DisplayMode::Plot);
+        const QSignalSpy ends(&centre, &CentreDisplay::signalEndComparisonWanted);
+        centre.SetComparing(true);
+        centre.ShowSpectrum(false);
+        QCOMPARE(ends.count(), 0);
+        centre.SetComparing(false);
+        QVERIFY(centre.Mode() == DisplayMode::General);
+        centre.SetComparing(true);
+        centre.ShowSpectrum(true);
+        QCOMPARE(ends.count(), 1);
+        centre.SetComparing(false);
+        QVERIFY(centre.Mode() == DisplayMode::Plot);
+    }
+
     void previewAreaIsAskedFor()
     {
         CentreDisplay centre(&m_settings);
