@@ -68,21 +68,22 @@ void PictureDialogs::slotOpenFiles(const QStringList &paths)
 
 void PictureDialogs::slotAskWhereToSave()
 {
-    m_pictureToSave = qobject_cast<OpenedPicture *>(sender());
+    const auto *picture = qobject_cast<OpenedPicture *>(sender());
     SaveDialog::Subject subject;
-    subject.suggestedPath = SuggestedPath(m_pictureToSave->Document());
-    subject.type = m_pictureToSave->Shown().samples.Type();
-    subject.frames = m_pictureToSave->FrameCount();
+    subject.suggestedPath = SuggestedPath(picture->Document());
+    subject.type = picture->Shown().samples.Type();
+    subject.channels = picture->Shown().samples.Channels();
+    subject.frames = picture->FrameCount();
     auto *dialog = new SaveDialog(subject, m_window);
-    connect(dialog, SIGNAL(accepted()), this, SLOT(slotSavePicture()));
+    // What was shown when the user asked: another picture may come while he chooses the name.
+    const SaveRequest frame = picture->SaveOfShown(false);
+    const SaveRequest allFrames = picture->SaveOfShown(true);
+    connect(dialog, &SaveDialog::accepted, this, [this, dialog, frame, allFrames] {
+        SaveRequest request = dialog->AllFrames() ? allFrames : frame;
+        request.target = dialog->Path();
+        m_services->Loader()->Save(request);
+    });
     dialog->open();
-}
-
-void PictureDialogs::slotSavePicture()
-{
-    const auto *dialog = qobject_cast<SaveDialog *>(sender());
-    if (!m_pictureToSave->IsNonImage())
-        m_pictureToSave->SaveAs(dialog->Path(), dialog->AllFrames());
 }
 
 void PictureDialogs::slotAskWhereToSaveComparison(const QImage &image)

@@ -5,7 +5,6 @@
 #include <QObject>
 
 class FaultNotice;
-class OpenedPicture;
 class SaveDialog;
 class WorkbenchServices;
 
@@ -26,7 +25,6 @@ public slots:
 private slots:
     void slotAskWhereToSave();
     void slotAskWhereToSaveComparison(const QImage &image);
-    void slotSavePicture();
     void slotSaveComparison();
     void slotShowInformation();
 
@@ -34,6 +32,5 @@ private:
     WorkbenchServices *m_services;
     QWidget *m_window;
     FaultNotice *m_faultNotice;
-    OpenedPicture *m_pictureToSave = nullptr;
     QImage m_comparison;
 };

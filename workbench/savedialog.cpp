@@ -38,8 +38,7 @@ bool HoldsStacks(PictureFormat format)
 
 SaveDialog::SaveDialog(const Subject &subject, QWidget *parent)
     : QFileDialog(parent, tr("Save Image As"), QFileInfo(subject.suggestedPath).path())
-    , m_type(subject.type)
-    , m_frames(subject.frames)
+    , m_subject(subject)
     , m_loss(new QLabel(this))
     , m_allFrames(new QCheckBox(tr("All %1 frames").arg(subject.frames), this))
 {
@@ -58,7 +57,7 @@ SaveDialog::SaveDialog(const Subject &subject, QWidget *parent)
     m_loss->setObjectName("labelLoss");
     m_loss->setWordWrap(true);
     m_allFrames->setObjectName("checkBoxAllFrames");
-    m_allFrames->setVisible(m_frames > 1);
+    m_allFrames->setVisible(subject.frames > 1);
     auto *grid = qobject_cast<QGridLayout *>(layout());
     grid->addWidget(m_allFrames, grid->rowCount(), 1);
     grid->addWidget(m_loss, grid->rowCount(), 1, 1, -1);
@@ -82,7 +81,7 @@ void SaveDialog::slotFilterSelected(const QString &filter)
 void SaveDialog::slotUpdateNotes()
 {
     const PictureFormat format = FormatOfName(Path());
-    m_loss->setText(SavingLossText(format, m_type));
+    m_loss->setText(SavingLossText(format, m_subject.type, m_subject.channels));
     m_allFrames->setEnabled(HoldsStacks(format));
 }
 

@@ -20,6 +20,7 @@ public:
     {
         QString suggestedPath; ///< without a suffix
         SampleType type = SampleType::U8;
+        int channels = 1;
         int frames = 1;
     };
 
@@ -35,8 +36,7 @@ private slots:
     void slotUpdateNotes();
 
 private:
-    const SampleType m_type;
-    const int m_frames;
+    const Subject m_subject;
     QLineEdit *m_name = nullptr; ///< the dialog's own
     QLabel *m_loss;
     QCheckBox *m_allFrames;

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "saturationmark.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace {
 
 constexpr int Channels = 3;
@@ -43,6 +46,15 @@ void MarkPixels(const Sample *samples, int pixelCount, int fullScale, uchar *rgb
     }
 }
 
+template <typename Sample>
+void MarkTop(const Sample *samples, int pixelCount, int channels, uchar *rgb)
+{
+    for (int i = 0; i < pixelCount; ++i, samples += channels, rgb += Channels) {
+        if (*std::max_element(samples, samples + channels) == std::numeric_limits<Sample>::max())
+            PaintRed(rgb);
+    }
+}
+
 } // namespace
 
 namespace SaturationMark {
@@ -75,6 +87,26 @@ void MarkColour(const quint8 *samples, int pixelCount, int fullScale, uchar *rgb
 void MarkColour(const quint16 *samples, int pixelCount, int fullScale, uchar *rgb)
 {
     MarkPixels(samples, pixelCount, fullScale, rgb);
+}
+
+void MarkLargest(const qint8 *samples, int pixelCount, int channels, uchar *rgb)
+{
+    MarkTop(samples, pixelCount, channels, rgb);
+}
+
+void MarkLargest(const qint16 *samples, int pixelCount, int channels, uchar *rgb)
+{
+    MarkTop(samples, pixelCount, channels, rgb);
+}
+
+void MarkLargest(const qint32 *samples, int pixelCount, int channels, uchar *rgb)
+{
+    MarkTop(samples, pixelCount, channels, rgb);
+}
+
+void MarkLargest(const quint32 *samples, int pixelCount, int channels, uchar *rgb)
+{
+    MarkTop(samples, pixelCount, channels, rgb);
 }
 
 } // namespace SaturationMark

@@ -84,6 +84,11 @@ void OpenedPicture::GiveUp(const PictureDocument *document)
     m_wanted = m_document;
     m_wantedFrame = m_shown.request.frame;
     TellFrameBrowser();
+    // What was done meanwhile to the one that is shown.
+    const bool isOutdated =
+        m_document && (m_document->Edit() != m_shown.request.edit || !m_document->Range().IsKnown());
+    if (isOutdated && document != m_document)
+        Request(m_document, m_wantedFrame);
     emit signalGivenUp();
 }
 
@@ -233,7 +238,12 @@ void OpenedPicture::Follow(PictureDocument *document)
     connect(document, SIGNAL(signalChanged()), this, SLOT(slotRenamed()));
 }
 
-void OpenedPicture::slotEdited() { Request(m_document, m_wantedFrame); }
+/// While another picture is on its way, what was done to this one is seen when the other cannot be shown.
+void OpenedPicture::slotEdited()
+{
+    if (m_wanted == m_document)
+        Request(m_document, m_wantedFrame);
+}
 
 void OpenedPicture::slotRenamed()
 {
@@ -462,7 +472,7 @@ void OpenedPicture::slotSaveImageAs()
         emit signalSaveAsWanted();
 }
 
-void OpenedPicture::SaveAs(const QString &target, bool allFrames)
+SaveRequest OpenedPicture::SaveOfShown(bool allFrames) const
 {
     SaveRequest request;
     request.file = m_document->File();
@@ -470,6 +480,12 @@ void OpenedPicture::SaveAs(const QString &target, bool allFrames)
     request.frameCount = allFrames ? m_frameCount : 1;
     request.edit = m_document->Edit();
     request.range = m_document->Range();
+    return request;
+}
+
+void OpenedPicture::SaveAs(const QString &target, bool allFrames)
+{
+    SaveRequest request = SaveOfShown(allFrames);
     request.target = target;
     m_loader->Save(request);
 }

@@ -11,6 +11,7 @@ class PictureDocument;
 class PictureLevels;
 class PictureLoader;
 class ViewMeasuring;
+struct SaveRequest;
 
 /// The picture of the image page, or the second one of a comparison: shows one of the opened pictures at a
 /// time. What is shown stays until the next is ready, or for good when that cannot be read. Owned by the
@@ -38,7 +39,8 @@ public:
     /// The one that was asked for last: that which is shown, or will be.
     PictureDocument *WantedDocument() const;
     const LoadedPicture &Shown() const { return m_shown; }
-    /// Without what is only tried.
+    /// What a save of it asks for, but for the target; without what is only tried.
+    SaveRequest SaveOfShown(bool allFrames) const;
     void SaveAs(const QString &target, bool allFrames);
     /// The profile through the point that was picked last, in the units of the file; empty when none was.
     std::vector<double> Profile(bool alongRow) const;

@@ -62,10 +62,18 @@ PictureFile *PictureAccess::Open(const FileName &name, QString &error)
         return nullptr;
     // Frames that were kept are those of the file that was here before.
     m_cache.RemoveFile(name.id);
-    m_files.push_front({ name, std::move(file), identity });
-    if (int(m_files.size()) > m_mostOpenFiles)
-        m_files.pop_back();
+    m_files.push_front({ name, std::move(file), identity, false });
+    CloseSuperfluous();
     return m_files.front().file.get();
+}
+
+void PictureAccess::CloseSuperfluous()
+{
+    const auto canBeOpenedAgain = [](const OpenFile &file) { return !file.isLost; };
+    if (std::count_if(m_files.begin(), m_files.end(), canBeOpenedAgain) <= m_mostOpenFiles)
+        return;
+    const auto oldest = std::find_if(m_files.rbegin(), m_files.rend(), canBeOpenedAgain);
+    m_files.erase(std::prev(oldest.base()));
 }
 
 bool PictureAccess::ReadFrame(const FileName &name, int index, Picture &frame, QString &error)
@@ -109,6 +117,7 @@ QString PictureAccess::TakeNews(const FileName &name)
     const bool isSame = now.inode == file->identity.inode && now.device == file->identity.device;
     const bool isGone = now.size < 0;
     file->identity = now;
+    file->isLost = isGone || !isSame;
     const QString fileName = QFileInfo(file->name.path).fileName();
     if (isGone)
         return Text::tr("\u201c%1\u201d was deleted or moved. It stays open; save it to keep it.")

@@ -7,9 +7,9 @@
 #include <list>
 #include <memory>
 
-/// Frames of opened files. A handful of files, those used last, is kept open, so that one that was deleted
-/// or replaced can still be browsed; frames already decoded are kept up to a set number of bytes. One
-/// thread.
+/// Frames of opened files. A handful of files, those used last, is kept open, and one that was found deleted or
+/// replaced until it is closed, so that it can still be browsed and saved; frames already decoded are kept up to a set
+/// number of bytes. One thread.
 class PictureAccess
 {
 public:
@@ -52,11 +52,13 @@ private:
         FileName name;
         std::unique_ptr<PictureFile> file;
         Identity identity;
+        bool isLost = false; ///< deleted or replaced: it could not be opened again
     };
     using OpenFiles = std::list<OpenFile>;
 
     static Identity IdentityOf(const QString &path);
     OpenFiles::iterator Find(quint64 id);
+    void CloseSuperfluous();
 
     const int m_mostOpenFiles;
     FrameCache m_cache;

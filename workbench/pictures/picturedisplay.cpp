@@ -59,13 +59,24 @@ PictureDisplay::PictureDisplay(const LevelsModel *levels)
 
 QImage PictureDisplay::Make(const Picture &samples, SampleRange &range)
 {
-    const QImage image = IsLikeLive(samples) ? MakeUnsigned(samples, range) : MakeScaled(samples, range);
+    return MakeWith({ m_levels->MarksSaturated(), m_levels->GetPalette() }, samples, range);
+}
+
+QImage PictureDisplay::MakePlain(const Picture &samples, SampleRange &range)
+{
+    return MakeWith(Colours(), samples, range);
+}
+
+QImage PictureDisplay::MakeWith(const Colours &colours, const Picture &samples, SampleRange &range)
+{
+    const QImage image =
+        IsLikeLive(samples) ? MakeUnsigned(colours, samples, range) : MakeScaled(colours, samples, range);
     if (image.isNull())
         throw std::bad_alloc();
     return image;
 }
 
-QImage PictureDisplay::MakeUnsigned(const Picture &samples, SampleRange &range)
+QImage PictureDisplay::MakeUnsigned(const Colours &colours, const Picture &samples, SampleRange &range)
 {
     const SampleView view = ViewOf(samples);
     const LevelsSetting setting = m_levels->Setting(view.bitDepth);
@@ -74,11 +85,11 @@ QImage PictureDisplay::MakeUnsigned(const Picture &samples, SampleRange &range)
                                      : LevelsFollower().Next(view, setting);
     range = { double(levels.left), double(levels.right) };
     QImage image;
-    m_converter.Convert(view, levels, &image, m_levels->MarksSaturated(), m_levels->GetPalette());
+    m_converter.Convert(view, levels, &image, colours.marksSaturated, colours.palette);
     return image;
 }
 
-QImage PictureDisplay::MakeScaled(const Picture &samples, SampleRange &range) const
+QImage PictureDisplay::MakeScaled(const Colours &colours, const Picture &samples, SampleRange &range) const
 {
     const SampleKind kind = KindOf(samples.Type());
     const LevelsSetting setting = m_levels->Setting(kind);
@@ -94,5 +105,6 @@ QImage PictureDisplay::MakeScaled(const Picture &samples, SampleRange &range) co
         range = setting.mode == LevelsMode::FullRange && kind.IsWhole() ? SampleRange{ kind.Least(), kind.Most() }
                                                                         : ScaledSamples::FullRange(samples);
     }
-    return ScaledSamples::Image(samples, range, setting.gamma, m_levels->GetPalette());
+    const QImage image = ScaledSamples::Image(samples, range, setting.gamma, colours.palette);
+    return colours.marksSaturated ? ScaledSamples::WithSaturationMarks(samples, image) : image;
 }

@@ -3,6 +3,7 @@
 
 #include "levelsconverter.h"
 #include "levelsreport.h"
+#include "palette.h"
 #include "picture.h"
 #include "samplerange.h"
 
@@ -28,10 +29,20 @@ public:
     /// Automatic levels are those of `range` when it is known. On return `range` is what was used. Throws
     /// std::bad_alloc when there is no memory.
     QImage Make(const Picture &samples, SampleRange &range);
+    /// The same in greys, without a mark where it is saturated: what a file of 8 bits keeps of the samples.
+    QImage MakePlain(const Picture &samples, SampleRange &range);
 
 private:
-    QImage MakeUnsigned(const Picture &samples, SampleRange &range);
-    QImage MakeScaled(const Picture &samples, SampleRange &range) const;
+    /// What is for the eye alone.
+    struct Colours
+    {
+        bool marksSaturated = false;
+        Palette palette;
+    };
+
+    QImage MakeWith(const Colours &colours, const Picture &samples, SampleRange &range);
+    QImage MakeUnsigned(const Colours &colours, const Picture &samples, SampleRange &range);
+    QImage MakeScaled(const Colours &colours, const Picture &samples, SampleRange &range) const;
 
     const LevelsModel *m_levels;
     LevelsConverter m_converter;

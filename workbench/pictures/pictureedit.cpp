@@ -95,6 +95,22 @@ int PictureEdit::PixelsJoined() const
     });
 }
 
+std::optional<QRect> PictureEdit::FileRegion(const QSize &fileSize) const
+{
+    QRect region(QPoint(0, 0), fileSize);
+    const auto crop = [&region](const Geometry &geometry) {
+        region = geometry.RegionOf(region.size()).translated(region.topLeft());
+        return geometry.orientation == Orientation();
+    };
+    for (const ProcessStep &step : m_steps) {
+        if (!crop(step.before) || ::PixelsJoined(step.process) != 1)
+            return std::nullopt;
+    }
+    if (!crop(m_last))
+        return std::nullopt;
+    return region;
+}
+
 int PictureEdit::SeenFrames(int fileFrames) const
 {
     const bool isOne = std::any_of(m_steps.begin(), m_steps.end(),

@@ -8,6 +8,8 @@
 #include <QMetaType>
 #include <QVector>
 
+#include <optional>
+
 /// What was done to an opened picture. The user turns, crops and processes what he sees. Any row of turns and crops comes
 /// down to one region of the picture before it, laid in one of the eight ways; a step of processing ends such a row and
 /// begins the next. A value; samples are only looked at in Applied().
@@ -37,6 +39,8 @@ public:
     QSize SeenSize(const QSize &fileSize) const;
     /// Pixels of the file, along each side, in a pixel that is seen.
     int PixelsJoined() const;
+    /// The pixels of the file's frame that are seen; nothing when they were turned or joined.
+    std::optional<QRect> FileRegion(const QSize &fileSize) const;
     /// Frames that are left of those of the file.
     int SeenFrames(int fileFrames) const;
     /// A frame as it comes out of the steps of processing before `step`, turned and cropped as it was until then, or at

@@ -2,6 +2,7 @@
 #include "savetask.h"
 
 #include "createpicture.h"
+#include "fitscoordinates.h"
 #include "picturedisplay.h"
 
 #include <QCoreApplication>
@@ -25,6 +26,13 @@ bool HoldsSamples(PictureFormat format, SampleType type)
     default:
         return true;
     }
+}
+
+QVector<MetadataEntry> MetadataOf(const PictureInfo &info, const PictureEdit &edit)
+{
+    return info.format == PictureFormat::Fits
+               ? FitsMetadataOfRegion(info.metadata, info.size, edit.FileRegion(info.size))
+               : info.metadata;
 }
 
 Picture FromImage(const QImage &image)
@@ -72,7 +80,7 @@ bool SaveTask::Begin(PictureAccess &access)
         options.dpiY = file->Info().dpiY / m_request.edit.PixelsJoined();
         if (m_request.edit.GetOrientation().SwapsSides())
             std::swap(options.dpiX, options.dpiY);
-        options.metadata = file->Info().metadata;
+        options.metadata = MetadataOf(file->Info(), m_request.edit);
     }
     m_writer = CreatePicture(m_request.target, options, m_error);
     return m_writer != nullptr;
@@ -90,12 +98,14 @@ bool SaveTask::Frame(EditedFrames &frames, PictureDisplay &display, Picture &fra
     if (!frames.Read(m_request.file, index, m_request.edit, isUnwanted, frame, fileSize, m_error))
         return false;
     if (!HoldsSamples(FormatOfName(m_request.target), frame.Type()))
-        frame = FromImage(display.Make(frame, m_request.range));
+        frame = FromImage(display.MakePlain(frame, m_request.range));
     return true;
 }
 
-QString SavingLossText(PictureFormat format, SampleType type)
+QString SavingLossText(PictureFormat format, SampleType type, int channels)
 {
+    if (format == PictureFormat::Fits && channels == 3)
+        return Text::tr("FITS has no colour: red, green and blue become three frames.");
     const QString holds = HoldsSamples(format, type)
                               ? QString()
                               : Text::tr("The %1 samples become 8 bits, with the levels of the screen.")

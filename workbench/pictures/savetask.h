@@ -45,5 +45,5 @@ private:
     QString m_error;
 };
 
-/// What a format cannot keep of a picture, for the user before he saves; empty when it keeps all samples.
-QString SavingLossText(PictureFormat format, SampleType type);
+/// What a format cannot keep of a picture, for the user before he saves; empty when it keeps all samples as they are.
+QString SavingLossText(PictureFormat format, SampleType type, int channels);

@@ -2,6 +2,7 @@
 #include "scaledsamples.h"
 
 #include "picture.h"
+#include "saturationmark.h"
 
 #include <algorithm>
 #include <array>
@@ -156,6 +157,22 @@ QImage ScaledSamples::Image(const Picture &picture, const SampleRange &range, do
         }
     });
     return image;
+}
+
+QImage ScaledSamples::WithSaturationMarks(const Picture &samples, const QImage &image)
+{
+    return VisitSampleType(samples.Type(), [&](auto sample) {
+        using Sample = decltype(sample);
+        if constexpr (std::is_floating_point_v<Sample> || (std::is_unsigned_v<Sample> && sizeof(Sample) < 4)) {
+            return image;
+        } else {
+            QImage marked = image.convertToFormat(QImage::Format_RGB888);
+            for (int y = 0; y < marked.height(); ++y)
+                SaturationMark::MarkLargest(samples.Samples<Sample>(y), samples.Width(), samples.Channels(),
+                                            marked.scanLine(y));
+            return marked;
+        }
+    });
 }
 
 QVector<qint64> ScaledSamples::Histogram(const Picture &picture, const SampleRange &range, int columns, int rowStep)

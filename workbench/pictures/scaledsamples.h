@@ -21,6 +21,10 @@ SampleRange TypicalRange(const Picture &picture);
 /// on, and of mono samples the palette's colours for these greys. Null without memory for it.
 QImage Image(const Picture &picture, const SampleRange &range, double gamma, const Palette &palette = Palette());
 
+/// The picture that was made of these samples, RGB888, with pure red where a pixel of signed or 32 bit integers has
+/// reached full scale. As it is for floating point, which has none.
+QImage WithSaturationMarks(const Picture &samples, const QImage &image);
+
 /// How many samples of every `rowStep`th row lie in each of `columns` equal parts of a range.
 QVector<qint64> Histogram(const Picture &picture, const SampleRange &range, int columns, int rowStep);
 

@@ -38,10 +38,16 @@ std::vector<double> CrossProfile(const SampleView &picture, bool isHorizontal)
     return std::vector<double>(line.sums.begin(), line.sums.end());
 }
 
+void SpectrumEngine::FindBandAgain()
+{
+    m_isBandKnown = false;
+    m_isBandTold = false;
+}
+
 void SpectrumEngine::SetRecipe(const SpectrumRecipe &recipe)
 {
     if (recipe.rows != m_recipe.rows || recipe.isHorizontal != m_recipe.isHorizontal || recipe.isBinning != m_recipe.isBinning)
-        m_isBandKnown = false;
+        FindBandAgain();
     m_recipe = recipe;
     m_corrections.SetSettings(recipe.corrections);
     m_trackCorrections.resize(recipe.tracks.size());
@@ -61,7 +67,7 @@ SpectrumProduct SpectrumEngine::Make(const SampleView &picture, quint64 frameId)
     product.frameSize = QSize(picture.width, picture.height);
     if (product.frameSize != m_size) {
         m_size = product.frameSize;
-        m_isBandKnown = false;
+        FindBandAgain();
         m_corrections.Restart();
     }
     if (m_recipe.isBinning)
@@ -92,17 +98,19 @@ void SpectrumEngine::Bin(const SampleView &picture, SpectrumProduct *product)
 
 bool SpectrumEngine::UpdateBand(const SampleView &picture)
 {
-    m_band = RowBand();
-    m_band.bottom = CrossSize(picture, m_recipe.isHorizontal);
-    m_isBandNew = true;
-    if (m_recipe.rows != BinnedRows::Auto)
-        return true;
-    const std::vector<RowBand> bands = FindBands(CrossProfile(picture, m_recipe.isHorizontal));
+    RowBand brightest;
+    brightest.bottom = CrossSize(picture, m_recipe.isHorizontal);
+    std::vector<RowBand> bands;
+    if (m_recipe.rows == BinnedRows::Auto)
+        bands = FindBands(CrossProfile(picture, m_recipe.isHorizontal));
     for (const RowBand &band : bands) {
-        if (band.light > m_band.light)
-            m_band = band;
+        if (band.light > brightest.light)
+            brightest = band;
     }
-    return !bands.empty();
+    m_isBandNew = !m_isBandTold || brightest.top != m_band.top || brightest.bottom != m_band.bottom;
+    m_isBandTold = true;
+    m_band = brightest;
+    return m_recipe.rows != BinnedRows::Auto || !bands.empty();
 }
 
 void SpectrumEngine::BinTracks(const SampleView &picture, SpectrumProduct *product)

@@ -15,7 +15,7 @@ public:
     void SetDark(const std::vector<double> &dark) { m_corrections.SetDark(dark); }
     void SetReference(const std::vector<double> &reference) { m_corrections.SetReference(reference); }
     /// The band is looked for again with the next picture.
-    void FindBandAgain() { m_isBandKnown = false; }
+    void FindBandAgain();
 
     SpectrumProduct Make(const SampleView &picture, quint64 frameId);
 
@@ -33,6 +33,7 @@ private:
     RowBand m_band;
     bool m_isBandKnown = false;
     bool m_isBandNew = false;
+    bool m_isBandTold = false; ///< each band is told once, though it is looked for in every picture without light
     int m_untilFocus = 0; ///< pictures
 };
 

@@ -288,6 +288,38 @@ private slots:
         QTRY_COMPARE(FirstSample(bench.main), 2000);
     }
 
+    /// Undo while the next picture is being read must not ask for that one's frame in this file.
+    void anEditDoesNotHoldUpThePictureThatIsOnItsWay()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("stack.tif", QSize(6, 4), 3));
+        bench.main.SetImage(2);
+        QTRY_COMPARE(FirstSample(bench.main), 2000);
+        PictureDocument *stack = bench.main.Document();
+        QVERIFY(bench.Open("one.tif", QSize(6, 4)));
+        PictureDocument *one = bench.main.Document();
+        bench.desk.Show(stack, &bench.main);
+        one->PushEdit(one->Edit().Turned(FlipVertical), "Flip");
+        QVERIFY(bench.WaitForShown("stack.tif"));
+        QCOMPARE(FirstSample(bench.main), 2000);
+        QCOMPARE(bench.faults.size(), 0);
+        bench.desk.Show(one, &bench.main);
+        QVERIFY(bench.WaitForShown("one.tif"));
+        QCOMPARE(FirstSample(bench.main), MadePictures::Value(0, 3, 0));
+    }
+
+    void anEditIsSeenWhenThePictureOnItsWayCannotBeRead()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("good.tif", QSize(6, 4)));
+        MadePictures::WriteBytes(bench.Path("bad.tif"), QByteArray("II*\0\x08\0\0\0", 8));
+        bench.desk.Open({ bench.Path("bad.tif") }, &bench.main);
+        PictureDocument *good = bench.main.Document();
+        good->PushEdit(good->Edit().Turned(FlipVertical), "Flip");
+        QVERIFY(bench.faults.wait());
+        QTRY_COMPARE(FirstSample(bench.main), MadePictures::Value(0, 3, 0));
+    }
+
     void aDeletedFileIsBrowsedOnAndToldOnce()
     {
         PictureBench bench;

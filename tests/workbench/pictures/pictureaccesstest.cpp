@@ -87,6 +87,30 @@ private slots:
         QCOMPARE(First(access, two, 0), -1);
     }
 
+    /// What was promised when it was told holds, however many others are opened.
+    void aFileThatIsLostStaysOpenUntilItIsClosed()
+    {
+        PictureAccess access(2, 0);
+        const PictureAccess::FileName gone = Made("gone.tif", 1, 2);
+        const PictureAccess::FileName replaced = Made("replaced.tif", 2, 2);
+        First(access, gone, 0);
+        QVERIFY(QFile::remove(gone.path));
+        QVERIFY(access.TakeNews(gone).contains("It stays open"));
+        First(access, replaced, 0);
+        QVERIFY(QFile::remove(replaced.path));
+        MadePictures::WriteBytes(replaced.path, "another");
+        QVERIFY(access.TakeNews(replaced).contains("What you see is the old one"));
+        for (quint64 id = 3; id <= 6; ++id)
+            QCOMPARE(First(access, Made(QString("other%1.tif").arg(id), id, 1), 0), 0);
+        QCOMPARE(First(access, gone, 1), 1000);
+        QCOMPARE(First(access, replaced, 1), 1000);
+        // They take no room from the others.
+        QVERIFY(QFile::remove(m_folder.filePath("other6.tif")));
+        QCOMPARE(First(access, { 6, m_folder.filePath("other6.tif") }, 0), 0);
+        access.Close(gone.id);
+        QCOMPARE(First(access, gone, 1), -1);
+    }
+
     void aFrameReadAheadIsAtHand()
     {
         PictureAccess access(2, 2 * FrameBytes);

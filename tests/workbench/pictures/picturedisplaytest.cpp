@@ -244,6 +244,58 @@ private slots:
         QVERIFY(image.pixelColor(1, 0) != QColor(255, 0, 0));
     }
 
+    void integersAreMarkedWhateverTheirType_data()
+    {
+        QTest::addColumn<Picture>("picture"); // of three pixels; the last is at full scale
+        QTest::newRow("signed 8 bit") << Row<qint8>(SampleType::S8, { -128, 126, 127 });
+        QTest::newRow("signed 16 bit") << Row<qint16>(SampleType::S16, { -32768, 32766, 32767 });
+        QTest::newRow("signed 32 bit") << Row<qint32>(SampleType::S32, { -2147483647 - 1, 2147483646, 2147483647 });
+        QTest::newRow("32 bit") << Row<quint32>(SampleType::U32, { 0, 4294967294U, 4294967295U });
+        QTest::newRow("signed 16 bit colour")
+            << Row<qint16>(SampleType::S16, { -5, 0, 9, 32766, 32766, 32766, 1, 32767, 2 }, 3);
+    }
+
+    void integersAreMarkedWhateverTheirType()
+    {
+        QFETCH(Picture, picture);
+        SampleRange range;
+        const QImage bare = Show(picture, range).convertToFormat(QImage::Format_RGB888);
+        m_levels->slotSetMarksSaturated(true);
+        const QImage marked = Show(picture, range);
+        QCOMPARE(marked.format(), QImage::Format_RGB888);
+        for (int x = 0; x < 2; ++x)
+            QCOMPARE(marked.pixelColor(x, 0), bare.pixelColor(x, 0));
+        QCOMPARE(marked.pixelColor(2, 0), QColor(255, 0, 0));
+    }
+
+    void floatingPointHasNoFullScale()
+    {
+        const Picture picture = Row<float>(SampleType::F32, { 0, 1, std::numeric_limits<float>::max(), infinite });
+        SampleRange range = { 0, 1 };
+        const QImage bare = Show(picture, range);
+        m_levels->slotSetMarksSaturated(true);
+        QCOMPARE(Show(picture, range), bare);
+    }
+
+    void whatIsForTheEyeAloneIsLeftOut_data()
+    {
+        QTest::addColumn<Picture>("picture");
+        QTest::newRow("16 bit") << Row<quint16>(SampleType::U16, { 0, 51, 255, 65535 });
+        QTest::newRow("signed 16 bit") << Row<qint16>(SampleType::S16, { 0, 51, 255, 32767 });
+        QTest::newRow("float") << Row<float>(SampleType::F32, { 0, 51, 255, 1000 });
+    }
+
+    void whatIsForTheEyeAloneIsLeftOut()
+    {
+        QFETCH(Picture, picture);
+        m_levels->slotSetMarksSaturated(true);
+        m_levels->SetPalette(Palette("inverted"));
+        SampleRange range = { 0, 255 };
+        const QImage image = PictureDisplay(m_levels.get()).MakePlain(picture, range);
+        QCOMPARE(image.format(), QImage::Format_Grayscale8);
+        QCOMPARE(Greys(image), QVector<int>({ 0, 51, 255, 255 }));
+    }
+
 private:
     QImage Show(const Picture &picture, SampleRange &range) const
     {

@@ -124,6 +124,20 @@ private slots:
         }
     }
 
+    void cropsOfCropsAreOneRegionOfTheFile()
+    {
+        const QSize size(12, 8);
+        QCOMPARE(PictureEdit().FileRegion(size).value(), QRect(0, 0, 12, 8));
+        PictureEdit edit = PictureEdit().Cropped(QRect(2, 1, 9, 6), size);
+        QCOMPARE(edit.FileRegion(size).value(), QRect(2, 1, 9, 6));
+        edit = edit.Processed(DenoiseSettings()).Cropped(QRect(3, 2, 4, 4), size);
+        QCOMPARE(edit.FileRegion(size).value(), QRect(5, 3, 4, 4));
+        QVERIFY(!edit.Turned(FlipHorizontal).FileRegion(size));
+        QVERIFY(edit.Turned(FlipHorizontal).Turned(FlipHorizontal).FileRegion(size));
+        QVERIFY(!edit.Turned(RotateBy90).Processed(DenoiseSettings()).FileRegion(size));
+        QVERIFY(!edit.Processed(BinningSettings()).FileRegion(size));
+    }
+
     void aProjectionLeavesOneFrame()
     {
         const PictureEdit edit = PictureEdit().Processed(DenoiseSettings());

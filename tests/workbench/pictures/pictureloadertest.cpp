@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "createpicture.h"
 #include "guardedtest.h"
 #include "loaderanswers.h"
+#include "openpicture.h"
 #include "picturebench.h"
 
 #include <QFile>
@@ -153,6 +155,45 @@ private slots:
         QVERIFY(qAbs(jpeg.Samples<quint8>(19)[19] - MadePictures::Value(19, 19, 0) / 2) <= 6);
     }
 
+    void marksAndPaletteStayOutOfTheFile()
+    {
+        Picture deep(16, 16, 1, SampleType::U16);
+        std::fill_n(deep.Samples<quint16>(0), 16 * 16, quint16(65535));
+        QString error;
+        QVERIFY2(SavePicture(Path("deep.tif"), deep, SaveOptions(), error), qPrintable(error));
+        m_levels->slotSetMarksSaturated(true);
+        m_levels->SetPalette(Palette("inverted"));
+        SaveRequest request;
+        request.file = { 1, Path("deep.tif") };
+        request.range = { 0, 65535 };
+        request.target = Path("saved.jpg");
+        QCOMPARE(SaveError(request), QString());
+        const Picture jpeg = MadePictures::Read(Path("saved.jpg"));
+        QCOMPARE(jpeg.Channels(), 1);
+        QVERIFY2(jpeg.Samples<quint8>(8)[8] >= 250, qPrintable(QString::number(jpeg.Samples<quint8>(8)[8])));
+    }
+
+    /// Other programs find a place of the sky at the same sample.
+    void coordinatesFollowTheCropAndGoWithATurn()
+    {
+        SaveOptions options;
+        options.metadata = { { "CRPIX1", "10.5", "", false }, { "CRPIX2", "8.0", "", false }, { "OBJECT", "M 1", "", true } };
+        QString error;
+        QVERIFY2(SavePicture(Path("sky.fits"), MadePictures::Numbered(QSize(20, 16)), options, error), qPrintable(error));
+        SaveRequest request;
+        request.file = { 1, Path("sky.fits") };
+        request.edit = PictureEdit().Cropped(QRect(4, 3, 10, 11), QSize(20, 16)); // 2 rows go below
+        request.target = Path("cropped.fits");
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(CardValue("cropped.fits", "CRPIX1").toDouble(), 6.5);
+        QCOMPARE(CardValue("cropped.fits", "CRPIX2").toDouble(), 6.0);
+        request.edit = PictureEdit().Turned(0);
+        request.target = Path("turned.fits");
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(CardValue("turned.fits", "CRPIX1"), QString());
+        QCOMPARE(CardValue("turned.fits", "OBJECT"), QString("M 1"));
+    }
+
     void aFailedSaveSaysWhyAndLeavesTheOldFile()
     {
         MadePictures::Write(Path("good.tif"), QSize(6, 4));
@@ -214,8 +255,10 @@ private slots:
         QTest::addColumn<int>("format");
         QTest::addColumn<int>("type");
         QTest::addColumn<QString>("text");
-        const auto row = [](const char *name, PictureFormat format, SampleType type, const QString &text) {
-            QTest::newRow(name) << int(format) << int(type) << text;
+        QTest::addColumn<int>("channels");
+        const auto row = [](const char *name, PictureFormat format, SampleType type, const QString &text,
+                            int channels = 1) {
+            QTest::newRow(name) << int(format) << int(type) << text << channels;
         };
         row("float as TIFF", PictureFormat::Tiff, SampleType::F32, "");
         row("float as FITS", PictureFormat::Fits, SampleType::F64, "");
@@ -226,6 +269,9 @@ private slots:
         row("16 bits as JPEG", PictureFormat::Jpeg, SampleType::U16,
             "JPEG changes every sample a little. The 16-bit unsigned integer samples become 8 bits, with the levels "
             "of the screen.");
+        row("colour as FITS", PictureFormat::Fits, SampleType::U8,
+            "FITS has no colour: red, green and blue become three frames.", 3);
+        row("colour as PNG", PictureFormat::Png, SampleType::U16, "", 3);
     }
 
     void whatIsLostIsSaidBefore()
@@ -233,11 +279,22 @@ private slots:
         QFETCH(int, format);
         QFETCH(int, type);
         QFETCH(QString, text);
-        QCOMPARE(SavingLossText(PictureFormat(format), SampleType(type)), text);
+        QFETCH(int, channels);
+        QCOMPARE(SavingLossText(PictureFormat(format), SampleType(type), channels), text);
     }
 
 private:
     QString Path(const QString &name) const { return m_folder->filePath(name); }
+    QString CardValue(const QString &name, const QString &key) const
+    {
+        QString error;
+        const auto file = OpenPicture(Path(name), error);
+        for (const MetadataEntry &entry : file ? file->Info().metadata : QVector<MetadataEntry>()) {
+            if (entry.key == key)
+                return entry.value;
+        }
+        return QString();
+    }
     static QByteArray Bytes(const QString &path)
     {
         QFile file(path);

@@ -19,6 +19,7 @@ private slots:
     void nothingIsTakenWhenNothingIsWanted();
     void saturationFollowsAPixelIntoTheSpectrum();
     void theBandIsFoundAndTold();
+    void withoutLightNothingNewIsTold();
     void tracksLieOneBehindTheOther();
     void aTurnedPictureIsBinnedAsItIsSeen();
     void darkIsTheSpectrumShown();
@@ -160,6 +161,30 @@ void SpectrumPipelineTest::theBandIsFoundAndTold()
     QCOMPARE(told.count(), 1);
     QCOMPARE(pipeline.GetEndPointList(), QList<QPointF>({QPointF(0, 20), QPointF(0, 39)}));
     QCOMPARE(pipeline.Shown().raw.values[0], 2000.0);
+}
+
+/// The overlay of the band makes connections each time that it is told.
+void SpectrumPipelineTest::withoutLightNothingNewIsTold()
+{
+    SpectrumPipeline pipeline;
+    QSignalSpy told(&pipeline, &SpectrumManager::SignalSpectralineFVB);
+    pipeline.SetRecipe(Binning(BinnedRows::Auto));
+    for (quint64 id = 1; id <= 4; ++id) {
+        pipeline.OnFrame(Frame(id, 0, 0));
+        QTRY_COMPARE(pipeline.Shown().frameId, id);
+    }
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(pipeline.GetEndPointList(), QList<QPointF>({QPointF(0, 0), QPointF(0, height - 1)}));
+    pipeline.OnFrame(Frame(5)); // the lamp is switched on
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(5));
+    QCOMPARE(told.count(), 2);
+    QCOMPARE(pipeline.GetEndPointList(), QList<QPointF>({QPointF(0, 20), QPointF(0, 39)}));
+    // Off and on again: the overlay went meanwhile.
+    pipeline.SetRecipe(SpectrumRecipe());
+    pipeline.SetRecipe(Binning(BinnedRows::Auto));
+    pipeline.OnFrame(Frame(6));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(6));
+    QCOMPARE(told.count(), 3);
 }
 
 void SpectrumPipelineTest::tracksLieOneBehindTheOther()
