@@ -5,6 +5,7 @@
 #include "openedpicture.h"
 #include "picturedesk.h"
 #include "picturedialogs.h"
+#include "viewrules.h"
 #include "workbenchservices.h"
 #include "workspace.h"
 #include "workspaceconfig.h"
@@ -25,8 +26,8 @@ PictureMenus::PictureMenus(WorkbenchServices *services, PictureDialogs *dialogs,
 void PictureMenus::FillFileMenu(QMenu *menu)
 {
     menu->addAction(tr("&Open…"), m_dialogs, SLOT(slotAskForFiles()), QKeySequence("Ctrl+Shift+O"));
-    // The key F8 belongs to the image page.
-    m_forPictures << menu->addAction(tr("&Save Image As…\tF8"), this, SLOT(slotSaveAs()));
+    m_save = menu->addAction(QString(), this, SLOT(slotSaveAs()));
+    m_forPictures << m_save;
     m_forPictures << menu->addAction(tr("Image &Information…"), this, SLOT(slotInformation()),
                                      QKeySequence("Ctrl+I"));
     menu->addSeparator();
@@ -71,10 +72,12 @@ void PictureMenus::slotUpdate()
     const bool isImage = isImagePage && m_services->GetWorkspace()->IsImageEnabled();
     for (QAction *action : qAsConst(m_forPictures))
         action->setEnabled(isImage);
+    // The key belongs to the image page and saves the main picture; the menu saves the half that is worked on.
+    m_save->setText(view == ImageCompareView ? tr("&Save Image As…") : tr("&Save Image As…\tF8"));
     if (!m_compare)
         return; // the menus are still being filled
     m_image->setEnabled(!m_services->Desk()->MainPicture()->IsNonImage());
-    m_compare->setChecked(view == CameraCompareView || view == ImageCompareView);
+    m_compare->setChecked(ViewRules::IsComparison(ViewCode(view)));
 }
 
 void PictureMenus::slotSaveAs() { m_services->GetWorkspace()->GetActiveImageManager()->slotSaveImageAs(); }

@@ -35,6 +35,7 @@ private slots:
 private:
     WorkbenchServices *m_services;
     PictureDialogs *m_dialogs;
+    QAction *m_save = nullptr;
     QAction *m_image = nullptr;
     QAction *m_compare = nullptr;
     QList<QAction *> m_forPictures; ///< need an opened picture on the image page

@@ -98,7 +98,7 @@ void ViewMenu::AddPalettes()
 
 void ViewMenu::AddCover()
 {
-    QMenu *menu = addMenu(tr("C&over"));
+    QMenu *menu = addMenu(tr("Co&ver"));
     m_drawCover = menu->addAction(tr("&Draw on Live Picture"));
     m_drawCover->setCheckable(true);
     connect(m_drawCover, SIGNAL(triggered(bool)), m_services->Cover(), SLOT(slotSetDrawing(bool)));
@@ -144,7 +144,7 @@ void ViewMenu::AddWindow()
     m_blackBackground->setCheckable(true);
     m_fullScreen = addAction(tr("F&ull Screen"), [] { GlobalNotifyObserver(NotifyFullScreen, nullptr); });
     m_fullScreen->setCheckable(true);
-    addAction(tr("Restore &Default Layout"), this, SIGNAL(signalRestoreDefaultLayout()));
+    addAction(tr("Restore Default La&yout"), this, SIGNAL(signalRestoreDefaultLayout()));
 }
 
 QAction *ViewMenu::AddChoice(QActionGroup *group, QMenu *menu, const QString &text, const QVariant &data)

@@ -84,6 +84,7 @@ void ViewToolBar::BuildForm()
         auto *button = new QPushButton(isShow ? this : m_column);
         button->setObjectName(row.name);
         button->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+        button->setFocusPolicy(Qt::TabFocus); // a click leaves the keys to the tool at work over the picture
         if (*row.toolTip)
             button->setToolTip(tr(row.toolTip));
         (isShow ? outer : column)->addWidget(button);

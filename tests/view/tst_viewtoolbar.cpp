@@ -66,6 +66,7 @@ private slots:
     void keys_data();
     void keys();
     void buttonsFillTheBar();
+    void clicksLeaveTheKeysWhereTheyWere();
 };
 
 void TestViewToolBar::form()
@@ -358,6 +359,27 @@ void TestViewToolBar::buttonsFillTheBar()
     }
     QVERIFY(lowest <= bar->rect().bottom());
     QVERIFY(lowest >= bar->rect().bottom() - 35); // the hide button is lower than the row it has
+}
+
+/// Of the crop frame, say: Enter and Esc are still its own after a click on the zoom.
+void TestViewToolBar::clicksLeaveTheKeysWhereTheyWere()
+{
+    QWidget window;
+    auto *tool = new QWidget(&window);
+    tool->setFocusPolicy(Qt::StrongFocus);
+    ViewToolBar bar(&window, false);
+    window.resize(200, 700);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    tool->setFocus();
+    for (QPushButton *button : bar.findChildren<QPushButton *>()) {
+        if (!button->isVisible() || button->objectName() == "pushButtonHide")
+            continue;
+        QTest::mouseClick(button, Qt::LeftButton);
+        QVERIFY2(tool->hasFocus(), qPrintable(button->objectName()));
+        QVERIFY(button->focusPolicy() & Qt::TabFocus); // the keyboard reaches it all the same
+    }
 }
 
 GUARDED_TEST_MAIN(TestViewToolBar)
