@@ -20,8 +20,8 @@ QVector<BenchmarkResult> BenchmarkGpuFrame();
 QVector<BenchmarkResult> BenchmarkZoom();
 /// 16-bit samples to display samples through levels, against memcpy of the frame.
 QVector<BenchmarkResult> BenchmarkLevels();
-/// The next frame of a stack that is browsed, until its picture is there, against libtiff's own read of a page; and
-/// the first frame of a file, against libtiff's own opening and reading.
+/// The next frame of a stack that is browsed, and one far from it, until its picture is there, against libtiff's own
+/// read of a page; and the first frame of a file, against libtiff's own opening and reading.
 QVector<BenchmarkResult> BenchmarkStack();
 /// The lines of an intensity curve and the ticks of a ruler, each in its own time.
 QVector<BenchmarkResult> BenchmarkItems();

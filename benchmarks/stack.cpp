@@ -69,7 +69,7 @@ void ReadStrips(TIFF *tiff, int page, std::vector<uchar> *samples)
         TIFFReadEncodedStrip(tiff, strip, samples->data() + size_t(strip) * size_t(stripBytes), stripBytes);
 }
 
-/// A stack that is browsed forwards, by somebody who looks at each frame.
+/// A stack that is browsed by somebody who looks at each frame.
 class BrowsedStack
 {
 public:
@@ -91,9 +91,11 @@ public:
         ShowNext();
     }
 
-    void ShowNext()
+    void ShowNext() { ShowFrame((m_request.frame + 1) % Pages); }
+
+    void ShowFrame(int frame)
     {
-        m_request.frame = (m_request.frame + 1) % Pages;
+        m_request.frame = frame;
         m_isSettled = m_request.frame == 0 || m_request.frame == Pages - 1; // nothing lies ahead
         m_loader.Load(m_request);
         m_loop.exec();
@@ -123,6 +125,24 @@ BenchmarkResult MeasureNextFrame(const Layout &layout, const QString &path)
         QString("next frame of a 16-bit stack, %1 x %1, %2").arg(Side).arg(layout.name), StackBound, Rounds,
         [&] { ReadStrips(tiff.get(), n++ % PagesOfFloor, &samples); }, [&] { stack.ShowNext(); },
         [&] { stack.Settle(); });
+}
+
+/// Far from the frame before, which is what a drag of the frame browser's bar or a click in it asks for.
+BenchmarkResult MeasureJump(const Layout &layout, const QString &path)
+{
+    // Only every second page is shown, so that none was read ahead; and between two visits of a page more are read than
+    // the program keeps.
+    constexpr int shownPages = Pages / 2;
+    constexpr int jump = 7;
+    const Tiff tiff(TIFFOpen(QFile::encodeName(path).constData(), "r"));
+    std::vector<uchar> samples(size_t(Side) * Side * sizeof(quint16));
+    BrowsedStack stack(path);
+    int floorReads = 0;
+    int jumps = 0;
+    return MeasureRatio(
+        QString("jump of a 16-bit stack, %1 x %1, %2").arg(Side).arg(layout.name), StackBound, Rounds,
+        [&] { ReadStrips(tiff.get(), floorReads++ % PagesOfFloor, &samples); },
+        [&] { stack.ShowFrame(2 * (jump * ++jumps % shownPages)); }, [&] { stack.Settle(); });
 }
 
 /// Opens the file, reads a frame and makes a picture of it.
@@ -165,7 +185,7 @@ QVector<BenchmarkResult> BenchmarkStack()
         const QTemporaryDir folder;
         const QString path = folder.filePath("stack.tif");
         WriteStack(path, layout);
-        results << MeasureNextFrame(layout, path) << MeasureFirstFrame(layout, path);
+        results << MeasureNextFrame(layout, path) << MeasureJump(layout, path) << MeasureFirstFrame(layout, path);
     }
     return results;
 }
