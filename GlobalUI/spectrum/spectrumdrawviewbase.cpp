@@ -103,9 +103,7 @@ bool SpectrumDrawViewBase::TakeImageSize(const QSize &size)
     if (size == m_imageSize)
         return false;
     m_imageSize = size;
-    // A drag that began on another picture ends without a zoom.
-    m_pressed = false;
-    m_moved = false;
+    EndDrag(); // one that began on another picture ends without a zoom
     const QRectF pictureRect(QPointF(0, 0), m_imageSize);
     scene()->setSceneRect(pictureRect);
     setSceneRect(pictureRect);
@@ -123,6 +121,7 @@ void SpectrumDrawViewBase::slotResetImageInfo()
 {
     m_zoomHistory.Clear();
     m_imageSize = QSize(0, 0);
+    EndDrag();
 }
 
 void SpectrumDrawViewBase::slotSetUpdatesEnabled(bool value) { setUpdatesEnabled(value); }
@@ -168,6 +167,8 @@ void SpectrumDrawViewBase::SetViewGeometry()
     // The mouse may have left the view.
     const QRectF rect =
         picture & QRectF(mapToScene(m_pressPoint.toPoint()), mapToScene(m_releasePoint.toPoint()));
+    if (FreeSpace().isEmpty())
+        return; // no room to show a level: the one on the screen stays in force
     if (zoomIn && (rect.isEmpty() || m_zoomHistory.Push(rect, true, FreeSpace()) <= 0.0F))
         return;
     if (!zoomIn)
@@ -186,6 +187,7 @@ void SpectrumDrawViewBase::ApplyZoom(const QRectF &target)
     emit SignalImageChange(placed.shown);
     setFixedSize(placed.viewSize);
     SetScale(level.scale);
+    m_releasePoint = mapFromScene(placed.pictureCentre);
     emit SignalSetSliderPosition(placed.scroll);
     emit SignalNewRect(placed.visible.xmin, placed.visible.xmax, placed.visible.ymin, placed.visible.ymax);
     m_normalisedRect = NormalisedRect(placed.visible, m_imageSize);
@@ -201,9 +203,8 @@ void SpectrumDrawViewBase::RestoreView(bool)
     if (m_staticMode && isWithoutPicture)
         return;
     if (m_zoomHistory.Count() > 1) {
-        const QRectF rect = m_zoomHistory.Newest().rect;
-        if (m_zoomHistory.Push(rect, true, FreeSpace()) > 0.0F)
-            ApplyZoom(rect);
+        if (m_zoomHistory.Refit(FreeSpace()))
+            ApplyZoom(m_zoomHistory.Current().rect);
     } else {
         m_zoomHistory.Clear();
         if (m_normalisedRect != WholePicture && !m_imageSize.isEmpty())
@@ -238,4 +239,11 @@ void SpectrumDrawViewBase::showEvent(QShowEvent *event)
         setUpdatesEnabled(true);
     else if (!m_fittedOnce)
         FitToParent(false);
+}
+
+/// The release may never come.
+void SpectrumDrawViewBase::hideEvent(QHideEvent *event)
+{
+    EndDrag();
+    QGraphicsView::hideEvent(event);
 }

@@ -12,7 +12,9 @@
 /// The spectrum image: the newest picture, live or of a file, as background of the view's own scene, whose
 /// coordinates are picture pixels. A drag to the right zooms in to the rectangle drawn, a drag to the left
 /// steps back, a click picks a point. The picture is fitted to what the aids leave free of the parent
-/// frame. Lives in a SpectrumDrawFrameBase; GUI thread.
+/// frame. What is reported as visible is always what is seen, so that the aids keep in step: after a step
+/// back to a level between, too. When the space changes, the levels change with it and none is added.
+/// Lives in a SpectrumDrawFrameBase; GUI thread.
 class SpectrumDrawViewBase : public QGraphicsView
 {
     Q_OBJECT
@@ -64,6 +66,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     /// What the aids leave of the parent frame, in screen pixels.
@@ -80,6 +83,7 @@ private:
     bool TakeImageSize(const QSize &size);
     void ReportWholePicture();
     bool IsDrag() const;
+    void EndDrag();
     void Pick(const QPointF &scenePos);
     void ReportAnchor(const QPointF &scenePos);
 
@@ -88,7 +92,7 @@ private:
     bool m_pressed = false;
     bool m_moved = false;
     QPointF m_pressPoint;   ///< view
-    QPointF m_releasePoint; ///< view; after a fit where the centre of the picture lies
+    QPointF m_releasePoint; ///< view; after a fit or a zoom where its centre lies
     SpectrumZoomHistory m_zoomHistory;
     QRectF m_normalisedRect; ///< as in SignalPressPosChange()
     bool m_staticMode = false;

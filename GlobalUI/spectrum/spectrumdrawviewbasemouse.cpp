@@ -46,10 +46,15 @@ void SpectrumDrawViewBase::mouseReleaseEvent(QMouseEvent *event)
         } else {
             emit SignalDrawArea(scenePos, true, false); // the picture of the drag is gone
         }
-        m_pressed = false;
-        m_moved = false;
+        EndDrag();
     }
     QGraphicsView::mouseReleaseEvent(event);
+}
+
+void SpectrumDrawViewBase::EndDrag()
+{
+    m_pressed = false;
+    m_moved = false;
 }
 
 bool SpectrumDrawViewBase::IsDrag() const

@@ -28,9 +28,12 @@ struct Span
     double to;
 };
 
-/// The scroll bars end with the picture, and so does what is seen.
-Span InPicture(Span span, double side)
+/// The side from `first` screen pixels on. The scroll bars end with the picture, and so does what is seen.
+Span SeenOf(double first, int shownLength, int viewLength, float scale, double side)
 {
+    if (shownLength >= viewLength)
+        return { 0.0, side };
+    Span span{ first / double(scale), (first + shownLength) / double(scale) };
     if (span.from < 0.0)
         span = { 0.0, std::min(span.to - span.from, side) };
     else if (span.to > side)
@@ -86,15 +89,11 @@ PlacedPicture PlacePicture(const QRectF &target, const ZoomState &level, int lev
     const QPointF half(placed.shown.width() * 0.5, placed.shown.height() * 0.5);
     placed.scroll = centre - half;
     placed.pictureCentre = centre / double(scale);
-    if (levelCount < 2) {
-        placed.visible = { 0.0, 2.0 * level.centre.x(), 0.0, 2.0 * level.centre.y() };
-    } else {
-        const QPointF first = (centre - half) / double(scale);
-        const QPointF last = (centre + half) / double(scale);
-        const Span x = InPicture({ first.x(), last.x() }, pictureSize.width());
-        const Span y = InPicture({ first.y(), last.y() }, pictureSize.height());
-        placed.visible = { x.from, x.to, y.from, y.to };
-    }
+    const Span x = SeenOf(placed.scroll.x(), placed.shown.width(), placed.viewSize.width(), scale,
+                          pictureSize.width());
+    const Span y = SeenOf(placed.scroll.y(), placed.shown.height(), placed.viewSize.height(), scale,
+                          pictureSize.height());
+    placed.visible = { x.from, x.to, y.from, y.to };
     return placed;
 }
 

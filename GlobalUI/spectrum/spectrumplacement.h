@@ -41,7 +41,7 @@ struct PlacedPicture
     QPointF pictureCentre;
 };
 /// `target`, in picture pixels, is what the level is to show, and `levelCount` how many there are.
-/// With a single one the visible part is that twice as far as its centre; otherwise it stays in the picture.
+/// The visible part is what is seen of the picture, of a level that was stepped back to as well.
 PlacedPicture PlacePicture(const QRectF &target, const ZoomState &level, int levelCount,
                            const QSize &pictureSize, const QSize &freeSpace);
 

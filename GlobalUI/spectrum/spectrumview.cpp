@@ -245,6 +245,7 @@ void SpectrumView::HideEverything()
     m_frame->setEnabled(false);
     m_frame->hide();
     m_cross->setVisible(false);
+    m_drawArea.reset(); // of a drag that ends with the picture
 }
 
 void SpectrumView::slotResetImageInfo() { HideEverything(); }
@@ -253,6 +254,7 @@ void SpectrumView::SlotSpectrumUIChange()
 {
     if (!CameraMainManager::GetInstance() && !m_staticMode) {
         HideEverything();
+        GetDrawView()->slotResetImageInfo(); // the first frame of the next camera shows it all again
         return;
     }
     if (m_staticMode) {
@@ -276,3 +278,5 @@ void SpectrumView::resizeEvent(QResizeEvent *event)
 }
 
 void SpectrumView::showEvent(QShowEvent *) { setUpdatesEnabled(true); }
+
+void SpectrumView::hideEvent(QHideEvent *) { m_drawArea.reset(); }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectrumzoomhistory.h"
 
+#include "spectrumplacement.h"
+
 #include <algorithm>
 
 namespace {
@@ -33,6 +35,18 @@ void SpectrumZoomHistory::Restart(const ZoomState &fitted)
 {
     m_levels = { fitted };
     m_current = fitted;
+}
+
+bool SpectrumZoomHistory::Refit(const QSize &freeSpace)
+{
+    if (m_levels.empty() || freeSpace.isEmpty())
+        return false;
+    for (ZoomState &level : m_levels)
+        level.scale = FillingScale(level.rect, freeSpace);
+    m_levels.front().scale = FitPicture(m_levels.front().rect.size().toSize(), freeSpace).scale;
+    m_current = m_levels.back();
+    m_lastWasZoomIn = true;
+    return true;
 }
 
 float SpectrumZoomHistory::Push(const QRectF &rect, bool zoomIn, const QSize &freeSpace)

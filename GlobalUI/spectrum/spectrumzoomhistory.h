@@ -25,14 +25,15 @@ public:
     /// Makes the fitted picture the only level.
     void Restart(const ZoomState &fitted);
     void Clear() { m_levels.clear(); }
+    /// The free space is another: every level takes the scale that it has there, and the newest comes in force.
+    /// False when there is no level or no space; then all stays.
+    bool Refit(const QSize &freeSpace);
     /// Goes in to rect, or one step back. The answer is the scale that rect takes in the free
     /// space (view pixels), 1 when stepping back. A rectangle that yields no scale is left out: 0.
     float Push(const QRectF &rect, bool zoomIn, const QSize &freeSpace);
 
     int Count() const { return static_cast<int>(m_levels.size()); }
     const ZoomState &Current() const { return m_current; }
-    /// Only while there is a level.
-    const ZoomState &Newest() const { return m_levels.back(); }
 
 private:
     std::vector<ZoomState> m_levels;

@@ -28,6 +28,7 @@ private slots:
     void newSizeDuringADrag();
     void dragWithoutAPicture();
     void dragWithoutRoom();
+    void stepBackWithoutRoomKeepsTheLevels();
     void randomDrags();
 };
 
@@ -149,8 +150,10 @@ void TestSpectrumDrawZoom::stepsBackInTurn()
     p.DragInPicture(QPointF(200, 140), QPointF(160, 110));
     QCOMPARE(p.Scale(), 2.0);
     QCOMPARE(p.FrameScroll(), QPoint(200, 100)); // where it was before
-    // One level is left in the history: the range says twice the centre of what is shown.
-    QCOMPARE(p.TakeSignals("SignalNewRect"), QStringList("SignalNewRect(0, 500, 0, 300)"));
+    const QStringList back = p.TakeSignals();
+    QCOMPARE(back.filter("SignalNewRect"), QStringList("SignalNewRect(100, 400, 50, 250)")); // what is seen
+    QCOMPARE(back.filter("SignalPressPosChange("),
+             QStringList("SignalPressPosChange((250, 150), (0.0833333, 0.125, 0.333333, 0.625))"));
     p.DragInPicture(QPointF(200, 140), QPointF(160, 110));
     QCOMPARE(p.Scale(), 0.5);
     QCOMPARE(p.TakeSignals("SignalNewRect"), QStringList("SignalNewRect(0, 1200, 0, 400)"));
@@ -301,6 +304,22 @@ void TestSpectrumDrawZoom::dragWithoutRoom()
     QCOMPARE(p.view->size(), QSize(600, 200));
 }
 
+void TestSpectrumDrawZoom::stepBackWithoutRoomKeepsTheLevels()
+{
+    SpectrumPage p;
+    QVERIFY(p.Show());
+    p.ShowLive(QSize(1200, 400));
+    p.DragInPicture(QPointF(100, 50), QPointF(400, 250));
+    p.DragInPicture(QPointF(150, 100), QPointF(250, 150));
+    p.Resize(QSize(130, 580));
+    p.DragInPicture(QPointF(200, 140), QPointF(160, 110));
+    p.Resize(QSize(740, 580));
+    p.LogSignals();
+    p.view->RestoreView(true); // there is room again for what was seen before
+    QCOMPARE(p.Scale(), 8.0);
+    QCOMPARE(p.TakeSignals("SignalNewRect"), QStringList("SignalNewRect(162.5, 237.5, 100, 150)"));
+}
+
 /// Whatever is dragged: what is reported is what the frame shows of the picture.
 void TestSpectrumDrawZoom::randomDrags()
 {
@@ -311,14 +330,15 @@ void TestSpectrumDrawZoom::randomDrags()
     int checked = 0;
     for (int round = 0; round < 60; ++round) {
         p.ShowLive(QSize(random.bounded(200, 3000), random.bounded(200, 3000)));
-        for (int zoom = 0; zoom < 3; ++zoom) {
+        for (int zoom = 0; zoom < 5; ++zoom) {
+            const bool isBack = zoom > 2;
             const QPoint first = -p.view->pos();
             const auto place = [&](int from, int to) {
                 return QPointF(first.x() + random.bounded(from, to) * p.frame->width() / 100,
                                first.y() + random.bounded(0, 100) * p.frame->height() / 100);
             };
-            const QPointF from = place(0, 45);
-            const QPointF to = place(55, 100);
+            const QPointF from = isBack ? place(55, 100) : place(0, 45);
+            const QPointF to = isBack ? place(0, 45) : place(55, 100);
             CallLog::Clear();
             p.Drag(from, to);
             const QStringList ranges = p.TakeSignals("SignalNewRect");
@@ -336,7 +356,7 @@ void TestSpectrumDrawZoom::randomDrags()
             ++checked;
         }
     }
-    QVERIFY(checked > 100);
+    QVERIFY(checked > 180);
 }
 
 GUARDED_TEST_MAIN(TestSpectrumDrawZoom)

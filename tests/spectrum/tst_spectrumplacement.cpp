@@ -30,7 +30,8 @@ private slots:
     void margins();
     void fit_data();
     void fit();
-    void singleLevelShowsTwiceItsCentre();
+    void fittedLevelShowsTheWhole();
+    void singleLevelThatIsNotTheWhole();
     void zoomedLevel_data();
     void zoomedLevel();
     void wholePixelsOfTheTarget();
@@ -91,11 +92,12 @@ void TestSpectrumPlacement::fit()
     QCOMPARE(FitPicture(QSize(6000, 4), QSize(600, 1)).shown, QSize(600, 1));
 }
 
-void TestSpectrumPlacement::singleLevelShowsTwiceItsCentre()
+/// Twice as far as its centre, which is the whole picture.
+void TestSpectrumPlacement::fittedLevelShowsTheWhole()
 {
     const QSize picture(1200, 400);
     const ZoomState fitted{ 0.5F, QPointF(600, 200), QRectF(0, 0, 1200, 400) };
-    for (int levels : { 0, 1 }) {
+    for (int levels : { 0, 1, 2 }) {
         const PlacedPicture placed = PlacePicture(fitted.rect, fitted, levels, picture, FreeSpace);
         QCOMPARE(placed.shown, QSize(600, 200));
         QCOMPARE(placed.viewSize, QSize(600, 200));
@@ -103,9 +105,24 @@ void TestSpectrumPlacement::singleLevelShowsTwiceItsCentre()
         QCOMPARE(Text(placed.visible), QString("0..1200, 0..400"));
         QCOMPARE(placed.pictureCentre, QPointF(600, 200));
     }
-    const ZoomState other{ 0.5F, QPointF(100, 50), QRectF() };
-    QCOMPARE(Text(PlacePicture(fitted.rect, other, 1, picture, FreeSpace).visible),
-             QString("0..200, 0..100"));
+    // With a centre that is remembered from another picture all of it is still seen.
+    const ZoomState other{ 0.5F, QPointF(100, 50), fitted.rect };
+    QCOMPARE(Text(PlacePicture(fitted.rect, other, 1, picture, FreeSpace).visible), QString("0..1200, 0..400"));
+    // Cut to whole pixels of the screen it stays the whole picture.
+    const ZoomState cut{ 400.0F / 467.0F, QPointF(350, 233.5), QRectF(0, 0, 700, 467) };
+    QCOMPARE(Text(PlacePicture(cut.rect, cut, 1, QSize(700, 467), FreeSpace).visible), QString("0..700, 0..467"));
+}
+
+/// One that was stepped back to reports what is seen of it.
+void TestSpectrumPlacement::singleLevelThatIsNotTheWhole()
+{
+    const QSize picture(1200, 400);
+    const QRectF rect(100, 50, 300, 200);
+    const PlacedPicture placed =
+        PlacePicture(QRectF(0, 0, 1200, 400), { 2.0F, rect.center(), rect }, 1, picture, FreeSpace);
+    QCOMPARE(placed.shown, FreeSpace);
+    QCOMPARE(placed.scroll, QPointF(200, 100));
+    QCOMPARE(Text(placed.visible), QString("100..400, 50..250"));
 }
 
 void TestSpectrumPlacement::zoomedLevel_data()

@@ -16,6 +16,8 @@ private slots:
     void dragShowsARectangle();
     void dragThatNeverBegan();
     void pageGoesDuringADrag();
+    void pageIsHiddenDuringADrag_data();
+    void pageIsHiddenDuringADrag();
     void anchorReachesBothCurves();
     void linePen_data();
     void linePen();
@@ -117,6 +119,39 @@ void TestSpectrumViewPicks::pageGoesDuringADrag()
     QPointer<QGraphicsScene> scene = page->GetDrawView()->scene();
     page.reset();
     QVERIFY(!scene);
+}
+
+void TestSpectrumViewPicks::pageIsHiddenDuringADrag_data()
+{
+    QTest::addColumn<bool>("closed");
+    QTest::newRow("another page is shown") << false;
+    QTest::newRow("the picture is closed") << true;
+}
+
+/// The release goes nowhere.
+void TestSpectrumViewPicks::pageIsHiddenDuringADrag()
+{
+    QFETCH(bool, closed);
+    FedPage p;
+    QVERIFY(p.Show());
+    p.Press(QPointF(100, 50));
+    p.Move(QPointF(250, 150));
+    QVERIFY(p.Area());
+    if (closed) {
+        p.page->slotResetImageInfo();
+        p.view->slotResetImageInfo();
+        p.ShowLive(QSize(2048, 512));
+    } else {
+        p.page->hide();
+        p.page->show();
+    }
+    QVERIFY(!p.Area());
+    QVERIFY(p.view->isVisible());
+    p.LogSignals();
+    p.Move(QPointF(300, 180)); // the button is not known to be held
+    p.Release(QPointF(300, 180));
+    QCOMPARE(p.TakeSignals("SignalNewRect"), QStringList());
+    QVERIFY(!p.Area());
 }
 
 void TestSpectrumViewPicks::anchorReachesBothCurves()

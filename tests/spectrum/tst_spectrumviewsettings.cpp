@@ -11,6 +11,7 @@ private slots:
     void leftMarginOfTheLowerRows_data();
     void leftMarginOfTheLowerRows();
     void settingsWithoutACamera();
+    void theNextCameraShowsThePageAgain();
     void settingsOfALivePage();
     void settingsOfAStillPage_data();
     void settingsOfAStillPage();
@@ -59,6 +60,30 @@ void TestSpectrumViewSettings::settingsWithoutACamera()
     QVERIFY(!frame->isEnabled());
     QVERIFY(page.findChild<IntensityCurveVertical *>()->isHidden());
     QCOMPARE(page.layout()->itemAt(4)->layout()->contentsMargins().left(), 110); // as before
+}
+
+/// Its frames have the size of those before, so that nothing but their coming says so.
+void TestSpectrumViewSettings::theNextCameraShowsThePageAgain()
+{
+    FakeServices services;
+    const DisplayScale scale(1.0);
+    SpectrumView page(nullptr);
+    page.resize(740, 580);
+    auto *frame = page.findChild<SpectrumDrawFrameBase *>();
+    const auto show = [&] { page.GetDrawView()->slotPaintPreview(SpectrumPage::Picture(QSize(1200, 400))); };
+    {
+        const FakeCameraMainManager camera;
+        show();
+        QVERIFY(!frame->isHidden());
+    }
+    page.SlotSpectrumUIChange(); // an aid is switched while no camera is open
+    QVERIFY(frame->isHidden());
+    const FakeCameraMainManager camera;
+    show();
+    QVERIFY(!frame->isHidden());
+    QVERIFY(frame->isEnabled());
+    QVERIFY(!page.findChild<IntensityCurveHorizontal *>()->isHidden());
+    QVERIFY(!page.findChild<RulerBarVertical *>()->isHidden());
 }
 
 void TestSpectrumViewSettings::settingsOfALivePage()

@@ -26,7 +26,8 @@ private slots:
     void onlyAZoomedPictureRemembersItsCentre();
     void aRectangleWithoutAScaleChangesNothing_data();
     void aRectangleWithoutAScaleChangesNothing();
-    void theNewestLevelInAnotherSpaceIsOneMore();
+    void anotherSpaceRefitsEveryLevel();
+    void nothingIsRefittedWithoutALevelOrASpace();
     void anEmptyHistoryStaysEmptyWhenSteppingBack();
 };
 
@@ -113,17 +114,35 @@ void TestSpectrumZoomHistory::aRectangleWithoutAScaleChangesNothing()
     QCOMPARE(history.Current().rect, Fitted().rect);
 }
 
-void TestSpectrumZoomHistory::theNewestLevelInAnotherSpaceIsOneMore()
+void TestSpectrumZoomHistory::anotherSpaceRefitsEveryLevel()
 {
     SpectrumZoomHistory history;
     history.Restart(Fitted());
+    const QRectF first(100, 100, 300, 200);
+    history.Push(first, true, FreeSpace);
+    history.Push(QRectF(150, 150, 60, 40), true, FreeSpace);
+    for (int turn = 0; turn < 3; ++turn) {
+        QVERIFY(history.Refit(QSize(300, 200)));
+        QCOMPARE(history.Count(), 3); // none is added
+        QCOMPARE(history.Current().rect, QRectF(150, 150, 60, 40));
+        QCOMPARE(history.Current().scale, 5.0F);
+    }
+    history.Push(QRectF(), false, QSize(300, 200));
+    QCOMPARE(history.Current().rect, first);
+    QCOMPARE(history.Current().scale, 1.0F);
+    history.Push(QRectF(), false, QSize(300, 200));
+    QCOMPARE(history.Current().rect, Fitted().rect);
+    QCOMPARE(history.Current().scale, 0.25F); // all of the picture: the smaller scale
+}
+
+void TestSpectrumZoomHistory::nothingIsRefittedWithoutALevelOrASpace()
+{
+    SpectrumZoomHistory history;
+    QVERIFY(!history.Refit(FreeSpace));
+    history.Restart(Fitted());
     history.Push(QRectF(100, 100, 300, 200), true, FreeSpace);
-    QCOMPARE(history.Push(history.Newest().rect, true, QSize(300, 200)), 1.0F);
-    QCOMPARE(history.Count(), 3);
-    QCOMPARE(history.Current().rect, QRectF(100, 100, 300, 200));
-    history.Push(QRectF(), false, FreeSpace); // drops it and shows the level before it
+    QVERIFY(!history.Refit(QSize(0, 400)));
     QCOMPARE(history.Current().scale, 2.0F);
-    QCOMPARE(history.Count(), 1);
 }
 
 void TestSpectrumZoomHistory::anEmptyHistoryStaysEmptyWhenSteppingBack()
