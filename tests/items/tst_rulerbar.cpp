@@ -116,6 +116,7 @@ private slots:
     void emptyRectDrawsNothing();
     void horizontalIsPainted();
     void verticalIsPainted();
+    void verticalSkipsOneNumber();
     void titleIsPainted();
     void verticalTitleReadsUpwards();
     void swappedAxes();
@@ -235,6 +236,21 @@ void TestRulerBar::verticalIsPainted()
     QVERIFY(image.pixelColor(55, 120) != QColor(Qt::white));
     QVERIFY(WhitePixels(image, QRect(20, 92, 30, 16)) > 0);
     QCOMPARE(WhitePixels(image, QRect(0, 112, 50, 16)), 0);
+}
+
+/// The one that the upper edge would cut; those below it are there.
+void TestRulerBar::verticalSkipsOneNumber()
+{
+    VerticalRuler ruler;
+    ruler.ApplyGeometry(QRect(0, 0, 60, 100)); // 4 px a minor, 20 px a major
+    ruler.changedActualRect(QRectF(0, 155, 800, 1000), false);
+    QCOMPARE(ruler.ticks.labels.mid(0, 2), QStringList({"200", "400"}));
+    QCOMPARE(ruler.ticks.majorLines.at(0).y1(), 4.0);
+    QCOMPARE(ruler.ticks.majorLines.at(1).y1(), 24.0);
+    const QImage image = Painted(&ruler);
+    QCOMPARE(image.pixelColor(55, 4), QColor(Qt::white));
+    QCOMPARE(WhitePixels(image, QRect(0, 0, 52, 13)), 0);
+    QVERIFY(WhitePixels(image, QRect(20, 17, 30, 15)) > 0);
 }
 
 void TestRulerBar::titleIsPainted()

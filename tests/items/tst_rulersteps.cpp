@@ -27,6 +27,7 @@ private slots:
     void verticalTicksFromTheBottom();
     void randomHorizontalTicks();
     void randomVerticalTicks();
+    void randomScalesAndRanges();
     void labelOrigins();
     void titleOrigins();
 };
@@ -232,6 +233,66 @@ void TestRulerSteps::randomVerticalTicks()
             QCOMPARE(ticks.labels, labels);
         }
     }
+}
+
+/// On any scale and with a range of values: ticks by their place in the picture, numbers by the straight line from one
+/// end of the picture to the other.
+void TestRulerSteps::randomScalesAndRanges()
+{
+    constexpr double slack = 1e-6;
+    QRandomGenerator random(20262);
+    int labels = 0;
+    for (int round = 0; round < 600; ++round) {
+        const int imageLength = random.bounded(20, 6000);
+        const int visible = random.bounded(10, imageLength);
+        const int item = random.bounded(30, 2500);
+        const bool hasRange = round % 3 != 0;
+        const double rangeMin = hasRange ? random.bounded(2000.0) : -1;
+        const double rangeMax = hasRange ? rangeMin + 5 + random.bounded(3000.0) : -1;
+        const RulerSteps steps = ComputeRulerSteps(imageLength, visible, item, 5, 5);
+        const RulerNumbers numbers = ComputeRulerNumbers(steps.minorStep, imageLength, rangeMin, rangeMax, 0);
+        int start = random.bounded(0, imageLength - visible + 1);
+        if (start % steps.minorStep == 0)
+            start = 0; // a start on a step is the whole numbers' case
+        const double scale = double(item) / visible;
+        const double stepPx = steps.minorStep * scale;
+        const int firstStep = (start + steps.minorStep - 1) / steps.minorStep;
+        const double firstOffset = (firstStep * steps.minorStep - start) * scale;
+        const double end = item + 1 - firstOffset;
+        for (const char *way : {"horizontal", "down", "up"}) {
+            const bool isHorizontal = way == QString("horizontal");
+            const bool isUp = way == QString("up");
+            RulerTicks ticks;
+            if (isHorizontal)
+                BuildHorizontalTicks(steps, numbers, {QSize(item, 50), start, 1.0, 6, 3}, &ticks);
+            else
+                BuildVerticalTicks(steps, numbers, {QSize(60, item), start, 1.0, 6, 3}, isUp, &ticks);
+            int labelled = 0;
+            for (int i = 0; i < ticks.lines.size(); ++i) {
+                const double place = isHorizontal ? firstOffset + i * stepPx : isUp ? end - i * stepPx : i * stepPx;
+                const QLineF line = ticks.lines.at(i);
+                QVERIFY(std::abs((isHorizontal ? line.x1() : line.y1()) - place) < slack);
+                const bool isMajor = (firstStep + i) % steps.minorsPerMajor == 0;
+                QVERIFY(std::abs(line.length() - (isMajor ? 6 : 3)) < slack);
+                const bool isLabelled = isMajor && (isHorizontal ? place > stepPx : isUp ? i > 0 : place > firstOffset);
+                if (!isLabelled)
+                    continue;
+                const int pixel = (firstStep + i) * steps.minorStep;
+                const double value = hasRange ? rangeMin + (rangeMax - rangeMin) * pixel / imageLength : pixel;
+                QVERIFY(labelled < ticks.labels.size());
+                QCOMPARE(ticks.majorLines.at(labelled), line);
+                QVERIFY(std::abs(ticks.labels.at(labelled).toDouble() - value) <= 0.5 + slack);
+                ++labelled;
+            }
+            QCOMPARE(ticks.labels.size(), labelled);
+            labels += labelled;
+            // None is missing at the far end, and none stands beyond it.
+            const double length = isHorizontal ? item : end;
+            QVERIFY((ticks.lines.size() - 1) * stepPx + (isHorizontal ? firstOffset : 0) < length + slack);
+            QVERIFY(ticks.lines.size() * stepPx + (isHorizontal ? firstOffset : 0) > length - slack);
+        }
+    }
+    QVERIFY(labels > 4000);
 }
 
 void TestRulerSteps::labelOrigins()

@@ -11,8 +11,20 @@
 #include "shellfixture.h"
 
 #include <QApplication>
+#include <QLayout>
 #include <QMouseEvent>
 #include <QSignalSpy>
+
+namespace {
+
+/// Below the image; the other horizontal one tells grey levels.
+QWidget *PixelRuler(const QWidget *page)
+{
+    constexpr int pixelRulerRow = 4;
+    return page->layout()->itemAt(pixelRulerRow)->layout()->itemAt(0)->widget();
+}
+
+} // namespace
 
 /// The page with the spectrum image in the two stacks.
 class SpectrumStackViewsTest : public GuardedTest
@@ -103,6 +115,8 @@ void SpectrumStackViewsTest::wiresOfTheLiveView()
           SLOT(SlotPressPosChange(QPointF, QRectF)) },
         { view, SIGNAL(SignalNewRect(qreal, qreal, qreal, qreal)), &stack,
           SLOT(SlotNewArea(qreal, qreal, qreal, qreal)) },
+        { &services.displayMode, SIGNAL(SignalChangeHShowValueRange(qreal, qreal)), PixelRuler(page),
+          SLOT(changedShowValueRange(qreal, qreal)) },
         { &services.displayMode, SIGNAL(SignalChangeVShowValueRange(qreal, qreal)), verticalRuler,
           SLOT(changedShowValueRange(qreal, qreal)) },
         { &services.intensity, SIGNAL(SignalPseudoColorsUpdate(const QVector<QColor>)), page,
@@ -156,6 +170,8 @@ void SpectrumStackViewsTest::wiresOfThePicturesView()
         { &services.spectrumUI, SIGNAL(signalDisplayModeChange()), view, SLOT(SlotDisplayModeChange()) },
         { &services.spectrumUI, SIGNAL(signalDisplayModePropertyChange()), view,
           SLOT(SlotDisplayModeChange()) },
+        { &services.displayMode, SIGNAL(SignalImageChangeHShowValueRange(qreal, qreal)), PixelRuler(page),
+          SLOT(changedShowValueRange(qreal, qreal)) },
         { &services.displayMode, SIGNAL(SignalImageChangeVShowValueRange(qreal, qreal)), verticalRuler,
           SLOT(changedShowValueRange(qreal, qreal)) },
         { &services.active, SIGNAL(signalResetImageInfo()), page, SLOT(slotResetImageInfo()) },
