@@ -5,6 +5,7 @@
 #include "picturelevels.h"
 #include "pictureloader.h"
 #include "pixeltext.h"
+#include "spectrumuimanager.h"
 #include "uiconfigmanager.h"
 #include "viewcodes.h"
 #include "viewmeasuring.h"
@@ -95,6 +96,7 @@ void OpenedPicture::GiveUp(const PictureDocument *document)
 void OpenedPicture::Take(const LoadedPicture &picture)
 {
     const bool isOther = m_document != m_wanted;
+    const bool isOtherSize = m_shown.samples.Size() != picture.samples.Size();
     m_shown = picture;
     m_wanted->SetInfo(picture.info);
     m_wanted->SetFrame(picture.request.frame);
@@ -108,12 +110,13 @@ void OpenedPicture::Take(const LoadedPicture &picture)
     emit signalShowPicture(m_shown.image);
     emit signalUpdateFileNameAndSize(GetFileInfo());
     emit signalUpdateLevel(m_levels->LeftValue(), m_levels->RightValue());
+    PickMiddle(isOtherSize);
     AnnounceCurves();
     if (isOther)
         AnnounceDocument();
     else
         AnnounceFrame();
-    AnnounceSpectrum(isOther);
+    AnnounceSpectrum(isOther, isOtherSize);
     if (!m_shown.thumbnail.isNull())
         emit sglAddThumbnail(m_shown.thumbnail);
     emit UIConfigManager::GetInstance()->signalImageInfoChanged();
@@ -142,15 +145,23 @@ void OpenedPicture::Settle(bool isOther)
         emit UIConfigManager::GetInstance()->signalUpdateImageControlUI();
 }
 
-/// An opened spectrum begins along its rows, with the middle one.
-void OpenedPicture::AnnounceSpectrum(bool isOther)
+/// Of a picture of the same size the place and the part that are seen stay, so their curves do too.
+void OpenedPicture::PickMiddle(bool isOtherSize)
+{
+    const QSize size = m_shown.samples.Size();
+    if (isOtherSize || !m_curves.IsPicked())
+        m_curves.Pick(QPointF(size.width() / 2.0, size.height() / 2.0), QRectF(0, 0, 1, 1));
+}
+
+/// An opened spectrum begins along its rows.
+void OpenedPicture::AnnounceSpectrum(bool isOther, bool isOtherSize)
 {
     emit signalAxis(m_shown.axis);
-    if (!isOther || !IsSenImage())
-        return;
-    emit signalOpenSpefile();
-    const QSize size = m_shown.samples.Size();
-    GetIntensityCurveHistogramData(QPointF(size.width() / 2.0, size.height() / 2.0), QRectF(0, 0, 1, 1), 0);
+    if (isOther && IsSenImage())
+        emit signalOpenSpefile();
+    // The page was fitted to the other size: its cross may stand where it stood, and it asks for the curves there.
+    if (isOtherSize && m_place == MainPlace)
+        SpectrumUIManager::GetInstance()->UpdateDisplayModeProperty();
 }
 
 void OpenedPicture::AnnounceDocument()
@@ -396,6 +407,8 @@ bool OpenedPicture::Is32BitMat() const
 {
     return !IsNonImage() && BytesPerSample(m_settledType) >= 4;
 }
+
+bool OpenedPicture::IsColour() const { return !IsNonImage() && m_shown.samples.Channels() == 3; }
 
 QSize OpenedPicture::GetImageSize() const { return IsNonImage() ? QSize() : m_shown.samples.Size(); }
 

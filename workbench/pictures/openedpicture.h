@@ -54,6 +54,8 @@ public:
     void ApplyPreview(const QString &text);
     /// Counts and marks the objects of what is shown, until it is told otherwise or another picture is shown.
     void Count(const std::optional<CountSettings> &settings);
+    /// It is shown in its own colours, whatever the palette.
+    bool IsColour() const;
     /// How many frames can be browsed.
     int FrameCount() const { return m_frameCount; }
 
@@ -140,7 +142,8 @@ private:
     void AnnounceFrame();
     void AnnounceCurves();
     void TellFrameBrowser();
-    void AnnounceSpectrum(bool isOther);
+    void PickMiddle(bool isOtherSize);
+    void AnnounceSpectrum(bool isOther, bool isOtherSize);
     void Follow(PictureDocument *document);
     void Settle(bool isOther);
     void FailPreview(const QString &error);

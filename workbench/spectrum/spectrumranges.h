@@ -3,7 +3,7 @@
 
 #include "displaymodemanager.h"
 
-/// Announces the value ranges of the spectrum rulers. Nothing changes them yet. GUI thread.
+/// Announces the value ranges of the spectrum rulers; SpectrumSettings says when. GUI thread.
 class SpectrumRanges : public DisplayModeManager
 {
     Q_OBJECT

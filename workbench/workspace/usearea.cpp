@@ -14,72 +14,46 @@ constexpr int PictureUseArea = 0;
 UseArea::UseArea(QSettings *settings, QObject *parent)
     : UseAreaManager(parent)
     , m_settings(settings)
+    , m_type(settings->value(TypeKey, PictureUseArea).toInt())
+    , m_isSpectrumHidden(Stored("useArea/spectrumHidden", false))
+    , m_isAxisVisible(Stored(AxisKey, true))
+    , m_isCurveVisible(Stored(CurveKey, true))
+    , m_isColorCardVisible(Stored(ColorCardKey, true))
+    , m_isToolBarVisible(Stored("useArea/toolBar", true))
+    , m_isInfoBarVisible(Stored("useArea/infoBar", true))
 {
-}
-
-int UseArea::GetUseAreaType() const
-{
-    return m_settings->value(TypeKey, PictureUseArea).toInt();
-}
-
-bool UseArea::IsSpectrumHidden() const
-{
-    return Stored("useArea/spectrumHidden", false);
-}
-
-bool UseArea::IsAxisVisible() const
-{
-    return Stored(AxisKey, true);
-}
-
-bool UseArea::IsCurveVisible() const
-{
-    return Stored(CurveKey, true);
-}
-
-bool UseArea::IsColorCardVisible() const
-{
-    return Stored(ColorCardKey, true);
-}
-
-bool UseArea::IsToolBarVisible() const
-{
-    return Stored("useArea/toolBar", true);
-}
-
-bool UseArea::IsInfoBarVisible() const
-{
-    return Stored("useArea/infoBar", true);
 }
 
 void UseArea::slotSetSpectrum(bool spectrum)
 {
     const int type = spectrum ? SpectrumUseArea : PictureUseArea;
-    if (type == GetUseAreaType())
+    if (type == m_type)
         return;
+    m_type = type;
     m_settings->setValue(TypeKey, type);
     emit signalUpdateUseArea();
 }
 
 void UseArea::slotSetAxisVisible(bool visible)
 {
-    SetAid(AxisKey, visible);
+    SetAid(&m_isAxisVisible, AxisKey, visible);
 }
 
 void UseArea::slotSetCurveVisible(bool visible)
 {
-    SetAid(CurveKey, visible);
+    SetAid(&m_isCurveVisible, CurveKey, visible);
 }
 
 void UseArea::slotSetColorCardVisible(bool visible)
 {
-    SetAid(ColorCardKey, visible);
+    SetAid(&m_isColorCardVisible, ColorCardKey, visible);
 }
 
-void UseArea::SetAid(const char *key, bool visible)
+void UseArea::SetAid(bool *aid, const char *key, bool visible)
 {
-    if (Stored(key, true) == visible)
+    if (*aid == visible)
         return;
+    *aid = visible;
     m_settings->setValue(key, visible);
     emit signalSpectrumUIUpdate();
 }

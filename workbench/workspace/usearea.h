@@ -5,7 +5,8 @@
 
 class QSettings;
 
-/// What the workbench is used for and which aids are shown for it, as the settings say. GUI thread.
+/// What the workbench is used for and which aids are shown for it. The settings are read at the start: every live frame
+/// asks. GUI thread.
 class UseArea : public UseAreaManager
 {
     Q_OBJECT
@@ -14,13 +15,13 @@ public:
     /// `settings` is borrowed and outlives this object.
     explicit UseArea(QSettings *settings, QObject *parent = nullptr);
 
-    int GetUseAreaType() const override;
-    bool IsSpectrumHidden() const override;
-    bool IsAxisVisible() const override;
-    bool IsCurveVisible() const override;
-    bool IsColorCardVisible() const override;
-    bool IsToolBarVisible() const override;
-    bool IsInfoBarVisible() const override;
+    int GetUseAreaType() const override { return m_type; }
+    bool IsSpectrumHidden() const override { return m_isSpectrumHidden; }
+    bool IsAxisVisible() const override { return m_isAxisVisible; }
+    bool IsCurveVisible() const override { return m_isCurveVisible; }
+    bool IsColorCardVisible() const override { return m_isColorCardVisible; }
+    bool IsToolBarVisible() const override { return m_isToolBarVisible; }
+    bool IsInfoBarVisible() const override { return m_isInfoBarVisible; }
 
 public slots:
     /// Spectroscopy, or pictures again. Each change here is kept and announced; what is set already changes nothing.
@@ -31,7 +32,14 @@ public slots:
 
 private:
     bool Stored(const char *key, bool standard) const;
-    void SetAid(const char *key, bool visible);
+    void SetAid(bool *aid, const char *key, bool visible);
 
     QSettings *m_settings;
+    int m_type;
+    bool m_isSpectrumHidden;
+    bool m_isAxisVisible;
+    bool m_isCurveVisible;
+    bool m_isColorCardVisible;
+    bool m_isToolBarVisible;
+    bool m_isInfoBarVisible;
 };

@@ -74,6 +74,20 @@ private slots:
         QVERIFY(area.IsAxisVisible());
     }
 
+    /// Another program that shares the file switches nothing here: it would not be announced.
+    void settingsAreReadAtTheStart()
+    {
+        m_settings.clear();
+        UseArea area(&m_settings);
+        m_settings.setValue("useArea/type", UseAreaManager::SpectrumUseArea);
+        m_settings.setValue("useArea/axis", false);
+        QVERIFY(!area.IsSpectrumPagePresent());
+        QVERIFY(area.IsAxisVisible());
+        const QSignalSpy changes(&area, &UseAreaManager::signalUpdateUseArea);
+        area.slotSetSpectrum(true);
+        QCOMPARE(changes.count(), 1);
+    }
+
 private:
     QTemporaryDir m_folder;
     QSettings m_settings{m_folder.filePath("settings.ini"), QSettings::IniFormat};
