@@ -20,4 +20,8 @@ struct SpectralAxis
     double laserNm = 0; ///< of Raman work; 0 when the file does not say
 
     bool IsEmpty() const { return values.isEmpty(); }
+    bool operator==(const SpectralAxis &other) const
+    {
+        return unit == other.unit && values == other.values && laserNm == other.laserNm;
+    }
 };

@@ -18,6 +18,8 @@ public:
     void SetWidth(int width) { m_width = width; }
 
     const SpectralCalibration &Calibration() const { return m_calibration; }
+    const SpectralAxis &FileAxis() const { return m_fileAxis; }
+    int Width() const { return m_width; }
     /// By what came with the file, or by our own calibration where it fits.
     bool IsCalibrated() const;
     /// What At() gives: pixels unless there is a calibration.

@@ -2,7 +2,6 @@
 #include "spectrumsettings.h"
 
 #include "centredisplay.h"
-#include "displaymodemanager.h"
 
 SpectrumSettings::SpectrumSettings(DisplayModeManager *ranges, CentreDisplay *centre, QObject *parent)
     : SpectrumUIManager(parent)
@@ -280,6 +279,8 @@ void SpectrumSettings::SetUnit(SpectralUnit unit)
 
 void SpectrumSettings::SetImageAxis(const SpectralAxis &axis, int width)
 {
+    if (m_imageAxis.FileAxis() == axis && m_imageAxis.Width() == width)
+        return; // the next frame: what is announced asks for the curves anew
     m_imageAxis.SetFileAxis(axis);
     m_imageAxis.SetWidth(width);
     AnnounceAxis();
@@ -329,59 +330,6 @@ bool SpectrumSettings::IsValidConversation(QString *text) const
     return ends.size() == 2 && ends[0].toDouble(&isFirst) != ends[1].toDouble(&isLast) && isFirst && isLast;
 }
 
-void SpectrumSettings::SlotNewArea(double xmin, double xmax, double ymin, double ymax)
-{
-    const Area area{xmin, xmax, ymin, ymax};
-    if (!IsArea(area))
-        return; // the rulers stay
-    m_liveArea = area;
-    AnnounceLiveArea();
-}
-
-void SpectrumSettings::SlotImageNewArea(double xmin, double xmax, double ymin, double ymax)
-{
-    const Area area{xmin, xmax, ymin, ymax};
-    if (!IsArea(area))
-        return; // the rulers stay
-    m_imageArea = area;
-    CalculateImageArea();
-}
-
-void SpectrumSettings::CalculateImageArea()
-{
-    AnnounceArea(m_imageArea, &DisplayModeManager::SignalImageChangeHShowValueRange,
-                 &DisplayModeManager::SignalImageChangeVShowValueRange);
-}
-
-void SpectrumSettings::AnnounceLiveArea()
-{
-    AnnounceArea(m_liveArea, &DisplayModeManager::SignalChangeHShowValueRange,
-                 &DisplayModeManager::SignalChangeVShowValueRange);
-}
-
-/// Also false for what is no number.
-bool SpectrumSettings::IsArea(const Area &area)
-{
-    return qIsFinite(area.left) && qIsFinite(area.top) && qIsFinite(area.right) && qIsFinite(area.bottom)
-        && area.left < area.right && area.top < area.bottom;
-}
-
-void SpectrumSettings::AnnounceArea(const Area &area, RangeSignal horizontal, RangeSignal vertical)
-{
-    if (!IsArea(area))
-        return; // no picture yet
-    const bool isHorizontal = IsDirectionHorinzontal();
-    emit (m_ranges->*horizontal)(RulerValue(area.left, isHorizontal), RulerValue(area.right, isHorizontal));
-    emit (m_ranges->*vertical)(RulerValue(area.top, !isHorizontal), RulerValue(area.bottom, !isHorizontal));
-}
-
-/// Along the spectrum a calibrated value, where there is one; else the pixel itself.
-double SpectrumSettings::RulerValue(double pixel, bool isSpectralSide) const
-{
-    double value = pixel;
-    return isSpectralSide && Calculate(qRound(pixel), value) ? value : pixel;
-}
-
 // Style
 
 void SpectrumSettings::SetStyle(const PlotStyle &style)
@@ -409,12 +357,6 @@ int SpectrumSettings::GetPeakNumber() const { return m_style.peakNumber; }
 QColor SpectrumSettings::GetBackgroundColor() const { return m_style.background; }
 
 double SpectrumSettings::GetBlankRatio() const { return m_style.blankRatio; }
-
-QString SpectrumSettings::GetTitleName() const
-{
-    double x = 0;
-    return Calculate(0, x) ? ShownAxis().Title() : CalibratedAxis().Title();
-}
 
 bool SpectrumSettings::GetZoomAutoFlag() const { return m_isZoomAutomatic; }
 

@@ -4,6 +4,7 @@
 #include "calibratedaxis.h"
 #include "displaymode.h"
 #include "plotstyle.h"
+#include "rulerrange.h"
 #include "spectrumrecipe.h"
 #include "spectrumuimanager.h"
 
@@ -41,6 +42,8 @@ public:
     void SetImageAxis(const SpectralAxis &axis, int width);
     /// The axis of what is on the screen.
     const CalibratedAxis &ShownAxis() const;
+    /// What Calculate() gives: "Wavelength [nm]". The rulers may have another, GetTitleName().
+    QString AxisTitle() const;
     /// An opened picture is on the screen, rather than the live one.
     bool IsImageShown() const { return m_isImageShown; }
     PlotStyle Style() const { return m_style; }
@@ -119,7 +122,10 @@ private:
     static bool IsArea(const Area &area);
     void AnnounceArea(const Area &area, RangeSignal horizontal, RangeSignal vertical);
     void AnnounceLiveArea();
-    double RulerValue(double pixel, bool isSpectralSide) const;
+    /// Of the side that the spectrum lies along.
+    RulerRange SpectralPixels(const Area &area) const;
+    /// Null where a ruler has to count pixels.
+    std::optional<RulerRange> SpectralValues(const Area &area) const;
     int MostTracks(bool horizontal) const;
     void SwitchTracksOff(const QString &reason);
     void AnnounceAxis();

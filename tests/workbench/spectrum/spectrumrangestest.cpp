@@ -43,6 +43,8 @@ using Range = QList<QVariant>;
 
 } // namespace
 
+Q_DECLARE_METATYPE(SpectralAxis)
+
 class SpectrumRangesTest : public GuardedTest
 {
     Q_OBJECT
@@ -50,6 +52,10 @@ class SpectrumRangesTest : public GuardedTest
 private slots:
     void rulersCountPixelsWithoutCalibration();
     void calibratedValuesStandAlongTheSpectrum();
+    void rulersCountInTheirCalibration_data();
+    void rulersCountInTheirCalibration();
+    void titleFollowsTheZoom();
+    void theSameAxisIsAnnouncedOnce();
     void openedPictureHasRangesOfItsOwn();
     void areaOfNoSenseIsIgnored_data();
     void areaOfNoSenseIsIgnored();
@@ -82,6 +88,121 @@ void SpectrumRangesTest::calibratedValuesStandAlongTheSpectrum()
     parts.centre.CalculatePreviewArea(); // the direction was changed
     QCOMPARE(parts.liveH.takeFirst(), Range({100.0, 300.0}));
     QCOMPARE(parts.liveV.takeFirst(), Range({405.0, 500.0}));
+}
+
+void SpectrumRangesTest::rulersCountInTheirCalibration_data()
+{
+    QTest::addColumn<SpectralAxis>("axis");
+    QTest::addColumn<int>("unit");
+    QTest::addColumn<double>("left");
+    QTest::addColumn<double>("right");
+    QTest::addColumn<Range>("range");
+    QTest::addColumn<QString>("title");
+    const QString nanometres = "Wavelength [nm]";
+    const QString pixels = "Pixel Number";
+    const int nm = int(SpectralUnit::Nanometre);
+    const int wavenumber = int(SpectralUnit::Wavenumber);
+    const auto axis = [](SpectralUnit unit, double first, double step, double bend = 0) {
+        SpectralAxis values;
+        values.unit = unit;
+        for (int i = 0; i < 1001; ++i)
+            values.values << first + step * i + bend * i * (1000 - i) / 250000.0;
+        return values;
+    };
+    const SpectralAxis rising = axis(SpectralUnit::Nanometre, 400, 0.5);
+    QTest::newRow("whole") << rising << nm << 0.0 << 1000.0 << Range({400.0, 900.0}) << nanometres;
+    QTest::newRow("zoomed to 5 nm") << rising << nm << 200.0 << 210.0 << Range({500.0, 505.0}) << nanometres;
+    QTest::newRow("zoomed to less") << rising << nm << 200.0 << 209.0 << Range({200.0, 209.0}) << pixels;
+    QTest::newRow("in pixels") << rising << int(SpectralUnit::Pixel) << 0.0 << 1000.0 << Range({0.0, 1000.0}) << pixels;
+    QTest::newRow("falling in wavenumbers") << rising << wavenumber << 0.0 << 1000.0 << Range({0.0, 1000.0}) << pixels;
+    const SpectralAxis falling = axis(SpectralUnit::Nanometre, 900, -0.5);
+    QTest::newRow("falling") << falling << nm << 0.0 << 1000.0 << Range({0.0, 1000.0}) << pixels;
+    // Rising from 11111 to 25000, but at the middle of the sensor 15385 and not 18056.
+    QTest::newRow("uneven") << falling << wavenumber << 0.0 << 1000.0 << Range({0.0, 1000.0}) << pixels;
+    // 800 to 795 nm: next to even.
+    QTest::newRow("even for a part") << falling << wavenumber << 200.0 << 210.0 << Range({12500.0, 1e7 / 795})
+                                     << "Wavenumber [1/cm]";
+    // In the middle 1.8 and 2.2 % of 500 nm away from a straight line.
+    QTest::newRow("bent a little") << axis(SpectralUnit::Nanometre, 400, 0.5, 9) << nm << 0.0 << 1000.0
+                                   << Range({400.0, 900.0}) << nanometres;
+    QTest::newRow("bent") << axis(SpectralUnit::Nanometre, 400, 0.5, 11) << nm << 0.0 << 1000.0 << Range({0.0, 1000.0})
+                          << pixels;
+    QTest::newRow("Raman shift") << axis(SpectralUnit::RamanShift, 100, 3) << nm << 0.0 << 1000.0
+                                 << Range({100.0, 3100.0}) << "Raman Shift [1/cm]";
+    QTest::newRow("on both sides of the laser") << axis(SpectralUnit::RamanShift, -100, 3) << nm << 0.0 << 1000.0
+                                                << Range({0.0, 1000.0}) << pixels;
+    QTest::newRow("no calibration") << SpectralAxis() << nm << 0.0 << 1000.0 << Range({0.0, 1000.0}) << pixels;
+}
+
+/// Values that a ruler would show falsely are not told to it, nor what they would be called.
+void SpectrumRangesTest::rulersCountInTheirCalibration()
+{
+    QFETCH(SpectralAxis, axis);
+    QFETCH(int, unit);
+    QFETCH(double, left);
+    QFETCH(double, right);
+    QFETCH(Range, range);
+    Parts parts;
+    SpectrumSettings settings(&parts.ranges, &parts.centre);
+    settings.SetMode(DisplayMode::Physics);
+    settings.slotSetImageShown(true);
+    settings.SetUnit(SpectralUnit(unit));
+    settings.SetImageAxis(axis, 1001);
+    parts.imageH.clear();
+    settings.SlotImageNewArea(left, right, 10, 200);
+    QVERIFY(!parts.imageH.isEmpty());
+    QCOMPARE(parts.imageH.last().at(0).toDouble(), range.at(0).toDouble());
+    QCOMPARE(parts.imageH.last().at(1).toDouble(), range.at(1).toDouble());
+    QCOMPARE(parts.imageV.last(), Range({10.0, 200.0}));
+    QTEST(settings.GetTitleName(), "title");
+}
+
+void SpectrumRangesTest::titleFollowsTheZoom()
+{
+    Parts parts;
+    SpectrumSettings settings(&parts.ranges, &parts.centre);
+    settings.SetMode(DisplayMode::Physics);
+    SpectralAxis axis;
+    axis.unit = SpectralUnit::Nanometre;
+    axis.values = {400, 400.5};
+    settings.slotSetImageShown(true);
+    settings.SetImageAxis(axis, 1000);
+    QCOMPARE(settings.GetTitleName(), QString("Wavelength [nm]"));
+    const QSignalSpy titles(&settings, &SpectrumUIManager::signalDisplayModePropertyChange);
+    settings.SlotImageNewArea(0, 1000, 0, 200);
+    QCOMPARE(titles.count(), 0);
+    settings.SlotImageNewArea(100, 108, 0, 200);
+    QCOMPARE(titles.count(), 1);
+    QCOMPARE(settings.GetTitleName(), QString("Pixel Number"));
+    settings.SetMode(DisplayMode::Plot); // which shows any axis
+    QCOMPARE(settings.GetTitleName(), QString("Wavelength [nm]"));
+    settings.SetMode(DisplayMode::Physics);
+    settings.SlotImageNewArea(100, 300, 0, 200);
+    QCOMPARE(titles.count(), 2);
+    QCOMPARE(settings.GetTitleName(), QString("Wavelength [nm]"));
+}
+
+/// A stack's next frame has the axis of the one before: nobody needs to ask for curves anew.
+void SpectrumRangesTest::theSameAxisIsAnnouncedOnce()
+{
+    Parts parts;
+    SpectrumSettings settings(&parts.ranges, &parts.centre);
+    const QSignalSpy titles(&settings, &SpectrumUIManager::signalDisplayModePropertyChange);
+    SpectralAxis axis;
+    axis.unit = SpectralUnit::Nanometre;
+    axis.values = {400, 401, 402};
+    for (int frame = 0; frame < 3; ++frame) {
+        settings.SetImageAxis(axis, 3);
+        QCOMPARE(titles.count(), 1);
+    }
+    axis.values[2] = 403;
+    settings.SetImageAxis(axis, 3);
+    QCOMPARE(titles.count(), 2);
+    settings.SetImageAxis(axis, 4);
+    QCOMPARE(titles.count(), 3);
+    axis.unit = SpectralUnit::RamanShift;
+    settings.SetImageAxis(axis, 4);
+    QCOMPARE(titles.count(), 4);
 }
 
 void SpectrumRangesTest::openedPictureHasRangesOfItsOwn()
