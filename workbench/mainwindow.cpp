@@ -9,6 +9,7 @@
 #include "cameranotice.h"
 #include "camerasession.h"
 #include "countfields.h"
+#include "curvestatus.h"
 #include "drawingguard.h"
 #include "filedrop.h"
 #include "filepagecommands.h"
@@ -112,6 +113,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     m_recordingStatus = new RecordingStatus(services->Recording(), recordingLabel, this);
     connect(m_recordingStatus, &RecordingStatus::signalLossSeen, this,
             [this](bool seen) { statusBar()->setVisible(!m_isFullScreen || seen); });
+    new CurveStatus(services, statusBar(), this);
     m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);
     connect(services, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
     connect(m_drawingGuard, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectrummenu.h"
 
+#include "centredisplay.h"
 #include "liveprofiles.h"
 #include "usearea.h"
 #include "workbenchservices.h"
 
 #include <QActionGroup>
+
+#include <set>
 
 SpectrumMenu::SpectrumMenu(WorkbenchServices *services, QWidget *parent)
     : QMenu(tr("S&pectrum"), parent)
@@ -21,11 +24,12 @@ SpectrumMenu::SpectrumMenu(WorkbenchServices *services, QWidget *parent)
     AddLines();
 
     const UseArea *useArea = services->GetUseArea();
-    connect(m_spectrum, &QAction::triggered, useArea, &UseArea::slotSetSpectrum);
+    connect(m_spectrum, &QAction::triggered, this, &SpectrumMenu::slotShow);
     connect(m_axes, &QAction::triggered, useArea, &UseArea::slotSetAxisVisible);
     connect(m_curves, &QAction::triggered, useArea, &UseArea::slotSetCurveVisible);
     connect(m_colorBar, &QAction::triggered, useArea, &UseArea::slotSetColorCardVisible);
     connect(useArea, &UseArea::signalUpdateUseArea, this, &SpectrumMenu::slotUpdate);
+    connect(services->Centre(), &CentreDisplay::signalModeChanged, this, &SpectrumMenu::slotUpdate);
     connect(useArea, &UseArea::signalSpectrumUIUpdate, this, &SpectrumMenu::slotUpdate);
     connect(services->Profiles(), &LiveProfiles::signalLinesChanged, this, &SpectrumMenu::slotUpdate);
     slotUpdate();
@@ -34,7 +38,9 @@ SpectrumMenu::SpectrumMenu(WorkbenchServices *services, QWidget *parent)
 void SpectrumMenu::AddLines()
 {
     QMenu *menu = addMenu(tr("Curves of &Lines"));
-    for (const int lines : {1, 3, 5, 11, 21, 51, PickedProfiles::MostLines}) {
+    std::set<int> widths{1, 3, 5, 11, 21, 51, PickedProfiles::MostLines};
+    widths.insert(m_services->Profiles()->Lines()); // the settings may hold any
+    for (const int lines : widths) {
         QAction *action = menu->addAction(lines == 1 ? tr("One row, one column") : tr("Mean of %1").arg(lines));
         action->setActionGroup(m_linesGroup);
         action->setCheckable(true);
@@ -50,15 +56,24 @@ QAction *SpectrumMenu::AddCheckable(const QString &text)
     return action;
 }
 
+/// Within the use for spectra the picture may be shown all the same.
+void SpectrumMenu::slotShow(bool spectrum)
+{
+    m_services->GetUseArea()->slotSetSpectrum(spectrum);
+    if (spectrum)
+        m_services->Centre()->ShowSpectrum(true);
+}
+
 void SpectrumMenu::slotUpdate()
 {
     const UseArea *useArea = m_services->GetUseArea();
-    m_spectrum->setChecked(useArea->IsSpectrumPagePresent());
+    const bool isShown = useArea->IsSpectrumPagePresent() && m_services->Centre()->Mode() != DisplayMode::General;
+    m_spectrum->setChecked(isShown);
     m_axes->setChecked(useArea->IsAxisVisible());
     m_curves->setChecked(useArea->IsCurveVisible());
     m_colorBar->setChecked(useArea->IsColorCardVisible());
     for (QAction *action : m_linesGroup->actions())
         action->setChecked(action->data().toInt() == m_services->Profiles()->Lines());
     for (QAction *aid : {m_axes, m_curves, m_colorBar})
-        aid->setEnabled(useArea->IsSpectrumPagePresent());
+        aid->setEnabled(isShown);
 }

@@ -18,6 +18,7 @@ public:
 
 private:
     void slotUpdate();
+    void slotShow(bool spectrum);
     void AddLines();
     QAction *AddCheckable(const QString &text);
 
@@ -27,5 +28,4 @@ private:
     QAction *m_axes;
     QAction *m_curves;
     QAction *m_colorBar;
-
 };

@@ -242,7 +242,10 @@ void WorkbenchServices::ConnectSpectrum()
             [this] { m_config->SetCompareView(); });
     connect(m_profiles.get(), &LiveProfiles::signalFrameWanted, m_preview.get(), &LivePreview::slotShowAgain);
     connect(m_levelsModel.get(), &LevelsModel::signalPaletteChanged, this, &WorkbenchServices::slotShowPalette);
+    connect(m_link, &CameraLink::signalFormatChanged, this, &WorkbenchServices::slotShowPalette);
+    connect(m_link, &CameraLink::signalStateChanged, this, &WorkbenchServices::slotShowPalette);
     for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()}) {
+        connect(picture, &OpenedPicture::signalShown, this, &WorkbenchServices::slotShowPalette);
         connect(m_profiles.get(), &LiveProfiles::signalLinesChanged, picture, &OpenedPicture::slotSetCurveLines);
         picture->slotSetCurveLines(m_profiles->Lines());
     }
@@ -285,10 +288,12 @@ void WorkbenchServices::UpdateProfilesWanted()
 
 void WorkbenchServices::slotShowPalette()
 {
-    const QVector<QColor> colours = m_levelsModel->GetPalette().Colours();
-    emit m_profiles->SignalPseudoColorsUpdate(colours);
-    emit m_mainPicture->signalUpdatePseudoColor(colours);
-    emit m_comparePicture->signalUpdatePseudoColor(colours);
+    // A colour picture keeps its own colours: the greys that each of the three is made of.
+    const auto coloursOf = [this](bool isColour) { return (isColour ? Palette() : m_levelsModel->GetPalette()).Colours(); };
+    const CameraSession *camera = m_link->Session();
+    emit m_profiles->SignalPseudoColorsUpdate(coloursOf(camera && camera->Format().Layout() == PixelLayout::Rgb8));
+    for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()})
+        emit picture->signalUpdatePseudoColor(coloursOf(picture->IsColour()));
 }
 
 void WorkbenchServices::ConnectPictures()

@@ -28,6 +28,7 @@ public:
     void SetAnchorPoint(int x, int y, QRectF normalisedRect) override;
     /// Profiles are worked out only while they are wanted.
     void SetWanted(bool wanted);
+    bool IsWanted() const { return m_isWanted; }
     /// Neighbouring lines that a profile is the mean of; 1 to PickedProfiles::MostLines.
     int Lines() const { return m_lines; }
     void SetLines(int lines);
