@@ -6,9 +6,12 @@
 #include "runningworkbench.h"
 #include "spectrographoptics.h"
 #include "spectrumcurvepayload.h"
+#include "spectrumonscreen.h"
+#include "spectrumuimanager.h"
 
 #include <QAction>
 #include <QGraphicsView>
+#include <QLabel>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
 #include <QSignalSpy>
@@ -76,7 +79,7 @@ private slots:
         QVERIFY(m_workbench->WaitForPicture());
         m_workbench->link.SetScene("spectrograph");
         m_workbench->Action("Spectrum Page")->trigger();
-        QTRY_VERIFY(SpectrumImage());
+        QTRY_VERIFY(Page().Image());
         QVERIFY(m_workbench->WaitForNextPicture());
     }
 
@@ -92,31 +95,16 @@ private slots:
     void aidsAreSwitchedOneByOne();
     void widthOfTheBandIsChosen();
     void startsWhereItEnded();
+    void menuSaysWhatIsShown();
+    void curveIsDrawn();
+    void barOfAColourPictureIsGrey();
 
 private:
-    QGraphicsView *SpectrumImage() const
-    {
-        for (QGraphicsView *view : m_workbench->window.findChildren<QGraphicsView *>()) {
-            if (view->inherits("SpectrumDrawViewBase") && view->isVisible())
-                return view;
-        }
-        return nullptr;
-    }
-
-    /// Of the live page: those that can be seen.
-    int VisibleAids(const char *className) const
-    {
-        int count = 0;
-        for (const QWidget *widget : m_workbench->window.findChildren<QWidget *>())
-            count += widget->inherits(className) && widget->isVisible();
-        return count;
-    }
-
     void Click(const QPointF &scenePos) const
     {
-        QGraphicsView *view = SpectrumImage();
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->mapFromScene(scenePos));
+        Page().Drag(scenePos, scenePos);
     }
+    SpectrumOnScreen Page() const { return SpectrumOnScreen(&m_workbench->window); }
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<RunningWorkbench> m_workbench;
@@ -157,7 +145,7 @@ void SpectrumAidsScenario::paletteIsThatOfPictureAndBar()
         QCOMPARE(colours.takeLast().first().value<QVector<QColor>>(), palette.Colours());
         QVERIFY(m_workbench->WaitForNextPicture());
         // A dark place of the sensor: the offset is 2 % of full scale, 5 of 255.
-        const QGraphicsView *view = SpectrumImage();
+        const QGraphicsView *view = Page().Image();
         const QPoint place = view->viewport()->mapToGlobal(view->mapFromScene(QPointF(300, 20)));
         QTRY_VERIFY([&] {
             const QColor seen = m_workbench->OnScreenAt(place);
@@ -185,18 +173,18 @@ void SpectrumAidsScenario::aidsAreSwitchedOneByOne()
                 {"Intensity Curves", "IntensityCurveLayoutItem", 2},
                 {"Colour Bar", "GradientColorLayoutItem", 1}};
     for (const auto &aid : aids)
-        QTRY_COMPARE(VisibleAids(aid.className), aid.count);
+        QTRY_COMPARE(Page().Aids(aid.className), aid.count);
     for (const auto &aid : aids) {
-        const int heightBefore = SpectrumImage()->height();
+        const int heightBefore = Page().Image()->height();
         m_workbench->Action(aid.action)->trigger();
         for (const auto &other : aids)
-            QCOMPARE(VisibleAids(other.className), &other == &aid ? 0 : other.count);
-        QVERIFY(SpectrumImage()->height() >= heightBefore);
+            QCOMPARE(Page().Aids(other.className), &other == &aid ? 0 : other.count);
+        QVERIFY(Page().Image()->height() >= heightBefore);
         m_workbench->Action(aid.action)->trigger();
-        QCOMPARE(VisibleAids(aid.className), aid.count);
+        QCOMPARE(Page().Aids(aid.className), aid.count);
     }
     m_workbench->Action("Spectrum Page")->trigger();
-    QTRY_VERIFY(!SpectrumImage());
+    QTRY_VERIFY(!Page().Image());
     QVERIFY(!m_workbench->Action("Rulers")->isEnabled());
 }
 
@@ -218,30 +206,92 @@ void SpectrumAidsScenario::widthOfTheBandIsChosen()
         return squares / 200 - sum / 200 * sum / 200;
     };
     const double alone = noise();
+    const auto *width = m_workbench->window.findChild<QLabel *>("labelStatusCurves");
+    QVERIFY(width->isVisible());
+    QCOMPARE(width->text(), QString("curves of one line"));
     m_workbench->Action("Mean of 51")->trigger();
+    QCOMPARE(width->text(), QString("curves: mean of 51 lines"));
     const double mean = noise();
     QVERIFY(alone > 0 && mean >= 0);
     QVERIFY2(mean < alone / 3 + 0.3, qPrintable(QString("%1 of %2").arg(mean).arg(alone)));
     QVERIFY(m_workbench->Action("Mean of 51")->isChecked());
+    // It is said while a curve is seen.
+    m_workbench->Action("Intensity Curves")->trigger();
+    QVERIFY(!width->isVisible());
+    m_workbench->Action("Curve")->trigger(); // which is one
+    QVERIFY(width->isVisible());
+    m_workbench->Action("Picture")->trigger();
+    QVERIFY(!width->isVisible());
 }
 
 void SpectrumAidsScenario::startsWhereItEnded()
 {
     m_workbench->Action("Magma")->trigger();
     m_workbench->Action("Intensity Curves")->trigger();
+    m_workbench->settings.Settings()->setValue("spectrum/profileLines", 7); // by hand
     m_workbench.reset();
     m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
     QVERIFY(m_workbench->WaitForPicture());
-    QTRY_VERIFY(SpectrumImage());
-    QTRY_COMPARE(VisibleAids("RulerBarVertical"), 1);
-    QCOMPARE(VisibleAids("IntensityCurveLayoutItem"), 0);
+    QTRY_VERIFY(Page().Image());
+    QTRY_COMPARE(Page().Aids("RulerBarVertical"), 1);
+    QCOMPARE(Page().Aids("IntensityCurveLayoutItem"), 0);
     QVERIFY(m_workbench->Action("Magma")->isChecked());
+    QVERIFY(m_workbench->Action("Spectrum Page")->isChecked());
+    QVERIFY(m_workbench->Action("Mean of 7")->isChecked());
     for (const QWidget *widget : m_workbench->window.findChildren<QWidget *>()) {
         if (!widget->inherits("GradientColorLayoutItem") || !widget->isVisible())
             continue;
         const QPoint last = widget->mapToGlobal(QPoint(widget->width() / 2, widget->height() / 2));
         QTRY_VERIFY(m_workbench->OnScreenAt(last).saturation() > 50);
     }
+}
+
+void SpectrumAidsScenario::menuSaysWhatIsShown()
+{
+    QAction *spectrum = m_workbench->Action("Spectrum Page");
+    QVERIFY(spectrum->isChecked());
+    m_workbench->Action("Picture")->trigger(); // within the use for spectra
+    QTRY_VERIFY(!Page().Image());
+    QVERIFY(!spectrum->isChecked());
+    QVERIFY(!m_workbench->Action("Rulers")->isEnabled());
+    spectrum->trigger();
+    QTRY_VERIFY(Page().Image());
+    QVERIFY(spectrum->isChecked());
+    QVERIFY(m_workbench->Action("Rulers")->isEnabled());
+    spectrum->trigger();
+    QTRY_VERIFY(!Page().Image());
+    QVERIFY(!spectrum->isChecked());
+    m_workbench->Action("Sensor Image")->trigger();
+    QTRY_VERIFY(Page().Image());
+    QVERIFY(spectrum->isChecked());
+}
+
+/// On the screen: the row curve stands out where the lamp has a line.
+void SpectrumAidsScenario::curveIsDrawn()
+{
+    const double y = Truth.TrackCentre(1);
+    Click(QPointF(300, y));
+    const QColor colour = SpectrumUIManager::GetInstance()->GetLineColor();
+    const double line = Truth.LinePosition(546.075, y);
+    QTRY_VERIFY(Page().RowCurveAt(line, colour) >= 0);
+    QTRY_VERIFY(Page().RowCurveAt(line - 150, colour) > Page().RowCurveAt(line, colour) + 8);
+    // Between two tracks there is no light.
+    Click(QPointF(300, (Truth.TrackCentre(0) + Truth.TrackCentre(1)) / 2));
+    QTRY_VERIFY(Page().RowCurveAt(line, colour) > Page().RowCurveAt(line - 150, colour) - 4);
+}
+
+void SpectrumAidsScenario::barOfAColourPictureIsGrey()
+{
+    m_workbench->Action("Viridis")->trigger();
+    const auto saturationInBar = [&] {
+        const QWidget *bar = Page().Aid("GradientColorLayoutItem");
+        return bar ? m_workbench->OnScreenAt(bar->mapToGlobal(bar->rect().center())).saturation() : -1;
+    };
+    QTRY_VERIFY(saturationInBar() > 50);
+    m_workbench->link.SetPixelLayout(PixelLayout::Rgb8);
+    QTRY_COMPARE(saturationInBar(), 0);
+    m_workbench->link.SetPixelLayout(PixelLayout::Mono16);
+    QTRY_VERIFY(saturationInBar() > 50);
 }
 
 GUARDED_TEST_MAIN(SpectrumAidsScenario)
