@@ -9,6 +9,93 @@
     </message>
 </context>
 <context>
+    <name>AdjustmentFields</name>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramm</translation>
+    </message>
+    <message>
+        <source>Samples</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>Black</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>White</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Gamma</source>
+        <translation>Gamma</translation>
+    </message>
+    <message>
+        <source>Above 1 it brightens the middle.</source>
+        <translation>Über 1 wird die Mitte heller.</translation>
+    </message>
+    <message>
+        <source>Reset Levels</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Tonwerte</translation>
+    </message>
+    <message>
+        <source>Palette</source>
+        <translation>Palette</translation>
+    </message>
+    <message>
+        <source>Of mono pictures; colour pictures keep their own colours.</source>
+        <translation>Für Graustufenbilder; Farbbilder behalten ihre Farben.</translation>
+    </message>
+    <message>
+        <source>Mark saturated pixels</source>
+        <translation>Gesättigte Pixel markieren</translation>
+    </message>
+    <message>
+        <source>Pixels at full scale are shown red (Ctrl+M).</source>
+        <translation>Pixel am oberen Anschlag werden rot gezeigt (Strg+M).</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Flip Horizontally</source>
+        <translation>Spiegeln ↔</translation>
+    </message>
+    <message>
+        <source>Ctrl+H</source>
+        <translation>Strg+H</translation>
+    </message>
+    <message>
+        <source>Flip Vertically</source>
+        <translation>Spiegeln ↕</translation>
+    </message>
+    <message>
+        <source>Ctrl+V</source>
+        <translation>Strg+V</translation>
+    </message>
+    <message>
+        <source>Rotate by 90°</source>
+        <translation>Um 90° drehen</translation>
+    </message>
+    <message>
+        <source>Clockwise (Ctrl+R)</source>
+        <translation>Im Uhrzeigersinn (Strg+R)</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Lage</translation>
+    </message>
+</context>
+<context>
     <name>AnalysisFields</name>
     <message>
         <source>Picture</source>
@@ -75,6 +162,125 @@
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibrate the Spectrum</source>
+        <translation>Spektrum kalibrieren</translation>
+    </message>
+    <message>
+        <source>Lamps:</source>
+        <translation>Lampen:</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source> nm</source>
+        <translation> nm</translation>
+    </message>
+    <message>
+        <source>A&amp;ssign Lines by Itself</source>
+        <translation>Linien &amp;selbst zuordnen</translation>
+    </message>
+    <message>
+        <source>First and last pixel, about:</source>
+        <translation>Erstes und letztes Pixel, etwa:</translation>
+    </message>
+    <message>
+        <source>Line:</source>
+        <translation>Linie:</translation>
+    </message>
+    <message>
+        <source>Degree of the polynomial:</source>
+        <translation>Grad des Polynoms:</translation>
+    </message>
+    <message>
+        <source>pixel </source>
+        <translation>Pixel </translation>
+    </message>
+    <message>
+        <source>Add &amp;Line</source>
+        <translation>&amp;Linie hinzufügen</translation>
+    </message>
+    <message>
+        <source>Pixel</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>Wavelength [nm]</source>
+        <translation>Wellenlänge [nm]</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lampe</translation>
+    </message>
+    <message>
+        <source>Residual [pixel]</source>
+        <translation>Abweichung [Pixel]</translation>
+    </message>
+    <message>
+        <source>&amp;New Spectrum</source>
+        <translation>&amp;Neues Spektrum</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Line</source>
+        <translation>Linie &amp;entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>No &amp;Calibration</source>
+        <translation>&amp;Keine Kalibrierung</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>&amp;Anwenden</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>%1 nm %2</source>
+        <translation>%1 nm %2</translation>
+    </message>
+    <message>
+        <source>Lines are being assigned…</source>
+        <translation>Die Linien werden zugeordnet…</translation>
+    </message>
+    <message>
+        <source>No assignment fits: choose the lamps, say about which wavelengths the ends have, or add lines by hand.</source>
+        <translation>Keine Zuordnung passt: die Lampen wählen, angeben, welche Wellenlängen die Enden etwa haben, oder Linien von Hand hinzufügen.</translation>
+    </message>
+    <message>
+        <source>Choose a line from the list, or write its wavelength in nanometres.</source>
+        <translation>Eine Linie aus der Liste wählen oder ihre Wellenlänge in Nanometern eingeben.</translation>
+    </message>
+    <message>
+        <source>%1 peaks in a spectrum of %2 pixels. Click a peak, choose its line, and add it.</source>
+        <translation>%1 Linien in einem Spektrum von %2 Pixeln. Eine anklicken, ihre Wellenlänge wählen und hinzufügen.</translation>
+    </message>
+    <message>
+        <source>There is no spectrum: switch vertical binning on, or open a spectrum and click into it, then press New Spectrum.</source>
+        <translation>Es gibt kein Spektrum: vertikales Binning einschalten oder ein Spektrum öffnen und hineinklicken, dann „Neues Spektrum“ drücken.</translation>
+    </message>
+    <message>
+        <source>Residual %1 pixels (%2 nm) rms; with one more line the error of leaving one out is known.</source>
+        <translation>Abweichung %1 Pixel (%2 nm) rms; mit einer weiteren Linie ist auch der Fehler beim Weglassen einer Linie bekannt.</translation>
+    </message>
+    <message>
+        <source>Residual %1 pixels (%2 nm) rms; leaving one out: %3 pixels.</source>
+        <translation>Abweichung %1 Pixel (%2 nm) rms; beim Weglassen je einer Linie: %3 Pixel.</translation>
+    </message>
+    <message>
+        <source>%1 It is applied.</source>
+        <translation>%1 Sie ist angewendet.</translation>
+    </message>
+</context>
+<context>
     <name>CalibrationFit</name>
     <message>
         <source>Two points lie at pixel %1 (%2 nm and %3 nm): remove one of them.</source>
@@ -106,6 +312,59 @@
     <message>
         <source>This program does not calibrate.</source>
         <translation>Dieses Programm kalibriert nicht.</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrationPlot</name>
+    <message>
+        <source>Pixel</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>Counts</source>
+        <translation>Zählwert</translation>
+    </message>
+    <message>
+        <source>Residual [pixel]</source>
+        <translation>Abweichung [Pixel]</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrationTable</name>
+    <message>
+        <source>The table was not saved as “%1”: %2. Choose another folder or name.</source>
+        <translation>Die Tabelle wurde nicht als „%1“ gespeichert: %2. Einen anderen Ordner oder Namen wählen.</translation>
+    </message>
+    <message>
+        <source>Pixel</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>Wavelength [nm]</source>
+        <translation>Wellenlänge [nm]</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lampe</translation>
+    </message>
+    <message>
+        <source>Residual [px]</source>
+        <translation>Abweichung [px]</translation>
+    </message>
+    <message>
+        <source>Not calibrated: positions are in pixels. Spectrum &gt; Calibrate… (Ctrl+Shift+L) takes the lines of a lamp.</source>
+        <translation>Nicht kalibriert: Positionen in Pixeln. Spektrum &gt; Kalibrieren… (Strg+Umschalt+L) nimmt die Linien einer Lampe.</translation>
+    </message>
+    <message>
+        <source>“%1” was saved.</source>
+        <translation>„%1“ wurde gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>CameraAdjustmentPanel</name>
+    <message>
+        <source>This program does not let panels adjust its live picture.</source>
+        <translation>Dieses Programm lässt Bedienfelder sein Livebild nicht anpassen.</translation>
     </message>
 </context>
 <context>
@@ -348,6 +607,14 @@
     <message>
         <source>frame rate</source>
         <translation>Bildrate</translation>
+    </message>
+    <message>
+        <source>automatic exposure</source>
+        <translation>automatische Belichtung</translation>
+    </message>
+    <message>
+        <source>automatic gain</source>
+        <translation>automatische Verstärkung</translation>
     </message>
 </context>
 <context>
@@ -623,6 +890,17 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>End the name in .tif, .fits, .png or .jpg.</source>
         <translation>Den Namen auf .tif, .fits, .png oder .jpg enden lassen.</translation>
+    </message>
+</context>
+<context>
+    <name>CurveStatus</name>
+    <message>
+        <source>curves of one line</source>
+        <translation>Kurven einer Zeile</translation>
+    </message>
+    <message>
+        <source>curves: mean of %1 lines</source>
+        <translation>Kurven: Mittel aus %1 Zeilen</translation>
     </message>
 </context>
 <context>
@@ -957,6 +1235,13 @@ Im Menü Kamera eine wählen.</translation>
     </message>
 </context>
 <context>
+    <name>ImageAdjustmentPanel</name>
+    <message>
+        <source>This program does not let panels adjust its pictures.</source>
+        <translation>Dieses Programm lässt Bedienfelder seine Bilder nicht anpassen.</translation>
+    </message>
+</context>
+<context>
     <name>InformationDialog</name>
     <message>
         <source>Camera Information</source>
@@ -990,6 +1275,36 @@ Im Menü Kamera eine wählen.</translation>
         <translation>Tonwerte</translation>
     </message>
     <message>
+        <source>&amp;Mode</source>
+        <translation>&amp;Art</translation>
+    </message>
+    <message>
+        <source>&amp;Black</source>
+        <translation>&amp;Schwarz</translation>
+    </message>
+    <message>
+        <source>&amp;White</source>
+        <translation>&amp;Weiß</translation>
+    </message>
+    <message>
+        <source>&amp;Gamma</source>
+        <translation>&amp;Gamma</translation>
+    </message>
+</context>
+<context>
+    <name>LevelsSource</name>
+    <message>
+        <source>There is no live picture.</source>
+        <translation>Es gibt kein Livebild.</translation>
+    </message>
+    <message>
+        <source>No picture is open.</source>
+        <translation>Es ist kein Bild offen.</translation>
+    </message>
+</context>
+<context>
+    <name>LevelsTexts</name>
+    <message>
         <source>Automatic (0.1 % to 99.9 %)</source>
         <translation>Automatisch (0,1 % bis 99,9 %)</translation>
     </message>
@@ -1006,22 +1321,6 @@ Im Menü Kamera eine wählen.</translation>
         <translation>Ganzer Bereich</translation>
     </message>
     <message>
-        <source>&amp;Mode</source>
-        <translation>&amp;Art</translation>
-    </message>
-    <message>
-        <source>&amp;Black</source>
-        <translation>&amp;Schwarz</translation>
-    </message>
-    <message>
-        <source>&amp;White</source>
-        <translation>&amp;Weiß</translation>
-    </message>
-    <message>
-        <source>&amp;Gamma</source>
-        <translation>&amp;Gamma</translation>
-    </message>
-    <message>
         <source>%1 bit floating point samples</source>
         <translation>Gleitkommawerte mit %1 Bit</translation>
     </message>
@@ -1029,16 +1328,13 @@ Im Menü Kamera eine wählen.</translation>
         <source>%1 bit samples, %2 to %3</source>
         <translation>Werte mit %1 Bit, %2 bis %3</translation>
     </message>
-</context>
-<context>
-    <name>LevelsSource</name>
     <message>
-        <source>There is no live picture.</source>
-        <translation>Es gibt kein Livebild.</translation>
+        <source>&amp;Grey</source>
+        <translation>&amp;Grau</translation>
     </message>
     <message>
-        <source>No picture is open.</source>
-        <translation>Es ist kein Bild offen.</translation>
+        <source>&amp;Inverted</source>
+        <translation>&amp;Invertiert</translation>
     </message>
 </context>
 <context>
@@ -1272,18 +1568,6 @@ Im Menü Kamera eine wählen.</translation>
         <source>Nothing was counted by class.</source>
         <translation>Nach Klassen wurde nichts gezählt.</translation>
     </message>
-    <message>
-        <source>Position in pixels</source>
-        <translation>Position in Pixeln</translation>
-    </message>
-    <message>
-        <source>Calibrated position</source>
-        <translation>Kalibrierte Position</translation>
-    </message>
-    <message>
-        <source>Residual</source>
-        <translation>Abweichung</translation>
-    </message>
 </context>
 <context>
     <name>PictureAccess</name>
@@ -1459,6 +1743,10 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>C&amp;ompare</source>
         <translation>&amp;Vergleichen</translation>
+    </message>
+    <message>
+        <source>&amp;Save Image As…</source>
+        <translation>Bild speichern &amp;unter…</translation>
     </message>
 </context>
 <context>
@@ -2291,6 +2579,18 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>last recording LOST %1</source>
         <translation>letzte Aufzeichnung VERLOR %1</translation>
     </message>
+    <message>
+        <source>in memory %1</source>
+        <translation>im Speicher %1</translation>
+    </message>
+    <message>
+        <source>  memory full in %1 s</source>
+        <translation>  Speicher voll in %1 s</translation>
+    </message>
+    <message>
+        <source>  disk full in %1 s</source>
+        <translation>  Platte voll in %1 s</translation>
+    </message>
 </context>
 <context>
     <name>ReplacingFile</name>
@@ -2390,6 +2690,10 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>more than one frame</source>
         <translation>mehr als ein Bild</translation>
+    </message>
+    <message>
+        <source>The run needs %1 frames, and a recording holds %2 at most.</source>
+        <translation>Die Aufzeichnung braucht %1 Bilder, und sie fasst höchstens %2.</translation>
     </message>
 </context>
 <context>
@@ -2673,6 +2977,14 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>Change the camera&apos;s format between recordings only.</source>
         <translation>Das Format der Kamera nur zwischen Aufzeichnungen ändern.</translation>
     </message>
+    <message>
+        <source>a recording holds %1 frames at most</source>
+        <translation>eine Aufzeichnung fasst höchstens %1 Bilder</translation>
+    </message>
+    <message>
+        <source>The frames before are kept; go on with another recording.</source>
+        <translation>Die Bilder davor bleiben; mit einer weiteren Aufzeichnung fortfahren.</translation>
+    </message>
 </context>
 <context>
     <name>SampleType</name>
@@ -2709,6 +3021,10 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>JPEG changes every sample a little.</source>
         <translation>JPEG ändert jeden Wert ein wenig.</translation>
+    </message>
+    <message>
+        <source>FITS has no colour: red, green and blue become three frames.</source>
+        <translation>FITS kennt keine Farbe: Rot, Grün und Blau werden drei Bilder.</translation>
     </message>
 </context>
 <context>
@@ -3062,6 +3378,332 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
 </context>
 <context>
+    <name>SpectrumDialogs</name>
+    <message>
+        <source>There is no spectrum to export: switch vertical binning or tracks on, or open a spectrum.</source>
+        <translation>Es gibt kein Spektrum zum Exportieren: vertikales Binning oder Spuren einschalten oder ein Spektrum öffnen.</translation>
+    </message>
+    <message>
+        <source>Export Spectrum</source>
+        <translation>Spektrum exportieren</translation>
+    </message>
+    <message>
+        <source>Table with commented header (*.csv)</source>
+        <translation>Tabelle mit kommentiertem Kopf (*.csv)</translation>
+    </message>
+    <message>
+        <source>There is no plot to export: show the curve or the tracks in 3D first.</source>
+        <translation>Es gibt kein Diagramm zum Exportieren: zuerst die Kurve oder die Spuren in 3D zeigen.</translation>
+    </message>
+    <message>
+        <source>Export Plot</source>
+        <translation>Diagramm exportieren</translation>
+    </message>
+    <message>
+        <source>PNG picture (*.png)</source>
+        <translation>PNG-Bild (*.png)</translation>
+    </message>
+    <message>
+        <source>SVG drawing (*.svg)</source>
+        <translation>SVG-Zeichnung (*.svg)</translation>
+    </message>
+    <message>
+        <source>PDF page (*.pdf)</source>
+        <translation>PDF-Seite (*.pdf)</translation>
+    </message>
+    <message>
+        <source>%1 spectrum</source>
+        <translation>%1 Spektrum</translation>
+    </message>
+    <message>
+        <source>spectrum %1</source>
+        <translation>Spektrum %1</translation>
+    </message>
+    <message>
+        <source>“%1” was saved.</source>
+        <translation>„%1“ wurde gespeichert.</translation>
+    </message>
+    <message>
+        <source>%1 could not be written: %2 Choose another folder.</source>
+        <translation>%1 ließ sich nicht schreiben: %2 Einen anderen Ordner wählen.</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumFields</name>
+    <message>
+        <source>Corrections</source>
+        <translation>Korrekturen</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Sensor image</source>
+        <translation>Sensorbild</translation>
+    </message>
+    <message>
+        <source>Curve</source>
+        <translation>Kurve</translation>
+    </message>
+    <message>
+        <source>Curve with peaks</source>
+        <translation>Kurve mit Linien</translation>
+    </message>
+    <message>
+        <source>Tracks in 3D</source>
+        <translation>Spuren in 3D</translation>
+    </message>
+    <message>
+        <source>Ctrl+1 to Ctrl+5</source>
+        <translation>Strg+1 bis Strg+5</translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>horizontal</source>
+        <translation>horizontal</translation>
+    </message>
+    <message>
+        <source>vertical</source>
+        <translation>vertikal</translation>
+    </message>
+    <message>
+        <source>The direction in which the wavelength changes on the sensor.</source>
+        <translation>Die Richtung, in der sich auf dem Sensor die Wellenlänge ändert.</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>pixels</source>
+        <translation>Pixel</translation>
+    </message>
+    <message>
+        <source>nanometres</source>
+        <translation>Nanometer</translation>
+    </message>
+    <message>
+        <source>wavenumbers</source>
+        <translation>Wellenzahlen</translation>
+    </message>
+    <message>
+        <source>Without a calibration spectra are shown over pixels.</source>
+        <translation>Ohne Kalibrierung werden Spektren über Pixeln gezeigt.</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Anzeige</translation>
+    </message>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>aus</translation>
+    </message>
+    <message>
+        <source>all rows</source>
+        <translation>alle Zeilen</translation>
+    </message>
+    <message>
+        <source>band found by itself</source>
+        <translation>Band selbst gefunden</translation>
+    </message>
+    <message>
+        <source>band by hand</source>
+        <translation>Band von Hand</translation>
+    </message>
+    <message>
+        <source>First row</source>
+        <translation>Erste Zeile</translation>
+    </message>
+    <message>
+        <source>Last row</source>
+        <translation>Letzte Zeile</translation>
+    </message>
+    <message>
+        <source>Find the Band Again</source>
+        <translation>Band neu suchen</translation>
+    </message>
+    <message>
+        <source>Vertical binning</source>
+        <translation>Vertikales Binning</translation>
+    </message>
+    <message>
+        <source>Tracks</source>
+        <translation>Spuren</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>Find Tracks</source>
+        <translation>Spuren suchen</translation>
+    </message>
+    <message>
+        <source>Show tracks</source>
+        <translation>Spuren zeigen</translation>
+    </message>
+    <message>
+        <source>Focus assistance</source>
+        <translation>Fokushilfe</translation>
+    </message>
+    <message>
+        <source>There is no spectrum yet: switch vertical binning on first.</source>
+        <translation>Es gibt noch kein Spektrum: zuerst vertikales Binning einschalten.</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>There is no spectrum yet.</source>
+        <translation>Es gibt noch kein Spektrum.</translation>
+    </message>
+    <message>
+        <source>Take Dark</source>
+        <translation>Dunkel aufnehmen</translation>
+    </message>
+    <message>
+        <source>The spectrum shown becomes the dark spectrum.</source>
+        <translation>Das gezeigte Spektrum wird das Dunkelspektrum.</translation>
+    </message>
+    <message>
+        <source>subtract</source>
+        <translation>abziehen</translation>
+    </message>
+    <message>
+        <source>Take Reference</source>
+        <translation>Referenz nehmen</translation>
+    </message>
+    <message>
+        <source>The spectrum shown becomes the reference spectrum.</source>
+        <translation>Das gezeigte Spektrum wird das Referenzspektrum.</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>counts</source>
+        <translation>Zählwerte</translation>
+    </message>
+    <message>
+        <source>transmission</source>
+        <translation>Transmission</translation>
+    </message>
+    <message>
+        <source>absorbance</source>
+        <translation>Absorbanz</translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation>Mitteln</translation>
+    </message>
+    <message>
+        <source> spectra</source>
+        <translation> Spektren</translation>
+    </message>
+    <message>
+        <source>Smooth over</source>
+        <translation>Glätten über</translation>
+    </message>
+    <message>
+        <source> samples</source>
+        <translation> Werte</translation>
+    </message>
+    <message>
+        <source>Remove cosmic rays</source>
+        <translation>Kosmische Strahlung entfernen</translation>
+    </message>
+    <message>
+        <source>Remove the baseline</source>
+        <translation>Basislinie entfernen</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Line width</source>
+        <translation>Linienbreite</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Line style</source>
+        <translation>Linienart</translation>
+    </message>
+    <message>
+        <source>solid</source>
+        <translation>durchgezogen</translation>
+    </message>
+    <message>
+        <source>dashes</source>
+        <translation>Striche</translation>
+    </message>
+    <message>
+        <source>dots</source>
+        <translation>Punkte</translation>
+    </message>
+    <message>
+        <source>dash dot</source>
+        <translation>Strich Punkt</translation>
+    </message>
+    <message>
+        <source>dash dot dot</source>
+        <translation>Strich Punkt Punkt</translation>
+    </message>
+    <message>
+        <source>Peaks</source>
+        <translation>Spitzen</translation>
+    </message>
+    <message>
+        <source>Peak size</source>
+        <translation>Spitzengröße</translation>
+    </message>
+    <message>
+        <source>Most peaks</source>
+        <translation>Höchstens</translation>
+    </message>
+    <message>
+        <source>all</source>
+        <translation>alle</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Free above</source>
+        <translation>Oben frei</translation>
+    </message>
+    <message>
+        <source> %</source>
+        <translation> %</translation>
+    </message>
+    <message>
+        <source>Part of the height that stays free above the highest value.</source>
+        <translation>Teil der Höhe, der über dem höchsten Wert frei bleibt.</translation>
+    </message>
+    <message>
+        <source>Look of the plots</source>
+        <translation>Aussehen der Diagramme</translation>
+    </message>
+</context>
+<context>
     <name>SpectrumMenu</name>
     <message>
         <source>S&amp;pectrum</source>
@@ -3094,89 +3736,6 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>Mean of %1</source>
         <translation>Mittel aus %1</translation>
-    </message>
-</context>
-<context>
-    <name>SpectrumNotes</name>
-    <message>
-        <source>Display</source>
-        <translation>Anzeige</translation>
-    </message>
-    <message>
-        <source>Spectrum</source>
-        <translation>Spektrum</translation>
-    </message>
-    <message>
-        <source>Mode</source>
-        <translation>Art</translation>
-    </message>
-    <message>
-        <source>Direction</source>
-        <translation>Richtung</translation>
-    </message>
-    <message>
-        <source>horizontal</source>
-        <translation>horizontal</translation>
-    </message>
-    <message>
-        <source>vertical</source>
-        <translation>vertikal</translation>
-    </message>
-    <message>
-        <source>Full vertical binning</source>
-        <translation>Volles vertikales Binning</translation>
-    </message>
-    <message>
-        <source>Tracks</source>
-        <translation>Spuren</translation>
-    </message>
-    <message>
-        <source>off</source>
-        <translation>aus</translation>
-    </message>
-    <message>
-        <source>Calibration</source>
-        <translation>Kalibrierung</translation>
-    </message>
-    <message>
-        <source>%1, from %2</source>
-        <translation>%1, ab %2</translation>
-    </message>
-    <message>
-        <source>Not calibrated: positions are in pixels.</source>
-        <translation>Nicht kalibriert: Positionen in Pixeln.</translation>
-    </message>
-    <message>
-        <source>2D with peaks</source>
-        <translation>2D mit Linien</translation>
-    </message>
-    <message>
-        <source>2D</source>
-        <translation>2D</translation>
-    </message>
-    <message>
-        <source>3D</source>
-        <translation>3D</translation>
-    </message>
-    <message>
-        <source>Physics</source>
-        <translation>Physik</translation>
-    </message>
-    <message>
-        <source>General</source>
-        <translation>Allgemein</translation>
-    </message>
-    <message>
-        <source>all rows</source>
-        <translation>alle Zeilen</translation>
-    </message>
-    <message>
-        <source>rows %1 to %2</source>
-        <translation>Zeilen %1 bis %2</translation>
-    </message>
-    <message>
-        <source>automatic, %1</source>
-        <translation>automatisch, %1</translation>
     </message>
 </context>
 <context>
@@ -3327,6 +3886,10 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>Tables (*.csv)</source>
         <translation>Tabellen (*.csv)</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
     </message>
 </context>
 <context>
@@ -3541,10 +4104,6 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <translation>Gesättigte Pixel &amp;markieren</translation>
     </message>
     <message>
-        <source>C&amp;over</source>
-        <translation>Ab&amp;deckung</translation>
-    </message>
-    <message>
         <source>&amp;Draw on Live Picture</source>
         <translation>Ins &amp;Livebild zeichnen</translation>
     </message>
@@ -3593,10 +4152,6 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <translation>&amp;Vollbild</translation>
     </message>
     <message>
-        <source>Restore &amp;Default Layout</source>
-        <translation>Anordnung &amp;zurücksetzen</translation>
-    </message>
-    <message>
         <source>Lan&amp;guage</source>
         <translation>S&amp;prache</translation>
     </message>
@@ -3605,16 +4160,16 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <translation>Die Sprache ändert sich beim nächsten Start.</translation>
     </message>
     <message>
-        <source>&amp;Grey</source>
-        <translation>&amp;Grau</translation>
-    </message>
-    <message>
-        <source>&amp;Inverted</source>
-        <translation>&amp;Invertiert</translation>
-    </message>
-    <message>
         <source>Pale&amp;tte</source>
         <translation>P&amp;alette</translation>
+    </message>
+    <message>
+        <source>Co&amp;ver</source>
+        <translation>Ab&amp;deckung</translation>
+    </message>
+    <message>
+        <source>Restore Default La&amp;yout</source>
+        <translation>Anordnung &amp;zurücksetzen</translation>
     </message>
 </context>
 <context>
