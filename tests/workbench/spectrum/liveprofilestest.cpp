@@ -2,6 +2,7 @@
 #include "liveprofiles.h"
 #include "guardedtest.h"
 #include "payloadlocker.h"
+#include "profileexchange.h"
 
 #include <QSettings>
 #include <QSignalSpy>
@@ -301,22 +302,23 @@ void LiveProfilesTest::exchangeAtFullSpeed()
         }
     });
     int torn = 0;
-    for (int turn = 0; turn < 500 || made < 500; ++turn) {
+    int taken = 0;
+    for (int turn = 0; turn < 500 || made < 500 || taken < 100; ++turn) {
         profiles.SetAnchorPoint(turn % 400, turn % 70, QRectF(0, 0, 1, 1));
         profiles.SetLines(1 + turn % 9);
-        const int *row = nullptr;
-        int size = 0;
+        QSize size;
         {
             const PayloadLocker locker(payload->lock);
-            std::swap(payload->horizontalFill, payload->horizontalShow);
-            std::swap(payload->verticalFill, payload->verticalShow);
-            row = payload->horizontalShow;
-            size = payload->horizontalSize;
+            size = QSize(payload->horizontalSize, payload->verticalSize);
         }
+        ExchangedProfiles exchanged; // as the page takes them, which knows the size of the frame
+        if (!ExchangeProfiles(payload, size, &exchanged))
+            continue; // a frame of another size came in between
+        ++taken;
         // After an exchange without a new frame the buffer may be of the frame before, but whole.
-        const int count = std::min(size, 40);
+        const int count = std::min(exchanged.horizontal.size, 40);
         for (int i = 0; i < count; ++i)
-            torn += row[i] != row[0];
+            torn += exchanged.horizontal.samples[i] != exchanged.horizontal.samples[0];
     }
     ends = true;
     producer.join();
