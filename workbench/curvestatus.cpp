@@ -33,6 +33,7 @@ QString CurveStatus::Text(int lines)
 void CurveStatus::slotUpdate()
 {
     const bool isPlot = m_services->Centre()->Mode() != DisplayMode::Physics;
-    m_label->setVisible(m_services->Profiles()->IsWanted() && (isPlot || m_services->GetUseArea()->IsCurveVisible()));
+    m_label->setVisible(m_services->Profiles()->IsWanted()
+                        && (isPlot || m_services->GetUseArea()->IsCurveVisible()));
     m_label->setText(Text(m_services->Profiles()->Lines()));
 }

@@ -38,7 +38,7 @@ SpectrumMenu::SpectrumMenu(WorkbenchServices *services, QWidget *parent)
 void SpectrumMenu::AddLines()
 {
     QMenu *menu = addMenu(tr("Curves of &Lines"));
-    std::set<int> widths{1, 3, 5, 11, 21, 51, PickedProfiles::MostLines};
+    std::set<int> widths{ 1, 3, 5, 11, 21, 51, PickedProfiles::MostLines };
     widths.insert(m_services->Profiles()->Lines()); // the settings may hold any
     for (const int lines : widths) {
         QAction *action = menu->addAction(lines == 1 ? tr("One row, one column") : tr("Mean of %1").arg(lines));
@@ -67,7 +67,8 @@ void SpectrumMenu::slotShow(bool spectrum)
 void SpectrumMenu::slotUpdate()
 {
     const UseArea *useArea = m_services->GetUseArea();
-    const bool isShown = useArea->IsSpectrumPagePresent() && m_services->Centre()->Mode() != DisplayMode::General;
+    const bool isShown =
+        useArea->IsSpectrumPagePresent() && m_services->Centre()->Mode() != DisplayMode::General;
     m_spectrum->setChecked(isShown);
     m_axes->setChecked(useArea->IsAxisVisible());
     m_curves->setChecked(useArea->IsCurveVisible());

@@ -289,10 +289,13 @@ void WorkbenchServices::UpdateProfilesWanted()
 void WorkbenchServices::slotShowPalette()
 {
     // A colour picture keeps its own colours: the greys that each of the three is made of.
-    const auto coloursOf = [this](bool isColour) { return (isColour ? Palette() : m_levelsModel->GetPalette()).Colours(); };
+    const auto coloursOf = [this](bool isColour) {
+        return (isColour ? Palette() : m_levelsModel->GetPalette()).Colours();
+    };
     const CameraSession *camera = m_link->Session();
-    emit m_profiles->SignalPseudoColorsUpdate(coloursOf(camera && camera->Format().Layout() == PixelLayout::Rgb8));
-    for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()})
+    emit m_profiles->SignalPseudoColorsUpdate(
+        coloursOf(camera && camera->Format().Layout() == PixelLayout::Rgb8));
+    for (OpenedPicture *picture : { m_mainPicture.get(), m_comparePicture.get() })
         emit picture->signalUpdatePseudoColor(coloursOf(picture->IsColour()));
 }
 

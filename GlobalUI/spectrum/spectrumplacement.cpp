@@ -89,8 +89,8 @@ PlacedPicture PlacePicture(const QRectF &target, const ZoomState &level, int lev
     const QPointF half(placed.shown.width() * 0.5, placed.shown.height() * 0.5);
     placed.scroll = centre - half;
     placed.pictureCentre = centre / double(scale);
-    const Span x = SeenOf(placed.scroll.x(), placed.shown.width(), placed.viewSize.width(), scale,
-                          pictureSize.width());
+    const Span x =
+        SeenOf(placed.scroll.x(), placed.shown.width(), placed.viewSize.width(), scale, pictureSize.width());
     const Span y = SeenOf(placed.scroll.y(), placed.shown.height(), placed.viewSize.height(), scale,
                           pictureSize.height());
     placed.visible = { x.from, x.to, y.from, y.to };

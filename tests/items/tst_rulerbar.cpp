@@ -244,7 +244,7 @@ void TestRulerBar::verticalSkipsOneNumber()
     VerticalRuler ruler;
     ruler.ApplyGeometry(QRect(0, 0, 60, 100)); // 4 px a minor, 20 px a major
     ruler.changedActualRect(QRectF(0, 155, 800, 1000), false);
-    QCOMPARE(ruler.ticks.labels.mid(0, 2), QStringList({"200", "400"}));
+    QCOMPARE(ruler.ticks.labels.mid(0, 2), QStringList({ "200", "400" }));
     QCOMPARE(ruler.ticks.majorLines.at(0).y1(), 4.0);
     QCOMPARE(ruler.ticks.majorLines.at(1).y1(), 24.0);
     const QImage image = Painted(&ruler);

@@ -259,26 +259,32 @@ void TestRulerSteps::randomScalesAndRanges()
         const int firstStep = (start + steps.minorStep - 1) / steps.minorStep;
         const double firstOffset = (firstStep * steps.minorStep - start) * scale;
         const double end = item + 1 - firstOffset;
-        for (const char *way : {"horizontal", "down", "up"}) {
+        for (const char *way : { "horizontal", "down", "up" }) {
             const bool isHorizontal = way == QString("horizontal");
             const bool isUp = way == QString("up");
             RulerTicks ticks;
             if (isHorizontal)
-                BuildHorizontalTicks(steps, numbers, {QSize(item, 50), start, 1.0, 6, 3}, &ticks);
+                BuildHorizontalTicks(steps, numbers, { QSize(item, 50), start, 1.0, 6, 3 }, &ticks);
             else
-                BuildVerticalTicks(steps, numbers, {QSize(60, item), start, 1.0, 6, 3}, isUp, &ticks);
+                BuildVerticalTicks(steps, numbers, { QSize(60, item), start, 1.0, 6, 3 }, isUp, &ticks);
             int labelled = 0;
             for (int i = 0; i < ticks.lines.size(); ++i) {
-                const double place = isHorizontal ? firstOffset + i * stepPx : isUp ? end - i * stepPx : i * stepPx;
+                const double place = isHorizontal ? firstOffset + i * stepPx
+                                     : isUp       ? end - i * stepPx
+                                                  : i * stepPx;
                 const QLineF line = ticks.lines.at(i);
                 QVERIFY(std::abs((isHorizontal ? line.x1() : line.y1()) - place) < slack);
                 const bool isMajor = (firstStep + i) % steps.minorsPerMajor == 0;
                 QVERIFY(std::abs(line.length() - (isMajor ? 6 : 3)) < slack);
-                const bool isLabelled = isMajor && (isHorizontal ? place > stepPx : isUp ? i > 0 : place > firstOffset);
+                const bool isLabelled = isMajor
+                                        && (isHorizontal ? place > stepPx
+                                            : isUp       ? i > 0
+                                                         : place > firstOffset);
                 if (!isLabelled)
                     continue;
                 const int pixel = (firstStep + i) * steps.minorStep;
-                const double value = hasRange ? rangeMin + (rangeMax - rangeMin) * pixel / imageLength : pixel;
+                const double value =
+                    hasRange ? rangeMin + (rangeMax - rangeMin) * pixel / imageLength : pixel;
                 QVERIFY(labelled < ticks.labels.size());
                 QCOMPARE(ticks.majorLines.at(labelled), line);
                 QVERIFY(std::abs(ticks.labels.at(labelled).toDouble() - value) <= 0.5 + slack);

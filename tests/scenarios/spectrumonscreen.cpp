@@ -49,7 +49,8 @@ void SpectrumOnScreen::Drag(const QPointF &from, const QPointF &to) const
     const QPoint first = image->mapFromScene(from);
     const QPoint last = image->mapFromScene(to);
     QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, first);
-    QMouseEvent move(QEvent::MouseMove, last, viewport->mapToGlobal(last), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, last, viewport->mapToGlobal(last), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
     QApplication::sendEvent(viewport, &move);
     QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, last);
 }
@@ -67,7 +68,7 @@ bool SpectrumOnScreen::IsSeen(const QVector<double> &part) const
     const double scale = image->transform().m11();
     const QPointF first = QPointF(-image->pos()) / scale;
     const QPointF last = first + QPointF(frame->width(), frame->height()) / scale;
-    const QVector<double> seen{first.x(), last.x(), first.y(), last.y()};
+    const QVector<double> seen{ first.x(), last.x(), first.y(), last.y() };
     for (int side = 0; side < 4; ++side) {
         if (std::abs(part.value(side) - seen.at(side)) > 2.0 / scale)
             return false;
@@ -84,7 +85,8 @@ int SpectrumOnScreen::RowCurveAt(double column, const QColor &colour) const
     // The curve stands below what is seen of the image, as wide as it.
     const int x = image->mapFromScene(QPointF(column, 0)).x() + image->x();
     const QPoint top = curve->mapToGlobal(QPoint(x, 0));
-    const QImage line = QGuiApplication::primaryScreen()->grabWindow(0, top.x() - 1, top.y(), 3, curve->height()).toImage();
+    const QImage line =
+        QGuiApplication::primaryScreen()->grabWindow(0, top.x() - 1, top.y(), 3, curve->height()).toImage();
     for (int y = 0; y < line.height(); ++y) {
         for (int beside = 0; beside < line.width(); ++beside) {
             if (line.pixelColor(beside, y) == colour)

@@ -54,7 +54,7 @@ void Write(const QString &path, const QByteArray &bytes)
 void WriteSpectrum(const QString &path, int frames, int file)
 {
     SpeBytes spe(FileSize.width(), FileSize.height(), 3, frames);
-    spe.Calibrate(4, 4, 1, {399.75, 0.25}); // counted from 1
+    spe.Calibrate(4, 4, 1, { 399.75, 0.25 }); // counted from 1
     for (int frame = 0; frame < frames; ++frame) {
         for (int y = 0; y < FileSize.height(); ++y) {
             QByteArray row(FileSize.width() * 2, '\0');
@@ -137,8 +137,9 @@ private:
 
     bool Open(const QString &name)
     {
-        m_workbench->services.Desk()->Open({m_folder->filePath(name)}, Main());
-        return QTest::qWaitFor([&] { return Main()->GetFileName() == name && Main()->WantedDocument() == Main()->Document(); });
+        m_workbench->services.Desk()->Open({ m_folder->filePath(name) }, Main());
+        return QTest::qWaitFor(
+            [&] { return Main()->GetFileName() == name && Main()->WantedDocument() == Main()->Document(); });
     }
 
     /// The first file of two frames on the spectrum page.
@@ -148,11 +149,12 @@ private:
         if (!Open("first.spe"))
             return false;
         m_workbench->Action("Spectrum Page")->trigger();
-        return page->WaitForImage()
-            && QTest::qWaitFor([&] { return page->Image()->sceneRect() == QRectF(QPointF(), FileSize) && page->IsSeen(Whole); });
+        return page->WaitForImage() && QTest::qWaitFor([&] {
+                   return page->Image()->sceneRect() == QRectF(QPointF(), FileSize) && page->IsSeen(Whole);
+               });
     }
 
-    const QVector<double> Whole{0, double(FileSize.width()), 0, double(FileSize.height())};
+    const QVector<double> Whole{ 0, double(FileSize.width()), 0, double(FileSize.height()) };
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<RunningWorkbench> m_workbench;
 };
@@ -187,7 +189,8 @@ void OpenedSpectrumScenario::dragsClicksAndStepsBack()
     QVERIFY(page.IsSeen(zoomed));
     QVERIFY(zoomed.at(0) > 490 && zoomed.at(1) < 910 && zoomed.at(2) > 140 && zoomed.at(3) < 410);
     const QVector<double> nanometres = Newest(&columns);
-    QCOMPARE(nanometres, QVector<double>({400 + 0.25 * std::round(zoomed.at(0)), 400 + 0.25 * std::round(zoomed.at(1))}));
+    QCOMPARE(nanometres, QVector<double>({ 400 + 0.25 * std::round(zoomed.at(0)),
+                                           400 + 0.25 * std::round(zoomed.at(1)) }));
     QCOMPARE(Newest(&rows), zoomed.mid(2, 2));
     const QPointF centre = picked.last().first().toPointF();
     QVERIFY(page.IsNear(centre, QPointF(700, 275)));
@@ -197,7 +200,7 @@ void OpenedSpectrumScenario::dragsClicksAndStepsBack()
 
     page.Drag(QPointF(750, 300), QPointF(650, 250));
     QCOMPARE(Newest(&visible), Whole);
-    QCOMPARE(Newest(&columns), QVector<double>({400, 700}));
+    QCOMPARE(Newest(&columns), QVector<double>({ 400, 700 }));
     QCOMPARE(Newest(&rows), Whole.mid(2, 2));
     QVERIFY(page.IsSeen(Whole));
     QCOMPARE(int(row.samples.size()), FileSize.width());
@@ -240,7 +243,7 @@ void OpenedSpectrumScenario::framesAndFilesKeepTheirPlace()
     // Another size is another place: all of it, through the middle.
     WriteColour(m_folder->filePath("colour.png"));
     QVERIFY(Open("colour.png"));
-    QTRY_VERIFY(page.IsSeen({0, 640, 0, 480}));
+    QTRY_VERIFY(page.IsSeen({ 0, 640, 0, 480 }));
     QCOMPARE(row.samples, std::vector<int>(640, 93)); // the mean of 200, 40 and 40
 }
 
@@ -249,13 +252,14 @@ void OpenedSpectrumScenario::rulersCountWhatTheyCanShow()
     SpectrumOnScreen page(&m_workbench->window);
     QVERIFY(OpenSpectrum(&page));
     const auto *settings = SpectrumUIManager::GetInstance();
-    QSignalSpy columns(settings->GetDisplayModeManager(), SIGNAL(SignalImageChangeHShowValueRange(qreal, qreal)));
+    QSignalSpy columns(settings->GetDisplayModeManager(),
+                       SIGNAL(SignalImageChangeHShowValueRange(qreal, qreal)));
     QCOMPARE(settings->GetTitleName(), QString("Wavelength [nm]"));
     m_workbench->Action("Wavenumbers")->trigger(); // which fall
     QCOMPARE(Newest(&columns), Whole.mid(0, 2));
     QCOMPARE(settings->GetTitleName(), QString("Pixel Number"));
     m_workbench->Action("Nanometres")->trigger();
-    QCOMPARE(Newest(&columns), QVector<double>({400, 700}));
+    QCOMPARE(Newest(&columns), QVector<double>({ 400, 700 }));
     QCOMPARE(settings->GetTitleName(), QString("Wavelength [nm]"));
 }
 
@@ -265,7 +269,9 @@ void OpenedSpectrumScenario::barShowsThePaletteOfThePicture()
     QVERIFY(OpenSpectrum(&page));
     const auto colourInBar = [&](double part) {
         const QWidget *bar = page.Aid("GradientColorLayoutItem");
-        return bar ? m_workbench->OnScreenAt(bar->mapToGlobal(QPoint(int(bar->width() * part), bar->height() / 2))) : QColor();
+        return bar ? m_workbench->OnScreenAt(
+                   bar->mapToGlobal(QPoint(int(bar->width() * part), bar->height() / 2)))
+                   : QColor();
     };
     m_workbench->Action("Viridis")->trigger();
     const Palette viridis("viridis");

@@ -100,10 +100,7 @@ private slots:
     void barOfAColourPictureIsGrey();
 
 private:
-    void Click(const QPointF &scenePos) const
-    {
-        Page().Drag(scenePos, scenePos);
-    }
+    void Click(const QPointF &scenePos) const { Page().Drag(scenePos, scenePos); }
     SpectrumOnScreen Page() const { return SpectrumOnScreen(&m_workbench->window); }
 
     std::unique_ptr<QTemporaryDir> m_folder;

@@ -107,10 +107,12 @@ void TestSpectrumPlacement::fittedLevelShowsTheWhole()
     }
     // With a centre that is remembered from another picture all of it is still seen.
     const ZoomState other{ 0.5F, QPointF(100, 50), fitted.rect };
-    QCOMPARE(Text(PlacePicture(fitted.rect, other, 1, picture, FreeSpace).visible), QString("0..1200, 0..400"));
+    QCOMPARE(Text(PlacePicture(fitted.rect, other, 1, picture, FreeSpace).visible),
+             QString("0..1200, 0..400"));
     // Cut to whole pixels of the screen it stays the whole picture.
     const ZoomState cut{ 400.0F / 467.0F, QPointF(350, 233.5), QRectF(0, 0, 700, 467) };
-    QCOMPARE(Text(PlacePicture(cut.rect, cut, 1, QSize(700, 467), FreeSpace).visible), QString("0..700, 0..467"));
+    QCOMPARE(Text(PlacePicture(cut.rect, cut, 1, QSize(700, 467), FreeSpace).visible),
+             QString("0..700, 0..467"));
 }
 
 /// One that was stepped back to reports what is seen of it.

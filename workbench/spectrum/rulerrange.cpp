@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr double SmallestRange = 5.0;        // narrower ones are widened by the ruler
+constexpr double SmallestRange = 5.0;         // narrower ones are widened by the ruler
 constexpr double LargestDeviation = 1.0 / 50; // of the range: a tenth of the way between two of its numbers
-constexpr int Probes = 8;                    // a calibration bends once or twice
+constexpr int Probes = 8;                     // a calibration bends once or twice
 
 } // namespace
 
@@ -17,7 +17,7 @@ std::optional<RulerRange> FindRulerRange(const PixelValue &valueAt, const RulerR
 {
     const int firstPixel = qRound(pixels.first);
     const int lastPixel = qRound(pixels.last);
-    RulerRange range{0, 0};
+    RulerRange range{ 0, 0 };
     if (!valueAt(firstPixel, range.first) || !valueAt(lastPixel, range.last))
         return std::nullopt;
     const double width = range.last - range.first;

@@ -42,8 +42,6 @@ public:
     void SetImageAxis(const SpectralAxis &axis, int width);
     /// The axis of what is on the screen.
     const CalibratedAxis &ShownAxis() const;
-    /// What Calculate() gives: "Wavelength [nm]". The rulers may have another, GetTitleName().
-    QString AxisTitle() const;
     /// An opened picture is on the screen, rather than the live one.
     bool IsImageShown() const { return m_isImageShown; }
     PlotStyle Style() const { return m_style; }
@@ -129,6 +127,8 @@ private:
     int MostTracks(bool horizontal) const;
     void SwitchTracksOff(const QString &reason);
     void AnnounceAxis();
+    /// Of what Calculate() gives.
+    QString AxisTitle() const;
     void UpdateLiveWidth();
 
     DisplayModeManager *m_ranges;

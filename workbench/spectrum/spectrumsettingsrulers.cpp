@@ -6,7 +6,7 @@
 
 void SpectrumSettings::SlotNewArea(double xmin, double xmax, double ymin, double ymax)
 {
-    const Area area{xmin, xmax, ymin, ymax};
+    const Area area{ xmin, xmax, ymin, ymax };
     if (!IsArea(area))
         return; // the rulers stay
     const QString title = GetTitleName();
@@ -18,7 +18,7 @@ void SpectrumSettings::SlotNewArea(double xmin, double xmax, double ymin, double
 
 void SpectrumSettings::SlotImageNewArea(double xmin, double xmax, double ymin, double ymax)
 {
-    const Area area{xmin, xmax, ymin, ymax};
+    const Area area{ xmin, xmax, ymin, ymax };
     if (!IsArea(area))
         return; // the rulers stay
     const QString title = GetTitleName();
@@ -44,7 +44,7 @@ void SpectrumSettings::AnnounceLiveArea()
 bool SpectrumSettings::IsArea(const Area &area)
 {
     return qIsFinite(area.left) && qIsFinite(area.top) && qIsFinite(area.right) && qIsFinite(area.bottom)
-        && area.left < area.right && area.top < area.bottom;
+           && area.left < area.right && area.top < area.bottom;
 }
 
 void SpectrumSettings::AnnounceArea(const Area &area, RangeSignal horizontal, RangeSignal vertical)
@@ -53,13 +53,16 @@ void SpectrumSettings::AnnounceArea(const Area &area, RangeSignal horizontal, Ra
         return; // no picture yet
     const bool isHorizontal = IsDirectionHorinzontal();
     const RulerRange values = SpectralValues(area).value_or(SpectralPixels(area));
-    emit (m_ranges->*horizontal)(isHorizontal ? values.first : area.left, isHorizontal ? values.last : area.right);
-    emit (m_ranges->*vertical)(isHorizontal ? area.top : values.first, isHorizontal ? area.bottom : values.last);
+    emit(m_ranges->*horizontal)(isHorizontal ? values.first : area.left,
+                                isHorizontal ? values.last : area.right);
+    emit(m_ranges->*vertical)(isHorizontal ? area.top : values.first,
+                              isHorizontal ? area.bottom : values.last);
 }
 
 RulerRange SpectrumSettings::SpectralPixels(const Area &area) const
 {
-    return IsDirectionHorinzontal() ? RulerRange{area.left, area.right} : RulerRange{area.top, area.bottom};
+    return IsDirectionHorinzontal() ? RulerRange{ area.left, area.right }
+                                    : RulerRange{ area.top, area.bottom };
 }
 
 std::optional<RulerRange> SpectrumSettings::SpectralValues(const Area &area) const

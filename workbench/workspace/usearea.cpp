@@ -34,20 +34,11 @@ void UseArea::slotSetSpectrum(bool spectrum)
     emit signalUpdateUseArea();
 }
 
-void UseArea::slotSetAxisVisible(bool visible)
-{
-    SetAid(&m_isAxisVisible, AxisKey, visible);
-}
+void UseArea::slotSetAxisVisible(bool visible) { SetAid(&m_isAxisVisible, AxisKey, visible); }
 
-void UseArea::slotSetCurveVisible(bool visible)
-{
-    SetAid(&m_isCurveVisible, CurveKey, visible);
-}
+void UseArea::slotSetCurveVisible(bool visible) { SetAid(&m_isCurveVisible, CurveKey, visible); }
 
-void UseArea::slotSetColorCardVisible(bool visible)
-{
-    SetAid(&m_isColorCardVisible, ColorCardKey, visible);
-}
+void UseArea::slotSetColorCardVisible(bool visible) { SetAid(&m_isColorCardVisible, ColorCardKey, visible); }
 
 void UseArea::SetAid(bool *aid, const char *key, bool visible)
 {

@@ -130,38 +130,42 @@ private slots:
         QVector<std::vector<int>> rows;
         QVector<std::vector<int>> columns;
         connect(&bench.main, &ImageManager::sglUpdateHorizontalCurve, &bench.main,
-                [&](int *data, int, int offset, int count) { rows << std::vector<int>(data + offset, data + offset + count); });
+                [&](int *data, int, int offset, int count) {
+                    rows << std::vector<int>(data + offset, data + offset + count);
+                });
         connect(&bench.main, &ImageManager::sglUpdateVerticalCurve, &bench.main,
-                [&](int *data, int, int offset, int count) { columns << std::vector<int>(data + offset, data + offset + count); });
+                [&](int *data, int, int offset, int count) {
+                    columns << std::vector<int>(data + offset, data + offset + count);
+                });
         const QString asked = "SpectrumUIManager::UpdateDisplayModeProperty()";
         CallLog::Clear();
         QVERIFY(bench.Open("first.tif", QSize(6, 4)));
         // Without a page through the middle.
-        QCOMPARE(rows.last(), std::vector<int>({40, 41, 42, 43, 44, 45}));
-        QCOMPARE(columns.last(), std::vector<int>({3, 23, 43, 63}));
+        QCOMPARE(rows.last(), std::vector<int>({ 40, 41, 42, 43, 44, 45 }));
+        QCOMPARE(columns.last(), std::vector<int>({ 3, 23, 43, 63 }));
         QCOMPARE(CallLog::Calls().count(asked), 1);
 
         bench.main.GetIntensityCurveHistogramData(QPointF(1.5, 1.5), QRectF(0, 0.25, 0.5, 0.75), 0);
         CallLog::Clear();
         QVERIFY(bench.Open("second.tif", QSize(6, 4), 2));
-        QCOMPARE(rows.last(), std::vector<int>({20, 21, 22}));
-        QCOMPARE(columns.last(), std::vector<int>({21, 41}));
+        QCOMPARE(rows.last(), std::vector<int>({ 20, 21, 22 }));
+        QCOMPARE(columns.last(), std::vector<int>({ 21, 41 }));
         bench.main.SetImage(1);
-        QTRY_COMPARE(rows.last(), std::vector<int>({1020, 1021, 1022}));
+        QTRY_COMPARE(rows.last(), std::vector<int>({ 1020, 1021, 1022 }));
         QCOMPARE(CallLog::Calls().count(asked), 0);
 
         QVERIFY(bench.Open("third.tif", QSize(8, 2)));
-        QCOMPARE(rows.last(), std::vector<int>({20, 21, 22, 23, 24, 25, 26, 27}));
-        QCOMPARE(columns.last(), std::vector<int>({4, 24}));
+        QCOMPARE(rows.last(), std::vector<int>({ 20, 21, 22, 23, 24, 25, 26, 27 }));
+        QCOMPARE(columns.last(), std::vector<int>({ 4, 24 }));
         QCOMPARE(CallLog::Calls().count(asked), 1);
         bench.main.GetIntensityCurveHistogramData(QPointF(1.5, 0.5), QRectF(0, 0, 0.5, 1), 0);
         bench.main.slotCrop(0, 0, 4, 2, true); // a part of it is another size too
-        QTRY_COMPARE(rows.last(), std::vector<int>({20, 21, 22, 23}));
-        QCOMPARE(columns.last(), std::vector<int>({2, 22}));
+        QTRY_COMPARE(rows.last(), std::vector<int>({ 20, 21, 22, 23 }));
+        QCOMPARE(columns.last(), std::vector<int>({ 2, 22 }));
 
         bench.main.CloseImage();
         QVERIFY(bench.Open("fourth.tif", QSize(4, 2)));
-        QCOMPARE(rows.last(), std::vector<int>({20, 21, 22, 23}));
+        QCOMPARE(rows.last(), std::vector<int>({ 20, 21, 22, 23 }));
     }
 
     void thePixelUnderTheMouseIsRead()

@@ -110,28 +110,32 @@ void SpectrumRangesTest::rulersCountInTheirCalibration_data()
         return values;
     };
     const SpectralAxis rising = axis(SpectralUnit::Nanometre, 400, 0.5);
-    QTest::newRow("whole") << rising << nm << 0.0 << 1000.0 << Range({400.0, 900.0}) << nanometres;
-    QTest::newRow("zoomed to 5 nm") << rising << nm << 200.0 << 210.0 << Range({500.0, 505.0}) << nanometres;
-    QTest::newRow("zoomed to less") << rising << nm << 200.0 << 209.0 << Range({200.0, 209.0}) << pixels;
-    QTest::newRow("in pixels") << rising << int(SpectralUnit::Pixel) << 0.0 << 1000.0 << Range({0.0, 1000.0}) << pixels;
-    QTest::newRow("falling in wavenumbers") << rising << wavenumber << 0.0 << 1000.0 << Range({0.0, 1000.0}) << pixels;
+    QTest::newRow("whole") << rising << nm << 0.0 << 1000.0 << Range({ 400.0, 900.0 }) << nanometres;
+    QTest::newRow("zoomed to 5 nm") << rising << nm << 200.0 << 210.0 << Range({ 500.0, 505.0 })
+                                    << nanometres;
+    QTest::newRow("zoomed to less") << rising << nm << 200.0 << 209.0 << Range({ 200.0, 209.0 }) << pixels;
+    QTest::newRow("in pixels") << rising << int(SpectralUnit::Pixel) << 0.0 << 1000.0
+                               << Range({ 0.0, 1000.0 }) << pixels;
+    QTest::newRow("falling in wavenumbers")
+        << rising << wavenumber << 0.0 << 1000.0 << Range({ 0.0, 1000.0 }) << pixels;
     const SpectralAxis falling = axis(SpectralUnit::Nanometre, 900, -0.5);
-    QTest::newRow("falling") << falling << nm << 0.0 << 1000.0 << Range({0.0, 1000.0}) << pixels;
+    QTest::newRow("falling") << falling << nm << 0.0 << 1000.0 << Range({ 0.0, 1000.0 }) << pixels;
     // Rising from 11111 to 25000, but at the middle of the sensor 15385 and not 18056.
-    QTest::newRow("uneven") << falling << wavenumber << 0.0 << 1000.0 << Range({0.0, 1000.0}) << pixels;
+    QTest::newRow("uneven") << falling << wavenumber << 0.0 << 1000.0 << Range({ 0.0, 1000.0 }) << pixels;
     // 800 to 795 nm: next to even.
-    QTest::newRow("even for a part") << falling << wavenumber << 200.0 << 210.0 << Range({12500.0, 1e7 / 795})
-                                     << "Wavenumber [1/cm]";
+    QTest::newRow("even for a part") << falling << wavenumber << 200.0 << 210.0
+                                     << Range({ 12500.0, 1e7 / 795 }) << "Wavenumber [1/cm]";
     // In the middle 1.8 and 2.2 % of 500 nm away from a straight line.
     QTest::newRow("bent a little") << axis(SpectralUnit::Nanometre, 400, 0.5, 9) << nm << 0.0 << 1000.0
-                                   << Range({400.0, 900.0}) << nanometres;
-    QTest::newRow("bent") << axis(SpectralUnit::Nanometre, 400, 0.5, 11) << nm << 0.0 << 1000.0 << Range({0.0, 1000.0})
-                          << pixels;
+                                   << Range({ 400.0, 900.0 }) << nanometres;
+    QTest::newRow("bent") << axis(SpectralUnit::Nanometre, 400, 0.5, 11) << nm << 0.0 << 1000.0
+                          << Range({ 0.0, 1000.0 }) << pixels;
     QTest::newRow("Raman shift") << axis(SpectralUnit::RamanShift, 100, 3) << nm << 0.0 << 1000.0
-                                 << Range({100.0, 3100.0}) << "Raman Shift [1/cm]";
-    QTest::newRow("on both sides of the laser") << axis(SpectralUnit::RamanShift, -100, 3) << nm << 0.0 << 1000.0
-                                                << Range({0.0, 1000.0}) << pixels;
-    QTest::newRow("no calibration") << SpectralAxis() << nm << 0.0 << 1000.0 << Range({0.0, 1000.0}) << pixels;
+                                 << Range({ 100.0, 3100.0 }) << "Raman Shift [1/cm]";
+    QTest::newRow("on both sides of the laser")
+        << axis(SpectralUnit::RamanShift, -100, 3) << nm << 0.0 << 1000.0 << Range({ 0.0, 1000.0 }) << pixels;
+    QTest::newRow("no calibration") << SpectralAxis() << nm << 0.0 << 1000.0 << Range({ 0.0, 1000.0 })
+                                    << pixels;
 }
 
 /// Values that a ruler would show falsely are not told to it, nor what they would be called.
@@ -153,7 +157,7 @@ void SpectrumRangesTest::rulersCountInTheirCalibration()
     QVERIFY(!parts.imageH.isEmpty());
     QCOMPARE(parts.imageH.last().at(0).toDouble(), range.at(0).toDouble());
     QCOMPARE(parts.imageH.last().at(1).toDouble(), range.at(1).toDouble());
-    QCOMPARE(parts.imageV.last(), Range({10.0, 200.0}));
+    QCOMPARE(parts.imageV.last(), Range({ 10.0, 200.0 }));
     QTEST(settings.GetTitleName(), "title");
 }
 
@@ -164,7 +168,7 @@ void SpectrumRangesTest::titleFollowsTheZoom()
     settings.SetMode(DisplayMode::Physics);
     SpectralAxis axis;
     axis.unit = SpectralUnit::Nanometre;
-    axis.values = {400, 400.5};
+    axis.values = { 400, 400.5 };
     settings.slotSetImageShown(true);
     settings.SetImageAxis(axis, 1000);
     QCOMPARE(settings.GetTitleName(), QString("Wavelength [nm]"));
@@ -190,7 +194,7 @@ void SpectrumRangesTest::theSameAxisIsAnnouncedOnce()
     const QSignalSpy titles(&settings, &SpectrumUIManager::signalDisplayModePropertyChange);
     SpectralAxis axis;
     axis.unit = SpectralUnit::Nanometre;
-    axis.values = {400, 401, 402};
+    axis.values = { 400, 401, 402 };
     for (int frame = 0; frame < 3; ++frame) {
         settings.SetImageAxis(axis, 3);
         QCOMPARE(titles.count(), 1);
