@@ -137,12 +137,13 @@ BenchmarkResult MeasureJump(const Layout &layout, const QString &path)
     const Tiff tiff(TIFFOpen(QFile::encodeName(path).constData(), "r"));
     std::vector<uchar> samples(size_t(Side) * Side * sizeof(quint16));
     BrowsedStack stack(path);
-    int floorReads = 0;
+    const auto page = [](int jumps) { return 2 * (jump * jumps % shownPages); };
+    int floorJumps = 0;
     int jumps = 0;
     return MeasureRatio(
         QString("jump of a 16-bit stack, %1 x %1, %2").arg(Side).arg(layout.name), StackBound, Rounds,
-        [&] { ReadStrips(tiff.get(), floorReads++ % PagesOfFloor, &samples); },
-        [&] { stack.ShowFrame(2 * (jump * ++jumps % shownPages)); }, [&] { stack.Settle(); });
+        [&] { ReadStrips(tiff.get(), page(++floorJumps), &samples); }, [&] { stack.ShowFrame(page(++jumps)); },
+        [&] { stack.Settle(); });
 }
 
 /// Opens the file, reads a frame and makes a picture of it.

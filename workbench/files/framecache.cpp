@@ -41,6 +41,18 @@ bool FrameCache::Contains(quint64 file, int frame) const
     return m_index.contains(Key(file, frame));
 }
 
+Picture FrameCache::TakeOldest(qint64 bytes)
+{
+    QMutexLocker lock(&m_mutex);
+    const bool hasToGo = bytes <= m_capacityBytes && m_usedBytes + bytes > m_capacityBytes;
+    if (!hasToGo)
+        return Picture();
+    const auto oldest = std::prev(m_entries.end());
+    const Picture picture = oldest->picture;
+    Remove(oldest);
+    return picture;
+}
+
 void FrameCache::RemoveFile(quint64 file)
 {
     QMutexLocker lock(&m_mutex);

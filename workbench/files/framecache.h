@@ -22,6 +22,9 @@ public:
     /// False if the frame is not there.
     bool Find(quint64 file, int frame, Picture &picture);
     bool Contains(quint64 file, int frame) const;
+    /// Drops the frame that has to go when one of `bytes` comes, and gives it for the sake of its memory: to get fresh
+    /// memory from the system takes longer than to fill it. Null while there is room.
+    Picture TakeOldest(qint64 bytes);
     /// Drops all frames of a file that was closed or has changed.
     void RemoveFile(quint64 file);
 

@@ -17,6 +17,12 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(PictureAccess)
 };
 
+/// Of the first frame; pages may differ.
+qint64 FrameBytes(const PictureInfo &info)
+{
+    return qint64(info.size.width()) * info.size.height() * info.channels * BytesPerSample(info.sampleType);
+}
+
 } // namespace
 
 PictureAccess::PictureAccess(int mostOpenFiles, qint64 cacheBytes)
@@ -83,7 +89,7 @@ bool PictureAccess::ReadFrame(const FileName &name, int index, Picture &frame, Q
         return false;
     if (m_cache.Find(name.id, index, frame))
         return true;
-    frame = Picture(); // its memory may belong to the cache
+    frame = m_cache.TakeOldest(FrameBytes(file->Info())); // what it was may belong to the cache
     if (!file->ReadFrame(index, frame, error))
         return false;
     m_cache.Insert(name.id, index, frame);
@@ -97,10 +103,10 @@ void PictureAccess::ReadAhead(quint64 id, int index)
         return;
     const auto hasRoom = [this](qint64 bytes) { return 2 * bytes <= m_cache.CapacityBytes(); };
     const PictureInfo &info = file->file->Info();
-    if (!hasRoom(qint64(info.size.width()) * info.size.height() * info.channels
-                 * BytesPerSample(info.sampleType)))
+    const qint64 bytes = FrameBytes(info);
+    if (index < 0 || index >= info.frames || !hasRoom(bytes))
         return;
-    Picture frame;
+    Picture frame = m_cache.TakeOldest(bytes);
     QString error;
     if (file->file->ReadFrame(index, frame, error) && hasRoom(frame.ByteCount())) // pages may differ
         m_cache.Insert(id, index, frame);

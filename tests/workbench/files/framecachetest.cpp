@@ -10,6 +10,7 @@ private slots:
     void keepsAFrame();
     void theFrameNotUsedForLongestGoesFirst();
     void neverHoldsMoreThanItsBytes();
+    void theFrameThatHasToGoGivesItsMemory();
     void aFrameLargerThanTheCacheIsNotKept();
     void aFrameThatIsKeptAgainReplacesTheOldOne();
     void framesOfAClosedFileAreDropped();
@@ -66,6 +67,25 @@ void FrameCacheTest::neverHoldsMoreThanItsBytes()
         QVERIFY(cache.UsedBytes() <= cache.CapacityBytes());
         QVERIFY(Has(cache, 1, frame));
     }
+}
+
+void FrameCacheTest::theFrameThatHasToGoGivesItsMemory()
+{
+    FrameCache cache(25);
+    QVERIFY(cache.TakeOldest(10).IsNull());
+    cache.Insert(1, 0, Filled(10, 0));
+    QVERIFY(cache.TakeOldest(10).IsNull()); // there is room for both
+    cache.Insert(1, 1, Filled(10, 1));
+    QVERIFY(cache.TakeOldest(5).IsNull());
+    QVERIFY(cache.TakeOldest(26).IsNull()); // would not be kept
+    Picture oldest = cache.TakeOldest(6);
+    QVERIFY(oldest == Filled(10, 0));
+    QVERIFY(!Has(cache, 1, 0));
+    QVERIFY(Has(cache, 1, 1));
+    QCOMPARE(cache.UsedBytes(), qint64(10));
+    const uchar *memory = static_cast<const Picture &>(oldest).Data();
+    oldest.Reshape(10, 1, 1, SampleType::U8);
+    QCOMPARE(static_cast<const Picture &>(oldest).Data(), memory); // nobody else has it
 }
 
 void FrameCacheTest::aFrameLargerThanTheCacheIsNotKept()

@@ -111,6 +111,21 @@ private slots:
         QCOMPARE(First(access, gone, 1), -1);
     }
 
+    /// Whoever still shows a frame keeps its samples, though the cache lets it go.
+    void whatIsShownStaysWhenItsPlaceIsNeeded()
+    {
+        PictureAccess access(1, 2 * FrameBytes);
+        const PictureAccess::FileName file = Made("stack.tif", 1, 6);
+        QString error;
+        Picture shown;
+        QVERIFY(access.ReadFrame(file, 0, shown, error));
+        for (int frame = 1; frame < 6; ++frame)
+            QCOMPARE(First(access, file, frame), 1000 * frame);
+        QVERIFY(shown == MadePictures::Numbered(Size, 0));
+        QCOMPARE(First(access, file, 5), 5000);
+        QCOMPARE(First(access, file, 4), 4000);
+    }
+
     void aFrameReadAheadIsAtHand()
     {
         PictureAccess access(2, 2 * FrameBytes);
