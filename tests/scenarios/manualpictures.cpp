@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Works with the program as a reader of the manual does, and saves the pictures of it.
+#include "autocounting.h"
 #include "calibrationmodel.h"
 #include "camerasession.h"
 #include "createpicture.h"
@@ -100,6 +101,21 @@ private:
         m_workbench.link.Session()->Controls().SetExposureUs(exposureUs);
     }
 
+    /// The objects of the opened picture, in their table.
+    void TakeCounted()
+    {
+        auto *tabs = m_workbench.window.findChild<QTabWidget *>("ImageTabWidget");
+        tabs->setCurrentIndex(tabs->count() - 1);
+        auto *count = tabs->findChild<QAbstractButton *>("actionCount");
+        count->click();
+        if (!QTest::qWaitFor([&] { return m_workbench.services.Counting()->Table()->rowCount() > 0; }, WaitMs))
+            qFatal("Nothing is counted.");
+        Save("counted");
+        TakeTabs(m_workbench.window.findChild<QTabWidget *>("BottomTabWidget"));
+        count->click();
+        tabs->setCurrentIndex(0);
+    }
+
     /// All of the camera's side and around it; those of opened pictures come with one.
     void TakePanels()
     {
@@ -188,6 +204,7 @@ private:
             qFatal("The stack shows no other frame.");
         Save("opened");
         TakeTabs(m_workbench.window.findChild<QTabWidget *>("ImageTabWidget"));
+        TakeCounted();
     }
 
     void TakeCompare()
