@@ -6,6 +6,7 @@
 #include "createpicture.h"
 #include "globalnotify.h"
 #include "filethumbnail.h"
+#include "language.h"
 #include "levelsmodel.h"
 #include "livelevels.h"
 #include "openedpicture.h"
@@ -37,6 +38,7 @@
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QTabWidget>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -383,6 +385,8 @@ int main(int argc, char **argv)
     StyleSheet::Named(argc == 3 ? argv[2] : "dark").Apply(application);
     const QTemporaryDir folder;
     qputenv("XDG_CACHE_HOME", QFile::encodeName(folder.filePath("cache")));
+    QSettings settings(folder.filePath("language.ini"), QSettings::IniFormat);
+    Language(&settings, "en").Install();
     {
         Album album(folder.path(), QDir(argv[1]));
         album.TakeAll();

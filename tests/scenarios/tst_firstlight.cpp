@@ -343,8 +343,9 @@ private slots:
         QVERIFY(!m_workbench->services.Preview()->isRunning());
         QTRY_VERIFY(!m_workbench->window.findChild<QPushButton *>("pushButtonCapture")->isEnabled());
         m_workbench->Action("Simulated Camera")->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(m_workbench->link.GetState(), CameraLink::State::Open, 10000);
         QVERIFY(m_workbench->WaitForNextPicture());
-        QVERIFY(!notice->isVisible());
+        QTRY_VERIFY(!notice->isVisible());
     }
 
     void defaultLayoutBringsEverythingBack()
