@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "guardedtest.h"
+#include "payloadlocker.h"
 #include "profileexchange.h"
 #include "spectrumcurvepayload.h"
 
@@ -181,7 +182,7 @@ void TestProfileExchange::shownSamplesStayWhileTheProducerWrites()
     std::atomic<int> written{ 0 };
     std::thread writer([&] {
         while (!stop) {
-            const QMutexLocker locker(&producer.mutex);
+            const PayloadLocker locker(&producer.mutex);
             std::fill_n(producer.payload.horizontalFill, FrameSize.width(), ++written);
         }
     });
