@@ -46,8 +46,7 @@ void ThumbnailQueue::SetMaker(ThumbnailMaker *maker)
     {
         const QMutexLocker lock(&m_mutex);
         m_maker = nullptr;
-        m_toFind.clear();
-        m_toMake.clear();
+        ForgetWanted();
     }
     m_threads.waitForDone();
     const QMutexLocker lock(&m_mutex);
@@ -64,16 +63,23 @@ void ThumbnailQueue::SetWanted(const QVector<ThumbnailStore::Subject> &subjects)
 {
     {
         const QMutexLocker lock(&m_mutex);
-        m_toFind.clear();
-        m_toMake.clear();
+        ForgetWanted();
         if (!m_maker)
             return;
         for (const ThumbnailStore::Subject &subject : subjects) {
+            m_places.insert(subject.path, m_places.size());
             if (!m_inWork.contains(subject.path))
                 m_toFind.push_back(subject);
         }
     }
     StartThreads();
+}
+
+void ThumbnailQueue::ForgetWanted()
+{
+    m_places.clear();
+    m_toFind.clear();
+    m_toMake.clear();
 }
 
 void ThumbnailQueue::StartThreads()
@@ -96,7 +102,9 @@ void ThumbnailQueue::RunThread()
         } else {
             const QMutexLocker lock(&m_mutex);
             m_inWork.remove(work.subject.path);
-            m_toMake.push_back(work.subject);
+            const auto place = m_places.constFind(work.subject.path);
+            if (place != m_places.constEnd())
+                m_toMake.emplace(*place, work.subject);
         }
     }
 }
@@ -104,16 +112,20 @@ void ThumbnailQueue::RunThread()
 bool ThumbnailQueue::TakeWork(Work &work)
 {
     const QMutexLocker lock(&m_mutex);
-    std::deque<ThumbnailStore::Subject> &queue = m_toFind.empty() ? m_toMake : m_toFind;
-    if (queue.empty() || !m_maker) {
+    if ((m_toFind.empty() && m_toMake.empty()) || !m_maker) {
         --m_running;
         return false;
     }
     work.isSought = m_toFind.empty();
     work.maker = m_maker;
     work.edge = m_edge;
-    work.subject = queue.front();
-    queue.pop_front();
+    if (work.isSought) {
+        work.subject = m_toMake.begin()->second;
+        m_toMake.erase(m_toMake.begin());
+    } else {
+        work.subject = m_toFind.front();
+        m_toFind.pop_front();
+    }
     m_inWork.insert(work.subject.path);
     return true;
 }

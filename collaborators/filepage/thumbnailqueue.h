@@ -3,6 +3,7 @@
 
 #include "thumbnailstore.h"
 
+#include <QHash>
 #include <QMetaType>
 #include <QMutex>
 #include <QObject>
@@ -11,6 +12,7 @@
 #include <QVector>
 
 #include <deque>
+#include <map>
 
 class ThumbnailMaker;
 
@@ -54,6 +56,7 @@ private:
         int edge = 0;
     };
 
+    void ForgetWanted();
     void StartThreads();
     void RunThread();
     bool TakeWork(Work &work);
@@ -68,7 +71,8 @@ private:
     ThumbnailMaker *m_maker = nullptr;
     int m_edge = ThumbnailStore::NormalEdge;
     std::deque<ThumbnailStore::Subject> m_toFind;
-    std::deque<ThumbnailStore::Subject> m_toMake;
+    QHash<QString, int> m_places; ///< of the wanted ones, the most wanted first
+    std::map<int, ThumbnailStore::Subject> m_toMake; ///< by place
     QSet<QString> m_inWork;
     QVector<ThumbnailResult> m_results;
     bool m_isDelivering = false;
