@@ -62,7 +62,8 @@ QVector<double> ReadWavelengths(const QString &text, bool withErrors)
 
 SensorMapping ReadMapping(const QXmlStreamAttributes &attributes)
 {
-    const auto number = [&](const char *name) { return attributes.value(name).toInt(); };
+    constexpr int most = 1000000000; // two of them can be added
+    const auto number = [&](const char *name) { return qBound(-most, attributes.value(name).toInt(), most); };
     SensorMapping mapping;
     mapping.rect = QRect(number("x"), number("y"), number("width"), number("height"));
     mapping.xBinning = qMax(1, number("xBinning"));
