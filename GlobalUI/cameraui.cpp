@@ -48,6 +48,8 @@ void CameraUI::LoadPluginUI(QWidget *parent) { LoadUIPluginAndInitUI("plugins/ca
 QWidget *CameraUI::GetControlScrollArea()
 {
     const QStringList tabNames{ tr("Camera"), tr("Adjustment"), tr("Hardware"), tr("Acquisition") };
+    if (m_leftTabWidget) // it loses its panels to the new one, which is no choice of the user's
+        disconnect(m_leftTabWidget, SIGNAL(currentChanged(int)), this, SLOT(slotCameraTabWidgetCurrentChanged(int)));
     m_leftTabWidget =
         qobject_cast<QTabWidget *>(GetScrollArea(FirstCameraPanel, AcquisitionPanel, tabNames, "Camera"));
     connect(m_leftTabWidget, SIGNAL(currentChanged(int)), this, SLOT(slotCameraTabWidgetCurrentChanged(int)));

@@ -37,11 +37,13 @@ QWidget *ImageUI::GetControlScrollArea()
 {
     m_navigateUI = new ImageNavigateUI(nullptr); // reparented by the control page
     const QStringList tabNames{ tr("Adjustment"), tr("Process"), tr("Automatic Counting") };
-    auto *tabs =
+    if (m_leftTabWidget) // it loses its panels to the new one, which is no choice of the user's
+        disconnect(m_leftTabWidget, SIGNAL(currentChanged(int)), this, SLOT(slotImageTabWidgetCurrentChanged(int)));
+    m_leftTabWidget =
         qobject_cast<QTabWidget *>(GetScrollArea(FirstImagePanel, LastImagePanel, tabNames, "Image"));
-    tabs->setCurrentIndex(UIConfigManager::GetInstance()->GetLeftUIIndex());
-    connect(tabs, SIGNAL(currentChanged(int)), this, SLOT(slotImageTabWidgetCurrentChanged(int)));
-    return MakeControlPage(m_navigateUI, tabs);
+    m_leftTabWidget->setCurrentIndex(UIConfigManager::GetInstance()->GetLeftUIIndex());
+    connect(m_leftTabWidget, SIGNAL(currentChanged(int)), this, SLOT(slotImageTabWidgetCurrentChanged(int)));
+    return MakeControlPage(m_navigateUI, m_leftTabWidget);
 }
 
 QWidget *ImageUI::CreateCenterWidget(QWidget *parent)

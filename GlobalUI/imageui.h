@@ -42,4 +42,5 @@ private:
     QPointer<ImageSpectrumStackedWidget> m_spectrumStack;
     QPointer<ImageNavigateUI> m_navigateUI;
     QPointer<MultiImageWidget> m_multiImageWidget;
+    QPointer<QTabWidget> m_leftTabWidget;
 };

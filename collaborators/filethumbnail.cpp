@@ -80,6 +80,7 @@ void FileThumbnail::BuildActions()
 {
     m_open = AddAction(tr("&Open"), QKeySequence(Qt::Key_Return), SLOT(slotOpen()));
     m_open->setShortcuts({QKeySequence(Qt::Key_Return), QKeySequence(Qt::Key_Enter)});
+    m_open->setToolTip(tr("Open the selected pictures (Return)"));
     m_compare = AddAction(tr("&Compare"), QKeySequence(), SLOT(slotCompare()));
     m_compare->setToolTip(tr("Compare the two selected pictures side by side"));
     m_merge = AddAction(tr("&Merge"), QKeySequence(), SLOT(slotMerge()));

@@ -36,6 +36,7 @@
 #include "shownframes.h"
 #include "spectrometermenu.h"
 #include "spectrumdialogs.h"
+#include "spectrumuimanager.h"
 #include "statusline.h"
 #include "uimanagerbase.h"
 #include "viewcodes.h"
@@ -151,6 +152,7 @@ void MainWindow::BuildAreas()
 {
     GlobalUI *module = GlobalUI::GetInstance();
     module->InitMainUI(this);
+    emit SpectrumUIManager::GetInstance()->SignalZoomAutoFlagChange(); // the zoom bars are born with the look of "on"
 
     m_centre = module->GetCenterStackedWidget();
     setCentralWidget(m_centre);

@@ -316,6 +316,10 @@
         <source>%1 pictures are selected; at most %2 are opened at once. Select fewer.</source>
         <translation>%1 Bilder sind ausgewählt; höchstens %2 werden auf einmal geöffnet. Weniger auswählen.</translation>
     </message>
+    <message>
+        <source>Open the selected pictures (Return)</source>
+        <translation>Die gewählten Bilder öffnen (Eingabe)</translation>
+    </message>
 </context>
 <context>
     <name>FolderReading</name>

@@ -20,14 +20,16 @@ public:
         : QUndoCommand(FileCommands::tr("Rename %1").arg(FileNameText(QFileInfo(move.from).fileName())))
         , m_commands(commands)
         , m_move(move)
+        , m_isDone(std::make_shared<bool>(false))
     {
     }
-    void redo() override { m_commands->StartRename(m_move); }
-    void undo() override { m_commands->StartRename({m_move.to, m_move.from}); }
+    void redo() override { m_commands->StartRename(m_move, m_isDone); }
+    void undo() override { m_commands->StartRenameBack(m_move, m_isDone); }
 
 private:
     FileCommands *m_commands;
     const FileMove m_move;
+    FileCommands::Done m_isDone; ///< shared with the worker, which alone reads and writes it
 };
 
 class TrashStep : public QUndoCommand
@@ -78,17 +80,30 @@ void FileCommands::Trash(const QStringList &paths)
         m_undoStack->push(new TrashStep(this, paths));
 }
 
-void FileCommands::StartRename(const FileMove &move)
+void FileCommands::StartRename(const FileMove &move, const Done &isDone)
 {
-    Start([this, move] {
-        QString fault;
-        if (FileMoves::Rename(move, fault)) {
-            m_store.Forget(move.from);
-            Report({move}, {}, QString());
-        } else {
-            Report({}, {fault}, QString());
-        }
+    Start([this, move, isDone] { *isDone = RenameNow(move); });
+}
+
+/// What was not renamed stays: a file of the new name is another one.
+void FileCommands::StartRenameBack(const FileMove &move, const Done &isDone)
+{
+    Start([this, move, isDone] {
+        if (*isDone)
+            *isDone = !RenameNow(FileMove{move.to, move.from});
     });
+}
+
+bool FileCommands::RenameNow(const FileMove &move)
+{
+    QString fault;
+    if (!FileMoves::Rename(move, fault)) {
+        Report({}, {fault}, QString());
+        return false;
+    }
+    m_store.Forget(move.from);
+    Report({move}, {}, QString());
+    return true;
 }
 
 void FileCommands::StartTrash(const Moves &moves)

@@ -42,7 +42,11 @@ private:
     friend class TrashStep;
 
     using Moves = std::shared_ptr<QVector<FileMove>>;
-    void StartRename(const FileMove &move);
+    using Done = std::shared_ptr<bool>;
+    void StartRename(const FileMove &move, const Done &isDone);
+    void StartRenameBack(const FileMove &move, const Done &isDone);
+    /// In the worker.
+    bool RenameNow(const FileMove &move);
     /// The worker fills in where the files went, for StartRestore() behind it.
     void StartTrash(const Moves &moves);
     void StartRestore(const Moves &moves);

@@ -342,6 +342,13 @@ void TestFilePage::ANameThatIsTakenIsRefused()
     QTRY_COMPARE(notice->text(), QString("A name cannot contain a slash. Choose another name."));
     m_thumbnails->findChild<QToolButton *>("toolButtonCloseNotice")->click();
     QVERIFY(notice->isHidden() || !notice->isVisible());
+    // There is nothing to take back: the file of that name is another one.
+    m_thumbnails->UndoStack()->undo();
+    Select(1);
+    m_list->model()->setData(Index(1), "last.tif", Qt::EditRole);
+    QTRY_VERIFY(QFile::exists(m_folder->filePath("last.tif"))); // one worker, one behind the other
+    QVERIFY(QFile::exists(m_folder->filePath("a.tif")));
+    QVERIFY(QFile::exists(m_folder->filePath("c.fits")));
 }
 
 void TestFilePage::DeleteMovesToTheTrashAndUndoBringsBack()

@@ -139,8 +139,10 @@ void ControlPanelsTest::cameraPageTwice()
     bench.Load();
     FakeCameraMainManager camera;
     QTabWidget *first = bench.Place(bench.manager->GetControlScrollArea());
+    UIConfigManager::GetInstance()->SetCameraUIIndex(2);
     QTabWidget *second = bench.Place(bench.manager->GetControlScrollArea());
     QVERIFY(first != second);
+    QCOMPARE(UIConfigManager::GetInstance()->GetCameraUIIndex(), 2); // though the first one lost its panels
     // The last one is kept up to date.
     second->setStyleSheet("");
     first->setStyleSheet("");

@@ -8,6 +8,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QFileDialog>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -226,12 +227,28 @@ QWidget *FieldForm::MakeWidget(const PanelField &field)
     return label;
 }
 
+/// Who scrolls a panel changes nothing on the way.
+void FieldForm::TakeWheelWithFocusOnly(QWidget *widget)
+{
+    widget->setFocusPolicy(Qt::StrongFocus);
+    widget->installEventFilter(this);
+}
+
+bool FieldForm::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
+        return QWidget::eventFilter(watched, event);
+    event->ignore(); // goes on to the area that scrolls
+    return true;
+}
+
 QWidget *FieldForm::MakeNumber(const PanelField &field)
 {
     auto *box = new NumberBox(m_fields);
     box->setObjectName(ObjectName("number", field.key));
     box->setDecimals(field.decimals);
     box->setSuffix(field.unit);
+    TakeWheelWithFocusOnly(box);
     box->setSpecialValueText(field.zeroText);
     box->setAccessibleName(WithoutMnemonic(field.text));
     connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
@@ -245,6 +262,7 @@ QWidget *FieldForm::MakeChoice(const PanelField &field)
     box->setObjectName(ObjectName("choice", field.key));
     box->setAccessibleName(WithoutMnemonic(field.text));
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    TakeWheelWithFocusOnly(box);
     connect(box, QOverload<int>::of(&QComboBox::activated), this,
             [this, key = field.key](int index) { Send(key, index); });
     return box;
@@ -306,7 +324,8 @@ void FieldForm::ShowField(const PanelField &field)
     case PanelField::Kind::Folder: {
         auto *edit = field.kind == PanelField::Kind::Text ? static_cast<QLineEdit *>(widget)
                                                           : static_cast<QLineEdit *>(widget->focusProxy());
-        if (edit->text() != field.value.toString())
+        // A space at the end is the beginning of the next word.
+        if (edit->text().trimmed() != field.value.toString().trimmed())
             edit->setText(field.value.toString());
         break;
     }

@@ -29,6 +29,7 @@ public slots:
     void slotUpdate();
 
 protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
@@ -41,6 +42,7 @@ private:
     void Build(const PanelFields &fields);
     void AddField(const PanelField &field);
     QWidget *MakeWidget(const PanelField &field);
+    void TakeWheelWithFocusOnly(QWidget *widget);
     QWidget *MakeNumber(const PanelField &field);
     QWidget *MakeChoice(const PanelField &field);
     QWidget *MakeText(const PanelField &field);

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QWheelEvent>
 
 #include <memory>
 
@@ -66,6 +67,7 @@ private slots:
     void fieldsAreShownInOrder();
     void whatIsSetIsPassedOn();
     void valuesFollowAndWidgetsStay();
+    void wheelChangesOnlyWhatHasTheFocus();
     void otherFieldsMakeOtherWidgets();
     void faultIsShownUntilItIsOver();
     void watchedOnlyWhileShown();
@@ -148,6 +150,39 @@ void FieldFormTest::valuesFollowAndWidgetsStay()
     QVERIFY(!number->isEnabled());
     QCOMPARE(form.findChild<QComboBox *>("choiceMode")->currentText(), QString("four"));
     QVERIFY(source.told.isEmpty());
+    // A source that takes spaces off does not take them from who is still typing.
+    auto *name = form.findChild<QLineEdit *>("textName");
+    name->setText("my ");
+    source.fields[3].value = "my";
+    emit source.signalChanged();
+    QCOMPARE(name->text(), QString("my "));
+    source.fields[3].value = "yours";
+    emit source.signalChanged();
+    QCOMPARE(name->text(), QString("yours"));
+}
+
+void FieldFormTest::wheelChangesOnlyWhatHasTheFocus()
+{
+    Recorder source("test");
+    FieldForm form(&source, "absent");
+    form.show();
+    form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    form.findChild<QLineEdit *>("textName")->setFocus();
+    for (const char *name : { "numberWidth", "choiceMode" }) {
+        auto *widget = form.findChild<QWidget *>(name);
+        QWheelEvent before(QPointF(5, 5), widget->mapToGlobal(QPointF(5, 5).toPoint()), QPoint(), QPoint(0, -120), Qt::NoButton,
+                           Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(widget, &before);
+        QVERIFY2(source.told.isEmpty(), name);
+        QVERIFY(!before.isAccepted()); // the area around it scrolls
+    }
+    auto *number = form.findChild<NumberBox *>("numberWidth");
+    number->setFocus();
+    QWheelEvent turned(QPointF(5, 5), number->mapToGlobal(QPoint(5, 5)), QPoint(), QPoint(0, -120), Qt::NoButton,
+                       Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(number, &turned);
+    QCOMPARE(source.told, QStringList("width=19"));
 }
 
 void FieldFormTest::otherFieldsMakeOtherWidgets()

@@ -3423,10 +3423,6 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>“%1” was saved.</source>
         <translation>„%1“ wurde gespeichert.</translation>
     </message>
-    <message>
-        <source>%1 could not be written: %2 Choose another folder.</source>
-        <translation>%1 ließ sich nicht schreiben: %2 Einen anderen Ordner wählen.</translation>
-    </message>
 </context>
 <context>
     <name>SpectrumFields</name>
