@@ -392,6 +392,7 @@ private slots:
         Apply();
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);
         QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 3, MsToWait);
+        QSignalSpy told(&m_workbench->services, SIGNAL(signalMessage(QString))); // the link's own messages follow it
         emit m_workbench->link.Session()->signalControlLost();
         const RunReceipt receipt = Receipt();
         QCOMPARE(receipt.outcome.end, RunEnd::CameraLost);
@@ -399,7 +400,10 @@ private slots:
         const QString sentence = QString("The recording ended early: Simulated Camera does not answer. %1 frames saved "
                                          "as run1.tif, none lost.")
                                      .arg(receipt.stamps.size());
-        QVERIFY2(m_workbench->StatusText().contains(sentence), qPrintable(m_workbench->StatusText()));
+        QStringList messages;
+        for (const QVariantList &message : told)
+            messages << message.first().toString();
+        QVERIFY2(messages.contains(sentence), qPrintable(messages.join('\n')));
         auto *dialog = m_workbench->window.findChild<QDialog *>("ReceiptDialog"); // without being asked for
         QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
         QStringList lines;
