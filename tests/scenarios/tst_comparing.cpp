@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "camerasession.h"
 #include "createpicture.h"
-#include "guardedtest.h"
 #include "openedpicture.h"
 #include "openpicture.h"
 #include "picturedesk.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "savedialog.h"
 #include "viewcodes.h"
 #include "workspaceconfig.h"
@@ -14,11 +12,8 @@
 #include <QApplication>
 #include <QGraphicsView>
 #include <QLineEdit>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
 #include <QPushButton>
 #include <QStackedWidget>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -37,37 +32,18 @@ void WriteGrey(const QString &path, const QSize &size, int grey)
 } // namespace
 
 /// A person compares pictures, comes from the spectrum page and goes back to it, and saves.
-class ComparingScenario : public GuardedTest
+class ComparingScenario : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // The OpenGL driver starts threads with its first context and keeps them.
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        QVERIFY(context.create() && context.makeCurrent(&surface));
-    }
-
     void init() override
     {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
+        ScenarioTest::init();
         WriteGrey(Path("one.tif"), QSize(64, 48), 50);
         WriteGrey(Path("two.tif"), QSize(80, 60), 200);
         for (const char *name : { "one.tif", "two.tif" })
             QVERIFY(Open(name));
-    }
-
-    void cleanup() override
-    {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        EndGuard();
     }
 
     void comparisonTakesThePlaceOfTheSpectrumPage_data()
@@ -222,8 +198,6 @@ private:
         return halves;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
 };
 
 GUARDED_TEST_MAIN(ComparingScenario)

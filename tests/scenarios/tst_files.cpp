@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "camerasession.h"
 #include "createpicture.h"
 #include "filesystemview.h"
 #include "filethumbnail.h"
-#include "guardedtest.h"
 #include "guiwatchdog.h"
 #include "openedpicture.h"
 #include "openpicture.h"
 #include "picturedesk.h"
 #include "picturedocument.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "stylesheet.h"
 #include "viewcodes.h"
 #include "workspaceconfig.h"
@@ -24,15 +22,12 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
 #include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStackedWidget>
-#include <QTemporaryDir>
 
 #include <fcntl.h>
 #include <memory>
@@ -78,20 +73,11 @@ void WriteEmptyFiles(const QString &folder, int count)
 } // namespace
 
 /// A person finds, looks through and works with picture files.
-class FilesScenario : public GuardedTest
+class FilesScenario : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // The OpenGL driver starts threads with its first context and keeps them.
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        QVERIFY(context.create() && context.makeCurrent(&surface));
-    }
-
     void init() override
     {
         StartGuard();
@@ -108,10 +94,7 @@ private slots:
     void cleanup() override
     {
         m_workbench->services.Config()->SetCameraView();
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        m_folder.reset();
-        EndGuard();
+        ScenarioTest::cleanup();
     }
 
     void picturesAreSeenAndOpened()
@@ -298,8 +281,6 @@ private:
     PictureDesk *Desk() const { return m_workbench->services.Desk(); }
     int CurrentView() const { return m_workbench->services.Config()->GetCurrentView(); }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
     FileThumbnail *m_page = nullptr;
     QListView *m_list = nullptr;
 };

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "camerasession.h"
 #include "globalclass.h"
-#include "guardedtest.h"
 #include "livepreview.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "shownframes.h"
 #include "stylesheet.h"
 #include "testchartscene.h"
@@ -16,14 +15,11 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMouseEvent>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTemporaryDir>
 #include <QWheelEvent>
 
 #include <memory>
@@ -48,35 +44,11 @@ int ExpectedGrey(const QPoint &sensorPos)
 } // namespace
 
 /// A person starts the workbench and works with the live picture.
-class FirstLight : public GuardedTest
+class FirstLight : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // The OpenGL driver starts threads with its first context and keeps them.
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        QVERIFY(context.create() && context.makeCurrent(&surface));
-    }
-
-    void init() override
-    {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
-    }
-
-    void cleanup() override
-    {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        EndGuard();
-    }
-
     void pictureOnTheScreenIsTheChart_data()
     {
         QTest::addColumn<PixelLayout>("layout");
@@ -474,8 +446,6 @@ private:
         return m_workbench->OnScreenAt(m_workbench->Frame()->mapToGlobal(QPoint(20, 100)));
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
 };
 
 int main(int argc, char **argv)

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "camerasession.h"
 #include "createpicture.h"
-#include "guardedtest.h"
 #include "liveorientation.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
 #include "picturedocument.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "viewcodes.h"
 #include "workspaceconfig.h"
 
@@ -17,12 +15,9 @@
 #include <QGraphicsView>
 #include <QMenu>
 #include <QMenuBar>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
 #include <QRegularExpression>
 #include <QShortcut>
 #include <QStackedWidget>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -54,39 +49,20 @@ QStringList MnemonicsTakenTwice(const QList<QAction *> &actions, const QString &
 } // namespace
 
 /// Every key does its one thing in the whole window, where menus and tool bars could dispute it.
-class KeysScenario : public GuardedTest
+class KeysScenario : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // The OpenGL driver starts threads with its first context and keeps them.
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        QVERIFY(context.create() && context.makeCurrent(&surface));
-    }
-
     void init() override
     {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
+        ScenarioTest::init();
         QString error;
         const QString path = m_folder->filePath("grey.tif");
         QVERIFY2(SavePicture(path, Picture(1200, 900, 1, SampleType::U8), SaveOptions(), error), qPrintable(error));
         PictureDesk *desk = m_workbench->services.Desk();
         desk->Open({ path }, desk->MainPicture());
         QTRY_COMPARE(m_workbench->services.Config()->GetCurrentView(), int(ImageView));
-    }
-
-    void cleanup() override
-    {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        EndGuard();
     }
 
     void zoomKeysZoomOnce_data() { PageRows(); }
@@ -255,8 +231,6 @@ private:
                         Qt::KeyboardModifiers(code & int(Qt::KeyboardModifierMask)));
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
     bool m_isLive = false;
 };
 

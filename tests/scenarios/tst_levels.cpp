@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "camerasession.h"
 #include "createpicture.h"
-#include "guardedtest.h"
 #include "levelsmodel.h"
 #include "livelevels.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
 #include "pixelinfomanager.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "testchartscene.h"
 #include "workspaceconfig.h"
 
@@ -15,10 +14,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -39,20 +35,11 @@ int Sample(const QPoint &place, int bitDepth)
 } // namespace
 
 /// A person sets how the live picture is shown; the values under the mouse stay those of the camera.
-class LevelsScenario : public GuardedTest
+class LevelsScenario : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // The OpenGL driver starts threads with its first context and keeps them.
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        QVERIFY(context.create() && context.makeCurrent(&surface));
-    }
-
     void init() override
     {
         StartGuard();
@@ -220,8 +207,6 @@ private:
         QVERIFY(CameraSession::WaitForTeardown(5000));
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
 };
 
 GUARDED_TEST_MAIN(LevelsScenario)

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "camerasession.h"
 #include "createpicture.h"
 #include "displaymodemanager.h"
-#include "guardedtest.h"
 #include "openedpicture.h"
 #include "palette.h"
 #include "picturedesk.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "spebytes.h"
 #include "spectrumonscreen.h"
 #include "spectrumuimanager.h"
@@ -14,10 +12,7 @@
 #include <QAction>
 #include <QFile>
 #include <QGraphicsView>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <cmath>
 #include <memory>
@@ -97,36 +92,11 @@ struct ShownRow
 } // namespace
 
 /// A person reads a spectrum that was recorded.
-class OpenedSpectrumScenario : public GuardedTest
+class OpenedSpectrumScenario : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // The OpenGL driver starts threads with its first context and keeps them.
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        QVERIFY(context.create() && context.makeCurrent(&surface));
-    }
-
-    void init() override
-    {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
-    }
-
-    void cleanup() override
-    {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        m_folder.reset();
-        EndGuard();
-    }
-
     void dragsClicksAndStepsBack();
     void framesAndFilesKeepTheirPlace();
     void rulersCountWhatTheyCanShow();
@@ -155,8 +125,6 @@ private:
     }
 
     const QVector<double> Whole{ 0, double(FileSize.width()), 0, double(FileSize.height()) };
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
 };
 
 void OpenedSpectrumScenario::dragsClicksAndStepsBack()

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cameramanager.h"
-#include "camerasession.h"
 #include "createpicture.h"
-#include "guardedtest.h"
 #include "livepreview.h"
 #include "openedpicture.h"
 #include "openpicture.h"
@@ -11,7 +9,7 @@
 #include "pictureshelf.h"
 #include "pixeltext.h"
 #include "rawcameraframe.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "savedialog.h"
 #include "stylesheet.h"
 #include "testchartscene.h"
@@ -30,13 +28,10 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTemporaryDir>
 #include <QUndoStack>
 #include <QUrl>
 #include <QWindow>
@@ -94,35 +89,11 @@ void WriteBytes(const QString &path, const QByteArray &bytes)
 } // namespace
 
 /// A person opens files beside the live picture and works with them.
-class PicturesScenario : public GuardedTest
+class PicturesScenario : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // The OpenGL driver starts threads with its first context and keeps them.
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        QVERIFY(context.create() && context.makeCurrent(&surface));
-    }
-
-    void init() override
-    {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
-    }
-
-    void cleanup() override
-    {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        EndGuard();
-    }
-
     void droppedFilesOpenAndTheMouseReadsThem()
     {
         WriteNumbers(Path("one.tif"), QSize(17, 11), 1);
@@ -624,9 +595,7 @@ private:
         QTRY_VERIFY(!m_workbench->window.findChild<SaveDialog *>());
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     QTemporaryDir m_madeFolder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
     QPoint m_mouseViewPos;
     int m_liveSide = SensorSize; ///< of the live picture without a region
 };

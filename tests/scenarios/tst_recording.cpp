@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cameramainmanager.h"
 #include "camerasession.h"
+#include "cameramainmanager.h"
 #include "framesaving.h"
-#include "guardedtest.h"
 #include "livepreview.h"
 #include "openpicture.h"
 #include "recordingdesk.h"
 #include "recordingstatus.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "runregister.h"
 #include "runwriter.h"
 #include "savesettings.h"
@@ -25,13 +24,10 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMessageBox>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStatusBar>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QWindow>
 
@@ -43,26 +39,14 @@ constexpr QRect SmallRegion(512, 512, 256, 128);
 } // namespace
 
 /// A person records what the camera delivers.
-class Recording : public GuardedTest
+class Recording : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // The OpenGL driver starts threads with its first context and keeps them.
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        QVERIFY(context.create() && context.makeCurrent(&surface));
-    }
-
     void init() override
     {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
+        ScenarioTest::init();
         m_workbench->link.SetRegion(SmallRegion);
         QVERIFY(m_workbench->WaitForNextPicture());
         m_settings = RecordingSettings();
@@ -75,10 +59,7 @@ private slots:
     void cleanup() override
     {
         m_ended.reset();
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        m_folder.reset();
-        EndGuard();
+        ScenarioTest::cleanup();
     }
 
     void theCaptureButtonRecordsAndThePanelFollows()
@@ -625,8 +606,6 @@ private:
         }
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
     std::unique_ptr<QSignalSpy> m_ended;
     RecordingSettings m_settings;
     bool m_isAnswered = false;

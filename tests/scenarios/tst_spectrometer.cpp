@@ -2,11 +2,10 @@
 #include "calibrationmodel.h"
 #include "camerasession.h"
 #include "fieldsource.h"
-#include "guardedtest.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
 #include "plotpicture.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "spectrographoptics.h"
 #include "spectrographscene.h"
 #include "spectrumpipeline.h"
@@ -22,14 +21,11 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QSvgRenderer>
 #include <QTableWidget>
-#include <QTemporaryDir>
 #include <qcustomplot.h>
 
 #include <cmath>
@@ -59,20 +55,11 @@ QVector<QVector<double>> ColumnsOf(const QStringList &lines)
 } // namespace
 
 /// A person puts a lamp before a spectrometer, calibrates it, and takes the spectrum home.
-class SpectrometerScenario : public GuardedTest
+class SpectrometerScenario : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // The OpenGL driver starts threads with its first context and keeps them.
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        QVERIFY(context.create() && context.makeCurrent(&surface));
-    }
-
     void init() override
     {
         StartGuard();
@@ -380,8 +367,6 @@ private:
         QVERIFY2(std::abs(box.captured(2).toDouble() - plot->height() * 0.75) < 1, qPrintable(box.captured(2)));
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
     QPointer<QDialog> m_dialog;
 };
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "guardedtest.h"
 #include "intensitymanager.h"
 #include "palette.h"
 #include "payloadlocker.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "spectrographoptics.h"
 #include "spectrumcurvepayload.h"
 #include "spectrumonscreen.h"
@@ -12,10 +11,7 @@
 #include <QAction>
 #include <QGraphicsView>
 #include <QLabel>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <algorithm>
 #include <cmath>
@@ -57,37 +53,18 @@ private:
 } // namespace
 
 /// A person reads the lines of a lamp off the sensor of a spectrometer.
-class SpectrumAidsScenario : public GuardedTest
+class SpectrumAidsScenario : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // The OpenGL driver starts threads with its first context and keeps them.
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        QVERIFY(context.create() && context.makeCurrent(&surface));
-    }
-
     void init() override
     {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
+        ScenarioTest::init();
         m_workbench->link.SetScene("spectrograph");
         m_workbench->Action("Spectrum Page")->trigger();
         QTRY_VERIFY(Page().Image());
         QVERIFY(m_workbench->WaitForNextPicture());
-    }
-
-    void cleanup() override
-    {
-        m_workbench.reset();
-        m_folder.reset();
-        EndGuard();
     }
 
     void curveFollowsThePickedRow();
@@ -103,8 +80,6 @@ private:
     void Click(const QPointF &scenePos) const { Page().Drag(scenePos, scenePos); }
     SpectrumOnScreen Page() const { return SpectrumOnScreen(&m_workbench->window); }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
 };
 
 void SpectrumAidsScenario::curveFollowsThePickedRow()

@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "displaymodemanager.h"
-#include "guardedtest.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "spectrumonscreen.h"
 #include "spectrumuimanager.h"
 
 #include <QAction>
 #include <QGraphicsView>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -19,33 +15,21 @@ constexpr int SensorSize = 2048;
 } // namespace
 
 /// A person looks at the sensor of a spectrometer.
-class SpectrumPageScenario : public GuardedTest
+class SpectrumPageScenario : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // The OpenGL driver starts threads with its first context and keeps them.
-        QOffscreenSurface surface;
-        surface.create();
-        QOpenGLContext context;
-        QVERIFY(context.create() && context.makeCurrent(&surface));
-    }
-
     void dragsClicksAndStepsBack()
     {
-        QTemporaryDir folder;
-        RunningWorkbench workbench(folder.path());
-        QVERIFY(workbench.WaitForPicture());
-        QAction *spectrum = workbench.Action("Spectrum Page");
+        QAction *spectrum = m_workbench->Action("Spectrum Page");
         QVERIFY(spectrum);
         spectrum->trigger();
-        SpectrumOnScreen page(&workbench.window);
+        SpectrumOnScreen page(&m_workbench->window);
         QVERIFY(page.WaitForImage());
         const QGraphicsView *image = page.Image();
         QTRY_COMPARE(image->sceneRect(), QRectF(0, 0, SensorSize, SensorSize));
-        QVERIFY(workbench.WaitForNextPicture());
+        QVERIFY(m_workbench->WaitForNextPicture());
 
         const QObject *ranges = SpectrumUIManager::GetInstance()->GetDisplayModeManager();
         QSignalSpy columns(ranges, SIGNAL(SignalChangeHShowValueRange(qreal, qreal)));
@@ -65,7 +49,7 @@ private slots:
         QVERIFY(zoomed.at(0) > 380.0 && zoomed.at(1) < 1220.0 && zoomed.at(2) > 580.0 && zoomed.at(3) < 1320.0);
         QCOMPARE(Newest(&columns), zoomed.mid(0, 2));
         QCOMPARE(Newest(&rows), zoomed.mid(2, 2));
-        QVERIFY(workbench.WaitForNextPicture());
+        QVERIFY(m_workbench->WaitForNextPicture());
         QVERIFY(page.IsSeen(zoomed)); // a frame of the same size changes nothing
         QVERIFY(visible.isEmpty());
 
@@ -77,7 +61,7 @@ private slots:
 
         spectrum->trigger();
         QTRY_VERIFY(!image->isVisible());
-        QVERIFY(workbench.WaitForNextPicture());
+        QVERIFY(m_workbench->WaitForNextPicture());
     }
 };
 
