@@ -30,7 +30,6 @@
 #include "viewcodes.h"
 #include "widgetswitchui.h"
 
-#include <QCoreApplication>
 #include <QTabWidget>
 
 namespace {
@@ -44,9 +43,6 @@ enum RightPanelId
 };
 constexpr int TabsWithSpectrum = 4;
 constexpr int TabsWithoutSpectrum = 3;
-
-/// Titles of the measure side's pages are texts of its own.
-QString MeasureText(const char *text) { return QCoreApplication::translate("MeasureUI", text); }
 
 /// The page's text is translated by the camera side, whose panel it is.
 bool IsHistogramTitle(const QString &tabText)
@@ -238,22 +234,22 @@ QWidget *GlobalUI::GetImageControlUIScrollArea() { return m_imageUI->GetControlS
 
 QWidget *GlobalUI::GetSpectrumWidget()
 {
-    return m_measureUI->GetWidget(SpectrumPanel, MeasureText("Spectrum"), "");
+    return m_measureUI->GetWidget(SpectrumPanel, MeasureUI::tr("Spectrum"), "");
 }
 
 QWidget *GlobalUI::GetDataAnalysisWidget()
 {
-    return m_measureUI->GetWidget(AnalysisPanel, MeasureText("Analysis"), "Measure");
+    return m_measureUI->GetWidget(AnalysisPanel, MeasureUI::tr("Analysis"), "Measure");
 }
 
 QWidget *GlobalUI::GetToolPropertyWidget()
 {
-    return m_measureUI->GetWidget(ToolPropertiesPanel, MeasureText("Tool Properties"), "Measure");
+    return m_measureUI->GetWidget(ToolPropertiesPanel, MeasureUI::tr("Tool Properties"), "Measure");
 }
 
 QWidget *GlobalUI::GetReportWidget()
 {
-    return m_measureUI->GetWidget(ReportPanel, MeasureText("Report"), "Report");
+    return m_measureUI->GetWidget(ReportPanel, MeasureUI::tr("Report"), "Report");
 }
 
 void GlobalUI::SetCameraBottomControlUIPanel(QTabWidget *tabWidget)

@@ -54,6 +54,14 @@ void AddReport(const UIPluginReport &report)
                  qPrintable(report.reason));
 }
 
+/// A plug-in brings no catalogue: its title is a text of the manager that loads it.
+QString TitleText(const UIManagerBase &manager, const QString &title)
+{
+    if (title.isEmpty())
+        return title;
+    return QCoreApplication::translate(manager.metaObject()->className(), title.toUtf8().constData());
+}
+
 } // namespace
 
 class UIManagerBase::Private
@@ -82,6 +90,8 @@ void UIManagerBase::Private::Load(const QString &filePath, QWidget *parent, UIMa
     UIPluginReport report;
     Source source;
     source.entry = UIPluginLoader::Load(filePath, Registry().takenIds, report);
+    report.title = TitleText(*manager, report.title);
+    source.entry.title = report.title;
     AddReport(report);
     if (!report.loaded)
         return;
@@ -197,8 +207,7 @@ void UIManagerBase::SetBottomControlUIPanel(QTabWidget *bottomTabs)
         const UIPluginEntry &entry = m_private->SourceOf(loaded.id)->entry;
         if (!entry.isBottomPage)
             continue;
-        const QString text = QCoreApplication::translate(metaObject()->className(), qPrintable(entry.title));
-        pages->Add({loaded.widget, text, entry.belongsToCamera, entry.belongsToImage});
+        pages->Add({loaded.widget, entry.title, entry.belongsToCamera, entry.belongsToImage});
     }
     pages->Show(Registry().leftPage);
 }

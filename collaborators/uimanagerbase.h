@@ -30,7 +30,8 @@ public:
     /// Loads every plug-in of `directory`, looked for below each of PluginRoots(). One that can't
     /// be loaded is skipped, logged with its reason and reported. With `complete` this was the
     /// manager's last folder: its panels show the state of the services for the first time.
-    /// `parent` owns the panels until they are placed.
+    /// Titles are translated in the context of the manager's class. `parent` owns the panels until
+    /// they are placed.
     void LoadUIPluginAndInitUI(const QString &directory, QWidget *parent, bool complete);
     /// A new tab widget with the panels firstId to lastId under `tabNames`, each in a scroll area.
     /// The caller owns it. `group` names it for the style sheet: "<group>TabWidget".
@@ -39,7 +40,7 @@ public:
     /// one page per id: asked for again, it moves to its new place.
     QWidget *GetWidget(int id, const QString &title, const QString &group);
     /// Adds this manager's bottom pages to `bottomTabs`, those that belong to the left page last
-    /// shown. Their texts are translated in the context of the manager's class.
+    /// shown.
     void SetBottomControlUIPanel(QTabWidget *bottomTabs);
     /// Brings the bottom page with this text to the front.
     void setBottomPanelCurrentIndex(const QString &tabText);

@@ -18,7 +18,7 @@ class UIPlugin;
 struct UIPluginReport
 {
     QString filePath; ///< empty: a panel was asked for, and no plug-in brings it
-    QString title; ///< may be empty
+    QString title; ///< in the program's language, where that has it; may be empty
     QString version;
     int id = -1;
     bool loaded = false;

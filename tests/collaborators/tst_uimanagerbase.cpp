@@ -9,6 +9,7 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 #include <memory>
 
@@ -30,6 +31,21 @@ QStringList Texts(const QTabWidget &tabs)
         texts << tabs.tabText(i);
     return texts;
 }
+
+/// Knows one title, as a text of the manager's.
+class OneTitle : public QTranslator
+{
+public:
+    OneTitle() { QCoreApplication::installTranslator(this); }
+    ~OneTitle() override { QCoreApplication::removeTranslator(this); }
+
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        const bool isIt = !qstrcmp(context, "UIManagerBase") && !qstrcmp(source, "Histogram(Live)");
+        return isIt ? QString("Häufigkeit (live)") : QString();
+    }
+};
 
 /// The text of the label that a page of a tab widget scrolls.
 QString PageText(const QTabWidget &tabs, int index)
@@ -60,6 +76,7 @@ private slots:
     void APageMovesToItsNewPlace();
     void APanelThatIsGoneIsLeftOut();
     void TheTableOfPanelsListsThem();
+    void TitlesAreInTheLanguageOfTheProgram();
 
 private:
     void LoadAll(TestPanels *manager, bool complete = true);
@@ -261,6 +278,22 @@ void TestUIManagerBase::TheTableOfPanelsListsThem()
     QCOMPARE(table.item(2, 0)->text(), QString("31"));
     QCOMPARE(table.item(2, 1)->text(), QString("Histogram(Live)"));
     QCOMPARE(table.item(1, 2)->text(), QString("1.2.3"));
+}
+
+void TestUIManagerBase::TitlesAreInTheLanguageOfTheProgram()
+{
+    const OneTitle language;
+    TestPanels manager;
+    LoadAll(&manager);
+    QCOMPARE(ReportOf("b_histogrampage.so").title, QString("Häufigkeit (live)"));
+    QCOMPARE(ReportOf("c_calibrationpage.so").title, QString("Calibration Table")); // nobody translated it
+    QCOMPARE(ReportOf("o_throws.so").title, QString("Test 46"));
+    QTabWidget bottom;
+    manager.SetBottomControlUIPanel(&bottom);
+    QCOMPARE(Texts(bottom).last(), QString("Häufigkeit (live)"));
+    QTableWidget table(0, 3);
+    manager.AddUIConfigItem(&table, 0);
+    QCOMPARE(table.item(1, 1)->text(), QString("Häufigkeit (live)"));
 }
 
 GUARDED_TEST_MAIN(TestUIManagerBase)

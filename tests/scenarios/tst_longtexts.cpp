@@ -4,6 +4,7 @@
 #include "guardedtest.h"
 #include "runningworkbench.h"
 #include "stylesheet.h"
+#include "uimanagerbase.h"
 #include "workspaceconfig.h"
 
 #include <QAbstractButton>
@@ -151,6 +152,12 @@ private slots:
             }
         }
         QCOMPARE(untranslated, QStringList());
+    }
+
+    void everyPanelsTitleIsTranslated()
+    {
+        for (const UIPluginReport &report : UIManagerBase::PluginReports())
+            QVERIFY2(report.title.startsWith('['), qPrintable(report.title));
     }
 
     void dialogsHaveRoom_data()
