@@ -68,14 +68,12 @@ void FolderContent::Ask(bool readsAnew)
     if (m_query.folder.isEmpty())
         return;
     m_query.ticket = ++m_newest;
-    // What an older query asked for and did not get is asked for again.
-    m_query.readsAnew = readsAnew || m_query.readsAnew;
+    m_query.readsAnew = readsAnew;
     QMetaObject::invokeMethod(m_worker, "slotList", Q_ARG(FolderQuery, m_query));
 }
 
 void FolderContent::slotListed(const FolderListing &listing)
 {
-    m_query.readsAnew = false;
     if (listing.folder == m_query.folder)
         emit signalListed(listing);
 }

@@ -27,20 +27,22 @@ FolderWorker::FolderWorker(const std::atomic<quint64> *newest)
 
 void FolderWorker::slotList(const FolderQuery &query)
 {
+    if (query.readsAnew)
+        m_isRead = false; // for the query that overtakes this one, too
     if (query.ticket != *m_newest)
         return; // a newer one is on its way
     const bool isOtherFolder = query.folder != m_query.folder || query.suffixes != m_query.suffixes;
     const bool isOtherOrder = !(query.order == m_query.order);
     m_query = query;
-    if (isOtherFolder)
-        m_isRead = m_isListed = false;
+    m_isRead = m_isRead && !isOtherFolder;
+    m_isListed = m_isListed && !isOtherFolder && !isOtherOrder;
     Watch(); // before reading, so that nothing slips through between the two
-    if (!m_isRead || query.readsAnew)
+    if (!m_isRead)
         Read();
-    else if (!isOtherOrder)
+    else if (m_isListed)
         return;
-    if (!IsOutdated())
-        Announce(!m_isListed || isOtherOrder);
+    if (m_isRead)
+        Announce();
 }
 
 void FolderWorker::slotChanged()
@@ -55,8 +57,8 @@ void FolderWorker::slotReadAnew()
         return;
     Watch();
     Read();
-    if (!IsOutdated())
-        Announce(false);
+    if (m_isRead)
+        Announce();
 }
 
 void FolderWorker::Read()
@@ -69,17 +71,17 @@ void FolderWorker::Read()
     m_fault = files.fault;
 }
 
-void FolderWorker::Announce(bool isOtherList)
+void FolderWorker::Announce()
 {
     FolderListing listing;
     listing.folder = m_query.folder;
     listing.entries = Arranged(m_entries, m_query.order);
     listing.total = m_entries.size();
     listing.fault = m_fault;
-    if (isOtherList)
-        listing.changes.isReset = true;
-    else
+    if (m_isListed)
         listing.changes = FindRowChanges(m_listed, listing.entries);
+    else
+        listing.changes.isReset = true;
     m_listed = listing.entries;
     m_isListed = true;
     emit signalListed(listing);

@@ -60,7 +60,7 @@ private slots:
 private:
     bool IsOutdated() const { return m_query.ticket != *m_newest; }
     void Read();
-    void Announce(bool isOtherList);
+    void Announce();
     void Watch();
     QStringList PathsToWatch() const;
 
@@ -71,6 +71,6 @@ private:
     FileEntries m_entries;
     QString m_fault;
     FileEntries m_listed;
-    bool m_isRead = false; ///< m_entries are those of the query's folder
-    bool m_isListed = false;
+    bool m_isRead = false;   ///< m_entries are those of the query's folder, read since it was asked to read anew
+    bool m_isListed = false; ///< m_listed are those of its folder, in its order
 };
