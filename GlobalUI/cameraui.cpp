@@ -108,7 +108,7 @@ void CameraUI::UpdatePlugins(bool cameraPresent)
         // A panel that needs more than a camera disables itself in its update.
         if (cameraPresent && loaded.widget)
             loaded.widget->setEnabled(true);
-        loaded.plugin->UpdateUI();
+        UpdatePlugin(loaded);
         if (!cameraPresent && loaded.widget)
             loaded.widget->setEnabled(false);
     }

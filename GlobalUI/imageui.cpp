@@ -88,7 +88,7 @@ void ImageUI::slotUpdateImageControlUI()
     const bool enabled = global->IsImageEnabled() && !global->GetActiveImageManager()->Is32BitMat();
     const QList<LoadedPlugin> plugins = Plugins();
     for (int i = plugins.size() - 1; i >= 0; --i) {
-        plugins.at(i).plugin->UpdateUI();
+        UpdatePlugin(plugins.at(i));
         if (plugins.at(i).widget)
             plugins.at(i).widget->setEnabled(enabled);
     }

@@ -55,13 +55,18 @@ BottomPages::~BottomPages()
 
 void BottomPages::Add(const BottomPage &page)
 {
+    Remove(page.widget);
+    m_pages.append(page);
+}
+
+void BottomPages::Remove(const QWidget *widget)
+{
     for (BottomPages *pages : Living()) {
         QVector<BottomPage> &others = pages->m_pages;
         others.erase(std::remove_if(others.begin(), others.end(),
-                                    [&](const BottomPage &other) { return other.widget == page.widget; }),
+                                    [=](const BottomPage &other) { return other.widget == widget; }),
                      others.end());
     }
-    m_pages.append(page);
 }
 
 void BottomPages::Show(int leftPage)

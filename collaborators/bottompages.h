@@ -36,6 +36,8 @@ public:
 
     /// A page that has a place already leaves it.
     void Add(const BottomPage &page);
+    /// It is nobody's page any more; its tab stays until the widget goes.
+    static void Remove(const QWidget *widget);
     void Show(int leftPage);
 
 private:

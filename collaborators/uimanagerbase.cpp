@@ -70,18 +70,25 @@ public:
     /// A loaded plug-in's metadata and root object; same order as `plugins` began with.
     struct Source
     {
-        int id = -1;
-        QString version;
+        UIPluginReport report;
         UIPluginEntry entry;
+    };
+    /// A panel's place in a tab widget.
+    struct Page
+    {
+        QPointer<QScrollArea> area;
+        QString title;
     };
 
     void Load(const QString &filePath, QWidget *parent, UIManagerBase *manager);
+    void TakeOut(const LoadedPlugin &loaded, const QString &reason);
+    void FillPage(int id);
     QWidget *PanelOf(int id) const;
     const Source *SourceOf(int id) const;
 
     std::vector<Source> sources;
     QList<LoadedPlugin> plugins;
-    QHash<int, QPointer<QScrollArea>> pages;
+    QHash<int, Page> pages;
     QPointer<QTabWidget> bottomTabs;
 };
 
@@ -103,9 +110,50 @@ void UIManagerBase::Private::Load(const QString &filePath, QWidget *parent, UIMa
     plugins.append({report.id, source.entry.plugin, panel});
     Registry().takenIds.insert(report.id);
     Registry().missing.remove(report.id);
-    source.id = report.id;
-    source.version = report.version;
+    source.report = report;
     sources.push_back(std::move(source));
+}
+
+/// As if it had not been loaded. One of its own events may have brought us here, so its objects stay until that is over.
+void UIManagerBase::Private::TakeOut(const LoadedPlugin &loaded, const QString &reason)
+{
+    const auto source = std::find_if(sources.begin(), sources.end(),
+                                     [&](const Source &other) { return other.report.id == loaded.id; });
+    if (source == sources.end())
+        return; // it was brought up to date on the way and failed then, too
+    source->report.loaded = false;
+    source->report.reason = reason;
+    AddReport(source->report);
+    source->entry.root.release()->deleteLater();
+    sources.erase(source);
+    plugins.erase(std::remove_if(plugins.begin(), plugins.end(),
+                                 [&](const LoadedPlugin &other) { return other.id == loaded.id; }),
+                  plugins.end());
+    Registry().takenIds.remove(loaded.id);
+
+    if (QScrollArea *area = pages.value(loaded.id).area) {
+        area->takeWidget();
+        FillPage(loaded.id);
+    }
+    if (QWidget *panel = loaded.widget) {
+        BottomPages::Remove(panel);
+        panel->setParent(nullptr);
+        panel->deleteLater();
+    }
+}
+
+void UIManagerBase::Private::FillPage(int id)
+{
+    const Page &page = pages[id];
+    if (QWidget *panel = PanelOf(id)) {
+        page.area->setWidget(panel);
+        return;
+    }
+    Registry().missing.insert(id, page.title);
+    auto *notice = new QLabel(tr("The panel \"%1\" is not installed.").arg(page.title), page.area);
+    notice->setAlignment(Qt::AlignCenter);
+    notice->setWordWrap(true);
+    page.area->setWidget(notice);
 }
 
 QWidget *UIManagerBase::Private::PanelOf(int id) const
@@ -120,7 +168,7 @@ QWidget *UIManagerBase::Private::PanelOf(int id) const
 const UIManagerBase::Private::Source *UIManagerBase::Private::SourceOf(int id) const
 {
     const auto found =
-        std::find_if(sources.begin(), sources.end(), [=](const Source &source) { return source.id == id; });
+        std::find_if(sources.begin(), sources.end(), [=](const Source &source) { return source.report.id == id; });
     return found != sources.end() ? &*found : nullptr;
 }
 
@@ -138,12 +186,12 @@ UIManagerBase::~UIManagerBase()
         if (!loaded.widget->parent())
             delete loaded.widget; // nobody has placed it
     }
-    for (const QPointer<QScrollArea> &page : qAsConst(m_private->pages)) {
-        if (page && !page->parent())
-            delete page;
+    for (const Private::Page &page : qAsConst(m_private->pages)) {
+        if (page.area && !page.area->parent())
+            delete page.area;
     }
     for (const Private::Source &source : m_private->sources)
-        Registry().takenIds.remove(source.id);
+        Registry().takenIds.remove(source.report.id);
     if (--Registry().managers > 0)
         return;
     Registry().leftPage = CameraControlPage;
@@ -157,8 +205,9 @@ void UIManagerBase::LoadUIPluginAndInitUI(const QString &directory, QWidget *par
     for (const QString &file : UIPluginLoader::FindFiles(PluginRoots(), directory))
         m_private->Load(file, parent, this);
     if (complete) {
-        for (const LoadedPlugin &loaded : qAsConst(m_private->plugins))
-            loaded.plugin->UpdateUI();
+        const QList<LoadedPlugin> plugins = m_private->plugins; // one that fails is taken out
+        for (const LoadedPlugin &loaded : plugins)
+            UpdatePlugin(loaded);
     }
     Registry().loadNs += timer.nsecsElapsed();
 }
@@ -177,23 +226,16 @@ QWidget *UIManagerBase::GetScrollArea(int firstId, int lastId, const QStringList
 
 QWidget *UIManagerBase::GetWidget(int id, const QString &title, const QString &group)
 {
-    QPointer<QScrollArea> &page = m_private->pages[id];
-    if (page)
-        return page;
-    page = new QScrollArea; // reparented by the tab widget that takes it
-    page->setObjectName(group + "ScrollArea");
-    page->setFrameShape(QFrame::NoFrame);
-    page->setWidgetResizable(true);
-    if (QWidget *panel = m_private->PanelOf(id)) {
-        page->setWidget(panel);
-        return page;
-    }
-    Registry().missing.insert(id, title);
-    auto *notice = new QLabel(tr("The panel \"%1\" is not installed.").arg(title), page);
-    notice->setAlignment(Qt::AlignCenter);
-    notice->setWordWrap(true);
-    page->setWidget(notice);
-    return page;
+    Private::Page &page = m_private->pages[id];
+    if (page.area)
+        return page.area;
+    page.title = title;
+    page.area = new QScrollArea; // reparented by the tab widget that takes it
+    page.area->setObjectName(group + "ScrollArea");
+    page.area->setFrameShape(QFrame::NoFrame);
+    page.area->setWidgetResizable(true);
+    m_private->FillPage(id);
+    return page.area;
 }
 
 void UIManagerBase::SetBottomControlUIPanel(QTabWidget *bottomTabs)
@@ -237,7 +279,7 @@ void UIManagerBase::AddUIConfigItem(QTableWidget *table, int row)
         table->insertRow(row);
         table->setItem(row, 0, new QTableWidgetItem(QString::number(loaded.id)));
         table->setItem(row, 1, new QTableWidgetItem(source->entry.title));
-        table->setItem(row, 2, new QTableWidgetItem(source->version));
+        table->setItem(row, 2, new QTableWidgetItem(source->report.version));
         ++row;
     }
 }
@@ -276,6 +318,13 @@ int UIManagerBase::PluginLoadMs()
 const QList<UIManagerBase::LoadedPlugin> &UIManagerBase::Plugins() const
 {
     return m_private->plugins;
+}
+
+void UIManagerBase::UpdatePlugin(const LoadedPlugin &loaded)
+{
+    const QString reason = UIPluginLoader::Update(loaded.plugin);
+    if (!reason.isEmpty())
+        m_private->TakeOut(loaded, reason);
 }
 
 void UIManagerBase::slotPanelDestroyed(QObject *panel)

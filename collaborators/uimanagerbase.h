@@ -69,6 +69,8 @@ protected:
     };
     /// Those whose panel still lives.
     const QList<LoadedPlugin> &Plugins() const;
+    /// Lets one of them show the state anew. If it throws it is taken out of the list and reported as not loaded.
+    void UpdatePlugin(const LoadedPlugin &loaded);
 
 private slots:
     void slotPanelDestroyed(QObject *panel);

@@ -23,33 +23,41 @@ UIPluginEntry EntryOf(const UIPluginMetaData &metaData)
     return entry;
 }
 
-/// Runs code of a plug-in; what it throws ends here and becomes the reason.
+/// Runs code of a plug-in; what it throws ends here. False then, and what it says of itself, if anything.
 template<typename Function>
-void RunGuarded(Function function, QString *reason)
+bool RunGuarded(Function function, QString *what)
 {
     try {
         function();
+        return true;
     } catch (const std::exception &exception) {
-        *reason = UIPluginLoader::tr("it failed when it was made: %1").arg(QString::fromLocal8Bit(exception.what()));
+        *what = QString::fromLocal8Bit(exception.what());
     } catch (...) {
-        *reason = UIPluginLoader::tr("it failed when it was made");
+        what->clear();
     }
+    return false;
+}
+
+QString MadeFault(const QString &what)
+{
+    return what.isEmpty() ? UIPluginLoader::tr("it failed when it was made")
+                          : UIPluginLoader::tr("it failed when it was made: %1").arg(what);
 }
 
 /// Nothing of the file has run before. The entry is whole when no reason against it comes back.
 QString MakePanel(QPluginLoader *loader, UIPluginEntry *entry)
 {
-    QString reason;
-    RunGuarded([&] { entry->root.reset(loader->instance()); }, &reason);
+    QString what;
+    if (!RunGuarded([&] { entry->root.reset(loader->instance()); }, &what))
+        return MadeFault(what);
     if (!entry->root)
-        return reason.isEmpty() ? loader->errorString() : reason;
+        return loader->errorString();
     entry->plugin = qobject_cast<UIPlugin *>(entry->root.get());
     if (!entry->plugin)
         return UIPluginLoader::tr("its root object is not a panel");
-    RunGuarded([&] { entry->panel = entry->plugin->GetWidget(); }, &reason);
-    if (!entry->panel && reason.isEmpty())
-        return UIPluginLoader::tr("it has no panel");
-    return reason;
+    if (!RunGuarded([&] { entry->panel = entry->plugin->GetWidget(); }, &what))
+        return MadeFault(what);
+    return entry->panel ? QString() : UIPluginLoader::tr("it has no panel");
 }
 
 } // namespace
@@ -97,4 +105,13 @@ UIPluginEntry UIPluginLoader::Load(const QString &filePath, const QSet<int> &tak
         return UIPluginEntry();
     report.loaded = true;
     return entry;
+}
+
+QString UIPluginLoader::Update(UIPlugin *plugin)
+{
+    QString what;
+    if (RunGuarded([=] { plugin->UpdateUI(); }, &what))
+        return QString();
+    return what.isEmpty() ? UIPluginLoader::tr("it failed when it was brought up to date")
+                          : UIPluginLoader::tr("it failed when it was brought up to date: %1").arg(what);
 }

@@ -48,4 +48,6 @@ public:
     static QStringList FindFiles(const QStringList &roots, const QString &directory);
     /// Loads one file and lets it make its panel. On failure report.reason says why, and the entry has no plug-in.
     static UIPluginEntry Load(const QString &filePath, const QSet<int> &takenIds, UIPluginReport &report);
+    /// Lets the plug-in show the state anew. The reason when it failed; it is of no use any more then.
+    static QString Update(UIPlugin *plugin);
 };

@@ -70,6 +70,7 @@ private slots:
     void AFolderThatIsNotThereLoadsNothing();
     void AnIdBelongsToOneManagerWhileItLives();
     void PanelsShowTheStateAfterTheLastFolder();
+    void APanelThatFailsLaterIsTakenOut();
     void APanelStandsInATabUnderItsName();
     void AMissingPanelSaysSo();
     void AMissingPanelIsReportedUntilItComes();
@@ -149,6 +150,8 @@ void TestUIManagerBase::TellsWhyAPluginIsNotLoaded_data()
     QTest::newRow("constructor throws") << "o_throws.so" << 46
                                         << "it failed when it was made: no lamp is connected";
     QTest::newRow("panel throws") << "p_throwslate.so" << 47 << "it failed when it was made";
+    QTest::newRow("first update throws") << "s_throwsinupdate.so" << 49
+                                         << "it failed when it was brought up to date: the lamp does not answer";
     QTest::newRow("missing library") << "q_needslibrary.so" << 48 << "liblampnowhere.so.7";
     QTest::newRow("link to nowhere") << "r_brokenlink.so" << -1
                                      << "the file is missing: it is a link to /no/such/folder/panel.so";
@@ -199,6 +202,37 @@ void TestUIManagerBase::PanelsShowTheStateAfterTheLastFolder()
     manager.LoadUIPluginAndInitUI("plugins/nowhere/ui", nullptr, true);
     QCOMPARE(manager.Panel(4)->property("updates").toInt(), 1);
     QCOMPARE(manager.Panel(30)->property("updates").toInt(), 1);
+}
+
+void TestUIManagerBase::APanelThatFailsLaterIsTakenOut()
+{
+    TestPanels manager;
+    LoadAll(&manager);
+    const std::unique_ptr<QWidget> panel(manager.GetScrollArea(4, 4, { "Adjustment" }, "Image"));
+    auto *tabs = qobject_cast<QTabWidget *>(panel.get());
+    QTabWidget bottom;
+    manager.SetBottomControlUIPanel(&bottom);
+    QCOMPARE(Texts(bottom), QStringList({ "Calibration Table", "Histogram(Live)" }));
+
+    const QPointer<QWidget> widgets[] = { manager.Panel(4), manager.Panel(31) };
+    const int updates = manager.Panel(30)->property("updates").toInt();
+    for (const QPointer<QWidget> &widget : widgets)
+        widget->setProperty("fails", true);
+    for (const char *file : { "a_tabpanel", "b_histogrampage" })
+        ExpectWarning(QRegularExpression(QString("%1\\.so is not loaded: it failed when it was brought up to date: the "
+                                                 "lamp went out").arg(file)));
+    manager.UpdateAll();
+    QCOMPARE(manager.Ids(), QList<int>({ 30 }));
+    QCOMPARE(manager.Panel(30)->property("updates").toInt(), updates + 1);
+    QVERIFY(!ReportOf("a_tabpanel.so").loaded);
+    QCOMPARE(ReportOf("a_tabpanel.so").reason,
+             QString("it failed when it was brought up to date: the lamp went out"));
+    QCOMPARE(PageText(*tabs, 0), QString("The panel \"Adjustment\" is not installed."));
+    UIManagerBase::UpdateBottomTabWidget(0);
+    QCOMPARE(Texts(bottom), QStringList({ "Calibration Table" }));
+    manager.UpdateAll(); // they are not asked again
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!widgets[0] && !widgets[1]);
 }
 
 void TestUIManagerBase::APanelStandsInATabUnderItsName()

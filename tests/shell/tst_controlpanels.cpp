@@ -101,6 +101,7 @@ private slots:
     void measureRaisesBottomPages();
     void measureIgnoresOtherNotifications();
     void measureDetachesWhenItGoes();
+    void panelThatFailsLeavesTheOthers();
 };
 
 void ControlPanelsTest::slotsInOrder()
@@ -536,6 +537,29 @@ void ControlPanelsTest::measureDetachesWhenItGoes()
     bottom.setCurrentIndex(0);
     GlobalNotifyObserver(12, nullptr);
     QCOMPARE(bottom.currentIndex(), 0);
+}
+
+void ControlPanelsTest::panelThatFailsLeavesTheOthers()
+{
+    Bench<CameraUI> bench;
+    ImageUI image;
+    MeasureUI measure;
+    bench.Load();
+    image.LoadPluginUI(&bench.window);
+    measure.LoadPluginUI(&bench.window);
+    TakePanelUpdates();
+    for (int id : { 2, 5, 8 }) {
+        bench.Panel(id)->setProperty("fails", true);
+        ExpectWarning(QRegularExpression(QString("testpanel%1\\.so is not loaded: .+ the lamp went out").arg(id)));
+    }
+    for (int round = 0; round < 2; ++round) { // the second time they are not asked any more
+        bench.manager->slotUpdateUI();
+        QCOMPARE(TakePanelUpdates(), QVector<int>({ 3, 20, 1, 0 }));
+        image.slotUpdateImageControlUI();
+        QCOMPARE(TakePanelUpdates(), QVector<int>({ 6, 4 }));
+        measure.slotUpdateMeasureControlUI();
+        QCOMPARE(TakePanelUpdates(), QVector<int>({ 11, 9, 7, 64, 23, 22, 21, 13 }));
+    }
 }
 
 GUARDED_TEST_MAIN(ControlPanelsTest)

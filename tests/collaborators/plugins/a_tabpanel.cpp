@@ -5,7 +5,9 @@
 #include <QObject>
 #include <QPointer>
 
-/// A panel for a tab, as it should be.
+#include <stdexcept>
+
+/// A panel for a tab, as it should be, unless it has the property "fails".
 class TabPanel : public QObject, public UIPlugin
 {
     Q_OBJECT
@@ -19,7 +21,12 @@ public:
             m_widget = new QLabel("tab panel");
         return m_widget;
     }
-    void UpdateUI() override { m_widget->setProperty("updates", m_widget->property("updates").toInt() + 1); }
+    void UpdateUI() override
+    {
+        if (m_widget->property("fails").toBool())
+            throw std::runtime_error("the lamp went out");
+        m_widget->setProperty("updates", m_widget->property("updates").toInt() + 1);
+    }
 
 private:
     QPointer<QLabel> m_widget;

@@ -5,7 +5,9 @@
 #include <QObject>
 #include <QPointer>
 
-/// A bottom page for the camera only.
+#include <stdexcept>
+
+/// A bottom page for the camera only. With the property "fails" it throws.
 class HistogramPage : public QObject, public UIPlugin
 {
     Q_OBJECT
@@ -19,7 +21,12 @@ public:
             m_widget = new QLabel("histogram page");
         return m_widget;
     }
-    void UpdateUI() override { m_widget->setProperty("updates", m_widget->property("updates").toInt() + 1); }
+    void UpdateUI() override
+    {
+        if (m_widget->property("fails").toBool())
+            throw std::runtime_error("the lamp went out");
+        m_widget->setProperty("updates", m_widget->property("updates").toInt() + 1);
+    }
 
 private:
     QPointer<QLabel> m_widget;

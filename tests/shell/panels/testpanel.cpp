@@ -5,6 +5,8 @@
 #include <QVariant>
 #include <QWidget>
 
+#include <stdexcept>
+
 QWidget *TestPanel::GetWidget()
 {
     if (!m_widget) {
@@ -17,6 +19,8 @@ QWidget *TestPanel::GetWidget()
 
 void TestPanel::UpdateUI()
 {
+    if (m_widget && m_widget->property("fails").toBool())
+        throw std::runtime_error("the lamp went out");
     QVariantList updates = qApp->property("panelUpdates").toList();
     updates << TEST_PANEL_ID;
     qApp->setProperty("panelUpdates", updates);

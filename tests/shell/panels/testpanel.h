@@ -8,6 +8,7 @@
 
 /// A panel whose widget is named "panel<id>"; the widget's property "plugin" is the plug-in's root
 /// object. Each update adds the id to the application's property "panelUpdates".
+/// With the widget's property "fails" an update throws.
 class TestPanel : public QObject, public UIPlugin
 {
     Q_OBJECT
