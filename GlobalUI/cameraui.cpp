@@ -53,6 +53,8 @@ QWidget *CameraUI::GetControlScrollArea()
     m_leftTabWidget =
         qobject_cast<QTabWidget *>(GetScrollArea(FirstCameraPanel, AcquisitionPanel, tabNames, "Camera"));
     connect(m_leftTabWidget, SIGNAL(currentChanged(int)), this, SLOT(slotCameraTabWidgetCurrentChanged(int)));
+    if (!m_capturePreviewUI)
+        m_capturePreviewUI = new CapturePreviewUI(nullptr); // the first one went with the page it stood in
     QWidget *page = MakeControlPage(m_capturePreviewUI, m_leftTabWidget);
     slotUpdateUI();
     return page;
@@ -116,16 +118,33 @@ void CameraUI::UpdatePlugins(bool cameraPresent)
 
 void CameraUI::RebuildTabs(bool hasHardwareSettings)
 {
+    const QPointer<QWidget> focused = m_leftTabWidget->window()->focusWidget();
     {
         const QSignalBlocker quiet(m_leftTabWidget);
-        while (m_leftTabWidget->count() > HardwarePanel)
-            m_leftTabWidget->removeTab(m_leftTabWidget->count() - 1);
-        if (hasHardwareSettings)
-            m_leftTabWidget->addTab(GetWidget(HardwarePanel, tr("Hardware"), "Camera"), tr("Hardware"));
-        m_leftTabWidget->addTab(GetWidget(AcquisitionPanel, tr("Acquisition"), "Camera"), tr("Acquisition"));
+        PlaceLastTabs(hasHardwareSettings);
         m_leftTabWidget->setCurrentIndex(UIConfigManager::GetInstance()->GetCameraUIIndex());
     }
+    if (focused && focused->isVisible() && !focused->hasFocus())
+        focused->setFocus(); // the keyboard is back where it was
     const int width = GlobalClass::GetActualSize(hasHardwareSettings ? 372 / 4 : 374 / 3);
     m_leftTabWidget->setStyleSheet(
         TabBarStyleSheet(GlobalClass::GetActualSize(25), width, GlobalClass::GetActualSize(2)));
+}
+
+/// Those behind "Adjustment". Tabs that stand already stay: a panel that is taken out ends what is being typed in it.
+void CameraUI::PlaceLastTabs(bool hasHardwareSettings)
+{
+    QList<QPair<QWidget *, QString>> wanted;
+    if (hasHardwareSettings)
+        wanted.append({ GetWidget(HardwarePanel, tr("Hardware"), "Camera"), tr("Hardware") });
+    wanted.append({ GetWidget(AcquisitionPanel, tr("Acquisition"), "Camera"), tr("Acquisition") });
+    bool stands = m_leftTabWidget->count() == HardwarePanel + wanted.size();
+    for (int i = 0; i < wanted.size(); ++i)
+        stands = stands && m_leftTabWidget->widget(HardwarePanel + i) == wanted.at(i).first;
+    if (stands)
+        return;
+    while (m_leftTabWidget->count() > HardwarePanel)
+        m_leftTabWidget->removeTab(m_leftTabWidget->count() - 1);
+    for (const auto &tab : qAsConst(wanted))
+        m_leftTabWidget->addTab(tab.first, tab.second);
 }

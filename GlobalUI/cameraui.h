@@ -37,6 +37,7 @@ public slots:
 private:
     void UpdatePlugins(bool cameraPresent);
     void RebuildTabs(bool hasHardwareSettings);
+    void PlaceLastTabs(bool hasHardwareSettings);
 
     QPointer<CapturePreviewUI> m_capturePreviewUI;
     QPointer<QTabWidget> m_leftTabWidget;

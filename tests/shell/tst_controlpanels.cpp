@@ -13,6 +13,7 @@
 #include "shellfixture.h"
 #include "viewcodes.h"
 
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -60,6 +61,13 @@ struct Bench
     QScopedPointer<Manager> manager;
 };
 
+QDoubleSpinBox *AddField(QWidget *panel)
+{
+    auto *field = new QDoubleSpinBox(panel);
+    field->show();
+    return field;
+}
+
 const QList<int> cameraIds{ 0, 1, 2, 3, 20 };
 const QList<int> imageIds{ 4, 5, 6 };
 const QList<int> measureIds{ 7, 8, 13, 64, 9, 11, 21, 22, 23 };
@@ -76,6 +84,8 @@ private slots:
     void cameraPageTwice();
     void cameraTabs_data();
     void cameraTabs();
+    void typingGoesOnWhileTheTabsStand();
+    void keyboardStaysWhereItIsWhenTheTabsChange();
     void cameraTabsStayWithoutCamera();
     void cameraTabIsStored();
     void cameraUpdate();
@@ -83,8 +93,10 @@ private slots:
     void cameraUpdateIsQueued();
     void cameraCentre();
     void captureBarNotPlacedIsNotLost();
+    void captureBarComesWithEveryPage();
     void displayModeChoosesPage();
     void imagePage();
+    void imagePageTwice();
     void imageTabIsStored();
     void imageUpdate_data();
     void imageUpdate();
@@ -141,9 +153,11 @@ void ControlPanelsTest::cameraPageTwice()
     FakeCameraMainManager camera;
     QTabWidget *first = bench.Place(bench.manager->GetControlScrollArea());
     UIConfigManager::GetInstance()->SetCameraUIIndex(2);
+    CallLog::Clear();
     QTabWidget *second = bench.Place(bench.manager->GetControlScrollArea());
     QVERIFY(first != second);
-    QCOMPARE(UIConfigManager::GetInstance()->GetCameraUIIndex(), 2); // though the first one lost its panels
+    QVERIFY(CallLog::Calls().filter("SetCameraUIIndex").isEmpty()); // though the first one lost its panels
+    QCOMPARE(second->currentIndex(), 2);
     // The last one is kept up to date.
     second->setStyleSheet("");
     first->setStyleSheet("");
@@ -186,6 +200,52 @@ void ControlPanelsTest::cameraTabs()
     // Rebuilding is no choice of the user's.
     for (const QString &call : CallLog::Calls())
         QVERIFY2(!call.contains("SetCameraUIIndex"), qPrintable(call));
+}
+
+void ControlPanelsTest::typingGoesOnWhileTheTabsStand()
+{
+    Bench<CameraUI> bench;
+    bench.Load();
+    FakeCameraMainManager camera;
+    camera.hardwareSettings = true;
+    bench.services.uiConfig.cameraUIIndex = 3;
+    bench.Place(bench.manager->GetControlScrollArea());
+    auto *field = AddField(bench.Panel(3));
+    bench.window.show();
+    bench.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&bench.window));
+    field->setFocus();
+    QTest::keyClick(field, Qt::Key_7);
+    QSignalSpy finished(field, &QDoubleSpinBox::editingFinished);
+    bench.manager->slotUpdateUI();
+    QVERIFY(field->hasFocus());
+    QCOMPARE(finished.count(), 0); // half a number is none
+}
+
+void ControlPanelsTest::keyboardStaysWhereItIsWhenTheTabsChange()
+{
+    Bench<CameraUI> bench;
+    bench.Load();
+    FakeCameraMainManager camera;
+    camera.hardwareSettings = false;
+    bench.services.uiConfig.cameraUIIndex = 2;
+    QTabWidget *tabs = bench.Place(bench.manager->GetControlScrollArea());
+    auto *field = AddField(bench.Panel(3));
+    bench.window.show();
+    bench.window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&bench.window));
+    field->setFocus();
+    camera.hardwareSettings = true;
+    bench.services.uiConfig.cameraUIIndex = 3;
+    bench.manager->slotUpdateUI();
+    QCOMPARE(tabs->count(), 4);
+    QVERIFY(field->hasFocus());
+    // What is out of sight does not get it.
+    bench.services.uiConfig.cameraUIIndex = 0;
+    camera.hardwareSettings = false;
+    bench.manager->slotUpdateUI();
+    QVERIFY(!field->isVisible());
+    QVERIFY(!field->hasFocus());
 }
 
 void ControlPanelsTest::cameraTabsStayWithoutCamera()
@@ -273,6 +333,20 @@ void ControlPanelsTest::captureBarNotPlacedIsNotLost()
     QVERIFY(!bar);
 }
 
+void ControlPanelsTest::captureBarComesWithEveryPage()
+{
+    Bench<CameraUI> bench;
+    delete bench.manager->GetControlScrollArea();
+    const QScopedPointer<QWidget> page(bench.manager->GetControlScrollArea());
+    auto *bar = page->findChild<QWidget *>("CapturePreviewUI");
+    QVERIFY(bar);
+    QCOMPARE(page->layout()->itemAt(0)->widget(), bar);
+    QVERIFY(!bar->isEnabled());
+    FakeCameraMainManager camera;
+    bench.manager->slotUpdateUI();
+    QVERIFY(bar->isEnabled());
+}
+
 void ControlPanelsTest::displayModeChoosesPage()
 {
     Bench<CameraUI> cameraBench;
@@ -314,6 +388,34 @@ void ControlPanelsTest::imagePage()
     QCOMPARE(CallLog::Calls(), QStringList()); // restoring is no choice of the user's
     for (int i = 0; i < 3; ++i)
         QVERIFY(tabs->widget(i)->isAncestorOf(bench.Panel(4 + i)));
+}
+
+void ControlPanelsTest::imagePageTwice()
+{
+    Bench<ImageUI> bench;
+    bench.Load();
+    bench.services.uiConfig.leftUIIndex = 2;
+    QWidget *firstPage = bench.manager->GetControlScrollArea();
+    QTabWidget *first = bench.Place(firstPage);
+    CallLog::Clear();
+    QWidget *secondPage = bench.manager->GetControlScrollArea();
+    QTabWidget *second = bench.Place(secondPage);
+    QVERIFY(first != second && firstPage != secondPage);
+    QCOMPARE(CallLog::Calls(), QStringList()); // though the first one lost its panels
+    QCOMPARE(TabTexts(second), QStringList({ "Adjustment", "Process", "Automatic Counting" }));
+    QCOMPARE(second->currentIndex(), 2);
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(second->widget(i)->isAncestorOf(bench.Panel(4 + i)));
+    // Each has a bar of its own; the last one is kept up to date.
+    auto *firstBar = firstPage->findChild<ImageNavigateUI *>();
+    auto *secondBar = secondPage->findChild<ImageNavigateUI *>();
+    QVERIFY(firstBar && secondBar && firstBar != secondBar);
+    FakeCameraMainManager camera;
+    emit bench.services.uiConfig.signalUpdateImageControlUI();
+    QVERIFY(secondBar->findChild<QPushButton *>("pushButtonCamera")->isEnabled());
+    second->setCurrentIndex(1);
+    first->addTab(new QWidget, "Other");
+    QCOMPARE(CallLog::Calls(), QStringList("UIConfigManager::SetLeftUIIndex(1)"));
 }
 
 void ControlPanelsTest::imageTabIsStored()
