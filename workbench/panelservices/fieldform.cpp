@@ -62,6 +62,15 @@ void FillChoices(QComboBox *box, const QStringList &choices)
     box->addItems(choices);
 }
 
+/// Who is typing is not interrupted: a space at the end is the beginning of the next word, and an emptied line is not
+/// filled before the editing is finished.
+void ShowText(QLineEdit *edit, const QString &text)
+{
+    const bool isEmptied = edit->text().trimmed().isEmpty() && edit->isModified() && edit->hasFocus();
+    if (!isEmptied && edit->text().trimmed() != text.trimmed())
+        edit->setText(text);
+}
+
 } // namespace
 
 FieldForm::FieldForm(FieldSource *source, const QString &absentText, QWidget *parent)
@@ -274,6 +283,10 @@ QWidget *FieldForm::MakeText(const PanelField &field)
     edit->setObjectName(ObjectName("text", field.key));
     edit->setAccessibleName(WithoutMnemonic(field.text));
     connect(edit, &QLineEdit::textEdited, this, [this, key = field.key](const QString &text) { Send(key, text); });
+    connect(edit, &QLineEdit::editingFinished, this, [this, edit] {
+        edit->setModified(false);
+        slotUpdate();
+    });
     return edit;
 }
 
@@ -324,9 +337,7 @@ void FieldForm::ShowField(const PanelField &field)
     case PanelField::Kind::Folder: {
         auto *edit = field.kind == PanelField::Kind::Text ? static_cast<QLineEdit *>(widget)
                                                           : static_cast<QLineEdit *>(widget->focusProxy());
-        // A space at the end is the beginning of the next word.
-        if (edit->text().trimmed() != field.value.toString().trimmed())
-            edit->setText(field.value.toString());
+        ShowText(edit, field.value.toString());
         break;
     }
     case PanelField::Kind::Action:

@@ -67,6 +67,7 @@ private slots:
     void fieldsAreShownInOrder();
     void whatIsSetIsPassedOn();
     void valuesFollowAndWidgetsStay();
+    void emptiedLineIsFilledWhenTheEditingIsFinished();
     void wheelChangesOnlyWhatHasTheFocus();
     void otherFieldsMakeOtherWidgets();
     void faultIsShownUntilItIsOver();
@@ -159,6 +160,30 @@ void FieldFormTest::valuesFollowAndWidgetsStay()
     source.fields[3].value = "yours";
     emit source.signalChanged();
     QCOMPARE(name->text(), QString("yours"));
+}
+
+void FieldFormTest::emptiedLineIsFilledWhenTheEditingIsFinished()
+{
+    Recorder source("test"); // has "/there" whatever it is told
+    FieldForm form(&source, "absent");
+    form.show();
+    form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    auto *folder = form.findChild<QLineEdit *>("textFolder");
+    folder->setFocus();
+    folder->selectAll();
+    QTest::keyClick(folder, Qt::Key_Delete);
+    QCOMPARE(source.told, QStringList("folder="));
+    QCOMPARE(folder->text(), QString());
+    emit source.signalChanged();
+    QCOMPARE(folder->text(), QString());
+    QTest::keyClick(folder, Qt::Key_Return);
+    QCOMPARE(folder->text(), QString("/there"));
+    folder->selectAll();
+    QTest::keyClick(folder, Qt::Key_Delete);
+    QCOMPARE(folder->text(), QString());
+    QTest::keyClick(folder, Qt::Key_Tab);
+    QCOMPARE(folder->text(), QString("/there"));
 }
 
 void FieldFormTest::wheelChangesOnlyWhatHasTheFocus()
