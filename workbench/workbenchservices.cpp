@@ -139,7 +139,7 @@ void WorkbenchServices::StartSpectrum()
     m_spectrumSettings = std::make_unique<SpectrumSettings>(m_spectrumRanges.get(), m_centreDisplay.get());
     m_calibration = std::make_unique<CalibrationModel>(m_spectrumSettings.get(), m_settings);
     m_spectrumPipeline = std::make_unique<SpectrumPipeline>([this] { return m_orientation->Get(); });
-    m_peakFinding = std::make_unique<PeakFinding>();
+    m_peakFinding = std::make_unique<PeakFinding>([this] { return &m_spectrumPipeline->Shown(); });
 }
 
 void WorkbenchServices::StartCamera()

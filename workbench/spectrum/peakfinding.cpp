@@ -1,13 +1,46 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "peakfinding.h"
 
+#include "linepayload.h"
 #include "peakfinder.h"
 
 #include <algorithm>
+#include <utility>
 
-PeakFinding::PeakFinding(QObject *parent)
-    : AlgSpectrometer(parent)
+namespace {
+
+bool IsPlotOf(const Spectrum &spectrum, SpectrumQuantity quantity, const unsigned int *data, int count)
 {
+    return spectrum.Count() == count
+        && std::equal(data, data + count, spectrum.values.begin(),
+                      [quantity](unsigned int plotted, double value) { return plotted == PlotValue(value, quantity); });
+}
+
+const std::vector<double> &SearchedValues(const Spectrum &spectrum)
+{
+    return spectrum.unsmoothed.empty() ? spectrum.values : spectrum.unsmoothed;
+}
+
+} // namespace
+
+PeakFinding::PeakFinding(Shown shown, QObject *parent)
+    : AlgSpectrometer(parent)
+    , m_shown(std::move(shown))
+{
+}
+
+std::vector<double> PeakFinding::Uncut(const unsigned int *data, int count) const
+{
+    const SpectrumProduct *product = m_shown ? m_shown() : nullptr;
+    if (product && IsPlotOf(product->corrected, product->quantity, data, count))
+        return SearchedValues(product->corrected);
+    if (product) {
+        for (const Spectrum &track : product->tracks) {
+            if (IsPlotOf(track, SpectrumQuantity::Counts, data, count))
+                return SearchedValues(track);
+        }
+    }
+    return std::vector<double>(data, data + count);
 }
 
 void PeakFinding::Findcurvepeak(unsigned int *data, int count, int peakNumber, std::vector<int> &peaks, int window, float threshold,
@@ -19,7 +52,7 @@ void PeakFinding::Findcurvepeak(unsigned int *data, int count, int peakNumber, s
     PeakRules rules;
     rules.halfWidth = window;
     rules.certainty = double(threshold);
-    std::vector<SpectralPeak> found = FindPeaks(std::vector<double>(data, data + count), rules);
+    std::vector<SpectralPeak> found = FindPeaks(Uncut(data, count), rules);
     std::sort(found.begin(), found.end(), [](const SpectralPeak &a, const SpectralPeak &b) { return a.height > b.height; });
     if (peakNumber > 0)
         found.resize(std::min(found.size(), size_t(peakNumber)));

@@ -68,8 +68,10 @@ Spectrum SpectrumCorrections::Apply(const Spectrum &raw)
         for (size_t i = 0; i < baseline.size(); ++i)
             spectrum.values[i] -= baseline[i];
     }
-    if (m_settings.smoothing >= 3)
-        spectrum.values = SavitzkyGolay(spectrum.values, m_settings.smoothing, std::min(SmoothingDegree, m_settings.smoothing - 1));
+    if (m_settings.smoothing >= 3) {
+        spectrum.unsmoothed = SavitzkyGolay(spectrum.values, m_settings.smoothing, std::min(SmoothingDegree, m_settings.smoothing - 1));
+        spectrum.values.swap(spectrum.unsmoothed);
+    }
     return spectrum;
 }
 

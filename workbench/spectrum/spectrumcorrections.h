@@ -21,6 +21,9 @@ struct Spectrum
     std::vector<double> values;
     std::vector<quint8> saturated; ///< 1 where a pixel of the sum was at the end of its range
     quint64 frameId = 0;
+    /// The values before they were smoothed; empty when they were not. Smoothed noise is no longer that of each sample
+    /// for itself: peaks are looked for in these.
+    std::vector<double> unsmoothed = {};
 
     int Count() const { return int(values.size()); }
 };

@@ -30,6 +30,44 @@ double MedianOfWhole(const std::vector<double> &values)
     return low + (middle + 0.5 - low) * (double(values.size()) / 2 - below) / same;
 }
 
+/// The place of a share of the normal distribution, in standard deviations.
+double NormalQuantile(double share)
+{
+    double low = -10;
+    double high = 10;
+    for (int i = 0; i < 60; ++i) {
+        const double middle = (low + high) / 2;
+        (0.5 * std::erfc(-middle / std::sqrt(2.0)) < share ? low : high) = middle;
+    }
+    return low;
+}
+
+/// The noise of samples around a level near 0 of which all that lay below 0 became 0; 0 when few did. Lines hardly count:
+/// only samples beside a 0 tell. Of a sample beside a 0 the share that is 0 is that below the cut, and the median of the
+/// rest is the quantile half way between that share and 1.
+double NoiseAboveCut(const std::vector<double> &samples, bool areWhole)
+{
+    constexpr double leastCutShare = 0.25;
+    std::vector<double> above;
+    double cut = 0;
+    double neighbours = 0;
+    for (size_t i = 0; i < samples.size(); ++i) {
+        if (samples[i] < 0)
+            return 0; // nothing was cut
+        cut += samples[i] == 0 ? 1 : 0;
+        if ((i > 0 && samples[i - 1] == 0) || (i + 1 < samples.size() && samples[i + 1] == 0)) {
+            ++neighbours;
+            if (samples[i] > 0)
+                above.push_back(samples[i]);
+        }
+    }
+    if (above.empty() || cut < leastCutShare * double(samples.size()))
+        return 0;
+    const double share = 1 - double(above.size()) / neighbours;
+    const double middle = areWhole ? MedianOfWhole(above) - 0.5 : MedianOf(above); // whole numbers above 0 begin at 0.5
+    return middle / (NormalQuantile((1 + share) / 2) - NormalQuantile(share));
+}
+
 } // namespace
 
 double MedianOf(std::vector<double> values)
@@ -53,6 +91,6 @@ double EstimateNoise(const std::vector<double> &samples)
         step = std::abs(step - median);
     const bool areWhole = AreWhole(samples);
     const double deviation = areWhole ? MedianOfWhole(steps) : MedianOf(steps);
-    const double noise = deviationPerMad * deviation / std::sqrt(2.0);
+    const double noise = std::max(deviationPerMad * deviation / std::sqrt(2.0), NoiseAboveCut(samples, areWhole));
     return areWhole ? std::max(noise, roundingNoise) : noise;
 }

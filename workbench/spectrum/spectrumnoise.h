@@ -5,7 +5,8 @@
 
 /// The noise of one sample, as a standard deviation: 1.4826 times the median absolute deviation of the differences
 /// of neighbours, over the root of 2. Lines and slow changes hardly move it. Samples that are whole numbers count as
-/// noisy by their rounding at least. 0 for fewer than three samples.
+/// noisy by their rounding at least. Where all that lay below 0 was cut off, the noise is that of the samples before. 0
+/// for fewer than three samples.
 double EstimateNoise(const std::vector<double> &samples);
 
 /// The middle value; 0 of nothing.

@@ -17,7 +17,10 @@ class PeakFinderTest : public GuardedTest
 private slots:
     void noiseIsTheStandardDeviation_data();
     void noiseIsTheStandardDeviation();
+    void noiseCutAtZeroIsThatBefore_data();
+    void noiseCutAtZeroIsThatBefore();
     void linesDoNotCountAsNoise();
+    void linesOverZerosDoNotCountAsNoise();
     void deviationsAreThoseOfTheNormalDistribution();
     void noiseAloneHasNoPeak_data();
     void noiseAloneHasNoPeak();
@@ -46,6 +49,41 @@ void PeakFinderTest::noiseIsTheStandardDeviation()
     const double found = EstimateNoise(NoiseOnly(20000, 1000, noise, 5));
     // Rounding to whole counts makes the smallest coarser.
     QVERIFY2(std::abs(found / noise - 1) < (noise < 2 ? 0.2 : 0.05), qPrintable(QString::number(found)));
+}
+
+void PeakFinderTest::noiseCutAtZeroIsThatBefore_data()
+{
+    QTest::addColumn<double>("level");
+    QTest::newRow("most is cut") << -40.0;
+    QTest::newRow("half is cut") << 0.0;
+    QTest::newRow("a third is cut") << 15.0;
+}
+
+/// A sensor, or a plot, has no values below 0. The noise is 30.
+void PeakFinderTest::noiseCutAtZeroIsThatBefore()
+{
+    QFETCH(double, level);
+    int found = 0;
+    double noise = 0;
+    constexpr unsigned spectra = 300;
+    for (unsigned spectrum = 0; spectrum < spectra; ++spectrum) {
+        std::vector<double> samples = NoiseOnly(2048, level, 30, spectrum);
+        for (double &sample : samples)
+            sample = std::max(0.0, sample);
+        noise += EstimateNoise(samples) / spectra;
+        found += int(FindPeaks(samples).size());
+    }
+    QCOMPARE(found, 0);
+    QVERIFY2(std::abs(noise / 30 - 1) < 0.05, qPrintable(QString::number(noise)));
+}
+
+void PeakFinderTest::linesOverZerosDoNotCountAsNoise()
+{
+    std::vector<double> samples(2048, 0);
+    for (int line = 0; line < 20; ++line)
+        AddLine(&samples, 50 + 100 * line, 3000, 2.5);
+    Round(&samples);
+    QCOMPARE(int(FindPeaks(samples).size()), 20);
 }
 
 void PeakFinderTest::linesDoNotCountAsNoise()

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "guardedtest.h"
-#include "peakfinding.h"
 #include "spectrumpipeline.h"
 
 #include <QMutex>
@@ -26,7 +25,6 @@ private slots:
     void tracksAreFoundOnRequest();
     void focusTellsOfTheLines();
     void changingTheRecipeWhileFramesWaitIsSafe();
-    void thePlotTakesPeaksByIndex();
 };
 
 namespace {
@@ -279,25 +277,6 @@ void SpectrumPipelineTest::changingTheRecipeWhileFramesWaitIsSafe()
     }
     QTRY_COMPARE(pipeline.Ledger().computed + pipeline.Ledger().missed, quint64(60));
     QTRY_COMPARE(pipeline.Shown().frameId, quint64(60));
-}
-
-void SpectrumPipelineTest::thePlotTakesPeaksByIndex()
-{
-    PeakFinding finding;
-    std::vector<unsigned> data(500, 1000);
-    for (size_t i = 0; i < data.size(); ++i)
-        data[i] += unsigned(i * 7919 % 5);
-    for (const int place : {100, 250, 400}) {
-        for (int i = -8; i <= 8; ++i)
-            data[size_t(place + i)] += unsigned((place == 250 ? 900 : 3000) * std::exp(-0.5 * i * i / 4.0));
-    }
-    std::vector<int> peaks = {1, 2, 3};
-    finding.Findcurvepeak(data.data(), 500, 2, peaks, 15, 10.0F, 0);
-    QCOMPARE(peaks, std::vector<int>({100, 400}));
-    finding.Findcurvepeak(data.data(), 500, 0, peaks, 15, 10.0F, 0);
-    QCOMPARE(peaks, std::vector<int>({100, 250, 400}));
-    finding.Findcurvepeak(nullptr, 500, 2, peaks, 15, 10.0F, 0);
-    QVERIFY(peaks.empty());
 }
 
 GUARDED_TEST_MAIN(SpectrumPipelineTest)
