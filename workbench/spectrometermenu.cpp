@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectrometermenu.h"
 
+#include "correctionsline.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
 #include "workbenchservices.h"
@@ -184,6 +185,5 @@ void SpectrometerMenu::slotUpdate()
     m_dark->setChecked(recipe.corrections.subtractsDark);
     m_reference->setChecked(recipe.corrections.subtractsReference);
     m_baseline->setChecked(recipe.corrections.removesBaseline);
-    const QString sentence = m_services->Spectra()->Shown().corrections;
-    m_description->setText(sentence.isEmpty() ? tr("There is no spectrum yet.") : sentence);
+    m_description->setText(CorrectionsLine(*m_settings, m_services->Spectra()->Shown()));
 }

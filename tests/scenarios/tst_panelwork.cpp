@@ -159,7 +159,7 @@ private slots:
                                      && spectra->Shown().corrected.values.at(500) == 0.0,
                                  WaitMs);
         QVERIFY(spectra->Shown().raw.values.at(500) > 0);
-        QTRY_COMPARE(Note("noteCorrections"), spectra->Shown().corrections);
+        QTRY_COMPARE(Note("noteCorrections"), QString("Corrections: dark subtracted."));
         Type("numberAverage", "8");
         QCOMPARE(settings->Recipe().corrections.averaged, 8);
         Type("numberSmoothing", "4");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectrumfields.h"
 
+#include "correctionsline.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
 
@@ -46,15 +47,17 @@ SpectrumFields::SpectrumFields(SpectrumSettings *settings, SpectrumPipeline *spe
     connect(settings, &SpectrumSettings::SignalSpectralPropertyChanged, this, &FieldSource::signalChanged);
     connect(settings, &SpectrumSettings::signalMessage, this, &FieldSource::signalFault);
     connect(spectra, &SpectrumPipeline::signalSpectrumShown, this, &SpectrumFields::slotSpectrumShown);
+    connect(settings, &SpectrumSettings::signalDisplayModePropertyChange, this, &SpectrumFields::slotSpectrumShown);
 }
 
 /// Comes with every spectrum; the form is shown anew only for what it says of it.
 void SpectrumFields::slotSpectrumShown()
 {
     const SpectrumProduct &product = m_spectra->Shown();
-    if (m_corrections == product.corrections && m_samples == product.raw.Count() && m_rows == product.frameSize.height())
+    const QString corrections = CorrectionsLine(*m_settings, product);
+    if (m_corrections == corrections && m_samples == product.raw.Count() && m_rows == product.frameSize.height())
         return;
-    m_corrections = product.corrections;
+    m_corrections = corrections;
     m_samples = product.raw.Count();
     m_rows = product.frameSize.height();
     emit signalChanged();
@@ -127,7 +130,7 @@ void SpectrumFields::AddReferences(PanelFields &fields) const
     const CorrectionSettings &corrections = m_settings->Recipe().corrections;
     const QString none = tr("There is no spectrum yet: switch vertical binning on first.");
     fields << PanelField::Make(PanelField::Kind::Note, "corrections", tr("Now"),
-                               m_corrections.isEmpty() ? tr("There is no spectrum yet.") : m_corrections);
+                               CorrectionsLine(*m_settings, m_spectra->Shown()));
     fields << PanelField::MakeAction("takeDark", tr("Take Dark"), m_samples > 0);
     fields.last().toolTip = m_samples > 0 ? tr("The spectrum shown becomes the dark spectrum.") : none;
     fields << CheckField("dark", tr("subtract"), corrections.subtractsDark);

@@ -40,7 +40,7 @@ private:
 
     SpectrumSettings *m_settings;
     SpectrumPipeline *m_spectra;
-    QString m_corrections; ///< the sentence of the newest spectrum
+    QString m_corrections; ///< the line as it was told last
     int m_samples = 0;     ///< of it; 0 without one
     int m_rows = 0;        ///< of its frame
 };

@@ -32,7 +32,7 @@ PeakFinding::PeakFinding(Shown shown, QObject *parent)
 std::vector<double> PeakFinding::Uncut(const unsigned int *data, int count) const
 {
     const SpectrumProduct *product = m_shown ? m_shown() : nullptr;
-    if (product && IsPlotOf(product->corrected, product->quantity, data, count))
+    if (product && IsPlotOf(product->corrected, product->corrections.Quantity(), data, count))
         return SearchedValues(product->corrected);
     if (product) {
         for (const Spectrum &track : product->tracks) {

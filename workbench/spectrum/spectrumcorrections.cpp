@@ -5,9 +5,6 @@
 #include "savitzkygolay.h"
 #include "spectrumnoise.h"
 
-#include <QCoreApplication>
-#include <QStringList>
-
 #include <algorithm>
 #include <cmath>
 
@@ -19,10 +16,16 @@ constexpr double rayShare = 0.05;
 /// When more than that share of the samples jumps the light has changed.
 constexpr double mostRayShare = 0.05;
 
-struct Text
+void AddFlags(const std::vector<quint8> &others, std::vector<quint8> *flags)
 {
-    Q_DECLARE_TR_FUNCTIONS(SpectrumCorrections)
-};
+    for (size_t i = 0; i < std::min(flags->size(), others.size()); ++i)
+        (*flags)[i] |= others[i];
+}
+
+bool IsOf(const Spectrum &reference, const Spectrum &spectrum)
+{
+    return spectrum.Count() > 0 && reference.Count() == spectrum.Count() && reference.place == spectrum.place;
+}
 
 double MiddleOf(double a, double b, double c)
 {
@@ -30,13 +33,6 @@ double MiddleOf(double a, double b, double c)
 }
 
 } // namespace
-
-bool CorrectionSettings::operator==(const CorrectionSettings &other) const
-{
-    return removesCosmicRays == other.removesCosmicRays && averaged == other.averaged && subtractsDark == other.subtractsDark
-        && subtractsReference == other.subtractsReference && quantity == other.quantity && removesBaseline == other.removesBaseline
-        && smoothing == other.smoothing;
-}
 
 void SpectrumCorrections::SetSettings(const CorrectionSettings &settings)
 {
@@ -52,26 +48,25 @@ void SpectrumCorrections::Restart()
 
 Spectrum SpectrumCorrections::Apply(const Spectrum &raw)
 {
-    Spectrum spectrum = raw;
-    if ((!m_averaged.empty() && m_averaged.front().Count() != raw.Count())
-        || (!m_before.empty() && m_before.front().size() != raw.values.size()))
+    if (m_mean.place != raw.place || m_mean.Count() != raw.Count())
         Restart();
-    RemoveCosmicRays(&spectrum.values);
-    Average(&spectrum);
-    if (m_settings.subtractsDark && HasDark(spectrum.Count())) {
-        for (size_t i = 0; i < m_dark.size(); ++i)
-            spectrum.values[i] -= m_dark[i];
-    }
-    ApplyReference(&spectrum.values);
+    m_mean = raw;
+    RemoveCosmicRays(&m_mean.values);
+    Average(&m_mean);
+    m_applied.wanted = m_settings;
+    m_applied.averaged = std::max(1, int(m_averaged.size()));
+    m_applied.hasDark = IsOf(m_dark, raw);
+    m_applied.hasReference = IsOf(m_reference, raw);
+
+    Spectrum spectrum = m_mean;
+    SubtractDark(&spectrum);
+    ApplyReference(&spectrum);
     if (m_settings.removesBaseline) {
         const std::vector<double> baseline = Baseline(spectrum.values, BaselineReach);
         for (size_t i = 0; i < baseline.size(); ++i)
             spectrum.values[i] -= baseline[i];
     }
-    if (m_settings.smoothing >= 3) {
-        spectrum.unsmoothed = SavitzkyGolay(spectrum.values, m_settings.smoothing, std::min(SmoothingDegree, m_settings.smoothing - 1));
-        spectrum.values.swap(spectrum.unsmoothed);
-    }
+    Smooth(&spectrum);
     return spectrum;
 }
 
@@ -115,27 +110,33 @@ void SpectrumCorrections::Average(Spectrum *spectrum)
         m_averaged.pop_front();
     for (size_t i = 0; i < spectrum->values.size(); ++i) {
         double sum = 0;
-        quint8 saturated = 0;
-        for (const Spectrum &one : m_averaged) {
+        for (const Spectrum &one : m_averaged)
             sum += one.values[i];
-            saturated |= one.saturated[i];
-        }
         spectrum->values[i] = sum / double(m_averaged.size());
-        spectrum->saturated[i] = saturated;
     }
+    for (const Spectrum &one : m_averaged)
+        AddFlags(one.saturated, &spectrum->saturated);
 }
 
-void SpectrumCorrections::ApplyReference(std::vector<double> *values) const
+void SpectrumCorrections::SubtractDark(Spectrum *spectrum) const
 {
-    const int count = int(values->size());
-    if (!HasReference(count))
+    if (!m_applied.IsDarkSubtracted())
         return;
-    const bool isDark = m_settings.subtractsDark && HasDark(count);
-    for (size_t i = 0; i < values->size(); ++i) {
-        double &value = (*values)[i];
-        const double reference = m_reference[i] - (isDark ? m_dark[i] : 0);
+    for (size_t i = 0; i < spectrum->values.size(); ++i)
+        spectrum->values[i] -= m_dark.values[i];
+    AddFlags(m_dark.saturated, &spectrum->saturated);
+}
+
+void SpectrumCorrections::ApplyReference(Spectrum *spectrum) const
+{
+    if (!m_applied.hasReference || !m_applied.IsReferenceWanted())
+        return;
+    const bool isDark = m_applied.IsDarkSubtracted();
+    for (size_t i = 0; i < spectrum->values.size(); ++i) {
+        double &value = spectrum->values[i];
+        const double reference = m_reference.values[i] - (isDark ? m_dark.values[i] : 0);
         if (m_settings.quantity == SpectrumQuantity::Counts) {
-            value -= m_settings.subtractsReference ? reference : 0;
+            value -= reference;
             continue;
         }
         const double transmission = reference > 0 ? value / reference : 0;
@@ -143,31 +144,23 @@ void SpectrumCorrections::ApplyReference(std::vector<double> *values) const
         if (m_settings.quantity == SpectrumQuantity::Absorbance)
             value = transmission > 0 ? std::min(MostAbsorbance, -std::log10(transmission)) : MostAbsorbance;
     }
+    AddFlags(m_reference.saturated, &spectrum->saturated);
 }
 
-QString SpectrumCorrections::Description(int count) const
+/// A sample that is cut off goes into each value of its window.
+void SpectrumCorrections::Smooth(Spectrum *spectrum) const
 {
-    QStringList parts;
-    if (m_settings.removesCosmicRays)
-        parts << Text::tr("cosmic rays removed");
-    if (m_settings.averaged > 1)
-        parts << Text::tr("average of %1").arg(m_settings.averaged);
-    if (m_settings.subtractsDark)
-        parts << (HasDark(count) ? Text::tr("dark subtracted") : Text::tr("no dark spectrum of this width to subtract"));
-    const bool wantsReference = m_settings.subtractsReference || m_settings.quantity != SpectrumQuantity::Counts;
-    if (wantsReference && !HasReference(count))
-        parts << Text::tr("no reference spectrum of this width");
-    else if (m_settings.quantity == SpectrumQuantity::Transmission)
-        parts << Text::tr("transmission in 1/100 %");
-    else if (m_settings.quantity == SpectrumQuantity::Absorbance)
-        parts << Text::tr("absorbance in 1/10000");
-    else if (m_settings.subtractsReference)
-        parts << Text::tr("reference subtracted");
-    if (m_settings.removesBaseline)
-        parts << Text::tr("baseline removed");
-    if (m_settings.smoothing >= 3)
-        parts << Text::tr("smoothed over %1 samples").arg(m_settings.smoothing / 2 * 2 + 1);
-    return parts.isEmpty() ? Text::tr("No correction is on.") : Text::tr("Corrections: %1.").arg(parts.join(Text::tr(", ")));
+    if (m_settings.smoothing < 3)
+        return;
+    spectrum->unsmoothed = SavitzkyGolay(spectrum->values, m_settings.smoothing, std::min(SmoothingDegree, m_settings.smoothing - 1));
+    spectrum->values.swap(spectrum->unsmoothed);
+    const int reach = m_settings.smoothing / 2;
+    const std::vector<quint8> flags = spectrum->saturated;
+    for (int i = 0; i < int(flags.size()); ++i) {
+        if (flags[size_t(i)])
+            std::fill(spectrum->saturated.begin() + std::max(0, i - reach),
+                      spectrum->saturated.begin() + std::min(int(flags.size()), i + reach + 1), quint8(1));
+    }
 }
 
 std::vector<double> Baseline(const std::vector<double> &samples, int reach)

@@ -1,26 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QString>
+#include "appliedcorrections.h"
+#include "spectrumplace.h"
+
 #include <QtGlobal>
 
 #include <deque>
 #include <vector>
 
-/// What the values of a spectrum mean.
-enum class SpectrumQuantity
-{
-    Counts,
-    Transmission, ///< (sample - dark) / (reference - dark)
-    Absorbance    ///< minus the decimal logarithm of that
-};
-
 /// One spectrum with all that was done to it.
 struct Spectrum
 {
     std::vector<double> values;
-    std::vector<quint8> saturated; ///< 1 where a pixel of the sum was at the end of its range
+    /// 1 where a pixel that the value was made of was at the end of its range; empty when that is not known.
+    std::vector<quint8> saturated;
     quint64 frameId = 0;
+    SpectrumPlace place = {};
     /// The values before they were smoothed; empty when they were not. Smoothed noise is no longer that of each sample
     /// for itself: peaks are looked for in these.
     std::vector<double> unsmoothed = {};
@@ -28,22 +24,8 @@ struct Spectrum
     int Count() const { return int(values.size()); }
 };
 
-/// What is done to every spectrum, in this order: cosmic rays, average, dark, reference, baseline, smoothing.
-struct CorrectionSettings
-{
-    bool removesCosmicRays = false;
-    int averaged = 1; ///< spectra: the newest and those before it
-    bool subtractsDark = false;
-    bool subtractsReference = false; ///< only of counts
-    SpectrumQuantity quantity = SpectrumQuantity::Counts;
-    bool removesBaseline = false;
-    int smoothing = 0; ///< samples of the window; less than 3 is off
-
-    bool operator==(const CorrectionSettings &other) const;
-};
-
 /// Corrects spectra one after another, for one thread. A correction that lacks its dark or reference spectrum, or has
-/// one of another width, is left out, and Description() says so.
+/// one of another place, is left out, and Applied() says so. Spectra of different places are never averaged or compared.
 class SpectrumCorrections
 {
 public:
@@ -53,26 +35,29 @@ public:
     static constexpr double MostAbsorbance = 6.0;
 
     void SetSettings(const CorrectionSettings &settings);
-    const CorrectionSettings &Settings() const { return m_settings; }
-    void SetDark(const std::vector<double> &dark) { m_dark = dark; }
-    void SetReference(const std::vector<double> &reference) { m_reference = reference; }
+    void SetDark(const Spectrum &dark) { m_dark = dark; }
+    void SetReference(const Spectrum &reference) { m_reference = reference; }
     /// Forgets the spectra before: the next one has nothing to do with them.
     void Restart();
 
     Spectrum Apply(const Spectrum &raw);
-    /// One sentence: which corrections are on for spectra of `count` samples.
-    QString Description(int count) const;
+    /// What Apply() did last.
+    const AppliedCorrections &Applied() const { return m_applied; }
+    /// Its spectrum before dark and reference: what can become one of them.
+    const Spectrum &Averaged() const { return m_mean; }
 
 private:
-    bool HasDark(int count) const { return count > 0 && int(m_dark.size()) == count; }
-    bool HasReference(int count) const { return count > 0 && int(m_reference.size()) == count; }
     void RemoveCosmicRays(std::vector<double> *values);
     void Average(Spectrum *spectrum);
-    void ApplyReference(std::vector<double> *values) const;
+    void SubtractDark(Spectrum *spectrum) const;
+    void ApplyReference(Spectrum *spectrum) const;
+    void Smooth(Spectrum *spectrum) const;
 
     CorrectionSettings m_settings;
-    std::vector<double> m_dark;
-    std::vector<double> m_reference; ///< not dark-subtracted
+    AppliedCorrections m_applied;
+    Spectrum m_dark;
+    Spectrum m_reference; ///< not dark-subtracted
+    Spectrum m_mean;
     std::deque<std::vector<double>> m_before; ///< the last two, for cosmic rays
     std::deque<Spectrum> m_averaged;
 };

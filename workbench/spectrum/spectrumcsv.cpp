@@ -52,10 +52,10 @@ void AddOrigin(const ExportedSpectrum &spectrum, QStringList *lines)
         *lines << Comment("rows", RowsText(product.band));
     for (size_t track = 0; track < product.trackBands.size(); ++track)
         *lines << Comment(QString("rows of track %1").arg(track + 1), RowsText(product.trackBands[track]));
-    if (!product.corrections.isEmpty())
-        *lines << Comment("corrections", product.corrections);
+    if (product.HasSpectrum())
+        *lines << Comment("corrections", product.corrections.Record());
     if (product.corrected.Count() > 0)
-        *lines << Comment("corrected values", QuantityName(product.quantity));
+        *lines << Comment("corrected values", QuantityName(product.corrections.Quantity()));
 }
 
 void AddCalibration(const ExportedSpectrum &spectrum, QStringList *lines)

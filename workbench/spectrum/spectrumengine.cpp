@@ -9,11 +9,6 @@ namespace {
 constexpr int picturesPerFocus = 5;
 constexpr int mostFocusLines = 6;
 
-Spectrum SpectrumOf(const BinnedLine &line, quint64 frameId)
-{
-    return {std::vector<double>(line.sums.begin(), line.sums.end()), line.saturated, frameId};
-}
-
 int CrossSize(const SampleView &picture, bool isHorizontal) { return isHorizontal ? picture.height : picture.width; }
 
 BinnedLine LineOf(const SampleView &picture, const RowBand &band, bool isHorizontal)
@@ -48,6 +43,11 @@ void SpectrumEngine::SetRecipe(const SpectrumRecipe &recipe)
 {
     if (recipe.rows != m_recipe.rows || recipe.isHorizontal != m_recipe.isHorizontal || recipe.isBinning != m_recipe.isBinning)
         FindBandAgain();
+    // What was averaged may be of long ago.
+    if (recipe.isBinning != m_recipe.isBinning)
+        m_corrections.Restart();
+    if (recipe.hasTracks != m_recipe.hasTracks)
+        m_trackCorrections.clear();
     m_recipe = recipe;
     m_corrections.SetSettings(recipe.corrections);
     m_trackCorrections.resize(recipe.tracks.size());
@@ -60,15 +60,15 @@ void SpectrumEngine::SetRecipe(const SpectrumRecipe &recipe)
         corrections.SetSettings(ofTracks);
 }
 
-SpectrumProduct SpectrumEngine::Make(const SampleView &picture, quint64 frameId)
+SpectrumProduct SpectrumEngine::Make(const SampleView &picture, quint64 frameId, const Orientation &orientation)
 {
     SpectrumProduct product;
     product.frameId = frameId;
     product.frameSize = QSize(picture.width, picture.height);
-    if (product.frameSize != m_size) {
+    if (product.frameSize != m_size || orientation != m_orientation) {
         m_size = product.frameSize;
+        m_orientation = orientation;
         FindBandAgain();
-        m_corrections.Restart();
     }
     if (m_recipe.isBinning)
         Bin(picture, &product);
@@ -85,15 +85,24 @@ void SpectrumEngine::Bin(const SampleView &picture, SpectrumProduct *product)
         m_isBandKnown = UpdateBand(picture);
     if (m_recipe.rows == BinnedRows::Manual) {
         m_band.top = std::min(m_recipe.top, m_recipe.bottom);
-        m_band.bottom = std::max(m_recipe.top, m_recipe.bottom) + 1;
+        m_band.bottom = std::min(std::max(m_recipe.top, m_recipe.bottom) + 1, CrossSize(picture, m_recipe.isHorizontal));
+        if (m_band.bottom <= m_band.top)
+            return; // the picture became smaller, which the settings are about to be told
     }
     product->band = m_band;
     product->isBandNew = m_isBandNew;
     m_isBandNew = false;
-    product->raw = SpectrumOf(LineOf(picture, m_band, m_recipe.isHorizontal), product->frameId);
+    product->raw = SpectrumOf(picture, m_band, m_recipe.isHorizontal, product->frameId);
     product->corrected = m_corrections.Apply(product->raw);
-    product->quantity = m_recipe.corrections.quantity;
-    product->corrections = m_corrections.Description(product->raw.Count());
+    product->averaged = m_corrections.Averaged();
+    product->corrections = m_corrections.Applied();
+}
+
+Spectrum SpectrumEngine::SpectrumOf(const SampleView &picture, const RowBand &band, bool isHorizontal, quint64 frameId) const
+{
+    const BinnedLine line = LineOf(picture, band, isHorizontal);
+    return {std::vector<double>(line.sums.begin(), line.sums.end()), line.saturated, frameId,
+            {m_size, m_orientation, isHorizontal, band.top, band.bottom}};
 }
 
 bool SpectrumEngine::UpdateBand(const SampleView &picture)
@@ -117,10 +126,15 @@ void SpectrumEngine::BinTracks(const SampleView &picture, SpectrumProduct *produ
 {
     for (size_t track = 0; track < m_recipe.tracks.size(); ++track) {
         // The plots show every track along the rows.
-        BinnedLine line = LineOf(picture, m_recipe.tracks[track], true);
-        product->tracks.push_back(m_trackCorrections[track].Apply(SpectrumOf(line, product->frameId)));
+        const Spectrum raw = SpectrumOf(picture, m_recipe.tracks[track], true, product->frameId);
+        product->tracks.push_back(m_trackCorrections[track].Apply(raw));
         product->trackBands.push_back(m_recipe.tracks[track]);
     }
+    if (m_recipe.isBinning || m_trackCorrections.empty())
+        return;
+    product->corrections = m_trackCorrections.front().Applied();
+    product->corrections.wanted = m_recipe.corrections;
+    product->corrections.isTrack = true;
 }
 
 void SpectrumEngine::MeasureFocus(const SampleView &picture, SpectrumProduct *product)

@@ -12,16 +12,18 @@ class SpectrumEngine
 {
 public:
     void SetRecipe(const SpectrumRecipe &recipe);
-    void SetDark(const std::vector<double> &dark) { m_corrections.SetDark(dark); }
-    void SetReference(const std::vector<double> &reference) { m_corrections.SetReference(reference); }
+    void SetDark(const Spectrum &dark) { m_corrections.SetDark(dark); }
+    void SetReference(const Spectrum &reference) { m_corrections.SetReference(reference); }
     /// The band is looked for again with the next picture.
     void FindBandAgain();
 
-    SpectrumProduct Make(const SampleView &picture, quint64 frameId);
+    /// `orientation` is how the picture was laid on the screen before it came here.
+    SpectrumProduct Make(const SampleView &picture, quint64 frameId, const Orientation &orientation = Orientation());
 
 private:
     void Bin(const SampleView &picture, SpectrumProduct *product);
     void BinTracks(const SampleView &picture, SpectrumProduct *product);
+    Spectrum SpectrumOf(const SampleView &picture, const RowBand &band, bool isHorizontal, quint64 frameId) const;
     /// False while there is no light to find a band by.
     bool UpdateBand(const SampleView &picture);
     void MeasureFocus(const SampleView &picture, SpectrumProduct *product);
@@ -30,6 +32,7 @@ private:
     SpectrumCorrections m_corrections;
     std::vector<SpectrumCorrections> m_trackCorrections;
     QSize m_size;
+    Orientation m_orientation;
     RowBand m_band;
     bool m_isBandKnown = false;
     bool m_isBandNew = false;

@@ -66,27 +66,45 @@ SpectrumPipeline::~SpectrumPipeline()
 
 void SpectrumPipeline::SetRecipe(const SpectrumRecipe &recipe)
 {
-    m_quantity = recipe.corrections.quantity;
+    m_isBinning = recipe.isBinning;
+    m_hasTracks = recipe.hasTracks;
     ChangeEngine([recipe](SpectrumEngine *engine) { engine->SetRecipe(recipe); });
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_isWanted = recipe.IsAnythingWanted();
-    if (!m_isWanted)
-        m_queue.clear();
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isWanted = recipe.IsAnythingWanted();
+        if (!m_isWanted) {
+            m_ledger.dropped += m_queue.size();
+            m_queue.clear();
+        }
+    }
+    if (ForgetUnwanted(&m_shown))
+        emit signalSpectrumShown();
+}
+
+/// What is no longer made is no longer shown, exported or taken as dark. True when there was any.
+bool SpectrumPipeline::ForgetUnwanted(SpectrumProduct *product) const
+{
+    const bool had = (!m_isBinning && product->raw.Count() > 0) || (!m_hasTracks && !product->tracks.empty());
+    if (!m_isBinning)
+        product->ForgetBinned();
+    if (!m_hasTracks)
+        product->ForgetTracks();
+    return had;
 }
 
 bool SpectrumPipeline::TakeDark()
 {
-    if (m_shown.raw.values.empty())
+    if (m_shown.averaged.values.empty())
         return false;
-    ChangeEngine([dark = m_shown.raw.values](SpectrumEngine *engine) { engine->SetDark(dark); });
+    ChangeEngine([dark = m_shown.averaged](SpectrumEngine *engine) { engine->SetDark(dark); });
     return true;
 }
 
 bool SpectrumPipeline::TakeReference()
 {
-    if (m_shown.raw.values.empty())
+    if (m_shown.averaged.values.empty())
         return false;
-    ChangeEngine([reference = m_shown.raw.values](SpectrumEngine *engine) { engine->SetReference(reference); });
+    ChangeEngine([reference = m_shown.averaged](SpectrumEngine *engine) { engine->SetReference(reference); });
     return true;
 }
 
@@ -153,11 +171,12 @@ void SpectrumPipeline::Work(const CameraFrame &frame, const std::function<void(S
 {
     if (change)
         change(&m_engine);
-    const SampleView picture = OrientedView(frame, m_orientation ? m_orientation() : Orientation(), &m_turned);
+    const Orientation orientation = m_orientation ? m_orientation() : Orientation();
+    const SampleView picture = OrientedView(frame, orientation, &m_turned);
     if (findsTracks) {
         QMetaObject::invokeMethod(this, [this, tracks = TracksOf(picture)] { emit signalTracksFound(tracks); }, Qt::QueuedConnection);
     }
-    SpectrumProduct product = m_engine.Make(picture, frame.frameId);
+    SpectrumProduct product = m_engine.Make(picture, frame.frameId, orientation);
     ++m_ledger.computed;
     Deliver(std::move(product));
 }
@@ -187,13 +206,14 @@ void SpectrumPipeline::slotAnnounce()
         m_shown = std::move(m_newest);
         m_isNew = false;
     }
+    ForgetUnwanted(&m_shown);
     const int width = m_shown.frameSize.width();
     if (m_shown.isBandNew) {
         m_band = m_shown.band;
         emit SignalSpectralineFVB();
     }
     if (!m_shown.corrected.values.empty())
-        emit SignalUpdateFVB(m_line.Fill({&m_shown.corrected}, width, m_quantity));
+        emit SignalUpdateFVB(m_line.Fill({&m_shown.corrected}, width, m_shown.corrections.Quantity()));
     if (!m_shown.tracks.empty()) {
         std::vector<const Spectrum *> tracks;
         for (const Spectrum &track : m_shown.tracks)

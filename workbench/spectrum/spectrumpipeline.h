@@ -31,7 +31,8 @@ public:
 
     /// From the next frame on.
     void SetRecipe(const SpectrumRecipe &recipe);
-    /// The newest uncorrected spectrum becomes the dark or the reference spectrum; false when there is none.
+    /// What is shown, as it was before dark and reference, becomes the dark or the reference spectrum; false when there
+    /// is none.
     bool TakeDark();
     bool TakeReference();
     /// The band is looked for again.
@@ -62,6 +63,7 @@ private:
     void Run();
     void Work(const CameraFrame &frame, const std::function<void(SpectrumEngine *)> &change, bool findsTracks);
     void ChangeEngine(const std::function<void(SpectrumEngine *)> &change);
+    bool ForgetUnwanted(SpectrumProduct *product) const;
     void Deliver(SpectrumProduct product);
     void slotAnnounce();
     void slotDelivered();
@@ -85,7 +87,8 @@ private:
     std::vector<uchar> m_turned; ///< of the thread: the frame as it is laid on the screen
 
     SpectrumLedger m_ledger;
-    SpectrumQuantity m_quantity = SpectrumQuantity::Counts;
+    bool m_isBinning = false; ///< by the newest recipe
+    bool m_hasTracks = false;
     SpectrumProduct m_shown;
     RowBand m_band;
     std::vector<LineFocus> m_lines;

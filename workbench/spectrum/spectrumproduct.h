@@ -15,13 +15,21 @@ struct SpectrumProduct
     quint64 frameId = 0;
     QSize frameSize; ///< as shown
     Spectrum raw;       ///< of full vertical binning; empty when that is off
+    Spectrum averaged;  ///< before dark and reference
     Spectrum corrected;
-    SpectrumQuantity quantity = SpectrumQuantity::Counts; ///< of the corrected one
     std::vector<Spectrum> tracks; ///< corrected
     std::vector<RowBand> trackBands; ///< their rows
     RowBand band; ///< the rows that were binned
     bool isBandNew = false;
     std::vector<LineFocus> lines;
     bool areLinesNew = false;
-    QString corrections; ///< the sentence that says which are on
+    AppliedCorrections corrections; ///< of the corrected one, or of the tracks
+
+    bool HasSpectrum() const { return corrected.Count() > 0 || !tracks.empty(); }
+    void ForgetBinned() { raw = averaged = corrected = Spectrum(); }
+    void ForgetTracks()
+    {
+        tracks.clear();
+        trackBands.clear();
+    }
 };

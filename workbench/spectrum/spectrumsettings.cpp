@@ -67,65 +67,6 @@ DisplayModeManager *SpectrumSettings::GetDisplayModeManager() const
     return m_ranges;
 }
 
-// Full vertical binning
-
-int SpectrumSettings::GetFVBOnFlag() const { return m_recipe.isBinning ? 1 : 0; }
-
-/// The plot shows either a binned spectrum or tracks.
-void SpectrumSettings::SetFVBOnFlag(int on)
-{
-    if (m_recipe.isBinning == (on != 0))
-        return;
-    m_recipe.isBinning = on != 0;
-    if (m_recipe.isBinning)
-        SetMultiTrackOnFlag(false);
-    emit SignalFVBOnFlagChanged(m_recipe.isBinning);
-    if (!m_recipe.isBinning)
-        emit SignalFVBClose();
-    emit signalRecipeChanged();
-}
-
-bool SpectrumSettings::IsFVBModeAll() const { return m_recipe.rows == BinnedRows::All; }
-
-bool SpectrumSettings::IsFVBModeAuto() const { return m_recipe.rows == BinnedRows::Auto; }
-
-bool SpectrumSettings::GetManualFlag() const { return m_recipe.rows == BinnedRows::Manual; }
-
-void SpectrumSettings::SetBinnedRows(BinnedRows rows)
-{
-    if (m_recipe.rows == rows)
-        return;
-    const bool wasManual = GetManualFlag();
-    m_recipe.rows = rows;
-    if (rows == BinnedRows::Manual && m_recipe.bottom <= m_recipe.top)
-        m_recipe.bottom = qMax(0, m_frameSize.height() - 1); // the whole picture, to begin with
-    if (rows == BinnedRows::All)
-        emit SignalFVBModeAll();
-    if (wasManual != GetManualFlag())
-        emit SignalFVBManualFlagChanged(GetManualFlag());
-    emit signalRecipeChanged();
-}
-
-int SpectrumSettings::GetTop() const { return m_recipe.top; }
-
-void SpectrumSettings::SetTop(int row)
-{
-    if (m_recipe.top == row)
-        return;
-    m_recipe.top = row;
-    emit signalRecipeChanged();
-}
-
-int SpectrumSettings::GetBottom() const { return m_recipe.bottom; }
-
-void SpectrumSettings::SetBottom(int row)
-{
-    if (m_recipe.bottom == row)
-        return;
-    m_recipe.bottom = row;
-    emit signalRecipeChanged();
-}
-
 // Tracks
 
 bool SpectrumSettings::GetMultiTrackOnFlag() const { return m_recipe.hasTracks; }
@@ -193,6 +134,8 @@ void SpectrumSettings::slotSetFrameSize(QSize size)
         return;
     m_frameSize = size;
     UpdateLiveWidth();
+    if (KeepBandInPicture())
+        emit signalRecipeChanged();
     for (QRectF &track : m_tracks)
         track.setWidth(size.width());
     if (!m_tracks.isEmpty()) {
@@ -241,6 +184,7 @@ void SpectrumSettings::SetHorizontal(bool horizontal)
     }
     m_recipe.isHorizontal = horizontal;
     UpdateLiveWidth();
+    KeepBandInPicture();
     emit signalRecipeChanged();
     if (m_recipe.hasTracks)
         emit SignalMultiTrackOnFlagChanged(); // the range of the track bar is another

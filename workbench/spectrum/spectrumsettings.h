@@ -124,6 +124,10 @@ private:
     RulerRange SpectralPixels(const Area &area) const;
     /// Null where a ruler has to count pixels.
     std::optional<RulerRange> SpectralValues(const Area &area) const;
+    /// Of the picture, across the spectrum.
+    int LinesAcross() const;
+    /// True when the band set by hand had to become another one; the user is told.
+    bool KeepBandInPicture();
     int MostTracks(bool horizontal) const;
     void SwitchTracksOff(const QString &reason);
     void AnnounceAxis();

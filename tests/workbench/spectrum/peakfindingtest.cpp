@@ -28,14 +28,19 @@ constexpr int count = 2048;
 constexpr int window = 15;
 constexpr float threshold = 10;
 
-/// The spectrum, with what it was corrected by.
-Spectrum Corrected(const CorrectionSettings &settings, double level, double noise, unsigned seed)
+Spectrum Noise(double level, double noise, unsigned seed) { return {NoiseOnly(count, level, noise, seed), std::vector<quint8>(count, 0)}; }
+
+/// Noise, with all that was done to it.
+SpectrumProduct Corrected(const CorrectionSettings &settings, double level, double noise, unsigned seed)
 {
     SpectrumCorrections corrections;
     corrections.SetSettings(settings);
-    corrections.SetDark(NoiseOnly(count, level / 2, noise, 100000 + seed));
-    corrections.SetReference(NoiseOnly(count, level, noise, 200000 + seed));
-    return corrections.Apply({NoiseOnly(count, level, noise, seed), std::vector<quint8>(count, 0), seed});
+    corrections.SetDark(Noise(level / 2, noise, 100000 + seed));
+    corrections.SetReference(Noise(level, noise, 200000 + seed));
+    SpectrumProduct product;
+    product.corrected = corrections.Apply(Noise(level, noise, seed));
+    product.corrections = corrections.Applied();
+    return product;
 }
 
 std::vector<unsigned> Plotted(const Spectrum &spectrum, SpectrumQuantity quantity)
@@ -109,12 +114,12 @@ void PeakFindingTest::correctedNoiseHasNoPeak()
     QFETCH(double, noise);
     QFETCH(unsigned, spectra);
     SpectrumProduct product;
-    product.quantity = settings.quantity;
     PeakFinding finding([&product] { return &product; });
     size_t found = 0;
     for (unsigned spectrum = 0; spectrum < spectra; ++spectrum) {
-        product.corrected = Corrected(settings, 4000, noise, spectrum);
-        found += PeaksOf(&finding, Plotted(product.corrected, product.quantity)).size();
+        product = Corrected(settings, 4000, noise, spectrum);
+        QVERIFY(product.corrections.Quantity() == settings.quantity);
+        found += PeaksOf(&finding, Plotted(product.corrected, settings.quantity)).size();
     }
     QCOMPARE(found, size_t(0));
 }
@@ -126,7 +131,7 @@ void PeakFindingTest::aLineOutOfCutNoiseIsFound()
     SpectrumProduct product;
     PeakFinding finding([&product] { return &product; });
     for (unsigned spectrum = 0; spectrum < 50; ++spectrum) {
-        product.corrected = Corrected(settings, 4000, 30, spectrum);
+        product = Corrected(settings, 4000, 30, spectrum);
         // The noise of both spectra together, eight times.
         AddLine(&product.corrected.values, 700, 8 * 30 * std::sqrt(2.0), 2.5);
         const std::vector<int> peaks = PeaksOf(&finding, Plotted(product.corrected, SpectrumQuantity::Counts));
@@ -140,7 +145,8 @@ void PeakFindingTest::tracksAreSearchedUncut()
     SpectrumProduct product;
     PeakFinding finding([&product] { return &product; });
     for (unsigned spectrum = 0; spectrum < 100; ++spectrum) {
-        product.tracks = {Corrected(BaselineRemoved(), 4000, 30, spectrum), Corrected(BaselineRemoved(), 900, 30, spectrum + 500)};
+        product.tracks = {Corrected(BaselineRemoved(), 4000, 30, spectrum).corrected,
+                          Corrected(BaselineRemoved(), 900, 30, spectrum + 500).corrected};
         AddLine(&product.tracks[1].values, 700, 400, 2.5);
         QVERIFY(PeaksOf(&finding, Plotted(product.tracks[0], SpectrumQuantity::Counts)).empty());
         QCOMPARE(PeaksOf(&finding, Plotted(product.tracks[1], SpectrumQuantity::Counts)).size(), size_t(1));
@@ -150,8 +156,7 @@ void PeakFindingTest::tracksAreSearchedUncut()
 /// The row of a picture, while another spectrum is there.
 void PeakFindingTest::whatNobodyKnowsIsSearchedAsItIs()
 {
-    SpectrumProduct product;
-    product.corrected = Corrected(BaselineRemoved(), 4000, 30, 1);
+    SpectrumProduct product = Corrected(BaselineRemoved(), 4000, 30, 1);
     PeakFinding finding([&product] { return &product; });
     std::vector<double> row = NoiseOnly(count, 500, 5, 9);
     AddLine(&row, 300, 900, 2);

@@ -3,6 +3,8 @@
 #include "madespectra.h"
 #include "spectrumcorrections.h"
 
+Q_DECLARE_METATYPE(SpectrumPlace)
+
 class SpectrumCorrectionsTest : public GuardedTest
 {
     Q_OBJECT
@@ -14,6 +16,11 @@ private slots:
     void darkAndReference_data();
     void darkAndReference();
     void aDarkOfAnotherWidthIsLeftOutAndTold();
+    void spectraOfAnotherPlaceAreNotMixed_data();
+    void spectraOfAnotherPlaceAreNotMixed();
+    void withoutReferenceCountsStayCounts();
+    void saturationSpreadsAsFarAsItReaches();
+    void whatWasAveragedCanBecomeTheDark();
     void cosmicRaysGoAndSharpLinesStay();
     void aLampThatIsSwitchedOnIsNoCosmicRay();
     void theBaselineGoesAndTheLineStays();
@@ -27,13 +34,16 @@ Spectrum Of(const std::vector<double> &values)
     return {values, std::vector<quint8>(values.size(), 0), 0};
 }
 
+const SpectrumPlace somewhere{QSize(2, 40), Orientation(), true, 10, 11};
+
 } // namespace
 
 void SpectrumCorrectionsTest::nothingOnChangesNothing()
 {
     SpectrumCorrections corrections;
     QVERIFY(corrections.Apply(Of({5, 7, 9})).values == std::vector<double>({5, 7, 9}));
-    QCOMPARE(corrections.Description(3), QString("No correction is on."));
+    QCOMPARE(corrections.Applied().Sentence(), QString("No correction is on."));
+    QCOMPARE(corrections.Applied().Record(), QString("none"));
 }
 
 void SpectrumCorrectionsTest::theAverageIsThatOfTheNewest()
@@ -89,8 +99,8 @@ void SpectrumCorrectionsTest::darkAndReference()
     settings.subtractsReference = reference;
     settings.quantity = SpectrumQuantity(quantity);
     corrections.SetSettings(settings);
-    corrections.SetDark({100, 100});
-    corrections.SetReference({1100, 100});
+    corrections.SetDark(Of({100, 100}));
+    corrections.SetReference(Of({1100, 100}));
     const Spectrum result = corrections.Apply(Of({500, 500}));
     QVERIFY2(std::abs(result.values[0] - value) < 1e-9, qPrintable(QString::number(result.values[0])));
     QVERIFY(std::isfinite(result.values[1])); // no light in the reference
@@ -102,10 +112,114 @@ void SpectrumCorrectionsTest::aDarkOfAnotherWidthIsLeftOutAndTold()
     CorrectionSettings settings;
     settings.subtractsDark = true;
     corrections.SetSettings(settings);
-    corrections.SetDark({100, 100, 100});
+    corrections.SetDark(Of({100, 100, 100}));
     QVERIFY(corrections.Apply(Of({500, 500})).values == std::vector<double>({500, 500}));
-    QCOMPARE(corrections.Description(2), QString("Corrections: no dark spectrum of this width to subtract."));
-    QCOMPARE(corrections.Description(3), QString("Corrections: dark subtracted."));
+    QCOMPARE(corrections.Applied().Sentence(),
+             QString("Corrections: no dark spectrum of this part of the picture to subtract."));
+    corrections.Apply(Of({500, 500, 500}));
+    QCOMPARE(corrections.Applied().Sentence(), QString("Corrections: dark subtracted."));
+}
+
+void SpectrumCorrectionsTest::spectraOfAnotherPlaceAreNotMixed_data()
+{
+    QTest::addColumn<SpectrumPlace>("place");
+    SpectrumPlace place = somewhere;
+    place.first = 20;
+    QTest::newRow("another row") << place;
+    place = somewhere;
+    place.end = 30;
+    QTest::newRow("more rows") << place;
+    place = somewhere;
+    place.isHorizontal = false;
+    QTest::newRow("the other direction") << place;
+    place = somewhere;
+    place.orientation = Orientation(true, 0);
+    QTest::newRow("mirrored") << place;
+    place = somewhere;
+    place.frame = QSize(2, 50);
+    QTest::newRow("frames of another height") << place;
+}
+
+void SpectrumCorrectionsTest::spectraOfAnotherPlaceAreNotMixed()
+{
+    QFETCH(SpectrumPlace, place);
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.averaged = 4;
+    settings.subtractsDark = true;
+    settings.subtractsReference = true;
+    settings.removesCosmicRays = true;
+    corrections.SetSettings(settings);
+    Spectrum bright = Of({1100, 1100});
+    bright.place = somewhere;
+    Spectrum dark = Of({100, 100});
+    dark.place = somewhere;
+    corrections.SetDark(dark);
+    corrections.SetReference(dark);
+    for (int i = 0; i < 4; ++i)
+        QCOMPARE(corrections.Apply(bright).values[0], 1000.0);
+    QCOMPARE(corrections.Applied().Sentence(),
+             QString("Corrections: cosmic rays removed, average of 4, dark subtracted, reference subtracted."));
+    Spectrum elsewhere = Of({150, 150});
+    elsewhere.place = place;
+    QCOMPARE(corrections.Apply(elsewhere).values[0], 150.0);
+    QCOMPARE(corrections.Applied().Sentence(),
+             QString("Corrections: cosmic rays removed, average of fewer than 4 so far, "
+                     "no dark spectrum of this part of the picture to subtract, no reference spectrum of this part of the picture."));
+    QCOMPARE(corrections.Applied().Record(), QString("cosmic rays removed, average of 1 spectra"));
+}
+
+void SpectrumCorrectionsTest::withoutReferenceCountsStayCounts()
+{
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.quantity = SpectrumQuantity::Transmission;
+    corrections.SetSettings(settings);
+    QCOMPARE(corrections.Apply(Of({6000, 6000})).values[0], 6000.0);
+    QVERIFY(corrections.Applied().Quantity() == SpectrumQuantity::Counts);
+    corrections.SetReference(Of({12000, 12000}));
+    QCOMPARE(corrections.Apply(Of({6000, 6000})).values[0], 0.5);
+    QVERIFY(corrections.Applied().Quantity() == SpectrumQuantity::Transmission);
+}
+
+void SpectrumCorrectionsTest::saturationSpreadsAsFarAsItReaches()
+{
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.smoothing = 5;
+    settings.subtractsDark = true;
+    settings.quantity = SpectrumQuantity::Transmission;
+    corrections.SetSettings(settings);
+    Spectrum sample = Of(std::vector<double>(20, 500));
+    sample.saturated[10] = 1;
+    QCOMPARE(corrections.Apply(sample).saturated, std::vector<quint8>({0, 0, 0, 0, 0, 0, 0, 0, 1, 1, 1, 1, 1, 0, 0, 0, 0, 0, 0, 0}));
+    Spectrum dark = Of(std::vector<double>(20, 100));
+    dark.saturated[0] = 1;
+    corrections.SetDark(dark);
+    Spectrum reference = Of(std::vector<double>(20, 900));
+    reference.saturated[19] = 1;
+    corrections.SetReference(reference);
+    QCOMPARE(corrections.Apply(sample).saturated, std::vector<quint8>({1, 1, 1, 0, 0, 0, 0, 0, 1, 1, 1, 1, 1, 0, 0, 0, 0, 1, 1, 1}));
+    settings.subtractsDark = false;
+    settings.quantity = SpectrumQuantity::Counts;
+    settings.smoothing = 0;
+    corrections.SetSettings(settings);
+    QCOMPARE(corrections.Apply(sample).saturated, sample.saturated);
+}
+
+void SpectrumCorrectionsTest::whatWasAveragedCanBecomeTheDark()
+{
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.averaged = 2;
+    settings.subtractsDark = true;
+    settings.smoothing = 5;
+    corrections.SetSettings(settings);
+    corrections.Apply(Of({10, 20, 10, 20, 10}));
+    corrections.Apply(Of({20, 40, 20, 40, 20}));
+    QVERIFY(corrections.Averaged().values == std::vector<double>({15, 30, 15, 30, 15}));
+    corrections.SetDark(corrections.Averaged());
+    QVERIFY(corrections.Averaged().values == std::vector<double>({15, 30, 15, 30, 15})); // not less itself
 }
 
 void SpectrumCorrectionsTest::cosmicRaysGoAndSharpLinesStay()
@@ -158,16 +272,23 @@ void SpectrumCorrectionsTest::theSentenceSaysAll()
     SpectrumCorrections corrections;
     CorrectionSettings settings;
     settings.removesCosmicRays = true;
-    settings.averaged = 8;
+    settings.averaged = 2;
     settings.subtractsDark = true;
     settings.quantity = SpectrumQuantity::Transmission;
     settings.removesBaseline = true;
     settings.smoothing = 6;
     corrections.SetSettings(settings);
-    corrections.SetDark({1, 1});
-    corrections.SetReference({2, 2});
-    QCOMPARE(corrections.Description(2), QString("Corrections: cosmic rays removed, average of 8, dark subtracted, "
-                                                 "transmission in 1/100 %, baseline removed, smoothed over 7 samples."));
+    corrections.SetDark(Of({1, 1, 1, 1, 1, 1, 1, 1}));
+    corrections.SetReference(Of({2, 2, 2, 2, 2, 2, 2, 2}));
+    corrections.Apply(Of({1, 2, 1, 2, 1, 2, 1, 2}));
+    QCOMPARE(corrections.Applied().Sentence(),
+             QString("Corrections: cosmic rays removed, average of fewer than 2 so far, dark subtracted, "
+                     "transmission in 1/100 %, baseline removed, smoothed over 7 samples."));
+    corrections.Apply(Of({1, 2, 1, 2, 1, 2, 1, 2}));
+    QCOMPARE(corrections.Applied().Sentence(), QString("Corrections: cosmic rays removed, average of 2, dark subtracted, "
+                                                       "transmission in 1/100 %, baseline removed, smoothed over 7 samples."));
+    QCOMPARE(corrections.Applied().Record(), QString("cosmic rays removed, average of 2 spectra, dark subtracted, "
+                                                     "divided by reference, baseline removed, smoothed over 7 samples"));
 }
 
 GUARDED_TEST_MAIN(SpectrumCorrectionsTest)

@@ -31,8 +31,10 @@ ExportedSpectrum Binned()
     spectrum.product.band.bottom = 9;
     spectrum.product.raw = {{10, 20.5, 30}, {0, 0, 1}, 42};
     spectrum.product.corrected = {{0.125, -2, 1e-7}, {0, 0, 1}, 42};
-    spectrum.product.quantity = SpectrumQuantity::Transmission;
-    spectrum.product.corrections = "Corrections: dark subtracted.";
+    spectrum.product.corrections.wanted.subtractsDark = true;
+    spectrum.product.corrections.wanted.quantity = SpectrumQuantity::Transmission;
+    spectrum.product.corrections.hasDark = true;
+    spectrum.product.corrections.hasReference = true;
     spectrum.axis.SetWidth(3);
     return spectrum;
 }
@@ -54,7 +56,7 @@ void SpectrumCsvTest::aBinnedSpectrumTellsAll()
                                   "# frame: 42",
                                   "# picture: 3 x 20 pixels",
                                   "# rows: 5 to 8",
-                                  "# corrections: Corrections: dark subtracted.",
+                                  "# corrections: dark subtracted, divided by reference",
                                   "# corrected values: transmission",
                                   "# axis: nm",
                                   "# calibration: polynomial of degree 1, wavelength in air [nm] of the pixel, counted from 0, lowest power first",

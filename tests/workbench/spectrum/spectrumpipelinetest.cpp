@@ -229,7 +229,7 @@ void SpectrumPipelineTest::darkIsTheSpectrumShown()
     QTRY_COMPARE(pipeline.Shown().frameId, quint64(2));
     QCOMPARE(pipeline.Shown().corrected.values[0], 0.0);
     QCOMPARE(pipeline.Shown().raw.values[0], 8000.0);
-    QCOMPARE(pipeline.Shown().corrections, QString("Corrections: dark subtracted."));
+    QCOMPARE(pipeline.Shown().corrections.Sentence(), QString("Corrections: dark subtracted."));
 }
 
 void SpectrumPipelineTest::tracksAreFoundOnRequest()
