@@ -179,6 +179,30 @@ private slots:
         QCOMPARE(Field("corrections").value.toString(), QString("Corrections: dark subtracted."));
     }
 
+    void theLineOfCorrectionsIsThatOfTheScreen()
+    {
+        m_fields->Set("binning", 1);
+        m_spectra->OnFrame(Frame(1, 50));
+        QTRY_COMPARE(Field("corrections").value.toString(), QString("No correction is on."));
+        QSignalSpy changes(m_fields.get(), SIGNAL(signalChanged()));
+        m_settings->slotSetImageShown(true);
+        QVERIFY(changes.count() > 0);
+        QCOMPARE(Field("corrections").value.toString(), QString("None: an opened file is shown as it was saved."));
+        m_settings->slotSetImageShown(false);
+        QCOMPARE(Field("corrections").value.toString(), QString("No correction is on."));
+        QVERIFY(m_settings->SetTracks({QRectF(0, 2, Width, 5)}));
+        m_fields->Set("showTracks", true);
+        QVERIFY(!Field("takeDark").isEnabled);
+        QCOMPARE(Field("corrections").value.toString(), QString("There is no spectrum yet."));
+        m_fields->Set("baseline", true);
+        m_spectra->OnFrame(Frame(2, 50));
+        QTRY_COMPARE(Field("corrections").value.toString(), QString("Corrections: baseline removed."));
+        changes.clear();
+        m_fields->Set("showTracks", false);
+        QVERIFY(changes.count() > 0);
+        QCOMPARE(Field("corrections").value.toString(), QString("There is no spectrum yet."));
+    }
+
     void spectraThatSayNothingNewDoNotBuildTheFormAnew()
     {
         m_fields->Set("binning", 1);

@@ -4,8 +4,11 @@
 
 #include <QMutex>
 #include <QSignalSpy>
+#include <QThread>
 
 #include <cmath>
+
+Q_DECLARE_METATYPE(SpectrumRecipe)
 
 /// Frames in, payloads out, as the plots take them.
 class SpectrumPipelineTest : public GuardedTest
@@ -22,6 +25,16 @@ private slots:
     void tracksLieOneBehindTheOther();
     void aTurnedPictureIsBinnedAsItIsSeen();
     void darkIsTheSpectrumShown();
+    void whatWasAveragedBeforeAChangeDoesNotStay_data();
+    void whatWasAveragedBeforeAChangeDoesNotStay();
+    void tracksOfOtherRowsAreNotMixed();
+    void aTurnedPictureHasNoDark();
+    void theDarkIsTheAverage();
+    void withoutReferenceCountsAreDrawn();
+    void tracksTellTheirCorrections();
+    void whatIsSwitchedOffIsForgotten();
+    void framesThatWaitedForNothingAreCounted();
+    void rowsThatAreNotThereMakeNoSpectrum();
     void tracksAreFoundOnRequest();
     void focusTellsOfTheLines();
     void changingTheRecipeWhileFramesWaitIsSafe();
@@ -230,6 +243,211 @@ void SpectrumPipelineTest::darkIsTheSpectrumShown()
     QCOMPARE(pipeline.Shown().corrected.values[0], 0.0);
     QCOMPARE(pipeline.Shown().raw.values[0], 8000.0);
     QCOMPARE(pipeline.Shown().corrections.Sentence(), QString("Corrections: dark subtracted."));
+}
+
+void SpectrumPipelineTest::whatWasAveragedBeforeAChangeDoesNotStay_data()
+{
+    QTest::addColumn<SpectrumRecipe>("change");
+    QTest::addColumn<double>("value");
+    SpectrumRecipe recipe = Binning(BinnedRows::Manual);
+    recipe.corrections.averaged = 4;
+    recipe.top = recipe.bottom = 50;
+    QTest::newRow("another band") << recipe << 100.0;
+    recipe.top = recipe.bottom = 30;
+    recipe.isHorizontal = false;
+    QTest::newRow("the other direction") << recipe << 100.0;
+    recipe = Binning();
+    recipe.corrections.averaged = 4;
+    QTest::newRow("all rows") << recipe << 100.0 * height;
+}
+
+/// Of the first sample: in row 30 it was 5100 before.
+void SpectrumPipelineTest::whatWasAveragedBeforeAChangeDoesNotStay()
+{
+    QFETCH(SpectrumRecipe, change);
+    QFETCH(double, value);
+    SpectrumPipeline pipeline;
+    SpectrumRecipe recipe = Binning(BinnedRows::Manual);
+    recipe.corrections.averaged = 4;
+    recipe.top = recipe.bottom = 30;
+    pipeline.SetRecipe(recipe);
+    CameraFrame frame = Frame(1, 0, 0);
+    const_cast<quint16 *>(reinterpret_cast<const quint16 *>(frame.Row(30)))[0] = 5100;
+    for (int i = 0; i < 4; ++i)
+        pipeline.OnFrame(frame);
+    QTRY_COMPARE(pipeline.Ledger().computed.load(), quint64(4));
+    pipeline.SetRecipe(change);
+    pipeline.OnFrame(Frame(5, 0, 0));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(5));
+    QCOMPARE(pipeline.Shown().corrected.values[0], value);
+}
+
+void SpectrumPipelineTest::tracksOfOtherRowsAreNotMixed()
+{
+    SpectrumPipeline pipeline;
+    SpectrumRecipe recipe;
+    recipe.hasTracks = true;
+    recipe.corrections.averaged = 8;
+    recipe.tracks = {{0, 10, 0}, {20, 40, 0}};
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(1));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(1));
+    recipe.tracks = {{0, 10, 0}, {50, 70, 0}};
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(2));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(2));
+    QCOMPARE(pipeline.Shown().tracks[1].values[150], 2000.0);
+}
+
+/// Mirrored it is as large as before.
+void SpectrumPipelineTest::aTurnedPictureHasNoDark()
+{
+    QMutex gate;
+    Orientation orientation;
+    SpectrumPipeline pipeline([&] {
+        const QMutexLocker lock(&gate);
+        return orientation;
+    });
+    SpectrumRecipe recipe = Binning();
+    recipe.corrections.subtractsDark = true;
+    recipe.corrections.averaged = 2;
+    pipeline.SetRecipe(recipe);
+    CameraFrame frame = Frame(1, 0, 0);
+    const_cast<quint16 *>(reinterpret_cast<const quint16 *>(frame.Row(0)))[0] = 5100;
+    pipeline.OnFrame(frame);
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(1));
+    QVERIFY(pipeline.TakeDark());
+    {
+        const QMutexLocker lock(&gate);
+        orientation = Orientation(true, 0);
+    }
+    frame.frameId = 2;
+    pipeline.OnFrame(frame);
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(2));
+    QCOMPARE(pipeline.Shown().corrected.values[0], 100.0 * height);
+    QCOMPARE(pipeline.Shown().corrected.values[width - 1], 100.0 * height + 5000);
+    QCOMPARE(pipeline.Shown().corrections.Sentence(), QString("Corrections: average of fewer than 2 so far, "
+                                                              "no dark spectrum of this part of the picture to subtract."));
+}
+
+void SpectrumPipelineTest::theDarkIsTheAverage()
+{
+    SpectrumPipeline pipeline;
+    SpectrumRecipe recipe = Binning();
+    recipe.corrections.averaged = 2;
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(1, 0, 0));
+    CameraFrame other = Frame(2, 0, 0);
+    const_cast<quint16 *>(reinterpret_cast<const quint16 *>(other.Row(0)))[7] = 160;
+    pipeline.OnFrame(other);
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(2));
+    QVERIFY(pipeline.TakeDark());
+    recipe.corrections.averaged = 1;
+    recipe.corrections.subtractsDark = true;
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(3, 0, 0));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(3));
+    QCOMPARE(pipeline.Shown().corrected.values[7], -30.0);
+}
+
+void SpectrumPipelineTest::withoutReferenceCountsAreDrawn()
+{
+    SpectrumPipeline pipeline;
+    Plot plot(&pipeline, &SpectrumManager::SignalUpdateFVB, width);
+    SpectrumRecipe recipe = Binning();
+    recipe.corrections.quantity = SpectrumQuantity::Transmission;
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(1, 0, 0));
+    QTRY_COMPARE(plot.times, 1);
+    QCOMPARE(plot.shown[0], 8000U);
+    QCOMPARE(pipeline.Shown().corrections.Sentence(), QString("Corrections: no reference spectrum of this part of the picture."));
+    QVERIFY(pipeline.TakeReference());
+    pipeline.OnFrame(Frame(2, 0, 0));
+    QTRY_COMPARE(plot.times, 2);
+    QCOMPARE(plot.shown[0], 10000U);
+    // What is under way when the choice changes is drawn as what it is.
+    pipeline.OnFrame(Frame(3, 0, 0));
+    while (pipeline.Ledger().computed < 3)
+        QThread::yieldCurrentThread();
+    recipe.corrections.quantity = SpectrumQuantity::Counts;
+    pipeline.SetRecipe(recipe);
+    QTRY_COMPARE(plot.times, 3);
+    QCOMPARE(plot.shown[0], 10000U);
+}
+
+void SpectrumPipelineTest::tracksTellTheirCorrections()
+{
+    SpectrumPipeline pipeline;
+    SpectrumRecipe recipe;
+    recipe.hasTracks = true;
+    recipe.corrections.subtractsDark = true;
+    recipe.corrections.removesBaseline = true;
+    recipe.tracks = {{0, 10, 0}};
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(1));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(1));
+    QCOMPARE(pipeline.Shown().corrections.Sentence(), QString("Corrections: dark and reference not of tracks, baseline removed."));
+    QCOMPARE(pipeline.Shown().corrections.Record(), QString("baseline removed"));
+}
+
+void SpectrumPipelineTest::whatIsSwitchedOffIsForgotten()
+{
+    SpectrumPipeline pipeline;
+    Plot plot(&pipeline, &SpectrumManager::SignalUpdateFVB, width);
+    pipeline.SetRecipe(Binning());
+    pipeline.OnFrame(Frame(1));
+    QTRY_COMPARE(plot.times, 1);
+    pipeline.OnFrame(Frame(2));
+    while (pipeline.Ledger().computed < 2)
+        QThread::yieldCurrentThread();
+    QSignalSpy shown(&pipeline, &SpectrumPipeline::signalSpectrumShown);
+    SpectrumRecipe focus;
+    focus.isFocusing = true;
+    pipeline.SetRecipe(focus);
+    QCOMPARE(shown.count(), 1);
+    QVERIFY(!pipeline.Shown().HasSpectrum());
+    QVERIFY(!pipeline.TakeDark() && !pipeline.TakeReference());
+    pipeline.OnFrame(Frame(3));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(3));
+    QVERIFY(!pipeline.Shown().HasSpectrum());
+    QCOMPARE(plot.times, 1); // the one under way was not drawn
+}
+
+void SpectrumPipelineTest::framesThatWaitedForNothingAreCounted()
+{
+    QMutex gate;
+    gate.lock();
+    SpectrumPipeline pipeline([&gate] {
+        const QMutexLocker lock(&gate);
+        return Orientation();
+    });
+    pipeline.SetRecipe(Binning());
+    for (quint64 id = 1; id <= 10; ++id)
+        pipeline.OnFrame(Frame(id));
+    pipeline.SetRecipe(SpectrumRecipe());
+    gate.unlock();
+    const SpectrumLedger &ledger = pipeline.Ledger();
+    QVERIFY(ledger.dropped >= 9);
+    QTRY_COMPARE(ledger.computed + ledger.missed + ledger.dropped, quint64(10));
+    QCOMPARE(ledger.taken.load(), quint64(10));
+}
+
+void SpectrumPipelineTest::rowsThatAreNotThereMakeNoSpectrum()
+{
+    SpectrumPipeline pipeline;
+    SpectrumRecipe recipe = Binning(BinnedRows::Manual);
+    recipe.top = height;
+    recipe.bottom = height + 20;
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(1));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(1));
+    QVERIFY(!pipeline.Shown().HasSpectrum());
+    recipe.top = height - 2;
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(2));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(2));
+    QCOMPARE(pipeline.Shown().raw.values[0], 200.0);
+    QCOMPARE(pipeline.Shown().band.bottom, height);
 }
 
 void SpectrumPipelineTest::tracksAreFoundOnRequest()

@@ -19,6 +19,8 @@ private slots:
     void cleanup();
     void binningAndTracksTakeTurns();
     void rowsOfTheBandAreKept();
+    void aBandOutsideOfThePictureIsTold_data();
+    void aBandOutsideOfThePictureIsTold();
     void tracksThatCannotBeAreRefusedInWords();
     void moreThanTwentyTracksAreForThePlotAlongTheRows();
     void aSmallerFrameSwitchesTracksOff();
@@ -107,6 +109,42 @@ void SpectrumSettingsTest::rowsOfTheBandAreKept()
     m_settings->SetBinnedRows(BinnedRows::All);
     QCOMPARE(all.count(), 1);
     QCOMPARE(manual.count(), 2);
+}
+
+void SpectrumSettingsTest::aBandOutsideOfThePictureIsTold_data()
+{
+    QTest::addColumn<int>("top");
+    QTest::addColumn<int>("bottom");
+    QTest::addColumn<int>("keptTop");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("outside") << 300 << 340 << 0
+                             << "The band set by hand lay outside of the picture, which has 200 lines now: all of them are binned. "
+                                "Set the band again.";
+    QTest::newRow("beyond") << 150 << 240 << 150
+                            << "The band set by hand went beyond the picture, which has 200 lines now, and was cut.";
+}
+
+void SpectrumSettingsTest::aBandOutsideOfThePictureIsTold()
+{
+    QFETCH(int, top);
+    QFETCH(int, bottom);
+    QFETCH(int, keptTop);
+    QFETCH(QString, text);
+    m_settings->SetBinnedRows(BinnedRows::Manual);
+    m_settings->SetFVBOnFlag(1);
+    m_settings->SetTop(top);
+    m_settings->SetBottom(bottom);
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    QSignalSpy line(m_settings.get(), &SpectrumUIManager::SignalTopBottomChanged);
+    QSignalSpy changed(m_settings.get(), &SpectrumSettings::signalRecipeChanged);
+    m_settings->slotSetFrameSize(QSize(1000, 400));
+    QCOMPARE(told.count(), 0);
+    m_settings->slotSetFrameSize(QSize(1000, 200));
+    QCOMPARE(told.value(0).value(0).toString(), text);
+    QCOMPARE(line.count(), 1);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(m_settings->GetTop(), keptTop);
+    QCOMPARE(m_settings->GetBottom(), 199);
 }
 
 void SpectrumSettingsTest::tracksThatCannotBeAreRefusedInWords()
