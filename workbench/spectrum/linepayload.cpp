@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <new>
 
 unsigned int PlotValue(double value, SpectrumQuantity quantity)
 {
@@ -16,21 +17,34 @@ unsigned int PlotValue(double value, SpectrumQuantity quantity)
     return unsigned(std::min(scaled, double(std::numeric_limits<unsigned int>::max())));
 }
 
+LinePayload::LinePayload(int mostLines)
+    : m_mostLines(mostLines)
+    , m_first(MakeBuffer(mostLines))
+    , m_second(MakeBuffer(mostLines))
+{
+    m_record.fill = m_first.get();
+    m_record.show = m_second.get();
+    m_record.lock = &m_mutex;
+}
+
+/// Zeroed pages that cost nothing until they are written.
+LinePayload::Buffer LinePayload::MakeBuffer(int mostLines)
+{
+    Buffer buffer(static_cast<unsigned int *>(std::calloc(size_t(mostLines) * WidestFrame, sizeof(unsigned int))));
+    if (!buffer)
+        throw std::bad_alloc();
+    return buffer;
+}
+
 SpectrumLinePayload *LinePayload::Fill(const std::vector<const Spectrum *> &lines, int width, SpectrumQuantity quantity)
 {
     // Nobody draws while we are here: both sides run in the GUI thread.
-    const size_t room = std::max(size_t(1), lines.size()) * WidestFrame;
     const QMutexLocker lock(&m_mutex);
-    if (m_first.size() < room) {
-        m_first.assign(room, 0);
-        m_second.assign(room, 0);
-        m_record.fill = m_first.data();
-        m_record.show = m_second.data();
-        m_record.lock = &m_mutex;
-    }
-    unsigned int least = lines.empty() ? 0 : std::numeric_limits<unsigned int>::max();
+    width = qBound(0, width, WidestFrame);
+    const size_t count = std::min(lines.size(), size_t(m_mostLines));
+    unsigned int least = count == 0 || width == 0 ? 0 : std::numeric_limits<unsigned int>::max();
     unsigned int most = 0;
-    for (size_t k = 0; k < lines.size(); ++k) {
+    for (size_t k = 0; k < count; ++k) {
         unsigned int *target = m_record.fill + k * size_t(width);
         const std::vector<double> &values = lines[k]->values;
         for (int i = 0; i < width; ++i) {

@@ -6,14 +6,18 @@
 
 #include <QMutex>
 
-/// The record behind SignalUpdateFVB() and SignalUpdateMultiTrack(), with its buffers. They have room for the widest
-/// frame there is, so that a plot that already knows of a wider frame reads nothing that is not there. GUI thread.
+#include <cstdlib>
+#include <memory>
+
+/// The record behind SignalUpdateFVB() and SignalUpdateMultiTrack(), with its buffers. The plots read as many lines as
+/// the track list names when they draw, each as wide as the frame is then, which may be more than was filled: so there is
+/// always room for the most lines of the widest frame. The system gives memory for what was filled, no more. GUI thread.
 class LinePayload
 {
 public:
     static constexpr int WidestFrame = 65535;
 
-    LinePayload() = default;
+    explicit LinePayload(int mostLines);
     LinePayload(const LinePayload &) = delete;
     LinePayload &operator=(const LinePayload &) = delete;
 
@@ -21,9 +25,18 @@ public:
     SpectrumLinePayload *Fill(const std::vector<const Spectrum *> &lines, int width, SpectrumQuantity quantity);
 
 private:
+    struct Free
+    {
+        void operator()(unsigned int *values) const { std::free(values); }
+    };
+    using Buffer = std::unique_ptr<unsigned int[], Free>;
+
+    static Buffer MakeBuffer(int mostLines);
+
+    const int m_mostLines;
     QMutex m_mutex;
-    std::vector<unsigned int> m_first;
-    std::vector<unsigned int> m_second;
+    Buffer m_first;
+    Buffer m_second;
     SpectrumLinePayload m_record{};
 };
 

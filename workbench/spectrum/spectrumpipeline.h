@@ -92,7 +92,7 @@ private:
     SpectrumProduct m_shown;
     RowBand m_band;
     std::vector<LineFocus> m_lines;
-    LinePayload m_line;
-    LinePayload m_tracks;
+    LinePayload m_line{1};
+    LinePayload m_tracks{MostTracksAtAll};
     std::thread m_thread; ///< last: everything it uses is there before it
 };

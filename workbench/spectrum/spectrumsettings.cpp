@@ -91,8 +91,7 @@ void SpectrumSettings::SetMultiTrackOnFlag(bool on)
 int SpectrumSettings::MostTracks(bool horizontal) const
 {
     constexpr int mostInVerticalPlot = 20;
-    constexpr int mostAtAll = 256;
-    return horizontal ? mostAtAll : mostInVerticalPlot;
+    return horizontal ? MostTracksAtAll : mostInVerticalPlot;
 }
 
 bool SpectrumSettings::SetTracks(const QList<QRectF> &tracks)

@@ -16,6 +16,8 @@ struct RowBand
     double light = 0; ///< above the background, summed over its rows
 };
 
+constexpr int MostTracksAtAll = 256;
+
 /// The bands of a profile, which holds the light of each row, from the top: what stands out from the dark rows by more
 /// than noise explains, down to half of its brightest row. Bands of less than a hundredth of the brightest are left out.
 std::vector<RowBand> FindBands(const std::vector<double> &profile);
