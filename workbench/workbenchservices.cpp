@@ -262,6 +262,7 @@ void WorkbenchServices::ConnectSpectrum()
     connect(m_config.get(), &WorkspaceConfig::signalSwitchView, settings, [this, settings] {
         const int view = m_config->GetCurrentView();
         settings->slotSetImageShown(view == ImageView || view == ImageCompareView);
+        ShowSpectrumAgain();
     });
     connect(m_mainPicture.get(), &OpenedPicture::signalAxis, settings,
             [this, settings](const SpectralAxis &axis) { settings->SetImageAxis(axis, m_mainPicture->GetImageSize().width()); });
@@ -275,6 +276,15 @@ void WorkbenchServices::slotDisplayModeChanged()
         m_useArea->slotSetSpectrum(true); // its pages belong to that use
     UpdateProfilesWanted();
     m_preview->slotShowAgain();
+    ShowSpectrumAgain();
+}
+
+/// Another page has come to the front; with the camera stopped nothing else would come to it.
+void WorkbenchServices::ShowSpectrumAgain()
+{
+    const SpectrumRecipe &recipe = m_spectrumSettings->Recipe();
+    if (recipe.isBinning || recipe.hasTracks)
+        m_spectrumPipeline->ShowAgain();
 }
 
 /// The curve's page shows a profile of the picture only while there is neither a binned spectrum nor a track.

@@ -123,6 +123,7 @@ private:
     void Connect();
     void ConnectPictures();
     void ConnectSpectrum();
+    void ShowSpectrumAgain();
     void UpdateProfilesWanted();
     void RepairRecordings();
 

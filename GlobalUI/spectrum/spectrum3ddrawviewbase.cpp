@@ -93,7 +93,9 @@ void Spectrum3DDrawViewBase::resizeEvent(QResizeEvent *event)
 void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
 {
     const SpectrumUIManager *settings = SpectrumUIManager::GetInstance();
-    if (!m_plot || !param || !settings->IsDisplayMode3D())
+    // The page of the live picture and that of the opened one get the same payload: only the one that is seen may exchange
+    // its buffers.
+    if (!m_plot || !param || !settings->IsDisplayMode3D() || !isVisible())
         return;
     const QList<QRectF> tracks = settings->GetMultiTrackList();
     m_plot->setVisible(!tracks.isEmpty());

@@ -26,7 +26,7 @@ public:
     ~Spectrum3DDrawViewBase() override;
 
 public slots:
-    /// A SpectrumLinePayload.
+    /// A SpectrumLinePayload. A hidden view leaves it to the one that is seen.
     void SlotUpdateMultiTrack(void *param);
     void Slot3DViewRotationChanged(double x, double y, double z);
     void Slot3DZoomChanged(double zoom);

@@ -137,6 +137,7 @@ private slots:
     void tracksWithoutWidth();
     void buffersAreExchanged();
     void queuedFromTheService();
+    void onePayloadForTwoPages();
     void box_data();
     void box();
     void axes();
@@ -281,6 +282,33 @@ void TestSpectrum3D::queuedFromTheService()
     page.services.spectrumUI.displayMode3D = false;
     QCoreApplication::processEvents();
     QCOMPARE(late.record.fill, late.first.data());
+}
+
+/// The live page and that of the opened picture each have a plot; one of them is seen.
+void TestSpectrum3D::onePayloadForTwoPages()
+{
+    Page3D page(1, 300);
+    Spectrum3DDrawFrameBase other(nullptr);
+    other.setWindowFlag(Qt::FramelessWindowHint);
+    other.resize(600, 400);
+    const auto *plot = other.findChild<Qwt3D::SurfacePlot *>();
+    LinePayload payload(Values(300, 1000), Values(300, 0));
+    QVERIFY(page.Show());
+    emit page.services.spectrum.SignalUpdateMultiTrack(payload.Param());
+    QCoreApplication::processEvents();
+    QCOMPARE(payload.record.show, payload.first.data());
+    QCOMPARE(Text(PlotLines::Of(page.plot).first()->lines()[0][0]), QString("0 0 2"));
+    QVERIFY(PlotLines::Of(plot).isEmpty());
+
+    page.page.hide();
+    other.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&other));
+    std::fill(payload.second.begin(), payload.second.end(), 3000U); // the next one
+    emit page.services.spectrum.SignalUpdateMultiTrack(payload.Param());
+    QCoreApplication::processEvents();
+    QCOMPARE(payload.record.show, payload.second.data());
+    QCOMPARE(Text(PlotLines::Of(plot).first()->lines()[0][0]), QString("0 0 6"));
+    QCOMPARE(Text(PlotLines::Of(page.plot).first()->lines()[0][0]), QString("0 0 2"));
 }
 
 void TestSpectrum3D::box_data()

@@ -198,34 +198,49 @@ void SpectrumPipeline::Deliver(SpectrumProduct product)
 
 // The GUI thread
 
-/// The plots exchange the buffers in events of their own, which run before slotDelivered().
+void SpectrumPipeline::ShowAgain()
+{
+    const std::lock_guard<std::mutex> lock(m_deliveryMutex);
+    if (!std::exchange(m_isOnItsWay, true))
+        QMetaObject::invokeMethod(this, &SpectrumPipeline::slotAnnounce, Qt::QueuedConnection);
+}
+
 void SpectrumPipeline::slotAnnounce()
 {
+    bool isNew = false;
     {
         const std::lock_guard<std::mutex> lock(m_deliveryMutex);
-        m_shown = std::move(m_newest);
-        m_isNew = false;
+        isNew = std::exchange(m_isNew, false);
+        if (isNew)
+            m_shown = std::move(m_newest);
     }
     ForgetUnwanted(&m_shown);
-    const int width = m_shown.frameSize.width();
-    if (m_shown.isBandNew) {
+    if (isNew && m_shown.isBandNew) {
         m_band = m_shown.band;
         emit SignalSpectralineFVB();
     }
-    if (!m_shown.corrected.values.empty())
-        emit SignalUpdateFVB(m_line.Fill({&m_shown.corrected}, width, m_shown.corrections.Quantity()));
-    if (!m_shown.tracks.empty()) {
-        std::vector<const Spectrum *> tracks;
-        for (const Spectrum &track : m_shown.tracks)
-            tracks.push_back(&track);
-        emit SignalUpdateMultiTrack(m_tracks.Fill(tracks, width, SpectrumQuantity::Counts));
-    }
-    if (m_shown.areLinesNew) {
+    AnnounceLines();
+    if (isNew && m_shown.areLinesNew) {
         m_lines = m_shown.lines;
         emit SignalSpectralineAutoDetectFinish();
     }
-    emit signalSpectrumShown();
+    if (isNew)
+        emit signalSpectrumShown();
     QMetaObject::invokeMethod(this, &SpectrumPipeline::slotDelivered, Qt::QueuedConnection);
+}
+
+/// The plots exchange the buffers in events of their own, which run before slotDelivered().
+void SpectrumPipeline::AnnounceLines()
+{
+    const int width = m_shown.frameSize.width();
+    if (!m_shown.corrected.values.empty())
+        emit SignalUpdateFVB(m_line.Fill({&m_shown.corrected}, width, m_shown.corrections.Quantity()));
+    if (m_shown.tracks.empty())
+        return;
+    std::vector<const Spectrum *> tracks;
+    for (const Spectrum &track : m_shown.tracks)
+        tracks.push_back(&track);
+    emit SignalUpdateMultiTrack(m_tracks.Fill(tracks, width, SpectrumQuantity::Counts));
 }
 
 void SpectrumPipeline::slotDelivered()

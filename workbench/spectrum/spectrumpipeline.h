@@ -40,6 +40,9 @@ public:
     /// Looks for tracks in the next frame; signalTracksFound() tells.
     void FindTracks();
 
+    /// The plots get the newest spectrum once more: a page that was hidden has none. Nothing when one is on its way.
+    void ShowAgain();
+
     /// The newest one that was announced.
     const SpectrumProduct &Shown() const { return m_shown; }
     const SpectrumLedger &Ledger() const { return m_ledger; }
@@ -66,6 +69,7 @@ private:
     bool ForgetUnwanted(SpectrumProduct *product) const;
     void Deliver(SpectrumProduct product);
     void slotAnnounce();
+    void AnnounceLines();
     void slotDelivered();
 
     const std::function<Orientation()> m_orientation;

@@ -23,6 +23,7 @@ private slots:
     void theBandIsFoundAndTold();
     void withoutLightNothingNewIsTold();
     void tracksLieOneBehindTheOther();
+    void whatWasShownIsShownAgain();
     void aTurnedPictureIsBinnedAsItIsSeen();
     void darkIsTheSpectrumShown();
     void whatWasAveragedBeforeAChangeDoesNotStay_data();
@@ -213,6 +214,35 @@ void SpectrumPipelineTest::tracksLieOneBehindTheOther()
     QCOMPARE(plot.shown[width], 2000U);
     QVERIFY(plot.shown[width + 150] > 20 * 5000U);
     QCOMPARE(plot.least, 1000);
+}
+
+/// For a page that was hidden when the newest came.
+void SpectrumPipelineTest::whatWasShownIsShownAgain()
+{
+    SpectrumPipeline pipeline;
+    QSignalSpy shown(&pipeline, &SpectrumPipeline::signalSpectrumShown);
+    Plot plot(&pipeline, &SpectrumManager::SignalUpdateMultiTrack, width);
+    Plot line(&pipeline, &SpectrumManager::SignalUpdateFVB, width);
+    pipeline.ShowAgain(); // there is nothing yet
+    SpectrumRecipe recipe = Binning();
+    recipe.hasTracks = true;
+    recipe.tracks = {{0, 10, 0}};
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(1));
+    QTRY_COMPARE(plot.times, 1);
+    const QVector<unsigned> tracks = plot.shown;
+    const QVector<unsigned> binned = line.shown;
+    plot.shown.clear();
+    pipeline.ShowAgain();
+    pipeline.ShowAgain(); // both wishes are met at once
+    QTRY_COMPARE(plot.times, 2);
+    QCOMPARE(plot.shown, tracks);
+    QCOMPARE(line.shown, binned);
+    QCOMPARE(shown.count(), 1);
+    // Those that come later come as ever.
+    pipeline.OnFrame(Frame(2));
+    QTRY_COMPARE(shown.count(), 2);
+    QTRY_COMPARE(plot.times, 3);
 }
 
 void SpectrumPipelineTest::aTurnedPictureIsBinnedAsItIsSeen()
