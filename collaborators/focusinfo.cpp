@@ -37,11 +37,11 @@ void AddRectangle(QGraphicsItem *parent, const QRectF &rectangle, const QPen &pe
     item->setAcceptedMouseButtons(Qt::NoButton);
 }
 
-/// A line through the middle of its rectangle, `angle` degrees from upright.
+/// A line through the middle of its rectangle, `angle` degrees from upright, as long as the rectangle is that way.
 void AddSpectralLine(QGraphicsItem *parent, const QRectF &rectangle, qreal angle, const QPen &pen)
 {
-    const QPointF half(qSin(qDegreesToRadians(angle)) * rectangle.height() / 2,
-                       qCos(qDegreesToRadians(angle)) * rectangle.height() / 2);
+    const qreal length = qAbs(angle) > 45 ? rectangle.width() : rectangle.height();
+    const QPointF half(qSin(qDegreesToRadians(angle)) * length / 2, qCos(qDegreesToRadians(angle)) * length / 2);
     auto *item = new QGraphicsLineItem(QLineF(rectangle.center() - half, rectangle.center() + half), parent);
     item->setPen(pen);
     item->setAcceptedMouseButtons(Qt::NoButton);

@@ -88,6 +88,7 @@ ExportedSpectrum SpectrumDialogs::OpenedSpectrum() const
     const ProfileBand lines = picture->LinesOfProfile(isHorizontal);
     spectrum.product.band.top = lines.first;
     spectrum.product.band.bottom = lines.end;
+    spectrum.product.raw.place.isHorizontal = isHorizontal;
     spectrum.product.frameId = quint64(picture->Shown().request.frame + 1);
     spectrum.product.frameSize = picture->GetImageSize();
     spectrum.source = picture->Document()->Path();

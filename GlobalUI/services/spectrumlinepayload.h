@@ -7,8 +7,8 @@
 
 class QMutex;
 
-/// One binned line (FVB), or the lines of all tracks one after another (multi-track), each as many
-/// values as the frame is wide. The spectrum pipeline writes the fill buffer and the two extremes;
+/// One binned line (FVB), as many values as the frame is wide, or high when the spectrum runs along the
+/// columns; or the lines of all tracks one after another (multi-track), each as many values as the frame is wide. The spectrum pipeline writes the fill buffer and the two extremes;
 /// the GUI thread exchanges fill and show under `lock` and draws the show buffer.
 struct SpectrumLinePayload
 {

@@ -63,8 +63,11 @@ void Spectrum2DDrawFrameBase::SlotUpdateFVB(void *param)
 {
     if (!param || !IsShown())
         return;
+    // A spectrum along the columns has a value for each row.
+    const FrameManager *frame = FrameManager::GetInstance();
+    const bool horizontal = SpectrumUIManager::GetInstance()->IsDirectionHorinzontal();
     DrawCurve(TakeLine(static_cast<SpectrumLinePayload *>(param)),
-              FrameManager::GetInstance()->GetFrameWidth());
+              horizontal ? frame->GetFrameWidth() : frame->GetFrameHeight());
 }
 
 void Spectrum2DDrawFrameBase::SlotUpdateMultiTrack(void *param)

@@ -46,6 +46,7 @@ private slots:
     void TheObjectsAreConnectedByTheirSpelling_data();
     void TheObjectsAreConnectedByTheirSpelling();
     void DrawsOneMarkPerSpectralLine();
+    void LevelLinesAreAsLongAsTheirRectangleIsWide();
     void ShorterListsLeaveMarksOut();
     void NewMarksReplaceTheOldOnes();
     void ShowModeChoosesTheMarks_data();
@@ -144,6 +145,16 @@ void TestFocusInfo::DrawsOneMarkPerSpectralLine()
     QCOMPARE(texts.at(0)->pos(), QPointF(12, 22));
     QCOMPARE(texts.at(0)->text(), QString::fromUtf8("1.50  0.00°"));
     QVERIFY(texts.at(1)->text().startsWith("2.25  -1.1"));
+}
+
+void TestFocusInfo::LevelLinesAreAsLongAsTheirRectangleIsWide()
+{
+    FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    info.AddFocusInfo({QRect(20, 10, 200, 30)}, {QPoint(22, 12)}, {1.5F}, {90.0F});
+    const QLineF line = ItemsOf<QGraphicsLineItem>(*m_scene).first()->line();
+    QCOMPARE(line.center(), QPointF(120, 25));
+    QCOMPARE(line.length(), 200.0);
+    QVERIFY(qAbs(line.dy()) < 1e-9);
 }
 
 void TestFocusInfo::ShorterListsLeaveMarksOut()

@@ -46,6 +46,7 @@ private slots:
     void profileOfAnotherSizeThanTheFrame_data();
     void profileOfAnotherSizeThanTheFrame();
     void fvbLine();
+    void fvbLineAlongTheColumns();
     void trackOfTheScrollBar();
     void trackThatIsNoMore();
     void columnAcrossTracks_data();
@@ -136,6 +137,16 @@ void TestSpectrum2DFeeds::fvbLine()
     QCOMPARE(payload.record.fill, payload.second.data());
     QVERIFY(payload.lock.tryLock());
     payload.lock.unlock();
+}
+
+/// As many values as the frame is high: 6, of 10 that are there.
+void TestSpectrum2DFeeds::fvbLineAlongTheColumns()
+{
+    PlotPage page;
+    page.services.spectrumUI.directionHorinzontal = false;
+    LinePayload payload(Counting(10, 100));
+    page.page->SlotUpdateFVB(payload.Param());
+    QCOMPARE(page.DrawnValues(), Doubles(Counting(6, 100)));
 }
 
 void TestSpectrum2DFeeds::trackOfTheScrollBar()

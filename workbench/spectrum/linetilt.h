@@ -11,7 +11,7 @@ struct SampleView;
 struct LineFocus
 {
     QRect area;       ///< the line with some room around it, picture pixels
-    double column = 0; ///< at the middle of the rows
+    double column = 0; ///< where the spectrum has it, at the middle of its rows, or columns of a vertical one
     double tiltDegrees = 0; ///< from upright; positive when it leans to the right going down
     double width = 0; ///< full width at half maximum, pixels, the median of the slices
 };

@@ -49,7 +49,7 @@ void AddOrigin(const ExportedSpectrum &spectrum, QStringList *lines)
            << Comment("frame", QString::number(product.frameId))
            << Comment("picture", QString("%1 x %2 pixels").arg(product.frameSize.width()).arg(product.frameSize.height()));
     if (product.band.bottom > product.band.top)
-        *lines << Comment("rows", RowsText(product.band));
+        *lines << Comment(product.raw.place.isHorizontal ? "rows" : "columns", RowsText(product.band));
     for (size_t track = 0; track < product.trackBands.size(); ++track)
         *lines << Comment(QString("rows of track %1").arg(track + 1), RowsText(product.trackBands[track]));
     if (product.HasSpectrum())

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectrumengine.h"
 
+#include "pixelmove.h"
 #include "rowbinning.h"
 
 namespace {
@@ -19,6 +20,30 @@ BinnedLine LineOf(const SampleView &picture, const RowBand &band, bool isHorizon
     else
         BinColumns(picture, band.top, band.bottom, &line);
     return line;
+}
+
+/// Rows become columns; `memory` holds the pixels.
+SampleView Transposed(const SampleView &picture, std::vector<uchar> *memory)
+{
+    const int bytesPerPixel = (picture.isColour ? 3 : 1) * (picture.Has16BitSamples() ? 2 : 1);
+    SampleView turned = picture;
+    turned.width = picture.height;
+    turned.height = picture.width;
+    turned.strideBytes = turned.width * bytesPerPixel;
+    memory->resize(size_t(turned.height) * size_t(turned.strideBytes));
+    MovePixels({picture.samples, QSize(picture.width, picture.height), picture.strideBytes, bytesPerPixel}, Orientation(true, 3),
+               memory->data(), turned.strideBytes);
+    turned.samples = memory->data();
+    return turned;
+}
+
+/// Where the lines lie in the picture: they are level then, 90 degrees from upright.
+void TransposeBack(std::vector<LineFocus> *lines)
+{
+    for (LineFocus &line : *lines) {
+        line.area = QRect(line.area.y(), line.area.x(), line.area.height(), line.area.width());
+        line.tiltDegrees = 90 - line.tiltDegrees;
+    }
 }
 
 } // namespace
@@ -142,12 +167,15 @@ void SpectrumEngine::MeasureFocus(const SampleView &picture, SpectrumProduct *pr
     if (m_untilFocus-- > 0)
         return;
     m_untilFocus = picturesPerFocus - 1;
+    const SampleView alongRows = m_recipe.isHorizontal ? picture : Transposed(picture, &m_transposed);
     RowBand brightest;
-    brightest.bottom = picture.height;
-    for (const RowBand &band : FindBands(CrossProfile(picture, true))) {
+    brightest.bottom = alongRows.height;
+    for (const RowBand &band : FindBands(CrossProfile(alongRows, true))) {
         if (band.light > brightest.light)
             brightest = band;
     }
-    product->lines = MeasureLines(picture, brightest.top, brightest.bottom, mostFocusLines);
+    product->lines = MeasureLines(alongRows, brightest.top, brightest.bottom, mostFocusLines);
+    if (!m_recipe.isHorizontal)
+        TransposeBack(&product->lines);
     product->areLinesNew = true;
 }

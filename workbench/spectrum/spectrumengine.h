@@ -38,6 +38,7 @@ private:
     bool m_isBandNew = false;
     bool m_isBandTold = false; ///< each band is told once, though it is looked for in every picture without light
     int m_untilFocus = 0; ///< pictures
+    std::vector<uchar> m_transposed; ///< the picture with level lines, laid so that they are upright
 };
 
 /// The light of each row, or of each column of a spectrum that runs along the columns.

@@ -232,15 +232,14 @@ void SpectrumPipeline::slotAnnounce()
 /// The plots exchange the buffers in events of their own, which run before slotDelivered().
 void SpectrumPipeline::AnnounceLines()
 {
-    const int width = m_shown.frameSize.width();
     if (!m_shown.corrected.values.empty())
-        emit SignalUpdateFVB(m_line.Fill({&m_shown.corrected}, width, m_shown.corrections.Quantity()));
+        emit SignalUpdateFVB(m_line.Fill({&m_shown.corrected}, m_shown.corrected.Count(), m_shown.corrections.Quantity()));
     if (m_shown.tracks.empty())
         return;
     std::vector<const Spectrum *> tracks;
     for (const Spectrum &track : m_shown.tracks)
         tracks.push_back(&track);
-    emit SignalUpdateMultiTrack(m_tracks.Fill(tracks, width, SpectrumQuantity::Counts));
+    emit SignalUpdateMultiTrack(m_tracks.Fill(tracks, m_shown.frameSize.width(), SpectrumQuantity::Counts));
 }
 
 void SpectrumPipeline::slotDelivered()

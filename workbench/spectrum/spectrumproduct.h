@@ -19,7 +19,7 @@ struct SpectrumProduct
     Spectrum corrected;
     std::vector<Spectrum> tracks; ///< corrected
     std::vector<RowBand> trackBands; ///< their rows
-    RowBand band; ///< the rows that were binned
+    RowBand band; ///< the rows that were binned, or columns
     bool isBandNew = false;
     std::vector<LineFocus> lines;
     bool areLinesNew = false;

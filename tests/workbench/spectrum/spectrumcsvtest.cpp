@@ -13,6 +13,7 @@ class SpectrumCsvTest : public GuardedTest
 private slots:
     void aBinnedSpectrumTellsAll();
     void numbersHaveAPointInEveryLanguage();
+    void aVerticalSpectrumIsOfColumns();
     void tracksStandSideBySide();
     void theAxisOfAFileIsSaid();
     void aNameCannotBreakTheHeader();
@@ -86,6 +87,14 @@ void SpectrumCsvTest::numbersHaveAPointInEveryLanguage()
     QVERIFY(german.contains("1,1,20.5,-2,0"));
     QVERIFY(german.contains("# axis: pixel"));
     QVERIFY(german.contains("# calibration: none"));
+}
+
+void SpectrumCsvTest::aVerticalSpectrumIsOfColumns()
+{
+    ExportedSpectrum spectrum = Binned();
+    spectrum.product.raw.place.isHorizontal = false;
+    QVERIFY(Lines(spectrum).contains("# columns: 5 to 8"));
+    QVERIFY(Lines(spectrum).filter("# rows").isEmpty());
 }
 
 void SpectrumCsvTest::tracksStandSideBySide()

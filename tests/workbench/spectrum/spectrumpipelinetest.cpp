@@ -25,6 +25,7 @@ private slots:
     void tracksLieOneBehindTheOther();
     void whatWasShownIsShownAgain();
     void aTurnedPictureIsBinnedAsItIsSeen();
+    void aVerticalSpectrumIsAsLongAsThePictureIsHigh();
     void darkIsTheSpectrumShown();
     void whatWasAveragedBeforeAChangeDoesNotStay_data();
     void whatWasAveragedBeforeAChangeDoesNotStay();
@@ -38,6 +39,7 @@ private slots:
     void rowsThatAreNotThereMakeNoSpectrum();
     void tracksAreFoundOnRequest();
     void focusTellsOfTheLines();
+    void focusOfAVerticalSpectrum();
     void changingTheRecipeWhileFramesWaitIsSafe();
 };
 
@@ -255,6 +257,22 @@ void SpectrumPipelineTest::aTurnedPictureIsBinnedAsItIsSeen()
     // Clockwise: the top row is the right column.
     QCOMPARE(pipeline.Shown().raw.values[size_t(height - 1)], width * 100.0);
     QVERIFY(pipeline.Shown().raw.values[size_t(height - 1 - 30)] > width * 100.0 + 5000);
+}
+
+void SpectrumPipelineTest::aVerticalSpectrumIsAsLongAsThePictureIsHigh()
+{
+    SpectrumPipeline pipeline;
+    Plot plot(&pipeline, &SpectrumManager::SignalUpdateFVB, height + 1);
+    SpectrumRecipe recipe = Binning();
+    recipe.isHorizontal = false;
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(1));
+    QTRY_COMPARE(plot.times, 1);
+    QCOMPARE(plot.shown[0], unsigned(width * 100));
+    QCOMPARE(plot.shown[height - 1], unsigned(width * 100));
+    QCOMPARE(plot.shown[height], 0U); // beyond it
+    QCOMPARE(plot.least, width * 100);
+    QVERIFY(!pipeline.Shown().raw.place.isHorizontal);
 }
 
 void SpectrumPipelineTest::darkIsTheSpectrumShown()
@@ -506,6 +524,27 @@ void SpectrumPipelineTest::focusTellsOfTheLines()
     QCOMPARE(pipeline.GetLinePointList().size(), 1);
     pipeline.ClearFocusInfo();
     QVERIFY(pipeline.GetAngleList().isEmpty());
+}
+
+/// The picture with the upright line, laid on its side.
+void SpectrumPipelineTest::focusOfAVerticalSpectrum()
+{
+    SpectrumPipeline pipeline([] { return Orientation(false, 1); });
+    QSignalSpy told(&pipeline, &SpectrumManager::SignalSpectralineAutoDetectFinish);
+    SpectrumRecipe recipe;
+    recipe.isFocusing = true;
+    recipe.isHorizontal = false;
+    pipeline.SetRecipe(recipe);
+    pipeline.OnFrame(Frame(1));
+    QVERIFY(told.wait());
+    QCOMPARE(pipeline.GetAngleList().size(), 1);
+    QVERIFY(std::abs(pipeline.GetAngleList().first() - 90) < 0.05F);
+    QVERIFY(std::abs(pipeline.GetDistanceList().first() - 2.3548F * 2.5F) < 0.3F);
+    // Rows 20 to 39, at column 150: turned clockwise, columns 40 to 59 at row 150.
+    const QRect area = pipeline.GetExtendRectList().first();
+    QCOMPARE(area.left(), height - 40);
+    QCOMPARE(area.right(), height - 21);
+    QVERIFY(std::abs(area.center().y() - 150) <= 1);
 }
 
 void SpectrumPipelineTest::changingTheRecipeWhileFramesWaitIsSafe()
