@@ -20,11 +20,7 @@ QVector<BottomPages *> &Living()
 
 bool BottomPage::BelongsTo(int leftPage) const
 {
-    if (leftPage == CameraControlPage)
-        return belongsToCamera;
-    if (leftPage == ImageControlPage)
-        return belongsToImage;
-    return belongsToCamera && belongsToImage;
+    return leftPage == CameraControlPage ? belongsToCamera : belongsToImage;
 }
 
 BottomPages *BottomPages::Of(QTabWidget *tabs)

@@ -17,7 +17,7 @@ struct BottomPage
     bool belongsToCamera = true;
     bool belongsToImage = true;
 
-    /// `leftPage` is a LeftPage; beside the file tree stands only what belongs to both others.
+    /// `leftPage` is a LeftPage; beside the file tree stands what stands beside an image.
     bool BelongsTo(int leftPage) const;
 };
 

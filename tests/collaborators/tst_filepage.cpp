@@ -349,6 +349,7 @@ void TestFilePage::ANameThatIsTakenIsRefused()
     QTRY_VERIFY(QFile::exists(m_folder->filePath("last.tif"))); // one worker, one behind the other
     QVERIFY(QFile::exists(m_folder->filePath("a.tif")));
     QVERIFY(QFile::exists(m_folder->filePath("c.fits")));
+    QVERIFY(!notice->isVisible()); // and nothing to complain of
 }
 
 void TestFilePage::DeleteMovesToTheTrashAndUndoBringsBack()

@@ -135,10 +135,13 @@ void SwitchViewTest::bottomPagesFollow()
     const QStringList camera{ "File Preview", "Histogram(Live)", "Calibration Table", "Class Counting" };
     const QStringList image{ "File Preview", "Calibration Table", "Class Counting",
                              "Automatic Counting Table" };
-    const QStringList file{ "File Preview", "Calibration Table", "Class Counting" };
-    const QStringList expected[] = { camera, image, file, camera, image };
+    const QStringList expected[] = { camera, image, image, camera, image };
     for (int view : { ImageView, CameraView, FileView, ImageCompareView, CameraCompareView, FileView }) {
         host.SwitchTo(view);
+        QCOMPARE(TabTexts(host.ui->GetBottomTabWidget()), expected[view]);
+        // A host asks for an update after it has switched.
+        host.services.global.cameraView = view == CameraView || view == CameraCompareView;
+        host.ui->UpdateUI();
         QCOMPARE(TabTexts(host.ui->GetBottomTabWidget()), expected[view]);
     }
 }

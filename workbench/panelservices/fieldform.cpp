@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QSignalBlocker>
 
 namespace {
@@ -91,10 +92,11 @@ FieldForm::FieldForm(FieldSource *source, const QString &absentText, QWidget *pa
     connect(source, &QObject::destroyed, this, &FieldForm::slotSourceGone);
 }
 
+/// Minimising the window, which the window system tells, is no turning away: a step that is tried goes on.
 void FieldForm::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    if (m_source)
+    if (m_source && !event->spontaneous())
         m_source->SetWatched(true);
     slotUpdate();
 }
@@ -102,7 +104,7 @@ void FieldForm::showEvent(QShowEvent *event)
 void FieldForm::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    if (m_source)
+    if (m_source && !event->spontaneous())
         m_source->SetWatched(false);
 }
 

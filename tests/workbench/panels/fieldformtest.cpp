@@ -10,7 +10,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShowEvent>
 #include <QWheelEvent>
+#include <qtestspontaneevent.h>
 
 #include <memory>
 
@@ -72,6 +74,7 @@ private slots:
     void otherFieldsMakeOtherWidgets();
     void faultIsShownUntilItIsOver();
     void watchedOnlyWhileShown();
+    void minimisingIsNoTurningAway();
     void withoutASourceItSaysSo();
     void sourceMayGoFirst();
 };
@@ -244,6 +247,20 @@ void FieldFormTest::watchedOnlyWhileShown()
     form.show();
     form.hide();
     QCOMPARE(source.watched, QVector<bool>({true, false}));
+}
+
+void FieldFormTest::minimisingIsNoTurningAway()
+{
+    Recorder source("test");
+    FieldForm form(&source, "absent");
+    form.show();
+    QHideEvent minimised;
+    QSpontaneKeyEvent::setSpontaneous(&minimised);
+    qApp->notify(&form, &minimised);
+    QShowEvent restored;
+    QSpontaneKeyEvent::setSpontaneous(&restored);
+    qApp->notify(&form, &restored);
+    QCOMPARE(source.watched, QVector<bool>({true}));
 }
 
 void FieldFormTest::withoutASourceItSaysSo()
