@@ -19,14 +19,25 @@ void ScenarioTest::init()
 {
     StartGuard();
     m_folder = std::make_unique<QTemporaryDir>();
-    m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-    QVERIFY(m_workbench->WaitForPicture());
+    Prepare();
+    Start();
 }
 
 void ScenarioTest::cleanup()
 {
-    m_workbench.reset();
-    QVERIFY(CameraSession::WaitForTeardown(5000));
+    Stop();
     m_folder.reset();
     EndGuard();
+}
+
+void ScenarioTest::Start()
+{
+    m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
+    QVERIFY(m_workbench->WaitForPicture());
+}
+
+void ScenarioTest::Stop()
+{
+    m_workbench.reset();
+    QVERIFY(CameraSession::WaitForTeardown(5000));
 }

@@ -21,6 +21,12 @@ protected slots:
     void cleanup() override;
 
 protected:
+    /// Puts what the program is to find at its start into the folder.
+    virtual void Prepare() {}
+    void Start();
+    /// Waits until the camera's threads are gone.
+    void Stop();
+
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<RunningWorkbench> m_workbench;
 };

@@ -1,33 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Works through the panels beside the live picture by mouse and keyboard, and asks the camera what came of it.
 #include "camerasession.h"
-#include "guardedtest.h"
 #include "livepreview.h"
+#include "panelscenario.h"
 #include "recordingdesk.h"
-#include "runningworkbench.h"
 #include "savesettings.h"
 #include "specimenscene.h"
 #include "stylesheet.h"
 #include "workspaceconfig.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QDoubleSpinBox>
-#include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
-#include <QScrollBar>
 #include <QSignalSpy>
-#include <QTabBar>
 #include <QTabWidget>
-#include <QTemporaryDir>
 #include <QTreeView>
-
-#include <memory>
 
 namespace {
 
@@ -47,33 +38,14 @@ double Mean(const QImage &image)
 
 } // namespace
 
-class CameraSide : public GuardedTest
+class CameraSide : public PanelScenario
 {
     Q_OBJECT
 
 private slots:
-    void init() override
-    {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
-    }
-
-    void cleanup() override
-    {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        m_folder.reset();
-        EndGuard();
-    }
-
     void panelsStandInTheirOrder()
     {
-        QStringList texts;
-        for (int i = 0; i < Tabs()->count(); ++i)
-            texts << Tabs()->tabText(i);
-        QCOMPARE(texts, QStringList({"Camera", "Adjustment", "Hardware", "Acquisition"}));
+        QCOMPARE(Texts(CameraTabs()), QStringList({"Camera", "Adjustment", "Hardware", "Acquisition"}));
         QVERIFY(Panel("CameraPanel"));
         QVERIFY(Panel("AcquisitionPanel"));
     }
@@ -91,26 +63,14 @@ private slots:
     {
         QFETCH(QString, tab);
         QFETCH(QString, panel);
-        ClickTab(tab);
-        QWidget *widget = Panel(panel);
-        QTRY_VERIFY(widget->isVisible());
-        auto *area = Tabs()->currentWidget()->findChild<QWidget *>("qt_scrollarea_viewport");
-        QVERIFY2(widget->width() <= area->width(), qPrintable(QString::number(widget->width())));
-        for (QWidget *child : widget->findChildren<QWidget *>()) {
-            if (!child->isVisible() || !(qobject_cast<QLabel *>(child) || qobject_cast<QAbstractButton *>(child)))
-                continue;
-            auto *label = qobject_cast<QLabel *>(child);
-            if (label && label->wordWrap())
-                continue;
-            QVERIFY2(child->width() >= child->minimumSizeHint().width(), qPrintable(child->objectName()));
-        }
+        GoTo(CameraTabs(), tab, qPrintable(panel));
+        QCOMPARE(CutOff(), QStringList());
     }
 
     void tabKeyGoesDownThePanel()
     {
-        ClickTab("Camera");
-        auto *device = Panel("CameraPanel")->findChild<QWidget *>("choiceDevice");
-        device->setFocus();
+        GoTo(CameraTabs(), "Camera", "CameraPanel");
+        Widget("choiceDevice")->setFocus();
         QStringList visited;
         for (int i = 0; i < 8; ++i) {
             visited << QApplication::focusWidget()->objectName();
@@ -122,18 +82,15 @@ private slots:
 
     void formatAndRegionGoToTheCamera()
     {
-        ClickTab("Camera");
-        QWidget *panel = Panel("CameraPanel");
+        GoTo(CameraTabs(), "Camera", "CameraPanel");
         Type("numberWidth", "1024");
         QCOMPARE(Session()->Format().Region().size(), QSize(1024, 2048));
         Type("numberHeight", "99999");
         QCOMPARE(Session()->Format().Region().height(), 2048);
-        QCOMPARE(panel->findChild<QDoubleSpinBox *>("numberHeight")->value(), 2048.0);
-        auto *binning = panel->findChild<QComboBox *>("choiceBinning");
-        binning->setFocus();
-        QTest::keyClick(binning, Qt::Key_Down);
+        QCOMPARE(Current()->findChild<QDoubleSpinBox *>("numberHeight")->value(), 2048.0);
+        Choose("choiceBinning", 1);
         QCOMPARE(Session()->Format().Binning(), Session()->Format().Binnings().at(1));
-        QTest::keyClick(binning, Qt::Key_Up);
+        Choose("choiceBinning", 0);
         QCOMPARE(Session()->Format().Binning(), 1);
         Click("actionFullSensor");
         QCOMPARE(Session()->Format().Region(), QRect(0, 0, 2048, 2048));
@@ -142,7 +99,7 @@ private slots:
 
     void exposureIsSeenInTheNextPictureButTwo()
     {
-        ClickTab("Camera");
+        GoTo(CameraTabs(), "Camera", "CameraPanel");
         m_workbench->link.SetScene(SpecimenScene::SceneName());
         Type("numberExposure", "20");
         for (int i = 0; i < 4; ++i)
@@ -163,10 +120,10 @@ private slots:
 
     void featureIsFoundAndChanged()
     {
-        ClickTab("Hardware");
-        auto *view = Panel("HardwarePanel")->findChild<QTreeView *>("treeFeatures");
+        GoTo(CameraTabs(), "Hardware", "HardwarePanel");
+        auto *view = Current()->findChild<QTreeView *>("treeFeatures");
         QTRY_VERIFY(view->model()->rowCount() > 1);
-        QTest::keyClicks(Panel("HardwarePanel")->findChild<QLineEdit *>("lineEditSearch"), "trigger SOURCE");
+        QTest::keyClicks(Current()->findChild<QLineEdit *>("lineEditSearch"), "trigger SOURCE");
         QTRY_COMPARE(view->model()->rowCount(), 1);
         const QModelIndex category = view->model()->index(0, 0);
         QTRY_COMPARE(view->model()->rowCount(category), 2); // the software trigger's text names the source
@@ -192,21 +149,21 @@ private slots:
     {
         m_workbench->Action("Settings")->trigger();
         QTRY_VERIFY(Panel("AcquisitionPanel")->isVisible());
-        auto *mode = Panel("AcquisitionPanel")->findChild<QComboBox *>("choiceMode");
-        mode->setFocus();
-        QTest::keyClick(mode, Qt::Key_Home);
-        QTest::keyClick(mode, Qt::Key_Down);
-        Type("numberFrames", "4", "AcquisitionPanel");
-        Type("textFolder", m_folder->path(), "AcquisitionPanel");
-        Type("textPattern", "panel-{number}", "AcquisitionPanel");
-        QCOMPARE(Panel("AcquisitionPanel")->findChild<QLabel *>("noteName")->text(), QString("panel-1.tif"));
+        GoTo(CameraTabs(), "Acquisition", "AcquisitionPanel");
+        Choose("choiceMode", 1);
+        const QWidget *mode = Widget("choiceMode");
+        Type("numberFrames", "4");
+        QVERIFY(QDir(m_folder->path()).mkdir("run 1"));
+        Type("textFolder", m_folder->filePath("run 1"));
+        Type("textPattern", "panel-{number}");
+        QCOMPARE(Note("noteName"), QString("panel-1.tif"));
         RecordingDesk *desk = m_workbench->services.Recording();
         QSignalSpy ended(desk, &RecordingDesk::signalRunEnded);
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);
         QTRY_VERIFY(!mode->isEnabled());
         QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, WaitMs);
         QVERIFY(mode->isEnabled());
-        QCOMPARE(desk->LastReceipt().files.first(), m_folder->filePath("panel-1.tif"));
+        QCOMPARE(desk->LastReceipt().files.first(), m_folder->filePath("run 1/panel-1.tif"));
         QCOMPARE(int(desk->LastReceipt().outcome.counts.saved), 4);
     }
 
@@ -229,41 +186,8 @@ private slots:
     }
 
 private:
-    QTabWidget *Tabs() const { return m_workbench->window.findChild<QTabWidget *>("CameraTabWidget"); }
-    QWidget *Panel(const char *name) const { return m_workbench->window.findChild<QWidget *>(name); }
-    QWidget *Panel(const QString &name) const { return m_workbench->window.findChild<QWidget *>(name); }
+    QTabWidget *CameraTabs() const { return Tabs("CameraTabWidget"); }
     CameraSession *Session() const { return m_workbench->link.Session(); }
-
-    void ClickTab(const QString &text)
-    {
-        for (int i = 0; i < Tabs()->count(); ++i) {
-            if (Tabs()->tabText(i) == text)
-                QTest::mouseClick(Tabs()->tabBar(), Qt::LeftButton, Qt::NoModifier,
-                                  Tabs()->tabBar()->tabRect(i).center());
-        }
-    }
-
-    void Type(const char *name, const QString &text, const char *panel = "CameraPanel")
-    {
-        auto *field = Panel(panel)->findChild<QWidget *>(name);
-        QVERIFY2(field, name);
-        auto *edit = qobject_cast<QLineEdit *>(field) ? static_cast<QLineEdit *>(field)
-                                                      : field->findChild<QLineEdit *>();
-        field->setFocus();
-        edit->selectAll();
-        QTest::keyClicks(field, text);
-        QTest::keyClick(field, Qt::Key_Return);
-    }
-
-    void Click(const char *name)
-    {
-        auto *button = Panel("CameraPanel")->findChild<QWidget *>(name);
-        QVERIFY2(button, name);
-        QTest::mouseClick(button, Qt::LeftButton);
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
 };
 
 int main(int argc, char **argv)

@@ -1,29 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The program in a language that makes every text longer: nothing is cut off.
-#include "camerasession.h"
-#include "guardedtest.h"
-#include "runningworkbench.h"
+#include "cutofftexts.h"
+#include "scenariotest.h"
 #include "stylesheet.h"
 #include "uimanagerbase.h"
 #include "workspaceconfig.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
-#include <QGroupBox>
-#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTextDocument>
 #include <QTimer>
 #include <QTranslator>
-
-#include <memory>
 
 namespace {
 
@@ -41,77 +33,17 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-/// What the text of a widget needs and has, in pixels.
-struct Room
-{
-    int needed = 0;
-    int there = 0;
-};
-
-int TextWidth(const QWidget *widget, const QString &text)
-{
-    int width = 0;
-    for (const QString &line : QString(text).remove('&').split('\n'))
-        width = qMax(width, widget->fontMetrics().horizontalAdvance(line));
-    return width;
-}
-
-Room RoomOf(const QWidget *widget)
-{
-    if (auto *label = qobject_cast<const QLabel *>(widget)) {
-        if (label->wordWrap() || Qt::mightBeRichText(label->text()))
-            return {};
-        return {TextWidth(label, label->text()), label->contentsRect().width()};
-    }
-    if (auto *button = qobject_cast<const QAbstractButton *>(widget)) {
-        if (button->text().isEmpty())
-            return {};
-        return {TextWidth(button, button->text()), button->contentsRect().width()};
-    }
-    if (auto *box = qobject_cast<const QGroupBox *>(widget))
-        return {TextWidth(box, box->title()), box->width()};
-    return {};
-}
-
-/// Names of the widgets in `window` whose text does not fit.
-QStringList CutOff(const QWidget *window)
-{
-    QStringList names;
-    for (const QWidget *widget : window->findChildren<QWidget *>()) {
-        const Room room = RoomOf(widget);
-        if (widget->isVisible() && room.needed > room.there)
-            names << QString("%1 of %2: needs %3, has %4")
-                         .arg(widget->objectName(), widget->parentWidget()->metaObject()->className())
-                         .arg(room.needed)
-                         .arg(room.there);
-    }
-    return names;
-}
-
 } // namespace
 
-class LongTexts : public GuardedTest
+class LongTexts : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() override
-    {
-        StartGuard();
-        m_language = std::make_unique<PseudoLanguage>();
-        QCoreApplication::installTranslator(m_language.get());
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
-    }
-
     void cleanup() override
     {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        m_folder.reset();
+        ScenarioTest::cleanup();
         QCoreApplication::removeTranslator(m_language.get());
-        EndGuard();
     }
 
     void panelsFitTheirColumn()
@@ -125,13 +57,13 @@ private slots:
             auto *page = qobject_cast<QScrollArea *>(tabs->currentWidget());
             QVERIFY(page);
             QTRY_COMPARE(page->widget()->width(), page->viewport()->width());
-            QCOMPARE(CutOff(tabs), QStringList());
+            QCOMPARE(CutOffTexts(tabs), QStringList());
         }
     }
 
     void windowAndMenusHaveRoom()
     {
-        QCOMPARE(CutOff(m_workbench->window.statusBar()), QStringList());
+        QCOMPARE(CutOffTexts(m_workbench->window.statusBar()), QStringList());
         int width = 0;
         for (QAction *action : m_workbench->window.menuBar()->actions()) {
             QVERIFY2(action->text().contains('['), qPrintable(action->text()));
@@ -186,7 +118,7 @@ private slots:
                 if (!dialog || !dialog->isVisible())
                     continue;
                 isSeen = true;
-                cutOff = CutOff(dialog);
+                cutOff = CutOffTexts(dialog);
                 dialog->close();
             }
         };
@@ -196,10 +128,15 @@ private slots:
         QCOMPARE(cutOff, QStringList());
     }
 
+protected:
+    void Prepare() override
+    {
+        m_language = std::make_unique<PseudoLanguage>();
+        QCoreApplication::installTranslator(m_language.get());
+    }
+
 private:
     std::unique_ptr<PseudoLanguage> m_language;
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
 };
 
 int main(int argc, char **argv)

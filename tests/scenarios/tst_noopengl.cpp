@@ -1,38 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "camerasession.h"
-#include "guardedtest.h"
-#include "runningworkbench.h"
+#include "scenariotest.h"
 #include "workspaceconfig.h"
 
 #include <QAction>
 #include <QOpenGLWidget>
 #include <QGraphicsView>
-#include <QTemporaryDir>
-
-#include <memory>
 
 /// The workbench on a display that offers no OpenGL at all.
-class NoOpenGL : public GuardedTest
+class NoOpenGL : public ScenarioTest
 {
     Q_OBJECT
 
 private slots:
-    void init() override
-    {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-    }
-
-    void cleanup() override
-    {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        EndGuard();
-    }
+    void initTestCase() {} // there is no OpenGL whose threads could be started
 
     void choiceOfTheGpuIsTakenBackWithAWord()
     {
-        Start();
         ExpectOpenGLWarning();
         m_workbench->Action("GPU (OpenGL)")->trigger();
         QTRY_COMPARE(m_workbench->StatusText(), Sentence());
@@ -41,6 +24,7 @@ private slots:
 
     void startWithTheGpuStoredGoesOnWithTheCpuForGood()
     {
+        Stop();
         {
             SettingsFile settings(m_folder->filePath("workbench.ini"));
             WorkspaceConfig(settings.Settings()).SetCPUDraw(false, false);
@@ -51,8 +35,7 @@ private slots:
         CheckThatTheCpuDraws();
 
         // Not a word at the next start.
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
+        Stop();
         Start();
         QCOMPARE(m_workbench->StatusText(), QString());
         CheckThatTheCpuDraws();
@@ -67,12 +50,6 @@ private:
     /// The platform says it too.
     void ExpectOpenGLWarning() { ExpectWarning(QRegularExpression("Cannot create platform OpenGL context")); }
 
-    void Start()
-    {
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
-    }
-
     void CheckThatTheCpuDraws()
     {
         QVERIFY(m_workbench->services.Config()->IsCPUDraw());
@@ -81,9 +58,6 @@ private:
         QVERIFY(!qobject_cast<QOpenGLWidget *>(m_workbench->View()->viewport()));
         QVERIFY(m_workbench->WaitForNextPicture());
     }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
 };
 
 int main(int argc, char **argv)

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every panel that is loaded, whichever it is: what can be used in it has a name for those who do not see it, the Tab key
 // goes down it, and the window comes back with the tabs and panels that it had.
-#include "camerasession.h"
-#include "guardedtest.h"
 #include "openedpicture.h"
+#include "panelscenario.h"
 #include "picturedesk.h"
-#include "runningworkbench.h"
 #include "stylesheet.h"
 #include "uimanagerbase.h"
 #include "workspaceconfig.h"
@@ -23,11 +21,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QSettings>
 #include <QTabWidget>
-#include <QTemporaryDir>
-
-#include <memory>
 
 namespace {
 
@@ -91,40 +85,19 @@ bool IsAfter(const QRect &next, const QRect &before)
 
 } // namespace
 
-class PanelAccess : public GuardedTest
+class PanelAccess : public PanelScenario
 {
     Q_OBJECT
 
 private slots:
-    void init() override
-    {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        QSettings settings(m_folder->filePath("workbench.ini"), QSettings::IniFormat);
-        settings.setValue("settings/version", 1);
-        settings.setValue("panels/left", true);
-        settings.setValue("panels/right", true);
-        settings.setValue("panels/bottom", true);
-        settings.setValue("useArea/type", 1);
-        settings.sync();
-        Start();
-    }
-
-    void cleanup() override
-    {
-        Stop();
-        m_folder.reset();
-        EndGuard();
-    }
-
     void everyPanelHasNamesAndGoesDownwards()
     {
         QStringList visited;
-        VisitTabs(LeftTabs("CameraTabWidget"), &visited);
+        VisitTabs(Tabs("CameraTabWidget"), &visited);
         VisitTabs(RightTabs(), &visited);
         VisitTabs(BottomTabs(), &visited);
         OpenPicture();
-        VisitTabs(LeftTabs("ImageTabWidget"), &visited);
+        VisitTabs(Tabs("ImageTabWidget"), &visited);
         VisitTabs(BottomTabs(), &visited);
         int loaded = 0;
         for (const UIPluginReport &report : UIManagerBase::PluginReports())
@@ -134,19 +107,19 @@ private slots:
 
     void tabsAndPanelsComeBack()
     {
-        LeftTabs("CameraTabWidget")->setCurrentIndex(3);
+        Tabs("CameraTabWidget")->setCurrentIndex(3);
         RightTabs()->setCurrentIndex(1);
         BottomTabs()->setCurrentIndex(2);
         Config()->SetLeftUIChecked(true);
         Config()->SetBottomUIChecked(false);
         Config()->UpdateCameraControlUI();
         OpenPicture();
-        LeftTabs("ImageTabWidget")->setCurrentIndex(2);
+        Tabs("ImageTabWidget")->setCurrentIndex(2);
         Config()->SetCameraView();
         Stop();
         Start();
-        QCOMPARE(LeftTabs("CameraTabWidget")->currentIndex(), 3);
-        QCOMPARE(LeftTabs("ImageTabWidget")->currentIndex(), 2);
+        QCOMPARE(Tabs("CameraTabWidget")->currentIndex(), 3);
+        QCOMPARE(Tabs("ImageTabWidget")->currentIndex(), 2);
         QCOMPARE(RightTabs()->tabText(RightTabs()->currentIndex()), QString("Analysis"));
         QCOMPARE(BottomTabs()->tabText(BottomTabs()->currentIndex()), QString("Class Counting"));
         QVERIFY(Dock("DockLeft")->isVisible());
@@ -154,19 +127,10 @@ private slots:
         QVERIFY(!Dock("DockBottom")->isVisible());
     }
 
+protected:
+    void Prepare() override { OpenAllPanels(Spectrometer); }
+
 private:
-    void Start()
-    {
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
-    }
-
-    void Stop()
-    {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-    }
-
     void VisitTabs(QTabWidget *tabs, QStringList *visited)
     {
         for (int i = 0; i < tabs->count(); ++i) {
@@ -215,17 +179,10 @@ private:
         OpenedPicture *opened = m_workbench->services.Desk()->MainPicture();
         m_workbench->services.Desk()->Open({path}, opened);
         QTRY_VERIFY_WITH_TIMEOUT(!opened->IsNonImage(), WaitMs);
-        QTRY_VERIFY(LeftTabs("ImageTabWidget")->isVisible());
+        QTRY_VERIFY(Tabs("ImageTabWidget")->isVisible());
     }
 
     WorkspaceConfig *Config() const { return m_workbench->services.Config(); }
-    QTabWidget *LeftTabs(const char *name) const { return m_workbench->window.findChild<QTabWidget *>(name); }
-    QTabWidget *BottomTabs() const { return m_workbench->window.findChild<QTabWidget *>("BottomTabWidget"); }
-    QTabWidget *RightTabs() const { return qobject_cast<QTabWidget *>(Dock("DockRight")->widget()); }
-    QDockWidget *Dock(const char *name) const { return m_workbench->window.findChild<QDockWidget *>(name); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
 };
 
 int main(int argc, char **argv)

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The panels beside and below the picture: where they stand, when they can be used, and that they tell the truth.
-#include "camerasession.h"
 #include "globalnotify.h"
-#include "guardedtest.h"
 #include "histogramview.h"
 #include "livepreview.h"
-#include "runningworkbench.h"
+#include "panelscenario.h"
 #include "stylesheet.h"
 #include "uimanagerbase.h"
 #include "workspaceconfig.h"
@@ -14,53 +12,27 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLocale>
-#include <QSettings>
-#include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
-#include <QTemporaryDir>
 #include <QTreeWidget>
 
 #include <algorithm>
 #include <ctime>
-#include <memory>
 
 namespace {
 constexpr int WaitMs = 10000;
 const QString Dash = QChar(0x2013);
 } // namespace
 
-class PanelsScenario : public GuardedTest
+class PanelsTest : public PanelScenario
 {
     Q_OBJECT
 
 private slots:
-    void init() override
-    {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        QSettings settings(m_folder->filePath("workbench.ini"), QSettings::IniFormat);
-        settings.setValue("settings/version", 1);
-        settings.setValue("panels/right", true);
-        settings.setValue("panels/bottom", true);
-        settings.setValue("useArea/type", 1);
-        settings.sync();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
-    }
-
-    void cleanup() override
-    {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        m_folder.reset();
-        EndGuard();
-    }
-
     void panelsStandInTheirOrder()
     {
-        QCOMPARE(Texts(Right()), QStringList({ "Spectrum", "Analysis", "Tool Properties", "Report" }));
-        QCOMPARE(Texts(Bottom()),
+        QCOMPARE(Texts(RightTabs()), QStringList({ "Spectrum", "Analysis", "Tool Properties", "Report" }));
+        QCOMPARE(Texts(BottomTabs()),
                  QStringList({ "File Preview", "Histogram(Live)", "Class Counting", "Calibration Table" }));
         for (const char *name : { "SpectrumPanel", "AnalysisPanel", "ToolPanel", "ReportPanel",
                                   "HistogramPanel", "ClassCountPanel", "CalibrationPanel", "AutoCountPanel" })
@@ -72,7 +44,7 @@ private slots:
     void histogramTellsOfTheLiveSamples()
     {
         QCOMPARE(NumberText("noteMean"), Dash); // nobody looked yet
-        Click(Bottom(), "Histogram(Live)");
+        ClickTab(BottomTabs(), "Histogram(Live)");
         QTRY_VERIFY_WITH_TIMEOUT(NumberText("noteMean") != Dash, WaitMs);
         QCOMPARE(NumberText("noteDepth"), QString("8 bit, 0 to 255"));
         // The chart stands still, so any frame has what the page says.
@@ -102,21 +74,19 @@ private slots:
     void histogramOfTheLastStartRunsAtOnce()
     {
         m_workbench->services.Config()->SetBottomUIIndex(1);
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
-        QCOMPARE(Bottom()->tabText(Bottom()->currentIndex()), QString("Histogram(Live)"));
+        Stop();
+        Start();
+        QCOMPARE(BottomTabs()->tabText(BottomTabs()->currentIndex()), QString("Histogram(Live)"));
         QTRY_VERIFY_WITH_TIMEOUT(NumberText("noteMean") != Dash, WaitMs);
     }
 
     void analysisAndReportTellOfThePicture()
     {
-        Click(Right(), "Analysis");
+        ClickTab(RightTabs(), "Analysis");
         QTRY_COMPARE(Note("AnalysisPanel", "notePicture"), QString("Live picture"));
         QTRY_COMPARE(Note("AnalysisPanel", "noteSize"), QString("2048 x 2048 pixels"));
         QTRY_VERIFY_WITH_TIMEOUT(Note("AnalysisPanel", "noteMean") != Dash, WaitMs);
-        Click(Right(), "Report");
+        ClickTab(RightTabs(), "Report");
         QVERIFY(Panel("ReportPanel")->isVisible());
         m_workbench->link.SetRegion(QRect(0, 0, 512, 256));
         QTRY_COMPARE(Note("ReportPanel", "noteSize"), QString("512 x 256 pixels"));
@@ -125,7 +95,7 @@ private slots:
 
     void panelsFollowWhatCanBeMeasured()
     {
-        Click(Right(), "Analysis");
+        ClickTab(RightTabs(), "Analysis");
         for (const char *name : { "AnalysisPanel", "ToolPanel", "ReportPanel", "SpectrumPanel",
                                   "ClassCountPanel", "CalibrationPanel", "HistogramPanel" })
             QTRY_VERIFY2(Panel(name)->isEnabled(), name);
@@ -167,48 +137,21 @@ private slots:
 
     void loadingAllOfThemIsQuick()
     {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
+        Stop();
         QVector<qint64> times;
         for (int i = 0; i < 3; ++i) {
             times << StartMs(PANEL_ROOT) - StartMs("/no/such/folder");
         }
         std::sort(times.begin(), times.end());
         QVERIFY2(times.at(1) < 150, qPrintable(QString::number(times.at(1))));
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
+        Start();
     }
+
+protected:
+    void Prepare() override { OpenAllPanels(Spectrometer); }
 
 private:
-    QTabWidget *Right() const
-    {
-        return qobject_cast<QTabWidget *>(Panel("DockRight")->findChild<QTabWidget *>());
-    }
-    QTabWidget *Bottom() const { return m_workbench->window.findChild<QTabWidget *>("BottomTabWidget"); }
-    QWidget *Panel(const char *name) const { return m_workbench->window.findChild<QWidget *>(name); }
     QString NumberText(const char *name) const { return Note("HistogramPanel", name); }
-
-    QString Note(const char *panel, const char *name) const
-    {
-        auto *label = Panel(panel)->findChild<QLabel *>(name);
-        return label ? label->text() : QString("no such line");
-    }
-
-    static QStringList Texts(const QTabWidget *tabs)
-    {
-        QStringList texts;
-        for (int i = 0; i < tabs->count(); ++i)
-            texts << tabs->tabText(i);
-        return texts;
-    }
-
-    static void Click(QTabWidget *tabs, const QString &text)
-    {
-        for (int i = 0; i < tabs->count(); ++i) {
-            if (tabs->tabText(i) == text)
-                QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, Qt::NoModifier,
-                                  tabs->tabBar()->tabRect(i).center());
-        }
-    }
 
     /// Time of this thread alone: what else the machine does is not counted.
     static qint64 ThreadMs()
@@ -230,15 +173,13 @@ private:
         return ThreadMs() - before;
     }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
 };
 
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     StyleSheet::Named("dark").Apply(application);
-    PanelsScenario test;
+    PanelsTest test;
     return GuardedTest::Run(&test, argc, argv);
 }
 

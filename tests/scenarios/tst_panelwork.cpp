@@ -2,37 +2,24 @@
 // The panels that adjust pictures and make spectra, by mouse and keyboard: what is set there is what the picture, the
 // services and the files have afterwards.
 #include "calibrationmodel.h"
-#include "camerasession.h"
-#include "guardedtest.h"
 #include "levelsmodel.h"
 #include "livelevels.h"
 #include "liveorientation.h"
 #include "openedpicture.h"
+#include "panelscenario.h"
 #include "picturedesk.h"
-#include "runningworkbench.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
 #include "stylesheet.h"
 #include "viewcodes.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
-#include <QComboBox>
-#include <QDockWidget>
 #include <QDoubleSpinBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QScrollArea>
-#include <QSettings>
-#include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
-#include <QTemporaryDir>
-
-#include <memory>
 
 namespace {
 
@@ -42,37 +29,14 @@ bool IsGrey(const QColor &colour) { return colour.red() == colour.green() && col
 
 } // namespace
 
-class PanelWork : public GuardedTest
+class PanelWork : public PanelScenario
 {
     Q_OBJECT
 
 private slots:
-    void init() override
-    {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        QSettings settings(m_folder->filePath("workbench.ini"), QSettings::IniFormat);
-        settings.setValue("settings/version", 1);
-        settings.setValue("panels/left", true);
-        settings.setValue("panels/right", true);
-        settings.setValue("panels/bottom", true);
-        settings.sync();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
-    }
-
-    void cleanup() override
-    {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        m_folder.reset();
-        EndGuard();
-    }
-
     void livePictureIsAdjusted()
     {
-        ClickTab(Tabs("CameraTabWidget"), "Adjustment");
-        m_panel = Panel("CameraAdjustmentPanel");
+        GoTo(Tabs("CameraTabWidget"), "Adjustment", "CameraAdjustmentPanel");
         QTRY_COMPARE(Note("noteKind"), QString("8 bit samples, 0 to 255"));
         QVERIFY(!Box("numberBlack")->isEnabled());
         Choose("choiceMode", "Manual");
@@ -94,9 +58,7 @@ private slots:
 
     void coloursAndPositionAreSeen()
     {
-        ClickTab(Tabs("CameraTabWidget"), "Adjustment");
-        m_panel = Panel("CameraAdjustmentPanel");
-        QTRY_VERIFY(m_panel->isVisible());
+        GoTo(Tabs("CameraTabWidget"), "Adjustment", "CameraAdjustmentPanel");
         QTRY_VERIFY(Widget("actionFlipHorizontal") && Widget("actionFlipHorizontal")->isEnabled());
         const QPointF middle(1024, 1024);
         QTRY_VERIFY(IsGrey(m_workbench->OnScreen(middle)));
@@ -118,8 +80,7 @@ private slots:
     {
         OpenPicture();
         OpenedPicture *picture = m_workbench->services.Desk()->MainPicture();
-        m_panel = Panel("ImageAdjustmentPanel");
-        QTRY_VERIFY(m_panel->isVisible());
+        GoTo(Tabs("ImageTabWidget"), "Adjustment", "ImageAdjustmentPanel");
         QTRY_COMPARE(Note("noteKind"), QString("8 bit samples, 0 to 255"));
         Choose("choiceMode", "Minimum and maximum");
         QTRY_COMPARE(Box("numberBlack")->value(), 20.0);
@@ -134,11 +95,9 @@ private slots:
 
     void panelOfTheLivePictureSaysWhenThereIsNone()
     {
-        ClickTab(Tabs("CameraTabWidget"), "Adjustment");
-        m_panel = Panel("CameraAdjustmentPanel");
-        QTRY_VERIFY(m_panel->isVisible());
+        GoTo(Tabs("CameraTabWidget"), "Adjustment", "CameraAdjustmentPanel");
         m_workbench->link.Close();
-        QTRY_VERIFY(!m_panel->isEnabled());
+        QTRY_VERIFY(!Current()->isEnabled());
     }
 
     void spectraAreMadeAndCorrected()
@@ -188,7 +147,7 @@ private slots:
         Type("numberPeakNumber", "0");
         QCOMPARE(settings->GetPeakNumber(), 0);
         Click("colourLineColour");
-        auto *dialog = m_panel->findChild<QColorDialog *>();
+        auto *dialog = Current()->findChild<QColorDialog *>();
         QVERIFY(dialog && QTest::qWaitForWindowActive(dialog));
         dialog->setCurrentColor(QColor(10, 200, 30));
         QTest::keyClick(dialog, Qt::Key_Return);
@@ -205,10 +164,8 @@ private slots:
         calibration->AddPoint(1100, 600);
         calibration->AddPoint(2000, 690);
         QVERIFY(calibration->Apply());
-        ClickTab(Tabs("BottomTabWidget"), "Calibration Table");
-        m_panel = Panel("CalibrationPanel");
-        QTRY_VERIFY(m_panel->isVisible());
-        QCOMPARE(m_panel->findChild<QTableView *>("tableRows")->model()->rowCount(), 3);
+        GoTo(BottomTabs(), "Calibration Table", "CalibrationPanel");
+        QCOMPARE(Current()->findChild<QTableView *>("tableRows")->model()->rowCount(), 3);
         Click("pushButtonTableCopy");
         const QStringList lines = QApplication::clipboard()->text().trimmed().split('\n');
         QCOMPARE(lines.size(), 4);
@@ -216,14 +173,14 @@ private slots:
         QCOMPARE(QLocale().toDouble(lines.at(2).split('\t').at(1)), 600.0);
     }
 
+protected:
+    void Prepare() override { OpenAllPanels(Microscope); }
+
 private:
     void ShowSpectrumPanel()
     {
         m_workbench->Action("Spectrum Page")->trigger();
-        auto *right = qobject_cast<QTabWidget *>(m_workbench->window.findChild<QDockWidget *>("DockRight")->widget());
-        ClickTab(right, "Spectrum");
-        m_panel = Panel("SpectrumPanel");
-        QTRY_VERIFY(m_panel->isVisible());
+        GoTo(RightTabs(), "Spectrum", "SpectrumPanel");
     }
 
     /// 64 x 48, from 20 to 83.
@@ -242,70 +199,7 @@ private:
     }
 
     LevelsModel *Levels() const { return m_workbench->services.Levels()->Model(); }
-    QTabWidget *Tabs(const char *name) const { return m_workbench->window.findChild<QTabWidget *>(name); }
-    QWidget *Panel(const char *name) const { return m_workbench->window.findChild<QWidget *>(name); }
-    QWidget *Widget(const char *name) const { return m_panel->findChild<QWidget *>(name); }
-    QDoubleSpinBox *Box(const char *name) const { return m_panel->findChild<QDoubleSpinBox *>(name); }
-
-    QString Note(const char *name) const
-    {
-        auto *label = m_panel->findChild<QLabel *>(name);
-        return label ? label->text() : QString("no such line");
-    }
-
-    /// In sight, as the user brings it there.
-    void Reveal(QWidget *widget) const
-    {
-        for (QWidget *parent = m_panel; parent; parent = parent->parentWidget()) {
-            if (auto *area = qobject_cast<QScrollArea *>(parent))
-                area->ensureWidgetVisible(widget);
-        }
-    }
-
-    void Click(const char *name)
-    {
-        QWidget *button = Widget(name);
-        QVERIFY2(button && button->isEnabled(), name);
-        Reveal(button);
-        QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(10, button->height() / 2));
-    }
-
-    /// With the keyboard, as far up or down as the choice is.
-    void Choose(const char *name, const QString &text)
-    {
-        auto *box = m_panel->findChild<QComboBox *>(name);
-        QVERIFY2(box && box->isEnabled() && box->findText(text) >= 0, name);
-        Reveal(box);
-        box->setFocus();
-        const int wanted = box->findText(text);
-        for (int i = 0; i < box->count() && box->currentIndex() != wanted; ++i)
-            QTest::keyClick(box, box->currentIndex() < wanted ? Qt::Key_Down : Qt::Key_Up);
-        QCOMPARE(box->currentText(), text);
-    }
-
-    void Type(const char *name, const QString &text)
-    {
-        QDoubleSpinBox *box = Box(name);
-        QVERIFY2(box && box->isEnabled(), name);
-        Reveal(box);
-        box->setFocus();
-        box->findChild<QLineEdit *>()->selectAll();
-        QTest::keyClicks(box, text);
-        QTest::keyClick(box, Qt::Key_Return);
-    }
-
-    static void ClickTab(QTabWidget *tabs, const QString &text)
-    {
-        for (int i = 0; i < tabs->count(); ++i) {
-            if (tabs->tabText(i) == text)
-                QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, Qt::NoModifier,
-                                  tabs->tabBar()->tabRect(i).center());
-        }
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
-    QWidget *m_panel = nullptr; ///< that is worked with
+    QDoubleSpinBox *Box(const char *name) const { return Current()->findChild<QDoubleSpinBox *>(name); }
 };
 
 int main(int argc, char **argv)

@@ -2,35 +2,26 @@
 // Works through the panels beside an opened picture by mouse and keyboard, and looks at what came of it.
 #include "advancedprocessmanager.h"
 #include "autocounting.h"
-#include "camerasession.h"
 #include "createpicture.h"
-#include "guardedtest.h"
 #include "openedpicture.h"
 #include "openpicture.h"
+#include "panelscenario.h"
 #include "picturedesk.h"
 #include "picturedocument.h"
 #include "pictureloader.h"
 #include "pictureshelf.h"
-#include "runningworkbench.h"
 #include "stylesheet.h"
 #include "workspaceconfig.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSignalSpy>
-#include <QTabBar>
 #include <QTabWidget>
-#include <QTemporaryDir>
 #include <QUndoStack>
 
 #include <cmath>
-#include <memory>
 
 namespace {
 
@@ -78,35 +69,21 @@ void WriteDiscs(const QString &path, const QSize &size, int frames)
 
 } // namespace
 
-class Processing : public GuardedTest
+class Processing : public PanelScenario
 {
     Q_OBJECT
 
 private slots:
     void init() override
     {
-        StartGuard();
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_workbench = std::make_unique<RunningWorkbench>(m_folder->path());
-        QVERIFY(m_workbench->WaitForPicture());
+        ScenarioTest::init();
         WriteDiscs(Path("discs.tif"), Size, 3);
         QVERIFY(Open("discs.tif"));
     }
 
-    void cleanup() override
-    {
-        m_workbench.reset();
-        QVERIFY(CameraSession::WaitForTeardown(5000));
-        m_folder.reset();
-        EndGuard();
-    }
-
     void panelsStandInTheirOrder()
     {
-        QStringList texts;
-        for (int i = 0; i < Tabs()->count(); ++i)
-            texts << Tabs()->tabText(i);
-        QCOMPARE(texts, QStringList({ "Adjustment", "Process", "Automatic Counting" }));
+        QCOMPARE(Texts(ImageTabs()), QStringList({ "Adjustment", "Process", "Automatic Counting" }));
         QVERIFY(Panel("ProcessPanel"));
         QVERIFY(Panel("CountingPanel"));
     }
@@ -123,27 +100,18 @@ private slots:
     {
         QFETCH(QString, tab);
         QFETCH(QString, panel);
-        ClickTab(tab);
-        QWidget *widget = Panel(panel);
-        QTRY_VERIFY(widget->isVisible());
-        const auto *steps = widget->findChild<QComboBox *>("choiceStep");
-        const int count = steps ? steps->count() : 1;
-        for (int i = 0; i < count; ++i) {
-            if (count > 1)
+        GoTo(ImageTabs(), tab, qPrintable(panel));
+        const auto *steps = Current()->findChild<QComboBox *>("choiceStep");
+        for (int i = 0; i < (steps ? steps->count() : 1); ++i) {
+            if (steps)
                 Choose("choiceStep", i);
-            QTRY_VERIFY(widget->width() <= Tabs()->currentWidget()->findChild<QWidget *>("qt_scrollarea_viewport")->width());
-            for (QWidget *child : widget->findChildren<QWidget *>()) {
-                auto *label = qobject_cast<QLabel *>(child);
-                const bool isText = label ? !label->wordWrap() : qobject_cast<QAbstractButton *>(child) != nullptr;
-                if (isText && child->isVisible())
-                    QVERIFY2(child->width() >= child->minimumSizeHint().width(), qPrintable(child->objectName()));
-            }
+            QTRY_COMPARE(CutOff(), QStringList());
         }
     }
 
     void aStepIsTriedAppliedUndoneAndSaved()
     {
-        ClickTab("Process");
+        GoTo(ImageTabs(), "Process", "ProcessPanel");
         Choose("choiceStep", 1); // background
         Choose("choiceMethod", 0); // a level
         Type("numberLevel", "400");
@@ -174,14 +142,14 @@ private slots:
 
     void cancelAndAnotherTabLeaveThePictureAsItWas()
     {
-        ClickTab("Process");
+        GoTo(ImageTabs(), "Process", "ProcessPanel");
         Choose("choiceStep", 7); // binning
         QTRY_COMPARE(Main()->Shown().samples.Size(), Size / 2);
-        Click("actionCancel", "ProcessPanel");
+        Click("actionCancel");
         QTRY_COMPARE(Main()->Shown().samples.Size(), Size);
         Choose("choiceStep", 7);
         QTRY_COMPARE(Main()->Shown().samples.Size(), Size / 2);
-        ClickTab("Adjustment");
+        ClickTab(ImageTabs(), "Adjustment");
         QTRY_COMPARE(Main()->Shown().samples.Size(), Size);
         QVERIFY(!Undo()->canUndo());
     }
@@ -191,13 +159,13 @@ private slots:
         WriteDiscs(Path("small.tif"), QSize(20, 10), 1);
         QVERIFY(Open("small.tif"));
         QVERIFY(Open("discs.tif"));
-        ClickTab("Process");
+        GoTo(ImageTabs(), "Process", "ProcessPanel");
         Choose("choiceStep", 2); // flat field; the reference is the only other picture
         QTRY_COMPARE(Note("labelFault"),
                      QString("The reference is 20x10 pixels and the picture 240x160. Choose a reference of the same size, "
                              "and correct the picture before it is cropped, turned or binned."));
         QCOMPARE(SampleAt(0, 0), Ground);
-        Click("actionCancel", "ProcessPanel");
+        Click("actionCancel");
         QTRY_VERIFY(!Panel("ProcessPanel")->findChild<QLabel *>("labelFault")->isVisible());
     }
 
@@ -210,11 +178,11 @@ private slots:
 
     void aStackIsProjected()
     {
-        ClickTab("Process");
+        GoTo(ImageTabs(), "Process", "ProcessPanel");
         Choose("choiceStep", 9);
         Choose("choiceMethod", 0); // maximum
         QTRY_COMPARE(SampleAt(0, 0), Ground + 200);
-        Click("actionApply", "ProcessPanel");
+        Click("actionApply");
         QTRY_COMPARE(Main()->FrameCount(), 1);
         QTRY_VERIFY(!m_workbench->window.findChild<QWidget *>("MultiImageToolUI")->isVisible());
         Undo()->undo();
@@ -223,34 +191,34 @@ private slots:
 
     void objectsAreCounted()
     {
-        ClickTab("Automatic Counting");
+        GoTo(ImageTabs(), "Automatic Counting", "CountingPanel");
         AutoCounting *counting = m_workbench->services.Counting();
-        Click("actionCount", "CountingPanel");
+        Click("actionCount");
         QTRY_COMPARE(counting->Table()->rowCount(), 6);
         QVERIFY(counting->IsCounting());
-        QTRY_COMPARE(Note("noteResult", "CountingPanel"), QString("6 object(s)"));
+        QTRY_COMPARE(Note("noteResult"), QString("6 object(s)"));
 
-        Click("checkSplit", "CountingPanel");
+        Click("checkSplit");
         QTRY_COMPARE(counting->Table()->rowCount(), 5);
-        Type("numberMostArea", "600", "CountingPanel");
+        Type("numberMostArea", "600");
         QTRY_COMPARE(counting->Table()->rowCount(), 4); // without the two that touch
         for (const CountedObject &object : counting->Table()->Objects())
             QVERIFY(std::abs(object.area - 3.14159 * Radius * Radius) < 10);
         QCOMPARE(counting->Table()->Objects().first().meanIntensity, double(Ground + Height));
-        Type("numberPixelSize", "0.5", "CountingPanel");
+        Type("numberPixelSize", "0.5");
         const double area = counting->Table()->index(0, ObjectTable::Area).data(ObjectTable::SortRole).toDouble();
         QCOMPARE(area, counting->Table()->Objects().first().area * 0.25);
 
-        Click("actionCount", "CountingPanel");
-        QTRY_COMPARE(Note("noteResult", "CountingPanel"), QString("Nothing is being counted."));
+        Click("actionCount");
+        QTRY_COMPARE(Note("noteResult"), QString("Nothing is being counted."));
         QVERIFY(!counting->IsCounting());
         QCOMPARE(counting->Table()->rowCount(), 4); // they stay
     }
 
     void theLivePictureEndsCounting()
     {
-        ClickTab("Automatic Counting");
-        Click("actionCount", "CountingPanel");
+        GoTo(ImageTabs(), "Automatic Counting", "CountingPanel");
+        Click("actionCount");
         AutoCounting *counting = m_workbench->services.Counting();
         QTRY_COMPARE(counting->Table()->rowCount(), 6);
         m_workbench->services.Config()->SetCameraView();
@@ -261,13 +229,7 @@ private:
     QString Path(const QString &name) const { return m_folder->filePath(name); }
     OpenedPicture *Main() const { return m_workbench->services.Desk()->MainPicture(); }
     QUndoStack *Undo() const { return Main()->Document()->UndoStack(); }
-    QTabWidget *Tabs() const { return m_workbench->window.findChild<QTabWidget *>("ImageTabWidget"); }
-    QWidget *Panel(const QString &name) const { return m_workbench->window.findChild<QWidget *>(name); }
-    QString Note(const char *name, const char *panel = "ProcessPanel") const
-    {
-        auto *label = Panel(panel)->findChild<QLabel *>(name);
-        return label ? label->text() : QString();
-    }
+    QTabWidget *ImageTabs() const { return Tabs("ImageTabWidget"); }
     int SampleAt(int x, int y) const
     {
         const Picture &samples = Main()->Shown().samples;
@@ -277,62 +239,10 @@ private:
     {
         m_workbench->services.Desk()->Open({ Path(name) }, Main());
         return QTest::qWaitFor([&] {
-            return Main()->GetFileName() == name && Main()->WantedDocument() == Main()->Document() && Tabs()
-                   && Tabs()->isVisible();
+            return Main()->GetFileName() == name && Main()->WantedDocument() == Main()->Document()
+                   && ImageTabs() && ImageTabs()->isVisible();
         }, WaitMs);
     }
-    void ClickTab(const QString &text)
-    {
-        for (int i = 0; i < Tabs()->count(); ++i) {
-            if (Tabs()->tabText(i) == text)
-                QTest::mouseClick(Tabs()->tabBar(), Qt::LeftButton, Qt::NoModifier,
-                                  Tabs()->tabBar()->tabRect(i).center());
-        }
-    }
-
-    /// By the keyboard: the first entry, and from there down. The focus stays though the other fields change.
-    void Choose(const char *name, int index)
-    {
-        auto *box = Panel("ProcessPanel")->findChild<QComboBox *>(name);
-        QVERIFY2(box, name);
-        box->setFocus();
-        QTest::keyClick(box, Qt::Key_Home);
-        for (int i = 0; i < index; ++i)
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
-        auto *focused = qobject_cast<QComboBox *>(QApplication::focusWidget());
-        QVERIFY2(focused && focused->objectName() == name, name);
-        QCOMPARE(focused->currentIndex(), index);
-    }
-
-    void Type(const char *name, const QString &text, const char *panel = "ProcessPanel")
-    {
-        auto *field = Panel(panel)->findChild<QWidget *>(name);
-        QVERIFY2(field, name);
-        Reveal(field);
-        field->setFocus();
-        field->findChild<QLineEdit *>()->selectAll();
-        QTest::keyClicks(field, text);
-        QTest::keyClick(field, Qt::Key_Return);
-    }
-
-    void Click(const char *name, const char *panel)
-    {
-        auto *button = Panel(panel)->findChild<QAbstractButton *>(name);
-        QVERIFY2(button, name);
-        Reveal(button);
-        QTest::mouseClick(button, Qt::LeftButton, Qt::NoModifier, QPoint(8, button->height() / 2));
-    }
-
-    void Reveal(QWidget *widget)
-    {
-        for (QWidget *parent = widget->parentWidget(); parent; parent = parent->parentWidget()) {
-            if (auto *area = qobject_cast<QScrollArea *>(parent))
-                area->ensureWidgetVisible(widget);
-        }
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<RunningWorkbench> m_workbench;
 };
 
 int main(int argc, char **argv)
