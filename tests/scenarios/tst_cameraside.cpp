@@ -14,11 +14,15 @@
 #include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>
+#include <QGraphicsView>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTreeView>
+#include <QWheelEvent>
+#include <qtestspontaneevent.h>
 
 namespace {
 
@@ -95,6 +99,31 @@ private slots:
         Click("actionFullSensor");
         QCOMPARE(Session()->Format().Region(), QRect(0, 0, 2048, 2048));
         QVERIFY(m_workbench->WaitForNextPicture());
+    }
+
+    void wheelOverThePanelScrollsIt()
+    {
+        m_workbench->window.resize(m_workbench->window.width(), 500);
+        GoTo(CameraTabs(), "Camera", "CameraPanel");
+        auto *bar = qobject_cast<QScrollArea *>(CameraTabs()->currentWidget())->verticalScrollBar();
+        QTRY_VERIFY(bar->isVisible() && bar->maximum() > 0);
+        m_workbench->View()->setFocus();
+        const double exposureUs = Session()->Controls().ExposureUs();
+        const int binning = Session()->Format().Binning();
+        const QRect region = Session()->Format().Region();
+        for (const char *name : {"numberExposure", "choiceBinning", "numberHeight"}) {
+            bar->setValue(0);
+            const QPoint place(5, 5);
+            QWheelEvent wheel(place, Widget(name)->mapToGlobal(place), QPoint(), QPoint(0, -120), Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QSpontaneKeyEvent::setSpontaneous(&wheel); // only these go on to the widgets around
+            qApp->notify(Widget(name), &wheel);
+            QVERIFY2(bar->value() > 0, name);
+        }
+        QVERIFY(m_workbench->WaitForNextPicture());
+        QCOMPARE(Session()->Controls().ExposureUs(), exposureUs);
+        QCOMPARE(Session()->Format().Binning(), binning);
+        QCOMPARE(Session()->Format().Region(), region);
     }
 
     void exposureIsSeenInTheNextPictureButTwo()

@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QGraphicsView>
+#include <QPushButton>
 #include <QSignalSpy>
 
 namespace {
@@ -20,6 +21,24 @@ class SpectrumPageScenario : public ScenarioTest
     Q_OBJECT
 
 private slots:
+    void zoomBarsTellWhetherRangesAreAutomatic()
+    {
+        QVector<QPushButton *> buttons;
+        for (const QWidget *bar : m_workbench->window.findChildren<QWidget *>("SpectrumZoomUI")) {
+            for (QPushButton *button : bar->findChildren<QPushButton *>()) {
+                if (button->isCheckable() && !button->isHidden())
+                    buttons << button;
+            }
+        }
+        QCOMPARE(buttons.size(), 2); // of the live and of the opened spectrum
+        for (const bool automatic : {false, true, false}) { // it begins with ranges that stay
+            SpectrumUIManager::GetInstance()->SetZoomAutoFlag(automatic);
+            for (const QPushButton *button : qAsConst(buttons))
+                QCOMPARE(button->objectName(),
+                         QString(automatic ? "pushButtonRescaleAuto" : "pushButtonAutoRescaleClose"));
+        }
+    }
+
     void dragsClicksAndStepsBack()
     {
         QAction *spectrum = m_workbench->Action("Spectrum Page");
