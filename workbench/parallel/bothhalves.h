@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "threadelsewhere.h"
+
 #include <thread>
 
 /// Calls work(from, to) for the two halves of 0 to `count` at the same time, one of them in a thread of its own, and
@@ -14,7 +16,6 @@ void ForBothHalves(Count count, Count worthwhile, Work work)
         return;
     }
     const Count half = count / 2;
-    std::thread other([&] { work(half, count); });
+    const ThreadElsewhere other([&] { work(half, count); });
     work(Count(0), half);
-    other.join();
 }
