@@ -84,8 +84,9 @@ QImage PictureDisplay::MakeUnsigned(const Colours &colours, const Picture &sampl
                                      ? DisplayLevels{ int(range.left), int(range.right), setting.gamma }
                                      : LevelsFollower().Next(view, setting);
     range = { double(levels.left), double(levels.right) };
-    QImage image;
+    QImage image = m_usedPictures.Take(samples.Size());
     m_converter.Convert(view, levels, &image, colours.marksSaturated, colours.palette);
+    m_usedPictures.Remember(image);
     return image;
 }
 

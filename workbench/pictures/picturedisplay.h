@@ -6,6 +6,7 @@
 #include "palette.h"
 #include "picture.h"
 #include "samplerange.h"
+#include "usedpictures.h"
 
 class LevelsModel;
 struct SampleView;
@@ -46,4 +47,5 @@ private:
 
     const LevelsModel *m_levels;
     LevelsConverter m_converter;
+    UsedPictures m_usedPictures;
 };

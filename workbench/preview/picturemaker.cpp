@@ -26,7 +26,8 @@ QImage PictureMaker::Make(const CameraFrame &frame)
 {
     const SampleView samples = ViewOf(frame);
     m_usedLevels = m_levels->Next(samples);
-    QImage picture;
+    QImage picture = m_usedPictures.Take(QSize(frame.width, frame.height));
     m_converter.Convert(samples, m_usedLevels, &picture, m_levels->MarksSaturated(), m_levels->GetPalette());
+    m_usedPictures.Remember(picture);
     return picture;
 }

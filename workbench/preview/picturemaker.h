@@ -2,6 +2,7 @@
 #pragma once
 
 #include "levelsconverter.h"
+#include "usedpictures.h"
 
 class LiveLevels;
 struct CameraFrame;
@@ -24,5 +25,6 @@ public:
 private:
     LiveLevels *m_levels;
     LevelsConverter m_converter;
+    UsedPictures m_usedPictures;
     DisplayLevels m_usedLevels;
 };
