@@ -82,6 +82,7 @@ public:
                              if (!picture.error.isEmpty())
                                  qFatal("%s", qPrintable(picture.error));
                              m_request.range = picture.range;
+                             m_shown = picture; // as the window does
                              m_loop.quit();
                          });
         QObject::connect(&m_loader, &PictureLoader::signalReadAhead, &m_loop, [this] {
@@ -111,6 +112,7 @@ private:
     LevelsModel m_levels;
     PictureLoader m_loader;
     PictureRequest m_request;
+    LoadedPicture m_shown;
     QEventLoop m_loop;
     bool m_isSettled = false;
 };

@@ -8,7 +8,7 @@ FrameCache::FrameCache(qint64 capacityBytes)
 {
 }
 
-void FrameCache::Insert(quint64 file, int frame, const Picture &picture)
+void FrameCache::Insert(quint64 file, int frame, const Picture &picture, Use use)
 {
     QMutexLocker lock(&m_mutex);
     const Key key(file, frame);
@@ -19,8 +19,8 @@ void FrameCache::Insert(quint64 file, int frame, const Picture &picture)
         return;
     while (m_usedBytes + picture.ByteCount() > m_capacityBytes)
         Remove(std::prev(m_entries.end()));
-    m_entries.push_front({key, picture});
-    m_index.insert(key, m_entries.begin());
+    const auto place = use == Use::Now ? m_entries.cbegin() : m_entries.cend();
+    m_index.insert(key, m_entries.insert(place, {key, picture}));
     m_usedBytes += picture.ByteCount();
 }
 
@@ -47,10 +47,21 @@ Picture FrameCache::TakeOldest(qint64 bytes)
     const bool hasToGo = bytes <= m_capacityBytes && m_usedBytes + bytes > m_capacityBytes;
     if (!hasToGo)
         return Picture();
-    const auto oldest = std::prev(m_entries.end());
-    const Picture picture = oldest->picture;
-    Remove(oldest);
-    return picture;
+    return Take(std::prev(m_entries.end()));
+}
+
+Picture FrameCache::TakeOldestOf(quint64 file, int most)
+{
+    QMutexLocker lock(&m_mutex);
+    auto oldest = m_entries.end();
+    int count = 0;
+    for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry) {
+        if (entry->key.first != file)
+            continue;
+        oldest = entry;
+        ++count;
+    }
+    return count < most ? Picture() : Take(oldest);
 }
 
 void FrameCache::RemoveFile(quint64 file)
@@ -68,6 +79,13 @@ qint64 FrameCache::UsedBytes() const
 {
     QMutexLocker lock(&m_mutex);
     return m_usedBytes;
+}
+
+Picture FrameCache::Take(Entries::iterator entry)
+{
+    const Picture picture = entry->picture;
+    Remove(entry);
+    return picture;
 }
 
 void FrameCache::Remove(Entries::iterator entry)

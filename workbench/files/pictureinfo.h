@@ -26,6 +26,7 @@ struct PictureInfo
     QSize size;
     int channels = 1;
     SampleType sampleType = SampleType::U8;
+    bool isStored = false; ///< the samples of each frame lie together in the file as they are, not compressed
     double dpiX = 0; ///< pixels an inch; 0 when the file does not say
     double dpiY = 0;
     QVector<MetadataEntry> metadata;

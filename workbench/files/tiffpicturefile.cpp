@@ -64,6 +64,7 @@ void TiffPictureFile::FillInfo(const TiffPage &page)
     info.frames = m_chain.pages.size();
     info.size = QSize(page.width, page.height);
     info.channels = page.isPalette ? 3 : page.channels;
+    info.isStored = page.IsPlain();
     info.sampleType = page.isPalette ? SampleType::U8 : page.type;
     info.metadata = ReadTiffTexts(m_tiff.Get());
     QStringList details{m_chain.isBigTiff ? "BigTIFF" : QString(), TiffCompressionName(page.compression)};

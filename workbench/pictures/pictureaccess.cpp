@@ -17,6 +17,9 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(PictureAccess)
 };
 
+/// The one that is seen, the one that was seen before, which may still be in use, and the one that was read ahead.
+constexpr int FramesOfStoredFile = 3;
+
 /// Of the first frame; pages may differ.
 qint64 FrameBytes(const PictureInfo &info)
 {
@@ -82,6 +85,12 @@ void PictureAccess::CloseSuperfluous()
     m_files.erase(std::prev(oldest.base()));
 }
 
+Picture PictureAccess::MemoryForFrame(const OpenFile &file)
+{
+    const PictureInfo &info = file.file->Info();
+    return info.isStored ? m_cache.TakeOldestOf(file.name.id, FramesOfStoredFile) : m_cache.TakeOldest(FrameBytes(info));
+}
+
 bool PictureAccess::ReadFrame(const FileName &name, int index, Picture &frame, QString &error)
 {
     PictureFile *file = Open(name, error);
@@ -89,7 +98,7 @@ bool PictureAccess::ReadFrame(const FileName &name, int index, Picture &frame, Q
         return false;
     if (m_cache.Find(name.id, index, frame))
         return true;
-    frame = m_cache.TakeOldest(FrameBytes(file->Info())); // what it was may belong to the cache
+    frame = MemoryForFrame(m_files.front()); // what it was may belong to the cache
     if (!file->ReadFrame(index, frame, error))
         return false;
     m_cache.Insert(name.id, index, frame);
@@ -106,10 +115,11 @@ void PictureAccess::ReadAhead(quint64 id, int index)
     const qint64 bytes = FrameBytes(info);
     if (index < 0 || index >= info.frames || !hasRoom(bytes))
         return;
-    Picture frame = m_cache.TakeOldest(bytes);
+    Picture frame = MemoryForFrame(*file);
     QString error;
+    const auto use = info.isStored ? FrameCache::Use::Perhaps : FrameCache::Use::Now;
     if (file->file->ReadFrame(index, frame, error) && hasRoom(frame.ByteCount())) // pages may differ
-        m_cache.Insert(id, index, frame);
+        m_cache.Insert(id, index, frame, use);
 }
 
 QString PictureAccess::TakeNews(const FileName &name)

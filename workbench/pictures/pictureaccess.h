@@ -9,7 +9,8 @@
 
 /// Frames of opened files. A handful of files, those used last, is kept open, and one that was found deleted or
 /// replaced until it is closed, so that it can still be browsed and saved; frames already decoded are kept up to a set
-/// number of bytes. One thread.
+/// number of bytes, but of a file whose samples are not compressed three: the system keeps the file at hand, and memory
+/// that was just used is filled soonest. One thread.
 class PictureAccess
 {
 public:
@@ -58,6 +59,8 @@ private:
 
     static Identity IdentityOf(const QString &path);
     OpenFiles::iterator Find(quint64 id);
+    /// That of a frame that goes when the next one of this file is kept; null when none goes.
+    Picture MemoryForFrame(const OpenFile &file);
     void CloseSuperfluous();
 
     const int m_mostOpenFiles;

@@ -11,6 +11,8 @@ private slots:
     void theFrameNotUsedForLongestGoesFirst();
     void neverHoldsMoreThanItsBytes();
     void theFrameThatHasToGoGivesItsMemory();
+    void aFileCanBeKeptToAFewFrames();
+    void whatNobodyAskedForGoesFirst();
     void aFrameLargerThanTheCacheIsNotKept();
     void aFrameThatIsKeptAgainReplacesTheOldOne();
     void framesOfAClosedFileAreDropped();
@@ -86,6 +88,34 @@ void FrameCacheTest::theFrameThatHasToGoGivesItsMemory()
     const uchar *memory = static_cast<const Picture &>(oldest).Data();
     oldest.Reshape(10, 1, 1, SampleType::U8);
     QCOMPARE(static_cast<const Picture &>(oldest).Data(), memory); // nobody else has it
+}
+
+void FrameCacheTest::aFileCanBeKeptToAFewFrames()
+{
+    FrameCache cache(1000);
+    cache.Insert(1, 0, Filled(10, 10));
+    cache.Insert(2, 0, Filled(10, 20));
+    QVERIFY(cache.TakeOldestOf(1, 2).IsNull());
+    QVERIFY(cache.TakeOldestOf(3, 1).IsNull());
+    cache.Insert(1, 1, Filled(10, 11));
+    QVERIFY(Has(cache, 1, 0)); // looked at again: frame 1 is the oldest of the file now
+    QVERIFY(cache.TakeOldestOf(1, 2) == Filled(10, 11));
+    QVERIFY(!Has(cache, 1, 1));
+    QVERIFY(Has(cache, 1, 0));
+    QVERIFY(Has(cache, 2, 0));
+    QCOMPARE(cache.UsedBytes(), qint64(20));
+}
+
+void FrameCacheTest::whatNobodyAskedForGoesFirst()
+{
+    FrameCache cache(30);
+    cache.Insert(1, 0, Filled(10, 0));
+    cache.Insert(1, 1, Filled(10, 1));
+    cache.Insert(1, 2, Filled(10, 2), FrameCache::Use::Perhaps);
+    QVERIFY(cache.TakeOldest(10) == Filled(10, 2));
+    cache.Insert(1, 2, Filled(10, 2), FrameCache::Use::Perhaps);
+    QVERIFY(Has(cache, 1, 2)); // now somebody did
+    QVERIFY(cache.TakeOldest(10) == Filled(10, 0));
 }
 
 void FrameCacheTest::aFrameLargerThanTheCacheIsNotKept()

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <set>
+
 namespace {
 
 constexpr QSize Size(6, 4);
@@ -152,6 +154,37 @@ private slots:
         QCOMPARE(First(access, file, 1), -1);
     }
 
+    void anUncompressedStackIsKeptToThreeFrames()
+    {
+        PictureAccess access(2, 100 * FrameBytes);
+        const PictureAccess::FileName file = Made("stack.tif", 1, 6);
+        for (int frame = 0; frame < 4; ++frame)
+            QCOMPARE(First(access, file, frame), 1000 * frame);
+        access.ReadAhead(file.id, 4);
+        QVERIFY(QFile::resize(file.path, 0));
+        QCOMPARE(First(access, file, 1), -1);
+        QCOMPARE(First(access, file, 2), 2000);
+        QCOMPARE(First(access, file, 3), 3000);
+    }
+
+    void theMemoryOfAWrongGuessIsUsedAgain()
+    {
+        PictureAccess access(2, 100 * FrameBytes);
+        const PictureAccess::FileName file = Made("stack.tif", 1, 9);
+        constexpr quintptr pageBytes = 4096; // where in its first page a frame begins depends on the file
+        std::set<quintptr> memories;
+        Picture shown;
+        for (const int jump : { 0, 4, 2, 7, 1, 5, 3 }) {
+            Picture frame;
+            QString error;
+            QVERIFY2(access.ReadFrame(file, jump, frame, error), qPrintable(error));
+            shown = frame;
+            memories.insert(quintptr(static_cast<const Picture &>(shown).Data()) / pageBytes);
+            access.ReadAhead(file.id, jump + 1);
+        }
+        QVERIFY2(memories.size() <= 3, qPrintable(QString::number(memories.size())));
+    }
+
     void errorsNameTheFile()
     {
         PictureAccess access(2, 0);
@@ -182,3 +215,5 @@ private:
 
 GUARDED_TEST_MAIN(PictureAccessTest)
 #include "pictureaccesstest.moc"
+
+#include <set>
