@@ -12,15 +12,32 @@
 #include "livecover.h"
 #include "livelevels.h"
 #include "scenecatalogue.h"
+#include "specimenscene.h"
+#include "spectrographscene.h"
 #include "spectrummenu.h"
+#include "testchartscene.h"
 #include "workbenchservices.h"
 #include "workspaceconfig.h"
 
 #include <QActionGroup>
 
 namespace {
+
 enum Panel { LeftPanel, RightPanel, BottomPanel };
+
+/// Names are for the command line.
+QString SceneTitle(const QString &name)
+{
+    if (name == SpecimenScene::SceneName())
+        return ViewMenu::tr("&Specimen");
+    if (name == SpectrographScene::SceneName())
+        return ViewMenu::tr("S&pectrograph");
+    if (name == TestChartScene::SceneName())
+        return ViewMenu::tr("&Test Chart");
+    return name;
 }
+
+} // namespace
 
 ViewMenu::ViewMenu(WorkbenchServices *services, QWidget *parent)
     : QMenu(tr("&View"), parent)
@@ -119,7 +136,7 @@ void ViewMenu::AddScenes()
 {
     QMenu *menu = addMenu(tr("Simulated &Scene"));
     for (const QString &name : SceneCatalogue::Names())
-        AddChoice(m_sceneGroup, menu, name, name);
+        AddChoice(m_sceneGroup, menu, SceneTitle(name), name);
 }
 
 void ViewMenu::AddLooks()

@@ -2,6 +2,7 @@
 // The program in a language that makes every text longer: nothing is cut off.
 #include "cutofftexts.h"
 #include "scenariotest.h"
+#include "scenecatalogue.h"
 #include "stylesheet.h"
 #include "uimanagerbase.h"
 #include "workspaceconfig.h"
@@ -12,6 +13,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScrollArea>
+#include <QSet>
 #include <QStatusBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -78,12 +80,25 @@ private slots:
         QStringList untranslated;
         for (QMenu *menu : m_workbench->window.findChildren<QMenu *>()) {
             for (QAction *action : menu->actions()) {
-                const bool isData = action->data().isValid(); // names of cameras, formats, scenes and languages
+                const bool isData = action->data().isValid(); // names of cameras, formats and languages
                 if (!action->isSeparator() && !action->text().isEmpty() && !isData && !action->text().contains('['))
                     untranslated << action->text();
             }
         }
         QCOMPARE(untranslated, QStringList());
+    }
+
+    void everySceneHasATitle()
+    {
+        const QStringList names = SceneCatalogue::Names();
+        QSet<QString> titled;
+        for (QMenu *menu : m_workbench->window.findChildren<QMenu *>()) {
+            for (QAction *action : menu->actions()) {
+                if (names.contains(action->data().toString()) && action->text().contains('['))
+                    titled << action->data().toString();
+            }
+        }
+        QCOMPARE(titled, QSet<QString>(names.begin(), names.end()));
     }
 
     void everyPanelsTitleIsTranslated()
