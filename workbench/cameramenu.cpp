@@ -120,7 +120,7 @@ void CameraMenu::slotUpdateActions()
     m_layouts->setEnabled(isOpen);
     m_selectRegion->setEnabled(isOpen);
     m_fullSensor->setEnabled(isOpen);
-    m_binnings->setEnabled(isOpen && m_services->Link()->Session()->Format().Binnings().size() > 1);
+    m_binnings->setEnabled(isOpen && m_services->Link()->Session()->Format().binnings.size() > 1);
     if (!isOpen)
         return;
     UpdateLayouts();
@@ -130,12 +130,12 @@ void CameraMenu::slotUpdateActions()
 void CameraMenu::UpdateLayouts()
 {
     RemoveActions(m_layoutGroup, m_layouts);
-    const CameraFormat &format = m_services->Link()->Session()->Format();
-    for (const PixelLayout layout : format.Layouts()) {
+    const FormatValues &format = m_services->Link()->Session()->Format();
+    for (const PixelLayout layout : format.layouts) {
         auto *action = new QAction(PixelLayoutName(layout), m_layoutGroup);
         action->setData(int(layout));
         action->setCheckable(true);
-        action->setChecked(layout == format.Layout());
+        action->setChecked(layout == format.layout);
         m_layouts->addAction(action);
     }
 }
@@ -143,12 +143,12 @@ void CameraMenu::UpdateLayouts()
 void CameraMenu::UpdateBinnings()
 {
     RemoveActions(m_binningGroup, m_binnings);
-    const CameraFormat &format = m_services->Link()->Session()->Format();
-    for (const int binning : format.Binnings()) {
+    const FormatValues &format = m_services->Link()->Session()->Format();
+    for (const int binning : format.binnings) {
         auto *action = new QAction(tr("%1 x %1").arg(binning), m_binningGroup);
         action->setData(binning);
         action->setCheckable(true);
-        action->setChecked(binning == format.Binning());
+        action->setChecked(binning == format.binning);
         m_binnings->addAction(action);
     }
 }
@@ -189,7 +189,7 @@ void CameraMenu::slotSelectRegion(bool checked)
 void CameraMenu::slotFullSensor()
 {
     CameraLink *link = m_services->Link();
-    link->SetRegion(QRect(QPoint(0, 0), link->Session()->Format().Limits().sensorSize));
+    link->SetRegion(QRect(QPoint(0, 0), link->Session()->Format().limits.sensorSize));
 }
 
 void CameraMenu::slotShowControls()

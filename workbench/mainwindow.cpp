@@ -76,8 +76,8 @@ RecordingFields::Example NameExample(CameraLink *link)
     return [link] {
         NamePattern::Values values{link->Name(), QDateTime::currentDateTime(), 0, 0};
         if (CameraSession *session = link->Session()) {
-            values.exposureUs = session->Controls().ExposureUs();
-            values.gain = session->Controls().Gain();
+            values.exposureUs = session->Controls().exposureUs;
+            values.gain = session->Controls().gain;
         }
         return values;
     };

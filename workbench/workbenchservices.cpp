@@ -211,6 +211,7 @@ void WorkbenchServices::StartWorkspace()
 void WorkbenchServices::Connect()
 {
     connect(m_link, SIGNAL(signalStateChanged()), this, SLOT(slotCameraStateChanged()));
+    connect(m_link, &CameraLink::signalFramesFailed, this, &WorkbenchServices::slotFramesFailed);
     connect(m_preview.get(), SIGNAL(signalPictureSizeChanged(QSize)), m_frameSize.get(), SLOT(slotSetSize(QSize)));
     connect(m_preview.get(), SIGNAL(signalPictureSizeChanged(QSize)), this, SLOT(slotPictureSizeChanged(QSize)));
     connect(m_preview.get(), SIGNAL(signalPictureSizeChanged(QSize)), m_cover.get(), SLOT(slotSetPictureSize(QSize)));
@@ -304,7 +305,7 @@ void WorkbenchServices::slotShowPalette()
     };
     const CameraSession *camera = m_link->Session();
     emit m_profiles->SignalPseudoColorsUpdate(
-        coloursOf(camera && camera->Format().Layout() == PixelLayout::Rgb8));
+        coloursOf(camera && camera->Format().layout == PixelLayout::Rgb8));
     for (OpenedPicture *picture : { m_mainPicture.get(), m_comparePicture.get() })
         emit picture->signalUpdatePseudoColor(coloursOf(picture->IsColour()));
 }
@@ -359,6 +360,14 @@ void WorkbenchServices::slotCameraStateChanged()
     m_config->UpdateAllControlUI();
 }
 
+/// The user may start it again, or look for another camera.
+void WorkbenchServices::slotFramesFailed()
+{
+    m_preview->StopPreview();
+    emit m_cameraSettings->signalPreviewStateChanged();
+    m_config->UpdateAllControlUI();
+}
+
 void WorkbenchServices::slotPictureSizeChanged(QSize size)
 {
     m_liveReport->SetImageSize(size);
@@ -381,8 +390,8 @@ void WorkbenchServices::slotRegionWanted(QRect region)
 {
     if (!m_link->Session())
         return;
-    const CameraFormat &format = m_link->Session()->Format();
-    const QRect onSensor(region.topLeft() * format.Binning(), region.size() * format.Binning());
-    m_link->SetRegion(onSensor.translated(format.Region().topLeft()));
+    const FormatValues &format = m_link->Session()->Format();
+    const QRect onSensor(region.topLeft() * format.binning, region.size() * format.binning);
+    m_link->SetRegion(onSensor.translated(format.region.topLeft()));
     m_region->SetManualROIChecked(false);
 }

@@ -106,6 +106,7 @@ signals:
 
 private slots:
     void slotCameraStateChanged();
+    void slotFramesFailed();
     void slotPictureSizeChanged(QSize size);
     void slotRegionWanted(QRect region);
     void slotRecordingStateChanged();

@@ -96,11 +96,11 @@ private:
         Save("zoom");
         Press("Ctrl+F");
         m_workbench.Action("Mark Saturated Pixels")->trigger();
-        const double exposureUs = m_workbench.link.Session()->Controls().ExposureUs();
-        m_workbench.link.Session()->Controls().SetExposureUs(BrightExposureUs);
+        const double exposureUs = m_workbench.link.Session()->Controls().exposureUs;
+        m_workbench.link.Session()->SetExposureUs(BrightExposureUs);
         Save("saturation");
         m_workbench.Action("Mark Saturated Pixels")->trigger();
-        m_workbench.link.Session()->Controls().SetExposureUs(exposureUs);
+        m_workbench.link.Session()->SetExposureUs(exposureUs);
     }
 
     /// The objects of the opened picture, in their table.
@@ -264,7 +264,7 @@ private:
         ShowPanels(false, false);
         m_workbench.link.SetScene(SpectrographScene::SceneName());
         m_workbench.link.SetPixelLayout(PixelLayout::Mono16);
-        m_workbench.link.Session()->Controls().SetExposureUs(LampExposureUs);
+        m_workbench.link.Session()->SetExposureUs(LampExposureUs);
         m_workbench.Action("Curve with Peaks")->trigger();
         m_workbench.Action("Band Found by Itself")->trigger();
         const SpectrumPipeline *spectra = m_workbench.services.Spectra();

@@ -204,7 +204,8 @@ private slots:
     void regionOfOddSizeInMidStreamIsShownRightly()
     {
         m_workbench->link.SetRegion(QRect(700, 300, 641, 479));
-        const QRect region = m_workbench->link.Session()->Format().Region();
+        QTRY_VERIFY(!m_workbench->link.Session()->IsSetting());
+        const QRect region = m_workbench->link.Session()->Format().region;
         QTRY_COMPARE(PageLabel("labelSizeValue"), QString("%1x%2").arg(region.width()).arg(region.height()));
         QVERIFY(m_workbench->WaitForNextPicture());
         QCOMPARE(m_workbench->View()->sceneRect(), QRectF(QPointF(0, 0), QSizeF(region.size())));

@@ -137,14 +137,15 @@ private slots:
         m_workbench->link.SetRegion(QRect(0, 0, 64, 64));
         QVERIFY2(m_workbench->StatusText().contains("while a recording runs"),
                  qPrintable(m_workbench->StatusText()));
-        QCOMPARE(m_workbench->link.Session()->Format().Region(), SmallRegion);
+        QVERIFY(!m_workbench->link.Session()->IsSetting());
+        QCOMPARE(m_workbench->link.Session()->Format().region, SmallRegion);
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);
         const RunReceipt receipt = Receipt();
         QCOMPARE(receipt.outcome.end, RunEnd::Stopped);
         QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
         CompareWithTheScene(receipt, receipt.stamps.size());
         m_workbench->link.SetRegion(QRect(0, 0, 64, 64)); // allowed again
-        QCOMPARE(m_workbench->link.Session()->Format().Region(), QRect(0, 0, 64, 64));
+        QTRY_COMPARE(m_workbench->link.Session()->Format().region, QRect(0, 0, 64, 64));
     }
 
     void closingTheProgramAsks_data()
@@ -188,13 +189,14 @@ private slots:
         exposure->selectAll();
         QTest::keyClicks(exposure, "4.5");
         QTest::keyClick(exposure, Qt::Key_Return);
-        QCOMPARE(m_workbench->link.Session()->Controls().ExposureUs(), 4500.0);
+        QTRY_COMPARE(m_workbench->link.Session()->Controls().exposureUs, 4500.0);
         // Beyond the camera's 10 s: taken and shown as the limit.
         exposure->selectAll();
         QTest::keyClicks(exposure, "99999");
         QTest::keyClick(exposure, Qt::Key_Tab);
         QVERIFY(exposure->value() <= 10000.0);
-        QCOMPARE(m_workbench->link.Session()->Controls().ExposureUs(), exposure->value() * 1000);
+        QTRY_VERIFY(!m_workbench->link.Session()->IsSetting());
+        QCOMPARE(m_workbench->link.Session()->Controls().exposureUs, exposure->value() * 1000);
         exposure->setValue(4.5);
         QVERIFY(!panel->findChild<QCheckBox *>("checkAutoExposure")->isEnabled()); // the simulated camera has none
         auto *rate = panel->findChild<QDoubleSpinBox *>("numberFrameRate");
@@ -333,8 +335,8 @@ private slots:
     void binnedFramesAreMeansAndSaySo()
     {
         m_workbench->Action("2 x 2")->trigger();
-        QCOMPARE(m_workbench->link.Session()->Format().Binning(), 2);
-        QCOMPARE(m_workbench->link.Session()->Format().Region(), SmallRegion);
+        QTRY_COMPARE(m_workbench->link.Session()->Format().binning, 2);
+        QCOMPARE(m_workbench->link.Session()->Format().region, SmallRegion);
         QTRY_COMPARE(m_workbench->services.Preview()->ShownFrame().width, SmallRegion.width() / 2);
         QVERIFY(CameraMainManager::GetInstance()->IsAnyBinOpen());
         m_settings.frames = 2;
@@ -368,7 +370,7 @@ private slots:
 
     void aLostCameraLeavesWhatWasRecorded()
     {
-        m_workbench->link.Session()->Controls().SetExposureUs(7000);
+        m_workbench->link.Session()->SetExposureUs(7000);
         m_settings.mode = RecordingSettings::Mode::UntilStopped;
         Apply();
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);
@@ -394,8 +396,8 @@ private slots:
         dialog->close();
         CompareWithTheScene(receipt, receipt.stamps.size());
         QTRY_VERIFY_WITH_TIMEOUT(m_workbench->link.GetState() == CameraLink::State::Open, MsToWait);
-        QCOMPARE(m_workbench->link.Session()->Format().Region(), SmallRegion);
-        QCOMPARE(m_workbench->link.Session()->Controls().ExposureUs(), 7000.0);
+        QTRY_COMPARE(m_workbench->link.Session()->Format().region, SmallRegion);
+        QTRY_COMPARE(m_workbench->link.Session()->Controls().exposureUs, 7000.0);
     }
 
     /// Also while the status bar is hidden.
@@ -451,10 +453,10 @@ private slots:
     {
         m_settings.mode = RecordingSettings::Mode::UntilStopped;
         Apply();
-        m_workbench->link.Session()->Controls().SetExposureUs(4000);
+        m_workbench->link.Session()->SetExposureUs(4000);
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);
         QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 3, MsToWait);
-        m_workbench->link.Session()->Controls().SetExposureUs(9000);
+        m_workbench->link.Session()->SetExposureUs(9000);
         const quint64 before = Desk()->Saving()->Counts().saved;
         QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > before + 5, MsToWait);
         QTest::keyClick(&m_workbench->window, Qt::Key_F10);

@@ -212,7 +212,7 @@ private:
     {
         m_workbench->link.SetScene(SpectrographScene::SceneName());
         m_workbench->link.SetPixelLayout(PixelLayout::Mono16);
-        m_workbench->link.Session()->Controls().SetExposureUs(faintExposureUs);
+        m_workbench->link.Session()->SetExposureUs(faintExposureUs);
         QVERIFY(m_workbench->WaitForNextPicture());
         m_workbench->Action("Curve")->trigger();
         m_workbench->Action("Band Found by Itself")->trigger();

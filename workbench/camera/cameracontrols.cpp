@@ -24,6 +24,14 @@ bool Report(const QString &setting, const AravisError &failure, QString *error)
                 .arg(setting, failure.Text());
     return false;
 }
+
+/// What can't be read stays as it was known.
+void Read(double (*read)(ArvCamera *, GError **), ArvCamera *camera, double *value, AravisError *failure)
+{
+    const double told = read(camera, failure->Receive());
+    if (!failure->IsSet())
+        *value = told;
+}
 } // namespace
 
 CameraControls::CameraControls(ArvCamera *camera, SimulatedSensor *sensor, std::function<bool()> canReach)
@@ -34,7 +42,7 @@ CameraControls::CameraControls(ArvCamera *camera, SimulatedSensor *sensor, std::
     ReadRanges();
     if (!m_sensor)
         ReadAutomatics();
-    if (m_rateRange.IsAdjustable())
+    if (m_values.frameRateRange.IsAdjustable())
         ApplyFrameRate(
             nullptr); // the camera may have been left with an exposure longer than its frame period
 }
@@ -42,63 +50,68 @@ CameraControls::CameraControls(ArvCamera *camera, SimulatedSensor *sensor, std::
 void CameraControls::ReadRanges()
 {
     if (arv_camera_is_exposure_time_available(m_camera, nullptr)) {
-        arv_camera_get_exposure_time_bounds(m_camera, &m_exposureRange.minimum, &m_exposureRange.maximum,
-                                            nullptr);
-        m_exposureUs = arv_camera_get_exposure_time(m_camera, nullptr);
+        ValueRange &range = m_values.exposureRangeUs;
+        arv_camera_get_exposure_time_bounds(m_camera, &range.minimum, &range.maximum, nullptr);
+        m_values.exposureUs = arv_camera_get_exposure_time(m_camera, nullptr);
     }
     if (arv_camera_is_gain_available(m_camera, nullptr)) {
-        arv_camera_get_gain_bounds(m_camera, &m_gainRange.minimum, &m_gainRange.maximum, nullptr);
-        m_gain = arv_camera_get_gain(m_camera, nullptr);
+        ValueRange &range = m_values.gainRange;
+        arv_camera_get_gain_bounds(m_camera, &range.minimum, &range.maximum, nullptr);
+        m_values.gain = arv_camera_get_gain(m_camera, nullptr);
     }
     if (arv_camera_is_frame_rate_available(m_camera, nullptr)) {
-        arv_camera_get_frame_rate_bounds(m_camera, &m_rateRange.minimum, &m_rateRange.maximum, nullptr);
-        m_rate = m_wishedRate = arv_camera_get_frame_rate(m_camera, nullptr);
+        ValueRange &range = m_values.frameRateRange;
+        arv_camera_get_frame_rate_bounds(m_camera, &range.minimum, &range.maximum, nullptr);
+        m_values.frameRate = m_wishedRate = arv_camera_get_frame_rate(m_camera, nullptr);
     }
 }
 
 void CameraControls::ReadAutomatics()
 {
-    m_hasAutoExposure = arv_camera_is_exposure_auto_available(m_camera, nullptr);
-    m_isAutoExposure = m_hasAutoExposure && arv_camera_get_exposure_time_auto(m_camera, nullptr) != ARV_AUTO_OFF;
-    m_hasAutoGain = arv_camera_is_gain_auto_available(m_camera, nullptr);
-    m_isAutoGain = m_hasAutoGain && arv_camera_get_gain_auto(m_camera, nullptr) != ARV_AUTO_OFF;
+    ControlValues &values = m_values;
+    values.hasAutoExposure = arv_camera_is_exposure_auto_available(m_camera, nullptr);
+    values.isAutoExposure =
+        values.hasAutoExposure && arv_camera_get_exposure_time_auto(m_camera, nullptr) != ARV_AUTO_OFF;
+    values.hasAutoGain = arv_camera_is_gain_auto_available(m_camera, nullptr);
+    values.isAutoGain = values.hasAutoGain && arv_camera_get_gain_auto(m_camera, nullptr) != ARV_AUTO_OFF;
 }
 
 void CameraControls::Refresh()
 {
     if (!m_canReach())
         return;
-    if (m_isAutoExposure)
-        m_exposureUs = arv_camera_get_exposure_time(m_camera, nullptr);
-    if (m_isAutoGain)
-        m_gain = arv_camera_get_gain(m_camera, nullptr);
+    AravisError ignored;
+    if (m_values.isAutoExposure)
+        Read(arv_camera_get_exposure_time, m_camera, &m_values.exposureUs, &ignored);
+    if (m_values.isAutoGain)
+        Read(arv_camera_get_gain, m_camera, &m_values.gain, &ignored);
 }
 
 bool CameraControls::SetAutoExposure(bool isAuto, QString *error)
 {
     const QString setting = tr("Automatic exposure");
-    if (!m_hasAutoExposure || !CanReach(setting, error))
+    if (!m_values.hasAutoExposure || !CanReach(setting, error))
         return false;
     AravisError failure;
     arv_camera_set_exposure_time_auto(m_camera, isAuto ? ARV_AUTO_CONTINUOUS : ARV_AUTO_OFF, failure.Receive());
     if (!Report(setting, failure, error))
         return false;
-    m_isAutoExposure = isAuto;
-    m_exposureUs = arv_camera_get_exposure_time(m_camera, failure.Receive());
+    m_values.isAutoExposure = isAuto;
+    Read(arv_camera_get_exposure_time, m_camera, &m_values.exposureUs, &failure);
     return Report(setting, failure, error);
 }
 
 bool CameraControls::SetAutoGain(bool isAuto, QString *error)
 {
     const QString setting = tr("Automatic gain");
-    if (!m_hasAutoGain || !CanReach(setting, error))
+    if (!m_values.hasAutoGain || !CanReach(setting, error))
         return false;
     AravisError failure;
     arv_camera_set_gain_auto(m_camera, isAuto ? ARV_AUTO_CONTINUOUS : ARV_AUTO_OFF, failure.Receive());
     if (!Report(setting, failure, error))
         return false;
-    m_isAutoGain = isAuto;
-    m_gain = arv_camera_get_gain(m_camera, failure.Receive());
+    m_values.isAutoGain = isAuto;
+    Read(arv_camera_get_gain, m_camera, &m_values.gain, &failure);
     return Report(setting, failure, error);
 }
 
@@ -118,13 +131,13 @@ bool CameraControls::SetExposureUs(double exposureUs, QString *error)
     if (!CanReach(setting, error))
         return false;
     AravisError failure;
-    arv_camera_set_exposure_time(m_camera, Bounded(exposureUs, m_exposureRange), failure.Receive());
+    arv_camera_set_exposure_time(m_camera, Bounded(exposureUs, m_values.exposureRangeUs), failure.Receive());
     if (!Report(setting, failure, error))
         return false;
-    m_exposureUs = arv_camera_get_exposure_time(m_camera, failure.Receive());
+    Read(arv_camera_get_exposure_time, m_camera, &m_values.exposureUs, &failure);
     if (!Report(setting, failure, error))
         return false;
-    return !m_rateRange.IsAdjustable() || ApplyFrameRate(error);
+    return !m_values.frameRateRange.IsAdjustable() || ApplyFrameRate(error);
 }
 
 bool CameraControls::SetGain(double gain, QString *error)
@@ -133,10 +146,10 @@ bool CameraControls::SetGain(double gain, QString *error)
     if (!CanReach(setting, error))
         return false;
     AravisError failure;
-    arv_camera_set_gain(m_camera, Bounded(gain, m_gainRange), failure.Receive());
+    arv_camera_set_gain(m_camera, Bounded(gain, m_values.gainRange), failure.Receive());
     if (!Report(setting, failure, error))
         return false;
-    m_gain = arv_camera_get_gain(m_camera, failure.Receive());
+    Read(arv_camera_get_gain, m_camera, &m_values.gain, &failure);
     return Report(setting, failure, error);
 }
 
@@ -144,19 +157,22 @@ bool CameraControls::SetFrameRate(double framesPerSecond, QString *error)
 {
     if (!CanReach(tr("The frame rate"), error))
         return false;
-    m_wishedRate = Bounded(framesPerSecond, m_rateRange);
+    m_wishedRate = Bounded(framesPerSecond, m_values.frameRateRange);
     return ApplyFrameRate(error);
 }
 
 bool CameraControls::ApplyFrameRate(QString *error)
 {
-    const double fastest = m_exposureUs > 0 ? 1e6 / m_exposureUs : m_rateRange.maximum;
-    const double rate = Bounded(std::min(m_wishedRate, fastest), m_rateRange);
+    const double fastest = m_values.exposureUs > 0 ? 1e6 / m_values.exposureUs : m_values.frameRateRange.maximum;
+    const double rate = Bounded(std::min(m_wishedRate, fastest), m_values.frameRateRange);
     AravisError failure;
     arv_camera_set_frame_rate(m_camera, m_sensor ? m_sensor->SetFrameRate(rate) : rate, failure.Receive());
     if (!Report(tr("The frame rate"), failure, error))
         return false;
     // The simulated camera's own rate is that of its ticks.
-    m_rate = m_sensor ? rate : arv_camera_get_frame_rate(m_camera, failure.Receive());
+    if (m_sensor)
+        m_values.frameRate = rate;
+    else
+        Read(arv_camera_get_frame_rate, m_camera, &m_values.frameRate, &failure);
     return Report(tr("The frame rate"), failure, error);
 }

@@ -17,7 +17,6 @@ constexpr int FeaturesAtATime = 4;
 /// One reading of the whole tree.
 struct CameraFeatures::Reading
 {
-    int camera = 0;
     bool isListed = false;
     QVector<CameraFeatureAccess::Place> places;
     int next = 0;
@@ -28,15 +27,9 @@ CameraFeatures::CameraFeatures(CameraLink *link, QObject *parent)
     : QObject(parent)
     , m_link(link)
 {
-    m_worker.setMaxThreadCount(1);
     m_timer.setInterval(RefreshMs);
     connect(&m_timer, &QTimer::timeout, this, &CameraFeatures::slotRead);
     connect(link, &CameraLink::signalStateChanged, this, &CameraFeatures::slotCameraStateChanged);
-}
-
-CameraFeatures::~CameraFeatures()
-{
-    m_worker.waitForDone();
 }
 
 bool CameraFeatures::IsSetElsewhere(const QString &name)
@@ -60,7 +53,6 @@ void CameraFeatures::SetWatched(bool watched)
 
 void CameraFeatures::slotCameraStateChanged()
 {
-    ++m_camera;
     m_isReading = false;
     if (m_link->Session())
         slotRead();
@@ -68,13 +60,10 @@ void CameraFeatures::slotCameraStateChanged()
         emit signalRead({});
 }
 
-bool CameraFeatures::InWorker(const std::function<void(ArvCamera *)> &task)
+bool CameraFeatures::TakeTurn(const std::function<void(ArvCamera *)> &task, const std::function<void()> &done,
+                              const QString &key)
 {
-    const std::function<void()> turn = m_link->Session() ? m_link->Session()->TakeTurn(task) : nullptr;
-    if (!turn)
-        return false;
-    m_worker.start(turn);
-    return true;
+    return m_link->Session() && m_link->Session()->TakeTurn(task, this, done, key);
 }
 
 void CameraFeatures::slotRead()
@@ -82,14 +71,12 @@ void CameraFeatures::slotRead()
     m_isStale = m_isReading;
     if (!m_isWatched || m_isReading)
         return;
-    auto reading = std::make_shared<Reading>();
-    reading->camera = m_camera;
-    ReadSome(reading);
+    ReadSome(std::make_shared<Reading>());
 }
 
 void CameraFeatures::ReadSome(const std::shared_ptr<Reading> &reading)
 {
-    m_isReading = InWorker([this, reading](ArvCamera *camera) {
+    const auto read = [reading](ArvCamera *camera) {
         ArvDevice *const device = arv_camera_get_device(camera);
         if (!reading->isListed)
             reading->places = CameraFeatureAccess::List(device);
@@ -100,14 +87,12 @@ void CameraFeatures::ReadSome(const std::shared_ptr<Reading> &reading)
             if (CameraFeatureAccess::Read(device, reading->places.at(reading->next), &feature))
                 reading->features.append(feature);
         }
-        QMetaObject::invokeMethod(this, [this, reading] { TakeSome(reading); }, Qt::QueuedConnection);
-    });
+    };
+    m_isReading = TakeTurn(read, [this, reading] { TakeSome(reading); });
 }
 
 void CameraFeatures::TakeSome(const std::shared_ptr<Reading> &reading)
 {
-    if (reading->camera != m_camera)
-        return;
     if (reading->next < reading->places.size())
         return ReadSome(reading);
     m_isReading = false;
@@ -120,21 +105,16 @@ void CameraFeatures::Set(const CameraFeature &feature, const QVariant &value)
 {
     if (IsSetElsewhere(feature.name) || !feature.isWritable)
         return;
-    const int number = m_camera;
-    const bool isBegun = InWorker([this, feature, value, number](ArvCamera *camera) {
-        QString error;
-        CameraFeatureAccess::Write(arv_camera_get_device(camera), feature, value, &error);
-        QMetaObject::invokeMethod(
-            this,
-            [this, feature, error, number] {
-                if (number != m_camera)
-                    return;
-                emit signalFault(error.isEmpty() ? QString()
-                                                 : tr("%1 could not be set: %2").arg(feature.text, error));
-                slotRead();
-            },
-            Qt::QueuedConnection);
-    });
-    if (!isBegun)
+    const auto error = std::make_shared<QString>();
+    const auto write = [feature, value, error](ArvCamera *camera) {
+        CameraFeatureAccess::Write(arv_camera_get_device(camera), feature, value, error.get());
+    };
+    const auto written = [this, feature, error] {
+        emit signalFault(error->isEmpty() ? QString() : tr("%1 could not be set: %2").arg(feature.text, *error));
+        slotRead();
+    };
+    // Each command is carried out; of values the newest is enough.
+    const bool isCommand = feature.kind == CameraFeature::Kind::Command;
+    if (!TakeTurn(write, written, isCommand ? QString() : feature.name))
         emit signalFault(tr("%1 could not be set: the camera does not answer.").arg(feature.text));
 }

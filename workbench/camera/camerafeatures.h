@@ -4,19 +4,16 @@
 #include "camerafeature.h"
 
 #include <QObject>
-#include <QThreadPool>
 #include <QTimer>
 
-#include <atomic>
 #include <functional>
 #include <memory>
 
 class CameraLink;
 typedef struct _ArvCamera ArvCamera;
 
-/// The open camera's own feature tree. Read in a worker while somebody watches, a few features at a time so that
-/// nothing else waits for long; each change is read back, and so is what depends on it. Used in the GUI thread;
-/// destroying it waits for the call to the camera that is on its way.
+/// The open camera's own feature tree. Read in the control thread while somebody watches, a few features at a time so
+/// that nothing else waits for long; each change is read back, and so is what depends on it. Used in the GUI thread.
 class CameraFeatures : public QObject
 {
     Q_OBJECT
@@ -24,7 +21,6 @@ class CameraFeatures : public QObject
 public:
     /// `link` is borrowed and outlives this object.
     explicit CameraFeatures(CameraLink *link, QObject *parent = nullptr);
-    ~CameraFeatures() override;
 
     /// Set by this program elsewhere, with what belongs to it: shown here, but not to be changed.
     static bool IsSetElsewhere(const QString &name);
@@ -46,15 +42,14 @@ private slots:
 private:
     struct Reading;
 
-    bool InWorker(const std::function<void(ArvCamera *)> &task);
+    bool TakeTurn(const std::function<void(ArvCamera *)> &task, const std::function<void()> &done,
+                  const QString &key = QString());
     void ReadSome(const std::shared_ptr<Reading> &reading);
     void TakeSome(const std::shared_ptr<Reading> &reading);
 
     CameraLink *m_link;
-    QThreadPool m_worker;
     QTimer m_timer;
     bool m_isWatched = false;
     bool m_isReading = false;
     bool m_isStale = false; ///< changed while it was being read
-    std::atomic<int> m_camera{0}; ///< counts cameras, so that what was read of another is dropped
 };

@@ -59,6 +59,7 @@ CameraFormat::CameraFormat(ArvCamera *camera, SimulatedSensor *sensor)
     ReadLayouts();
     ReadLimits();
     ReadBinnings();
+    TakeBinning(m_values.binning);
     ReadRegion();
 }
 
@@ -72,9 +73,9 @@ void CameraFormat::ReadLayouts()
                                    && formats.contains(PixelLayoutName(PixelLayout::Mono16));
         if (!formats.contains(PixelLayoutName(layout)) && !isSimulated12)
             continue;
-        m_layouts.append(layout);
+        m_values.layouts.append(layout);
         if (PixelLayoutName(layout) == current)
-            m_layout = layout;
+            m_values.layout = layout;
     }
 }
 
@@ -83,16 +84,16 @@ void CameraFormat::ReadLimits()
     int width = 0;
     int height = 0;
     arv_camera_get_sensor_size(m_camera, &width, &height, nullptr);
-    m_limits.sensorSize = QSize(width, height);
+    m_frameLimits.sensorSize = QSize(width, height);
 
     int largest = 0;
     arv_camera_get_width_bounds(m_camera, &width, &largest, nullptr);
     arv_camera_get_height_bounds(m_camera, &height, &largest, nullptr);
-    m_limits.minimumSize = QSize(width, height);
-    m_limits.sizeStep = QSize(arv_camera_get_width_increment(m_camera, nullptr),
+    m_frameLimits.minimumSize = QSize(width, height);
+    m_frameLimits.sizeStep = QSize(arv_camera_get_width_increment(m_camera, nullptr),
                               arv_camera_get_height_increment(m_camera, nullptr));
     if (arv_camera_is_region_offset_available(m_camera, nullptr))
-        m_limits.offsetStep = QSize(arv_camera_get_x_offset_increment(m_camera, nullptr),
+        m_frameLimits.offsetStep = QSize(arv_camera_get_x_offset_increment(m_camera, nullptr),
                                     arv_camera_get_y_offset_increment(m_camera, nullptr));
 }
 
@@ -102,8 +103,12 @@ void CameraFormat::ReadRegion()
     int y = 0;
     int width = 0;
     int height = 0;
-    arv_camera_get_region(m_camera, &x, &y, &width, &height, nullptr);
-    m_region = QRect(x * m_binning, y * m_binning, width * m_binning, height * m_binning);
+    AravisError failure;
+    arv_camera_get_region(m_camera, &x, &y, &width, &height, failure.Receive());
+    if (failure.IsSet())
+        return; // what was known stays
+    const int binning = m_values.binning;
+    m_values.region = QRect(x * binning, y * binning, width * binning, height * binning);
 }
 
 bool CameraFormat::SetLayout(PixelLayout layout, QString *error)
@@ -121,25 +126,17 @@ bool CameraFormat::SetLayout(PixelLayout layout, QString *error)
     }
     if (m_sensor)
         m_sensor->SetBitDepthOf16BitSamples(isSimulated12 ? 12 : 16);
-    m_layout = layout;
+    m_values.layout = layout;
     return true;
-}
-
-RegionLimits CameraFormat::Limits() const
-{
-    RegionLimits limits = m_limits;
-    limits.minimumSize *= m_binning;
-    limits.sizeStep *= m_binning;
-    limits.offsetStep *= m_binning;
-    return limits;
 }
 
 bool CameraFormat::SetRegion(const QRect &region, QString *error)
 {
-    const QRect fitted = FittedRegion(region, Limits());
+    const QRect fitted = FittedRegion(region, m_values.limits);
+    const int binning = m_values.binning;
     AravisError failure;
-    arv_camera_set_region(m_camera, fitted.x() / m_binning, fitted.y() / m_binning, fitted.width() / m_binning,
-                          fitted.height() / m_binning, failure.Receive());
+    arv_camera_set_region(m_camera, fitted.x() / binning, fitted.y() / binning, fitted.width() / binning,
+                          fitted.height() / binning, failure.Receive());
     ReadRegion();
     return Report(tr("The region %1 x %2").arg(fitted.width()).arg(fitted.height()), failure, error);
 }
@@ -148,7 +145,7 @@ void CameraFormat::ReadBinnings()
 {
     if (m_sensor) {
         for (int binning = 2; binning <= LargestSimulatedBinning; binning *= 2)
-            m_binnings.append(binning);
+            m_values.binnings.append(binning);
         return;
     }
     if (!arv_camera_is_binning_available(m_camera, nullptr))
@@ -160,15 +157,25 @@ void CameraFormat::ReadBinnings()
     arv_camera_get_y_binning_bounds(m_camera, &ignored, &mostDown, nullptr);
     const int step = std::max(arv_camera_get_x_binning_increment(m_camera, nullptr), 1);
     for (int binning = 1 + step; binning <= std::min({ mostAcross, mostDown, LargestBinning }); binning += step)
-        m_binnings.append(binning);
-    arv_camera_get_binning(m_camera, &m_binning, &ignored, nullptr);
+        m_values.binnings.append(binning);
+    arv_camera_get_binning(m_camera, &m_values.binning, &ignored, nullptr);
+}
+
+/// The limits of a region are told in pixels of the sensor.
+void CameraFormat::TakeBinning(int binning)
+{
+    m_values.binning = binning;
+    m_values.limits = m_frameLimits;
+    m_values.limits.minimumSize *= binning;
+    m_values.limits.sizeStep *= binning;
+    m_values.limits.offsetStep *= binning;
 }
 
 bool CameraFormat::SetBinning(int binning, QString *error)
 {
-    const QRect region = m_region;
+    const QRect region = m_values.region;
     AravisError failure;
-    if (!m_binnings.contains(binning)) {
+    if (!m_values.binnings.contains(binning)) {
         if (error)
             *error = tr("The camera can't bin %1 x %1 pixels. Choose another binning.").arg(binning);
         return false;
@@ -179,7 +186,7 @@ bool CameraFormat::SetBinning(int binning, QString *error)
         arv_camera_set_binning(m_camera, binning, binning, failure.Receive());
     if (!Report(tr("The binning"), failure, error))
         return false;
-    m_binning = binning;
+    TakeBinning(binning);
     return SetRegion(region, error);
 }
 

@@ -62,9 +62,9 @@ void CameraLink::Close()
     m_tryTimer.stop();
     m_watchTimer.stop();
     m_isTrying = false;
+    m_isRestoring = false;
     m_session.reset();
     m_info = CameraInfo();
-    m_settings = Settings();
     SetState(State::NoCamera);
 }
 
@@ -120,18 +120,50 @@ void CameraLink::TakeResult(const QString &id, std::shared_ptr<CameraSession> se
 
 void CameraLink::Adopt(std::shared_ptr<CameraSession> session)
 {
-    const bool isBack = m_state == State::Lost;
+    m_isRestoring = m_state == State::Lost;
     m_session = std::move(session);
     m_info = m_session->Info();
     m_policy.Reset();
-    connect(m_session.get(), SIGNAL(signalControlLost()), this, SLOT(slotControlLost()));
-    if (isBack)
-        GiveSettingsBack();
+    ConnectSession();
+    if (m_isRestoring)
+        m_session->Restore(m_keptControls, m_keptFormat);
+    const bool isBack = m_isRestoring;
     SetState(State::Open);
-    if (isBack)
-        emit signalMessage(BackText());
     if (isBack && m_sink)
         StartFrames(m_sink);
+}
+
+void CameraLink::ConnectSession()
+{
+    const CameraSession *session = m_session.get();
+    connect(session, SIGNAL(signalControlLost()), this, SLOT(slotControlLost()));
+    connect(session, SIGNAL(signalControlsChanged()), this, SIGNAL(signalControlsChanged()));
+    connect(session, SIGNAL(signalControlSet(QString)), this, SIGNAL(signalControlSet(QString)));
+    connect(session, SIGNAL(signalFormatSet(QString)), this, SLOT(slotFormatSet(QString)));
+    connect(session, SIGNAL(signalRestored()), this, SLOT(slotRestored()));
+    connect(session, SIGNAL(signalFramesFailed(QString)), this, SLOT(slotFramesFailed(QString)));
+}
+
+void CameraLink::slotFormatSet(QString error)
+{
+    if (!error.isEmpty())
+        emit signalMessage(error);
+    emit signalFormatChanged();
+}
+
+void CameraLink::slotRestored()
+{
+    m_isRestoring = false;
+    emit signalFormatChanged();
+    emit signalMessage(BackText());
+}
+
+void CameraLink::slotFramesFailed(QString error)
+{
+    m_sink = nullptr;
+    m_watchTimer.stop();
+    emit signalMessage(error);
+    emit signalFramesFailed();
 }
 
 QString CameraLink::BackText() const
@@ -152,7 +184,7 @@ void CameraLink::slotWatchFrames()
 {
     if (!m_session || !m_session->IsStreaming())
         return;
-    const double rate = m_session->Controls().FrameRate();
+    const double rate = m_session->Controls().frameRate;
     const double owedMs = rate > 0 ? OwedFrames * MsPerSecond / rate : 0;
     if (m_session->MillisecondsSinceLastFrame() > SilenceMs + owedMs)
         Lose();
@@ -201,29 +233,26 @@ void CameraLink::SetScene(const QString &name)
 
 void CameraLink::SetPixelLayout(PixelLayout layout)
 {
-    if (!MayChangeFormat())
-        return;
-    QString error;
-    Report(m_session->SetPixelLayout(layout, &error), error);
-    emit signalFormatChanged();
+    if (MayChangeFormat())
+        m_session->SetPixelLayout(layout);
 }
 
 void CameraLink::SetRegion(const QRect &region)
 {
-    if (!MayChangeFormat())
-        return;
-    QString error;
-    Report(m_session->SetRegion(region, &error), error);
-    emit signalFormatChanged();
+    if (MayChangeFormat())
+        m_session->SetRegion(region);
+}
+
+void CameraLink::ChangeRegion(const QString &key, const std::function<QRect(const QRect &region)> &change)
+{
+    if (MayChangeFormat())
+        m_session->ChangeRegion(key, change);
 }
 
 void CameraLink::SetBinning(int binning)
 {
-    if (!MayChangeFormat())
-        return;
-    QString error;
-    Report(m_session->SetBinning(binning, &error), error);
-    emit signalFormatChanged();
+    if (MayChangeFormat())
+        m_session->SetBinning(binning);
 }
 
 bool CameraLink::StartFrames(FrameSink *sink)
@@ -235,11 +264,7 @@ bool CameraLink::StartFrames(FrameSink *sink)
     m_sink = sink;
     if (!m_session)
         return true; // its frames come when the camera is back
-    QString error;
-    if (!Report(m_session->Start(sink, &error), error)) {
-        m_sink = nullptr;
-        return false;
-    }
+    m_session->Start(sink);
     m_watchTimer.start();
     return true;
 }
@@ -273,59 +298,35 @@ bool CameraLink::MayChangeFormat()
     return m_session && !m_isFormatHeld;
 }
 
-bool CameraLink::Report(bool succeeded, const QString &error)
-{
-    if (!succeeded)
-        emit signalMessage(error);
-    return succeeded;
-}
-
+/// One that is lost before it has its settings again gets them the next time.
 void CameraLink::KeepSettings()
 {
-    m_settings.layout = m_session->Format().Layout();
-    m_settings.region = m_session->Format().Region();
-    m_settings.binning = m_session->Format().Binning();
-    m_settings.exposureUs = m_session->Controls().ExposureUs();
-    m_settings.gain = m_session->Controls().Gain();
-    m_settings.frameRate = m_session->Controls().FrameRate();
-    m_settings.isAutoExposure = m_session->Controls().IsAutoExposure();
-    m_settings.isAutoGain = m_session->Controls().IsAutoGain();
-}
-
-void CameraLink::GiveSettingsBack()
-{
-    CameraControls &controls = m_session->Controls();
-    m_session->SetPixelLayout(m_settings.layout);
-    m_session->SetBinning(m_settings.binning);
-    m_session->SetRegion(m_settings.region);
-    controls.SetExposureUs(m_settings.exposureUs);
-    controls.SetGain(m_settings.gain);
-    controls.SetFrameRate(m_settings.frameRate);
-    if (m_settings.isAutoExposure)
-        controls.SetAutoExposure(true);
-    if (m_settings.isAutoGain)
-        controls.SetAutoGain(true);
+    if (m_isRestoring)
+        return;
+    m_keptControls = m_session->Controls();
+    m_keptFormat = m_session->Format();
 }
 
 QStringList CameraLink::SettingsThatDiffer() const
 {
-    const CameraControls &controls = m_session->Controls();
+    const ControlValues &controls = m_session->Controls();
+    const FormatValues &format = m_session->Format();
     QStringList differing;
-    if (m_session->Format().Layout() != m_settings.layout)
+    if (format.layout != m_keptFormat.layout)
         differing << tr("pixel format");
-    if (m_session->Format().Region() != m_settings.region)
+    if (format.region != m_keptFormat.region)
         differing << tr("region");
-    if (m_session->Format().Binning() != m_settings.binning)
+    if (format.binning != m_keptFormat.binning)
         differing << tr("binning");
-    if (controls.IsAutoExposure() != m_settings.isAutoExposure)
+    if (controls.isAutoExposure != m_keptControls.isAutoExposure)
         differing << tr("automatic exposure");
-    if (controls.IsAutoGain() != m_settings.isAutoGain)
+    if (controls.isAutoGain != m_keptControls.isAutoGain)
         differing << tr("automatic gain");
-    if (!m_settings.isAutoExposure && !IsNear(controls.ExposureUs(), m_settings.exposureUs))
+    if (!m_keptControls.isAutoExposure && !IsNear(controls.exposureUs, m_keptControls.exposureUs))
         differing << tr("exposure");
-    if (!m_settings.isAutoGain && !IsNear(controls.Gain(), m_settings.gain))
+    if (!m_keptControls.isAutoGain && !IsNear(controls.gain, m_keptControls.gain))
         differing << tr("gain");
-    if (!IsNear(controls.FrameRate(), m_settings.frameRate))
+    if (!IsNear(controls.frameRate, m_keptControls.frameRate))
         differing << tr("frame rate");
     return differing;
 }

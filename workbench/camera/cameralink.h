@@ -2,13 +2,13 @@
 #pragma once
 
 #include "camerainfo.h"
-#include "cameraframe.h"
+#include "controlvalues.h"
+#include "formatvalues.h"
 #include "frameledger.h"
 #include "framesource.h"
 #include "reconnectpolicy.h"
 
 #include <QObject>
-#include <QRect>
 #include <QStringList>
 #include <QThreadPool>
 #include <QTimer>
@@ -20,7 +20,7 @@ class CameraSession;
 
 /// The camera the user works with: opens it, notices when it is lost, and tries to come back in
 /// bounded steps. Opening one takes up to a few seconds and runs in a worker; everything else is the
-/// GUI thread's. A lost camera is let go at once and never waited for.
+/// GUI thread's, which asks the session and never waits for the camera. A lost one is let go at once.
 class CameraLink : public QObject, public FrameSource
 {
     Q_OBJECT
@@ -66,9 +66,12 @@ public:
     /// What the simulated camera looks at, now and whenever it is opened.
     void SetScene(const QString &name);
     QString SceneName() const { return m_scene; }
+    /// What became of these is told by signalFormatChanged() and, when they fail, signalMessage().
     void SetPixelLayout(PixelLayout layout);
     /// In sensor pixels; the camera takes the nearest region it can.
     void SetRegion(const QRect &region);
+    /// As CameraSession::ChangeRegion().
+    void ChangeRegion(const QString &key, const std::function<QRect(const QRect &region)> &change);
     /// Sensor pixels along each side of a pixel of the frames.
     void SetBinning(int binning);
     /// While held, the size and layout of frames stay as they are, and who wants to change them is told so.
@@ -81,8 +84,13 @@ public:
 
 signals:
     void signalStateChanged();
-    /// Pixel layout, region or scene of the open camera changed.
+    /// Pixel layout, region or scene of the open camera changed, or were not changed though somebody asked for it.
     void signalFormatChanged();
+    /// Of the open camera, as CameraSession has them.
+    void signalControlsChanged();
+    void signalControlSet(QString error);
+    /// The camera can't send the frames that StartFrames() asked for; signalMessage() says why.
+    void signalFramesFailed();
     /// A sentence for the status bar.
     void signalMessage(QString text);
 
@@ -90,21 +98,11 @@ private slots:
     void slotControlLost();
     void slotWatchFrames();
     void slotTryAgain();
+    void slotFormatSet(QString error);
+    void slotRestored();
+    void slotFramesFailed(QString error);
 
 private:
-    /// What a camera that comes back gets again.
-    struct Settings
-    {
-        PixelLayout layout = PixelLayout::Mono8;
-        QRect region;
-        int binning = 1;
-        double exposureUs = 0;
-        double gain = 0;
-        double frameRate = 0;
-        bool isAutoExposure = false;
-        bool isAutoGain = false;
-    };
-
     void OpenInWorker(const QString &id);
     void TakeResult(const QString &id, std::shared_ptr<CameraSession> session, const QString &error);
     void Adopt(std::shared_ptr<CameraSession> session);
@@ -112,9 +110,8 @@ private:
     void ScheduleTry();
     void SetState(State state);
     bool MayChangeFormat();
-    bool Report(bool succeeded, const QString &error);
+    void ConnectSession();
     void KeepSettings();
-    void GiveSettingsBack();
     /// Read back from the camera: what it did not take.
     QStringList SettingsThatDiffer() const;
     QString BackText() const;
@@ -127,10 +124,12 @@ private:
     QString m_scene;
     FrameSink *m_sink = nullptr;
     FrameCounts m_countsBefore;
-    Settings m_settings;
+    ControlValues m_keptControls; ///< what a camera that comes back gets again
+    FormatValues m_keptFormat;
     ReconnectPolicy m_policy{ReconnectTries};
     QTimer m_tryTimer;
     QTimer m_watchTimer;
     bool m_isTrying = false;
+    bool m_isRestoring = false; ///< came back, and has not all of its settings yet
     bool m_isFormatHeld = false;
 };

@@ -100,6 +100,6 @@ void OpenCamera::slotFormatChanged()
 {
     if (!m_link->Session())
         return; // what it was
-    m_bitDepth = BitDepth(m_link->Session()->Format().Layout());
-    m_isBinned = m_link->Session()->Format().Binning() > 1;
+    m_bitDepth = BitDepth(m_link->Session()->Format().layout);
+    m_isBinned = m_link->Session()->Format().binning > 1;
 }

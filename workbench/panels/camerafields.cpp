@@ -56,11 +56,10 @@ CameraFields::CameraFields(CameraLink *link, ConnectedCameras *cameras, RegionOf
     m_search.setInterval(SearchMs);
     connect(&m_refresh, &QTimer::timeout, this, &CameraFields::slotRefresh);
     connect(&m_search, &QTimer::timeout, this, &CameraFields::signalSearchWanted);
-    connect(link, &CameraLink::signalStateChanged, this, [this] {
-        emit signalFault(QString());
-        emit signalChanged();
-    });
-    connect(link, &CameraLink::signalFormatChanged, this, &CameraFields::signalChanged);
+    connect(link, &CameraLink::signalStateChanged, this, [this] { slotAnswered(QString()); });
+    connect(link, &CameraLink::signalControlSet, this, &CameraFields::slotAnswered);
+    connect(link, &CameraLink::signalControlsChanged, this, &CameraFields::signalChanged);
+    connect(link, &CameraLink::signalFormatChanged, this, &CameraFields::slotFormatAnswered);
     connect(cameras, &ConnectedCameras::signalUpdateCameraList, this, &CameraFields::signalChanged);
     connect(region, &RegionOfInterest::signalCheckedChanged, this, &CameraFields::signalChanged);
 }
@@ -80,9 +79,20 @@ void CameraFields::SetWatched(bool watched)
 void CameraFields::slotRefresh()
 {
     CameraSession *session = m_link->Session();
-    if (!session || !(session->Controls().IsAutoExposure() || session->Controls().IsAutoGain()))
-        return;
-    session->Controls().Refresh();
+    if (session && (session->Controls().isAutoExposure || session->Controls().isAutoGain))
+        session->Refresh();
+}
+
+void CameraFields::slotAnswered(QString error)
+{
+    emit signalFault(error);
+    slotFormatAnswered();
+}
+
+void CameraFields::slotFormatAnswered()
+{
+    if (!m_link->Session() || !m_link->Session()->IsSetting())
+        m_wishes.clear();
     emit signalChanged();
 }
 
@@ -95,7 +105,20 @@ PanelFields CameraFields::Fields() const
     AddExposure(fields);
     AddFrame(fields);
     AddRegion(fields);
+    for (PanelField &field : fields)
+        ShowWish(field);
     return fields;
+}
+
+/// Until the camera has answered, so that a step on an arrow counts from the step before.
+void CameraFields::ShowWish(PanelField &field) const
+{
+    const auto wish = m_wishes.constFind(field.key);
+    if (wish == m_wishes.cend())
+        return;
+    field.value = *wish;
+    if (field.kind == PanelField::Kind::Number)
+        field.value = qBound(field.minimum, wish->toDouble(), field.maximum);
 }
 
 void CameraFields::AddCamera(PanelFields &fields) const
@@ -117,16 +140,16 @@ void CameraFields::AddCamera(PanelFields &fields) const
 void CameraFields::AddExposure(PanelFields &fields) const
 {
     const int first = fields.size();
-    const CameraControls &controls = m_link->Session()->Controls();
-    const ValueRange exposure = controls.ExposureRangeUs();
-    fields << Number("exposure", tr("Exposure"), controls.ExposureUs() / UsPerMs,
+    const ControlValues &controls = m_link->Session()->Controls();
+    const ValueRange exposure = controls.exposureRangeUs;
+    fields << Number("exposure", tr("Exposure"), controls.exposureUs / UsPerMs,
                      {exposure.minimum / UsPerMs, exposure.maximum / UsPerMs}, 3, tr(" ms"));
-    fields.last().isEnabled &= !controls.IsAutoExposure();
-    fields << Automatic("autoExposure", controls.IsAutoExposure(), controls.HasAutoExposure());
-    fields << Number("gain", tr("Gain"), controls.Gain(), controls.GainRange(), 2);
-    fields.last().isEnabled &= !controls.IsAutoGain();
-    fields << Automatic("autoGain", controls.IsAutoGain(), controls.HasAutoGain());
-    fields << Number("frameRate", tr("Frame rate"), controls.FrameRate(), controls.FrameRateRange(), 2,
+    fields.last().isEnabled &= !controls.isAutoExposure;
+    fields << Automatic("autoExposure", controls.isAutoExposure, controls.hasAutoExposure);
+    fields << Number("gain", tr("Gain"), controls.gain, controls.gainRange, 2);
+    fields.last().isEnabled &= !controls.isAutoGain;
+    fields << Automatic("autoGain", controls.isAutoGain, controls.hasAutoGain);
+    fields << Number("frameRate", tr("Frame rate"), controls.frameRate, controls.frameRateRange, 2,
                      tr(" frames/s"));
     fields.last().toolTip = tr("A long exposure lowers it.");
     SetGroup(fields, first, tr("Exposure"));
@@ -135,24 +158,24 @@ void CameraFields::AddExposure(PanelFields &fields) const
 void CameraFields::AddFrame(PanelFields &fields) const
 {
     const int first = fields.size();
-    const CameraFormat &format = m_link->Session()->Format();
+    const FormatValues &format = m_link->Session()->Format();
     QStringList layouts;
-    for (const PixelLayout layout : format.Layouts())
+    for (const PixelLayout layout : format.layouts)
         layouts << PixelLayoutName(layout);
     QStringList binnings;
-    for (const int binning : format.Binnings())
+    for (const int binning : format.binnings)
         binnings << tr("%1 x %1").arg(binning);
-    fields << Choice("pixelFormat", tr("Pixel format"), layouts, format.Layouts().indexOf(format.Layout()));
-    fields << Choice("binning", tr("Binning"), binnings, format.Binnings().indexOf(format.Binning()));
+    fields << Choice("pixelFormat", tr("Pixel format"), layouts, format.layouts.indexOf(format.layout));
+    fields << Choice("binning", tr("Binning"), binnings, format.binnings.indexOf(format.binning));
     SetGroup(fields, first, tr("Frame"));
 }
 
 void CameraFields::AddRegion(PanelFields &fields) const
 {
     const int first = fields.size();
-    const CameraFormat &format = m_link->Session()->Format();
-    const RegionLimits limits = format.Limits();
-    const QRect region = format.Region();
+    const FormatValues &format = m_link->Session()->Format();
+    const RegionLimits &limits = format.limits;
+    const QRect region = format.region;
     const QSize sensor = limits.sensorSize;
     const double xStep = limits.offsetStep.width();
     const double yStep = limits.offsetStep.height();
@@ -183,17 +206,12 @@ void CameraFields::Set(const QString &key, const QVariant &value)
     CameraSession *session = m_link->Session();
     if (!session || SetControl(key, value))
         return;
-    const CameraFormat &format = session->Format();
-    if (key == "pixelFormat" && value.toInt() >= 0 && value.toInt() < format.Layouts().size())
-        m_link->SetPixelLayout(format.Layouts().at(value.toInt()));
-    else if (key == "binning" && value.toInt() >= 0 && value.toInt() < format.Binnings().size())
-        m_link->SetBinning(format.Binnings().at(value.toInt()));
-    else if (key == "drawRegion")
+    if (key == "drawRegion")
         m_region->SetManualROIChecked(value.toBool());
     else if (key == "fullSensor")
-        m_link->SetRegion(QRect(QPoint(0, 0), format.Limits().sensorSize));
+        m_link->SetRegion(QRect(QPoint(0, 0), session->Format().limits.sensorSize));
     else
-        SetRegionSide(key, value.toInt());
+        SetFormat(key, value);
 }
 
 void CameraFields::Choose(int index)
@@ -206,39 +224,50 @@ void CameraFields::Choose(int index)
 /// True when the key was one of these.
 bool CameraFields::SetControl(const QString &key, const QVariant &value)
 {
-    CameraControls &controls = m_link->Session()->Controls();
-    QString error;
-    bool isTaken = false;
+    CameraSession *session = m_link->Session();
     if (key == "exposure")
-        isTaken = controls.SetExposureUs(value.toDouble() * UsPerMs, &error);
+        session->SetExposureUs(value.toDouble() * UsPerMs);
     else if (key == "gain")
-        isTaken = controls.SetGain(value.toDouble(), &error);
+        session->SetGain(value.toDouble());
     else if (key == "frameRate")
-        isTaken = controls.SetFrameRate(value.toDouble(), &error);
+        session->SetFrameRate(value.toDouble());
     else if (key == "autoExposure")
-        isTaken = controls.SetAutoExposure(value.toBool(), &error);
+        session->SetAutoExposure(value.toBool());
     else if (key == "autoGain")
-        isTaken = controls.SetAutoGain(value.toBool(), &error);
+        session->SetAutoGain(value.toBool());
     else
         return false;
-    emit signalFault(isTaken ? QString() : error);
-    emit signalChanged();
+    m_wishes.insert(key, value);
     return true;
 }
 
-void CameraFields::SetRegionSide(const QString &key, int value)
+void CameraFields::SetFormat(const QString &key, const QVariant &value)
 {
-    QRect region = m_link->Session()->Format().Region();
-    if (key == "left")
-        region.moveLeft(value);
-    else if (key == "top")
-        region.moveTop(value);
-    else if (key == "width")
-        region.setWidth(value);
-    else if (key == "height")
-        region.setHeight(value);
-    else
-        return;
-    m_link->SetRegion(region);
-    emit signalChanged();
+    const FormatValues &format = m_link->Session()->Format();
+    const int index = value.toInt();
+    m_wishes.insert(key, value); // before it is refused
+    if (key == "pixelFormat" && index >= 0 && index < format.layouts.size())
+        m_link->SetPixelLayout(format.layouts.at(index));
+    else if (key == "binning" && index >= 0 && index < format.binnings.size())
+        m_link->SetBinning(format.binnings.at(index));
+    else if (!SetRegionSide(key, index))
+        m_wishes.remove(key);
+}
+
+/// Of the region that the camera has by then: another side of it may be about to change. True when the key was one.
+bool CameraFields::SetRegionSide(const QString &key, int value)
+{
+    static const QHash<QString, void (*)(QRect &, int)> sides{
+        { "left", [](QRect &region, int side) { region.moveLeft(side); } },
+        { "top", [](QRect &region, int side) { region.moveTop(side); } },
+        { "width", [](QRect &region, int side) { region.setWidth(side); } },
+        { "height", [](QRect &region, int side) { region.setHeight(side); } },
+    };
+    const auto change = sides.value(key, nullptr);
+    if (change)
+        m_link->ChangeRegion(key, [change, value](QRect region) {
+            change(region, value);
+            return region;
+        });
+    return change;
 }

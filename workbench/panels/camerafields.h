@@ -3,18 +3,18 @@
 
 #include "fieldsource.h"
 
-#include <QRect>
+#include <QHash>
 #include <QTimer>
 
 class CameraLink;
-class CameraSession;
 class ConnectedCameras;
 class RegionOfInterest;
 struct ValueRange;
 
 /// The camera as a panel shows it: which one, its exposure, gain and frame rate, what it sends and from where on its
-/// sensor. Values and limits are the camera's own, read back after each change. While somebody looks, new cameras are
-/// looked for and what the camera changes by itself is read again. GUI thread.
+/// sensor. Values and limits are the camera's own, read back after each change; until then what was wished is shown.
+/// While somebody looks, new cameras are looked for and what the camera changes by itself is read again. GUI thread,
+/// which never waits for the camera.
 class CameraFields : public FieldSource
 {
     Q_OBJECT
@@ -35,19 +35,24 @@ signals:
 
 private slots:
     void slotRefresh();
+    void slotAnswered(QString error);
+    void slotFormatAnswered();
 
 private:
     void AddCamera(PanelFields &fields) const;
     void AddExposure(PanelFields &fields) const;
     void AddFrame(PanelFields &fields) const;
     void AddRegion(PanelFields &fields) const;
+    void ShowWish(PanelField &field) const;
     void Choose(int index);
     bool SetControl(const QString &key, const QVariant &value);
-    void SetRegionSide(const QString &key, int value);
+    void SetFormat(const QString &key, const QVariant &value);
+    bool SetRegionSide(const QString &key, int value);
 
     CameraLink *m_link;
     ConnectedCameras *m_cameras;
     RegionOfInterest *m_region;
     QTimer m_refresh;
     QTimer m_search;
+    QHash<QString, QVariant> m_wishes; ///< not answered yet
 };

@@ -11,15 +11,8 @@
 #include <QFileInfo>
 
 namespace {
-constexpr int WatchPeriodMs = 20;   // of values that are known without asking the camera
-constexpr int RefreshPeriodMs = 1000; // of those that the camera chooses
+constexpr int RefreshPeriodMs = 1000; // of what the camera chooses by itself
 constexpr qint64 BytesPerMB = 1 << 20;
-
-bool AreSame(const SettingsChange &a, const SettingsChange &b)
-{
-    return a.exposureUs == b.exposureUs && a.isAutoExposure == b.isAutoExposure && a.gain == b.gain
-           && a.isAutoGain == b.isAutoGain && a.framesPerSecond == b.framesPerSecond;
-}
 } // namespace
 
 RecordingDesk::RecordingDesk(const Parts &parts, QObject *parent)
@@ -29,8 +22,10 @@ RecordingDesk::RecordingDesk(const Parts &parts, QObject *parent)
     m_worker.setMaxThreadCount(1);
     connect(parts.link, SIGNAL(signalStateChanged()), this, SLOT(slotCameraStateChanged()));
     connect(parts.saving, SIGNAL(signalRunEnded(RunReceipt)), this, SLOT(slotRunEnded(RunReceipt)));
-    m_watch.setInterval(WatchPeriodMs);
-    connect(&m_watch, SIGNAL(timeout()), this, SLOT(slotWatchSettings()));
+    connect(parts.link, SIGNAL(signalControlsChanged()), this, SLOT(slotControlsChanged()));
+    m_refresh.setInterval(RefreshPeriodMs);
+    connect(&m_refresh, SIGNAL(timeout()), this, SLOT(slotRefresh()));
+    connect(parts.link, SIGNAL(signalFramesFailed()), this, SLOT(slotFramesFailed()));
 }
 
 RecordingDesk::~RecordingDesk()
@@ -51,16 +46,35 @@ void RecordingDesk::slotCapture(bool record, bool single)
     if (single)
         settings.mode = RecordingSettings::Mode::Single;
     QString error;
-    if (!MakeOrder(settings, QString(), &error)) {
+    if (!IsCameraThere(&error)) {
         emit signalMessage(error);
         return;
     }
-    m_order.isRecord = record;
     SetPreparing(true);
-    m_worker.start([this, folder = settings.Folder()] {
+    // The run begins with what was set until now, not with what the camera still had when the button was pressed.
+    CameraSession *session = m_parts.link->Session();
+    session->Refresh();
+    const auto prepare = [this, settings, record, preparation = m_preparation] {
+        if (preparation == m_preparation)
+            Prepare(settings, record);
+    };
+    if (!session->TakeTurn(nullptr, this, prepare))
+        LoseCamera();
+}
+
+void RecordingDesk::Prepare(const RecordingSettings &settings, bool record)
+{
+    MakeOrder(settings, QString());
+    m_order.isRecord = record;
+    m_worker.start([this, folder = settings.Folder(), preparation = m_preparation] {
         const RunResources resources = RunResources::Read(folder);
         QMetaObject::invokeMethod(
-            this, [this, resources] { TakeResources(resources); }, Qt::QueuedConnection);
+            this,
+            [this, resources, preparation] {
+                if (preparation == m_preparation)
+                    TakeResources(resources);
+            },
+            Qt::QueuedConnection);
     });
 }
 
@@ -71,20 +85,27 @@ bool RecordingDesk::Start(const RecordingSettings &settings, const QString &path
         *error = tr("A recording is running already.");
         return false;
     }
-    if (!MakeOrder(settings, path, error))
+    if (!IsCameraThere(error))
         return false;
+    MakeOrder(settings, path);
     UseResources(RunResources::Read(QFileInfo(path).absolutePath()));
     *warning = m_estimate.warning;
-    return Begin(error);
+    Begin();
+    return true;
 }
 
-bool RecordingDesk::MakeOrder(const RecordingSettings &settings, const QString &path, QString *error)
+bool RecordingDesk::IsCameraThere(QString *error) const
 {
-    CameraSession *session = m_parts.link->Session();
-    if (!session) {
-        *error = tr("There is no camera to record from. Choose one in the Camera menu.");
-        return false;
-    }
+    if (m_parts.link->Session())
+        return true;
+    *error = tr("There is no camera to record from. Choose one in the Camera menu.");
+    return false;
+}
+
+void RecordingDesk::MakeOrder(const RecordingSettings &settings, const QString &path)
+{
+    const CameraSession *session = m_parts.link->Session();
+    const FormatValues &format = session->Format();
     m_order = RunOrder();
     m_order.settings = settings.Valid();
     m_order.path = path;
@@ -96,19 +117,16 @@ bool RecordingDesk::MakeOrder(const RecordingSettings &settings, const QString &
     facts.serial = session->Info().serial;
     facts.firmware = session->Info().firmware;
     TakeSettings();
-    facts.region = session->Format().Region();
-    facts.binning = QSize(session->Format().Binning(), session->Format().Binning());
-    facts.frameSize = session->Format().FrameSize();
-    facts.layout = session->Format().Layout();
+    facts.region = format.region;
+    facts.binning = QSize(format.binning, format.binning);
+    facts.frameSize = format.FrameSize();
+    facts.layout = format.layout;
     facts.software =
         QString("%1 %2").arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion());
-    return true;
 }
 
 void RecordingDesk::TakeResources(const RunResources &resources)
 {
-    if (!m_isPreparing)
-        return; // stopped meanwhile
     UseResources(resources);
     if (m_estimate.warning.isEmpty())
         GoOn();
@@ -129,49 +147,44 @@ void RecordingDesk::UseResources(const RunResources &resources)
 
 SettingsChange RecordingDesk::CurrentSettings() const
 {
-    const CameraControls &controls = m_parts.link->Session()->Controls();
+    const ControlValues &controls = m_parts.link->Session()->Controls();
     SettingsChange settings;
-    settings.exposureUs = controls.ExposureUs();
-    settings.isAutoExposure = controls.IsAutoExposure();
-    settings.gain = controls.Gain();
-    settings.isAutoGain = controls.IsAutoGain();
-    settings.framesPerSecond = controls.FrameRate();
+    settings.exposureUs = controls.exposureUs;
+    settings.isAutoExposure = controls.isAutoExposure;
+    settings.gain = controls.gain;
+    settings.isAutoGain = controls.isAutoGain;
+    settings.framesPerSecond = controls.frameRate;
     return settings;
 }
 
 void RecordingDesk::TakeSettings()
 {
-    m_parts.link->Session()->Controls().Refresh();
-    m_lastSettings = CurrentSettings();
+    const SettingsChange settings = CurrentSettings();
     RunFacts &facts = m_order.facts;
-    facts.exposureUs = m_lastSettings.exposureUs;
-    facts.isAutoExposure = m_lastSettings.isAutoExposure;
-    facts.gain = m_lastSettings.gain;
-    facts.isAutoGain = m_lastSettings.isAutoGain;
-    facts.framesPerSecond = m_lastSettings.framesPerSecond;
+    facts.exposureUs = settings.exposureUs;
+    facts.isAutoExposure = settings.isAutoExposure;
+    facts.gain = settings.gain;
+    facts.isAutoGain = settings.isAutoGain;
+    facts.framesPerSecond = settings.framesPerSecond;
 }
 
 /// Exposure, gain and rate may be changed in mid-run, by the user or by the camera itself; the file tells it.
-void RecordingDesk::slotWatchSettings()
+void RecordingDesk::slotControlsChanged()
 {
-    if (!m_parts.link->Session())
-        return;
-    if (m_sinceRefresh.elapsed() >= RefreshPeriodMs) {
-        m_sinceRefresh.start();
-        m_parts.link->Session()->Controls().Refresh();
-    }
-    const SettingsChange now = CurrentSettings();
-    if (AreSame(now, m_lastSettings))
-        return;
-    m_lastSettings = now;
-    m_parts.saving->ChangeSettings(now);
+    if (m_refresh.isActive())
+        m_parts.saving->ChangeSettings(CurrentSettings());
+}
+
+void RecordingDesk::slotRefresh()
+{
+    if (m_parts.link->Session())
+        m_parts.link->Session()->Refresh();
 }
 
 void RecordingDesk::GoOn()
 {
-    QString error;
-    if (m_isPreparing && !Begin(&error))
-        emit signalMessage(error);
+    if (m_isPreparing)
+        Begin();
     SetPreparing(false);
 }
 
@@ -189,25 +202,27 @@ void RecordingDesk::SetPreparing(bool preparing)
     if (m_isPreparing == preparing)
         return;
     m_isPreparing = preparing;
+    ++m_preparation;
+    m_parts.link->HoldFormat(IsBusy());
     emit signalStateChanged();
 }
 
-bool RecordingDesk::Begin(QString *error)
+void RecordingDesk::Begin()
 {
-    if (!m_parts.link->Session()) {
-        *error = tr("The camera was lost before the recording could begin.");
-        return false;
-    }
     TakeSettings(); // the question about the room may have stood for minutes
     m_parts.settings->SetRun(&m_order.settings);
     m_parts.link->HoldFormat(true);
-    m_sinceRefresh.start();
-    m_watch.start();
+    m_refresh.start();
     m_parts.saving->StartRun(m_order);
     if (!m_parts.tee->StartRecording(m_parts.saving))
-        m_parts.saving->StopRun(RunEnd::CameraLost, tr("the camera could not be started"));
+        slotFramesFailed();
     emit signalStateChanged();
-    return true;
+}
+
+void RecordingDesk::slotFramesFailed()
+{
+    if (m_parts.saving->IsBusy())
+        m_parts.saving->StopRun(RunEnd::CameraLost, tr("the camera could not be started"));
 }
 
 void RecordingDesk::slotStop()
@@ -222,15 +237,23 @@ void RecordingDesk::slotDiscard()
     m_parts.saving->DiscardRun();
 }
 
+void RecordingDesk::LoseCamera()
+{
+    CancelPreparedRun();
+    emit signalMessage(tr("The camera was lost before the recording could begin."));
+}
+
 void RecordingDesk::slotCameraStateChanged()
 {
+    if (m_isPreparing && !m_parts.link->Session())
+        LoseCamera();
     if (m_parts.saving->IsBusy() && m_parts.link->GetState() != CameraLink::State::Open)
         m_parts.saving->StopRun(RunEnd::CameraLost, tr("%1 does not answer").arg(m_parts.link->Name()));
 }
 
 void RecordingDesk::slotRunEnded(RunReceipt receipt)
 {
-    m_watch.stop();
+    m_refresh.stop();
     m_parts.tee->StopRecording();
     m_parts.link->HoldFormat(false);
     m_parts.settings->SetRun(nullptr);

@@ -4,7 +4,6 @@
 #include "framesaving.h"
 #include "runestimate.h"
 
-#include <QElapsedTimer>
 #include <QObject>
 #include <QThreadPool>
 #include <QTimer>
@@ -69,12 +68,17 @@ signals:
 private slots:
     void slotCameraStateChanged();
     void slotRunEnded(RunReceipt receipt);
-    void slotWatchSettings();
+    void slotControlsChanged();
+    void slotRefresh();
+    void slotFramesFailed();
 
 private:
-    bool MakeOrder(const RecordingSettings &settings, const QString &path, QString *error);
+    bool IsCameraThere(QString *error) const;
+    void Prepare(const RecordingSettings &settings, bool record);
+    void MakeOrder(const RecordingSettings &settings, const QString &path);
     void TakeResources(const RunResources &resources);
-    bool Begin(QString *error);
+    void Begin();
+    void LoseCamera();
     void UseResources(const RunResources &resources);
     SettingsChange CurrentSettings() const;
     void TakeSettings();
@@ -86,10 +90,9 @@ private:
     RunOrder m_order;
     RunEstimate m_estimate;
     RunResources m_resources;
-    QTimer m_watch; ///< of what is set anew in mid-run
-    QElapsedTimer m_sinceRefresh;
-    SettingsChange m_lastSettings;
+    QTimer m_refresh; ///< while a run goes on
     bool m_isPreparing = false;
+    int m_preparation = 0; ///< counts them, so that what comes of one that was stopped is dropped
     RunReceipt m_receipt;
     bool m_hasReceipt = false;
 };

@@ -10,6 +10,7 @@
 #include <QSignalSpy>
 
 #include <atomic>
+#include <utility>
 
 /// A camera that is lost comes back in bounded steps, and nobody waits for it.
 class CameraLinkTest : public GuardedTest
@@ -74,7 +75,8 @@ private slots:
         OpenSimulated(link);
         link.SetPixelLayout(PixelLayout::Mono12);
         link.SetRegion(QRect(64, 32, 256, 128));
-        link.Session()->Controls().SetExposureUs(5000);
+        link.Session()->SetExposureUs(5000);
+        QTRY_VERIFY(!link.Session()->IsSetting());
         FrameCollector sink;
         QVERIFY(link.StartFrames(&sink));
         QTRY_VERIFY(link.Counts().captured >= 2);
@@ -89,14 +91,59 @@ private slots:
         QCOMPARE(link.TriesMade(), 1);
         QCOMPARE(link.SecondsToNextTry(), 1);
         QTRY_COMPARE(link.GetState(), CameraLink::State::Open);
-        QCOMPARE(messages.count(), 1);
+        QTRY_COMPARE(messages.count(), 1);
         QCOMPARE(messages.at(0).at(0).toString(), QString("Camera \"Simulated Camera\" is back."));
-        QCOMPARE(link.Session()->Format().Layout(), PixelLayout::Mono12);
-        QCOMPARE(link.Session()->Format().Region(), QRect(64, 32, 256, 128));
-        QCOMPARE(link.Session()->Controls().ExposureUs(), 5000.0);
+        QCOMPARE(link.Session()->Format().layout, PixelLayout::Mono12);
+        QCOMPARE(link.Session()->Format().region, QRect(64, 32, 256, 128));
+        QCOMPARE(link.Session()->Controls().exposureUs, 5000.0);
         QCOMPARE(link.Session()->SceneName(), TestChartScene::SceneName());
         QTRY_VERIFY(link.Counts().captured > capturedBefore + 1);
         link.StopFrames();
+    }
+
+    /// Lost a second time before it had its settings, it still gets those that the user knows.
+    void cameraLostOnItsWayBackKeepsItsSettings()
+    {
+        CameraLink link;
+        OpenSimulated(link);
+        link.SetRegion(QRect(64, 32, 256, 128));
+        QTRY_VERIFY(!link.Session()->IsSetting());
+        QSignalSpy messages(&link, SIGNAL(signalMessage(QString)));
+        bool isFirst = true;
+        connect(&link, &CameraLink::signalStateChanged, this, [&] {
+            if (link.GetState() == CameraLink::State::Open && std::exchange(isFirst, false))
+                emit link.Session()->signalControlLost();
+        });
+        emit link.Session()->signalControlLost();
+        QTRY_VERIFY(!messages.isEmpty());
+        QVERIFY(!isFirst);
+        QCOMPARE(messages.last().first().toString(), QString("Camera \"Simulated Camera\" is back."));
+        QCOMPARE(link.Session()->Format().region, QRect(64, 32, 256, 128));
+    }
+
+    /// Who asked is told when it is done, and what was refused.
+    void formatIsAnnouncedWhenTheCameraHasIt()
+    {
+        CameraLink link;
+        OpenSimulated(link);
+        QSignalSpy changed(&link, SIGNAL(signalFormatChanged()));
+        QSignalSpy messages(&link, SIGNAL(signalMessage(QString)));
+        link.SetBinning(2);
+        QCOMPARE(changed.count(), 0);
+        QVERIFY(changed.wait());
+        QCOMPARE(link.Session()->Format().binning, 2);
+        QVERIFY(messages.isEmpty());
+        link.SetBinning(7);
+        QVERIFY(changed.wait());
+        QCOMPARE(messages.count(), 1);
+        QVERIFY2(messages.first().first().toString().contains("7 x 7"),
+                 qPrintable(messages.first().first().toString()));
+        QCOMPARE(link.Session()->Format().binning, 2);
+        link.HoldFormat(true);
+        link.SetBinning(1);
+        QCOMPARE(changed.count(), 3);
+        QCOMPARE(messages.count(), 2);
+        QVERIFY(!link.Session()->IsSetting());
     }
 
     void previewThatWasStoppedMeanwhileStaysStopped()

@@ -2,9 +2,12 @@
 #include "camerasession.h"
 #include "framecollector.h"
 #include "guardedtest.h"
+#include "guiwatchdog.h"
 #include "testchartscene.h"
 
 #include <QElapsedTimer>
+#include <QSemaphore>
+#include <QSignalSpy>
 #include <cstring>
 
 /// The session on the simulated camera.
@@ -18,7 +21,7 @@ private slots:
 
     void OpensTheSimulatedCamera();
     void UnknownCameraIsToldInWords();
-    void ClosedSessionRefusesInWords();
+    void ClosedSessionRefuses();
     void FramesCarryTheTestChart_data();
     void FramesCarryTheTestChart();
     void RegionGrowsAndShrinksInARunningStream();
@@ -31,14 +34,23 @@ private slots:
     void FrameRateIsKept();
     void SceneChangesWhileRunning();
     void OpensAgainAfterClose();
-    void KnowsItsFeatures();
+    void SetsReturnAtOnceWhileTheCameraDoesNotAnswer();
+    void NewestOfManySetsWins();
+    void WhatWasSetBeforeAStartHoldsInIt();
+    void StopAndStartWhileTheCameraDoesNotAnswer();
+    void ClosedWithWorkThatWaits();
 
 private:
     void OpenWithChart();
+    /// Waits until the camera has taken all that was set.
+    void Settle();
+    /// The camera does not answer to anything until that is released.
+    void Block(QSemaphore *answer);
     static int WrongSamples(const CameraFrame &frame, const QRect &region);
 
     std::unique_ptr<CameraSession> m_session;
     FrameCollector m_frames;
+    QStringList m_faults;
 };
 
 void CameraSessionTest::init()
@@ -46,6 +58,14 @@ void CameraSessionTest::init()
     StartGuard();
     m_session = std::make_unique<CameraSession>();
     m_frames.Clear();
+    m_faults.clear();
+    const auto keepFault = [this](const QString &error) {
+        if (!error.isEmpty())
+            m_faults << error;
+    };
+    connect(m_session.get(), &CameraSession::signalControlSet, this, keepFault);
+    connect(m_session.get(), &CameraSession::signalFormatSet, this, keepFault);
+    connect(m_session.get(), &CameraSession::signalFramesFailed, this, keepFault);
 }
 
 void CameraSessionTest::cleanup()
@@ -61,6 +81,24 @@ void CameraSessionTest::OpenWithChart()
     QVERIFY(m_session->SetScene("testchart"));
     QString error;
     QVERIFY2(m_session->Open("Fake_1", &error), qPrintable(error));
+}
+
+void CameraSessionTest::Settle()
+{
+    QTRY_VERIFY_WITH_TIMEOUT(!m_session->IsSetting(), 20000);
+    QCOMPARE(m_faults, QStringList());
+}
+
+void CameraSessionTest::Block(QSemaphore *answer)
+{
+    QSemaphore isBlocked;
+    QVERIFY(m_session->TakeTurn(
+        [answer, &isBlocked](ArvCamera *) {
+            isBlocked.release();
+            answer->acquire();
+        },
+        this, [] {}));
+    QVERIFY(isBlocked.tryAcquire(1, 5000));
 }
 
 int CameraSessionTest::WrongSamples(const CameraFrame &frame, const QRect &region)
@@ -98,11 +136,11 @@ void CameraSessionTest::OpensTheSimulatedCamera()
     QCOMPARE(m_session->Info().serial, QString("1"));
     QCOMPARE(m_session->Info().interfaceName, QString("Fake"));
     QVERIFY(m_session->Info().firmware.startsWith("0.8"));
-    QCOMPARE(m_session->Format().Region(), QRect(0, 0, 2048, 2048));
-    QCOMPARE(m_session->Format().Layout(), PixelLayout::Mono8);
-    QCOMPARE(m_session->Format().Layouts(), QVector<PixelLayout>({ PixelLayout::Mono8, PixelLayout::Mono12,
+    QCOMPARE(m_session->Format().region, QRect(0, 0, 2048, 2048));
+    QCOMPARE(m_session->Format().layout, PixelLayout::Mono8);
+    QCOMPARE(m_session->Format().layouts, QVector<PixelLayout>({ PixelLayout::Mono8, PixelLayout::Mono12,
                                                                    PixelLayout::Mono16, PixelLayout::Rgb8 }));
-    QVERIFY(m_session->Controls().FrameRate() >= 25.0 && m_session->Controls().FrameRate() <= 30.0);
+    QVERIFY(m_session->Controls().frameRate >= 25.0 && m_session->Controls().frameRate <= 30.0);
 }
 
 void CameraSessionTest::UnknownCameraIsToldInWords()
@@ -114,13 +152,13 @@ void CameraSessionTest::UnknownCameraIsToldInWords()
     QVERIFY2(error.contains("Check that it is connected"), qPrintable(error));
 }
 
-void CameraSessionTest::ClosedSessionRefusesInWords()
+void CameraSessionTest::ClosedSessionRefuses()
 {
-    QString error;
-    QVERIFY(!m_session->Start(&m_frames, &error));
-    QCOMPARE(error, QString("No camera is open."));
-    QVERIFY(!m_session->SetRegion(QRect(0, 0, 10, 10)));
-    QVERIFY(!m_session->HasFeature("ExposureTimeAbs"));
+    QVERIFY(!m_session->Start(&m_frames));
+    m_session->SetRegion(QRect(0, 0, 10, 10));
+    m_session->SetGain(1);
+    QVERIFY(!m_session->IsSetting());
+    QVERIFY(!m_session->TakeTurn(nullptr, this, [] {}));
     m_session->Stop();
     m_session->Close();
     QVERIFY(!m_session->IsStreaming());
@@ -144,9 +182,10 @@ void CameraSessionTest::FramesCarryTheTestChart()
     QFETCH(PixelLayout, layout);
     QFETCH(QRect, region);
     OpenWithChart();
-    QVERIFY(m_session->SetPixelLayout(layout));
-    QVERIFY(m_session->SetRegion(region));
+    m_session->SetPixelLayout(layout);
+    m_session->SetRegion(region);
     QVERIFY(m_session->Start(&m_frames));
+    Settle();
     QVERIFY(m_frames.WaitFor(3));
     m_session->Stop();
 
@@ -164,20 +203,22 @@ void CameraSessionTest::FramesCarryTheTestChart()
 void CameraSessionTest::RegionGrowsAndShrinksInARunningStream()
 {
     OpenWithChart();
-    QVERIFY(m_session->SetRegion(QRect(100, 100, 64, 48)));
+    m_session->SetRegion(QRect(100, 100, 64, 48));
     QVERIFY(m_session->Start(&m_frames));
     for (const QRect region :
          { QRect(10, 30, 1024, 768), QRect(0, 0, 2048, 2048), QRect(501, 703, 33, 17) }) {
         QVERIFY(m_frames.WaitForMore(2));
-        QVERIFY(m_session->SetRegion(region));
+        m_session->SetRegion(region);
         QVERIFY(m_session->IsStreaming());
-        QCOMPARE(m_session->Format().Region(), region);
+        Settle();
+        QCOMPARE(m_session->Format().region, region);
         QVERIFY(m_frames.WaitForMore(2));
         const CameraFrame frame = m_frames.Last();
         QCOMPARE(QSize(frame.width, frame.height), region.size());
         QCOMPARE(WrongSamples(frame, region), 0);
     }
-    QVERIFY(m_session->SetPixelLayout(PixelLayout::Mono16));
+    m_session->SetPixelLayout(PixelLayout::Mono16);
+    Settle();
     QVERIFY(m_frames.WaitForMore(2));
     QCOMPARE(m_frames.Last().layout, PixelLayout::Mono16);
     m_session->Stop();
@@ -188,9 +229,9 @@ void CameraSessionTest::FrameIdsWrapWithoutLoss()
 {
     // The simulated camera starts to count a little before the end of the 16-bit ids.
     OpenWithChart();
-    QVERIFY(m_session->SetRegion(QRect(0, 0, 16, 16)));
-    QVERIFY(m_session->Controls().SetExposureUs(1000));
-    QVERIFY(m_session->Controls().SetFrameRate(1000));
+    m_session->SetRegion(QRect(0, 0, 16, 16));
+    m_session->SetExposureUs(1000);
+    m_session->SetFrameRate(1000);
     FrameCollector frames(2000);
     QVERIFY(m_session->Start(&frames));
     QVERIFY(frames.WaitFor(400, 20000));
@@ -209,7 +250,7 @@ void CameraSessionTest::FrameIdsWrapWithoutLoss()
 void CameraSessionTest::NothingComesBeforeStartOrAfterStop()
 {
     OpenWithChart();
-    QVERIFY(m_session->SetRegion(QRect(0, 0, 64, 64)));
+    m_session->SetRegion(QRect(0, 0, 64, 64));
     FrameCollector first;
     QVERIFY(m_session->Start(&first));
     QVERIFY(first.WaitFor(3));
@@ -231,7 +272,7 @@ void CameraSessionTest::NothingComesBeforeStartOrAfterStop()
 void CameraSessionTest::StartClearsTheLedger()
 {
     OpenWithChart();
-    QVERIFY(m_session->SetRegion(QRect(0, 0, 64, 64)));
+    m_session->SetRegion(QRect(0, 0, 64, 64));
     QVERIFY(m_session->Start(&m_frames));
     QVERIFY(m_frames.WaitFor(2));
     m_session->Ledger().AddLost(LossStage::SaveQueue, 5);
@@ -248,41 +289,51 @@ void CameraSessionTest::StartClearsTheLedger()
 void CameraSessionTest::ValuesStayInsideTheLimits()
 {
     OpenWithChart();
-    CameraControls &controls = m_session->Controls();
-    QCOMPARE(controls.ExposureRangeUs().minimum, 10.0);
-    QCOMPARE(controls.ExposureRangeUs().maximum, 1e7);
-    QCOMPARE(controls.GainRange().maximum, 10.0);
-    QVERIFY(controls.SetExposureUs(1));
-    QCOMPARE(controls.ExposureUs(), 10.0);
-    QVERIFY(controls.SetExposureUs(12345));
-    QCOMPARE(controls.ExposureUs(), 12345.0);
-    QVERIFY(controls.SetGain(99));
-    QCOMPARE(controls.Gain(), 10.0);
-    QVERIFY(controls.SetGain(-3));
-    QCOMPARE(controls.Gain(), 0.0);
-    QVERIFY(controls.SetExposureUs(10));
-    QVERIFY(controls.SetFrameRate(1e6));
-    QCOMPARE(controls.FrameRate(), 1000.0);
-    QVERIFY(m_session->SetRegion(QRect(2000, -10, 100, 5000)));
-    QCOMPARE(m_session->Format().Region(), QRect(1948, 0, 100, 2048));
+    const ControlValues &controls = m_session->Controls();
+    QCOMPARE(controls.exposureRangeUs.minimum, 10.0);
+    QCOMPARE(controls.exposureRangeUs.maximum, 1e7);
+    QCOMPARE(controls.gainRange.maximum, 10.0);
+    m_session->SetExposureUs(1);
+    Settle();
+    QCOMPARE(controls.exposureUs, 10.0);
+    m_session->SetExposureUs(12345);
+    Settle();
+    QCOMPARE(controls.exposureUs, 12345.0);
+    m_session->SetGain(99);
+    Settle();
+    QCOMPARE(controls.gain, 10.0);
+    m_session->SetGain(-3);
+    Settle();
+    QCOMPARE(controls.gain, 0.0);
+    m_session->SetExposureUs(10);
+    m_session->SetFrameRate(1e6);
+    Settle();
+    QCOMPARE(controls.frameRate, 1000.0);
+    m_session->SetRegion(QRect(2000, -10, 100, 5000));
+    Settle();
+    QCOMPARE(m_session->Format().region, QRect(1948, 0, 100, 2048));
 }
 
 void CameraSessionTest::ExposureBoundsTheFrameRate()
 {
     OpenWithChart();
-    CameraControls &controls = m_session->Controls();
-    QVERIFY(controls.SetFrameRate(100));
-    QVERIFY(controls.SetExposureUs(5000));
-    QCOMPARE(controls.FrameRate(), 100.0);
-    QVERIFY(controls.SetExposureUs(50000));
-    QCOMPARE(controls.FrameRate(), 20.0);
-    QVERIFY(controls.SetExposureUs(2e6));
-    QCOMPARE(controls.FrameRate(), 0.5);
-    QVERIFY(controls.SetExposureUs(5000)); // the wish comes back
-    QCOMPARE(controls.FrameRate(), 100.0);
+    const ControlValues &controls = m_session->Controls();
+    m_session->SetFrameRate(100);
+    m_session->SetExposureUs(5000);
+    Settle();
+    QCOMPARE(controls.frameRate, 100.0);
+    m_session->SetExposureUs(50000);
+    Settle();
+    QCOMPARE(controls.frameRate, 20.0);
+    m_session->SetExposureUs(2e6);
+    Settle();
+    QCOMPARE(controls.frameRate, 0.5);
+    m_session->SetExposureUs(5000); // the wish comes back
+    Settle();
+    QCOMPARE(controls.frameRate, 100.0);
 
-    QVERIFY(m_session->SetRegion(QRect(0, 0, 64, 64)));
-    QVERIFY(controls.SetExposureUs(50000));
+    m_session->SetRegion(QRect(0, 0, 64, 64));
+    m_session->SetExposureUs(50000);
     QVERIFY(m_session->Start(&m_frames));
     QVERIFY(m_frames.WaitFor(11));
     m_session->Stop();
@@ -294,8 +345,9 @@ void CameraSessionTest::ExposureBoundsTheFrameRate()
 void CameraSessionTest::LongExposureDelaysTheFirstFrameButNotTheStop()
 {
     OpenWithChart();
-    QVERIFY(m_session->SetRegion(QRect(0, 0, 64, 64)));
-    QVERIFY(m_session->Controls().SetExposureUs(1.2e6));
+    m_session->SetRegion(QRect(0, 0, 64, 64));
+    m_session->SetExposureUs(1.2e6);
+    Settle();
     QElapsedTimer timer;
     timer.start();
     QVERIFY(m_session->Start(&m_frames));
@@ -303,19 +355,21 @@ void CameraSessionTest::LongExposureDelaysTheFirstFrameButNotTheStop()
     QVERIFY2(timer.elapsed() > 1000, qPrintable(QString::number(timer.elapsed())));
 
     constexpr int ExposureMs = 10000;
-    QVERIFY(m_session->Controls().SetExposureUs(ExposureMs * 1000.0));
+    m_session->SetExposureUs(ExposureMs * 1000.0);
+    Settle();
     timer.restart();
     m_session->Stop();
-    QVERIFY(m_session->SetRegion(QRect(0, 0, 128, 128)));
+    m_session->SetRegion(QRect(0, 0, 128, 128));
+    Settle();
     QVERIFY2(timer.elapsed() < ExposureMs / 2, qPrintable(QString::number(timer.elapsed())));
 }
 
 void CameraSessionTest::FrameRateIsKept()
 {
     OpenWithChart();
-    QVERIFY(m_session->SetRegion(QRect(0, 0, 256, 256)));
-    QVERIFY(m_session->Controls().SetExposureUs(1000));
-    QVERIFY(m_session->Controls().SetFrameRate(50));
+    m_session->SetRegion(QRect(0, 0, 256, 256));
+    m_session->SetExposureUs(1000);
+    m_session->SetFrameRate(50);
     QVERIFY(m_session->Start(&m_frames));
     QVERIFY(m_frames.WaitFor(41, 20000));
     m_session->Stop();
@@ -327,7 +381,7 @@ void CameraSessionTest::FrameRateIsKept()
 void CameraSessionTest::SceneChangesWhileRunning()
 {
     OpenWithChart();
-    QVERIFY(m_session->SetRegion(QRect(0, 0, 64, 64)));
+    m_session->SetRegion(QRect(0, 0, 64, 64));
     QVERIFY(m_session->Start(&m_frames));
     QVERIFY(m_frames.WaitFor(2));
     QCOMPARE(WrongSamples(m_frames.Last(), QRect(0, 0, 64, 64)), 0);
@@ -342,7 +396,7 @@ void CameraSessionTest::OpensAgainAfterClose()
 {
     for (int round = 0; round < 5; ++round) {
         OpenWithChart();
-        QVERIFY(m_session->SetRegion(QRect(0, 0, 64, 64)));
+        m_session->SetRegion(QRect(0, 0, 64, 64));
         m_frames.Clear();
         QVERIFY(m_session->Start(&m_frames));
         QVERIFY(m_frames.WaitFor(2));
@@ -352,12 +406,162 @@ void CameraSessionTest::OpensAgainAfterClose()
     }
 }
 
-void CameraSessionTest::KnowsItsFeatures()
+void CameraSessionTest::SetsReturnAtOnceWhileTheCameraDoesNotAnswer()
 {
     OpenWithChart();
-    QVERIFY(m_session->HasFeature("ExposureTimeAbs"));
-    QVERIFY(m_session->HasFeature("Width"));
-    QVERIFY(!m_session->HasFeature("DeviceTemperature"));
+    m_session->SetRegion(QRect(0, 0, 64, 64));
+    QVERIFY(m_session->Start(&m_frames));
+    Settle();
+    QVERIFY(m_frames.WaitFor(1));
+    const ControlValues before = m_session->Controls();
+    QSemaphore answer;
+    Block(&answer);
+
+    GuiWatchdog watchdog;
+    m_session->SetExposureUs(1);
+    m_session->SetGain(99);
+    m_session->SetFrameRate(12);
+    m_session->SetRegion(QRect(10, 10, 32, 32));
+    m_session->SetBinning(2);
+    m_session->SetPixelLayout(PixelLayout::Mono12);
+    m_session->Refresh();
+    QVERIFY(m_session->IsSetting());
+    int beats = 0;
+    QTimer beat;
+    connect(&beat, &QTimer::timeout, this, [&beats] { ++beats; });
+    beat.start(10);
+    QTRY_VERIFY(beats >= 50); // the window lives on
+    QVERIFY2(watchdog.LongestMs() < 50, watchdog.Text("a camera that does not answer"));
+    // What was known of it can be read all the time.
+    QVERIFY(m_session->Controls().HasSameSettings(before));
+    QCOMPARE(m_session->Format().region, QRect(0, 0, 64, 64));
+    QVERIFY(m_session->IsSetting());
+
+    QSignalSpy controlSet(m_session.get(), &CameraSession::signalControlSet);
+    QSignalSpy formatSet(m_session.get(), &CameraSession::signalFormatSet);
+    answer.release();
+    Settle();
+    QCOMPARE(controlSet.count(), 3);
+    QCOMPARE(formatSet.count(), 3);
+    QCOMPARE(m_session->Controls().exposureUs, 10.0); // as clamped
+    QCOMPARE(m_session->Controls().gain, 10.0);
+    QCOMPARE(m_session->Controls().frameRate, 12.0);
+    QCOMPARE(m_session->Format().region, QRect(10, 10, 32, 32));
+    QCOMPARE(m_session->Format().binning, 2);
+    QCOMPARE(m_session->Format().layout, PixelLayout::Mono12);
+    QVERIFY(m_frames.WaitForMore(2));
+    QCOMPARE(QSize(m_frames.Last().width, m_frames.Last().height), QSize(16, 16));
+}
+
+void CameraSessionTest::NewestOfManySetsWins()
+{
+    OpenWithChart();
+    QSemaphore answer;
+    Block(&answer);
+    QSignalSpy set(m_session.get(), &CameraSession::signalControlSet);
+    QSignalSpy changed(m_session.get(), &CameraSession::signalControlsChanged);
+    QSignalSpy formatSet(m_session.get(), &CameraSession::signalFormatSet);
+    for (int i = 1; i <= 100; ++i) {
+        m_session->SetExposureUs(1000 + i);
+        m_session->SetGain(i / 100.0);
+        for (const QString side : { "left", "top" })
+            m_session->ChangeRegion(side, [side, i](const QRect &region) {
+                return side == "left" ? QRect(i, region.y(), 64, 64) : QRect(region.x(), 2 * i, 64, 64);
+            });
+    }
+    answer.release();
+    Settle();
+    QCOMPARE(set.count(), 2); // one of each setting
+    QCOMPARE(formatSet.count(), 2);
+    QCOMPARE(changed.count(), 2);
+    QCOMPARE(m_session->Controls().exposureUs, 1100.0);
+    QCOMPARE(m_session->Controls().gain, 1.0);
+    QCOMPARE(m_session->Format().region, QRect(100, 200, 64, 64)); // the one side counts with the other
+}
+
+void CameraSessionTest::WhatWasSetBeforeAStartHoldsInIt()
+{
+    OpenWithChart();
+    QSemaphore answer;
+    Block(&answer);
+    m_session->SetRegion(QRect(0, 0, 64, 48));
+    m_session->SetExposureUs(1000);
+    m_session->SetExposureUs(2000);
+    double exposureAtTurn = 0;
+    QRect regionAtTurn;
+    QVERIFY(m_session->TakeTurn(nullptr, this, [&] {
+        exposureAtTurn = m_session->Controls().exposureUs;
+        regionAtTurn = m_session->Format().region;
+    }));
+    QVERIFY(m_session->Start(&m_frames));
+    m_session->SetExposureUs(3000); // too late for that turn
+    answer.release();
+    Settle();
+    QCOMPARE(exposureAtTurn, 2000.0);
+    QCOMPARE(regionAtTurn, QRect(0, 0, 64, 48));
+    QCOMPARE(m_session->Controls().exposureUs, 3000.0);
+    QVERIFY(m_frames.WaitFor(2));
+    for (const CameraFrame &frame : m_frames.Frames())
+        QCOMPARE(QSize(frame.width, frame.height), QSize(64, 48));
+}
+
+void CameraSessionTest::StopAndStartWhileTheCameraDoesNotAnswer()
+{
+    OpenWithChart();
+    m_session->SetRegion(QRect(0, 0, 64, 64));
+    QVERIFY(m_session->Start(&m_frames));
+    QVERIFY(m_frames.WaitFor(2));
+    QSemaphore answer;
+    Block(&answer);
+    QElapsedTimer timer;
+    timer.start();
+    m_session->Stop();
+    const size_t countAtStop = m_frames.Count();
+    FrameCollector never;
+    QVERIFY(m_session->Start(&never));
+    QCOMPARE(m_session->MillisecondsSinceLastFrame(), qint64(0));
+    FrameCollector last;
+    QVERIFY(m_session->Start(&last));
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    answer.release();
+    QVERIFY(last.WaitFor(3));
+    m_session->Stop();
+    QCOMPARE(m_frames.Count(), countAtStop);
+    QCOMPARE(never.Count(), size_t(0));
+    QCOMPARE(m_session->Ledger().Counts().captured, quint64(last.Count()));
+}
+
+void CameraSessionTest::ClosedWithWorkThatWaits()
+{
+    OpenWithChart();
+    m_session->SetRegion(QRect(0, 0, 64, 64));
+    QVERIFY(m_session->Start(&m_frames));
+    QVERIFY(m_frames.WaitFor(1));
+    QSemaphore answer;
+    Block(&answer);
+    const auto owned = std::make_shared<int>(0);
+    bool isDone = false;
+    QVERIFY(m_session->TakeTurn([owned](ArvCamera *) { ++*owned; }, this, [&isDone] { isDone = true; }));
+    m_session->SetExposureUs(1000);
+    QVERIFY(m_session->Start(&m_frames));
+    QSignalSpy set(m_session.get(), &CameraSession::signalControlSet);
+    QElapsedTimer timer;
+    timer.start();
+    m_session->Close();
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(!m_session->IsSetting());
+    QCOMPARE(owned.use_count(), 1L); // what waited is gone
+    const size_t countAtClose = m_frames.Count();
+    OpenWithChart(); // another camera need not wait for it
+    m_session->SetGain(2);
+    Settle();
+    answer.release();
+    QVERIFY(CameraSession::WaitForTeardown(10000));
+    QCoreApplication::processEvents();
+    QCOMPARE(*owned, 0);
+    QVERIFY(!isDone);
+    QCOMPARE(set.count(), 1);
+    QCOMPARE(m_frames.Count(), countAtClose);
 }
 
 GUARDED_TEST_MAIN(CameraSessionTest)

@@ -5,6 +5,7 @@
 #include "camerasession.h"
 #include "framecollector.h"
 #include "guardedtest.h"
+#include "guiwatchdog.h"
 #include "simulatedsensor.h"
 #include "testchartscene.h"
 
@@ -23,6 +24,7 @@ private slots:
     void DiscoveryFindsIt();
     void FramesCarryTheTestChart();
     void LostPacketsAreCounted();
+    void SilentCameraIsToldInWordsAndBlocksNothing();
     void LostCameraIsToldAndBlocksNothing();
 
 private:
@@ -63,7 +65,9 @@ void GigECameraSessionTest::Connect()
 {
     QString error;
     QVERIFY2(m_session->Open(Id, &error), qPrintable(error));
-    QVERIFY(m_session->SetRegion(QRect(0, 0, 512, 512)));
+    m_session->SetRegion(QRect(0, 0, 512, 512));
+    QTRY_VERIFY_WITH_TIMEOUT(!m_session->IsSetting(), 20000);
+    QCOMPARE(m_session->Format().region, QRect(0, 0, 512, 512));
 }
 
 void GigECameraSessionTest::DiscoveryFindsIt()
@@ -119,6 +123,31 @@ void GigECameraSessionTest::LostPacketsAreCounted()
              quint64(m_frames.Count())); // what is incomplete is not delivered
 }
 
+/// Before anybody knows that it is gone.
+void GigECameraSessionTest::SilentCameraIsToldInWordsAndBlocksNothing()
+{
+    Connect();
+    QSignalSpy set(m_session.get(), &CameraSession::signalControlSet);
+    QSignalSpy failed(m_session.get(), &CameraSession::signalFramesFailed);
+    g_clear_object(&m_camera); // pulls the plug
+    GuiWatchdog watchdog;
+    const ControlValues before = m_session->Controls();
+    for (int i = 1; i <= 50; ++i)
+        m_session->SetExposureUs(1000 * i);
+    QVERIFY(m_session->Start(&m_frames));
+    QVERIFY(m_session->IsStreaming());
+    QVERIFY(set.isEmpty());
+    QTRY_COMPARE_WITH_TIMEOUT(failed.count(), 1, 60000);
+    QVERIFY(!m_session->IsStreaming());
+    QVERIFY2(failed.first().first().toString().contains("again"), qPrintable(failed.first().first().toString()));
+    QVERIFY(set.count() >= 1 && set.count() <= 2); // the one on its way, and the newest
+    for (const QList<QVariant> &answer : set)
+        QVERIFY2(answer.first().toString().startsWith("The exposure could not be set: "),
+                 qPrintable(answer.first().toString()));
+    QVERIFY(m_session->Controls().HasSameSettings(before)); // what was known stays
+    QVERIFY2(watchdog.LongestMs() < 50, watchdog.Text("a silent camera"));
+}
+
 void GigECameraSessionTest::LostCameraIsToldAndBlocksNothing()
 {
     Connect();
@@ -132,10 +161,16 @@ void GigECameraSessionTest::LostCameraIsToldAndBlocksNothing()
 
     QElapsedTimer timer;
     timer.start();
-    QString error;
-    QVERIFY(!m_session->Controls().SetExposureUs(20000, &error));
-    QVERIFY2(error.contains("does not answer"), qPrintable(error));
-    QVERIFY(!m_session->SetRegion(QRect(0, 0, 64, 64), &error));
+    QSignalSpy controlSet(m_session.get(), &CameraSession::signalControlSet);
+    QSignalSpy formatSet(m_session.get(), &CameraSession::signalFormatSet);
+    m_session->SetExposureUs(20000);
+    m_session->SetRegion(QRect(0, 0, 64, 64));
+    QTRY_VERIFY(!m_session->IsSetting());
+    for (const QSignalSpy *answers : { &controlSet, &formatSet }) {
+        QCOMPARE(answers->count(), 1);
+        QVERIFY2(answers->first().first().toString().contains("does not answer"),
+                 qPrintable(answers->first().first().toString()));
+    }
     m_session->Stop();
     m_session->Close();
     constexpr int UnansweredCallMs = 2500;

@@ -73,29 +73,38 @@ private slots:
     {
         CameraSession session;
         QVERIFY(Open(&session));
-        CameraControls &controls = session.Controls();
-        QVERIFY(controls.HasAutoExposure() && controls.HasAutoGain());
-        QVERIFY(!controls.IsAutoExposure() && !controls.IsAutoGain());
-        QString error;
-        QVERIFY2(controls.SetAutoExposure(true, &error), qPrintable(error));
-        QVERIFY2(controls.SetAutoGain(true, &error), qPrintable(error));
-        QVERIFY(controls.IsAutoExposure() && controls.IsAutoGain());
+        const ControlValues &controls = session.Controls();
+        QVERIFY(controls.hasAutoExposure && controls.hasAutoGain);
+        QVERIFY(!controls.isAutoExposure && !controls.isAutoGain);
+        QSignalSpy set(&session, &CameraSession::signalControlSet);
+        session.SetAutoExposure(true);
+        session.SetAutoGain(true);
+        Settle(session, set);
+        QVERIFY(controls.isAutoExposure && controls.isAutoGain);
         QCOMPARE(Register(ExposureAutoRegister), Continuous);
         QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_GAIN_MODE), Continuous);
 
         Put(ARV_FAKE_CAMERA_REGISTER_EXPOSURE_TIME_US, 4321); // the camera finds others
         Put(ARV_FAKE_CAMERA_REGISTER_GAIN_RAW, 7);
-        controls.Refresh();
-        QCOMPARE(controls.ExposureUs(), 4321.0);
-        QCOMPARE(controls.Gain(), 7.0);
+        QSignalSpy changed(&session, &CameraSession::signalControlsChanged);
+        session.Refresh();
+        QTRY_COMPARE(changed.count(), 1);
+        QCOMPARE(controls.exposureUs, 4321.0);
+        QCOMPARE(controls.gain, 7.0);
+        session.Refresh();
+        WaitForTurn(session);
+        QCOMPARE(changed.count(), 1); // nothing new
 
-        QVERIFY(controls.SetAutoExposure(false) && controls.SetAutoGain(false));
+        session.SetAutoExposure(false);
+        session.SetAutoGain(false);
+        Settle(session, set);
         QCOMPARE(Register(ExposureAutoRegister), Off);
         QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_GAIN_MODE), Off);
-        QCOMPARE(controls.ExposureUs(), 4321.0); // what it has found stays
+        QCOMPARE(controls.exposureUs, 4321.0); // what it has found stays
         Put(ARV_FAKE_CAMERA_REGISTER_EXPOSURE_TIME_US, 999);
-        controls.Refresh();
-        QCOMPARE(controls.ExposureUs(), 4321.0); // and is not asked for again
+        session.Refresh();
+        WaitForTurn(session);
+        QCOMPARE(controls.exposureUs, 4321.0); // and is not asked for again
     }
 
     void whatTheCameraHasNotIsNotOffered()
@@ -104,31 +113,35 @@ private slots:
         StartCamera(QString());
         CameraSession session;
         QVERIFY(Open(&session));
-        QVERIFY(!session.Controls().HasAutoExposure());
-        QVERIFY(!session.Controls().SetAutoExposure(true));
-        QVERIFY(session.Controls().HasAutoGain());
+        QVERIFY(!session.Controls().hasAutoExposure);
+        session.SetAutoExposure(true);
+        QTRY_VERIFY(!session.IsSetting());
+        QVERIFY(!session.Controls().isAutoExposure);
+        QVERIFY(session.Controls().hasAutoGain);
     }
 
     void binningsAreTheCameras()
     {
         CameraSession session;
         QVERIFY(Open(&session));
-        QCOMPARE(session.Format().Binnings(), QVector<int>({ 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16 }));
-        QVERIFY(session.SetRegion(QRect(0, 0, 510, 300)));
-        QString error;
-        QVERIFY2(session.SetBinning(3, &error), qPrintable(error));
+        QCOMPARE(session.Format().binnings, QVector<int>({ 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16 }));
+        QSignalSpy set(&session, &CameraSession::signalFormatSet);
+        session.SetRegion(QRect(0, 0, 510, 300));
+        session.SetBinning(3);
+        Settle(session, set);
         QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_BINNING_HORIZONTAL), 3u);
         QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_BINNING_VERTICAL), 3u);
-        QCOMPARE(session.Format().Region(), QRect(0, 0, 510, 300)); // in pixels of the sensor
+        QCOMPARE(session.Format().region, QRect(0, 0, 510, 300)); // in pixels of the sensor
         QCOMPARE(session.Format().FrameSize(), QSize(170, 100));
         FrameCollector frames;
         QVERIFY(session.Start(&frames));
         QVERIFY(frames.WaitFor(3, MsToWait));
         session.Stop();
         QCOMPARE(QSize(frames.Last().width, frames.Last().height), QSize(170, 100));
-        QVERIFY(!session.SetBinning(17, &error));
-        QVERIFY2(error.contains("17 x 17"), qPrintable(error));
-        QCOMPARE(session.Format().Binning(), 3);
+        session.SetBinning(17);
+        QVERIFY(set.wait());
+        QVERIFY2(set.last().first().toString().contains("17 x 17"), qPrintable(set.last().first().toString()));
+        QCOMPARE(session.Format().binning, 3);
     }
 
     /// It was switched off and on meanwhile, and knows nothing any more.
@@ -139,19 +152,22 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(link.GetState(), CameraLink::State::Open, MsToWait);
         link.SetBinning(2);
         link.SetRegion(QRect(0, 0, 256, 128));
-        QVERIFY(link.Session()->Controls().SetAutoExposure(true));
-        QVERIFY(link.Session()->Controls().SetAutoGain(true));
+        QSignalSpy set(link.Session(), &CameraSession::signalControlSet);
+        link.Session()->SetAutoExposure(true);
+        link.Session()->SetAutoGain(true);
+        Settle(*link.Session(), set);
         QSignalSpy messages(&link, SIGNAL(signalMessage(QString)));
         g_clear_object(&m_camera);
         StartCamera(m_folder.filePath("features.xml"));
         QVERIFY(Register(ARV_FAKE_CAMERA_REGISTER_GAIN_MODE) != Continuous);
         emit link.Session()->signalControlLost();
         QTRY_COMPARE_WITH_TIMEOUT(link.GetState(), CameraLink::State::Open, MsToWait);
-        QVERIFY(link.Session()->Controls().IsAutoExposure() && link.Session()->Controls().IsAutoGain());
+        QTRY_VERIFY_WITH_TIMEOUT(!messages.isEmpty(), MsToWait);
+        QVERIFY(link.Session()->Controls().isAutoExposure && link.Session()->Controls().isAutoGain);
         QCOMPARE(Register(ExposureAutoRegister), Continuous);
         QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_GAIN_MODE), Continuous);
         QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_BINNING_HORIZONTAL), 2u);
-        QCOMPARE(link.Session()->Format().Region(), QRect(0, 0, 256, 128));
+        QCOMPARE(link.Session()->Format().region, QRect(0, 0, 256, 128));
         QVERIFY2(messages.last().first().toString().endsWith("is back."),
                  qPrintable(messages.last().first().toString()));
         link.Close();
@@ -176,6 +192,22 @@ private:
         if (!isOpen)
             qWarning("%s", qPrintable(error));
         return isOpen;
+    }
+
+    /// Until all that was set is answered, and without a fault.
+    static void Settle(const CameraSession &session, const QSignalSpy &answers)
+    {
+        QTRY_VERIFY_WITH_TIMEOUT(!session.IsSetting(), MsToWait);
+        for (const QList<QVariant> &answer : answers)
+            QCOMPARE(answer.first().toString(), QString());
+    }
+
+    /// Until the camera was asked for all that it was to be asked for.
+    void WaitForTurn(CameraSession &session)
+    {
+        bool isDone = false;
+        QVERIFY(session.TakeTurn(nullptr, this, [&isDone] { isDone = true; }));
+        QTRY_VERIFY_WITH_TIMEOUT(isDone, MsToWait);
     }
 
     void Put(guint64 address, quint32 value)

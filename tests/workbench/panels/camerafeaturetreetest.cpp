@@ -6,6 +6,7 @@
 #include "guardedtest.h"
 
 #include <QAbstractItemModel>
+#include <QSemaphore>
 #include <QSignalSpy>
 
 #include <memory>
@@ -109,7 +110,7 @@ private slots:
         m_tree->Set(Value("Width"), 100);
         m_tree->Set(Value("TestRegister"), 9);
         QTRY_COMPARE(Value("TestRegister").data().toString(), QString("9"));
-        QCOMPARE(m_link->Session()->Format().Region().width(), 2048);
+        QCOMPARE(m_link->Session()->Format().region.width(), 2048);
         QCOMPARE(Value("Width").data().toString(), QString("2048"));
     }
 
@@ -118,13 +119,47 @@ private slots:
     {
         OpenCamera();
         m_tree->SetWatched(true);
+        QTRY_VERIFY(Value("TestRegister").isValid());
         for (int i = 1; i <= 200; ++i) {
-            QVERIFY(m_link->Session()->Controls().SetExposureUs(1000 + i));
+            m_link->Session()->SetExposureUs(1000 + i);
             m_tree->Set(Value("TestRegister"), i);
             QCoreApplication::processEvents();
         }
         QTRY_COMPARE(Value("TestRegister").data().toString(), QString("200"));
         QTRY_VERIFY(Value("ExposureTimeAbs").data(FeatureTree::ValueRole).toDouble() == 1200.0);
+        QCOMPARE(m_link->Session()->Controls().exposureUs, 1200.0);
+    }
+
+    void commandsAreAllCarriedOutAndOfValuesTheNewest()
+    {
+        OpenCamera();
+        m_tree->SetWatched(true);
+        QTRY_VERIFY(Value("TestRegister").isValid());
+        QSemaphore answer;
+        QVERIFY(m_link->Session()->TakeTurn([&answer](ArvCamera *) { answer.acquire(); }, this, [] {}));
+        QSignalSpy fault(m_tree.get(), &FeatureTree::signalFault); // one for each that was carried out
+        for (int i = 1; i <= 20; ++i)
+            m_tree->Set(Value("TestRegister"), i);
+        for (int i = 0; i < 3; ++i)
+            m_tree->Set(Value("TriggerSoftware"), QVariant());
+        QCOMPARE(fault.count(), 0);
+        answer.release();
+        QTRY_COMPARE(Value("TestRegister").data().toString(), QString("20"));
+        QTRY_COMPARE(fault.count(), 4);
+    }
+
+    /// Nobody waits for what is being read.
+    void treeMayGoWhileTheCameraDoesNotAnswer()
+    {
+        OpenCamera();
+        QSemaphore answer;
+        QVERIFY(m_link->Session()->TakeTurn([&answer](ArvCamera *) { answer.acquire(); }, this, [] {}));
+        m_tree->SetWatched(true);
+        m_tree.reset();
+        bool isDone = false;
+        QVERIFY(m_link->Session()->TakeTurn(nullptr, this, [&isDone] { isDone = true; }));
+        answer.release();
+        QTRY_VERIFY(isDone);
     }
 
     void cameraMayGoWhileItIsRead()

@@ -7,6 +7,7 @@
 #include "guardedtest.h"
 #include "regionofinterest.h"
 
+#include <QSemaphore>
 #include <QSignalSpy>
 
 #include <memory>
@@ -27,11 +28,16 @@ private slots:
     void formatsAreThoseOfTheCamera();
     void regionIsFittedToTheSensor_data();
     void regionIsFittedToTheSensor();
+    void whatIsWishedIsShownUntilTheCameraAnswers();
+    void refusedWishIsTakenBack();
+    void sidesOfTheRegionThatWaitCountTogether();
     void whatTheCameraLacksIsDisabled();
     void otherCameraIsAskedFor();
 
 private:
     void OpenCamera();
+    /// Waits until the camera has answered to all that was set.
+    void Settle();
     PanelField Field(const QString &key) const;
     QStringList Keys() const;
 
@@ -64,6 +70,11 @@ void CameraFieldsTest::OpenCamera()
 {
     m_link->Open(SimulatedCameraInfo().id);
     QTRY_COMPARE(m_link->GetState(), CameraLink::State::Open);
+}
+
+void CameraFieldsTest::Settle()
+{
+    QTRY_VERIFY(!m_link->Session()->IsSetting());
 }
 
 PanelField CameraFieldsTest::Field(const QString &key) const
@@ -112,11 +123,12 @@ void CameraFieldsTest::valuesAreTheCamerasOwn()
     QFETCH(double, value);
     OpenCamera();
     m_fields->Set(key, value);
+    Settle();
     QCOMPARE(Field(key).value.toDouble(), value);
-    const CameraControls &controls = m_link->Session()->Controls();
-    const double told = key == "exposure" ? controls.ExposureUs() / 1000
-                        : key == "gain"   ? controls.Gain()
-                                          : controls.FrameRate();
+    const ControlValues &controls = m_link->Session()->Controls();
+    const double told = key == "exposure" ? controls.exposureUs / 1000
+                        : key == "gain"   ? controls.gain
+                                          : controls.frameRate;
     QCOMPARE(told, value);
 }
 
@@ -138,7 +150,10 @@ void CameraFieldsTest::valuesBeyondTheLimitsAreTheLimits()
     QFETCH(double, set);
     QFETCH(double, taken);
     OpenCamera();
+    QSignalSpy changed(m_fields.get(), &FieldSource::signalChanged);
     m_fields->Set(key, set);
+    QVERIFY(changed.wait());
+    Settle();
     QCOMPARE(Field(key).value.toDouble(), taken);
     QVERIFY(taken == Field(key).minimum || taken == Field(key).maximum);
 }
@@ -146,17 +161,21 @@ void CameraFieldsTest::valuesBeyondTheLimitsAreTheLimits()
 void CameraFieldsTest::formatsAreThoseOfTheCamera()
 {
     OpenCamera();
-    const CameraFormat &format = m_link->Session()->Format();
-    QCOMPARE(Field("pixelFormat").choices.size(), format.Layouts().size());
-    const int mono12 = format.Layouts().indexOf(PixelLayout::Mono12);
+    const FormatValues &format = m_link->Session()->Format();
+    QCOMPARE(Field("pixelFormat").choices.size(), format.layouts.size());
+    const int mono12 = format.layouts.indexOf(PixelLayout::Mono12);
     m_fields->Set("pixelFormat", mono12);
-    QCOMPARE(m_link->Session()->Format().Layout(), PixelLayout::Mono12);
+    Settle();
+    QCOMPARE(format.layout, PixelLayout::Mono12);
     QCOMPARE(Field("pixelFormat").value.toInt(), mono12);
     m_fields->Set("pixelFormat", 1000);
     m_fields->Set("pixelFormat", -1);
-    QCOMPARE(m_link->Session()->Format().Layout(), PixelLayout::Mono12);
-    m_fields->Set("binning", format.Binnings().indexOf(2));
-    QCOMPARE(m_link->Session()->Format().FrameSize(), QSize(1024, 1024));
+    QVERIFY(!m_link->Session()->IsSetting());
+    QCOMPARE(format.layout, PixelLayout::Mono12);
+    QCOMPARE(Field("pixelFormat").value.toInt(), mono12);
+    m_fields->Set("binning", format.binnings.indexOf(2));
+    Settle();
+    QCOMPARE(format.FrameSize(), QSize(1024, 1024));
 }
 
 void CameraFieldsTest::regionIsFittedToTheSensor_data()
@@ -182,12 +201,66 @@ void CameraFieldsTest::regionIsFittedToTheSensor()
     OpenCamera();
     m_link->SetRegion(QRect(1024, 512, 512, 256));
     m_fields->Set(key, value);
-    QCOMPARE(m_link->Session()->Format().Region(), region);
+    Settle();
+    QCOMPARE(m_link->Session()->Format().region, region);
     QCOMPARE(Field("left").value.toInt(), region.left());
     QCOMPARE(Field("width").value.toInt(), region.width());
     m_fields->Set("fullSensor", QVariant());
-    QCOMPARE(m_link->Session()->Format().Region(), QRect(0, 0, 2048, 2048));
+    Settle();
+    QCOMPARE(m_link->Session()->Format().region, QRect(0, 0, 2048, 2048));
     QVERIFY(!Field("fullSensor").isEnabled);
+}
+
+void CameraFieldsTest::whatIsWishedIsShownUntilTheCameraAnswers()
+{
+    OpenCamera();
+    QSemaphore answer;
+    QVERIFY(m_link->Session()->TakeTurn([&answer](ArvCamera *) { answer.acquire(); }, this, [] {}));
+    // Each step on an arrow counts from the one before.
+    for (int i = 0; i < 5; ++i)
+        m_fields->Set("gain", Field("gain").value.toDouble() + 1);
+    QCOMPARE(Field("gain").value.toDouble(), 5.0);
+    m_fields->Set("exposure", 99999.0);
+    QCOMPARE(Field("exposure").value.toDouble(), 10000.0);
+    m_fields->Set("binning", 1);
+    QCOMPARE(Field("binning").value.toInt(), 1);
+    QCOMPARE(m_link->Session()->Controls().gain, 0.0);
+    QCOMPARE(m_link->Session()->Format().binning, 1);
+
+    QSignalSpy fault(m_fields.get(), &FieldSource::signalFault);
+    answer.release();
+    Settle();
+    QCOMPARE(m_link->Session()->Controls().gain, 5.0);
+    QCOMPARE(m_link->Session()->Controls().exposureUs, 1e7);
+    QCOMPARE(m_link->Session()->Format().binning, 2);
+    for (const QList<QVariant> &text : fault)
+        QCOMPARE(text.first().toString(), QString());
+    // From now on the camera's own values count again.
+    m_link->Session()->SetGain(1);
+    Settle();
+    QCOMPARE(Field("gain").value.toDouble(), 1.0);
+}
+
+void CameraFieldsTest::refusedWishIsTakenBack()
+{
+    OpenCamera();
+    m_link->HoldFormat(true);
+    QSignalSpy changed(m_fields.get(), &FieldSource::signalChanged);
+    m_fields->Set("width", 100);
+    QVERIFY(changed.count() > 0);
+    QCOMPARE(Field("width").value.toInt(), 2048);
+}
+
+void CameraFieldsTest::sidesOfTheRegionThatWaitCountTogether()
+{
+    OpenCamera();
+    m_link->SetRegion(QRect(0, 0, 512, 256));
+    m_fields->Set("left", 100);
+    m_fields->Set("left", 120);
+    m_fields->Set("top", 60);
+    m_fields->Set("height", 300);
+    Settle();
+    QCOMPARE(m_link->Session()->Format().region, QRect(120, 60, 512, 300));
 }
 
 void CameraFieldsTest::whatTheCameraLacksIsDisabled()

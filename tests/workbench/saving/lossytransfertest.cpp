@@ -59,7 +59,8 @@ private slots:
         m_session = std::make_unique<CameraSession>();
         QString error;
         QVERIFY2(m_session->Open("Aravis-Fake-WB8", &error), qPrintable(error));
-        QVERIFY(m_session->SetRegion(QRect(QPoint(0, 0), Size)));
+        m_session->SetRegion(QRect(QPoint(0, 0), Size));
+        QTRY_COMPARE_WITH_TIMEOUT(m_session->Format().region.size(), Size, MsToWait);
         m_saving = std::make_unique<FrameSaving>(RunRegister(m_folder->filePath("register")));
         m_ended = std::make_unique<QSignalSpy>(m_saving.get(), SIGNAL(signalRunEnded(RunReceipt)));
     }
@@ -111,7 +112,7 @@ private:
     {
         RunOrder order;
         order.facts.frameSize = Size;
-        order.facts.layout = m_session->Format().Layout();
+        order.facts.layout = m_session->Format().layout;
         order.path = m_folder->filePath("run.tif");
         order.settings.mode = RecordingSettings::Mode::UntilStopped;
         QSignalSpy seconds(m_saving.get(), SIGNAL(signalUpdateTotalTime(int)));

@@ -14,6 +14,7 @@
 #include "testchartscene.h"
 
 #include <QDir>
+#include <QSemaphore>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -40,8 +41,8 @@ private slots:
         m_parts->link.Open(SimulatedCameraInfo().id);
         QTRY_COMPARE_WITH_TIMEOUT(m_parts->link.GetState(), CameraLink::State::Open, MsToWait);
         m_parts->link.SetRegion(Region);
-        m_parts->link.Session()->Controls().SetExposureUs(1000);
-        m_parts->link.Session()->Controls().SetFrameRate(200);
+        m_parts->link.Session()->SetExposureUs(1000);
+        m_parts->link.Session()->SetFrameRate(200);
         QVERIFY(m_parts->preview.StartPreview());
         m_ended = std::make_unique<QSignalSpy>(Desk(), SIGNAL(signalRunEnded(RunReceipt)));
     }
@@ -133,10 +134,57 @@ private slots:
         QVERIFY(!receipt.IsWhole());
         CompareWithTheChart(receipt, receipt.stamps.size());
         QTRY_COMPARE_WITH_TIMEOUT(m_parts->link.GetState(), CameraLink::State::Open, MsToWait);
-        QCOMPARE(m_parts->link.Session()->Format().Region(), Region);
-        QCOMPARE(m_parts->link.Session()->Controls().ExposureUs(), 1000.0);
+        QTRY_COMPARE_WITH_TIMEOUT(m_parts->link.Session()->Format().region, Region, MsToWait);
+        QTRY_COMPARE_WITH_TIMEOUT(m_parts->link.Session()->Controls().exposureUs, 1000.0, MsToWait);
         Desk()->slotCapture(false, true); // and it records again
         QVERIFY(Receipt().IsWhole());
+    }
+
+    /// It begins with what was set until then, though the camera is slow to take it.
+    void whatWasSetBeforeItBeginsIsInTheFile()
+    {
+        QSemaphore answer;
+        CameraSession *session = m_parts->link.Session();
+        QTRY_VERIFY(!session->IsSetting());
+        QVERIFY(session->TakeTurn([&answer](ArvCamera *) { answer.acquire(); }, this, [] {}));
+        constexpr QRect NewRegion(100, 200, 48, 16);
+        m_parts->link.SetRegion(NewRegion);
+        session->SetExposureUs(2000);
+        Set(RecordingSettings::Mode::Count, 5);
+        Desk()->slotCapture(false, false);
+        QVERIFY(Desk()->IsBusy());
+        QVERIFY(!Desk()->Saving()->IsBusy());
+        QSignalSpy messages(&m_parts->link, SIGNAL(signalMessage(QString)));
+        m_parts->link.SetRegion(Region); // too late
+        QCOMPARE(messages.count(), 1);
+        answer.release();
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
+        QCOMPARE(receipt.facts.exposureUs, 2000.0);
+        QCOMPARE(receipt.facts.region, NewRegion);
+        QString error;
+        const auto file = OpenPicture(receipt.files.first(), error);
+        QVERIFY2(file, qPrintable(error));
+        Picture picture;
+        QVERIFY2(file->ReadFrame(0, picture, error), qPrintable(error));
+        QCOMPARE(picture.Size(), NewRegion.size());
+    }
+
+    void aCameraLostBeforeItBeginsIsTold()
+    {
+        QSemaphore answer;
+        QVERIFY(m_parts->link.Session()->TakeTurn([&answer](ArvCamera *) { answer.acquire(); }, this, [] {}));
+        QSignalSpy messages(Desk(), SIGNAL(signalMessage(QString)));
+        Desk()->slotCapture(false, false);
+        QVERIFY(Desk()->IsBusy());
+        emit m_parts->link.Session()->signalControlLost();
+        QVERIFY(!Desk()->IsBusy());
+        QCOMPARE(messages.count(), 1);
+        QCOMPARE(messages.first().first().toString(),
+                 QString("The camera was lost before the recording could begin."));
+        answer.release();
+        QTRY_COMPARE_WITH_TIMEOUT(m_parts->link.GetState(), CameraLink::State::Open, MsToWait);
+        QVERIFY(m_ended->isEmpty());
     }
 
     void withoutACameraItSaysSo()
