@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Works through the panels beside the live picture by mouse and keyboard, and asks the camera what came of it.
 #include "camerasession.h"
+#include "guiwatchdog.h"
 #include "livepreview.h"
 #include "panelscenario.h"
 #include "recordingdesk.h"
@@ -18,6 +19,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTabWidget>
 #include <QTreeView>
@@ -27,6 +29,7 @@
 namespace {
 
 constexpr int WaitMs = 10000;
+constexpr int LongestStallMs = 200; // a picture is drawn meanwhile, in software
 
 /// Of every 16th pixel.
 double Mean(const QImage &image)
@@ -147,6 +150,38 @@ private slots:
         QCOMPARE(Session()->Controls().exposureUs, 5000.0);
         QVERIFY2(means.at(2) < 0.6 * before,
                  qPrintable(QString("%1, then %2 %3 %4").arg(before).arg(means[0]).arg(means[1]).arg(means[2])));
+    }
+
+    /// The newest of what was typed is what the camera takes, and what it makes of it is what is shown.
+    void windowLivesOnWhileTheCameraDoesNotAnswer()
+    {
+        GoTo(CameraTabs(), "Camera", "CameraPanel");
+        auto *gain = Current()->findChild<QDoubleSpinBox *>("numberGain");
+        auto *rate = Current()->findChild<QDoubleSpinBox *>("numberFrameRate");
+        QSemaphore answer;
+        QVERIFY(Session()->TakeTurn([&answer](ArvCamera *) { answer.acquire(); }, this, [] {}));
+        const QSignalSpy controlSet(Session(), &CameraSession::signalControlSet);
+        QVERIFY(m_workbench->WaitForNextPicture()); // frames come all the same
+        GuiWatchdog watchdog;
+        gain->setFocus();
+        for (int i = 0; i < 3; ++i)
+            gain->stepUp(); // holds the arrow
+        const double wished = gain->value();
+        QVERIFY(wished > gain->minimum());
+        Type("numberExposure", "200");
+        Type("numberFrameRate", "1000");
+        Type("numberExposure", "250");
+        QVERIFY(Session()->IsSetting());
+        QVERIFY(Session()->Controls().gain != wished);
+        QVERIFY(m_workbench->WaitForNextPicture());
+        QCOMPARE(gain->value(), wished); // what was wished is shown meanwhile
+        QVERIFY2(watchdog.LongestMs() < LongestStallMs, watchdog.Text("a camera that does not answer"));
+        answer.release();
+        QTRY_VERIFY(!Session()->IsSetting());
+        QCOMPARE(controlSet.count(), 3); // one for each of the three settings
+        QCOMPARE(Session()->Controls().exposureUs, 250000.0);
+        QCOMPARE(gain->value(), Session()->Controls().gain);
+        QCOMPARE(rate->value(), 4.0); // as the exposure bounds it
     }
 
     void featureIsFoundAndChanged()

@@ -201,6 +201,7 @@ private slots:
         QVERIFY(!panel->findChild<QCheckBox *>("checkAutoExposure")->isEnabled()); // the simulated camera has none
         auto *rate = panel->findChild<QDoubleSpinBox *>("numberFrameRate");
         rate->setValue(1000);
+        QTRY_VERIFY(!m_workbench->link.Session()->IsSetting());
         QVERIFY(rate->value() <= 1e6 / 4500 + 0.01); // as the exposure bounds it
         rate->setValue(50);
 
