@@ -85,6 +85,7 @@ ExportedSpectrum SpectrumDialogs::OpenedSpectrum() const
     spectrum.product.raw.values = picture->Profile(isHorizontal);
     if (spectrum.product.raw.values.empty())
         return spectrum;
+    spectrum.product.raw.saturated = picture->SaturatedInProfile(isHorizontal);
     const ProfileBand lines = picture->LinesOfProfile(isHorizontal);
     spectrum.product.band.top = lines.first;
     spectrum.product.band.bottom = lines.end;

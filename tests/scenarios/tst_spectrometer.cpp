@@ -155,7 +155,7 @@ private slots:
         WaitForNextSpectrum();
         ExportPlots(VisiblePlot(m_workbench->window.centralWidget()));
         const QStringList lines = Export("Export Spectrum…", "tracks.csv");
-        QVERIFY(lines.contains("pixel,axis,track1,track2,track3,saturated"));
+        QVERIFY(lines.contains("pixel,axis,track1,track2,track3,saturated1,saturated2,saturated3"));
         QCOMPARE(ColumnsOf(lines).value(0).size(), sensor.width());
     }
 

@@ -44,6 +44,8 @@ public:
     void SaveAs(const QString &target, bool allFrames);
     /// The profile through the point that was picked last, in the units of the file; empty when none was.
     std::vector<double> Profile(bool alongRow) const;
+    /// Where a sample of it is saturated, see PictureCurves::Saturated().
+    std::vector<quint8> SaturatedInProfile(bool alongRow) const { return m_curves.Saturated(m_shown.samples, alongRow); }
     /// The rows, or columns, that it is the mean of.
     ProfileBand LinesOfProfile(bool alongRow) const;
 

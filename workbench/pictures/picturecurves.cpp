@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -71,6 +72,28 @@ ProfileBand PictureCurves::RowBand(const QSize &picture) const
 ProfileBand PictureCurves::ColumnBand(const QSize &picture) const
 {
     return BandAround(PixelAt(m_point.x(), picture.width()), m_lines, picture.width());
+}
+
+std::vector<quint8> PictureCurves::Saturated(const Picture &picture, bool alongRow) const
+{
+    if (!m_isPicked || picture.IsNull() || IsFloat(picture.Type()))
+        return {};
+    const ProfileBand all{0, alongRow ? picture.Width() : picture.Height()};
+    const ProfileBand band = alongRow ? RowBand(picture.Size()) : ColumnBand(picture.Size());
+    const ProfileBand rows = alongRow ? band : all;
+    const ProfileBand columns = alongRow ? all : band;
+    const int channels = picture.Channels();
+    std::vector<quint8> flags(size_t(all.end), 0);
+    VisitSampleType(picture.Type(), [&](auto sample) {
+        constexpr auto most = std::numeric_limits<decltype(sample)>::max();
+        for (int y = rows.first; y < rows.end; ++y) {
+            const auto *samples = picture.Samples<decltype(sample)>(y);
+            for (int i = columns.first * channels; i < columns.end * channels; ++i)
+                flags[size_t(alongRow ? i / channels : y)] |= quint8(samples[i] == most);
+        }
+    });
+    const bool isKnown = BytesPerSample(picture.Type()) == 1 || std::find(flags.begin(), flags.end(), 1) != flags.end();
+    return isKnown ? flags : std::vector<quint8>();
 }
 
 void PictureCurves::TakeUnsigned(const Picture &picture, const QPoint &point)

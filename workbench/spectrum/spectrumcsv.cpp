@@ -45,8 +45,10 @@ QString QuantityName(SpectrumQuantity quantity)
 void AddOrigin(const ExportedSpectrum &spectrum, QStringList *lines)
 {
     const SpectrumProduct &product = spectrum.product;
-    *lines << Comment("source", spectrum.source) << Comment("date", spectrum.when.toString(Qt::ISODateWithMs))
-           << Comment("frame", QString::number(product.frameId))
+    *lines << Comment("source", spectrum.source);
+    if (product.takenMs > 0)
+        *lines << Comment("date", QDateTime::fromMSecsSinceEpoch(product.takenMs, Qt::UTC).toString(Qt::ISODateWithMs));
+    *lines << Comment("exported", spectrum.when.toUTC().toString(Qt::ISODateWithMs)) << Comment("frame", QString::number(product.frameId))
            << Comment("picture", QString("%1 x %2 pixels").arg(product.frameSize.width()).arg(product.frameSize.height()));
     if (product.band.bottom > product.band.top)
         *lines << Comment(product.raw.place.isHorizontal ? "rows" : "columns", RowsText(product.band));
@@ -89,11 +91,36 @@ QVector<Column> ColumnsOf(const SpectrumProduct &product)
     return columns;
 }
 
-bool IsSaturated(const QVector<Column> &columns, int pixel)
+/// Empty where nobody knows.
+QString SaturationText(const QVector<const Spectrum *> &spectra, int pixel)
 {
-    return std::any_of(columns.begin(), columns.end(), [pixel](const Column &column) {
-        return size_t(pixel) < column.spectrum->saturated.size() && column.spectrum->saturated[size_t(pixel)];
-    });
+    QString text;
+    for (const Spectrum *spectrum : spectra) {
+        if (size_t(pixel) < spectrum->saturated.size() && text != "1")
+            text = QString::number(int(spectrum->saturated[size_t(pixel)]));
+    }
+    return text;
+}
+
+/// The binned spectrum has one, raw or corrected; each track has its own.
+QVector<QVector<const Spectrum *>> SaturationColumns(const SpectrumProduct &product)
+{
+    QVector<QVector<const Spectrum *>> columns;
+    if (product.raw.Count() > 0 || product.corrected.Count() > 0)
+        columns << QVector<const Spectrum *>{&product.raw, &product.corrected};
+    for (const Spectrum &track : product.tracks)
+        columns << QVector<const Spectrum *>{&track};
+    return columns;
+}
+
+QStringList SaturationNames(const SpectrumProduct &product)
+{
+    QStringList names;
+    if (product.raw.Count() > 0 || product.corrected.Count() > 0)
+        names << "saturated";
+    for (size_t track = 0; track < product.tracks.size(); ++track)
+        names << QString("saturated%1").arg(track + 1);
+    return names;
 }
 
 } // namespace
@@ -110,12 +137,14 @@ QByteArray SpectrumCsv(const ExportedSpectrum &spectrum)
         names << column.name;
         count = std::max(count, column.spectrum->Count());
     }
-    lines << names.join(',') + ",saturated";
+    const QVector<QVector<const Spectrum *>> flags = SaturationColumns(spectrum.product);
+    lines << (names + SaturationNames(spectrum.product)).join(',');
     for (int pixel = 0; pixel < count; ++pixel) {
         QStringList cells{QString::number(pixel), Number(spectrum.axis.At(pixel))};
         for (const Column &column : columns)
             cells << (pixel < column.spectrum->Count() ? Number(column.spectrum->values[size_t(pixel)]) : QString());
-        cells << QString::number(int(IsSaturated(columns, pixel)));
+        for (const QVector<const Spectrum *> &column : flags)
+            cells << SaturationText(column, pixel);
         lines << cells.join(',');
     }
     return (lines.join('\n') + '\n').toUtf8();

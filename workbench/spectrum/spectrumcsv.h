@@ -16,11 +16,12 @@ struct ExportedSpectrum
     QVector<CalibrationPoint> points;
     double residualPixels = 0; ///< root mean square
     QString source;            ///< a camera or a file
-    QDateTime when;
+    QDateTime when;            ///< it leaves
 };
 
 /// As other programs read it: comment lines that begin with "# " and say all that is known (what was binned,
 /// corrections, calibration with its coefficients and lines), one line of column names, then pixel, value on the axis,
-/// and of the binned spectrum or of each track the values, with 1 where a pixel was saturated. Numbers have a decimal
+/// and of the binned spectrum or of each track the values, with 1 where a pixel was saturated, 0 where none was, and nothing
+/// where that is not known. Numbers have a decimal
 /// point, whatever the language.
 QByteArray SpectrumCsv(const ExportedSpectrum &spectrum);

@@ -177,6 +177,7 @@ void SpectrumPipeline::Work(const CameraFrame &frame, const std::function<void(S
         QMetaObject::invokeMethod(this, [this, tracks = TracksOf(picture)] { emit signalTracksFound(tracks); }, Qt::QueuedConnection);
     }
     SpectrumProduct product = m_engine.Make(picture, frame.frameId, orientation);
+    product.takenMs = frame.hostTimeNs / 1000000;
     ++m_ledger.computed;
     Deliver(std::move(product));
 }

@@ -13,7 +13,8 @@
 struct SpectrumProduct
 {
     quint64 frameId = 0;
-    QSize frameSize; ///< as shown
+    qint64 takenMs = 0; ///< the frame's arrival, since 1970; 0 when that is not known
+    QSize frameSize;    ///< as shown
     Spectrum raw;       ///< of full vertical binning; empty when that is off
     Spectrum averaged;  ///< before dark and reference
     Spectrum corrected;

@@ -41,6 +41,53 @@ class PictureCurvesTest : public GuardedTest
     Q_OBJECT
 
 private slots:
+    void saturationIsToldWhereItIsKnown_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<double>("most");
+        QTest::addColumn<bool>("isKnownWithout");
+        QTest::newRow("8 bits") << int(SampleType::U8) << 255.0 << true;
+        QTest::newRow("16 bits") << int(SampleType::U16) << 65535.0 << false;
+        QTest::newRow("16 bits with sign") << int(SampleType::S16) << 32767.0 << false;
+        QTest::newRow("32 bits with sign") << int(SampleType::S32) << 2147483647.0 << false;
+    }
+
+    /// The band is of rows 3 and 4, or columns 11 and 12.
+    void saturationIsToldWhereItIsKnown()
+    {
+        QFETCH(int, type);
+        QFETCH(double, most);
+        QFETCH(bool, isKnownWithout);
+        for (const int channels : {1, 3}) {
+            PictureCurves curves;
+            curves.SetLines(2);
+            curves.Pick(QPointF(12, 4), Whole);
+            Picture picture = Slope(SampleType(type), 0.01, channels);
+            const std::vector<quint8> without = isKnownWithout ? std::vector<quint8>(20, 0) : std::vector<quint8>();
+            QCOMPARE(curves.Saturated(picture, true), without);
+            VisitSampleType(SampleType(type), [&](auto sample) {
+                using Sample = decltype(sample);
+                picture.Samples<Sample>(3)[6 * channels] = Sample(most);
+                picture.Samples<Sample>(5)[7 * channels] = Sample(most); // beside the rows
+                picture.Samples<Sample>(9)[11 * channels + channels - 1] = Sample(most);
+            });
+            std::vector<quint8> row(20, 0);
+            row[6] = 1;
+            QCOMPARE(curves.Saturated(picture, true), row);
+            std::vector<quint8> column(10, 0);
+            column[9] = 1;
+            QCOMPARE(curves.Saturated(picture, false), column);
+        }
+    }
+
+    void saturationOfFractionsIsNotKnown()
+    {
+        PictureCurves curves;
+        curves.Pick(QPointF(7, 3), Whole);
+        QVERIFY(curves.Saturated(Slope(SampleType::F32), true).empty());
+        QVERIFY(PictureCurves().Saturated(Slope(SampleType::U8), true).empty()); // nothing was picked
+    }
+
     void goThroughThePixelOfAnyType_data()
     {
         QTest::addColumn<int>("type");

@@ -16,6 +16,7 @@ private slots:
     void aVerticalSpectrumIsOfColumns();
     void tracksStandSideBySide();
     void theAxisOfAFileIsSaid();
+    void whatIsNotKnownOfSaturationIsLeftOpen();
     void aNameCannotBreakTheHeader();
 };
 
@@ -27,6 +28,7 @@ ExportedSpectrum Binned()
     spectrum.source = "Camera 7";
     spectrum.when = QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7, 89), Qt::UTC);
     spectrum.product.frameId = 42;
+    spectrum.product.takenMs = QDateTime(QDate(2026, 3, 4), QTime(5, 6, 0, 7), Qt::UTC).toMSecsSinceEpoch();
     spectrum.product.frameSize = QSize(3, 20);
     spectrum.product.band.top = 5;
     spectrum.product.band.bottom = 9;
@@ -53,7 +55,8 @@ void SpectrumCsvTest::aBinnedSpectrumTellsAll()
     spectrum.residualPixels = 0.03125;
     QCOMPARE(Lines(spectrum), QStringList({
                                   "# source: Camera 7",
-                                  "# date: 2026-03-04T05:06:07.089Z",
+                                  "# date: 2026-03-04T05:06:00.007Z",
+                                  "# exported: 2026-03-04T05:06:07.089Z",
                                   "# frame: 42",
                                   "# picture: 3 x 20 pixels",
                                   "# rows: 5 to 8",
@@ -61,7 +64,7 @@ void SpectrumCsvTest::aBinnedSpectrumTellsAll()
                                   "# corrected values: transmission",
                                   "# axis: nm",
                                   "# calibration: polynomial of degree 1, wavelength in air [nm] of the pixel, counted from 0, lowest power first",
-                                  Lines(spectrum).value(9), // the numbers come next
+                                  Lines(spectrum).value(10), // the numbers come next
                                   "# residual: 0.03125 pixels rms",
                                   "# line: pixel 0 is 500 nm Hg",
                                   "# line: pixel 2 is 501 nm",
@@ -71,7 +74,7 @@ void SpectrumCsvTest::aBinnedSpectrumTellsAll()
                                   "2,501,30,1e-07,1",
                                   "",
                               }));
-    const QStringList powers = Lines(spectrum).value(9).split(' ');
+    const QStringList powers = Lines(spectrum).value(10).split(' ');
     QCOMPARE(powers.mid(0, 2), QStringList({"#", "coefficients:"}));
     QVERIFY(std::abs(powers.value(2).toDouble() - 500) < 1e-9);
     QVERIFY(std::abs(powers.value(3).toDouble() - 0.5) < 1e-12);
@@ -107,8 +110,8 @@ void SpectrumCsvTest::tracksStandSideBySide()
     spectrum.product.trackBands[1].bottom = 12;
     const QStringList lines = Lines(spectrum);
     QVERIFY(lines.contains("# rows of track 2: 10 to 11"));
-    QCOMPARE(lines.mid(lines.indexOf("pixel,axis,track1,track2,saturated")),
-             QStringList({"pixel,axis,track1,track2,saturated", "0,0,1,3,0", "1,1,2,4,1", ""}));
+    QCOMPARE(lines.mid(lines.indexOf("pixel,axis,track1,track2,saturated1,saturated2")),
+             QStringList({"pixel,axis,track1,track2,saturated1,saturated2", "0,0,1,3,0,0", "1,1,2,4,0,1", ""}));
 }
 
 void SpectrumCsvTest::theAxisOfAFileIsSaid()
@@ -126,6 +129,15 @@ void SpectrumCsvTest::theAxisOfAFileIsSaid()
     QVERIFY(lines.filter("# line:").isEmpty());
     QVERIFY(lines.contains("2,125,30,1"));
     QVERIFY(lines.contains("pixel,axis,raw,saturated"));
+}
+
+void SpectrumCsvTest::whatIsNotKnownOfSaturationIsLeftOpen()
+{
+    ExportedSpectrum spectrum;
+    spectrum.product.raw.values = {7, 8};
+    const QStringList lines = Lines(spectrum);
+    QVERIFY(lines.filter("# date:").isEmpty()); // nobody knows that either
+    QCOMPARE(lines.mid(lines.indexOf("pixel,axis,raw,saturated")), QStringList({"pixel,axis,raw,saturated", "0,0,7,", "1,1,8,", ""}));
 }
 
 void SpectrumCsvTest::aNameCannotBreakTheHeader()
