@@ -58,10 +58,10 @@ QBoxLayout *AddRow(QWidget *box)
 
 } // namespace
 
-CalibrationDialog::CalibrationDialog(CalibrationModel *model, const Spectrum &spectrum, QWidget *parent)
+CalibrationDialog::CalibrationDialog(CalibrationModel *model, const Source &source, QWidget *parent)
     : QDialog(parent)
     , m_model(model)
-    , m_take(spectrum)
+    , m_take(source)
     , m_first(NumberField("spinBoxFirst", mostNm, 1))
     , m_last(NumberField("spinBoxLast", mostNm, 1))
     , m_degree(new QSpinBox)
@@ -195,7 +195,11 @@ QPushButton *CalibrationDialog::AddButton(QBoxLayout *row, const char *name, con
     return button;
 }
 
-void CalibrationDialog::TakeSpectrum() { m_model->SetSpectrum(m_take()); }
+void CalibrationDialog::TakeSpectrum()
+{
+    const Spectrum spectrum = m_take();
+    m_model->SetSpectrum(spectrum.values, spectrum.saturated);
+}
 
 void CalibrationDialog::ChooseLamps()
 {
@@ -305,7 +309,7 @@ void CalibrationDialog::ShowTable()
         const bool isThere = i < fit.residualsPixel.size();
         m_table->setItem(i, PixelColumn, Cell(Number(points[i].pixel, 3), false));
         m_table->setItem(i, WavelengthColumn, Cell(Number(points[i].nm, 4), true));
-        m_table->setItem(i, LampColumn, Cell(points[i].line, false));
+        m_table->setItem(i, LampColumn, Cell(points[i].LineText(), false));
         m_table->setItem(i, ResidualColumn, Cell(isThere ? Number(fit.residualsPixel[i], 3) : QString(), false));
     }
     m_isFilling = false;

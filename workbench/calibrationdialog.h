@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "spectrumcorrections.h"
+
 #include <QDialog>
 
 #include <functional>
-#include <vector>
 
 class CalibrationModel;
 class CalibrationPlot;
@@ -25,10 +26,10 @@ class CalibrationDialog : public QDialog
 
 public:
     /// Gives the spectrum on the screen as the sensor gave it; empty when there is none.
-    using Spectrum = std::function<std::vector<double>()>;
+    using Source = std::function<Spectrum()>;
 
     /// `model` is borrowed and outlives this object.
-    CalibrationDialog(CalibrationModel *model, const Spectrum &spectrum, QWidget *parent);
+    CalibrationDialog(CalibrationModel *model, const Source &source, QWidget *parent);
 
 private:
     QWidget *BuildLamps();
@@ -50,7 +51,7 @@ private:
     void slotShow();
 
     CalibrationModel *m_model;
-    Spectrum m_take;
+    Source m_take;
     QList<QCheckBox *> m_lamps;
     QDoubleSpinBox *m_first;
     QDoubleSpinBox *m_last;

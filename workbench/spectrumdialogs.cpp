@@ -46,7 +46,7 @@ SpectrumDialogs::~SpectrumDialogs() { m_writing.waitForDone(); }
 void SpectrumDialogs::slotCalibrate()
 {
     if (!m_calibration) {
-        m_calibration = new CalibrationDialog(m_services->Calibration(), [this] { return Shown().product.raw.values; }, m_window);
+        m_calibration = new CalibrationDialog(m_services->Calibration(), [this] { return Shown().product.raw; }, m_window);
         m_calibration->setAttribute(Qt::WA_DeleteOnClose);
     }
     m_calibration->show();

@@ -20,10 +20,11 @@ QStandardItem *NumberItem(double value, int decimals)
     return item;
 }
 
-QStandardItem *TextItem(const QString &text)
+/// The file's text is English, whatever the language.
+QStandardItem *LineItem(const CalibrationPoint &point)
 {
-    auto *item = new QStandardItem(text);
-    item->setData(text, Qt::UserRole);
+    auto *item = new QStandardItem(point.LineText());
+    item->setData(point.isSaturated ? (point.line + " saturated").trimmed() : point.line, Qt::UserRole);
     return item;
 }
 
@@ -58,7 +59,7 @@ void CalibrationTable::Fill()
     const CalibrationFit &fit = m_calibration->Applied();
     for (int i = 0; i < points.size() && i < fit.residualsPixel.size(); ++i) {
         m_table.appendRow({NumberItem(points[i].pixel, PixelDecimals), NumberItem(points[i].nm, NmDecimals),
-                           TextItem(points[i].line), NumberItem(fit.residualsPixel[i], PixelDecimals)});
+                           LineItem(points[i]), NumberItem(fit.residualsPixel[i], PixelDecimals)});
     }
     emit signalChanged();
 }

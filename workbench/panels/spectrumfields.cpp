@@ -55,8 +55,11 @@ void SpectrumFields::slotSpectrumShown()
 {
     const SpectrumProduct &product = m_spectra->Shown();
     const QString corrections = CorrectionsLine(*m_settings, product);
-    if (m_corrections == corrections && m_samples == product.raw.Count() && m_rows == product.frameSize.height())
+    const bool isSaturated = product.IsSaturated();
+    if (m_corrections == corrections && m_samples == product.raw.Count() && m_rows == product.frameSize.height()
+        && m_isSaturated == isSaturated)
         return;
+    m_isSaturated = isSaturated;
     m_corrections = corrections;
     m_samples = product.raw.Count();
     m_rows = product.frameSize.height();
@@ -131,6 +134,10 @@ void SpectrumFields::AddReferences(PanelFields &fields) const
     const QString none = tr("There is no spectrum yet: switch vertical binning on first.");
     fields << PanelField::Make(PanelField::Kind::Note, "corrections", tr("Now"),
                                CorrectionsLine(*m_settings, m_spectra->Shown()));
+    if (m_isSaturated) {
+        fields << PanelField::Make(PanelField::Kind::Note, "saturated", tr("Saturated"),
+                                   tr("Pixels are at the end of their range: peaks are cut off there. Shorten the exposure."));
+    }
     fields << PanelField::MakeAction("takeDark", tr("Take Dark"), m_samples > 0);
     fields.last().toolTip = m_samples > 0 ? tr("The spectrum shown becomes the dark spectrum.") : none;
     fields << CheckField("dark", tr("subtract"), corrections.subtractsDark);

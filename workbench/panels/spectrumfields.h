@@ -43,4 +43,5 @@ private:
     QString m_corrections; ///< the line as it was told last
     int m_samples = 0;     ///< of it; 0 without one
     int m_rows = 0;        ///< of its frame
+    bool m_isSaturated = false; ///< some value of it, or of the tracks
 };

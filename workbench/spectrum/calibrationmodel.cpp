@@ -43,7 +43,7 @@ void CalibrationModel::Restore()
     m_target->SetCalibration(m_applied.calibration);
 }
 
-void CalibrationModel::SetSpectrum(const std::vector<double> &values)
+void CalibrationModel::SetSpectrum(const std::vector<double> &values, const std::vector<quint8> &saturated)
 {
     ++m_question; // an answer that is still to come is of the spectrum before
     if (!values.empty() && int(values.size()) != m_width) {
@@ -52,7 +52,7 @@ void CalibrationModel::SetSpectrum(const std::vector<double> &values)
         m_width = int(values.size());
     }
     m_values = values;
-    m_peaks = FindPeaks(values);
+    m_peaks = FindPeaks(values, PeakRules(), saturated);
     FitAgain();
     emit signalChanged();
 }
@@ -81,6 +81,12 @@ double CalibrationModel::Snapped(double pixel) const
     return peak ? peak->position : pixel;
 }
 
+bool CalibrationModel::IsSaturated(double pixel) const
+{
+    const SpectralPeak *peak = NearestPeak(m_peaks, pixel, snapPixels);
+    return peak && peak->isSaturated && peak->position == pixel;
+}
+
 double CalibrationModel::ExpectedLine(double pixel) const
 {
     return m_fit.IsGood() ? NearestLine(m_lamps, m_fit.calibration.Wavelength(pixel), snapNm).nm : 0;
@@ -92,6 +98,7 @@ void CalibrationModel::AddPoint(double pixel, double nm)
     if (point.nm == 0)
         point.nm = nm;
     point.pixel = Snapped(pixel);
+    point.isSaturated = IsSaturated(point.pixel);
     Change(m_points + QVector<CalibrationPoint>{point}, m_degree);
 }
 
@@ -133,9 +140,12 @@ void CalibrationModel::TakeAssigned(const QVector<CalibrationPoint> &points, int
 {
     if (question != m_question)
         return;
-    if (!points.isEmpty())
-        Change(points, m_degree);
-    emit signalAssigned(!points.isEmpty());
+    QVector<CalibrationPoint> marked = points;
+    for (CalibrationPoint &point : marked)
+        point.isSaturated = IsSaturated(point.pixel);
+    if (!marked.isEmpty())
+        Change(marked, m_degree);
+    emit signalAssigned(!marked.isEmpty());
 }
 
 void CalibrationModel::Undo()

@@ -22,8 +22,9 @@ public:
     CalibrationModel(SpectrumSettings *target, QSettings *stored, QObject *parent = nullptr);
     ~CalibrationModel() override;
 
-    /// The lamp spectrum that lines are picked on. Points of a spectrum of another width are forgotten.
-    void SetSpectrum(const std::vector<double> &values);
+    /// The lamp spectrum that lines are picked on, and 1 where it is saturated; empty when that is not known. Points of a
+    /// spectrum of another width are forgotten.
+    void SetSpectrum(const std::vector<double> &values, const std::vector<quint8> &saturated = {});
     const std::vector<double> &Values() const { return m_values; }
     const std::vector<SpectralPeak> &Peaks() const { return m_peaks; }
     /// Of the spectrum that the points belong to, pixels.
@@ -73,6 +74,8 @@ signals:
 private:
     void Change(const QVector<CalibrationPoint> &points, int degree);
     void FitAgain();
+    /// The top of the peak there is cut off.
+    bool IsSaturated(double pixel) const;
     void TakeAssigned(const QVector<CalibrationPoint> &points, int question);
     void Restore();
 

@@ -11,6 +11,7 @@ constexpr char WidthKey[] = "width";
 constexpr char PixelKey[] = "pixel";
 constexpr char WavelengthKey[] = "nm";
 constexpr char LineKey[] = "line";
+constexpr char SaturatedKey[] = "saturated";
 constexpr int mostPoints = 1000;
 constexpr int widestFrame = 65535;
 } // namespace
@@ -25,7 +26,7 @@ StoredCalibration LoadCalibration(QSettings &settings)
     for (int i = 0; i < count; ++i) {
         settings.setArrayIndex(i);
         calibration.points.append({settings.value(PixelKey).toDouble(), settings.value(WavelengthKey).toDouble(),
-                                   settings.value(LineKey).toString()});
+                                   settings.value(LineKey).toString(), settings.value(SaturatedKey).toBool()});
     }
     settings.endArray();
     settings.endGroup();
@@ -46,6 +47,7 @@ void StoreCalibration(const StoredCalibration &calibration, QSettings *settings)
         settings->setValue(PixelKey, calibration.points[i].pixel);
         settings->setValue(WavelengthKey, calibration.points[i].nm);
         settings->setValue(LineKey, calibration.points[i].line);
+        settings->setValue(SaturatedKey, calibration.points[i].isSaturated);
     }
     settings->endArray();
     settings->endGroup();

@@ -126,6 +126,16 @@ bool IsCutOff(const std::vector<double> &samples, int index, bool standsOut, dou
     return top >= saturation || (isFlat && standsOut);
 }
 
+/// A sample of those around the top was cut off.
+bool IsMarked(const std::vector<quint8> &saturated, int index)
+{
+    for (int i = std::max(0, index - 1); i <= index + 1 && i < int(saturated.size()); ++i) {
+        if (saturated[size_t(i)])
+            return true;
+    }
+    return false;
+}
+
 /// A neighbour too close to be a peak of the smooth curve would pull the place to itself: behind a valley of the samples
 /// that is deeper than noise makes it, the line ends.
 void LeaveOutNeighbours(const std::vector<double> &samples, const SpectralPeak &peak, double noise, LineWindow *window)
@@ -143,14 +153,14 @@ struct FoundLine
 };
 
 /// Fits every line to what the others leave of the samples, so that neighbours do not pull at each other.
-void FitTogether(const std::vector<double> &samples, std::vector<FoundLine> *lines)
+void FitTogether(const std::vector<double> &samples, const std::vector<quint8> &saturated, std::vector<FoundLine> *lines)
 {
     for (int round = 0; round < fitRounds; ++round) {
         for (size_t line = 0; line < lines->size(); ++line) {
             LineWindow &window = (*lines)[line].window;
             GaussianFit fit;
             for (int i = window.from; i <= window.to; ++i) {
-                if (samples[size_t(i)] >= window.limit)
+                if (samples[size_t(i)] >= window.limit || (size_t(i) < saturated.size() && saturated[size_t(i)]))
                     continue;
                 double others = 0;
                 for (size_t k = line < neighbours ? 0 : line - neighbours; k < std::min(lines->size(), line + neighbours + 1); ++k)
@@ -165,7 +175,8 @@ void FitTogether(const std::vector<double> &samples, std::vector<FoundLine> *lin
 }
 
 /// The lines that stand out of the samples smoothed with a Gaussian of `sigma`.
-std::vector<FoundLine> LinesAt(double sigma, const std::vector<double> &samples, double noise, const PeakRules &rules)
+std::vector<FoundLine> LinesAt(double sigma, const std::vector<double> &samples, const std::vector<quint8> &saturated, double noise,
+                               const PeakRules &rules)
 {
     std::vector<FoundLine> found;
     const std::vector<double> kernel = KernelOf(sigma);
@@ -195,7 +206,7 @@ std::vector<FoundLine> LinesAt(double sigma, const std::vector<double> &samples,
         const double kernelWidth = widthPerSigma * sigma;
         peak.width = std::sqrt(std::max(0.0, (right - left) * (right - left) - kernelWidth * kernelWidth));
         peak.index = HighestNear(samples, i);
-        peak.isSaturated = IsCutOff(samples, peak.index, peak.height > 50 * noise, rules.saturation);
+        peak.isSaturated = IsCutOff(samples, peak.index, peak.height > 50 * noise, rules.saturation) || IsMarked(saturated, peak.index);
         peak.height = samples[size_t(peak.index)] - background[size_t(i)];
         peak.position = (left + right) / 2;
 
@@ -238,15 +249,15 @@ double DeviationsFor(double certainty)
     return high;
 }
 
-std::vector<SpectralPeak> FindPeaks(const std::vector<double> &samples, const PeakRules &rules)
+std::vector<SpectralPeak> FindPeaks(const std::vector<double> &samples, const PeakRules &rules, const std::vector<quint8> &saturated)
 {
     std::vector<SpectralPeak> peaks;
     const double noise = EstimateNoise(samples);
     if (int(samples.size()) < leastSamples || std::isnan(noise))
         return peaks;
-    std::vector<FoundLine> lines = LinesAt(narrowSigma, samples, noise, rules);
-    AddFaint(LinesAt(wideSigma, samples, noise, rules), &lines);
-    FitTogether(samples, &lines);
+    std::vector<FoundLine> lines = LinesAt(narrowSigma, samples, saturated, noise, rules);
+    AddFaint(LinesAt(wideSigma, samples, saturated, noise, rules), &lines);
+    FitTogether(samples, saturated, &lines);
     for (FoundLine &line : lines) {
         if (line.window.shape.height > 0)
             line.peak.position = line.window.shape.position;

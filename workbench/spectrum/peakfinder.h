@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QtGlobal>
+
 #include <limits>
 #include <vector>
 
@@ -30,8 +32,11 @@ struct PeakRules
 
 /// The peaks of a spectrum, by rising position. A curve smoothed with a narrow Gaussian (the matched filter of a sharp
 /// line) shows where they are; the samples themselves give the position: a Gaussian fitted by weighted least squares
-/// to the logarithm (Guo, IEEE Signal Processing Magazine 28, 134, 2011), leaving out samples that are cut off.
-std::vector<SpectralPeak> FindPeaks(const std::vector<double> &samples, const PeakRules &rules = PeakRules());
+/// to the logarithm (Guo, IEEE Signal Processing Magazine 28, 134, 2011), leaving out samples that are cut off: those
+/// that look so, and those that `saturated` marks with 1 where it is not empty. The sum of many rows of which few are
+/// saturated looks like any other.
+std::vector<SpectralPeak> FindPeaks(const std::vector<double> &samples, const PeakRules &rules = PeakRules(),
+                                    const std::vector<quint8> &saturated = {});
 
 /// How many standard deviations noise exceeds with the chance 10 to the minus `certainty`, on one side.
 double DeviationsFor(double certainty);

@@ -1,8 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectralcalibration.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
+
+namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(CalibrationPoint)
+};
+
+} // namespace
+
+QString CalibrationPoint::LineText() const
+{
+    if (!isSaturated)
+        return line;
+    return line.isEmpty() ? Text::tr("saturated") : Text::tr("%1 (saturated)").arg(line);
+}
 
 SpectralCalibration::SpectralCalibration(const QVector<double> &coefficients, int width)
     : m_coefficients(coefficients)

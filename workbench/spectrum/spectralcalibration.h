@@ -11,8 +11,14 @@ struct CalibrationPoint
     double pixel = 0;
     double nm = 0;
     QString line; ///< "Hg"; empty for one of no list
+    bool isSaturated = false; ///< the top of its peak was cut off: the pixel comes from the flanks
 
-    bool operator==(const CalibrationPoint &other) const { return pixel == other.pixel && nm == other.nm && line == other.line; }
+    bool operator==(const CalibrationPoint &other) const
+    {
+        return pixel == other.pixel && nm == other.nm && line == other.line && isSaturated == other.isSaturated;
+    }
+    /// For the user, in a table: "Hg (saturated)".
+    QString LineText() const;
 };
 Q_DECLARE_METATYPE(CalibrationPoint)
 

@@ -76,7 +76,8 @@ void AddCalibration(const ExportedSpectrum &spectrum, QStringList *lines)
     *lines << Comment("coefficients", powers.join(' '))
            << Comment("residual", QString("%1 pixels rms").arg(spectrum.residualPixels, 0, 'g', 4));
     for (const CalibrationPoint &point : spectrum.points)
-        *lines << Comment("line", QString("pixel %1 is %2 nm %3").arg(Number(point.pixel), Number(point.nm), point.line));
+        *lines << Comment("line", QString("pixel %1 is %2 nm %3").arg(Number(point.pixel), Number(point.nm), point.line)
+                                      + (point.isSaturated ? " saturated" : ""));
 }
 
 QVector<Column> ColumnsOf(const SpectrumProduct &product)

@@ -27,6 +27,8 @@ struct SpectrumProduct
     AppliedCorrections corrections; ///< of the corrected one, or of the tracks
 
     bool HasSpectrum() const { return corrected.Count() > 0 || !tracks.empty(); }
+    /// Of some value, binned or of a track, a pixel was at the end of its range.
+    bool IsSaturated() const;
     void ForgetBinned() { raw = averaged = corrected = Spectrum(); }
     void ForgetTracks()
     {

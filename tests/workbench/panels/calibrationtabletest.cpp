@@ -11,6 +11,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <cmath>
 #include <memory>
 
 namespace {
@@ -104,6 +105,27 @@ private slots:
         QCOMPARE(lines.size(), 4);
         QCOMPARE(lines.at(0), QByteArray("pixel,wavelength [nm],lamp,residual [pixel]"));
         QCOMPARE(lines.at(1).split(',').at(1).toDouble(), 700.0);
+    }
+
+    void linesOfSaturatedPeaksSaySo()
+    {
+        std::vector<double> samples(Width, 100);
+        std::vector<quint8> saturated(Width, 0);
+        for (int i = -6; i <= 6; ++i)
+            samples[size_t(400 + i)] += std::floor(50000 * std::exp(-0.5 * i * i / 4.0));
+        saturated[400] = 1;
+        m_model->SetSpectrum(samples, saturated);
+        m_model->AddPoint(400, 777.123); // of no list
+        m_model->AddPoint(900, 860);
+        QVERIFY(m_model->Apply());
+        QCOMPARE(m_table->Table()->index(0, 2).data().toString(), QString("saturated"));
+        const QString path = m_folder->filePath("table.csv");
+        QSignalSpy messages(m_table.get(), SIGNAL(signalMessage(QString)));
+        m_table->Set("saveTable", path);
+        QTRY_COMPARE(messages.count(), 1);
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll().split('\n').at(1).split(',').at(2), QByteArray("saturated"));
     }
 
     void saysWhatCannotBeSaved()

@@ -203,6 +203,23 @@ private slots:
         QCOMPARE(Field("corrections").value.toString(), QString("There is no spectrum yet."));
     }
 
+    void saturationIsSaid()
+    {
+        const auto isSaid = [this] {
+            const PanelFields fields = m_fields->Fields();
+            return std::any_of(fields.begin(), fields.end(), [](const PanelField &field) { return field.key == "saturated"; });
+        };
+        m_fields->Set("binning", 1);
+        m_spectra->OnFrame(Frame(1, 65535));
+        QTRY_VERIFY(isSaid());
+        m_spectra->OnFrame(Frame(2, 65534));
+        QTRY_VERIFY(!isSaid());
+        QVERIFY(m_settings->SetTracks({QRectF(0, 2, Width, 5)}));
+        m_fields->Set("showTracks", true);
+        m_spectra->OnFrame(Frame(3, 65535));
+        QTRY_VERIFY(isSaid());
+    }
+
     void spectraThatSayNothingNewDoNotBuildTheFormAnew()
     {
         m_fields->Set("binning", 1);

@@ -21,6 +21,7 @@ private slots:
     void init() override;
     void cleanup() override;
     void aPickSnapsToThePeakAndTheListedLine();
+    void aPointOnASaturatedPeakIsMarkedAndStaysSo();
     void nothingNearIsTakenAsItIs();
     void theFitSaysWhichLineAPeakShouldBe();
     void everyStepCanBeUndone();
@@ -100,6 +101,37 @@ void CalibrationModelTest::aPickSnapsToThePeakAndTheListedLine()
     QCOMPARE(model->Points()[0].line, QString("Hg"));
     model->AddPoint(PixelOf(hgBlue) + 3, 436);
     QVERIFY(model->Points()[0].pixel < model->Points()[1].pixel); // by rising pixel
+}
+
+void CalibrationModelTest::aPointOnASaturatedPeakIsMarkedAndStaysSo()
+{
+    std::vector<quint8> saturated(width, 0);
+    saturated[size_t(std::lround(PixelOf(hgGreen)))] = 1;
+    {
+        const auto model = Model();
+        model->SetSpectrum(HgLamp(), saturated);
+        model->SetDegree(1);
+        model->AddPoint(PixelOf(hgBlue), hgBlue);
+        model->AddPoint(PixelOf(hgGreen), hgGreen);
+        model->AddPoint(PixelOf(hgGreen) - 50, 540); // near no peak
+        QCOMPARE(model->Points()[0].LineText(), QString("Hg"));
+        QVERIFY(model->Points()[2].isSaturated && !model->Points()[1].isSaturated);
+        QCOMPARE(model->Points()[2].LineText(), QString("Hg (saturated)"));
+        model->RemovePoint(1);
+        QVERIFY(model->Apply());
+    }
+    const auto restarted = Model();
+    QVERIFY(restarted->AppliedPoints()[1].isSaturated && !restarted->AppliedPoints()[0].isSaturated);
+    // Lines that are assigned by themselves are marked too.
+    restarted->SetSpectrum(HgLamp(), saturated);
+    restarted->SetLamps({Lamp::Mercury});
+    restarted->SetRange(restarted->Fit().calibration.Wavelength(0), restarted->Fit().calibration.Wavelength(width - 1));
+    QSignalSpy assigned(restarted.get(), &CalibrationModel::signalAssigned);
+    restarted->Assign();
+    QVERIFY(assigned.wait());
+    QVERIFY(assigned.first().first().toBool());
+    for (const CalibrationPoint &point : restarted->Points())
+        QCOMPARE(point.isSaturated, std::abs(point.nm - hgGreen) < 0.01);
 }
 
 void CalibrationModelTest::nothingNearIsTakenAsItIs()

@@ -29,6 +29,7 @@ private slots:
     void thePlaceIsBetterThanATenthOfASample_data();
     void thePlaceIsBetterThanATenthOfASample();
     void aLineThatIsCutOffKeepsItsPlace();
+    void aSumWithFewSaturatedRowsIsSaturated();
     void twoLinesSideBySideAreTwo();
     void aSlopeIsNoPeak();
     void aWidthIsFoundThroughTheSmoothing();
@@ -184,6 +185,31 @@ void PeakFinderTest::aLineThatIsCutOffKeepsItsPlace()
         const std::vector<SpectralPeak> peaks = FindPeaks(samples);
         QCOMPARE(int(peaks.size()), 1);
         QVERIFY(peaks[0].isSaturated);
+        QVERIFY2(std::abs(peaks[0].position - place) < 0.1, qPrintable(QString::number(peaks[0].position)));
+    }
+}
+
+/// 40 rows, of which only a third is bright enough to be cut off: the top of the sum is not flat, but lower.
+void PeakFinderTest::aSumWithFewSaturatedRowsIsSaturated()
+{
+    constexpr double most = 65535;
+    for (const double place : {300.0, 300.3, 300.5}) {
+        std::vector<double> sums(1024, 0);
+        std::vector<quint8> saturated(sums.size(), 0);
+        for (int row = 0; row < 40; ++row) {
+            std::vector<double> samples = NoiseOnly(1024, 1000, 20, unsigned(row), false);
+            AddLine(&samples, place, row < 14 ? 90000 : 30000, 4);
+            AddLine(&samples, 700, 30000, 4);
+            Round(&samples, most);
+            for (size_t i = 0; i < sums.size(); ++i) {
+                sums[i] += samples[i];
+                saturated[i] |= quint8(samples[i] >= most);
+            }
+        }
+        QVERIFY(!FindPeaks(sums).front().isSaturated); // nothing shows
+        const std::vector<SpectralPeak> peaks = FindPeaks(sums, PeakRules(), saturated);
+        QCOMPARE(int(peaks.size()), 2);
+        QVERIFY(peaks[0].isSaturated && !peaks[1].isSaturated);
         QVERIFY2(std::abs(peaks[0].position - place) < 0.1, qPrintable(QString::number(peaks[0].position)));
     }
 }

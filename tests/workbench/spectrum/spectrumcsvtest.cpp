@@ -50,7 +50,7 @@ void SpectrumCsvTest::aBinnedSpectrumTellsAll()
 {
     ExportedSpectrum spectrum = Binned();
     spectrum.points.append({0, 500, "Hg"});
-    spectrum.points.append({2, 501, QString()});
+    spectrum.points.append({2, 501, QString(), true});
     spectrum.axis.SetCalibration(FitCalibration(spectrum.points, 1, 3).calibration);
     spectrum.residualPixels = 0.03125;
     QCOMPARE(Lines(spectrum), QStringList({
@@ -67,7 +67,7 @@ void SpectrumCsvTest::aBinnedSpectrumTellsAll()
                                   Lines(spectrum).value(10), // the numbers come next
                                   "# residual: 0.03125 pixels rms",
                                   "# line: pixel 0 is 500 nm Hg",
-                                  "# line: pixel 2 is 501 nm",
+                                  "# line: pixel 2 is 501 nm saturated",
                                   "pixel,axis,raw,corrected,saturated",
                                   "0,500,10,0.125,0",
                                   "1,500.5,20.5,-2,0",

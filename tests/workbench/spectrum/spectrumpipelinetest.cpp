@@ -63,6 +63,7 @@ CameraFrame Frame(quint64 id, int lightTop = 20, int lightBottom = 40)
     frame.strideBytes = 2 * width;
     frame.layout = PixelLayout::Mono16;
     frame.frameId = id;
+    frame.hostTimeNs = qint64(id) * 1000000000;
     return frame;
 }
 
@@ -110,6 +111,7 @@ void SpectrumPipelineTest::everyFrameIsComputedAndTheNewestShown()
         pipeline.OnFrame(Frame(id, 20, 20 + int(id)));
     QTRY_COMPARE(pipeline.Shown().frameId, quint64(50));
     QTRY_VERIFY(!plot.shown.isEmpty() && plot.shown[150] >= 80 * 100 + 50 * 5000);
+    QCOMPARE(pipeline.Shown().takenMs, qint64(50000));
     QCOMPARE(pipeline.Ledger().taken.load(), quint64(50));
     QCOMPARE(pipeline.Ledger().computed.load(), quint64(50));
     QCOMPARE(pipeline.Ledger().missed.load(), quint64(0));
