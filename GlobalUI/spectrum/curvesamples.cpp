@@ -13,7 +13,8 @@ double CurveSamples::PixelToX(int pixel)
     return converted && std::isfinite(x) ? x : pixel;
 }
 
-void CurveSamples::Assign(const unsigned int *data, int count)
+template <typename Sample>
+void CurveSamples::AssignSamples(const Sample *data, int count)
 {
     Clear();
     m_x.reserve(count);
@@ -37,6 +38,9 @@ void CurveSamples::Assign(const unsigned int *data, int count)
     const auto kept = std::unique(m_byX.rbegin(), m_byX.rend(), sameX);
     m_byX.erase(m_byX.begin(), kept.base());
 }
+
+template void CurveSamples::AssignSamples(const unsigned int *data, int count);
+template void CurveSamples::AssignSamples(const int *data, int count);
 
 void CurveSamples::Clear()
 {

@@ -15,7 +15,9 @@ public:
     /// Calibrated x of a pixel; the pixel itself where the calibration gives no number.
     static double PixelToX(int pixel);
 
-    void Assign(const unsigned int *data, int count);
+    /// Counts, or samples of a file, which may be negative.
+    void Assign(const unsigned int *data, int count) { AssignSamples(data, count); }
+    void Assign(const int *data, int count) { AssignSamples(data, count); }
     void Clear();
 
     int Count() const { return m_x.size(); }
@@ -34,6 +36,9 @@ public:
     double TracerValue(double x) const;
 
 private:
+    template <typename Sample>
+    void AssignSamples(const Sample *data, int count);
+
     QVector<double> m_x;
     QVector<double> m_values;
     std::vector<std::pair<double, double>> m_byX; ///< rising x, each x once

@@ -76,12 +76,14 @@ private:
     void ConnectServices();
     void PlaceZoomBar();
 
-    void DrawCurve(const unsigned int *data, int count);
+    template <typename Sample>
+    void DrawCurve(const Sample *data, int count);
     void ClearCurve();
     /// The values of one column across the tracks.
     void DrawColumn(const unsigned int *tracks, int trackCount);
     void DrawImageCurve(const int *data, int size, int count);
     void FindPeaks(const unsigned int *data, int count);
+    void FindPeaks(const int *data, int count);
     void UpdatePeakMarkers();
     void UpdateTracer();
     void SetRangesOfCurve();

@@ -39,6 +39,23 @@ const unsigned int *TakeLine(SpectrumLinePayload *payload)
 
 } // namespace
 
+template <typename Sample>
+void Spectrum2DDrawFrameBase::DrawCurve(const Sample *data, int count)
+{
+    if (width() < narrowestPage)
+        return;
+    if (!data || count <= 0) {
+        ClearCurve();
+        return;
+    }
+    m_samples.Assign(data, count);
+    m_plot->graph(0)->setData(m_samples.X(), m_samples.Values());
+    FindPeaks(data, count);
+    UpdateTracer();
+    SetRangesOfCurve();
+    m_plot->replot(QCustomPlot::rpQueuedReplot);
+}
+
 void Spectrum2DDrawFrameBase::SlotUpdateCurve(void *param)
 {
     auto *payload = static_cast<SpectrumCurvePayload *>(param);
@@ -56,7 +73,7 @@ void Spectrum2DDrawFrameBase::SlotUpdateCurve(void *param)
         count = horizontal ? AvailableCount(frame->GetFrameWidth(), payload->horizontalSize)
                            : AvailableCount(frame->GetFrameHeight(), payload->verticalSize);
     }
-    DrawCurve(reinterpret_cast<const unsigned int *>(data), count);
+    DrawCurve(data, count);
 }
 
 void Spectrum2DDrawFrameBase::SlotUpdateFVB(void *param)
@@ -79,7 +96,7 @@ void Spectrum2DDrawFrameBase::SlotUpdateMultiTrack(void *param)
     const int trackCount = settings->GetMultiTrackList().size();
     const int frameWidth = FrameManager::GetInstance()->GetFrameWidth();
     if (!tracks)
-        DrawCurve(nullptr, 0);
+        DrawCurve(tracks, 0);
     else if (!settings->IsDirectionHorinzontal())
         DrawColumn(tracks, trackCount);
     else // the list may have become shorter than the scroll bar
@@ -113,25 +130,9 @@ void Spectrum2DDrawFrameBase::SlotUpdateImageVerticalCurve(int *data, int size, 
 
 void Spectrum2DDrawFrameBase::DrawImageCurve(const int *data, int size, int count)
 {
-    DrawCurve(reinterpret_cast<const unsigned int *>(data), qMin(count, size));
+    DrawCurve(data, qMin(count, size));
     if (m_staticMode)
         AutoRange();
-}
-
-void Spectrum2DDrawFrameBase::DrawCurve(const unsigned int *data, int count)
-{
-    if (width() < narrowestPage)
-        return;
-    if (!data || count <= 0) {
-        ClearCurve();
-        return;
-    }
-    m_samples.Assign(data, count);
-    m_plot->graph(0)->setData(m_samples.X(), m_samples.Values());
-    FindPeaks(data, count);
-    UpdateTracer();
-    SetRangesOfCurve();
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
 }
 
 void Spectrum2DDrawFrameBase::ClearCurve()
@@ -153,6 +154,20 @@ void Spectrum2DDrawFrameBase::FindPeaks(const unsigned int *data, int count)
     AlgSpectrometer::GetInstance()->Findcurvepeak(const_cast<unsigned int *>(data), count,
                                                   settings->GetPeakNumber(), m_peaks, 15, 10.0, 0);
     UpdatePeakMarkers();
+}
+
+/// The algorithm takes counts: what goes below zero is asked for above its lowest sample.
+void Spectrum2DDrawFrameBase::FindPeaks(const int *data, int count)
+{
+    const int lowest = *std::min_element(data, data + count);
+    if (lowest >= 0) {
+        FindPeaks(reinterpret_cast<const unsigned int *>(data), count);
+        return;
+    }
+    std::vector<unsigned int> raised(size_t(count), 0);
+    std::transform(data, data + count, raised.begin(),
+                   [lowest](int sample) { return static_cast<unsigned int>(qint64(sample) - lowest); });
+    FindPeaks(raised.data(), count);
 }
 
 void Spectrum2DDrawFrameBase::UpdatePeakMarkers()

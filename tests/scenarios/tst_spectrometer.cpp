@@ -186,6 +186,21 @@ private slots:
         ExportPlots(Plot());
         m_workbench->services.Config()->SetCameraView(); // a live picture leaves with its page
     }
+
+    /// Its program subtracted a background, which left counts below zero.
+    void countsBelowZeroAreDrawnBelowZero()
+    {
+        PictureDesk *desk = m_workbench->services.Desk();
+        m_workbench->Action("Curve")->trigger();
+        desk->Open({QString(TEST_DATA) + "/spe/one_dimensional_spectrum.spe"}, desk->MainPicture());
+        QTRY_VERIFY(Plot() && Plot()->graph(0)->dataCount() == 1024);
+        bool found = false;
+        const QCPRange drawn = Plot()->graph(0)->getValueRange(found);
+        QCOMPARE(drawn.lower, -12.0);
+        QCOMPARE(drawn.upper, 6473.0);
+        QCOMPARE(Plot()->yAxis->range().lower, -12.0);
+        m_workbench->services.Config()->SetCameraView(); // a live picture leaves with its page
+    }
 #endif
 
     /// A folder that went away after it was chosen.

@@ -35,6 +35,7 @@ private slots:
     void pixelsStandInForNumbersThatAreNone_data();
     void pixelsStandInForNumbersThatAreNone();
     void largeCounts();
+    void samplesBelowZero();
     void anotherCurveLeavesNothingOfTheFirst();
     void tracerValue_data();
     void tracerValue();
@@ -111,6 +112,18 @@ void TestCurveSamples::largeCounts()
     samples.Assign(data, 2);
     QCOMPARE(samples.Maximum(), 4294967295.0);
     QCOMPARE(samples.TracerValue(5), 4294967295.0);
+}
+
+void TestCurveSamples::samplesBelowZero()
+{
+    FakeSpectrumUIManager settings;
+    const int data[] = { 5, -12, -3 };
+    CurveSamples samples;
+    samples.Assign(data, 3);
+    QCOMPARE(samples.Values(), QVector<double>({ 5, -12, -3 }));
+    QCOMPARE(samples.Minimum(), -12.0);
+    QCOMPARE(samples.Maximum(), 5.0);
+    QCOMPARE(samples.TracerValue(5), -3.0);
 }
 
 void TestCurveSamples::anotherCurveLeavesNothingOfTheFirst()

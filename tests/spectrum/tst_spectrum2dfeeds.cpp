@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <limits>
 #include <thread>
 
 namespace {
@@ -64,6 +65,7 @@ private slots:
     void narrowPageDrawsNothing();
     void rowAndColumnOfAPicture_data();
     void rowAndColumnOfAPicture();
+    void samplesBelowZero();
     void pictureCurvesOfOddSizes_data();
     void pictureCurvesOfOddSizes();
 };
@@ -405,6 +407,21 @@ void TestSpectrum2DFeeds::rowAndColumnOfAPicture()
     page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
     page.page->SlotUpdateImageVerticalCurve(column, 2, 0, 2);
     QTEST(page.DrawnValues(), "drawn");
+}
+
+void TestSpectrum2DFeeds::samplesBelowZero()
+{
+    PlotPage page;
+    page.page->SetStaticMode(true);
+    int row[] = { 3, -12, std::numeric_limits<int>::max(), std::numeric_limits<int>::min() };
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    QCOMPARE(page.DrawnValues(), QVector<double>({ 3, -12, 2147483647.0 }));
+    QCOMPARE(page.Y().lower, -12.0);
+    // The algorithm takes counts from 0 on.
+    QCOMPARE(page.services.algorithm.askedSamples, Values({ 15, 0, 2147483659u }));
+    page.page->SlotUpdateImageHorizontalCurve(row, 4, 0, 4);
+    QCOMPARE(page.DrawnValues().last(), -2147483648.0);
+    QCOMPARE(page.services.algorithm.askedSamples, Values({ 2147483651u, 2147483636u, 4294967295u, 0 }));
 }
 
 void TestSpectrum2DFeeds::pictureCurvesOfOddSizes_data()
