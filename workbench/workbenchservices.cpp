@@ -248,6 +248,7 @@ void WorkbenchServices::ConnectSpectrum()
     for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()}) {
         connect(picture, &OpenedPicture::signalShown, this, &WorkbenchServices::slotShowPalette);
         connect(m_profiles.get(), &LiveProfiles::signalLinesChanged, picture, &OpenedPicture::slotSetCurveLines);
+        connect(m_centreDisplay.get(), &CentreDisplay::signalModeChanged, picture, &OpenedPicture::slotDisplayModeChanged);
         picture->slotSetCurveLines(m_profiles->Lines());
     }
     m_frameTee->SetListener(m_spectrumPipeline.get());

@@ -4,6 +4,7 @@
 #include "openedpicture.h"
 #include "palette.h"
 #include "picturedesk.h"
+#include "plotpicture.h"
 #include "scenariotest.h"
 #include "spebytes.h"
 #include "spectrumonscreen.h"
@@ -13,6 +14,7 @@
 #include <QFile>
 #include <QGraphicsView>
 #include <QSignalSpy>
+#include <qcustomplot.h>
 
 #include <cmath>
 #include <memory>
@@ -99,6 +101,7 @@ class OpenedSpectrumScenario : public ScenarioTest
 private slots:
     void dragsClicksAndStepsBack();
     void framesAndFilesKeepTheirPlace();
+    void thePlotShowsTheWholeRowOfAZoomedImage();
     void rulersCountWhatTheyCanShow();
     void barShowsThePaletteOfThePicture();
 
@@ -213,6 +216,32 @@ void OpenedSpectrumScenario::framesAndFilesKeepTheirPlace()
     QVERIFY(Open("colour.png"));
     QTRY_VERIFY(page.IsSeen({ 0, 640, 0, 480 }));
     QCOMPARE(row.samples, std::vector<int>(640, 93)); // the mean of 200, 40 and 40
+}
+
+void OpenedSpectrumScenario::thePlotShowsTheWholeRowOfAZoomedImage()
+{
+    SpectrumOnScreen page(&m_workbench->window);
+    const ShownRow row(Main());
+    QVERIFY(OpenSpectrum(&page));
+    page.Drag(QPointF(500, 150), QPointF(900, 400));
+    const int first = row.first;
+    QVERIFY(first > 480);
+    m_workbench->Action("Curve")->trigger();
+    const auto *plot = qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget()));
+    QVERIFY(plot);
+    const auto data = plot->graph(0)->data();
+    QCOMPARE(data->size(), FileSize.width());
+    // Its one line is where it is in the file, in nanometres.
+    QVERIFY(data->at(LineColumn)->value > LineTone);
+    QVERIFY(data->at(LineColumn - 20)->value < LineTone);
+    QCOMPARE(data->at(LineColumn)->key, 400 + 0.25 * LineColumn);
+    Main()->SetImage(1);
+    QTRY_VERIFY(data->at(0)->value >= NoTone + 1000);
+    QCOMPARE(data->size(), FileSize.width());
+
+    m_workbench->Action("Sensor Image")->trigger();
+    QVERIFY(page.WaitForImage());
+    QVERIFY(std::abs(row.first - first) <= 1); // the part that is seen
 }
 
 void OpenedSpectrumScenario::rulersCountWhatTheyCanShow()

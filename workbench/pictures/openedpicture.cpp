@@ -211,11 +211,14 @@ void OpenedPicture::slotSetCurveLines(int lines)
     AnnounceCurves();
 }
 
-/// Through the point that was picked last, as long as one was.
+/// Through the point that was picked last, as long as one was. The plot has a zoom of its own: it gets all of them.
 void OpenedPicture::AnnounceCurves()
 {
     if (IsNonImage() || !m_curves.Make(m_shown.samples, m_levels->Factor()))
         return;
+    const SpectrumUIManager *pages = SpectrumUIManager::GetInstance();
+    if (pages->IsDisplayMode2D() || pages->IsDisplayMode2DPeak())
+        m_curves.ShowAll();
     PictureCurves::Curve &row = m_curves.Row();
     emit sglUpdateHorizontalCurve(row.samples.data(), int(row.samples.size()), row.offset, row.count);
     PictureCurves::Curve &column = m_curves.Column();

@@ -101,6 +101,8 @@ public slots:
     void slotLevelsChanged();
     /// Neighbouring lines that a curve is the mean of.
     void slotSetCurveLines(int lines);
+    /// Another page shows the curves.
+    void slotDisplayModeChanged() { AnnounceCurves(); }
     /// The frame browser is that of the active picture, at first the main one; only that tells it of its frames.
     void slotActiveImageChanged(QObject *image);
 

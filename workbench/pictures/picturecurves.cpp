@@ -64,6 +64,14 @@ bool PictureCurves::Make(const Picture &picture, double factor)
     return true;
 }
 
+void PictureCurves::ShowAll()
+{
+    for (Curve *curve : {&m_row, &m_column}) {
+        curve->offset = 0;
+        curve->count = int(curve->samples.size());
+    }
+}
+
 ProfileBand PictureCurves::RowBand(const QSize &picture) const
 {
     return BandAround(PixelAt(m_point.y(), picture.height()), m_lines, picture.height());

@@ -35,6 +35,8 @@ public:
     /// Of the row or column profile: 1 where a sample was at the end of its type's range. Empty when that says nothing:
     /// of fractions, and of samples of more than 8 bits none of which is there, as the camera may have had fewer.
     std::vector<quint8> Saturated(const Picture &picture, bool alongRow) const;
+    /// All samples of the profiles made last count as visible.
+    void ShowAll();
     Curve &Row() { return m_row; }
     Curve &Column() { return m_column; }
     /// The rows, or columns, of a picture that the row profile, or the column profile, is the mean of.
