@@ -25,3 +25,6 @@ struct SpectralAxis
         return unit == other.unit && values == other.values && laserNm == other.laserNm;
     }
 };
+
+/// They rise, or they fall, from each to the next, and all are numbers; `turn` says which one is the first that does not.
+bool IsSteady(const QVector<double> &values, int *turn);

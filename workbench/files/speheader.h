@@ -26,7 +26,7 @@ public:
     QString Date() const { return Text(20, 10); }
     QString LocalTime() const { return Text(172, 7); }
     QString Comment(int line) const { return Text(200 + 80 * line, 80); }
-    /// Of the x direction; empty unless the file says that its calibration is valid and it gives numbers.
+    /// Of the x direction, whatever it gives; empty unless the file says that its calibration is valid.
     SpectralAxis Axis() const;
 
 private:

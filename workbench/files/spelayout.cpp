@@ -115,6 +115,18 @@ void CountFrames(SpeLayout &layout, qint64 dataBytes)
     layout.missingFrames = promised > whole ? promised - whole : 0;
 }
 
+/// An axis that turns around has several places for one wavelength.
+void LeaveOutAxesThatTurn(SpeLayout &layout)
+{
+    for (SpeRegion &region : layout.regions) {
+        int turn = 0;
+        if (IsSteady(region.axis.values, &turn))
+            continue;
+        region.axis = SpectralAxis();
+        layout.warning = Text::tr("its calibration does not rise or fall steadily (it turns at pixel %1) and is left out").arg(turn);
+    }
+}
+
 } // namespace
 
 bool ReadSpeLayout(QIODevice &file, SpeLayout &layout, FileFault &fault)
@@ -135,5 +147,6 @@ bool ReadSpeLayout(QIODevice &file, SpeLayout &layout, FileFault &fault)
     if (!CheckRegions(layout, dataEnd - SpeLayout::headerBytes, fault))
         return false;
     CountFrames(layout, dataEnd - SpeLayout::headerBytes);
+    LeaveOutAxesThatTurn(layout);
     return true;
 }

@@ -17,6 +17,8 @@ private slots:
     void coefficientsBeyondTheOrderAreLeftOut();
     void aRamanAxisCountsFromTheLaser();
     void withoutAValidCalibrationThereIsNoAxis();
+    void anAxisThatTurnsIsSaidAndLeftOut_data();
+    void anAxisThatTurnsIsSaidAndLeftOut();
     void regionsAreFramesOfTheirOwn();
     void aBinnedColumnHasTheMeanOfItsWavelengths();
     void factsAreTold();
@@ -147,6 +149,33 @@ void SpePictureFileTest::withoutAValidCalibrationThereIsNoAxis()
     QVERIFY(Opened(folder, SpeBytes(spe).Set<quint8>(3101, 200).Bytes())->AxisOf(0).IsEmpty());
     QVERIFY(Opened(folder, SpeBytes(spe).Set<quint8>(3100, 1).Bytes())->AxisOf(0).IsEmpty());
     QVERIFY(Opened(folder, SpeBytes(spe).SetDouble(3263, NAN).Bytes())->AxisOf(0).IsEmpty());
+}
+
+void SpePictureFileTest::anAxisThatTurnsIsSaidAndLeftOut_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<int>("pixel");
+    SpeBytes plain(6, 1, 3, 1);
+    plain.AppendRamp(6);
+    // 500 + 4 n - 0.5 n²: 503.5, 506, 507.5, 508, 507.5, 506
+    QTest::newRow("polynomial that turns") << SpeBytes(plain).Calibrate(4, 4, 2, {500, 4, -0.5}).Bytes() << 4;
+    QTest::newRow("turns near its end") << SpeBytes(plain).Calibrate(4, 4, 2, {500, 5.5, -0.5}).Bytes() << 5;
+    QTest::newRow("stands still") << SpeBytes(plain).Calibrate(4, 4, 1, {500, 0}).Bytes() << 1;
+    QTest::newRow("no numbers") << SpeBytes(plain).Calibrate(4, 4, 1, {NAN, 1}).Bytes() << 0;
+    QTest::newRow("list with two swapped") << TwoRegions("501,503,506", "501,506,503") << 2;
+    QTest::newRow("list with one twice") << TwoRegions("501,503,506", "501,503,503") << 2;
+}
+
+void SpePictureFileTest::anAxisThatTurnsIsSaidAndLeftOut()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(int, pixel);
+    PictureFolder folder;
+    const auto file = Opened(folder, bytes);
+    QVERIFY(file);
+    QVERIFY(file->AxisOf(0).IsEmpty());
+    const QString said = QString("does not rise or fall steadily (it turns at pixel %1) and is left out").arg(pixel);
+    QVERIFY2(file->Info().warning.contains(said), qPrintable(file->Info().warning));
 }
 
 void SpePictureFileTest::regionsAreFramesOfTheirOwn()
