@@ -17,6 +17,8 @@
 #include <QFileDialog>
 #include <QStandardPaths>
 
+#include <cmath>
+
 namespace {
 
 PlotForm FormOf(const QString &suffix)
@@ -61,7 +63,8 @@ ExportedSpectrum SpectrumDialogs::Shown() const
     ExportedSpectrum spectrum = m_services->Spectrum()->IsImageShown() ? OpenedSpectrum() : LiveSpectrum();
     spectrum.axis = m_services->Spectrum()->ShownAxis();
     spectrum.points = m_services->Calibration()->AppliedPoints();
-    spectrum.residualPixels = m_services->Calibration()->Applied().rmsPixel;
+    const double pixelsHere = std::abs(spectrum.axis.PixelHere(1) - spectrum.axis.PixelHere(0));
+    spectrum.residualPixels = m_services->Calibration()->Applied().rmsPixel * pixelsHere;
     spectrum.when = QDateTime::currentDateTime();
     return spectrum;
 }

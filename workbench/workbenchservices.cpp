@@ -266,9 +266,24 @@ void WorkbenchServices::ConnectSpectrum()
         settings->slotSetImageShown(view == ImageView || view == ImageCompareView);
         ShowSpectrumAgain();
     });
-    connect(m_mainPicture.get(), &OpenedPicture::signalAxis, settings,
-            [this, settings](const SpectralAxis &axis) { settings->SetImageAxis(axis, m_mainPicture->GetImageSize().width()); });
+    connect(m_mainPicture.get(), &OpenedPicture::signalAxis, settings, [this, settings](const SpectralAxis &axis) {
+        // Of columns that were moved nothing is known.
+        const bool isAsInFile = m_mainPicture->Shown().request.edit.IsNone();
+        settings->SetImageAxis(axis, isAsInFile ? m_mainPicture->GetImageSize().width() : 0);
+    });
+    connect(m_link, &CameraLink::signalFormatChanged, this, &WorkbenchServices::UpdateSensorFrame);
+    connect(m_link, &CameraLink::signalStateChanged, this, &WorkbenchServices::UpdateSensorFrame);
+    connect(m_orientation.get(), &LiveOrientation::signalOrientationChanged, this, &WorkbenchServices::UpdateSensorFrame);
     connect(settings, &SpectrumSettings::signalMessage, this, &WorkbenchServices::signalMessage);
+}
+
+/// A camera that is gone leaves its last picture, and what is known of that.
+void WorkbenchServices::UpdateSensorFrame()
+{
+    if (const CameraSession *camera = m_link->Session()) {
+        m_spectrumSettings->SetSensorFrame(
+            {camera->Format().Region(), camera->Format().Binning(), m_orientation->Get()});
+    }
 }
 
 /// The curves of a standing picture need a frame to be made of.

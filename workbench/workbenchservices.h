@@ -126,6 +126,7 @@ private:
     void ConnectSpectrum();
     void ShowSpectrumAgain();
     void UpdateProfilesWanted();
+    void UpdateSensorFrame();
     void RepairRecordings();
 
     QSettings *m_settings;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calibrationmodel.h"
+#include "cameramanager.h"
 #include "camerasession.h"
 #include "fieldsource.h"
 #include "openedpicture.h"
@@ -12,6 +13,7 @@
 #include "spectrumsettings.h"
 #include "stylesheet.h"
 #include "usearea.h"
+#include "viewcodes.h"
 #include "workspaceconfig.h"
 
 #include <QAction>
@@ -119,6 +121,34 @@ private slots:
         QCOMPARE(m_workbench->services.Calibration()->AppliedPoints(), points);
         ShowLamp();
         QTRY_COMPARE(Plot()->xAxis->label(), QString("Wavelength [nm]"));
+    }
+
+    void theCalibrationFollowsAMirroredPictureAndARegion()
+    {
+        ShowLamp();
+        CalibrationModel *model = m_workbench->services.Calibration();
+        model->SetSpectrum(m_workbench->services.Spectra()->Shown().raw.values);
+        QSignalSpy assigned(model, &CalibrationModel::signalAssigned);
+        model->Assign();
+        QVERIFY(assigned.wait(waitMs));
+        QVERIFY(model->Apply());
+        WaitForNextSpectrum();
+        QVERIFY2(std::abs(GreenLine() - 546.074) < 0.3, qPrintable(QString::number(GreenLine())));
+
+        CameraManager::GetInstance()->slotSetMirrorRotate(FlipHorizontal);
+        double last = 0;
+        QVERIFY(m_workbench->services.Spectrum()->Calculate(sensor.width() - 1, last));
+        QVERIFY2(std::abs(last - 390) < 1, qPrintable(QString::number(last)));
+        WaitForNextSpectrum();
+        QVERIFY2(std::abs(GreenLine() - 546.074) < 0.3, qPrintable(QString::number(GreenLine())));
+
+        m_workbench->link.SetRegion(QRect(512, 0, 1024, sensor.height()));
+        QTRY_COMPARE_WITH_TIMEOUT(m_workbench->services.Spectrum()->ShownAxis().Width(), 1024, waitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(Plot()->graph(0)->dataCount() == 1024 && std::abs(GreenLine() - 546.074) < 0.3, waitMs);
+
+        CameraManager::GetInstance()->slotSetMirrorRotate(RotateBy90);
+        QTRY_VERIFY_WITH_TIMEOUT(m_workbench->StatusText().startsWith("The calibration was made along the other side"), waitMs);
+        QCOMPARE(Plot()->xAxis->label(), QString("Pixel Number"));
     }
 
     void thePanelShowsTheCurveToo()
@@ -246,6 +276,17 @@ private:
     }
 
     QCustomPlot *Plot() const { return qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())); }
+
+    /// Where the curve is highest near the green line of mercury, nm; 0 when that is not in it.
+    double GreenLine() const
+    {
+        QCPGraphData highest;
+        for (const QCPGraphData &sample : *Plot()->graph(0)->data()) {
+            if (std::abs(sample.key - 546.074) < 3 && sample.value > highest.value)
+                highest = sample;
+        }
+        return highest.key;
+    }
 
     QPushButton *Button(const QString &name) const { return m_dialog->findChild<QPushButton *>("pushButton" + name); }
 

@@ -16,34 +16,94 @@ struct Text
 };
 
 /// Nanometres and wavenumbers are each other's inverse; a Raman shift stays what it is.
-double Converted(double value, SpectralUnit from, SpectralUnit to)
+bool AreInverse(SpectralUnit from, SpectralUnit to)
 {
-    const bool isInverse = (from == SpectralUnit::Nanometre && to == SpectralUnit::Wavenumber)
+    return (from == SpectralUnit::Nanometre && to == SpectralUnit::Wavenumber)
         || (from == SpectralUnit::Wavenumber && to == SpectralUnit::Nanometre);
-    return isInverse && value != 0 ? nanometresPerCentimetre / value : value;
 }
 
 } // namespace
 
-bool CalibratedAxis::IsCalibrated() const
+void CalibratedAxis::SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame)
 {
-    return !m_fileAxis.IsEmpty() || (!m_calibration.IsNull() && m_calibration.Width() == m_width);
+    m_calibration = calibration;
+    m_calibrated = frame;
+    Fit();
 }
+
+void CalibratedAxis::SetSpectrum(int width, const SpectralFrame &frame)
+{
+    m_width = width;
+    m_frame = frame;
+    Fit();
+}
+
+bool CalibratedAxis::AreFramesKnown() const { return !m_calibrated.IsNull() && !m_frame.IsNull(); }
+
+void CalibratedAxis::Fit()
+{
+    m_fitting = SpectralCalibration();
+    if (m_calibration.IsNull())
+        return;
+    if (!AreFramesKnown()) {
+        if (m_calibration.Width() == m_width)
+            m_fitting = m_calibration;
+    } else if (m_frame.count == m_width && m_frame.IsWithin(m_calibrated)) { // else its pixels are about to change
+        const double first = m_calibrated.SampleAt(m_frame.OnSensor(0));
+        const double second = m_calibrated.SampleAt(m_frame.OnSensor(1));
+        m_fitting = m_calibration.Along(first, second - first, m_width);
+    }
+}
+
+double CalibratedAxis::PixelHere(double calibrated) const
+{
+    return AreFramesKnown() ? m_frame.SampleAt(m_calibrated.OnSensor(calibrated)) : calibrated;
+}
+
+QString CalibratedAxis::Misfit() const
+{
+    if (m_calibration.IsNull() || !m_fitting.IsNull() || m_width <= 0)
+        return QString();
+    if (!AreFramesKnown())
+        return Text::tr("The calibration was made for spectra of %1 pixels and this one has %2: positions are in pixels.")
+            .arg(m_calibration.Width()).arg(m_width);
+    if (m_frame.count != m_width)
+        return QString();
+    if (m_frame.isAlongRows != m_calibrated.isAlongRows)
+        return Text::tr("The calibration was made along the other side of the sensor: positions are in pixels. Change the direction or "
+                        "rotate the picture back, or calibrate anew.");
+    return Text::tr("The calibration was made for the sensor's pixels %1 to %2, and this spectrum has others too: positions are in "
+                    "pixels. Choose a region among those, or calibrate anew.")
+        .arg(m_calibrated.first).arg(m_calibrated.first + m_calibrated.count * m_calibrated.binning - 1);
+}
+
+bool CalibratedAxis::IsCalibrated() const { return !m_fileAxis.IsEmpty() || !m_fitting.IsNull(); }
 
 SpectralUnit CalibratedAxis::Unit() const
 {
     if (!IsCalibrated() || m_unit == SpectralUnit::Pixel)
         return SpectralUnit::Pixel;
-    return m_fileAxis.unit == SpectralUnit::RamanShift ? SpectralUnit::RamanShift : m_unit;
+    const SpectralUnit own = OwnUnit();
+    return AreInverse(own, m_unit) && HasInverse() ? m_unit : own;
 }
+
+SpectralUnit CalibratedAxis::OwnUnit() const { return m_fileAxis.IsEmpty() ? SpectralUnit::Nanometre : m_fileAxis.unit; }
+
+double CalibratedAxis::OwnValue(double pixel) const
+{
+    return m_fileAxis.IsEmpty() ? m_fitting.Wavelength(pixel) : FileValue(pixel);
+}
+
+/// Rulers and plots ask for the pixel behind the last one too.
+bool CalibratedAxis::HasInverse() const { return OwnValue(0) > 0 && OwnValue(m_width) > 0; }
 
 double CalibratedAxis::At(double pixel) const
 {
-    if (Unit() == SpectralUnit::Pixel)
+    const SpectralUnit unit = Unit();
+    if (unit == SpectralUnit::Pixel)
         return pixel;
-    if (m_fileAxis.IsEmpty())
-        return Converted(m_calibration.Wavelength(pixel), SpectralUnit::Nanometre, Unit());
-    return Converted(FileValue(pixel), m_fileAxis.unit, Unit());
+    const double value = OwnValue(pixel);
+    return AreInverse(OwnUnit(), unit) ? nanometresPerCentimetre / value : value;
 }
 
 /// Between the values straight, and beyond them on with the last step.

@@ -3,6 +3,7 @@
 
 #include "spectralaxis.h"
 #include "spectralcalibration.h"
+#include "spectralframe.h"
 
 #include <QString>
 
@@ -10,19 +11,29 @@
 class CalibratedAxis
 {
 public:
-    void SetCalibration(const SpectralCalibration &calibration) { m_calibration = calibration; }
+    /// `frame` is that of the spectrum it was made with, null when that is not known.
+    void SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame);
     void SetFileAxis(const SpectralAxis &axis) { m_fileAxis = axis; }
     void SetUnit(SpectralUnit unit) { m_unit = unit; }
-    /// Of the spectra, pixels. A spectrum of another width than our calibration comes from another part of the sensor, of
-    /// which nothing is known.
-    void SetWidth(int width) { m_width = width; }
+    /// Of the spectra: their width in pixels, and where they lie on the sensor, null when that is not known; then only
+    /// those as wide as our calibration are taken for calibrated.
+    void SetSpectrum(int width, const SpectralFrame &frame);
 
+    /// As it was made.
     const SpectralCalibration &Calibration() const { return m_calibration; }
+    /// Our own for the pixels of these spectra: turned around for a mirrored picture, cut to a region, binned. Null where
+    /// it does not hold.
+    const SpectralCalibration &Fitting() const { return m_fitting; }
+    /// Why our own does not hold for these spectra, for the user; empty when it does.
+    QString Misfit() const;
+    /// The place in these spectra of a pixel of the spectrum that our own was made with.
+    double PixelHere(double calibrated) const;
     const SpectralAxis &FileAxis() const { return m_fileAxis; }
     int Width() const { return m_width; }
     /// By what came with the file, or by our own calibration where it fits.
     bool IsCalibrated() const;
-    /// What At() gives: pixels unless there is a calibration.
+    /// What At() gives: pixels unless there is a calibration; its own unit where a wavelength or wavenumber of 0 lies in
+    /// it, which has no inverse.
     SpectralUnit Unit() const;
     bool IsOwn() const { return m_fileAxis.IsEmpty() && IsCalibrated(); }
     /// The value at a pixel, counted from 0, beyond the spectrum too.
@@ -31,9 +42,19 @@ public:
     QString Title() const;
 
 private:
+    /// Before it is converted.
+    SpectralUnit OwnUnit() const;
+    double OwnValue(double pixel) const;
+    bool HasInverse() const;
+    void Fit();
+    /// Both frames are known, and the width is that of its frame.
+    bool AreFramesKnown() const;
     double FileValue(double pixel) const;
 
     SpectralCalibration m_calibration;
+    SpectralCalibration m_fitting;
+    SpectralFrame m_calibrated; ///< of m_calibration
+    SpectralFrame m_frame;
     SpectralAxis m_fileAxis;
     SpectralUnit m_unit = SpectralUnit::Nanometre;
     int m_width = 0;

@@ -39,22 +39,34 @@ void CalibrationModel::Restore()
     m_points = m_appliedPoints = stored.points;
     m_degree = stored.degree;
     m_width = stored.width;
+    m_frame = stored.frame;
     m_applied = std::move(fit);
-    m_target->SetCalibration(m_applied.calibration);
+    m_target->SetCalibration(m_applied.calibration, m_frame);
 }
 
 void CalibrationModel::SetSpectrum(const std::vector<double> &values, const std::vector<quint8> &saturated)
 {
     ++m_question; // an answer that is still to come is of the spectrum before
-    if (!values.empty() && int(values.size()) != m_width) {
-        m_points.clear();
-        m_before.clear();
-        m_width = int(values.size());
-    }
+    if (!values.empty())
+        BelongTo(int(values.size()), m_target->ShownFrame());
     m_values = values;
     m_peaks = FindPeaks(values, PeakRules(), saturated);
     FitAgain();
     emit signalChanged();
+}
+
+/// A frame of another length is that of pictures to come. Where nothing is known, the width has to do.
+void CalibrationModel::BelongTo(int width, const SpectralFrame &shown)
+{
+    const SpectralFrame frame = shown.count == width ? shown : SpectralFrame();
+    const bool isOther = width != m_width || (!frame.IsNull() && !m_frame.IsNull() && frame != m_frame);
+    if (isOther) {
+        m_points.clear();
+        m_before.clear();
+    }
+    m_width = width;
+    if (m_points.isEmpty() && m_before.isEmpty())
+        m_frame = frame;
 }
 
 void CalibrationModel::SetLamps(const QVector<Lamp> &lamps)
@@ -177,8 +189,8 @@ bool CalibrationModel::Apply()
         return false;
     m_applied = m_fit;
     m_appliedPoints = m_points;
-    StoreCalibration({m_points, m_degree, m_width}, m_stored);
-    m_target->SetCalibration(m_fit.calibration);
+    StoreCalibration({m_points, m_degree, m_width, m_frame}, m_stored);
+    m_target->SetCalibration(m_fit.calibration, m_frame);
     if (m_target->Unit() == SpectralUnit::Pixel)
         m_target->SetUnit(SpectralUnit::Nanometre);
     emit signalApplied();
@@ -190,6 +202,6 @@ void CalibrationModel::TakeAway()
     m_applied = CalibrationFit();
     m_appliedPoints.clear();
     StoreCalibration({}, m_stored);
-    m_target->SetCalibration(SpectralCalibration());
+    m_target->SetCalibration(SpectralCalibration(), SpectralFrame());
     emit signalApplied();
 }

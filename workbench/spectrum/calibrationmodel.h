@@ -4,6 +4,7 @@
 #include "calibrationfit.h"
 #include "lamplines.h"
 #include "peakfinder.h"
+#include "spectralframe.h"
 
 #include <QObject>
 #include <QThreadPool>
@@ -22,8 +23,8 @@ public:
     CalibrationModel(SpectrumSettings *target, QSettings *stored, QObject *parent = nullptr);
     ~CalibrationModel() override;
 
-    /// The lamp spectrum that lines are picked on, and 1 where it is saturated; empty when that is not known. Points of a
-    /// spectrum of another width are forgotten.
+    /// The lamp spectrum that lines are picked on, which is on the screen, and 1 where it is saturated; empty when that is
+    /// not known. Points of a spectrum of another width, or of other pixels of the sensor, are forgotten.
     void SetSpectrum(const std::vector<double> &values, const std::vector<quint8> &saturated = {});
     const std::vector<double> &Values() const { return m_values; }
     const std::vector<SpectralPeak> &Peaks() const { return m_peaks; }
@@ -76,6 +77,7 @@ private:
     void FitAgain();
     /// The top of the peak there is cut off.
     bool IsSaturated(double pixel) const;
+    void BelongTo(int width, const SpectralFrame &shown);
     void TakeAssigned(const QVector<CalibrationPoint> &points, int question);
     void Restore();
 
@@ -84,6 +86,7 @@ private:
     std::vector<double> m_values;
     std::vector<SpectralPeak> m_peaks;
     int m_width = 0;
+    SpectralFrame m_frame; ///< of the spectrum that the points belong to
     QVector<Lamp> m_lamps;
     double m_firstNm = 0;
     double m_lastNm = 0;

@@ -12,8 +12,26 @@ constexpr char PixelKey[] = "pixel";
 constexpr char WavelengthKey[] = "nm";
 constexpr char LineKey[] = "line";
 constexpr char SaturatedKey[] = "saturated";
+constexpr char FrameKey[] = "frame"; // along rows, reversed, first, binning
 constexpr int mostPoints = 1000;
 constexpr int widestFrame = 65535;
+
+QVariantList Numbers(const SpectralFrame &frame) { return {int(frame.isAlongRows), int(frame.isReversed), frame.first, frame.binning}; }
+
+/// Null for what makes no sense.
+SpectralFrame Frame(const QVariantList &numbers, int width)
+{
+    SpectralFrame frame;
+    if (numbers.size() != 4)
+        return frame;
+    frame.isAlongRows = numbers[0].toInt() != 0;
+    frame.isReversed = numbers[1].toInt() != 0;
+    frame.first = numbers[2].toInt();
+    frame.binning = numbers[3].toInt();
+    const bool makesSense = frame.first >= 0 && frame.first <= widestFrame && frame.binning >= 1 && frame.binning <= widestFrame;
+    frame.count = makesSense ? width : 0;
+    return frame;
+}
 } // namespace
 
 StoredCalibration LoadCalibration(QSettings &settings)
@@ -22,6 +40,7 @@ StoredCalibration LoadCalibration(QSettings &settings)
     settings.beginGroup(Group);
     calibration.degree = settings.value(DegreeKey).toInt();
     calibration.width = settings.value(WidthKey).toInt();
+    calibration.frame = Frame(settings.value(FrameKey).toList(), calibration.width);
     const int count = qMin(settings.beginReadArray(PointsKey), mostPoints);
     for (int i = 0; i < count; ++i) {
         settings.setArrayIndex(i);
@@ -41,6 +60,8 @@ void StoreCalibration(const StoredCalibration &calibration, QSettings *settings)
     settings->beginGroup(Group);
     settings->setValue(DegreeKey, calibration.degree);
     settings->setValue(WidthKey, calibration.width);
+    if (!calibration.frame.IsNull())
+        settings->setValue(FrameKey, Numbers(calibration.frame));
     settings->beginWriteArray(PointsKey, calibration.points.size());
     for (int i = 0; i < calibration.points.size(); ++i) {
         settings->setArrayIndex(i);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "spectralcalibration.h"
+#include "spectralframe.h"
 
 class QSettings;
 
@@ -11,6 +12,7 @@ struct StoredCalibration
     QVector<CalibrationPoint> points;
     int degree = 0;
     int width = 0; ///< of the spectrum, pixels
+    SpectralFrame frame; ///< of the spectrum; null when it was not known
 };
 
 /// Empty when none is kept. What it holds comes from outside: whoever uses it fits it anew.

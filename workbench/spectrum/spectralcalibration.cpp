@@ -13,6 +13,23 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(CalibrationPoint)
 };
 
+/// The polynomial of `start` + `step` * x: Horner's scheme on polynomials.
+QVector<double> Composed(const QVector<double> &coefficients, double start, double step)
+{
+    QVector<double> result(coefficients.size(), 0.0);
+    for (int power = coefficients.size() - 1; power >= 0; --power) {
+        QVector<double> next(coefficients.size(), 0.0);
+        for (int k = 0; k < result.size(); ++k) {
+            next[k] += start * result[k];
+            if (k + 1 < next.size())
+                next[k + 1] += step * result[k];
+        }
+        next[0] += coefficients[power];
+        result = next;
+    }
+    return result;
+}
+
 } // namespace
 
 QString CalibrationPoint::LineText() const
@@ -28,11 +45,9 @@ SpectralCalibration::SpectralCalibration(const QVector<double> &coefficients, in
 {
 }
 
-double SpectralCalibration::Normalised(double pixel) const
-{
-    const double half = std::max(1.0, (m_width - 1) / 2.0);
-    return (pixel - half) / half;
-}
+double SpectralCalibration::Half() const { return std::max(1.0, (m_width - 1) / 2.0); }
+
+double SpectralCalibration::Normalised(double pixel) const { return (pixel - Half()) / Half(); }
 
 double SpectralCalibration::Wavelength(double pixel) const
 {
@@ -49,25 +64,15 @@ double SpectralCalibration::Dispersion(double pixel) const
     double slope = 0;
     for (int power = Degree(); power >= 1; --power)
         slope = slope * x + power * m_coefficients[power];
-    return slope / std::max(1.0, (m_width - 1) / 2.0);
+    return slope / Half();
 }
 
-QVector<double> SpectralCalibration::PixelCoefficients() const
+QVector<double> SpectralCalibration::PixelCoefficients() const { return Composed(m_coefficients, -1, 1 / Half()); }
+
+SpectralCalibration SpectralCalibration::Along(double first, double step, int width) const
 {
-    // Horner's scheme on polynomials: multiply by (pixel - half) / half and add the next coefficient.
-    const double half = std::max(1.0, (m_width - 1) / 2.0);
-    QVector<double> result(m_coefficients.size(), 0.0);
-    for (int power = Degree(); power >= 0; --power) {
-        QVector<double> next(m_coefficients.size(), 0.0);
-        for (int k = 0; k < result.size(); ++k) {
-            next[k] -= result[k];
-            if (k + 1 < next.size())
-                next[k + 1] += result[k] / half;
-        }
-        next[0] += m_coefficients[power];
-        result = next;
-    }
-    return result;
+    const double half = std::max(1.0, (width - 1) / 2.0);
+    return SpectralCalibration(Composed(m_coefficients, Normalised(first + step * half), step * half / Half()), width);
 }
 
 double SpectralCalibration::PixelAt(double nm) const

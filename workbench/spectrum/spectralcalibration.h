@@ -38,6 +38,9 @@ public:
     /// The same as powers of the pixel, for other programs.
     QVector<double> PixelCoefficients() const;
 
+    /// The same for the `width` pixels of another spectrum, whose pixel p is pixel `first` + `step` * p of this one.
+    SpectralCalibration Along(double first, double step, int width) const;
+
     double Wavelength(double pixel) const;
     /// nm for each pixel
     double Dispersion(double pixel) const;
@@ -47,6 +50,7 @@ public:
     bool IsSteady(double *turn) const;
 
 private:
+    double Half() const;
     double Normalised(double pixel) const;
 
     QVector<double> m_coefficients;

@@ -67,7 +67,7 @@ void AddCalibration(const ExportedSpectrum &spectrum, QStringList *lines)
         *lines << Comment("calibration", spectrum.axis.IsCalibrated() ? "from the file" : "none");
         return;
     }
-    const SpectralCalibration &calibration = spectrum.axis.Calibration();
+    const SpectralCalibration &calibration = spectrum.axis.Fitting();
     *lines << Comment("calibration", QString("polynomial of degree %1, wavelength in air [nm] of the pixel, counted from 0, lowest power first")
                                          .arg(calibration.Degree()));
     QStringList powers;
@@ -76,7 +76,8 @@ void AddCalibration(const ExportedSpectrum &spectrum, QStringList *lines)
     *lines << Comment("coefficients", powers.join(' '))
            << Comment("residual", QString("%1 pixels rms").arg(spectrum.residualPixels, 0, 'g', 4));
     for (const CalibrationPoint &point : spectrum.points)
-        *lines << Comment("line", QString("pixel %1 is %2 nm %3").arg(Number(point.pixel), Number(point.nm), point.line)
+        *lines << Comment("line", QString("pixel %1 is %2 nm %3")
+                                          .arg(Number(spectrum.axis.PixelHere(point.pixel)), Number(point.nm), point.line)
                                       + (point.isSaturated ? " saturated" : ""));
 }
 

@@ -132,7 +132,7 @@ void SpectrumSettings::slotSetFrameSize(QSize size)
     if (m_frameSize == size)
         return;
     m_frameSize = size;
-    UpdateLiveWidth();
+    UpdateLiveSpectrum();
     if (KeepBandInPicture())
         emit signalRecipeChanged();
     for (QRectF &track : m_tracks)
@@ -182,7 +182,7 @@ void SpectrumSettings::SetHorizontal(bool horizontal)
         return;
     }
     m_recipe.isHorizontal = horizontal;
-    UpdateLiveWidth();
+    UpdateLiveSpectrum();
     KeepBandInPicture();
     emit signalRecipeChanged();
     if (m_recipe.hasTracks)
@@ -200,14 +200,44 @@ void SpectrumSettings::SetCorrections(const CorrectionSettings &corrections)
 
 // Calibration
 
-void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration)
+void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame)
 {
-    m_liveAxis.SetCalibration(calibration);
-    m_imageAxis.SetCalibration(calibration);
+    m_liveAxis.SetCalibration(calibration, frame);
+    m_imageAxis.SetCalibration(calibration, frame);
+    TellOfMisfit();
     AnnounceAxis();
 }
 
-void SpectrumSettings::UpdateLiveWidth() { m_liveAxis.SetWidth(m_recipe.isHorizontal ? m_frameSize.width() : m_frameSize.height()); }
+SpectralFrame SpectrumSettings::LiveFrame() const { return SpectralFrame::Of(m_sensorFrame, m_recipe.isHorizontal); }
+
+SpectralFrame SpectrumSettings::ShownFrame() const { return m_isImageShown ? SpectralFrame() : LiveFrame(); }
+
+void SpectrumSettings::SetSensorFrame(const SensorFrame &frame)
+{
+    if (m_sensorFrame == frame)
+        return;
+    m_sensorFrame = frame;
+    UpdateLiveSpectrum();
+    if (!Calibration().IsNull())
+        AnnounceAxis();
+}
+
+void SpectrumSettings::UpdateLiveSpectrum()
+{
+    m_liveAxis.SetSpectrum(m_recipe.isHorizontal ? m_frameSize.width() : m_frameSize.height(), LiveFrame());
+    TellOfMisfit();
+}
+
+/// Once, until there is another one.
+void SpectrumSettings::TellOfMisfit()
+{
+    const QString misfit = m_liveAxis.Misfit();
+    if (misfit == m_toldMisfit)
+        return;
+    m_toldMisfit = misfit;
+    if (!misfit.isEmpty())
+        emit signalMessage(misfit);
+}
 
 void SpectrumSettings::SetUnit(SpectralUnit unit)
 {
@@ -218,6 +248,8 @@ void SpectrumSettings::SetUnit(SpectralUnit unit)
     m_imageAxis.SetUnit(unit);
     emit signalUnitChanged();
     AnnounceAxis();
+    if (unit == SpectralUnit::Wavenumber && ShownAxis().Unit() == SpectralUnit::Nanometre)
+        emit signalMessage(tr("A wavelength of 0 lies in this spectrum, which has no wavenumber: it is shown in nanometres."));
 }
 
 void SpectrumSettings::SetImageAxis(const SpectralAxis &axis, int width)
@@ -225,7 +257,7 @@ void SpectrumSettings::SetImageAxis(const SpectralAxis &axis, int width)
     if (m_imageAxis.FileAxis() == axis && m_imageAxis.Width() == width)
         return; // the next frame: what is announced asks for the curves anew
     m_imageAxis.SetFileAxis(axis);
-    m_imageAxis.SetWidth(width);
+    m_imageAxis.SetSpectrum(width, SpectralFrame());
     AnnounceAxis();
 }
 

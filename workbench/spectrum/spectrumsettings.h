@@ -32,14 +32,19 @@ public:
     /// Replaces the list; refused, in words, when it is empty, overlaps or leaves the frame.
     bool SetTracks(const QList<QRectF> &tracks);
     void SetCorrections(const CorrectionSettings &corrections);
-    /// Of spectra as wide as it, live ones and those of files that say nothing themselves; null takes it away.
-    void SetCalibration(const SpectralCalibration &calibration);
+    /// Of live spectra within `frame`, that of the spectrum it was made with, and of those of files that say nothing
+    /// themselves and are as wide as it; null takes it away.
+    void SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame);
     const SpectralCalibration &Calibration() const { return m_liveAxis.Calibration(); }
+    /// Where the samples of the spectrum on the screen lie on the sensor; null for an opened one.
+    SpectralFrame ShownFrame() const;
     /// nm, wavenumbers or pixels, as far as there is a calibration.
     void SetUnit(SpectralUnit unit);
     SpectralUnit Unit() const { return m_unit; }
     /// The calibration of the opened file, an empty one for none, and the width of its picture.
     void SetImageAxis(const SpectralAxis &axis, int width);
+    /// How the camera's frames come to be the live picture. A calibration follows, or is said not to hold.
+    void SetSensorFrame(const SensorFrame &frame);
     /// The axis of what is on the screen.
     const CalibratedAxis &ShownAxis() const;
     /// An opened picture is on the screen, rather than the live one.
@@ -133,7 +138,9 @@ private:
     void AnnounceAxis();
     /// Of what Calculate() gives.
     QString AxisTitle() const;
-    void UpdateLiveWidth();
+    SpectralFrame LiveFrame() const;
+    void UpdateLiveSpectrum();
+    void TellOfMisfit();
 
     DisplayModeManager *m_ranges;
     CentreDisplay *m_centre;
@@ -142,7 +149,9 @@ private:
     SpectrumRecipe m_recipe;
     QList<QRectF> m_tracks;
     QSize m_frameSize;
+    SensorFrame m_sensorFrame;
     CalibratedAxis m_liveAxis;
+    QString m_toldMisfit; ///< of m_liveAxis
     CalibratedAxis m_imageAxis;
     const CalibratedAxis m_plainAxis; ///< pixels
     SpectralUnit m_unit = SpectralUnit::Nanometre;

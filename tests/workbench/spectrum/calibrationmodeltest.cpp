@@ -35,6 +35,8 @@ private slots:
     void whatIsKeptMayBeNonsense_data();
     void whatIsKeptMayBeNonsense();
     void aSpectrumOfAnotherWidthBeginsAnew();
+    void aSpectrumOfOtherPixelsBeginsAnew();
+    void whereItWasMadeIsKept();
 
 private:
     std::unique_ptr<CalibrationModel> Model() { return std::make_unique<CalibrationModel>(m_settings.get(), m_stored.get()); }
@@ -272,7 +274,7 @@ void CalibrationModelTest::whatWasAppliedIsKept()
     model->AddPoint(PixelOf(hgViolet), hgViolet);
     QVERIFY(!model->IsApplied());
 
-    m_settings->SetCalibration(SpectralCalibration());
+    m_settings->SetCalibration(SpectralCalibration(), SpectralFrame());
     model = Model();
     QCOMPARE(model->Points(), points);
     QCOMPARE(model->AppliedPoints(), points);
@@ -326,7 +328,7 @@ void CalibrationModelTest::whatIsKeptMayBeNonsense()
     QVERIFY(model->Apply());
     QVERIFY(m_stored->contains("spectrum/calibration/" + key));
     m_stored->setValue("spectrum/calibration/" + key, value);
-    m_settings->SetCalibration(SpectralCalibration());
+    m_settings->SetCalibration(SpectralCalibration(), SpectralFrame());
     model = Model();
     QVERIFY(m_settings->Calibration().IsNull());
     QVERIFY(model->Points().isEmpty());
@@ -344,6 +346,44 @@ void CalibrationModelTest::aSpectrumOfAnotherWidthBeginsAnew()
     model->SetSpectrum(NoiseOnly(width - 1, 100, 5, 3));
     QVERIFY(model->Points().isEmpty());
     QVERIFY(!model->CanUndo());
+}
+
+void CalibrationModelTest::aSpectrumOfOtherPixelsBeginsAnew()
+{
+    m_settings->SetSensorFrame({QRect(0, 0, width, 100), 1, Orientation()});
+    const auto model = Model();
+    model->SetSpectrum(HgLamp());
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->SetSpectrum(HgLamp());
+    QCOMPARE(model->Points().size(), 1);
+    m_settings->SetSensorFrame({QRect(0, 0, width, 100), 1, Orientation().FlippedHorizontally()});
+    model->SetSpectrum(HgLamp());
+    QVERIFY(model->Points().isEmpty());
+    QVERIFY(!model->CanUndo());
+}
+
+void CalibrationModelTest::whereItWasMadeIsKept()
+{
+    m_settings->SetSensorFrame({QRect(64, 0, width, 100), 1, Orientation()});
+    auto model = Model();
+    model->SetSpectrum(HgLamp());
+    model->SetDegree(1);
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->AddPoint(PixelOf(hgGreen), hgGreen);
+    QVERIFY(model->Apply());
+    double nm = 0;
+    QVERIFY(m_settings->Calculate(100, nm));
+
+    m_settings->SetCalibration(SpectralCalibration(), SpectralFrame());
+    model = Model();
+    double again = 0;
+    QVERIFY(m_settings->Calculate(100, again));
+    QCOMPARE(again, nm);
+    m_settings->SetSensorFrame({QRect(64, 0, width, 100), 1, Orientation().FlippedHorizontally()});
+    QVERIFY(m_settings->Calculate(width - 1 - 100, again));
+    QVERIFY2(std::abs(again - nm) < 1e-9, qPrintable(QString::number(again)));
+    m_settings->SetSensorFrame({QRect(65, 0, width, 100), 1, Orientation()});
+    QVERIFY(!m_settings->Calculate(100, again));
 }
 
 GUARDED_TEST_MAIN(CalibrationModelTest)

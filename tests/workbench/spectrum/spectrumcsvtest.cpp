@@ -38,7 +38,7 @@ ExportedSpectrum Binned()
     spectrum.product.corrections.wanted.quantity = SpectrumQuantity::Transmission;
     spectrum.product.corrections.hasDark = true;
     spectrum.product.corrections.hasReference = true;
-    spectrum.axis.SetWidth(3);
+    spectrum.axis.SetSpectrum(3, SpectralFrame());
     return spectrum;
 }
 
@@ -51,7 +51,7 @@ void SpectrumCsvTest::aBinnedSpectrumTellsAll()
     ExportedSpectrum spectrum = Binned();
     spectrum.points.append({0, 500, "Hg"});
     spectrum.points.append({2, 501, QString(), true});
-    spectrum.axis.SetCalibration(FitCalibration(spectrum.points, 1, 3).calibration);
+    spectrum.axis.SetCalibration(FitCalibration(spectrum.points, 1, 3).calibration, SpectralFrame());
     spectrum.residualPixels = 0.03125;
     QCOMPARE(Lines(spectrum), QStringList({
                                   "# source: Camera 7",

@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+Q_DECLARE_METATYPE(SensorFrame)
+
 /// What is set of spectra, and who is told.
 class SpectrumSettingsTest : public GuardedTest
 {
@@ -27,7 +29,12 @@ private slots:
     void tracksAreAsWideAsTheFrame();
     void calibratedInEveryUnit();
     void aCalibrationOfAnotherWidthIsNotUsed();
+    void aCalibrationFollowsItsPixelsOfTheSensor_data();
+    void aCalibrationFollowsItsPixelsOfTheSensor();
+    void aCalibrationOfOtherPixelsIsSaidAndNotUsed_data();
+    void aCalibrationOfOtherPixelsIsSaidAndNotUsed();
     void theAxisOfAFileIsThatOfItsPage();
+    void anAxisThroughZeroStaysInNanometres();
     void aFileThatSaysNothingIsCalibratedByOurs();
     void spectraAlongTheColumnsAreAsLongAsThose();
     void whatAFileSaysOfItsAreaIsChecked_data();
@@ -35,6 +42,11 @@ private slots:
     void styleReachesThePlots();
 
 private:
+    /// Calibrated with 1000 columns from column 100 on, unbinned and upright: 400 nm in the first and 0.25 nm in each.
+    void CalibrateRegion();
+    /// What is shown of the sensor from now on.
+    void Show(const SensorFrame &frame);
+
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<QSettings> m_stored;
     std::unique_ptr<SpectrumRanges> m_ranges;
@@ -205,7 +217,7 @@ void SpectrumSettingsTest::calibratedInEveryUnit()
     QCOMPARE(m_settings->GetTitleName(), QString("Pixel Number"));
 
     QSignalSpy told(m_settings.get(), &SpectrumUIManager::SignalConversationFormulaChanged);
-    m_settings->SetCalibration(Straight());
+    m_settings->SetCalibration(Straight(), SpectralFrame());
     QCOMPARE(told.count(), 1);
     QVERIFY(m_settings->Calculate(200, x));
     QVERIFY(std::abs(x - 450) < 1e-9);
@@ -221,12 +233,95 @@ void SpectrumSettingsTest::calibratedInEveryUnit()
 
 void SpectrumSettingsTest::aCalibrationOfAnotherWidthIsNotUsed()
 {
-    m_settings->SetCalibration(Straight());
+    m_settings->SetCalibration(Straight(), SpectralFrame());
     m_settings->slotSetFrameSize(QSize(500, 500));
     double x = 0;
     QVERIFY(!m_settings->Calculate(10, x));
     QCOMPARE(x, 10.0);
     QCOMPARE(m_settings->GetTitleName(), QString("Pixel Number"));
+}
+
+void SpectrumSettingsTest::CalibrateRegion()
+{
+    Show({QRect(100, 50, 1000, 1000), 1, Orientation()});
+    m_settings->SetCalibration(Straight(), m_settings->ShownFrame());
+}
+
+void SpectrumSettingsTest::Show(const SensorFrame &frame)
+{
+    m_settings->SetSensorFrame(frame);
+    m_settings->slotSetFrameSize(frame.orientation.Map(frame.region.size() / frame.binning));
+}
+
+void SpectrumSettingsTest::aCalibrationFollowsItsPixelsOfTheSensor_data()
+{
+    QTest::addColumn<SensorFrame>("frame");
+    QTest::addColumn<bool>("horizontal");
+    QTest::addColumn<double>("first"); // nm
+    QTest::addColumn<double>("step");
+    const QRect same(100, 50, 1000, 1000);
+    const Orientation upright;
+    QTest::newRow("as it was") << SensorFrame{same, 1, upright} << true << 400.0 << 0.25;
+    QTest::newRow("mirrored") << SensorFrame{same, 1, upright.FlippedHorizontally()} << true << 649.75 << -0.25;
+    QTest::newRow("upside down") << SensorFrame{same, 1, upright.FlippedVertically()} << true << 400.0 << 0.25;
+    QTest::newRow("half a turn") << SensorFrame{same, 1, upright.RotatedRight().RotatedRight()} << true << 649.75 << -0.25;
+    QTest::newRow("a quarter, along the columns") << SensorFrame{same, 1, upright.RotatedRight()} << false << 400.0 << 0.25;
+    QTest::newRow("a quarter to the left") << SensorFrame{same, 1, upright.RotatedLeft()} << false << 649.75 << -0.25;
+    QTest::newRow("a region in it") << SensorFrame{QRect(300, 0, 400, 100), 1, upright} << true << 450.0 << 0.25;
+    QTest::newRow("mirrored region") << SensorFrame{QRect(300, 0, 400, 100), 1, upright.FlippedHorizontally()} << true << 549.75 << -0.25;
+    QTest::newRow("binned") << SensorFrame{same, 2, upright} << true << 400.125 << 0.5;
+    QTest::newRow("mirrored and binned") << SensorFrame{same, 4, upright.FlippedHorizontally()} << true << 649.375 << -1.0;
+}
+
+void SpectrumSettingsTest::aCalibrationFollowsItsPixelsOfTheSensor()
+{
+    QFETCH(SensorFrame, frame);
+    QFETCH(bool, horizontal);
+    QFETCH(double, first);
+    QFETCH(double, step);
+    CalibrateRegion();
+    m_settings->SetHorizontal(horizontal);
+    Show(frame);
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    const CalibratedAxis &axis = m_settings->ShownAxis();
+    for (const int pixel : {0, 1, 77, axis.Width() - 1}) {
+        double nm = 0;
+        QVERIFY(m_settings->Calculate(pixel, nm));
+        QVERIFY2(std::abs(nm - (first + step * pixel)) < 1e-9, qPrintable(QString("%1: %2").arg(pixel).arg(nm, 0, 'f', 6)));
+    }
+    QVERIFY(told.isEmpty());
+    // Where a line of the calibration is now.
+    QVERIFY(std::abs(axis.At(axis.PixelHere(200)) - 450) < 1e-9);
+}
+
+void SpectrumSettingsTest::aCalibrationOfOtherPixelsIsSaidAndNotUsed_data()
+{
+    QTest::addColumn<SensorFrame>("frame");
+    QTest::addColumn<QString>("said");
+    const QRect same(100, 50, 1000, 1000);
+    QTest::newRow("as wide, further on") << SensorFrame{QRect(101, 50, 1000, 1000), 1, Orientation()}
+                                         << "for the sensor's pixels 100 to 1099";
+    QTest::newRow("wider") << SensorFrame{QRect(100, 50, 1200, 1000), 1, Orientation()} << "for the sensor's pixels 100 to 1099";
+    QTest::newRow("as wide, binned") << SensorFrame{QRect(0, 0, 2000, 2000), 2, Orientation()} << "for the sensor's pixels 100 to 1099";
+    QTest::newRow("turned") << SensorFrame{same, 1, Orientation().RotatedRight()} << "along the other side of the sensor";
+}
+
+void SpectrumSettingsTest::aCalibrationOfOtherPixelsIsSaidAndNotUsed()
+{
+    QFETCH(SensorFrame, frame);
+    QFETCH(QString, said);
+    CalibrateRegion();
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    Show(frame);
+    double x = 0;
+    QVERIFY(!m_settings->Calculate(10, x));
+    QCOMPARE(x, 10.0);
+    QCOMPARE(m_settings->GetTitleName(), QString("Pixel Number"));
+    QCOMPARE(told.count(), 1);
+    QVERIFY2(told[0][0].toString().contains(said), qPrintable(told[0][0].toString()));
+    Show({QRect(100, 50, 1000, 1000), 1, Orientation()});
+    QVERIFY(m_settings->Calculate(10, x));
+    QCOMPARE(told.count(), 1);
 }
 
 void SpectrumSettingsTest::theAxisOfAFileIsThatOfItsPage()
@@ -251,12 +346,34 @@ void SpectrumSettingsTest::theAxisOfAFileIsThatOfItsPage()
     QVERIFY(!m_settings->Calculate(1, x));
 }
 
+void SpectrumSettingsTest::anAxisThroughZeroStaysInNanometres()
+{
+    SpectralAxis axis;
+    axis.unit = SpectralUnit::Nanometre;
+    axis.values = {-10, 0, 10, 20};
+    m_settings->SetImageAxis(axis, 4);
+    m_settings->slotSetImageShown(true);
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    m_settings->SetUnit(SpectralUnit::Wavenumber);
+    QVERIFY(told.value(0).value(0).toString().contains("has no wavenumber"));
+    QCOMPARE(m_settings->GetTitleName(), QString("Wavelength [nm]"));
+    double x = 0;
+    QVERIFY(m_settings->Calculate(2, x));
+    QCOMPARE(x, 10.0);
+    // Beyond zero there is a wavenumber for every pixel.
+    axis.values = {400, 500, 625, 800};
+    m_settings->SetImageAxis(axis, 4);
+    QCOMPARE(m_settings->GetTitleName(), QString("Wavenumber [1/cm]"));
+    QVERIFY(m_settings->Calculate(2, x));
+    QCOMPARE(x, 16000.0);
+}
+
 void SpectrumSettingsTest::aFileThatSaysNothingIsCalibratedByOurs()
 {
     SpectralAxis ofFile;
     ofFile.unit = SpectralUnit::Nanometre;
     ofFile.values = {100, 110, 125};
-    m_settings->SetCalibration(Straight());
+    m_settings->SetCalibration(Straight(), SpectralFrame());
     m_settings->slotSetImageShown(true);
     double x = 0;
     m_settings->SetImageAxis(SpectralAxis(), 1000);
@@ -271,7 +388,7 @@ void SpectrumSettingsTest::aFileThatSaysNothingIsCalibratedByOurs()
 
 void SpectrumSettingsTest::spectraAlongTheColumnsAreAsLongAsThose()
 {
-    m_settings->SetCalibration(Straight());
+    m_settings->SetCalibration(Straight(), SpectralFrame());
     m_settings->SetHorizontal(false);
     double x = 0;
     QVERIFY(!m_settings->Calculate(200, x));
