@@ -174,6 +174,10 @@ void WorkbenchServices::StartRecording()
     parts.saving = m_frameSaving.get();
     parts.settings = m_saveSettings.get();
     parts.orientation = m_orientation.get();
+    // Who does not work with spectra has no use for what is left of a calibration.
+    parts.calibration = [this] {
+        return m_useArea->IsSpectrumPagePresent() ? m_spectrumSettings->LiveCalibration() : QVector<MetadataEntry>();
+    };
     m_recording = std::make_unique<RecordingDesk>(parts);
 }
 
@@ -266,6 +270,9 @@ void WorkbenchServices::ConnectSpectrum()
         settings->slotSetImageShown(view == ImageView || view == ImageCompareView);
         ShowSpectrumAgain();
     });
+    m_mainPicture->SetCalibrationSource([this, settings] {
+        return m_useArea->IsSpectrumPagePresent() ? settings->ImageCalibration() : QVector<MetadataEntry>();
+    });
     connect(m_mainPicture.get(), &OpenedPicture::signalAxis, settings, [this, settings](const SpectralAxis &axis) {
         // Of columns that were moved nothing is known.
         const bool isAsInFile = m_mainPicture->Shown().request.edit.IsNone();
@@ -280,10 +287,8 @@ void WorkbenchServices::ConnectSpectrum()
 /// A camera that is gone leaves its last picture, and what is known of that.
 void WorkbenchServices::UpdateSensorFrame()
 {
-    if (const CameraSession *camera = m_link->Session()) {
-        m_spectrumSettings->SetSensorFrame(
-            {camera->Format().Region(), camera->Format().Binning(), m_orientation->Get()});
-    }
+    if (const CameraSession *camera = m_link->Session())
+        m_spectrumSettings->SetSensorFrame({camera->Format().Region(), camera->Format().Binning(), m_orientation->Get()});
 }
 
 /// The curves of a standing picture need a frame to be made of.

@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calibrationmodel.h"
-#include "cameramanager.h"
 #include "camerasession.h"
 #include "fieldsource.h"
+#include "liveorientation.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
 #include "plotpicture.h"
+#include "recordingdesk.h"
 #include "scenariotest.h"
 #include "spectrographoptics.h"
 #include "spectrographscene.h"
@@ -135,7 +136,7 @@ private slots:
         WaitForNextSpectrum();
         QVERIFY2(std::abs(GreenLine() - 546.074) < 0.3, qPrintable(QString::number(GreenLine())));
 
-        CameraManager::GetInstance()->slotSetMirrorRotate(FlipHorizontal);
+        m_workbench->services.LivePosition()->slotSetMirrorRotate(FlipHorizontal);
         double last = 0;
         QVERIFY(m_workbench->services.Spectrum()->Calculate(sensor.width() - 1, last));
         QVERIFY2(std::abs(last - 390) < 1, qPrintable(QString::number(last)));
@@ -146,9 +147,38 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(m_workbench->services.Spectrum()->ShownAxis().Width(), 1024, waitMs);
         QTRY_VERIFY_WITH_TIMEOUT(Plot()->graph(0)->dataCount() == 1024 && std::abs(GreenLine() - 546.074) < 0.3, waitMs);
 
-        CameraManager::GetInstance()->slotSetMirrorRotate(RotateBy90);
+        m_workbench->services.LivePosition()->slotSetMirrorRotate(RotateBy90);
         QTRY_VERIFY_WITH_TIMEOUT(m_workbench->StatusText().startsWith("The calibration was made along the other side"), waitMs);
         QCOMPARE(Plot()->xAxis->label(), QString("Pixel Number"));
+    }
+
+    /// What was calibrated then counts, whatever is in use now.
+    void aRecordingIsOpenedWithItsCalibration()
+    {
+        ShowLamp();
+        CalibrationModel *model = m_workbench->services.Calibration();
+        model->SetSpectrum(m_workbench->services.Spectra()->Shown().raw.values);
+        QSignalSpy assigned(model, &CalibrationModel::signalAssigned);
+        model->Assign();
+        QVERIFY(assigned.wait(waitMs));
+        QVERIFY(model->Apply());
+        RecordingSettings settings;
+        settings.mode = RecordingSettings::Mode::Single;
+        const QString path = m_folder->filePath("lamp.tif");
+        RecordingDesk *recording = m_workbench->services.Recording();
+        QSignalSpy ended(recording, &RecordingDesk::signalRunEnded);
+        QString warning;
+        QString error;
+        QVERIFY2(recording->Start(settings, path, &warning, &error), qPrintable(error));
+        QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, waitMs);
+        model->TakeAway();
+
+        PictureDesk *desk = m_workbench->services.Desk();
+        desk->Open({path}, desk->MainPicture());
+        QTRY_VERIFY(Plot() && m_workbench->services.Spectrum()->IsImageShown() && Plot()->graph(0)->dataCount() == sensor.width());
+        QTRY_COMPARE(Plot()->xAxis->label(), QString("Wavelength [nm]"));
+        QVERIFY(std::abs(Plot()->graph(0)->data()->at(0)->key - 390) < 1);
+        m_workbench->services.Config()->SetCameraView(); // a live picture leaves with its page
     }
 
     void thePanelShowsTheCurveToo()

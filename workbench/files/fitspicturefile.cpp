@@ -100,6 +100,7 @@ void FitsPictureFile::FillInfo(const FitsHeader &header, int extension)
     info.size = QSize(m_layout.width, m_layout.height);
     info.sampleType = m_layout.type;
     info.metadata = header.Metadata();
+    m_axis = AxisOfFirst(info.metadata);
     QStringList details;
     if (m_layout.isCompressed)
         details << Text::tr("compressed");

@@ -19,6 +19,7 @@ public:
     explicit FitsPictureFile(const QString &path);
 
     bool Open(FileFault &fault);
+    SpectralAxis AxisOf(int) const override { return m_axis; }
 
 protected:
     bool Decode(int index, Picture &frame, FileFault &fault) override;
@@ -33,6 +34,7 @@ private:
 
     QFile m_file;
     FitsLayout m_layout;
+    SpectralAxis m_axis; ///< of every frame
     qint64 m_dataOffset = 0;
     double m_blank = 0; ///< stands for "undefined" in scaled integers; NaN if nothing does
     std::unique_ptr<FitsTiles> m_tiles; ///< of a compressed picture only

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "picturefile.h"
 
+#include "spectralmetadata.h"
+
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <new>
 
@@ -16,6 +19,15 @@ QString PictureFile::FrameDescription(int) const
 }
 
 SpectralAxis PictureFile::AxisOf(int) const { return SpectralAxis(); }
+
+SpectralAxis PictureFile::AxisOfFirst(const QVector<MetadataEntry> &metadata)
+{
+    QString fault;
+    const SpectralAxis axis = AxisOfMetadata(metadata, m_info.size.width(), &fault);
+    if (!fault.isEmpty())
+        AddWarning(QCoreApplication::translate("PictureFile", "\u201c%1\u201d: %2. %3").arg(QFileInfo(m_path).fileName(), fault, DamagedAdvice()));
+    return axis;
+}
 
 bool PictureFile::ReadFrame(int index, Picture &frame, QString &error)
 {

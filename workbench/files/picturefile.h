@@ -32,6 +32,9 @@ public:
 protected:
     explicit PictureFile(const QString &path);
 
+    /// What frames as wide as the first one mean by this metadata; says what cannot be used of it.
+    SpectralAxis AxisOfFirst(const QVector<MetadataEntry> &metadata);
+
     virtual bool Decode(int index, Picture &frame, FileFault &fault) = 0;
     PictureInfo &MutableInfo() { return m_info; }
 

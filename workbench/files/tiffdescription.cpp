@@ -2,11 +2,15 @@
 #include "tiffdescription.h"
 
 #include "picture.h"
+#include "spectralmetadata.h"
 #include "stackorder.h"
 #include "tiffmetadata.h"
 
 #include <QRegularExpression>
 #include <QStringList>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -29,6 +33,32 @@ QString ImageJDescription(const QString &old, int frameCount)
     if (frameCount > 1)
         lines.insert(1, QString("images=%1\nslices=%1").arg(frameCount));
     return lines.join('\n');
+}
+
+QString WithLines(const QString &text, const QVector<MetadataEntry> &entries)
+{
+    QStringList lines;
+    if (!text.isEmpty())
+        lines << text;
+    for (const MetadataEntry &entry : entries)
+        lines << entry.key + '=' + entry.value + (entry.comment.isEmpty() ? QString() : " / " + entry.comment);
+    return lines.join('\n');
+}
+
+/// In an annotation of its own; `xml` is that of a whole OME description.
+QString WithSpectralAnnotation(const QString &xml, const QVector<MetadataEntry> &spectral)
+{
+    if (xml.isEmpty() || spectral.isEmpty())
+        return WithLines(xml, spectral);
+    QString annotation = "<MapAnnotation ID=\"Annotation:Spectrum\" Namespace=\"workbench/spectrum\"><Value>";
+    for (const MetadataEntry &entry : spectral)
+        annotation += QString("<M K=\"%1\">%2</M>").arg(entry.key, entry.value.toHtmlEscaped());
+    annotation += "</Value></MapAnnotation>";
+    const int others = xml.lastIndexOf("</StructuredAnnotations>");
+    if (others >= 0)
+        return QString(xml).insert(others, annotation);
+    const int end = xml.lastIndexOf("</OME>");
+    return end < 0 ? xml : QString(xml).insert(end, "<StructuredAnnotations>" + annotation + "</StructuredAnnotations>");
 }
 
 QString OmeSampleType(SampleType type)
@@ -63,17 +93,15 @@ QString OmeDescription(QString xml, const Picture &frame, int frameCount)
 
 QString DescriptionForSaving(const QVector<MetadataEntry> &metadata, const Picture &frame, int frameCount)
 {
-    const QString old = DescriptionOf(metadata);
+    const QString old = WithoutSpectralMetadata(DescriptionOf(metadata));
+    QVector<MetadataEntry> spectral;
+    std::copy_if(metadata.begin(), metadata.end(), std::back_inserter(spectral), IsSpectralMetadata);
     if (IsImageJDescription(old))
-        return ImageJDescription(old, frameCount);
+        return WithLines(ImageJDescription(old, frameCount), spectral);
     if (IsOmeDescription(old))
-        return OmeDescription(old, frame, frameCount);
-    QStringList lines;
-    if (!old.isEmpty())
-        lines << old;
-    for (const MetadataEntry &entry : metadata) {
-        if (TiffTextTag(entry.key) == 0)
-            lines << entry.key + '=' + entry.value + (entry.comment.isEmpty() ? QString() : " / " + entry.comment);
-    }
-    return lines.join('\n');
+        return WithSpectralAnnotation(OmeDescription(old, frame, frameCount), spectral);
+    QVector<MetadataEntry> others;
+    std::copy_if(metadata.begin(), metadata.end(), std::back_inserter(others),
+                 [](const MetadataEntry &entry) { return TiffTextTag(entry.key) == 0; });
+    return WithLines(old, others);
 }

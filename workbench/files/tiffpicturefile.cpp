@@ -2,6 +2,7 @@
 #include "tiffpicturefile.h"
 
 #include "sampleswap.h"
+#include "spectralmetadata.h"
 #include "tiffdecode.h"
 #include "tiffmetadata.h"
 
@@ -73,6 +74,7 @@ void TiffPictureFile::FillInfo(const TiffPage &page)
 
     const QString description = DescriptionOf(info.metadata);
     ReadTiffResolution(m_tiff.Get(), description, info.dpiX, info.dpiY);
+    m_axis = AxisOfFirst(SpectralMetadataOfText(description));
     if (!m_chain.fault.isEmpty()) {
         AddWarning(ReadFaultText(Path(), {Text::tr("only its first %1 pages are there: %2").arg(info.frames).arg(m_chain.fault),
                                           DamagedAdvice(), QString()}));

@@ -18,6 +18,7 @@ public:
     /// `fd` is taken.
     bool Open(int fd, qint64 fileSize, FileFault &fault);
     QString FrameDescription(int index) const override;
+    SpectralAxis AxisOf(int) const override { return m_axis; }
 
 protected:
     bool Decode(int index, Picture &frame, FileFault &fault) override;
@@ -35,6 +36,7 @@ private:
     TiffChain m_chain;
     qint64 m_fileSize = 0;
     StackOrder m_order;
+    SpectralAxis m_axis; ///< of pages as wide as the first
     /// First byte of the frames that follow each other without descriptions; 0 for ordinary files.
     quint64 m_contiguousOffset = 0;
     qint64 m_contiguousBytes = 0; ///< of each of them

@@ -496,6 +496,8 @@ SaveRequest OpenedPicture::SaveOfShown(bool allFrames) const
     request.frameCount = allFrames ? m_frameCount : 1;
     request.edit = m_document->Edit();
     request.range = m_document->Range();
+    if (m_calibration)
+        request.calibration = m_calibration();
     return request;
 }
 

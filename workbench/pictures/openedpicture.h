@@ -7,6 +7,8 @@
 
 #include <QPointer>
 
+#include <functional>
+
 class PictureDocument;
 class PictureLevels;
 class PictureLoader;
@@ -39,6 +41,9 @@ public:
     /// The one that was asked for last: that which is shown, or will be.
     PictureDocument *WantedDocument() const;
     const LoadedPicture &Shown() const { return m_shown; }
+    /// Gives the calibration of its columns where its file says nothing, which is saved with it; may give none.
+    using CalibrationSource = std::function<QVector<MetadataEntry>()>;
+    void SetCalibrationSource(const CalibrationSource &source) { m_calibration = source; }
     /// What a save of it asks for, but for the target; without what is only tried.
     SaveRequest SaveOfShown(bool allFrames) const;
     void SaveAs(const QString &target, bool allFrames);
@@ -168,6 +173,7 @@ private:
     quint64 m_wantedTicket = 0;
     LoadedPicture m_shown;
     ProcessSettings m_preview; ///< of m_document
+    CalibrationSource m_calibration;
     QString m_applyText;       ///< of the step that the preview becomes when it is shown; empty: it does not
     std::optional<CountSettings> m_count; ///< of m_document
     SampleType m_settledType = SampleType::U8; ///< without what is only tried

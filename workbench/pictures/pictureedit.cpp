@@ -111,6 +111,16 @@ std::optional<QRect> PictureEdit::FileRegion(const QSize &fileSize) const
     return region;
 }
 
+SpectralAxis PictureEdit::SeenAxis(const SpectralAxis &ofFile, const QSize &fileSize) const
+{
+    const std::optional<QRect> region = FileRegion(fileSize);
+    if (!region || ofFile.values.size() != fileSize.width())
+        return SpectralAxis();
+    SpectralAxis seen = ofFile;
+    seen.values = ofFile.values.mid(region->left(), region->width());
+    return seen;
+}
+
 int PictureEdit::SeenFrames(int fileFrames) const
 {
     const bool isOne = std::any_of(m_steps.begin(), m_steps.end(),

@@ -4,6 +4,7 @@
 #include "orientation.h"
 #include "picture.h"
 #include "processsettings.h"
+#include "spectralaxis.h"
 
 #include <QMetaType>
 #include <QVector>
@@ -41,6 +42,8 @@ public:
     int PixelsJoined() const;
     /// The pixels of the file's frame that are seen; nothing when they were turned or joined.
     std::optional<QRect> FileRegion(const QSize &fileSize) const;
+    /// What the columns that are seen mean, by those of the file; empty when they were turned or joined.
+    SpectralAxis SeenAxis(const SpectralAxis &ofFile, const QSize &fileSize) const;
     /// Frames that are left of those of the file.
     int SeenFrames(int fileFrames) const;
     /// A frame as it comes out of the steps of processing before `step`, turned and cropped as it was until then, or at

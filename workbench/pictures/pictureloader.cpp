@@ -206,8 +206,7 @@ LoadedPicture PictureLoader::Loaded(const PictureRequest &request)
         loaded.info = file->Info();
         loaded.frames = request.edit.SeenFrames(loaded.info.frames);
         loaded.frameDescription = file->FrameDescription(request.frame);
-        if (request.edit.IsNone())
-            loaded.axis = file->AxisOf(request.frame);
+        loaded.axis = request.edit.SeenAxis(file->AxisOf(request.frame), loaded.fileSize);
     });
     loaded.news = m_access.TakeNews(request.file);
     return loaded;

@@ -43,7 +43,7 @@ struct LoadedPicture
     QString countError; ///< why the objects were not counted
     QImage thumbnail; ///< null unless it was wanted
     SampleRange range;
-    SpectralAxis axis; ///< of the columns as seen; empty without one, or when an edit has moved them
+    SpectralAxis axis; ///< of the columns as seen; empty without one, or when they were turned or joined
 };
 Q_DECLARE_METATYPE(LoadedPicture)
 

@@ -4,9 +4,11 @@
 #include "createpicture.h"
 #include "fitscoordinates.h"
 #include "picturedisplay.h"
+#include "spectralmetadata.h"
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -28,11 +30,29 @@ bool HoldsSamples(PictureFormat format, SampleType type)
     }
 }
 
+/// But for the calibration, which may be another after the edit.
 QVector<MetadataEntry> MetadataOf(const PictureInfo &info, const PictureEdit &edit)
 {
-    return info.format == PictureFormat::Fits
-               ? FitsMetadataOfRegion(info.metadata, info.size, edit.FileRegion(info.size))
-               : info.metadata;
+    QVector<MetadataEntry> metadata = info.format == PictureFormat::Fits
+        ? FitsMetadataOfRegion(info.metadata, info.size, edit.FileRegion(info.size))
+        : info.metadata;
+    metadata.erase(std::remove_if(metadata.begin(), metadata.end(), IsSpectralMetadata), metadata.end());
+    return metadata;
+}
+
+/// What the columns of the frames to be saved mean: the file's word comes first.
+QVector<MetadataEntry> CalibrationOf(const PictureFile &file, const SaveRequest &request)
+{
+    const QSize size = file.Info().size;
+    const SpectralAxis ofFile = file.AxisOf(request.firstFrame);
+    if (ofFile.IsEmpty())
+        return request.calibration;
+    // All regions of an SPE file go into one stack only when they have one size, but each has columns of its own.
+    for (int frame = request.firstFrame + 1; frame < request.firstFrame + request.frameCount; ++frame) {
+        if (!(file.AxisOf(frame) == ofFile))
+            return {};
+    }
+    return SpectralMetadata(request.edit.SeenAxis(ofFile, QSize(ofFile.values.size(), size.height())));
 }
 
 Picture FromImage(const QImage &image)
@@ -80,7 +100,7 @@ bool SaveTask::Begin(PictureAccess &access)
         options.dpiY = file->Info().dpiY / m_request.edit.PixelsJoined();
         if (m_request.edit.GetOrientation().SwapsSides())
             std::swap(options.dpiX, options.dpiY);
-        options.metadata = MetadataOf(file->Info(), m_request.edit);
+        options.metadata = MetadataOf(file->Info(), m_request.edit) + CalibrationOf(*file, m_request);
     }
     m_writer = CreatePicture(m_request.target, options, m_error);
     return m_writer != nullptr;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fitsrunwriter.h"
 
+#include "fitscardwriter.h"
 #include "fitssession.h"
 #include "fitstext.h"
 #include "runsummary.h"
@@ -163,6 +164,8 @@ bool FitsRunWriter::AddFactsAndTable(const RunOutcome &outcome, FileFault &fault
             fits_write_comment(fits, text.constData(), &status);
         }
     }
+    for (const MetadataEntry &entry : Facts().calibration)
+        WriteFitsCard(fits, entry, &status);
     WriteExposure(fits, &status);
     int depth = Facts().BitDepth();
     fits_update_key(fits, TINT, "BITDEPTH", &depth, "bits of a sample that carry light", &status);

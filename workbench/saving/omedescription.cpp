@@ -110,6 +110,17 @@ void WriteAnnotations(QXmlStreamWriter &xml, const RunFacts &facts, const RunOut
     xml.writeEndElement();
     xml.writeEndElement();
 
+    if (!facts.calibration.isEmpty()) {
+        xml.writeStartElement("MapAnnotation");
+        xml.writeAttribute("ID", "Annotation:Spectrum");
+        xml.writeAttribute("Namespace", "workbench/spectrum");
+        xml.writeStartElement("Value");
+        for (const MetadataEntry &entry : facts.calibration)
+            WriteEntry(xml, entry.key, entry.value);
+        xml.writeEndElement();
+        xml.writeEndElement();
+    }
+
     xml.writeStartElement("MapAnnotation");
     xml.writeAttribute("ID", "Annotation:1");
     xml.writeAttribute("Namespace", "workbench/frames");

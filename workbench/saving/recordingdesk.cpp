@@ -121,6 +121,8 @@ void RecordingDesk::MakeOrder(const RecordingSettings &settings, const QString &
     facts.binning = QSize(format.binning, format.binning);
     facts.frameSize = format.FrameSize();
     facts.layout = format.layout;
+    if (m_parts.calibration)
+        facts.calibration = m_parts.calibration();
     facts.software =
         QString("%1 %2").arg(QCoreApplication::applicationName(), QCoreApplication::applicationVersion());
 }

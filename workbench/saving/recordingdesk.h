@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QThreadPool>
 #include <QTimer>
+#include <functional>
 
 class CameraLink;
 class FrameTee;
@@ -28,6 +29,8 @@ public:
         FrameSaving *saving = nullptr;
         SaveSettings *settings = nullptr;
         const LiveOrientation *orientation = nullptr;
+        /// Gives the spectral calibration of the columns as they are seen; may give none.
+        std::function<QVector<MetadataEntry>()> calibration;
     };
 
     explicit RecordingDesk(const Parts &parts, QObject *parent = nullptr);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "runfacts.h"
 
+#include "spectralmetadata.h"
+
 #include <QCoreApplication>
 #include <QJsonArray>
 
@@ -52,6 +54,27 @@ void AddChanges(const QVector<SettingsChange> &changes, QVector<std::pair<QStrin
                   .arg(change.framesPerSecond, 0, 'g', 6) });
     if (changes.size() > ListedChanges)
         lines->append({ Text::tr("Later changes"), QString::number(changes.size() - ListedChanges) });
+}
+
+QJsonArray ToArray(const QVector<MetadataEntry> &entries)
+{
+    QJsonArray array;
+    for (const MetadataEntry &entry : entries)
+        array.append(QJsonArray{ entry.key, entry.value, entry.comment, entry.isText });
+    return array;
+}
+
+/// What is kept comes from outside: nothing else goes into the file's header.
+QVector<MetadataEntry> CalibrationFrom(const QJsonArray &array)
+{
+    QVector<MetadataEntry> entries;
+    for (const QJsonValue &value : array) {
+        const QJsonArray parts = value.toArray();
+        const MetadataEntry entry{ parts[0].toString(), parts[1].toString(), parts[2].toString(), parts[3].toBool() };
+        if (IsSpectralMetadata(entry))
+            entries << entry;
+    }
+    return entries;
 }
 
 QString SizeText(const QSize &size) { return QString("%1 x %2").arg(size.width()).arg(size.height()); }
@@ -137,6 +160,7 @@ QJsonObject RunFacts::ToJson() const
         { "frameSize", QJsonArray{ frameSize.width(), frameSize.height() } },
         { "layout", PixelLayoutName(layout) },
         { "pixelSizeUm", pixelSizeUm },
+        { "calibration", ToArray(calibration) },
         { "start", start.toString(Qt::ISODateWithMs) },
         { "software", software },
     };
@@ -161,6 +185,7 @@ bool RunFacts::FromJson(const QJsonObject &json, RunFacts *facts)
     const QJsonArray size = json["frameSize"].toArray();
     facts->frameSize = QSize(size[0].toInt(), size[1].toInt());
     facts->pixelSizeUm = json["pixelSizeUm"].toDouble();
+    facts->calibration = CalibrationFrom(json["calibration"].toArray());
     facts->start = QDateTime::fromString(json["start"].toString(), Qt::ISODateWithMs);
     facts->software = json["software"].toString();
     const bool hasSize = facts->frameSize.width() > 0 && facts->frameSize.height() > 0

@@ -55,6 +55,19 @@ void CalibratedAxis::Fit()
     }
 }
 
+SpectralRecord CalibratedAxis::Record() const
+{
+    SpectralRecord record;
+    record.coefficients = m_fitting.PixelCoefficients();
+    record.width = m_fitting.Width();
+    if (!m_frame.IsNull()) // for programs too: English
+        record.origin = QString("%1 %2 to %3 of the sensor, binned by %4%5")
+                            .arg(m_frame.isAlongRows ? "columns" : "rows").arg(m_frame.first)
+                            .arg(m_frame.first + m_frame.count * m_frame.binning - 1).arg(m_frame.binning)
+                            .arg(m_frame.isReversed ? ", mirrored" : "");
+    return record;
+}
+
 double CalibratedAxis::PixelHere(double calibrated) const
 {
     return AreFramesKnown() ? m_frame.SampleAt(m_calibrated.OnSensor(calibrated)) : calibrated;

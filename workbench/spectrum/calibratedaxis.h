@@ -4,6 +4,7 @@
 #include "spectralaxis.h"
 #include "spectralcalibration.h"
 #include "spectralframe.h"
+#include "spectralmetadata.h"
 
 #include <QString>
 
@@ -24,6 +25,8 @@ public:
     /// Our own for the pixels of these spectra: turned around for a mirrored picture, cut to a region, binned. Null where
     /// it does not hold.
     const SpectralCalibration &Fitting() const { return m_fitting; }
+    /// The same, as a file of pictures carries it; of no coefficients where it does not hold.
+    SpectralRecord Record() const;
     /// Why our own does not hold for these spectra, for the user; empty when it does.
     QString Misfit() const;
     /// The place in these spectra of a pixel of the spectrum that our own was made with.

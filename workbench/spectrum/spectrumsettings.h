@@ -45,6 +45,9 @@ public:
     void SetImageAxis(const SpectralAxis &axis, int width);
     /// How the camera's frames come to be the live picture. A calibration follows, or is said not to hold.
     void SetSensorFrame(const SensorFrame &frame);
+    /// What files of the live picture, or of the opened one, carry of our calibration: it is that of their columns.
+    QVector<MetadataEntry> LiveCalibration() const;
+    QVector<MetadataEntry> ImageCalibration() const;
     /// The axis of what is on the screen.
     const CalibratedAxis &ShownAxis() const;
     /// An opened picture is on the screen, rather than the live one.

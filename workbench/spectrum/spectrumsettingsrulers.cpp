@@ -81,5 +81,9 @@ QString SpectrumSettings::GetTitleName() const
 QString SpectrumSettings::AxisTitle() const
 {
     double x = 0;
-    return Calculate(0, x) ? ShownAxis().Title() : CalibratedAxis().Title();
+    if (!Calculate(0, x))
+        return CalibratedAxis().Title();
+    const CalibratedAxis &axis = ShownAxis();
+    // The file says nothing: it may have been taken with another calibration, or be no spectrum at all.
+    return m_isImageShown && axis.IsOwn() ? tr("%1, by the calibration in use").arg(axis.Title()) : axis.Title();
 }

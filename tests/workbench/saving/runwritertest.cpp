@@ -4,6 +4,7 @@
 #include "openpicture.h"
 #include "runchecksum.h"
 #include "runsample.h"
+#include "spectralmetadata.h"
 #include "tiffrunwriter.h"
 #include "omedescription.h"
 
@@ -98,6 +99,38 @@ private slots:
         QString error;
         QVERIFY2(RunChecksum::OfFiles(writer->Files(), &checksum, &error), qPrintable(error));
         QCOMPARE(checksum, RunChecksum::OfRun(writer->Stamps()));
+    }
+
+    void theCalibrationIsInTheFile_data()
+    {
+        QTest::addColumn<RunFormat>("format");
+        QTest::newRow("TIFF") << RunFormat::Tiff;
+        QTest::newRow("FITS") << RunFormat::Fits;
+    }
+
+    /// Also in one that is finished later, by what the journal kept of it.
+    void theCalibrationIsInTheFile()
+    {
+        QFETCH(RunFormat, format);
+        SpectralRecord record;
+        record.coefficients = { 400, 0.5, 1e-3 };
+        record.width = Size.width();
+        RunFacts first = RunSample::Facts(Size, PixelLayout::Mono16);
+        first.calibration = SpectralMetadata(record);
+        RunFacts facts;
+        QVERIFY(RunFacts::FromJson(first.ToJson(), &facts));
+        const auto writer = CreateRunWriter(format, Path(format));
+        QString error;
+        QVERIFY2(writer->Begin(facts, &error), qPrintable(error));
+        QVERIFY2(writer->Write(RunSample::Frame(Size, PixelLayout::Mono16, 0), &error), qPrintable(error));
+        QVERIFY2(Finish(writer.get(), 1, &error), qPrintable(error));
+        const auto file = OpenPicture(Path(format), error);
+        QVERIFY2(file, qPrintable(error));
+        const SpectralAxis axis = file->AxisOf(0);
+        QCOMPARE(int(axis.unit), int(SpectralUnit::Nanometre));
+        QCOMPARE(axis.values.size(), Size.width());
+        QCOMPARE(axis.values[0], 400.0);
+        QVERIFY(qAbs(axis.values[20] - 410.4) < 1e-9);
     }
 
     void aFITSCubeTakesNoColour()

@@ -377,11 +377,13 @@ void SpectrumSettingsTest::aFileThatSaysNothingIsCalibratedByOurs()
     m_settings->slotSetImageShown(true);
     double x = 0;
     m_settings->SetImageAxis(SpectralAxis(), 1000);
+    QCOMPARE(m_settings->GetTitleName(), QString("Wavelength [nm], by the calibration in use"));
     QVERIFY(m_settings->Calculate(200, x));
     QVERIFY(std::abs(x - 450) < 1e-9);
     m_settings->SetImageAxis(SpectralAxis(), 999);
     QVERIFY(!m_settings->Calculate(200, x));
     m_settings->SetImageAxis(ofFile, 1000);
+    QCOMPARE(m_settings->GetTitleName(), QString("Wavelength [nm]"));
     QVERIFY(m_settings->Calculate(1, x));
     QCOMPARE(x, 110.0);
 }

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What pixels mean, live and of opened pictures.
+#include "spectrumsettings.h"
+
+void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame)
+{
+    m_liveAxis.SetCalibration(calibration, frame);
+    m_imageAxis.SetCalibration(calibration, frame);
+    TellOfMisfit();
+    AnnounceAxis();
+}
+
+SpectralFrame SpectrumSettings::LiveFrame() const { return SpectralFrame::Of(m_sensorFrame, m_recipe.isHorizontal); }
+
+SpectralFrame SpectrumSettings::ShownFrame() const { return m_isImageShown ? SpectralFrame() : LiveFrame(); }
+
+void SpectrumSettings::SetSensorFrame(const SensorFrame &frame)
+{
+    if (m_sensorFrame == frame)
+        return;
+    m_sensorFrame = frame;
+    UpdateLiveSpectrum();
+    if (!Calibration().IsNull())
+        AnnounceAxis();
+}
+
+void SpectrumSettings::UpdateLiveSpectrum()
+{
+    m_liveAxis.SetSpectrum(m_recipe.isHorizontal ? m_frameSize.width() : m_frameSize.height(), LiveFrame());
+    TellOfMisfit();
+}
+
+/// Once, until there is another one.
+void SpectrumSettings::TellOfMisfit()
+{
+    const QString misfit = m_liveAxis.Misfit();
+    if (misfit == m_toldMisfit)
+        return;
+    m_toldMisfit = misfit;
+    if (!misfit.isEmpty())
+        emit signalMessage(misfit);
+}
+
+void SpectrumSettings::SetUnit(SpectralUnit unit)
+{
+    if (m_unit == unit)
+        return;
+    m_unit = unit;
+    m_liveAxis.SetUnit(unit);
+    m_imageAxis.SetUnit(unit);
+    emit signalUnitChanged();
+    AnnounceAxis();
+    if (unit == SpectralUnit::Wavenumber && ShownAxis().Unit() == SpectralUnit::Nanometre)
+        emit signalMessage(tr("A wavelength of 0 lies in this spectrum, which has no wavenumber: it is shown in nanometres."));
+}
+
+void SpectrumSettings::SetImageAxis(const SpectralAxis &axis, int width)
+{
+    if (m_imageAxis.FileAxis() == axis && m_imageAxis.Width() == width)
+        return; // the next frame: what is announced asks for the curves anew
+    m_imageAxis.SetFileAxis(axis);
+    m_imageAxis.SetSpectrum(width, SpectralFrame());
+    AnnounceAxis();
+}
+
+void SpectrumSettings::slotSetImageShown(bool shown)
+{
+    if (m_isImageShown == shown)
+        return;
+    m_isImageShown = shown;
+    AnnounceAxis();
+}
+
+/// Rulers, titles and labels follow.
+void SpectrumSettings::AnnounceAxis()
+{
+    AnnounceLiveArea();
+    CalculateImageArea();
+    emit signalDisplayModePropertyChange();
+    emit SignalConversationFormulaChanged();
+}
+
+/// A file's axis is that of its columns: a profile along one of them has none.
+const CalibratedAxis &SpectrumSettings::ShownAxis() const
+{
+    if (!m_isImageShown)
+        return m_liveAxis;
+    return m_recipe.isHorizontal ? m_imageAxis : m_plainAxis;
+}
+
+bool SpectrumSettings::Calculate(int pixel, double &x) const
+{
+    x = pixel;
+    const CalibratedAxis &axis = ShownAxis();
+    if (axis.Unit() == SpectralUnit::Pixel)
+        return false;
+    x = axis.At(pixel);
+    return qIsFinite(x);
+}
+
+/// Two numbers that differ, as OpenedPicture::GetExpansionArea() writes them.
+bool SpectrumSettings::IsValidConversation(QString *text) const
+{
+    const QStringList ends = text ? text->split(';') : QStringList();
+    bool isFirst = false;
+    bool isLast = false;
+    return ends.size() == 2 && ends[0].toDouble(&isFirst) != ends[1].toDouble(&isLast) && isFirst && isLast;
+}
+
+QVector<MetadataEntry> SpectrumSettings::LiveCalibration() const
+{
+    return m_recipe.isHorizontal ? SpectralMetadata(m_liveAxis.Record()) : QVector<MetadataEntry>();
+}
+
+QVector<MetadataEntry> SpectrumSettings::ImageCalibration() const
+{
+    return m_imageAxis.IsOwn() && m_recipe.isHorizontal ? SpectralMetadata(m_imageAxis.Record()) : QVector<MetadataEntry>();
+}
