@@ -2,10 +2,10 @@
 #include "calibrationtable.h"
 
 #include "calibrationmodel.h"
+#include "wholefile.h"
 
 #include <QFileInfo>
 #include <QLocale>
-#include <QSaveFile>
 
 namespace {
 
@@ -26,16 +26,6 @@ QStandardItem *LineItem(const CalibrationPoint &point)
     auto *item = new QStandardItem(point.LineText());
     item->setData(point.isSaturated ? (point.line + " saturated").trimmed() : point.line, Qt::UserRole);
     return item;
-}
-
-/// Empty when it was written.
-QString WriteFault(const QString &path, const QByteArray &bytes)
-{
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return QString();
-    return CalibrationTable::tr("The table was not saved as “%1”: %2. Choose another folder or name.")
-        .arg(QFileInfo(path).fileName(), file.errorString());
 }
 
 } // namespace
@@ -93,7 +83,7 @@ QByteArray CalibrationTable::Csv() const
 void CalibrationTable::Save(const QString &path)
 {
     m_writer.start([this, path, bytes = Csv()] {
-        const QString fault = WriteFault(path, bytes);
+        const QString fault = WriteWholeFile(path, bytes);
         const QString text = fault.isEmpty() ? tr("“%1” was saved.").arg(QFileInfo(path).fileName()) : fault;
         QMetaObject::invokeMethod(this, [this, text] { emit signalMessage(text); }, Qt::QueuedConnection);
     });

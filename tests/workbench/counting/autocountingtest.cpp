@@ -116,7 +116,7 @@ private slots:
         counting.Save(folder.filePath("no such folder/objects.csv"));
         QTRY_COMPARE(saved.size(), 2);
         const QString error = saved.last().last().toString();
-        QVERIFY2(error.startsWith("The table was not saved as \u201cobjects.csv\u201d: "), qPrintable(error));
+        QVERIFY2(error.startsWith("\u201cobjects.csv\u201d was not saved: "), qPrintable(error));
         QVERIFY2(error.endsWith("Choose another folder or name."), qPrintable(error));
     }
 
