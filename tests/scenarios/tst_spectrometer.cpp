@@ -106,6 +106,38 @@ private slots:
         QCOMPARE(Plot()->xAxis->label(), QString("Wavenumber [1/cm]"));
     }
 
+    void whatTheFitIsWorthIsSeenAndItCanBeTakenAway()
+    {
+        ShowLamp();
+        m_workbench->Action("Calibrate…")->trigger();
+        m_dialog = m_workbench->window.findChild<QDialog *>("CalibrationDialog");
+        QVERIFY(m_dialog && QTest::qWaitForWindowExposed(m_dialog));
+        QVERIFY(!Button("None")->isEnabled());
+        Button("Assign")->click();
+        QTRY_VERIFY_WITH_TIMEOUT(Button("Apply")->isEnabled(), waitMs);
+        const CalibrationModel *model = m_workbench->services.Calibration();
+        const CalibrationFit &fit = model->Fit();
+        const QCPGraph *residuals = m_dialog->findChild<QCustomPlot *>("calibrationPlot")->graph(3);
+        QCOMPARE(residuals->dataCount(), model->Points().size());
+        for (int i = 0; i < model->Points().size(); ++i) {
+            QCOMPARE(residuals->data()->at(i)->key, model->Points()[i].pixel);
+            QCOMPARE(residuals->data()->at(i)->value, fit.residualsPixel[i]);
+        }
+        const QString verdict = QString("Residual %1 pixels (%2 nm) rms; leaving one out: %3 pixels.")
+                                    .arg(fit.rmsPixel, 0, 'f', 3).arg(fit.rmsNm, 0, 'f', 4).arg(fit.leaveOneOutPixel, 0, 'f', 3);
+        QCOMPARE(Label("labelVerdict"), verdict);
+
+        Button("Apply")->click();
+        QCOMPARE(Plot()->xAxis->label(), QString("Wavelength [nm]"));
+        QVERIFY(Button("None")->isEnabled());
+        Button("None")->click();
+        QCOMPARE(Label("labelVerdict"), verdict); // not applied any more
+        QVERIFY(!Button("None")->isEnabled());
+        QCOMPARE(Plot()->xAxis->label(), QString("Pixel Number"));
+        QVERIFY(m_workbench->services.Spectrum()->Calibration().IsNull());
+        m_dialog->close();
+    }
+
     void theCalibrationIsThereAtTheNextStart()
     {
         ShowLamp();
