@@ -274,9 +274,9 @@ void WorkbenchServices::ConnectSpectrum()
         return m_useArea->IsSpectrumPagePresent() ? settings->ImageCalibration() : QVector<MetadataEntry>();
     });
     connect(m_mainPicture.get(), &OpenedPicture::signalAxis, settings, [this, settings](const SpectralAxis &axis) {
-        // Of columns that were moved nothing is known.
-        const bool isAsInFile = m_mainPicture->Shown().request.edit.IsNone();
-        settings->SetImageAxis(axis, isAsInFile ? m_mainPicture->GetImageSize().width() : 0);
+        // Of columns that were moved nothing is known but what is said.
+        const bool isKnown = !axis.IsEmpty() || m_mainPicture->Shown().request.edit.IsNone();
+        settings->SetImageAxis(axis, isKnown ? m_mainPicture->GetImageSize().width() : 0);
     });
     connect(m_link, &CameraLink::signalFormatChanged, this, &WorkbenchServices::UpdateSensorFrame);
     connect(m_link, &CameraLink::signalStateChanged, this, &WorkbenchServices::UpdateSensorFrame);

@@ -40,19 +40,18 @@ QVector<MetadataEntry> MetadataOf(const PictureInfo &info, const PictureEdit &ed
     return metadata;
 }
 
-/// What the columns of the frames to be saved mean: the file's word comes first.
+/// What the columns of the frames to be saved mean.
 QVector<MetadataEntry> CalibrationOf(const PictureFile &file, const SaveRequest &request)
 {
-    const QSize size = file.Info().size;
-    const SpectralAxis ofFile = file.AxisOf(request.firstFrame);
-    if (ofFile.IsEmpty())
+    if (!request.calibration.isEmpty())
         return request.calibration;
+    const SpectralAxis ofFile = file.AxisOf(request.firstFrame);
     // All regions of an SPE file go into one stack only when they have one size, but each has columns of its own.
     for (int frame = request.firstFrame + 1; frame < request.firstFrame + request.frameCount; ++frame) {
         if (!(file.AxisOf(frame) == ofFile))
             return {};
     }
-    return SpectralMetadata(request.edit.SeenAxis(ofFile, QSize(ofFile.values.size(), size.height())));
+    return SpectralMetadata(request.edit.SeenAxis(ofFile, QSize(ofFile.values.size(), file.Info().size.height())));
 }
 
 Picture FromImage(const QImage &image)

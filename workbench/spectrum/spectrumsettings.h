@@ -33,7 +33,8 @@ public:
     bool SetTracks(const QList<QRectF> &tracks);
     void SetCorrections(const CorrectionSettings &corrections);
     /// Of live spectra within `frame`, that of the spectrum it was made with, and of those of files that say nothing
-    /// themselves and are as wide as it; null takes it away.
+    /// themselves and are as wide as it; null takes it away. Set while a file with an axis of its own is shown, it takes
+    /// the place of that.
     void SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame);
     const SpectralCalibration &Calibration() const { return m_liveAxis.Calibration(); }
     /// Where the samples of the spectrum on the screen lie on the sensor; null for an opened one.
@@ -142,6 +143,7 @@ private:
     /// Of what Calculate() gives.
     QString AxisTitle() const;
     SpectralFrame LiveFrame() const;
+    void UseFileAxis();
     void UpdateLiveSpectrum();
     void TellOfMisfit();
 
@@ -156,6 +158,8 @@ private:
     CalibratedAxis m_liveAxis;
     QString m_toldMisfit; ///< of m_liveAxis
     CalibratedAxis m_imageAxis;
+    SpectralAxis m_fileAxis;     ///< of the opened file
+    SpectralAxis m_replacedAxis; ///< of files that ours takes the place of
     const CalibratedAxis m_plainAxis; ///< pixels
     SpectralUnit m_unit = SpectralUnit::Nanometre;
     bool m_isImageShown = false;

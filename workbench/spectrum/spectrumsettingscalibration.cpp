@@ -6,8 +6,17 @@ void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, co
 {
     m_liveAxis.SetCalibration(calibration, frame);
     m_imageAxis.SetCalibration(calibration, frame);
+    const bool replaces = m_isImageShown && calibration.Width() == m_fileAxis.values.size();
+    m_replacedAxis = replaces ? m_fileAxis : SpectralAxis();
+    UseFileAxis();
     TellOfMisfit();
     AnnounceAxis();
+}
+
+void SpectrumSettings::UseFileAxis()
+{
+    const bool isReplaced = m_fileAxis == m_replacedAxis;
+    m_imageAxis.SetFileAxis(isReplaced ? SpectralAxis() : m_fileAxis);
 }
 
 SpectralFrame SpectrumSettings::LiveFrame() const { return SpectralFrame::Of(m_sensorFrame, m_recipe.isHorizontal); }
@@ -56,9 +65,10 @@ void SpectrumSettings::SetUnit(SpectralUnit unit)
 
 void SpectrumSettings::SetImageAxis(const SpectralAxis &axis, int width)
 {
-    if (m_imageAxis.FileAxis() == axis && m_imageAxis.Width() == width)
+    if (m_fileAxis == axis && m_imageAxis.Width() == width)
         return; // the next frame: what is announced asks for the curves anew
-    m_imageAxis.SetFileAxis(axis);
+    m_fileAxis = axis;
+    UseFileAxis();
     m_imageAxis.SetSpectrum(width, SpectralFrame());
     AnnounceAxis();
 }

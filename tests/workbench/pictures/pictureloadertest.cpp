@@ -213,7 +213,7 @@ private slots:
         QVERIFY(SaveError(request).contains("its name ends in no format that can be written"));
     }
 
-    /// The file's word comes before ours, and a part of it has a part of its columns.
+    /// A part of it has a part of its columns.
     void theCalibrationIsSavedWithThePicture()
     {
         const QSize size(20, 6);
@@ -228,12 +228,17 @@ private slots:
         QCOMPARE(SaveError(request), QString());
         QCOMPARE(AxisOf("whole.tif").values.value(3), 406.0);
 
-        record.coefficients = { 600, 5 };
         request.file = { 2, Path("whole.tif") };
-        request.calibration = SpectralMetadata(record);
+        request.calibration.clear();
         request.target = Path("again.fits");
         QCOMPARE(SaveError(request), QString());
         QCOMPARE(AxisOf("again.fits").values.value(3), 406.0);
+        record.coefficients = { 600, 5 };
+        request.calibration = SpectralMetadata(record); // what it is shown with
+        request.target = Path("other.tif");
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(AxisOf("other.tif").values.value(3), 615.0);
+        request.calibration.clear();
 
         request.edit = PictureEdit().Cropped(QRect(5, 1, 10, 4), size);
         request.target = Path("part.tif");

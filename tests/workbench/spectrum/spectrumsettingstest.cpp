@@ -36,6 +36,7 @@ private slots:
     void theAxisOfAFileIsThatOfItsPage();
     void anAxisThroughZeroStaysInNanometres();
     void aFileThatSaysNothingIsCalibratedByOurs();
+    void oursTakesThePlaceOfAFilesOwnWhenItWasMadeOnIt();
     void spectraAlongTheColumnsAreAsLongAsThose();
     void whatAFileSaysOfItsAreaIsChecked_data();
     void whatAFileSaysOfItsAreaIsChecked();
@@ -386,6 +387,34 @@ void SpectrumSettingsTest::aFileThatSaysNothingIsCalibratedByOurs()
     QCOMPARE(m_settings->GetTitleName(), QString("Wavelength [nm]"));
     QVERIFY(m_settings->Calculate(1, x));
     QCOMPARE(x, 110.0);
+}
+
+void SpectrumSettingsTest::oursTakesThePlaceOfAFilesOwnWhenItWasMadeOnIt()
+{
+    SpectralAxis wrong;
+    wrong.unit = SpectralUnit::Nanometre;
+    for (int pixel = 0; pixel < 1000; ++pixel)
+        wrong.values << 100 + pixel;
+    m_settings->SetImageAxis(wrong, 1000);
+    m_settings->slotSetImageShown(true);
+    double x = 0;
+    m_settings->SetCalibration(Straight(), SpectralFrame());
+    QVERIFY(m_settings->Calculate(200, x));
+    QVERIFY2(std::abs(x - 450) < 1e-9, qPrintable(QString::number(x)));
+    m_settings->SetImageAxis(wrong, 1000); // its next frame
+    QVERIFY(m_settings->Calculate(200, x));
+    QVERIFY(std::abs(x - 450) < 1e-9);
+    QVERIFY(!m_settings->ImageCalibration().isEmpty()); // saved with it
+    SpectralAxis other = wrong;
+    other.values[999] = 2000;
+    m_settings->SetImageAxis(other, 1000);
+    QVERIFY(m_settings->Calculate(200, x));
+    QCOMPARE(x, 300.0);
+    QVERIFY(m_settings->ImageCalibration().isEmpty());
+    m_settings->SetImageAxis(wrong, 1000);
+    m_settings->SetCalibration(SpectralCalibration(), SpectralFrame()); // taken away: the file's is back
+    QVERIFY(m_settings->Calculate(200, x));
+    QCOMPARE(x, 300.0);
 }
 
 void SpectrumSettingsTest::spectraAlongTheColumnsAreAsLongAsThose()
