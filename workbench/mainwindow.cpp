@@ -101,7 +101,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
 
     // The panels find them while the module is built.
     auto *sources = new PanelSources(
-        {services->Histogram(), services->Spectrum(), services->Spectra(), services->Calibration()}, this);
+        {services->Histogram(), services->Spectrum(), services->Spectra(), services->Tracks(), services->Calibration()}, this);
     AddAdjustment(FieldSource::CameraAdjustmentName, services->LivePosition(), SLOT(slotSetMirrorRotate(int)));
     AddAdjustment(FieldSource::ImageAdjustmentName, services->Desk()->MainPicture(), SLOT(slotRotateImage(int)));
     BuildAreas();

@@ -4,6 +4,7 @@
 #include "correctionsline.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
+#include "trackdesk.h"
 #include "workbenchservices.h"
 
 #include <QActionGroup>
@@ -74,6 +75,13 @@ void SpectrometerMenu::AddTracks()
     QMenu *menu = addMenu(tr("&Tracks"));
     menu->addAction(tr("&Find Tracks"), this, &SpectrometerMenu::FindTracks);
     m_tracks = AddCheck(menu, tr("&Show Tracks"), [this](bool on) { m_settings->SetMultiTrackOnFlag(on); });
+    TrackDesk *tracks = m_services->Tracks();
+    m_drawTracks = AddCheck(menu, tr("&Draw on the Picture"), [tracks](bool on) { tracks->SetDrawing(on); });
+    menu->addSeparator();
+    menu->addAction(tr("&Add Track"), tracks, &TrackDesk::Add);
+    m_removeTrack = menu->addAction(tr("&Remove Track"), tracks, &TrackDesk::RemoveChosen);
+    m_clearTracks = menu->addAction(tr("&Clear Tracks"), tracks, &TrackDesk::Clear);
+    connect(tracks, &TrackDesk::signalChanged, this, &SpectrometerMenu::slotUpdate);
     m_focus = AddCheck(this, tr("&Focus Assistance"), [this](bool on) { m_settings->SetFocusAssitanceFlag(on); });
 }
 
@@ -180,6 +188,9 @@ void SpectrometerMenu::slotUpdate()
     Check(m_smoothings, recipe.corrections.smoothing);
     Check(m_units, int(m_settings->Unit()));
     m_tracks->setChecked(recipe.hasTracks);
+    m_drawTracks->setChecked(m_services->Tracks()->IsDrawing());
+    m_removeTrack->setEnabled(m_services->Tracks()->Chosen() >= 0);
+    m_clearTracks->setEnabled(!recipe.tracks.empty());
     m_focus->setChecked(recipe.isFocusing);
     m_rays->setChecked(recipe.corrections.removesCosmicRays);
     m_dark->setChecked(recipe.corrections.subtractsDark);

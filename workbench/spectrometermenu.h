@@ -48,6 +48,9 @@ private:
     QActionGroup *m_smoothings = nullptr;
     QActionGroup *m_units = nullptr;
     QAction *m_tracks = nullptr;
+    QAction *m_drawTracks = nullptr;
+    QAction *m_removeTrack = nullptr;
+    QAction *m_clearTracks = nullptr;
     QAction *m_focus = nullptr;
     QAction *m_description = nullptr;
     QAction *m_rays = nullptr;

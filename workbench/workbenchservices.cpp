@@ -46,6 +46,7 @@
 #include "usearea.h"
 #include "viewcodes.h"
 #include "viewrules.h"
+#include "trackdesk.h"
 #include "workspace.h"
 #include "workspaceconfig.h"
 
@@ -139,6 +140,7 @@ void WorkbenchServices::StartSpectrum()
     m_spectrumSettings = std::make_unique<SpectrumSettings>(m_spectrumRanges.get(), m_centreDisplay.get());
     m_calibration = std::make_unique<CalibrationModel>(m_spectrumSettings.get(), m_settings);
     m_spectrumPipeline = std::make_unique<SpectrumPipeline>([this] { return m_orientation->Get(); });
+    m_tracks = std::make_unique<TrackDesk>(m_spectrumSettings.get());
     m_peakFinding = std::make_unique<PeakFinding>([this] { return &m_spectrumPipeline->Shown(); });
 }
 
@@ -261,10 +263,7 @@ void WorkbenchServices::ConnectSpectrum()
     connect(settings, &SpectrumSettings::signalRecipeChanged, m_spectrumPipeline.get(),
             [this, settings] { m_spectrumPipeline->SetRecipe(settings->Recipe()); });
     connect(settings, &SpectrumSettings::signalRecipeChanged, this, &WorkbenchServices::UpdateProfilesWanted);
-    connect(m_spectrumPipeline.get(), &SpectrumPipeline::signalTracksFound, settings, [settings](const QList<QRectF> &tracks) {
-        if (settings->SetTracks(tracks))
-            settings->SetMultiTrackOnFlag(true);
-    });
+    ConnectTracks();
     connect(m_config.get(), &WorkspaceConfig::signalSwitchView, settings, [this, settings] {
         const int view = m_config->GetCurrentView();
         settings->slotSetImageShown(view == ImageView || view == ImageCompareView);
@@ -288,7 +287,23 @@ void WorkbenchServices::ConnectSpectrum()
 void WorkbenchServices::UpdateSensorFrame()
 {
     if (const CameraSession *camera = m_link->Session())
-        m_spectrumSettings->SetSensorFrame({camera->Format().Region(), camera->Format().Binning(), m_orientation->Get()});
+        m_spectrumSettings->SetSensorFrame({camera->Format().region, camera->Format().binning, m_orientation->Get()});
+}
+
+void WorkbenchServices::ConnectTracks()
+{
+    SpectrumPipeline *spectra = m_spectrumPipeline.get();
+    TrackDesk *tracks = m_tracks.get();
+    connect(m_workspace.get(), &Workspace::signalCameraSceneSet, tracks, &TrackDesk::ShowIn);
+    connect(m_preview.get(), &LivePreview::signalPictureSizeChanged, tracks, &TrackDesk::slotPictureSize);
+    connect(spectra, &SpectrumPipeline::signalTracksFound, tracks, &TrackDesk::slotTracksFound);
+    connect(spectra, &SpectrumPipeline::signalMessage, this, &WorkbenchServices::signalMessage);
+    connect(tracks, &TrackDesk::signalMessage, this, &WorkbenchServices::signalMessage);
+    m_pictureDesk->SetLiveUndoStack(tracks->UndoStack());
+    const auto updateLive = [this, spectra] { spectra->SetLive(m_preview->isRunning() && m_link->GetState() == CameraLink::State::Open); };
+    connect(m_preview.get(), &QThread::started, spectra, updateLive);
+    connect(m_preview.get(), &QThread::finished, spectra, updateLive);
+    connect(m_link, &CameraLink::signalStateChanged, spectra, updateLive);
 }
 
 /// The curves of a standing picture need a frame to be made of.

@@ -50,6 +50,7 @@ class SaveSettings;
 class SpectrumPipeline;
 class SpectrumRanges;
 class SpectrumSettings;
+class TrackDesk;
 class UseArea;
 class Workspace;
 class WorkspaceConfig;
@@ -89,6 +90,7 @@ public:
     SpectrumSettings *Spectrum() const { return m_spectrumSettings.get(); }
     LiveProfiles *Profiles() const { return m_profiles.get(); }
     SpectrumPipeline *Spectra() const { return m_spectrumPipeline.get(); }
+    TrackDesk *Tracks() const { return m_tracks.get(); }
     CalibrationModel *Calibration() const { return m_calibration.get(); }
 
     /// Waits for the repair of recordings that were cut off, and tells it, when the event loop has ended already.
@@ -125,6 +127,7 @@ private:
     void ConnectPictures();
     void ConnectSpectrum();
     void ShowSpectrumAgain();
+    void ConnectTracks();
     void UpdateProfilesWanted();
     void UpdateSensorFrame();
     void RepairRecordings();
@@ -157,6 +160,7 @@ private:
     std::unique_ptr<SpectrumSettings> m_spectrumSettings;
     std::unique_ptr<CalibrationModel> m_calibration;
     std::unique_ptr<SpectrumPipeline> m_spectrumPipeline;
+    std::unique_ptr<TrackDesk> m_tracks;
     std::unique_ptr<PeakFinding> m_peakFinding;
     std::unique_ptr<ConnectedCameras> m_cameras;
     std::unique_ptr<CameraCaption> m_cameraCaption;

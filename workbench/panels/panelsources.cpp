@@ -28,7 +28,7 @@ PanelSources::PanelSources(const Parts &parts, QObject *parent)
         },
         this);
     AddReport();
-    new SpectrumFields(parts.spectrum, parts.spectra, this);
+    new SpectrumFields(parts.spectrum, parts.spectra, parts.tracks, this);
     AddTables();
 }
 

@@ -7,6 +7,7 @@ class CalibrationModel;
 class LiveHistogram;
 class SpectrumPipeline;
 class SpectrumSettings;
+class TrackDesk;
 
 /// What stands behind the panels beside and below the picture: histogram, analysis, tool, report, spectrum, and the tables
 /// of counting and calibration. Made after the services and before the module, so that the panels find it. GUI thread.
@@ -21,6 +22,7 @@ public:
         LiveHistogram *histogram = nullptr;
         SpectrumSettings *spectrum = nullptr;
         SpectrumPipeline *spectra = nullptr;
+        TrackDesk *tracks = nullptr;
         CalibrationModel *calibration = nullptr;
     };
 

@@ -4,6 +4,7 @@
 #include "correctionsline.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
+#include "trackdesk.h"
 
 namespace {
 
@@ -36,16 +37,20 @@ PanelField ColourField(const QString &key, const QString &text, const QColor &co
 
 } // namespace
 
-SpectrumFields::SpectrumFields(SpectrumSettings *settings, SpectrumPipeline *spectra, QObject *parent)
+SpectrumFields::SpectrumFields(SpectrumSettings *settings, SpectrumPipeline *spectra, TrackDesk *tracks, QObject *parent)
     : FieldSource(SpectrumName, parent)
     , m_settings(settings)
     , m_spectra(spectra)
+    , m_tracks(tracks)
 {
     connect(settings, &SpectrumSettings::signalRecipeChanged, this, &FieldSource::signalChanged);
     connect(settings, &SpectrumSettings::signalUnitChanged, this, &FieldSource::signalChanged);
     connect(settings, &SpectrumSettings::signalDisplayModeChange, this, &FieldSource::signalChanged);
     connect(settings, &SpectrumSettings::SignalSpectralPropertyChanged, this, &FieldSource::signalChanged);
     connect(settings, &SpectrumSettings::signalMessage, this, &FieldSource::signalFault);
+    connect(tracks, &TrackDesk::signalChanged, this, &FieldSource::signalChanged);
+    connect(tracks, &TrackDesk::signalMessage, this, &FieldSource::signalFault);
+    connect(spectra, &SpectrumPipeline::signalMessage, this, &FieldSource::signalFault);
     connect(spectra, &SpectrumPipeline::signalSpectrumShown, this, &SpectrumFields::slotSpectrumShown);
     connect(settings, &SpectrumSettings::signalDisplayModePropertyChange, this, &SpectrumFields::slotSpectrumShown);
 }
@@ -123,7 +128,22 @@ void SpectrumFields::AddTracks(PanelFields &fields) const
                                    : QString::number(m_settings->GetMultiTrackList().size()));
     fields << PanelField::MakeAction("findTracks", tr("Find Tracks"));
     fields << CheckField("showTracks", tr("Show tracks"), recipe.hasTracks);
-    fields.last().isEnabled = recipe.hasTracks || !m_settings->GetMultiTrackList().isEmpty();
+    const int count = int(recipe.tracks.size());
+    fields.last().isEnabled = recipe.hasTracks || count > 0;
+    fields << CheckField("drawTracks", tr("Draw on the picture"), m_tracks->IsDrawing());
+    fields.last().toolTip = tr("Drag over rows of the live picture for a new track; drag a track or its edges to change it.");
+    fields << PanelField::MakeAction("addTrack", tr("Add Track"));
+    fields << PanelField::MakeAction("removeTrack", tr("Remove Track"), m_tracks->Chosen() >= 0);
+    fields << PanelField::MakeAction("clearTracks", tr("Clear Tracks"), count > 0);
+    fields << PanelField::MakeNumber("track", tr("Chosen track"), m_tracks->Chosen() + 1, 0, count);
+    fields.last().zeroText = tr("none");
+    fields.last().isEnabled = count > 0;
+    const RowBand rows = m_tracks->ChosenRows();
+    const double last = qMax(m_rows, rows.bottom) - 1;
+    fields << PanelField::MakeNumber("trackTop", tr("Its first row"), rows.top, 0, qMax(0.0, last));
+    fields.last().isEnabled = m_tracks->Chosen() >= 0;
+    fields << PanelField::MakeNumber("trackBottom", tr("Its last row"), qMax(0, rows.bottom - 1), 0, qMax(0.0, last));
+    fields.last().isEnabled = m_tracks->Chosen() >= 0;
     fields << CheckField("focus", tr("Focus assistance"), recipe.isFocusing);
     SetGroup(fields, first, tr("Tracks"));
 }
@@ -188,7 +208,7 @@ void SpectrumFields::AddLook(PanelFields &fields) const
 void SpectrumFields::Set(const QString &key, const QVariant &value)
 {
     emit signalFault(QString());
-    if (Do(key) || SetDisplay(key, value) || SetRows(key, value) || SetCorrection(key, value) || SetLook(key, value))
+    if (Do(key) || SetDisplay(key, value) || SetTrack(key, value) || SetRows(key, value) || SetCorrection(key, value) || SetLook(key, value))
         emit signalChanged();
 }
 
@@ -199,6 +219,12 @@ bool SpectrumFields::Do(const QString &key)
         m_spectra->FindBandAgain();
     else if (key == "findTracks")
         m_spectra->FindTracks();
+    else if (key == "addTrack")
+        m_tracks->Add();
+    else if (key == "removeTrack")
+        m_tracks->RemoveChosen();
+    else if (key == "clearTracks")
+        m_tracks->Clear();
     else if (key == "takeDark")
         m_spectra->TakeDark();
     else if (key == "takeReference")
@@ -217,6 +243,22 @@ bool SpectrumFields::SetDisplay(const QString &key, const QVariant &value)
         m_settings->SetHorizontal(value.toInt() == 0);
     else if (key == "unit")
         m_settings->SetUnit(SpectralUnit(qBound(0, value.toInt(), int(SpectralUnit::Wavenumber))));
+    else
+        return false;
+    return true;
+}
+
+bool SpectrumFields::SetTrack(const QString &key, const QVariant &value)
+{
+    const RowBand rows = m_tracks->ChosenRows();
+    if (key == "drawTracks")
+        m_tracks->SetDrawing(value.toBool());
+    else if (key == "track")
+        m_tracks->Choose(value.toInt() - 1);
+    else if (key == "trackTop")
+        m_tracks->SetChosenRows(qBound(0, value.toInt(), rows.bottom - 1), rows.bottom - 1);
+    else if (key == "trackBottom")
+        m_tracks->SetChosenRows(rows.top, qMax(rows.top, value.toInt()));
     else
         return false;
     return true;

@@ -5,6 +5,7 @@
 
 class SpectrumPipeline;
 class SpectrumSettings;
+class TrackDesk;
 struct CorrectionSettings;
 struct PlotStyle;
 struct SpectrumRecipe;
@@ -16,8 +17,8 @@ class SpectrumFields : public FieldSource
     Q_OBJECT
 
 public:
-    /// Both are borrowed and outlive this object.
-    SpectrumFields(SpectrumSettings *settings, SpectrumPipeline *spectra, QObject *parent = nullptr);
+    /// All are borrowed and outlive this object.
+    SpectrumFields(SpectrumSettings *settings, SpectrumPipeline *spectra, TrackDesk *tracks, QObject *parent = nullptr);
 
     PanelFields Fields() const override;
     void Set(const QString &key, const QVariant &value) override;
@@ -34,12 +35,14 @@ private:
     void AddLook(PanelFields &fields) const;
     bool Do(const QString &key);
     bool SetDisplay(const QString &key, const QVariant &value);
+    bool SetTrack(const QString &key, const QVariant &value);
     bool SetRows(const QString &key, const QVariant &value);
     bool SetCorrection(const QString &key, const QVariant &value);
     bool SetLook(const QString &key, const QVariant &value);
 
     SpectrumSettings *m_settings;
     SpectrumPipeline *m_spectra;
+    TrackDesk *m_tracks;
     QString m_corrections; ///< the line as it was told last
     int m_samples = 0;     ///< of it; 0 without one
     int m_rows = 0;        ///< of its frame

@@ -170,6 +170,13 @@ void PictureDesk::SetFileUndoStack(QUndoStack *stack)
     m_undoGroup->addStack(stack);
 }
 
+void PictureDesk::SetLiveUndoStack(QUndoStack *stack)
+{
+    m_liveUndoStack = stack;
+    m_undoGroup->addStack(stack);
+    slotUpdateUndo();
+}
+
 void PictureDesk::slotFileMoved(const QString &from, const QString &to)
 {
     if (PictureDocument *document = m_shelf->Find(from)) {
@@ -233,10 +240,13 @@ void PictureDesk::slotUpdateUndo()
         m_undoGroup->setActiveStack(m_fileUndoStack);
         return;
     }
-    const bool isSeen = view != CameraView;
+    if (view == CameraView) {
+        m_undoGroup->setActiveStack(m_liveUndoStack);
+        return;
+    }
     const bool isCompare = GlobalManager::GetInstance()->GetActiveImageManager() == m_compare;
     const PictureDocument *document = (isCompare ? m_compare : m_main)->Document();
-    m_undoGroup->setActiveStack(isSeen && document ? document->UndoStack() : nullptr);
+    m_undoGroup->setActiveStack(document ? document->UndoStack() : nullptr);
 }
 
 void PictureDesk::slotAdded(PictureDocument *document) { m_undoGroup->addStack(document->UndoStack()); }

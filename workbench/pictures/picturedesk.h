@@ -50,6 +50,8 @@ public:
 
     /// The steps done to files on the file page; borrowed.
     void SetFileUndoStack(QUndoStack *stack);
+    /// The steps done on the live page; borrowed.
+    void SetLiveUndoStack(QUndoStack *stack);
 
 public slots:
     /// Another picture is worked on, or another view is shown.
@@ -90,6 +92,7 @@ private:
     OpenedPicture *m_compare;
     QUndoGroup *m_undoGroup;
     QPointer<QUndoStack> m_fileUndoStack;
+    QPointer<QUndoStack> m_liveUndoStack;
     bool m_isAskedFor = false;          ///< the next main picture is one that the user asked for
     QPointer<PictureDocument> m_shown;  ///< in the main picture
     QPointer<PictureDocument> m_before; ///< was shown there before

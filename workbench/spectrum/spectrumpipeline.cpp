@@ -115,8 +115,26 @@ void SpectrumPipeline::FindBandAgain()
 
 void SpectrumPipeline::FindTracks()
 {
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    m_findsTracks = true;
+    bool isLive = false;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        isLive = m_isLive;
+        m_findsTracks = isLive;
+    }
+    if (!isLive)
+        emit signalMessage(tr("There is no live picture to find tracks in."));
+}
+
+void SpectrumPipeline::SetLive(bool live)
+{
+    bool isGivenUp = false;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_isLive = live;
+        isGivenUp = !live && std::exchange(m_findsTracks, false);
+    }
+    if (isGivenUp)
+        emit signalMessage(tr("There is no live picture to find tracks in."));
 }
 
 void SpectrumPipeline::ChangeEngine(const std::function<void(SpectrumEngine *)> &change)

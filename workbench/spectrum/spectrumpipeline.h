@@ -37,8 +37,10 @@ public:
     bool TakeReference();
     /// The band is looked for again.
     void FindBandAgain();
-    /// Looks for tracks in the next frame; signalTracksFound() tells.
+    /// Looks for tracks in the next frame; signalTracksFound() tells. Without live frames it says so.
     void FindTracks();
+    /// Frames come. What waits for one is given up when they stop.
+    void SetLive(bool live);
 
     /// The plots get the newest spectrum once more: a page that was hidden has none. Nothing when one is on its way.
     void ShowAgain();
@@ -61,6 +63,8 @@ signals:
     /// Shown() is a new one.
     void signalSpectrumShown();
     void signalTracksFound(QList<QRectF> tracks);
+    /// A sentence for the user.
+    void signalMessage(QString text);
 
 private:
     void Run();
@@ -79,6 +83,7 @@ private:
     std::deque<CameraFrame> m_queue;
     std::function<void(SpectrumEngine *)> m_change; ///< what is to be done before the next frame
     bool m_findsTracks = false;
+    bool m_isLive = true;
     bool m_isWanted = false;
     bool m_stops = false;
 

@@ -9,6 +9,7 @@ SpectrumSettings::SpectrumSettings(DisplayModeManager *ranges, CentreDisplay *ce
     , m_centre(centre)
 {
     connect(centre, &CentreDisplay::signalModeChanged, this, &SpectrumSettings::signalDisplayModeChange);
+    connect(centre, &CentreDisplay::signalModeChanged, this, &SpectrumSettings::TellOfTooManyTracks);
     connect(centre, &CentreDisplay::signalPreviewAreaWanted, this, &SpectrumSettings::AnnounceLiveArea);
 }
 
@@ -87,11 +88,20 @@ void SpectrumSettings::SetMultiTrackOnFlag(bool on)
     emit signalRecipeChanged();
 }
 
-/// Drawn across the tracks, the plot has room for 20 of them.
+/// Drawn across the tracks, the plot has room for 20 of them; the other pages show all.
 int SpectrumSettings::MostTracks(bool horizontal) const
 {
     constexpr int mostInVerticalPlot = 20;
-    return horizontal ? MostTracksAtAll : mostInVerticalPlot;
+    const bool isPlot = Mode() == DisplayMode::Plot || Mode() == DisplayMode::PlotPeak;
+    return isPlot && !horizontal ? mostInVerticalPlot : MostTracksAtAll;
+}
+
+/// The plot shows the first ones.
+void SpectrumSettings::TellOfTooManyTracks()
+{
+    const int most = MostTracks(m_recipe.isHorizontal);
+    if (m_recipe.hasTracks && m_tracks.size() > most)
+        emit signalMessage(TracksFault(m_tracks, m_frameSize, most));
 }
 
 bool SpectrumSettings::SetTracks(const QList<QRectF> &tracks)
@@ -119,11 +129,17 @@ bool SpectrumSettings::SetTracks(const QList<QRectF> &tracks)
 
 QList<QRectF> SpectrumSettings::GetMultiTrackList() const { return m_tracks; }
 
-void SpectrumSettings::SwitchTracksOff(const QString &reason)
+void SpectrumSettings::ClearTracks()
 {
     m_tracks.clear();
     m_recipe.tracks.clear();
     SetMultiTrackOnFlag(false);
+    emit signalRecipeChanged();
+}
+
+void SpectrumSettings::SwitchTracksOff(const QString &reason)
+{
+    ClearTracks();
     emit signalMessage(reason);
 }
 
@@ -138,7 +154,7 @@ void SpectrumSettings::slotSetFrameSize(QSize size)
     for (QRectF &track : m_tracks)
         track.setWidth(size.width());
     if (!m_tracks.isEmpty()) {
-        const QString fault = TracksFault(m_tracks, size, MostTracks(m_recipe.isHorizontal));
+        const QString fault = TracksFault(m_tracks, size, MostTracksAtAll);
         if (!fault.isEmpty())
             SwitchTracksOff(fault);
         else if (m_recipe.hasTracks)

@@ -27,10 +27,12 @@ public:
 
     const SpectrumRecipe &Recipe() const { return m_recipe; }
     void SetBinnedRows(BinnedRows rows);
-    /// Refused, in words, when there are more tracks than fit into the plot of the other direction.
+    /// Refused, in words, while the plot is shown and has no room for all tracks in that direction.
     void SetHorizontal(bool horizontal);
     /// Replaces the list; refused, in words, when it is empty, overlaps or leaves the frame.
     bool SetTracks(const QList<QRectF> &tracks);
+    /// No tracks, none shown.
+    void ClearTracks();
     void SetCorrections(const CorrectionSettings &corrections);
     /// Of live spectra within `frame`, that of the spectrum it was made with, and of those of files that say nothing
     /// themselves and are as wide as it; null takes it away. Set while a file with an axis of its own is shown, it takes
@@ -138,6 +140,7 @@ private:
     /// True when the band set by hand had to become another one; the user is told.
     bool KeepBandInPicture();
     int MostTracks(bool horizontal) const;
+    void TellOfTooManyTracks();
     void SwitchTracksOff(const QString &reason);
     void AnnounceAxis();
     /// Of what Calculate() gives.

@@ -5,6 +5,7 @@
 #include "spectrumpipeline.h"
 #include "spectrumranges.h"
 #include "spectrumsettings.h"
+#include "trackdesk.h"
 
 #include <QSettings>
 #include <QSignalSpy>
@@ -50,12 +51,15 @@ private slots:
         m_spectra = std::make_unique<SpectrumPipeline>();
         connect(m_settings.get(), &SpectrumSettings::signalRecipeChanged, m_spectra.get(),
                 [this] { m_spectra->SetRecipe(m_settings->Recipe()); });
-        m_fields = std::make_unique<SpectrumFields>(m_settings.get(), m_spectra.get());
+        m_tracks = std::make_unique<TrackDesk>(m_settings.get());
+        m_tracks->slotPictureSize(QSize(Width, Height));
+        m_fields = std::make_unique<SpectrumFields>(m_settings.get(), m_spectra.get(), m_tracks.get());
     }
 
     void cleanup() override
     {
         m_fields.reset();
+        m_tracks.reset();
         m_spectra.reset();
         m_settings.reset();
         m_centre.reset();
@@ -123,6 +127,39 @@ private slots:
         m_fields->Set("showTracks", true);
         QVERIFY(m_settings->GetMultiTrackOnFlag());
         QCOMPARE(faults.last().at(0).toString(), QString());
+    }
+
+    void tracksAreAddedChangedAndRemoved()
+    {
+        QVERIFY(!Field("removeTrack").isEnabled && !Field("clearTracks").isEnabled && !Field("trackTop").isEnabled);
+        m_fields->Set("addTrack", QVariant()); // two rows in the middle of 40
+        QCOMPARE(m_settings->GetMultiTrackList(), QList<QRectF>({QRectF(0, 19, Width, 2)}));
+        QVERIFY(m_settings->GetMultiTrackOnFlag());
+        QCOMPARE(Field("track").value.toInt(), 1);
+        m_fields->Set("trackBottom", 29);
+        m_fields->Set("trackTop", 25);
+        QCOMPARE(m_settings->GetMultiTrackList(), QList<QRectF>({QRectF(0, 25, Width, 5)}));
+        m_fields->Set("addTrack", QVariant()); // the larger gap lies above, so this one is the first
+        QCOMPARE(m_settings->GetMultiTrackList(), QList<QRectF>({QRectF(0, 11, Width, 2), QRectF(0, 25, Width, 5)}));
+        QCOMPARE(Field("track").value.toInt(), 1);
+
+        QSignalSpy faults(m_fields.get(), SIGNAL(signalFault(QString)));
+        m_fields->Set("trackBottom", 26);
+        QCOMPARE(faults.last().at(0).toString(), QString("Tracks 1 and 2 overlap: move or remove one of them."));
+        QCOMPARE(Field("trackBottom").value.toInt(), 12);
+
+        m_fields->Set("track", 2);
+        m_fields->Set("removeTrack", QVariant());
+        QCOMPARE(m_settings->GetMultiTrackList(), QList<QRectF>({QRectF(0, 11, Width, 2)}));
+        m_tracks->UndoStack()->undo();
+        QCOMPARE(m_settings->GetMultiTrackList().size(), 2);
+        m_fields->Set("clearTracks", QVariant());
+        QVERIFY(m_settings->GetMultiTrackList().isEmpty() && !m_settings->GetMultiTrackOnFlag());
+        QCOMPARE(Field("track").value.toInt(), 0);
+        m_tracks->UndoStack()->undo();
+        QVERIFY(m_settings->GetMultiTrackList().size() == 2 && m_settings->GetMultiTrackOnFlag());
+        m_tracks->UndoStack()->redo();
+        QVERIFY(m_settings->GetMultiTrackList().isEmpty());
     }
 
     void correctionsAreSet_data()
@@ -280,6 +317,7 @@ private:
     std::unique_ptr<CentreDisplay> m_centre;
     std::unique_ptr<SpectrumSettings> m_settings;
     std::unique_ptr<SpectrumPipeline> m_spectra;
+    std::unique_ptr<TrackDesk> m_tracks;
     std::unique_ptr<SpectrumFields> m_fields;
 };
 

@@ -38,6 +38,7 @@ private slots:
     void framesThatWaitedForNothingAreCounted();
     void rowsThatAreNotThereMakeNoSpectrum();
     void tracksAreFoundOnRequest();
+    void withoutLiveFramesNoTracksAreLookedFor();
     void focusTellsOfTheLines();
     void focusOfAVerticalSpectrum();
     void changingTheRecipeWhileFramesWaitIsSafe();
@@ -508,6 +509,30 @@ void SpectrumPipelineTest::tracksAreFoundOnRequest()
     pipeline.FindTracks();
     pipeline.OnFrame(Frame(1));
     QTRY_COMPARE(found, QList<QRectF>({QRectF(0, 20, width, 20)}));
+}
+
+/// A wish that waits for a frame is not met by one of much later.
+void SpectrumPipelineTest::withoutLiveFramesNoTracksAreLookedFor()
+{
+    SpectrumPipeline pipeline;
+    QSignalSpy told(&pipeline, &SpectrumPipeline::signalMessage);
+    QSignalSpy found(&pipeline, &SpectrumPipeline::signalTracksFound);
+    pipeline.FindTracks();
+    QCOMPARE(told.count(), 0);
+    pipeline.SetLive(false);
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(told[0][0].toString(), QString("There is no live picture to find tracks in."));
+    pipeline.FindTracks();
+    QCOMPARE(told.count(), 2);
+    pipeline.SetLive(true);
+    pipeline.SetRecipe(Binning());
+    pipeline.OnFrame(Frame(1));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(1));
+    QCOMPARE(found.count(), 0);
+    pipeline.FindTracks();
+    pipeline.OnFrame(Frame(2));
+    QVERIFY(found.wait());
+    QCOMPARE(told.count(), 2);
 }
 
 void SpectrumPipelineTest::focusTellsOfTheLines()

@@ -25,6 +25,7 @@ private slots:
     void aBandOutsideOfThePictureIsTold();
     void tracksThatCannotBeAreRefusedInWords();
     void moreThanTwentyTracksAreForThePlotAlongTheRows();
+    void moreThanTwentyTracksAcrossAreForTheOtherPages();
     void aSmallerFrameSwitchesTracksOff();
     void tracksAreAsWideAsTheFrame();
     void calibratedInEveryUnit();
@@ -179,6 +180,7 @@ void SpectrumSettingsTest::moreThanTwentyTracksAreForThePlotAlongTheRows()
     QList<QRectF> tracks;
     for (int i = 0; i < 21; ++i)
         tracks << QRectF(0, 20 * i, 1000, 10);
+    m_settings->SetMode(DisplayMode::Plot);
     QVERIFY(m_settings->SetTracks(tracks));
     m_settings->SetMultiTrackOnFlag(true);
     QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
@@ -189,6 +191,25 @@ void SpectrumSettingsTest::moreThanTwentyTracksAreForThePlotAlongTheRows()
     QVERIFY(m_settings->SetTracks(tracks));
     m_settings->SetHorizontal(false);
     QVERIFY(!m_settings->IsDirectionHorinzontal());
+}
+
+/// The other pages show them all; the plot then shows the first ones and says so.
+void SpectrumSettingsTest::moreThanTwentyTracksAcrossAreForTheOtherPages()
+{
+    QList<QRectF> tracks;
+    for (int i = 0; i < 21; ++i)
+        tracks << QRectF(0, 20 * i, 1000, 10);
+    m_settings->SetMode(DisplayMode::Tracks3D);
+    m_settings->SetHorizontal(false);
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    QVERIFY(m_settings->SetTracks(tracks));
+    m_settings->SetMultiTrackOnFlag(true);
+    QCOMPARE(m_settings->GetMultiTrackList().size(), 21);
+    QCOMPARE(told.count(), 0);
+    m_settings->SetMode(DisplayMode::Plot);
+    QCOMPARE(told.value(0).value(0).toString(), QString("There are 21 tracks and the plot shows 20 at most: take some away."));
+    QVERIFY(!m_settings->SetTracks(tracks));
+    QCOMPARE(m_settings->GetMultiTrackList().size(), 21);
 }
 
 void SpectrumSettingsTest::aSmallerFrameSwitchesTracksOff()
