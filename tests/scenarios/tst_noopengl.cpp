@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "plotpicture.h"
 #include "scenariotest.h"
 #include "workspaceconfig.h"
 
 #include <QAction>
+#include <QLabel>
 #include <QOpenGLWidget>
 #include <QGraphicsView>
+
+#include <qcustomplot.h>
+
+#include <algorithm>
 
 /// The workbench on a display that offers no OpenGL at all.
 class NoOpenGL : public ScenarioTest
@@ -41,7 +47,29 @@ private slots:
         CheckThatTheCpuDraws();
     }
 
+    void thePageIn3DSaysSoAndTheCurveWorks()
+    {
+        m_workbench->Action("All Rows")->trigger();
+        m_workbench->Action("Tracks in 3D")->trigger();
+        const QString sentence = "The 3D plot can't be shown: this display offers no OpenGL.";
+        QTRY_VERIFY(IsLabelSeen(sentence));
+        m_workbench->Action("Curve")->trigger();
+        QTRY_VERIFY(!IsLabelSeen(sentence));
+        QTRY_VERIFY_WITH_TIMEOUT(Curve() && Curve()->graph(0)->dataCount() == 2048, 20000);
+        m_workbench->Action("Picture")->trigger();
+        QVERIFY(m_workbench->WaitForNextPicture());
+    }
+
 private:
+    bool IsLabelSeen(const QString &text) const
+    {
+        const QList<QLabel *> labels = m_workbench->window.findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [&](const QLabel *label) { return label->isVisible() && label->text() == text && label->width() > 200; });
+    }
+
+    QCustomPlot *Curve() const { return qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())); }
+
     static QString Sentence()
     {
         return "OpenGL can't be started: the display offers none. The picture is drawn by the CPU.";

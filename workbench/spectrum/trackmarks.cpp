@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "trackmarks.h"
 
-#include <QApplication>
 #include <QCursor>
 #include <QGraphicsScene>
 #include <QGraphicsSceneContextMenuEvent>
@@ -12,6 +11,7 @@
 namespace {
 
 constexpr double edgeReachPixels = 5; ///< on the screen, to each side of an edge
+constexpr int stillestDrag = 3;       ///< pixels on the screen; less is a click of an unsteady hand
 constexpr double aboveTheMarks = 1;   ///< z of this item; those of FocusInfo lie at 0
 
 Qt::CursorShape CursorOf(TrackDrag::Grip grip)
@@ -83,7 +83,7 @@ void TrackMarks::mousePressEvent(QGraphicsSceneMouseEvent *event)
 
 void TrackMarks::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
-    m_hasMoved = m_hasMoved || (event->screenPos() - m_pressScreenPos).manhattanLength() >= QApplication::startDragDistance() / 2;
+    m_hasMoved = m_hasMoved || (event->screenPos() - m_pressScreenPos).manhattanLength() >= stillestDrag;
     if (m_hasMoved)
         m_drag.MoveTo(event->scenePos().y());
     update();

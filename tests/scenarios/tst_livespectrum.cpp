@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "camerasession.h"
+#include "openedpicture.h"
+#include "picturedesk.h"
+#include "plotpicture.h"
+#include "scenariotest.h"
+#include "spectrographoptics.h"
+#include "spectrographscene.h"
+#include "spectrumlinepayload.h"
+#include "spectrumpipeline.h"
+#include "spectrumsettings.h"
+#include "trackdesk.h"
+#include "workspaceconfig.h"
+
+#include <QAction>
+#include <QContextMenuEvent>
+#include <QGraphicsSimpleTextItem>
+#include <QGraphicsView>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QMutexLocker>
+
+#include <qcustomplot.h>
+#include <qwt3d_surfaceplot.h>
+
+#include <cmath>
+
+namespace {
+
+constexpr int waitMs = 20000;
+constexpr double faintExposureUs = 2000; ///< nothing is cut off
+const SpectrographOptics truth(QSize(2048, 2048));
+
+/// Those of the lines: all else in the plot is black, white or grey.
+int ColouredPixels(const QImage &picture)
+{
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x)
+            count += picture.pixelColor(x, y).saturation() > 60;
+    }
+    return count;
+}
+
+} // namespace
+
+/// A person works with the rows of the spectrum on the live picture.
+class LiveSpectrumScenario : public ScenarioTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() override
+    {
+        ScenarioTest::init();
+        m_workbench->link.SetScene(SpectrographScene::SceneName());
+        m_workbench->link.SetPixelLayout(PixelLayout::Mono16);
+        m_workbench->link.Session()->SetExposureUs(faintExposureUs);
+        QVERIFY(m_workbench->WaitForNextPicture());
+    }
+
+    /// The edges that are dragged are the rows that the plot is given.
+    void theBandIsDraggedOnThePicture()
+    {
+        m_workbench->Action("Band by Hand")->trigger();
+        SpectrumSettings *settings = m_workbench->services.Spectrum();
+        QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().band.bottom, 2048, waitMs);
+        QCOMPARE(settings->GetTop(), 0);
+        Drag(QPointF(400, 0), QPointF(400, 900));
+        QTRY_VERIFY(std::abs(settings->GetTop() - 900) <= Reach());
+        Drag(QPointF(400, 2043), QPointF(400, 1200)); // its edge, a little above the end of the view
+        QTRY_VERIFY(std::abs(settings->GetBottom() - 1200) <= Reach());
+        QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().band.top, settings->GetTop(), waitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().band.bottom, settings->GetBottom() + 1, waitMs);
+
+        unsigned int drawn = 0;
+        double made = -1;
+        connect(Spectra(), &SpectrumManager::SignalUpdateFVB, this, [&](void *param) {
+            auto *payload = static_cast<SpectrumLinePayload *>(param);
+            const QMutexLocker lock(payload->lock);
+            drawn = payload->fill[1000];
+            made = Spectra()->Shown().corrected.values[1000];
+        });
+        QTRY_COMPARE_WITH_TIMEOUT(double(drawn), made, waitMs);
+        disconnect(Spectra(), nullptr, this, nullptr);
+        m_workbench->Action("Off")->trigger();
+    }
+
+    void tracksAreDrawnMovedResizedAndRemoved()
+    {
+        m_workbench->Action("Draw on the Picture")->trigger();
+        const double first = truth.TrackCentre(0);
+        const double second = truth.TrackCentre(1);
+        Drag(QPointF(400, second - 60), QPointF(500, second + 60));
+        QTRY_COMPARE(Tracks().size(), 1);
+        Drag(QPointF(400, first - 60), QPointF(500, first + 60));
+        QTRY_COMPARE(Tracks().size(), 2);
+        QVERIFY(std::abs(Tracks()[0].top() - (first - 60)) <= Reach());
+        QVERIFY(std::abs(Tracks()[1].bottom() - (second + 60)) <= Reach());
+        QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().tracks.size(), size_t(2), waitMs);
+        SavePicture("tracks-drawn.png");
+
+        // Each has the light of its fibre: the green line stands where the optics put it.
+        for (size_t i = 0; i < 2; ++i) {
+            const std::vector<double> values = Spectra()->Shown().tracks[i].values;
+            const double line = truth.LinePosition(546.075, truth.TrackCentre(int(i)));
+            const auto from = values.begin() + int(line) - 20;
+            const double brightest = double(std::max_element(from, from + 40) - values.begin());
+            QVERIFY2(std::abs(brightest - line) < 3, qPrintable(QString("%1 and not %2").arg(brightest).arg(line)));
+        }
+
+        const double height = Tracks()[0].height();
+        Drag(QPointF(700, first), QPointF(700, first - 30)); // the whole one
+        QTRY_VERIFY(std::abs(Tracks()[0].top() - (first - 90)) <= 2 * Reach());
+        QCOMPARE(Tracks()[0].height(), height);
+        Drag(QPointF(700, Tracks()[0].bottom()), QPointF(700, first + 80)); // its edge
+        QTRY_VERIFY(std::abs(Tracks()[0].bottom() - (first + 80)) <= 2 * Reach());
+
+        // Over another one: refused, in words, and as it was.
+        const QList<QRectF> before = Tracks();
+        Drag(QPointF(700, first), QPointF(700, second));
+        QTRY_COMPARE(m_workbench->StatusText(), QString("Tracks 1 and 2 overlap: move or remove one of them."));
+        QCOMPARE(Tracks(), before);
+
+        RemoveByMenu(QPointF(700, second));
+        QTRY_COMPARE(Tracks().size(), 1);
+        m_workbench->Action("Undo Remove Track")->trigger();
+        QCOMPARE(Tracks(), before);
+        m_workbench->Action("Clear Tracks")->trigger();
+        QVERIFY(Tracks().isEmpty());
+        QTest::keySequence(&m_workbench->window, QKeySequence::Undo);
+        QTRY_COMPARE(Tracks(), before);
+        // Not drawing any more, a drag moves the picture.
+        m_workbench->Action("Draw on the Picture")->trigger();
+        Drag(QPointF(700, first), QPointF(700, first + 100));
+        QCOMPARE(Tracks(), before);
+        m_workbench->Action("Show Tracks")->trigger();
+    }
+
+    void focusIsShownOnThePicture()
+    {
+        m_workbench->Action("Focus Assistance")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(!FocusTexts().isEmpty(), waitMs);
+        QCOMPARE(FocusTexts().size(), Spectra()->GetAngleList().size());
+        const QRegularExpression form(QString::fromUtf8("^[0-9]+\\.[0-9]{2}  -?[0-9]+\\.[0-9]{2}°$"));
+        for (const QString &text : FocusTexts())
+            QVERIFY2(form.match(text).hasMatch(), qPrintable(text));
+        SavePicture("focus.png");
+        m_workbench->Action("Focus Assistance")->trigger();
+        QTRY_VERIFY(FocusTexts().isEmpty());
+    }
+
+    void keysSwitchTheDisplay()
+    {
+        const SpectrumSettings *settings = m_workbench->services.Spectrum();
+        for (const int mode : {1, 2, 3, 4, 0}) {
+            QTest::keyClick(&m_workbench->window, Qt::Key(Qt::Key_1 + mode), Qt::ControlModifier);
+            QTRY_COMPARE(int(settings->Mode()), mode);
+        }
+        QTest::keyClick(&m_workbench->window, Qt::Key_3, Qt::ControlModifier);
+        QTRY_VERIFY(qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())));
+        QTest::keyClick(&m_workbench->window, Qt::Key_1, Qt::ControlModifier);
+        QTRY_VERIFY(!VisiblePlot(m_workbench->window.centralWidget()));
+    }
+
+    /// Both pages have a plot of their own, and one payload.
+    void theImagePageShowsTheTracksToo()
+    {
+        m_workbench->Action("Tracks in 3D")->trigger();
+        m_workbench->Action("Find Tracks")->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().tracks.size(), size_t(3), waitMs);
+        QTRY_VERIFY(Plot3D());
+        const Qwt3D::SurfacePlot *live = Plot3D();
+        QTRY_VERIFY(ColouredPixels(Screen(live)) > 300);
+
+        QImage picture(640, 480, QImage::Format_Grayscale8);
+        picture.fill(90);
+        const QString path = m_folder->filePath("grey.png");
+        QVERIFY(picture.save(path));
+        PictureDesk *desk = m_workbench->services.Desk();
+        desk->Open({path}, desk->MainPicture());
+        QTRY_COMPARE(m_workbench->services.Config()->GetCurrentView(), int(ImageView));
+        QTRY_VERIFY(Plot3D() && Plot3D() != live);
+        QTRY_VERIFY2(ColouredPixels(Screen(Plot3D())) > 300, qPrintable(QString::number(ColouredPixels(Screen(Plot3D())))));
+        SavePicture("image-page-3d.png");
+
+        m_workbench->services.Config()->SetCameraView();
+        QTRY_COMPARE(Plot3D(), live);
+        QTRY_VERIFY(ColouredPixels(Screen(live)) > 300);
+    }
+
+private:
+    SpectrumPipeline *Spectra() const { return m_workbench->services.Spectra(); }
+
+    QList<QRectF> Tracks() const { return m_workbench->services.Spectrum()->GetMultiTrackList(); }
+
+    /// One pixel of the screen, in rows of the picture.
+    double Reach() const { return 1 / m_workbench->Scale() + 1; }
+
+    void Drag(const QPointF &from, const QPointF &to) const
+    {
+        QGraphicsView *view = m_workbench->View();
+        const QPoint first = view->mapFromScene(from);
+        const QPoint last = view->mapFromScene(to);
+        QTest::mousePress(view->viewport(), Qt::LeftButton, Qt::NoModifier, first);
+        for (const QPoint &place : {(first + last) / 2, last}) {
+            QMouseEvent move(QEvent::MouseMove, place, view->viewport()->mapToGlobal(place), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(view->viewport(), &move);
+        }
+        QTest::mouseRelease(view->viewport(), Qt::LeftButton, Qt::NoModifier, last);
+    }
+
+    void RemoveByMenu(const QPointF &scenePos) const
+    {
+        QGraphicsView *view = m_workbench->View();
+        const QPoint place = view->mapFromScene(scenePos);
+        QContextMenuEvent wish(QContextMenuEvent::Mouse, place, view->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(view->viewport(), &wish);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        QVERIFY(menu);
+        QCOMPARE(menu->actions().value(0)->text(), QString("Remove Track 2"));
+        menu->actions().value(0)->trigger();
+        menu->close();
+    }
+
+    QStringList FocusTexts() const
+    {
+        QStringList texts;
+        for (const QGraphicsItem *item : m_workbench->View()->scene()->items()) {
+            if (const auto *text = qgraphicsitem_cast<const QGraphicsSimpleTextItem *>(item))
+                texts << text->text();
+        }
+        return texts;
+    }
+
+    Qwt3D::SurfacePlot *Plot3D() const
+    {
+        for (auto *plot : m_workbench->window.findChildren<Qwt3D::SurfacePlot *>()) {
+            if (plot->isVisible())
+                return plot;
+        }
+        return nullptr;
+    }
+
+    static QImage Screen(const QWidget *widget)
+    {
+        const QPoint corner = widget->mapToGlobal(QPoint(0, 0));
+        return QGuiApplication::primaryScreen()->grabWindow(0, corner.x(), corner.y(), widget->width(), widget->height()).toImage();
+    }
+
+    /// For the eye, where a folder is given for it.
+    void SavePicture(const QString &name) const
+    {
+        const QString folder = qEnvironmentVariable("SCENARIO_PICTURES");
+        if (!folder.isEmpty())
+            Screen(&m_workbench->window).save(folder + '/' + name);
+    }
+};
+
+GUARDED_TEST_MAIN(LiveSpectrumScenario)
+#include "tst_livespectrum.moc"
