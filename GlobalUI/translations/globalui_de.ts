@@ -489,6 +489,22 @@
         <source>Automatic Counting Table</source>
         <translation>Tabelle der automatischen Zählung</translation>
     </message>
+    <message>
+        <source>Spectrum</source>
+        <translation>Spektrum</translation>
+    </message>
+    <message>
+        <source>Analysis</source>
+        <translation>Analyse</translation>
+    </message>
+    <message>
+        <source>Tool Properties</source>
+        <translation>Werkzeug</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Bericht</translation>
+    </message>
 </context>
 <context>
     <name>MultiImageToolUI</name>
@@ -574,6 +590,14 @@
     <message>
         <source>the file is missing: it is a link to %1</source>
         <translation>die Datei fehlt: Sie ist ein Verweis auf %1</translation>
+    </message>
+    <message>
+        <source>it failed when it was brought up to date</source>
+        <translation>es scheiterte, als es aufgefrischt wurde</translation>
+    </message>
+    <message>
+        <source>it failed when it was brought up to date: %1</source>
+        <translation>es scheiterte, als es aufgefrischt wurde: %1</translation>
     </message>
 </context>
 <context>

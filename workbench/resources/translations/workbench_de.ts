@@ -122,17 +122,73 @@
     </message>
 </context>
 <context>
+    <name>AppliedCorrections</name>
+    <message>
+        <source>average of fewer than %1 so far</source>
+        <translation>Mittel aus bisher weniger als %1</translation>
+    </message>
+    <message>
+        <source>average of %1</source>
+        <translation>Mittel aus %1</translation>
+    </message>
+    <message>
+        <source>no reference spectrum of this part of the picture</source>
+        <translation>kein Referenzspektrum von diesem Teil des Bildes</translation>
+    </message>
+    <message>
+        <source>transmission in 1/100 %</source>
+        <translation>Transmission in 1/100 %</translation>
+    </message>
+    <message>
+        <source>absorbance in 1/10000</source>
+        <translation>Absorbanz in 1/10000</translation>
+    </message>
+    <message>
+        <source>reference subtracted</source>
+        <translation>Referenz abgezogen</translation>
+    </message>
+    <message>
+        <source>dark and reference not of tracks</source>
+        <translation>Dunkelspektrum und Referenz nicht bei Spuren</translation>
+    </message>
+    <message>
+        <source>dark subtracted</source>
+        <translation>Dunkelspektrum abgezogen</translation>
+    </message>
+    <message>
+        <source>no dark spectrum of this part of the picture to subtract</source>
+        <translation>kein Dunkelspektrum von diesem Teil des Bildes zum Abziehen</translation>
+    </message>
+    <message>
+        <source>cosmic rays removed</source>
+        <translation>kosmische Strahlung entfernt</translation>
+    </message>
+    <message>
+        <source>baseline removed</source>
+        <translation>Basislinie entfernt</translation>
+    </message>
+    <message>
+        <source>smoothed over %1 samples</source>
+        <translation>über %1 Werte geglättet</translation>
+    </message>
+    <message>
+        <source>No correction is on.</source>
+        <translation>Keine Korrektur ist an.</translation>
+    </message>
+    <message>
+        <source>Corrections: %1.</source>
+        <translation>Korrekturen: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>AutoCountPanel</name>
     <message>
         <source>This program does not count by itself.</source>
         <translation>Dieses Programm zählt nicht von selbst.</translation>
-    </message>
-</context>
-<context>
-    <name>AutoCounting</name>
-    <message>
-        <source>The table was not saved as “%1”: %2. Choose another folder or name.</source>
-        <translation>Die Tabelle wurde nicht als „%1“ gespeichert: %2. Einen anderen Ordner oder Namen wählen.</translation>
     </message>
 </context>
 <context>
@@ -159,6 +215,18 @@
     <message>
         <source>Pixel Number</source>
         <translation>Pixelnummer</translation>
+    </message>
+    <message>
+        <source>The calibration was made for spectra of %1 pixels and this one has %2: positions are in pixels.</source>
+        <translation>Die Kalibrierung gilt für Spektren mit %1 Pixeln und dieses hat %2: Positionen sind in Pixeln.</translation>
+    </message>
+    <message>
+        <source>The calibration was made along the other side of the sensor: positions are in pixels. Change the direction or rotate the picture back, or calibrate anew.</source>
+        <translation>Die Kalibrierung gilt längs der anderen Seite des Sensors: Positionen sind in Pixeln. Die Richtung ändern oder das Bild zurückdrehen oder neu kalibrieren.</translation>
+    </message>
+    <message>
+        <source>The calibration was made for the sensor&apos;s pixels %1 to %2, and this spectrum has others too: positions are in pixels. Choose a region among those, or calibrate anew.</source>
+        <translation>Die Kalibrierung gilt für die Pixel %1 bis %2 des Sensors, und dieses Spektrum hat auch andere: Positionen sind in Pixeln. Einen Bereich unter jenen wählen oder neu kalibrieren.</translation>
     </message>
 </context>
 <context>
@@ -330,11 +398,18 @@
     </message>
 </context>
 <context>
-    <name>CalibrationTable</name>
+    <name>CalibrationPoint</name>
     <message>
-        <source>The table was not saved as “%1”: %2. Choose another folder or name.</source>
-        <translation>Die Tabelle wurde nicht als „%1“ gespeichert: %2. Einen anderen Ordner oder Namen wählen.</translation>
+        <source>saturated</source>
+        <translation>gesättigt</translation>
     </message>
+    <message>
+        <source>%1 (saturated)</source>
+        <translation>%1 (gesättigt)</translation>
+    </message>
+</context>
+<context>
+    <name>CalibrationTable</name>
     <message>
         <source>Pixel</source>
         <translation>Pixel</translation>
@@ -396,6 +471,29 @@
     <message>
         <source>The frame rate</source>
         <translation>Die Bildrate</translation>
+    </message>
+</context>
+<context>
+    <name>CameraDevice</name>
+    <message>
+        <source>The camera %1 could not be opened: %2. Check that it is connected and powered, and that no other program uses it.</source>
+        <translation>Die Kamera %1 ließ sich nicht öffnen: %2. Prüfen, ob sie angeschlossen ist, Strom hat und kein anderes Programm sie benutzt.</translation>
+    </message>
+    <message>
+        <source>The camera offers none of the pixel formats Mono8, Mono12, Mono16 and RGB8.</source>
+        <translation>Die Kamera bietet keines der Pixelformate Mono8, Mono12, Mono16 und RGB8.</translation>
+    </message>
+    <message>
+        <source>The camera %1 does not answer. Check its cable and power.</source>
+        <translation>Die Kamera %1 antwortet nicht. Kabel und Strom prüfen.</translation>
+    </message>
+    <message>
+        <source>The camera %1 sends no pictures: %2. Close it and open it again.</source>
+        <translation>Die Kamera %1 schickt keine Bilder: %2. Schließen und neu öffnen.</translation>
+    </message>
+    <message>
+        <source>The camera %1 did not start: %2. Close it and open it again.</source>
+        <translation>Die Kamera %1 lief nicht an: %2. Schließen und neu öffnen.</translation>
     </message>
 </context>
 <context>
@@ -693,33 +791,6 @@ Im Menü Kamera eine wählen.</translation>
     </message>
 </context>
 <context>
-    <name>CameraSession</name>
-    <message>
-        <source>The camera %1 could not be opened: %2. Check that it is connected and powered, and that no other program uses it.</source>
-        <translation>Die Kamera %1 ließ sich nicht öffnen: %2. Prüfen, ob sie angeschlossen ist, Strom hat und kein anderes Programm sie benutzt.</translation>
-    </message>
-    <message>
-        <source>The camera offers none of the pixel formats Mono8, Mono12, Mono16 and RGB8.</source>
-        <translation>Die Kamera bietet keines der Pixelformate Mono8, Mono12, Mono16 und RGB8.</translation>
-    </message>
-    <message>
-        <source>No camera is open.</source>
-        <translation>Es ist keine Kamera offen.</translation>
-    </message>
-    <message>
-        <source>The camera %1 does not answer. Check its cable and power.</source>
-        <translation>Die Kamera %1 antwortet nicht. Kabel und Strom prüfen.</translation>
-    </message>
-    <message>
-        <source>The camera %1 sends no pictures: %2. Close it and open it again.</source>
-        <translation>Die Kamera %1 schickt keine Bilder: %2. Schließen und neu öffnen.</translation>
-    </message>
-    <message>
-        <source>The camera %1 did not start: %2. Close it and open it again.</source>
-        <translation>Die Kamera %1 lief nicht an: %2. Schließen und neu öffnen.</translation>
-    </message>
-</context>
-<context>
     <name>ClassCountPanel</name>
     <message>
         <source>This program does not count by class.</source>
@@ -758,6 +829,17 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>this format has no place for a resolution</source>
         <translation>dieses Format hat keinen Platz für eine Auflösung</translation>
+    </message>
+</context>
+<context>
+    <name>CorrectionsLine</name>
+    <message>
+        <source>None: an opened file is shown as it was saved.</source>
+        <translation>Keine: Eine geöffnete Datei wird gezeigt, wie sie gespeichert wurde.</translation>
+    </message>
+    <message>
+        <source>There is no spectrum yet.</source>
+        <translation>Es gibt noch kein Spektrum.</translation>
     </message>
 </context>
 <context>
@@ -1654,6 +1736,10 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>there is not enough memory for frame %1</source>
         <translation>der Speicher reicht nicht für das Bild %1</translation>
+    </message>
+    <message>
+        <source>“%1”: %2. %3</source>
+        <translation>„%1“: %2. %3</translation>
     </message>
 </context>
 <context>
@@ -3115,6 +3201,10 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>its header is cut short</source>
         <translation>der Dateikopf ist abgeschnitten</translation>
     </message>
+    <message>
+        <source>its calibration does not rise or fall steadily (it turns at pixel %1) and is left out</source>
+        <translation>die Kalibrierung steigt oder fällt nicht stetig (sie kehrt bei Pixel %1 um) und wird weggelassen</translation>
+    </message>
 </context>
 <context>
     <name>SpePictureFile</name>
@@ -3141,6 +3231,13 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>frame %1 of %2 is not whole</source>
         <translation>das Bild %1 von %2 ist nicht vollständig</translation>
+    </message>
+</context>
+<context>
+    <name>SpectralMetadata</name>
+    <message>
+        <source>its calibration is damaged and is left out</source>
+        <translation>die Kalibrierung ist beschädigt und wird weggelassen</translation>
     </message>
 </context>
 <context>
@@ -3318,63 +3415,20 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <translation>Das gezeigte Spektrum ist jetzt das Referenzspektrum.</translation>
     </message>
     <message>
-        <source>There is no spectrum yet.</source>
-        <translation>Es gibt noch kein Spektrum.</translation>
-    </message>
-</context>
-<context>
-    <name>SpectrumCorrections</name>
-    <message>
-        <source>cosmic rays removed</source>
-        <translation>kosmische Strahlung entfernt</translation>
+        <source>&amp;Draw on the Picture</source>
+        <translation>Ins Bild &amp;zeichnen</translation>
     </message>
     <message>
-        <source>average of %1</source>
-        <translation>Mittel aus %1</translation>
+        <source>&amp;Add Track</source>
+        <translation>Spur &amp;hinzufügen</translation>
     </message>
     <message>
-        <source>dark subtracted</source>
-        <translation>Dunkelspektrum abgezogen</translation>
+        <source>&amp;Remove Track</source>
+        <translation>Spur &amp;entfernen</translation>
     </message>
     <message>
-        <source>no dark spectrum of this width to subtract</source>
-        <translation>kein Dunkelspektrum dieser Breite zum Abziehen</translation>
-    </message>
-    <message>
-        <source>no reference spectrum of this width</source>
-        <translation>kein Referenzspektrum dieser Breite</translation>
-    </message>
-    <message>
-        <source>transmission in 1/100 %</source>
-        <translation>Transmission in 1/100 %</translation>
-    </message>
-    <message>
-        <source>absorbance in 1/10000</source>
-        <translation>Absorbanz in 1/10000</translation>
-    </message>
-    <message>
-        <source>reference subtracted</source>
-        <translation>Referenz abgezogen</translation>
-    </message>
-    <message>
-        <source>baseline removed</source>
-        <translation>Basislinie entfernt</translation>
-    </message>
-    <message>
-        <source>smoothed over %1 samples</source>
-        <translation>über %1 Werte geglättet</translation>
-    </message>
-    <message>
-        <source>No correction is on.</source>
-        <translation>Keine Korrektur ist an.</translation>
-    </message>
-    <message>
-        <source>Corrections: %1.</source>
-        <translation>Korrekturen: %1.</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
+        <source>&amp;Clear Tracks</source>
+        <translation>&amp;Alle Spuren entfernen</translation>
     </message>
 </context>
 <context>
@@ -3563,10 +3617,6 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <translation>Jetzt</translation>
     </message>
     <message>
-        <source>There is no spectrum yet.</source>
-        <translation>Es gibt noch kein Spektrum.</translation>
-    </message>
-    <message>
         <source>Take Dark</source>
         <translation>Dunkel aufnehmen</translation>
     </message>
@@ -3698,6 +3748,46 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>Look of the plots</source>
         <translation>Aussehen der Diagramme</translation>
     </message>
+    <message>
+        <source>Draw on the picture</source>
+        <translation>Ins Bild zeichnen</translation>
+    </message>
+    <message>
+        <source>Drag over rows of the live picture for a new track; drag a track or its edges to change it.</source>
+        <translation>Über Zeilen des Livebilds ziehen für eine neue Spur; eine Spur oder ihre Ränder ziehen, um sie zu ändern.</translation>
+    </message>
+    <message>
+        <source>Add Track</source>
+        <translation>Spur hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove Track</source>
+        <translation>Spur entfernen</translation>
+    </message>
+    <message>
+        <source>Clear Tracks</source>
+        <translation>Alle Spuren entfernen</translation>
+    </message>
+    <message>
+        <source>Chosen track</source>
+        <translation>Gewählte Spur</translation>
+    </message>
+    <message>
+        <source>Its first row</source>
+        <translation>Ihre erste Zeile</translation>
+    </message>
+    <message>
+        <source>Its last row</source>
+        <translation>Ihre letzte Zeile</translation>
+    </message>
+    <message>
+        <source>Saturated</source>
+        <translation>Gesättigt</translation>
+    </message>
+    <message>
+        <source>Pixels are at the end of their range: peaks are cut off there. Shorten the exposure.</source>
+        <translation>Pixel sind am Ende ihres Bereichs: Gipfel sind dort abgeschnitten. Die Belichtung verkürzen.</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumMenu</name>
@@ -3739,6 +3829,32 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>This program shows no spectra.</source>
         <translation>Dieses Programm zeigt keine Spektren.</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumPipeline</name>
+    <message>
+        <source>There is no live picture to find tracks in.</source>
+        <translation>Es gibt kein Livebild, um darin Spuren zu suchen.</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumSettings</name>
+    <message>
+        <source>The band set by hand lay outside of the picture, which has %1 lines now: all of them are binned. Set the band again.</source>
+        <translation>Das von Hand gesetzte Band lag außerhalb des Bildes, das jetzt %1 Linien hat: Alle werden zusammengefasst. Das Band neu setzen.</translation>
+    </message>
+    <message>
+        <source>The band set by hand went beyond the picture, which has %1 lines now, and was cut.</source>
+        <translation>Das von Hand gesetzte Band ging über das Bild hinaus, das jetzt %1 Linien hat, und wurde gekürzt.</translation>
+    </message>
+    <message>
+        <source>A wavelength of 0 lies in this spectrum, which has no wavenumber: it is shown in nanometres.</source>
+        <translation>In diesem Spektrum liegt die Wellenlänge 0, die keine Wellenzahl hat: Es wird in Nanometern gezeigt.</translation>
+    </message>
+    <message>
+        <source>%1, by the calibration in use</source>
+        <translation>%1, nach der geltenden Kalibrierung</translation>
     </message>
 </context>
 <context>
@@ -4047,6 +4163,45 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
 </context>
 <context>
+    <name>TrackDesk</name>
+    <message>
+        <source>Drag over rows of the live picture for a new track; drag a track or its edges to change it.</source>
+        <translation>Über Zeilen des Livebilds ziehen für eine neue Spur; eine Spur oder ihre Ränder ziehen, um sie zu ändern.</translation>
+    </message>
+    <message>
+        <source>There is no live picture to lay a track on.</source>
+        <translation>Es gibt kein Livebild, auf das eine Spur gelegt werden könnte.</translation>
+    </message>
+    <message>
+        <source>There is no room for another track: make one smaller or remove it.</source>
+        <translation>Für eine weitere Spur ist kein Platz: eine verkleinern oder entfernen.</translation>
+    </message>
+    <message>
+        <source>Remove Track</source>
+        <translation>Spur entfernen</translation>
+    </message>
+    <message>
+        <source>Clear Tracks</source>
+        <translation>Alle Spuren entfernen</translation>
+    </message>
+    <message>
+        <source>Find Tracks</source>
+        <translation>Spuren suchen</translation>
+    </message>
+    <message>
+        <source>Add Track</source>
+        <translation>Spur hinzufügen</translation>
+    </message>
+    <message>
+        <source>Change Track</source>
+        <translation>Spur ändern</translation>
+    </message>
+    <message>
+        <source>Remove Track %1</source>
+        <translation>Spur %1 entfernen</translation>
+    </message>
+</context>
+<context>
     <name>TrackFinder</name>
     <message>
         <source>There are no tracks: draw them on the picture or have them found.</source>
@@ -4166,6 +4321,18 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>Restore Default La&amp;yout</source>
         <translation>Anordnung &amp;zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Specimen</source>
+        <translation>&amp;Präparat</translation>
+    </message>
+    <message>
+        <source>S&amp;pectrograph</source>
+        <translation>&amp;Spektrograph</translation>
+    </message>
+    <message>
+        <source>&amp;Test Chart</source>
+        <translation>&amp;Testbild</translation>
     </message>
 </context>
 <context>
