@@ -3786,7 +3786,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>Pixels are at the end of their range: peaks are cut off there. Shorten the exposure.</source>
-        <translation>Pixel sind am Ende ihres Bereichs: Gipfel sind dort abgeschnitten. Die Belichtung verkürzen.</translation>
+        <translation>Pixel sind am Ende ihres Bereichs: Linien sind dort abgeschnitten. Die Belichtung verkürzen.</translation>
     </message>
 </context>
 <context>
