@@ -267,7 +267,7 @@ void WorkbenchServices::ConnectSpectrum()
     connect(m_config.get(), &WorkspaceConfig::signalSwitchView, settings, [this, settings] {
         const int view = m_config->GetCurrentView();
         settings->slotSetImageShown(view == ImageView || view == ImageCompareView);
-        ShowSpectrumAgain();
+        m_spectrumPipeline->ShowAgain();
     });
     m_mainPicture->SetCalibrationSource([this, settings] {
         return m_useArea->IsSpectrumPagePresent() ? settings->ImageCalibration() : QVector<MetadataEntry>();
@@ -313,15 +313,7 @@ void WorkbenchServices::slotDisplayModeChanged()
         m_useArea->slotSetSpectrum(true); // its pages belong to that use
     UpdateProfilesWanted();
     m_preview->slotShowAgain();
-    ShowSpectrumAgain();
-}
-
-/// Another page has come to the front; with the camera stopped nothing else would come to it.
-void WorkbenchServices::ShowSpectrumAgain()
-{
-    const SpectrumRecipe &recipe = m_spectrumSettings->Recipe();
-    if (recipe.isBinning || recipe.hasTracks)
-        m_spectrumPipeline->ShowAgain();
+    m_spectrumPipeline->ShowAgain(); // for the page that comes to the front: with the camera stopped nothing else would come
 }
 
 /// The curve's page shows a profile of the picture only while there is neither a binned spectrum nor a track.

@@ -126,7 +126,6 @@ private:
     void Connect();
     void ConnectPictures();
     void ConnectSpectrum();
-    void ShowSpectrumAgain();
     void ConnectTracks();
     void UpdateProfilesWanted();
     void UpdateSensorFrame();
