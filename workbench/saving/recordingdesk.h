@@ -30,7 +30,7 @@ public:
         SaveSettings *settings = nullptr;
         const LiveOrientation *orientation = nullptr;
         /// Gives the spectral calibration of the columns as they are seen; may give none.
-        std::function<QVector<MetadataEntry>()> calibration;
+        std::function<QVector<MetadataEntry>()> calibration = nullptr;
     };
 
     explicit RecordingDesk(const Parts &parts, QObject *parent = nullptr);
