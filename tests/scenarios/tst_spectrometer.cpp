@@ -140,14 +140,8 @@ private slots:
 
     void theCalibrationIsThereAtTheNextStart()
     {
-        ShowLamp();
-        CalibrationModel *model = m_workbench->services.Calibration();
-        model->SetSpectrum(m_workbench->services.Spectra()->Shown().raw.values);
-        QSignalSpy assigned(model, &CalibrationModel::signalAssigned);
-        model->Assign();
-        QVERIFY(assigned.wait(waitMs));
-        QVERIFY(model->Apply());
-        const QVector<CalibrationPoint> points = model->Points();
+        CalibrateByLamp();
+        const QVector<CalibrationPoint> points = m_workbench->services.Calibration()->Points();
         m_workbench.reset();
         QVERIFY(CameraSession::WaitForTeardown(waitMs));
         Start();
@@ -158,13 +152,7 @@ private slots:
 
     void theCalibrationFollowsAMirroredPictureAndARegion()
     {
-        ShowLamp();
-        CalibrationModel *model = m_workbench->services.Calibration();
-        model->SetSpectrum(m_workbench->services.Spectra()->Shown().raw.values);
-        QSignalSpy assigned(model, &CalibrationModel::signalAssigned);
-        model->Assign();
-        QVERIFY(assigned.wait(waitMs));
-        QVERIFY(model->Apply());
+        CalibrateByLamp();
         WaitForNextSpectrum();
         QVERIFY2(std::abs(GreenLine() - 546.074) < 0.3, qPrintable(QString::number(GreenLine())));
 
@@ -187,13 +175,7 @@ private slots:
     /// What was calibrated then counts, whatever is in use now.
     void aRecordingIsOpenedWithItsCalibration()
     {
-        ShowLamp();
-        CalibrationModel *model = m_workbench->services.Calibration();
-        model->SetSpectrum(m_workbench->services.Spectra()->Shown().raw.values);
-        QSignalSpy assigned(model, &CalibrationModel::signalAssigned);
-        model->Assign();
-        QVERIFY(assigned.wait(waitMs));
-        QVERIFY(model->Apply());
+        CalibrateByLamp();
         RecordingSettings settings;
         settings.mode = RecordingSettings::Mode::Single;
         const QString path = m_folder->filePath("lamp.tif");
@@ -203,7 +185,7 @@ private slots:
         QString error;
         QVERIFY2(recording->Start(settings, path, &warning, &error), qPrintable(error));
         QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, waitMs);
-        model->TakeAway();
+        m_workbench->services.Calibration()->TakeAway();
 
         PictureDesk *desk = m_workbench->services.Desk();
         desk->Open({path}, desk->MainPicture());
@@ -327,6 +309,18 @@ private:
         QTRY_VERIFY_WITH_TIMEOUT(spectra->Shown().raw.Count() == sensor.width() && spectra->Shown().band.top > 0, waitMs);
         QTRY_VERIFY(Plot() && Plot()->graph(0)->dataCount() == sensor.width());
         WaitForNextSpectrum();
+    }
+
+    /// By the lines that are found by themselves.
+    void CalibrateByLamp()
+    {
+        ShowLamp();
+        CalibrationModel *model = m_workbench->services.Calibration();
+        model->SetSpectrum(m_workbench->services.Spectra()->Shown().raw.values);
+        QSignalSpy assigned(model, &CalibrationModel::signalAssigned);
+        model->Assign();
+        QVERIFY(assigned.wait(waitMs));
+        QVERIFY(model->Apply());
     }
 
     /// One that was made of a frame after this call, and drawn.
