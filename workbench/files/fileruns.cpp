@@ -11,6 +11,8 @@ namespace {
 
 /// Reading this many bytes from the disk cache takes long enough to be shared by two threads.
 constexpr qint64 ReadByTwo = 2 << 20;
+/// What a processor keeps at hand of bytes that it has just read, beside what is made of them.
+constexpr qint64 PartBytes = 256 << 10;
 
 bool ReadBytes(int fd, quint64 offset, uchar *bytes, qint64 size)
 {
@@ -42,6 +44,23 @@ bool FileRuns::Read(int fd, uchar *bytes) const
     ForBothHalves(m_byteCount, ReadByTwo, [&](qint64 from, qint64 to) {
         if (!ReadPart(fd, bytes, from, to))
             isWhole = false;
+    });
+    return isWhole;
+}
+
+bool FileRuns::ReadInParts(int fd, uchar *bytes, qint64 unitBytes, const PartRead &partRead) const
+{
+    const qint64 unitsOfPart = std::max(qint64(1), PartBytes / unitBytes);
+    std::atomic<bool> isWhole{ true };
+    ForBothHalves(m_byteCount / unitBytes, ReadByTwo / unitBytes, [&](qint64 fromUnit, qint64 toUnit) {
+        for (qint64 unit = fromUnit; unit < toUnit && isWhole; unit += unitsOfPart) {
+            const qint64 from = unit * unitBytes;
+            const qint64 to = std::min(toUnit, unit + unitsOfPart) * unitBytes;
+            if (ReadPart(fd, bytes, from, to))
+                partRead(from, to);
+            else
+                isWhole = false;
+        }
     });
     return isWhole;
 }

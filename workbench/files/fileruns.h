@@ -3,6 +3,7 @@
 
 #include <QtGlobal>
 
+#include <functional>
 #include <vector>
 
 /// Bytes of a file that are wanted one behind the other, wherever they lie.
@@ -19,6 +20,12 @@ public:
     /// Reads them all into `bytes`, many by two threads, whatever the descriptor's position. False when the file
     /// ends before or cannot be read.
     bool Read(int fd, uchar *bytes) const;
+
+    /// Bytes `from` to before `to` are there.
+    using PartRead = std::function<void(qint64 from, qint64 to)>;
+    /// The same in parts of whole units of `unitBytes`, each as large as a processor's cache can hold and told by the
+    /// thread that has read it.
+    bool ReadInParts(int fd, uchar *bytes, qint64 unitBytes, const PartRead &partRead) const;
 
 private:
     struct Run

@@ -114,7 +114,7 @@ void FitsPictureFile::FillInfo(const FitsHeader &header, int extension)
     }
 }
 
-bool FitsPictureFile::Decode(int index, Picture &frame, FileFault &fault)
+bool FitsPictureFile::Decode(int index, Picture &frame, FrameRows *, FileFault &fault)
 {
     frame.Reshape(m_layout.width, m_layout.height, 1, m_layout.type);
     if (m_tiles)

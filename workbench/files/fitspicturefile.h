@@ -22,7 +22,7 @@ public:
     SpectralAxis AxisOf(int) const override { return m_axis; }
 
 protected:
-    bool Decode(int index, Picture &frame, FileFault &fault) override;
+    bool Decode(int index, Picture &frame, FrameRows *rows, FileFault &fault) override;
 
 private:
     /// Goes from header to header until one has a picture.

@@ -29,7 +29,7 @@ SpectralAxis PictureFile::AxisOfFirst(const QVector<MetadataEntry> &metadata)
     return axis;
 }
 
-bool PictureFile::ReadFrame(int index, Picture &frame, QString &error)
+bool PictureFile::ReadFrame(int index, Picture &frame, QString &error, FrameRows *rows)
 {
     FileFault fault;
     bool done = false;
@@ -38,7 +38,7 @@ bool PictureFile::ReadFrame(int index, Picture &frame, QString &error)
                   QCoreApplication::translate("PictureFile", "Choose a frame that is there."));
     } else {
         try {
-            done = Decode(index, frame, fault);
+            done = Decode(index, frame, rows, fault);
         } catch (const std::bad_alloc &) {
             fault.Set(QCoreApplication::translate("PictureFile", "there is not enough memory for frame %1").arg(index + 1),
                       MemoryAdvice());

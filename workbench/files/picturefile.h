@@ -2,6 +2,7 @@
 #pragma once
 
 #include "filefault.h"
+#include "framerows.h"
 #include "picture.h"
 #include "pictureinfo.h"
 #include "spectralaxis.h"
@@ -23,8 +24,9 @@ public:
     virtual SpectralAxis AxisOf(int index) const;
 
     /// Decodes frame `index` (from 0). `frame` gives its buffer for the new samples when it fits. On
-    /// failure `frame` is undefined and `error` says what, where and what to do.
-    bool ReadFrame(int index, Picture &frame, QString &error);
+    /// failure `frame` is undefined and `error` says what, where and what to do. Samples that lie in the file as they
+    /// are in a Picture are told to `rows`, which is borrowed, as they come.
+    bool ReadFrame(int index, Picture &frame, QString &error, FrameRows *rows = nullptr);
 
     /// Adds a message to Info().warning.
     void AddWarning(const QString &message);
@@ -35,7 +37,8 @@ protected:
     /// What frames as wide as the first one mean by this metadata; says what cannot be used of it.
     SpectralAxis AxisOfFirst(const QVector<MetadataEntry> &metadata);
 
-    virtual bool Decode(int index, Picture &frame, FileFault &fault) = 0;
+    /// `rows` may be null.
+    virtual bool Decode(int index, Picture &frame, FrameRows *rows, FileFault &fault) = 0;
     PictureInfo &MutableInfo() { return m_info; }
 
 private:

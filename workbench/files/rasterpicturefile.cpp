@@ -76,7 +76,7 @@ bool RasterPictureFile::Open(FileFault &fault)
     return true;
 }
 
-bool RasterPictureFile::Decode(int, Picture &frame, FileFault &fault)
+bool RasterPictureFile::Decode(int, Picture &frame, FrameRows *, FileFault &fault)
 {
     QImageReader reader;
     SetUp(reader, m_file, Info().format);

@@ -17,7 +17,7 @@ public:
     bool Open(FileFault &fault);
 
 protected:
-    bool Decode(int index, Picture &frame, FileFault &fault) override;
+    bool Decode(int index, Picture &frame, FrameRows *rows, FileFault &fault) override;
 
 private:
     QFile m_file;

@@ -67,7 +67,7 @@ QString SpePictureFile::FrameDescription(int index) const
 
 SpectralAxis SpePictureFile::AxisOf(int index) const { return RegionOf(index).axis; }
 
-bool SpePictureFile::Decode(int index, Picture &frame, FileFault &fault)
+bool SpePictureFile::Decode(int index, Picture &frame, FrameRows *, FileFault &fault)
 {
     const SpeRegion &region = RegionOf(index);
     frame.Reshape(region.width, region.height, 1, m_layout.type);

@@ -18,7 +18,7 @@ public:
     SpectralAxis AxisOf(int index) const override;
 
 protected:
-    bool Decode(int index, Picture &frame, FileFault &fault) override;
+    bool Decode(int index, Picture &frame, FrameRows *rows, FileFault &fault) override;
 
 private:
     const SpeRegion &RegionOf(int index) const { return m_layout.regions[index % m_layout.regions.size()]; }

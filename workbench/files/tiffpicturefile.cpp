@@ -111,7 +111,7 @@ void TiffPictureFile::FindContiguousFrames(const TiffPage &page)
     }
 }
 
-bool TiffPictureFile::Decode(int index, Picture &frame, FileFault &fault)
+bool TiffPictureFile::Decode(int index, Picture &frame, FrameRows *rows, FileFault &fault)
 {
     m_tiff.TakeMessages();
     if (m_contiguousOffset != 0) {
@@ -119,32 +119,41 @@ bool TiffPictureFile::Decode(int index, Picture &frame, FileFault &fault)
         FileRuns samples;
         samples.Add(m_contiguousOffset + quint64(index) * quint64(m_contiguousBytes), m_contiguousBytes);
         frame.Reshape(info.size.width(), info.size.height(), info.channels, info.sampleType, samples.FirstOffset());
-        if (ReadSamples(samples, frame))
+        if (ReadSamples(samples, frame, rows))
             return true;
         return fault.Set(Text::tr("frame %1 of %2 is not whole").arg(index + 1).arg(info.frames), DamagedAdvice());
     }
     TiffPage page;
     if (!SelectPage(index, page, fault))
         return false;
-    if (DecodePage(page, frame, fault))
+    if (DecodePage(page, frame, rows, fault))
         return true;
     fault.what = Text::tr("page %1 of %2: %3").arg(index + 1).arg(m_chain.pages.size()).arg(fault.what);
     return false;
 }
 
-bool TiffPictureFile::DecodePage(const TiffPage &page, Picture &frame, FileFault &fault)
+bool TiffPictureFile::DecodePage(const TiffPage &page, Picture &frame, FrameRows *rows, FileFault &fault)
 {
     if (!page.IsPlain())
         return DecodeTiffPage(m_tiff, page, frame, fault);
     frame.Reshape(page.width, page.height, page.channels, page.type, page.samples.FirstOffset());
-    return ReadSamples(page.samples, frame) || fault.Set(Text::tr("its samples are not whole"), DamagedAdvice());
+    return ReadSamples(page.samples, frame, rows) || fault.Set(Text::tr("its samples are not whole"), DamagedAdvice());
 }
 
-bool TiffPictureFile::ReadSamples(const FileRuns &samples, Picture &frame)
+bool TiffPictureFile::ReadSamples(const FileRuns &samples, Picture &frame, FrameRows *rows)
 {
-    if (!samples.Read(TIFFFileno(m_tiff.Get()), frame.Data()))
+    const int fd = TIFFFileno(m_tiff.Get());
+    const bool isSwapped = TIFFIsByteSwapped(m_tiff.Get());
+    if (rows && !isSwapped) {
+        rows->Begin(frame);
+        const qint64 rowBytes = frame.BytesPerRow();
+        return samples.ReadInParts(fd, frame.Data(), rowBytes, [&](qint64 from, qint64 to) {
+            rows->Take(int(from / rowBytes), int(to / rowBytes));
+        });
+    }
+    if (!samples.Read(fd, frame.Data()))
         return false;
-    if (TIFFIsByteSwapped(m_tiff.Get()))
+    if (isSwapped)
         SwapSampleBytes(frame);
     return true;
 }

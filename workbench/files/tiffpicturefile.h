@@ -21,16 +21,16 @@ public:
     SpectralAxis AxisOf(int) const override { return m_axis; }
 
 protected:
-    bool Decode(int index, Picture &frame, FileFault &fault) override;
+    bool Decode(int index, Picture &frame, FrameRows *rows, FileFault &fault) override;
 
 private:
     bool SelectPage(int index, TiffPage &page, FileFault &fault);
     void FillInfo(const TiffPage &page);
     void FindContiguousFrames(const TiffPage &page);
     /// The page that was selected.
-    bool DecodePage(const TiffPage &page, Picture &frame, FileFault &fault);
+    bool DecodePage(const TiffPage &page, Picture &frame, FrameRows *rows, FileFault &fault);
     /// Samples that lie in the file as they are in a Picture, but for the byte order.
-    bool ReadSamples(const FileRuns &samples, Picture &frame);
+    bool ReadSamples(const FileRuns &samples, Picture &frame, FrameRows *rows);
 
     TiffHandle m_tiff;
     TiffChain m_chain;

@@ -3,7 +3,6 @@
 
 #include "bothhalves.h"
 #include "levelskernel.h"
-#include "sampleview.h"
 #include "saturationmark.h"
 
 #include <cstring>
@@ -31,81 +30,92 @@ bool ShowsSamplesAsTheyAre(const SampleView &samples, const DisplayLevels &level
 void LevelsConverter::Convert(const SampleView &samples, const DisplayLevels &levels, QImage *picture,
                               bool marksSaturated, const Palette &palette)
 {
+    if (!Begin(samples, levels, picture, marksSaturated, palette))
+        return;
+    const bool isWorthwhile = qint64(samples.width) * samples.height >= ConvertByTwo;
+    ForBothHalves(samples.height, isWorthwhile ? 0 : samples.height + 1, [this](int from, int to) { ConvertRows(from, to); });
+}
+
+bool LevelsConverter::Begin(const SampleView &samples, const DisplayLevels &levels, QImage *picture,
+                            bool marksSaturated, const Palette &palette)
+{
     if (samples.IsEmpty()) {
         *picture = QImage();
-        return;
+        return false;
     }
+    m_samples = samples;
+    m_levels = levels.Guarded(samples.bitDepth);
     m_marksSaturated = marksSaturated;
     m_palette = palette;
-    const bool isPainted = !samples.isColour && (marksSaturated || !palette.IsGrey());
-    PreparePicture(samples, isPainted, picture);
+    m_isPainted = !samples.isColour && (marksSaturated || !palette.IsGrey());
+    PreparePicture(samples, m_isPainted, picture);
     if (picture->isNull())
-        return; // no memory for a picture of that size
+        return false; // no memory for a picture of that size
 
-    const DisplayLevels guarded = levels.Guarded(samples.bitDepth);
-    if (guarded.gamma != 1.0)
-        m_gammaTable.Prepare(guarded, samples.Has16BitSamples() ? 65536 : 256);
-    uchar *rows = picture->bits();
-    const qptrdiff stride = picture->bytesPerLine();
-    const auto convertRows = [&](int from, int to) {
-        std::vector<uchar> greyRow(isPainted ? size_t(samples.width) : 0);
-        for (int y = from; y < to; ++y) {
-            if (isPainted)
-                PaintMonoRow(samples, guarded, y, greyRow.data(), rows + y * stride);
-            else if (marksSaturated)
-                MarkColourRow(samples, guarded, y, rows + y * stride);
-            else
-                ConvertRow(samples, guarded, y, rows + y * stride);
-        }
-    };
-    const bool isWorthwhile = qint64(samples.width) * samples.height >= ConvertByTwo;
-    ForBothHalves(samples.height, isWorthwhile ? 0 : samples.height + 1, convertRows);
+    if (m_levels.gamma != 1.0)
+        m_gammaTable.Prepare(m_levels, samples.Has16BitSamples() ? 65536 : 256);
+    m_rows = picture->bits();
+    m_stride = picture->bytesPerLine();
+    return true;
 }
 
-void LevelsConverter::ConvertRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *grey) const
+void LevelsConverter::ConvertRows(int from, int to) const
 {
-    const int count = samples.SamplesPerRow();
-    if (levels.gamma != 1.0) {
-        if (samples.Has16BitSamples())
-            m_gammaTable.LookUp(samples.Row16(y), count, grey);
+    std::vector<uchar> greyRow(m_isPainted ? size_t(m_samples.width) : 0);
+    for (int y = from; y < to; ++y) {
+        uchar *row = m_rows + y * m_stride;
+        if (m_isPainted)
+            PaintMonoRow(y, greyRow.data(), row);
+        else if (m_marksSaturated)
+            MarkColourRow(y, row);
         else
-            m_gammaTable.LookUp(samples.Row8(y), count, grey);
-    } else if (ShowsSamplesAsTheyAre(samples, levels)) {
-        std::memcpy(grey, samples.Row8(y), size_t(count));
-    } else if (samples.Has16BitSamples()) {
-        LevelsKernel::MapLinear(samples.Row16(y), count, levels.left, levels.right, grey);
-    } else {
-        LevelsKernel::MapLinear(samples.Row8(y), count, levels.left, levels.right, grey);
+            ConvertRow(y, row);
     }
 }
 
-void LevelsConverter::MarkColourRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *rgb) const
+void LevelsConverter::ConvertRow(int y, uchar *grey) const
 {
-    const int fullScale = DisplayLevels::FullRange(samples.bitDepth).right;
-    ConvertRow(samples, levels, y, rgb);
-    if (samples.Has16BitSamples())
-        SaturationMark::MarkColour(samples.Row16(y), samples.width, fullScale, rgb);
-    else
-        SaturationMark::MarkColour(samples.Row8(y), samples.width, fullScale, rgb);
+    const int count = m_samples.SamplesPerRow();
+    if (m_levels.gamma != 1.0) {
+        if (m_samples.Has16BitSamples())
+            m_gammaTable.LookUp(m_samples.Row16(y), count, grey);
+        else
+            m_gammaTable.LookUp(m_samples.Row8(y), count, grey);
+    } else if (ShowsSamplesAsTheyAre(m_samples, m_levels)) {
+        std::memcpy(grey, m_samples.Row8(y), size_t(count));
+    } else if (m_samples.Has16BitSamples()) {
+        LevelsKernel::MapLinear(m_samples.Row16(y), count, m_levels.left, m_levels.right, grey);
+    } else {
+        LevelsKernel::MapLinear(m_samples.Row8(y), count, m_levels.left, m_levels.right, grey);
+    }
 }
 
-void LevelsConverter::PaintMonoRow(const SampleView &samples, const DisplayLevels &levels, int y, uchar *greyRow,
-                                   uchar *rgb) const
+void LevelsConverter::MarkColourRow(int y, uchar *rgb) const
 {
-    const int fullScale = DisplayLevels::FullRange(samples.bitDepth).right;
-    ConvertRow(samples, levels, y, greyRow);
+    const int fullScale = DisplayLevels::FullRange(m_samples.bitDepth).right;
+    ConvertRow(y, rgb);
+    if (m_samples.Has16BitSamples())
+        SaturationMark::MarkColour(m_samples.Row16(y), m_samples.width, fullScale, rgb);
+    else
+        SaturationMark::MarkColour(m_samples.Row8(y), m_samples.width, fullScale, rgb);
+}
+
+void LevelsConverter::PaintMonoRow(int y, uchar *greyRow, uchar *rgb) const
+{
+    const int fullScale = DisplayLevels::FullRange(m_samples.bitDepth).right;
+    ConvertRow(y, greyRow);
     if (!m_palette.IsGrey())
-        m_palette.Paint(greyRow, samples.width, rgb);
+        m_palette.Paint(greyRow, m_samples.width, rgb);
     if (!m_marksSaturated)
         return;
     const auto mark = [&](const auto *row) {
         if (m_palette.IsGrey())
-            SaturationMark::MarkGrey(row, greyRow, samples.width, fullScale, rgb);
+            SaturationMark::MarkGrey(row, greyRow, m_samples.width, fullScale, rgb);
         else
-            SaturationMark::MarkPainted(row, samples.width, fullScale, rgb);
+            SaturationMark::MarkPainted(row, m_samples.width, fullScale, rgb);
     };
-    if (samples.Has16BitSamples())
-        mark(samples.Row16(y));
+    if (m_samples.Has16BitSamples())
+        mark(m_samples.Row16(y));
     else
-        mark(samples.Row8(y));
+        mark(m_samples.Row8(y));
 }

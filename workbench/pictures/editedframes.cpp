@@ -27,9 +27,9 @@ EditedFrames::EditedFrames(PictureAccess *access)
 }
 
 bool EditedFrames::Read(const PictureAccess::FileName &file, int frame, const PictureEdit &edit,
-                        const IsUnwanted &isUnwanted, Picture &seen, QSize &fileSize, QString &error)
+                        const IsUnwanted &isUnwanted, Picture &seen, QSize &fileSize, QString &error, FrameRows *rows)
 {
-    const Wish wish{ file, edit, isUnwanted, fileSize, error };
+    const Wish wish{ file, edit, isUnwanted, fileSize, error, edit.IsNone() ? rows : nullptr };
     return ReadBeforeStep(wish, frame, edit.StepCount(), true, seen);
 }
 
@@ -51,7 +51,7 @@ bool EditedFrames::ReadBeforeStep(const Wish &wish, int frame, int step, bool ke
 bool EditedFrames::ReadAfterSteps(const Wish &wish, int frame, int steps, bool keeps, Picture &picture)
 {
     if (steps == 0) {
-        if (!m_access->ReadFrame(wish.file, frame, picture, wish.error))
+        if (!m_access->ReadFrame(wish.file, frame, picture, wish.error, wish.rows))
             return false;
         wish.fileSize = picture.Size();
         return true;
@@ -84,7 +84,7 @@ bool EditedFrames::Project(const Wish &wish, int step, Picture &picture)
         return false;
     const int frames = wish.edit.FirstSteps(step).SeenFrames(file->Info().frames);
     const auto read = [&](int index, Picture &frame, QString &error) {
-        const Wish one{ wish.file, wish.edit, wish.isUnwanted, wish.fileSize, error };
+        const Wish one{ wish.file, wish.edit, wish.isUnwanted, wish.fileSize, error, nullptr };
         return ReadBeforeStep(one, index, step, false, frame);
     };
     picture = Projected(std::get<ProjectionSettings>(wish.edit.Step(step)), frames, read, wish.isUnwanted, wish.error);

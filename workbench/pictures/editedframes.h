@@ -17,9 +17,10 @@ public:
 
     PictureAccess *Access() const { return m_access; }
     /// False, with the reason in `error`, when there is no such picture; false without a reason when `isUnwanted` said
-    /// so. `fileSize` becomes the size of the frame in the file. Throws std::bad_alloc when there is no memory.
+    /// so. `fileSize` becomes the size of the frame in the file. What is seen as it lies in the file is told to `rows`
+    /// while it is read; null for nobody. Throws std::bad_alloc when there is no memory.
     bool Read(const PictureAccess::FileName &file, int frame, const PictureEdit &edit, const IsUnwanted &isUnwanted,
-              Picture &seen, QSize &fileSize, QString &error);
+              Picture &seen, QSize &fileSize, QString &error, FrameRows *rows = nullptr);
     /// The file was closed, or is another one now.
     void Forget(quint64 id);
 
@@ -40,6 +41,7 @@ private:
         const IsUnwanted &isUnwanted;
         QSize &fileSize;
         QString &error;
+        FrameRows *rows; ///< null when something is done to the frame
     };
 
     bool ReadAfterSteps(const Wish &wish, int frame, int steps, bool keeps, Picture &picture);

@@ -91,7 +91,7 @@ Picture PictureAccess::MemoryForFrame(const OpenFile &file)
     return info.isStored ? m_cache.TakeOldestOf(file.name.id, FramesOfStoredFile) : m_cache.TakeOldest(FrameBytes(info));
 }
 
-bool PictureAccess::ReadFrame(const FileName &name, int index, Picture &frame, QString &error)
+bool PictureAccess::ReadFrame(const FileName &name, int index, Picture &frame, QString &error, FrameRows *rows)
 {
     PictureFile *file = Open(name, error);
     if (!file)
@@ -99,7 +99,7 @@ bool PictureAccess::ReadFrame(const FileName &name, int index, Picture &frame, Q
     if (m_cache.Find(name.id, index, frame))
         return true;
     frame = MemoryForFrame(m_files.front()); // what it was may belong to the cache
-    if (!file->ReadFrame(index, frame, error))
+    if (!file->ReadFrame(index, frame, error, rows))
         return false;
     m_cache.Insert(name.id, index, frame);
     return true;

@@ -25,7 +25,8 @@ public:
 
     /// The open file; null when it cannot be opened, and then `error` says why.
     PictureFile *Open(const FileName &name, QString &error);
-    bool ReadFrame(const FileName &name, int index, Picture &frame, QString &error);
+    /// `rows` may be null; a frame that is at hand is not told to it.
+    bool ReadFrame(const FileName &name, int index, Picture &frame, QString &error, FrameRows *rows = nullptr);
     /// Keeps a frame of a file that is open for the time when it is asked for. Nothing when it is there already, when
     /// it cannot be read, which is told when it is asked for, and when it would push out the frame used last.
     void ReadAhead(quint64 id, int index);

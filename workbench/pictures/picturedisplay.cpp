@@ -9,6 +9,24 @@
 #include <algorithm>
 #include <new>
 #include <type_traits>
+#include <utility>
+
+namespace {
+
+bool IsKnownBefore(const LevelsSetting &setting, const SampleRange &range)
+{
+    return setting.mode == LevelsMode::Manual || setting.mode == LevelsMode::FullRange
+           || (setting.mode == LevelsMode::Automatic && range.IsKnown());
+}
+
+DisplayLevels LevelsOf(const SampleView &samples, const LevelsSetting &setting, const SampleRange &range)
+{
+    return setting.mode == LevelsMode::Automatic && range.IsKnown()
+               ? DisplayLevels{ int(range.left), int(range.right), setting.gamma }
+               : LevelsFollower().Next(samples, setting);
+}
+
+} // namespace
 
 bool PictureDisplay::IsLikeLive(const Picture &samples)
 {
@@ -59,7 +77,42 @@ PictureDisplay::PictureDisplay(const LevelsModel *levels)
 
 QImage PictureDisplay::Make(const Picture &samples, SampleRange &range)
 {
+    const BegunPicture begun = std::exchange(m_begun, BegunPicture());
+    if (begun.samples && begun.samples == samples.Data() && m_rowsTaken == samples.Height()) {
+        range = begun.range;
+        m_usedPictures.Remember(begun.image);
+        return begun.image;
+    }
     return MakeWith({ m_levels->MarksSaturated(), m_levels->GetPalette() }, samples, range);
+}
+
+FrameRows *PictureDisplay::WhileRead(const SampleRange &range)
+{
+    m_begun = BegunPicture();
+    m_begun.range = range;
+    return this;
+}
+
+void PictureDisplay::Begin(const Picture &frame)
+{
+    const SampleView view = ViewOf(frame);
+    const LevelsSetting setting = m_levels->Setting(view.bitDepth);
+    if (!IsLikeLive(frame) || !IsKnownBefore(setting, m_begun.range))
+        return;
+    const DisplayLevels levels = LevelsOf(view, setting, m_begun.range);
+    m_begun.range = { double(levels.left), double(levels.right) };
+    m_begun.image = m_usedPictures.Take(frame.Size());
+    m_rowsTaken = 0;
+    if (m_converter.Begin(view, levels, &m_begun.image, m_levels->MarksSaturated(), m_levels->GetPalette()))
+        m_begun.samples = view.samples;
+}
+
+void PictureDisplay::Take(int from, int to)
+{
+    if (!m_begun.samples)
+        return;
+    m_converter.ConvertRows(from, to);
+    m_rowsTaken += to - from;
 }
 
 QImage PictureDisplay::MakePlain(const Picture &samples, SampleRange &range)
@@ -80,9 +133,7 @@ QImage PictureDisplay::MakeUnsigned(const Colours &colours, const Picture &sampl
 {
     const SampleView view = ViewOf(samples);
     const LevelsSetting setting = m_levels->Setting(view.bitDepth);
-    const DisplayLevels levels = setting.mode == LevelsMode::Automatic && range.IsKnown()
-                                     ? DisplayLevels{ int(range.left), int(range.right), setting.gamma }
-                                     : LevelsFollower().Next(view, setting);
+    const DisplayLevels levels = LevelsOf(view, setting, range);
     range = { double(levels.left), double(levels.right) };
     QImage image = m_usedPictures.Take(samples.Size());
     m_converter.Convert(view, levels, &image, colours.marksSaturated, colours.palette);

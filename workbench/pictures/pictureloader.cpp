@@ -194,7 +194,7 @@ LoadedPicture PictureLoader::Loaded(const PictureRequest &request)
     Guarded(request.file.path, loaded.error, [&] {
         const IsUnwanted isUnwanted = [&] { return IsReplaced(request); };
         if (!m_frames.Read(request.file, request.frame, request.edit, isUnwanted, loaded.samples, loaded.fileSize,
-                           loaded.error))
+                           loaded.error, m_display.WhileRead(loaded.range)))
             return;
         loaded.image = m_display.Make(loaded.samples, loaded.range);
         if (request.wantsThumbnail)

@@ -5,6 +5,7 @@
 #include <QTemporaryFile>
 
 #include <algorithm>
+#include <mutex>
 #include <vector>
 
 /// Bytes that lie in pieces in a file come in the order they were asked for.
@@ -86,6 +87,51 @@ private slots:
         std::vector<uchar> buffer(static_cast<size_t>(bytes));
         QVERIFY(whole.Read(m_file.handle(), buffer.data()));
         QVERIFY(!cut.Read(m_file.handle(), buffer.data()));
+        const auto ignore = [](qint64, qint64) {};
+        QVERIFY(whole.ReadInParts(m_file.handle(), buffer.data(), 1, ignore));
+        QVERIFY(!cut.ReadInParts(m_file.handle(), buffer.data(), 1, ignore));
+    }
+
+    void everyPartIsToldOnceWhenItIsThere_data()
+    {
+        QTest::addColumn<qint64>("unitBytes");
+        QTest::addColumn<qint64>("units");
+        QTest::newRow("less than a part") << qint64(10) << qint64(7);
+        QTest::newRow("parts, by one thread") << qint64(1000) << qint64(1500);
+        QTest::newRow("parts, by two threads") << qint64(1000) << qint64(3001);
+        QTest::newRow("a unit larger than a part") << qint64(1 << 20) << qint64(3);
+        QTest::newRow("one unit of everything") << qint64(3 << 20) << qint64(1);
+    }
+
+    void everyPartIsToldOnceWhenItIsThere()
+    {
+        QFETCH(qint64, unitBytes);
+        QFETCH(qint64, units);
+        const auto total = size_t(unitBytes * units);
+        FileRuns runs; // in two runs that change their places
+        const qint64 first = unitBytes * units / 3;
+        runs.Add(quint64(first), unitBytes * units - first);
+        runs.Add(0, first);
+        std::vector<uchar> expected(total);
+        for (size_t i = 0; i < total; ++i)
+            expected[i] = ByteAt((i + size_t(first)) % total);
+
+        std::vector<uchar> bytes(total);
+        std::vector<int> told(static_cast<size_t>(units), 0);
+        bool isThere = true;
+        bool isWholeUnits = true;
+        std::mutex mutex;
+        QVERIFY(runs.ReadInParts(m_file.handle(), bytes.data(), unitBytes, [&](qint64 from, qint64 to) {
+            const std::lock_guard<std::mutex> lock(mutex);
+            isThere = isThere && std::equal(&bytes[size_t(from)], &bytes[size_t(from)] + (to - from), &expected[size_t(from)]);
+            isWholeUnits = isWholeUnits && from % unitBytes == 0 && to % unitBytes == 0;
+            for (qint64 unit = from / unitBytes; unit < to / unitBytes; ++unit)
+                ++told[size_t(unit)];
+        }));
+        QVERIFY(isThere);
+        QVERIFY(isWholeUnits);
+        QCOMPARE(told, std::vector<int>(size_t(units), 1));
+        QVERIFY(bytes == expected);
     }
 
 private:

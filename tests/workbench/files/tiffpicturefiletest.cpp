@@ -16,6 +16,8 @@ private slots:
     void pagesMayDiffer();
     void stripsMayLieAnywhere_data();
     void stripsMayLieAnywhere();
+    void whatLiesAsItIsShownIsToldRowByRow_data();
+    void whatLiesAsItIsShownIsToldRowByRow();
     void greyRampPaletteStaysGrey();
     void missingPhotometricIsBlackZero();
     void framesAreToldByTheStackTheyAreOf_data();
@@ -46,6 +48,62 @@ std::unique_ptr<PictureFile> Read(const QString &path, int index, Picture &pictu
 }
 
 } // namespace
+
+/// Which rows were told, and the samples of those as they were then.
+class ToldRows : public FrameRows
+{
+public:
+    void Begin(const Picture &frame) override
+    {
+        m_frame = &frame;
+        size = frame.Size();
+    }
+
+    void Take(int from, int to) override
+    {
+        for (int y = from; y < to; ++y)
+            rows[y] += QByteArray(reinterpret_cast<const char *>(m_frame->Row(y)), int(m_frame->BytesPerRow()));
+    }
+
+    QSize size;
+    QMap<int, QByteArray> rows;
+
+private:
+    const Picture *m_frame = nullptr;
+};
+
+void TiffPictureFileTest::whatLiesAsItIsShownIsToldRowByRow_data()
+{
+    QTest::addColumn<int>("bits");
+    QTest::addColumn<bool>("bigEndian");
+    QTest::addColumn<bool>("isTold");
+    QTest::newRow("8 bit") << 8 << false << true;
+    QTest::newRow("16 bit") << 16 << false << true;
+    QTest::newRow("to be turned around") << 16 << true << false;
+    QTest::newRow("packed") << 4 << false << false;
+}
+
+void TiffPictureFileTest::whatLiesAsItIsShownIsToldRowByRow()
+{
+    QFETCH(int, bits);
+    QFETCH(bool, bigEndian);
+    QFETCH(bool, isTold);
+    TiffBytes tiff(bigEndian);
+    const quint32 data = tiff.Append(Ramp(24));
+    tiff.AppendPage(TiffBytes::GreyPage(4, 3, bits, data));
+    PictureFolder folder;
+    QString error;
+    const auto file = OpenPicture(folder.Write("rows.tif", tiff.Bytes()), error);
+    QVERIFY2(file, qPrintable(error));
+    Picture picture;
+    ToldRows told;
+    QVERIFY2(file->ReadFrame(0, picture, error, &told), qPrintable(error));
+    QCOMPARE(told.size, isTold ? QSize(4, 3) : QSize());
+    QCOMPARE(told.rows.keys(), isTold ? QList<int>({0, 1, 2}) : QList<int>());
+    const int rowBytes = bits / 2;
+    for (int y = 0; y < told.rows.size(); ++y)
+        QCOMPARE(told.rows.value(y), Ramp(24).mid(y * rowBytes, rowBytes));
+}
 
 void TiffPictureFileTest::packedSamplesGetAWholeTypeOfTheirOwn_data()
 {

@@ -296,7 +296,78 @@ private slots:
         QCOMPARE(Greys(image), QVector<int>({ 0, 51, 255, 255 }));
     }
 
+    void aFrameIsMadeWhileItIsRead_data()
+    {
+        QTest::addColumn<Picture>("picture");
+        QTest::addColumn<LevelsMode>("mode");
+        QTest::addColumn<bool>("marks");
+        QTest::addColumn<bool>("isMade");
+        const Picture mono = Row<quint16>(SampleType::U16, { 0, 102, 510, 65535 });
+        QTest::newRow("levels of the frame before") << mono << LevelsMode::Automatic << false << true;
+        QTest::newRow("manual") << mono << LevelsMode::Manual << false << true;
+        QTest::newRow("full range, marked") << mono << LevelsMode::FullRange << true << true;
+        QTest::newRow("colour") << Row<quint8>(SampleType::U8, { 1, 2, 3, 200, 100, 255 }, 3) << LevelsMode::Automatic
+                                << true << true;
+        QTest::newRow("needs all samples") << mono << LevelsMode::MinimumMaximum << false << false;
+        QTest::newRow("float") << Row<float>(SampleType::F32, { 1, 5 }) << LevelsMode::Manual << false << false;
+    }
+
+    void aFrameIsMadeWhileItIsRead()
+    {
+        QFETCH(Picture, picture);
+        QFETCH(LevelsMode, mode);
+        QFETCH(bool, marks);
+        QFETCH(bool, isMade);
+        m_levels->slotSetMarksSaturated(marks);
+        m_levels->SetSetting(PictureDisplay::KindOf(picture.Type()), { mode, 10, 205, 1.0 });
+        SampleRange range = { 0, 510 };
+        const QImage expected = Show(picture, range);
+
+        PictureDisplay display(m_levels.get());
+        SampleRange rangeWhileRead = { 0, 510 };
+        uchar *samples = picture.Data(); // its own from here on
+        Tell(display.WhileRead(rangeWhileRead), picture);
+        // What was told is done with: other samples in its place are not seen.
+        const QByteArray told(reinterpret_cast<const char *>(picture.Data()), int(picture.ByteCount()));
+        if (isMade)
+            std::fill_n(samples, picture.ByteCount(), uchar(0));
+        QCOMPARE(display.Make(picture, rangeWhileRead), expected);
+        QCOMPARE(rangeWhileRead.left, range.left);
+        QCOMPARE(rangeWhileRead.right, range.right);
+
+        std::copy(told.cbegin(), told.cend(), samples);
+        rangeWhileRead = { 0, 510 };
+        QCOMPARE(display.Make(picture, rangeWhileRead), expected); // made anew
+    }
+
+    void whatWasNotToldIsMadeOfItsSamples()
+    {
+        PictureDisplay display(m_levels.get());
+        Picture told(1, 2, 1, SampleType::U16);
+        told.Samples<quint16>(0)[0] = 0;
+        told.Samples<quint16>(1)[0] = 510;
+        SampleRange range = { 0, 510 };
+        FrameRows *rows = display.WhileRead(range);
+        rows->Begin(told);
+        rows->Take(0, 1); // the second row never comes
+        QCOMPARE(int(display.Make(told, range).constScanLine(1)[0]), 255);
+
+        Tell(display.WhileRead(range), told);
+        QCOMPARE(Greys(display.Make(Row<quint16>(SampleType::U16, { 102, 204 }), range)), QVector<int>({ 51, 102 }));
+
+        SampleRange unknown;
+        Tell(display.WhileRead(unknown), told);
+        display.Make(told, unknown);
+        QCOMPARE(unknown.right, 510.0);
+    }
+
 private:
+    static void Tell(FrameRows *rows, const Picture &picture)
+    {
+        rows->Begin(picture);
+        rows->Take(0, picture.Height());
+    }
+
     QImage Show(const Picture &picture, SampleRange &range) const
     {
         return PictureDisplay(m_levels.get()).Make(picture, range);
