@@ -268,7 +268,8 @@ BenchmarkResult MeasureDisplay()
         FrameSaving saving{ RunRegister(folder.filePath("register")) };
         camera.Follow(&saving);
         Display display(&tee);
-        display.preview.SetLeastPeriod(LivePreview::PeriodBesideRecordingMs); // as the program does
+        display.preview.SetLeastPeriod( // as the program does
+            [&saving] { return LivePreview::PeriodBesideRecording(saving.Queue().Count()); });
         if (isShown)
             display.preview.StartPreview();
         const RunTime time = Record(&saving, &tee, OrderOf(folder.path(), frames.first(), FramesOnDisk * 2));

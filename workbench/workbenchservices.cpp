@@ -170,6 +170,10 @@ void WorkbenchServices::StartRecording()
 {
     m_saveSettings = std::make_unique<SaveSettings>(m_settings);
     m_frameSaving = std::make_unique<FrameSaving>(RunRegister(RegisterFolder(*m_settings)));
+    // What is saved comes before what is shown.
+    m_preview->SetLeastPeriod([saving = m_frameSaving.get()] {
+        return saving->isRunning() ? LivePreview::PeriodBesideRecording(saving->Queue().Count()) : 0;
+    });
     RecordingDesk::Parts parts;
     parts.link = m_link;
     parts.tee = m_frameTee.get();
@@ -231,7 +235,6 @@ void WorkbenchServices::Connect()
 
     connect(m_link, SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_preview.get(), SIGNAL(signalCaptureWanted(bool, bool)), m_recording.get(), SLOT(slotCapture(bool, bool)));
-    connect(m_recording.get(), SIGNAL(signalStateChanged()), this, SLOT(slotRecordingStateChanged()));
     connect(this, SIGNAL(signalRepaired(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_recording.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
     connect(m_fileJobs.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
@@ -405,12 +408,6 @@ void WorkbenchServices::slotShowUseArea()
 {
     m_centreDisplay->ShowSpectrum(m_useArea->IsSpectrumPagePresent());
     slotShowPalette();
-}
-
-/// What is saved comes before what is shown.
-void WorkbenchServices::slotRecordingStateChanged()
-{
-    m_preview->SetLeastPeriod(m_recording->IsBusy() ? LivePreview::PeriodBesideRecordingMs : 0);
 }
 
 /// `region` counts from the corner of the region that is read out now, in pixels of the frame.

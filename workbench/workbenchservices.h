@@ -111,7 +111,6 @@ private slots:
     void slotFramesFailed();
     void slotPictureSizeChanged(QSize size);
     void slotRegionWanted(QRect region);
-    void slotRecordingStateChanged();
     void slotDisplayModeChanged();
     void slotShowPalette();
 

@@ -7,11 +7,14 @@
 #include "liveorientation.h"
 #include "orientedimage.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 /// How long the thread waits for a frame before it looks again whether it is to go on.
 constexpr int TakeTimeoutMs = 500;
+/// How long it sleeps before it looks again whether other work still wants the processor.
+constexpr int PauseMs = 10;
 }
 
 LivePreview::LivePreview(FrameSource *source, LiveOrientation *orientation, LiveLevels *levels, QObject *parent)
@@ -98,10 +101,11 @@ void LivePreview::run()
     }
 }
 
-void LivePreview::KeepPeriod(QElapsedTimer *sinceLast) const
+void LivePreview::KeepPeriod(QElapsedTimer *sinceLast)
 {
-    if (sinceLast->isValid() && sinceLast->elapsed() < m_leastPeriodMs)
-        msleep(ulong(m_leastPeriodMs - sinceLast->elapsed()));
+    const auto rest = [&] { return sinceLast->isValid() ? m_leastPeriodMs() - sinceLast->elapsed() : 0; };
+    for (qint64 ms = rest(); ms > 0 && !isInterruptionRequested(); ms = rest())
+        msleep(ulong(std::min(ms, qint64(PauseMs))));
     sinceLast->start();
 }
 

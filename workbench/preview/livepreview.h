@@ -13,7 +13,7 @@
 #include <QRect>
 #include <QSize>
 
-#include <atomic>
+#include <functional>
 #include <mutex>
 #include <vector>
 
@@ -31,8 +31,9 @@ class LivePreview : public PreviewManager, public FrameSink
     Q_OBJECT
 
 public:
-    /// 15 pictures a second are enough to see what is recorded.
-    static constexpr int PeriodBesideRecordingMs = 66;
+    /// Milliseconds from one picture to the next while frames are recorded: 15 a second are enough to see what is
+    /// recorded, and 4 while more than one frame waits to be saved.
+    static int PeriodBesideRecording(int waitingFrames) { return waitingFrames > 1 ? 250 : 66; }
 
     /// All are borrowed and outlive this object.
     LivePreview(FrameSource *source, LiveOrientation *orientation, LiveLevels *levels,
@@ -52,7 +53,9 @@ public:
     /// Frames that were too many for the display.
     quint64 SkippedCount() const { return m_slot.SkippedCount(); }
     /// Pictures come no faster than that, so that other work finds the processor free; 0 sets no limit.
-    void SetLeastPeriod(int milliseconds) { m_leastPeriodMs = milliseconds; }
+    using LeastPeriod = std::function<int()>;
+    /// Asked by the thread of this preview, as often as it waits; only while it does not run.
+    void SetLeastPeriod(const LeastPeriod &milliseconds) { m_leastPeriodMs = milliseconds; }
     /// Forgets the frame and its size: the camera was closed.
     void Forget();
     /// Is given every frame that is shown from now on; only while the preview does not run. Borrowed.
@@ -84,7 +87,7 @@ private slots:
 
 private:
     void SendPicture(const CameraFrame &frame);
-    void KeepPeriod(QElapsedTimer *sinceLast) const;
+    void KeepPeriod(QElapsedTimer *sinceLast);
 
     FrameSource *m_source;
     LiveOrientation *m_orientation;
@@ -100,5 +103,5 @@ private:
     CameraFrame m_shownFrame;
     QSize m_shownSize;
     quint64 m_delivered = 0;
-    std::atomic<int> m_leastPeriodMs{0};
+    LeastPeriod m_leastPeriodMs = [] { return 0; };
 };

@@ -264,7 +264,7 @@ private slots:
         LiveOrientation orientation;
         TestLevels levels;
         LivePreview preview(&source, &orientation, &levels.live);
-        preview.SetLeastPeriod(100);
+        preview.SetLeastPeriod([] { return 100; });
         QVERIFY(preview.StartPreview());
         QSignalSpy delivered(&preview, SIGNAL(signalPictureDelivered()));
         QElapsedTimer timer;
@@ -275,6 +275,43 @@ private slots:
         }
         QVERIFY(timer.elapsed() >= 300); // three distances between four pictures
         preview.StopPreview();
+    }
+
+    void aRecordingComesBeforePictures()
+    {
+        QCOMPARE(LivePreview::PeriodBesideRecording(0), 66);
+        QCOMPARE(LivePreview::PeriodBesideRecording(1), 66);
+        QCOMPARE(LivePreview::PeriodBesideRecording(2), 250);
+    }
+
+    /// A long distance ends as soon as nothing else wants the processor, or when the preview is to end.
+    void aDistanceIsAskedForAgainWhileItIsKept()
+    {
+        constexpr int hourMs = 3600 * 1000;
+        TestFrameSource source;
+        LiveOrientation orientation;
+        TestLevels levels;
+        LivePreview preview(&source, &orientation, &levels.live);
+        std::atomic<int> periodMs{ hourMs };
+        std::atomic<int> questions{ 0 };
+        preview.SetLeastPeriod([&] {
+            ++questions;
+            return periodMs.load();
+        });
+        QVERIFY(preview.StartPreview());
+        QSignalSpy delivered(&preview, SIGNAL(signalPictureDelivered()));
+        preview.OnFrame(TestFrames::Make(20, 10, PixelLayout::Mono8, 0));
+        QVERIFY(delivered.wait());
+        preview.OnFrame(TestFrames::Make(20, 10, PixelLayout::Mono8, 1));
+        QTRY_VERIFY(questions > 3); // it waits
+        QCOMPARE(delivered.count(), 1);
+        periodMs = 0;
+        QVERIFY(delivered.wait());
+
+        periodMs = hourMs;
+        preview.OnFrame(TestFrames::Make(20, 10, PixelLayout::Mono8, 2));
+        preview.StopPreview();
+        QVERIFY(!preview.isRunning());
     }
 
     /// A run that ends does not start a preview that the user had stopped.
