@@ -21,6 +21,7 @@ private slots:
     void choiceIsKept();
     void textsAreTranslated();
     void englishIsWhatTheSourcesSay();
+    void oneThingHasOneName();
     void numbersHaveTheirPlural_data();
     void numbersHaveTheirPlural();
 
@@ -92,6 +93,26 @@ void LanguageTest::englishIsWhatTheSourcesSay()
     QSettings *settings = NewSettings();
     Language(settings, "en").Install();
     QCOMPARE(QCoreApplication::translate("MainWindow", "&File"), QString("&File"));
+}
+
+/// What the spectrum panel and the menu call the same, they call the same in German.
+void LanguageTest::oneThingHasOneName()
+{
+    const QPair<const char *, const char *> names[] = {
+        {"Picture", "&Picture"}, {"Sensor image", "Sensor &Image"}, {"Curve", "&Curve"},
+        {"Curve with peaks", "Curve with Pea&ks"}, {"Tracks in 3D", "Tracks in &3D"},
+        {"horizontal", "&Horizontal"}, {"vertical", "&Vertical"},
+        {"all rows", "&All Rows"}, {"band found by itself", "Band &Found by Itself"}, {"band by hand", "Band by &Hand"},
+        {"Find the Band Again", "Find the Band Aga&in"}, {"Find Tracks", "&Find Tracks"}, {"Show tracks", "&Show Tracks"},
+        {"Draw on the picture", "&Draw on the Picture"}, {"Add Track", "&Add Track"}, {"Remove Track", "&Remove Track"},
+        {"Clear Tracks", "&Clear Tracks"},
+    };
+    Language(NewSettings(), "de").Install();
+    for (const auto &[panel, menu] : names) {
+        const QString inPanel = QCoreApplication::translate("SpectrumFields", panel);
+        const QString inMenu = QCoreApplication::translate("SpectrometerMenu", menu).remove('&');
+        QVERIFY2(inPanel.compare(inMenu, Qt::CaseInsensitive) == 0, qPrintable(inPanel + ", " + inMenu));
+    }
 }
 
 void LanguageTest::numbersHaveTheirPlural_data()

@@ -747,7 +747,7 @@
     </message>
     <message>
         <source>&amp;Binning</source>
-        <translation>B&amp;inning</translation>
+        <translation>Bi&amp;nning</translation>
     </message>
     <message>
         <source>&amp;Select Region</source>
@@ -2604,7 +2604,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <name>RecordingMenu</name>
     <message>
         <source>&amp;Recording</source>
-        <translation>&amp;Aufzeichnung</translation>
+        <translation>Auf&amp;zeichnung</translation>
     </message>
     <message>
         <source>&amp;Capture</source>
@@ -2640,7 +2640,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>&amp;Settings</source>
-        <translation>&amp;Einstellungen</translation>
+        <translation>Ei&amp;nstellungen</translation>
     </message>
 </context>
 <context>
@@ -3260,7 +3260,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>Curve with Pea&amp;ks</source>
-        <translation>Kurve &amp;mit Peaks</translation>
+        <translation>Kurve &amp;mit Linien</translation>
     </message>
     <message>
         <source>Tracks in &amp;3D</source>
@@ -3416,7 +3416,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>&amp;Draw on the Picture</source>
-        <translation>Ins Bild &amp;zeichnen</translation>
+        <translation>&amp;Ins Bild zeichnen</translation>
     </message>
     <message>
         <source>&amp;Add Track</source>
@@ -3518,11 +3518,11 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>horizontal</source>
-        <translation>horizontal</translation>
+        <translation>waagrecht</translation>
     </message>
     <message>
         <source>vertical</source>
-        <translation>vertikal</translation>
+        <translation>senkrecht</translation>
     </message>
     <message>
         <source>The direction in which the wavelength changes on the sensor.</source>
@@ -3566,7 +3566,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>band found by itself</source>
-        <translation>Band selbst gefunden</translation>
+        <translation>Band automatisch</translation>
     </message>
     <message>
         <source>band by hand</source>
@@ -3610,7 +3610,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>There is no spectrum yet: switch vertical binning on first.</source>
-        <translation>Es gibt noch kein Spektrum: zuerst vertikales Binning einschalten.</translation>
+        <translation>Es gibt noch kein Spektrum: zuerst das vertikale Binning einschalten.</translation>
     </message>
     <message>
         <source>Now</source>
@@ -3630,7 +3630,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>Take Reference</source>
-        <translation>Referenz nehmen</translation>
+        <translation>Referenz aufnehmen</translation>
     </message>
     <message>
         <source>The spectrum shown becomes the reference spectrum.</source>
@@ -3678,11 +3678,11 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation>Linie</translation>
+        <translation>Kurve</translation>
     </message>
     <message>
         <source>Line width</source>
-        <translation>Linienbreite</translation>
+        <translation>Kurvenbreite</translation>
     </message>
     <message>
         <source> px</source>
@@ -3690,7 +3690,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>Line style</source>
-        <translation>Linienart</translation>
+        <translation>Kurvenart</translation>
     </message>
     <message>
         <source>solid</source>
@@ -3714,11 +3714,11 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>Peaks</source>
-        <translation>Spitzen</translation>
+        <translation>Linien</translation>
     </message>
     <message>
         <source>Peak size</source>
-        <translation>Spitzengröße</translation>
+        <translation>Größe der Marken</translation>
     </message>
     <message>
         <source>Most peaks</source>
@@ -4232,7 +4232,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>&amp;File Directory</source>
-        <translation>&amp;Dateien</translation>
+        <translation>Date&amp;ien</translation>
     </message>
     <message>
         <source>&amp;Left Panel</source>
@@ -4268,7 +4268,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>&amp;Drawing</source>
-        <translation>&amp;Zeichnen</translation>
+        <translation>Zei&amp;chnen</translation>
     </message>
     <message>
         <source>&amp;CPU</source>
@@ -4300,7 +4300,7 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>F&amp;ull Screen</source>
-        <translation>&amp;Vollbild</translation>
+        <translation>V&amp;ollbild</translation>
     </message>
     <message>
         <source>Lan&amp;guage</source>
