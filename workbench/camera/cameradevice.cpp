@@ -155,12 +155,6 @@ int CameraDevice::SetSink(FrameSink *sink)
     return ++m_run;
 }
 
-int CameraDevice::Run() const
-{
-    const std::lock_guard<std::mutex> lock(m_mutex);
-    return m_run;
-}
-
 /// False when nobody waits for that run any more.
 bool CameraDevice::OpenGate(int run)
 {
@@ -225,6 +219,7 @@ void CameraDevice::DropStream()
 bool CameraDevice::Start(int run, QString *error)
 {
     StopAcquisition();
+    m_startedRun = run;
     return Resume(run, error);
 }
 
@@ -269,11 +264,11 @@ CameraDevice::ChangeFormat(const std::function<bool(CameraFormat &format, QStrin
     if (!CanReach(&result.error))
         return result;
     const bool wasAcquiring = m_isAcquiring;
-    const int run = Run();
     StopAcquisition();
     DropStream();
     change(*m_format, &result.error);
+    result.run = m_startedRun;
     if (wasAcquiring)
-        Resume(run, &result.startError);
+        Resume(m_startedRun, &result.startError);
     return result;
 }

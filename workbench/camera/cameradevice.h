@@ -64,8 +64,9 @@ public:
     {
         QString error;      ///< of the change itself; empty when it was taken
         QString startError; ///< the frames did not go on with the new size; empty when they did
+        int run = 0;        ///< whose frames those are
     };
-    /// Interrupts the frames and goes on with their new size.
+    /// Interrupts the frames and goes on with their new size, unless another sink was set meanwhile.
     FormatChange ChangeFormat(const std::function<bool(CameraFormat &format, QString *error)> &change);
 
 private:
@@ -81,7 +82,6 @@ private:
     bool Resume(int run, QString *error);
     bool OpenGate(int run);
     void CloseGate();
-    int Run() const;
 
     ArvCamera *const m_camera;
     const std::shared_ptr<FrameLedger> m_ledger;
@@ -92,6 +92,7 @@ private:
     std::unique_ptr<CameraFormat> m_format;
     ArvStream *m_stream = nullptr;
     bool m_isAcquiring = false;
+    int m_startedRun = 0; ///< the one that Start() has begun; a newer one waits for its own
 
     mutable std::mutex m_mutex; ///< of what follows
     std::unique_ptr<FrameReceiver> m_receiver;

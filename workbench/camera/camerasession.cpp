@@ -160,10 +160,7 @@ bool CameraSession::Start(FrameSink *sink)
         QString error;
         if (device.Start(run, &error))
             return nullptr;
-        return [run, error](CameraSession &session) {
-            if (session.m_run == run)
-                session.FailFrames(error);
-        };
+        return [run, error](CameraSession &session) { session.FailFrames(run, error); };
     });
 }
 
@@ -179,9 +176,10 @@ void CameraSession::Stop()
     });
 }
 
-void CameraSession::FailFrames(const QString &error)
+/// Those of an older run are not missed any more.
+void CameraSession::FailFrames(int run, const QString &error)
 {
-    if (!m_sink)
+    if (!m_sink || m_run != run)
         return;
     m_sink = nullptr;
     m_run = m_device->SetSink(nullptr);
@@ -266,7 +264,7 @@ void CameraSession::SetFormat(const QString &key,
                 session.m_answered = number;
                 emit session.signalFormatSet(result.error);
                 if (!result.startError.isEmpty())
-                    session.FailFrames(result.startError);
+                    session.FailFrames(result.run, result.startError);
             };
         },
         key);
@@ -318,7 +316,7 @@ void CameraSession::Restore(const ControlValues &wishedControls, const FormatVal
         return [result](CameraSession &session) {
             emit session.signalRestored();
             if (!result.startError.isEmpty())
-                session.FailFrames(result.startError);
+                session.FailFrames(result.run, result.startError);
         };
     });
 }

@@ -111,7 +111,7 @@ private:
     void SetControl(const QString &key, const std::function<bool(CameraControls &, QString *error)> &change);
     void SetFormat(const QString &key, const std::function<bool(CameraFormat &, QString *error)> &change);
     void TakeValues(const ControlValues &controls, const FormatValues &format);
-    void FailFrames(const QString &error);
+    void FailFrames(int run, const QString &error);
 
     std::shared_ptr<ControlQueue> m_queue; ///< of the open camera, as are the next two
     std::shared_ptr<CameraDevice> m_device;
