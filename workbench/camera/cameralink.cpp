@@ -154,8 +154,9 @@ void CameraLink::slotFormatSet(QString error)
 void CameraLink::slotRestored()
 {
     m_isRestoring = false;
+    const QString text = BackText(); // who hears of the first may close the camera
     emit signalFormatChanged();
-    emit signalMessage(BackText());
+    emit signalMessage(text);
 }
 
 void CameraLink::slotFramesFailed(QString error)

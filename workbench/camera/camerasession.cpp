@@ -17,7 +17,7 @@
 struct CameraSession::Mailbox : std::enable_shared_from_this<CameraSession::Mailbox>
 {
     std::mutex mutex;
-    CameraSession *session = nullptr; ///< null once the session has closed the camera
+    CameraSession *session = nullptr; ///< null once the session has closed the camera, in the session's thread
 
     void Post(const News &news)
     {
@@ -26,9 +26,9 @@ struct CameraSession::Mailbox : std::enable_shared_from_this<CameraSession::Mail
             return;
         QMetaObject::invokeMethod(
             session,
-            [self = shared_from_this(), to = session, news] {
-                if (to->m_mailbox == self)
-                    news(*to);
+            [self = shared_from_this(), news] {
+                for (auto next = news.begin(); self->session && next != news.end(); ++next)
+                    (*next)(*self->session);
             },
             Qt::QueuedConnection);
     }
@@ -52,7 +52,7 @@ bool CameraSession::Open(const QString &id, QString *error)
     setup.scene = SceneCatalogue::Create(m_sceneName);
     setup.ledger = m_ledger;
     setup.onControlLost = [mailbox] {
-        mailbox->Post([](CameraSession &session) { emit session.signalControlLost(); });
+        mailbox->Post({ [](CameraSession &session) { emit session.signalControlLost(); } });
     };
     m_device = CameraDevice::Open(id, std::move(setup), error);
     if (!m_device)
@@ -110,13 +110,12 @@ bool CameraSession::Ask(const std::function<News(CameraDevice &)> &work, const Q
         return false;
     m_queue->Add(
         [device = m_device, mailbox = m_mailbox, work] {
-            const News news = work(*device);
-            mailbox->Post([news, controls = device->Controls().Values(),
-                           format = device->Format().Values()](CameraSession &session) {
+            News news = work(*device);
+            news.insert(news.begin(), [controls = device->Controls().Values(),
+                                       format = device->Format().Values()](CameraSession &session) {
                 session.TakeValues(controls, format);
-                if (news)
-                    news(session);
             });
+            mailbox->Post(news);
         },
         key);
     return true;
@@ -131,10 +130,10 @@ bool CameraSession::TakeTurn(const std::function<void(ArvCamera *)> &task, QObje
         [task, to = QPointer<QObject>(receiver), done](CameraDevice &device) -> News {
             if (task)
                 task(device.Camera());
-            return [to, done](CameraSession &) {
+            return { [to, done](CameraSession &) {
                 if (to)
                     done();
-            };
+            } };
         },
         key);
 }
@@ -158,9 +157,8 @@ bool CameraSession::Start(FrameSink *sink)
     m_run = m_device->SetSink(sink);
     return Ask([run = m_run](CameraDevice &device) -> News {
         QString error;
-        if (device.Start(run, &error))
-            return nullptr;
-        return [run, error](CameraSession &session) { session.FailFrames(run, error); };
+        device.Start(run, &error);
+        return { [run, error](CameraSession &session) { session.TakeStartFault(run, error); } };
     });
 }
 
@@ -172,14 +170,14 @@ void CameraSession::Stop()
     m_run = m_device->SetSink(nullptr);
     Ask([](CameraDevice &device) -> News {
         device.StopAcquisition();
-        return nullptr;
+        return {};
     });
 }
 
-/// Those of an older run are not missed any more.
-void CameraSession::FailFrames(int run, const QString &error)
+/// The frames of an older run are not missed any more.
+void CameraSession::TakeStartFault(int run, const QString &error)
 {
-    if (!m_sink || m_run != run)
+    if (error.isEmpty() || !m_sink || m_run != run)
         return;
     m_sink = nullptr;
     m_run = m_device->SetSink(nullptr);
@@ -199,10 +197,10 @@ void CameraSession::SetControl(const QString &key,
         [change, number](CameraDevice &device) -> News {
             QString error;
             change(device.Controls(), &error);
-            return [error, number](CameraSession &session) {
+            return { [error, number](CameraSession &session) {
                 session.m_answered = number;
                 emit session.signalControlSet(error);
-            };
+            } };
         },
         key);
     if (!isAsked)
@@ -248,7 +246,7 @@ void CameraSession::Refresh()
     Ask(
         [](CameraDevice &device) -> News {
             device.Controls().Refresh();
-            return nullptr;
+            return {};
         },
         "refresh");
 }
@@ -260,12 +258,11 @@ void CameraSession::SetFormat(const QString &key,
     const bool isAsked = Ask(
         [change, number](CameraDevice &device) -> News {
             const CameraDevice::FormatChange result = device.ChangeFormat(change);
-            return [result, number](CameraSession &session) {
-                session.m_answered = number;
-                emit session.signalFormatSet(result.error);
-                if (!result.startError.isEmpty())
-                    session.FailFrames(result.run, result.startError);
-            };
+            return { [error = result.error, number](CameraSession &session) {
+                        session.m_answered = number;
+                        emit session.signalFormatSet(error);
+                    },
+                     [result](CameraSession &session) { session.TakeStartFault(result.run, result.startError); } };
         },
         key);
     if (!isAsked)
@@ -313,10 +310,7 @@ void CameraSession::Restore(const ControlValues &wishedControls, const FormatVal
             controls.SetAutoExposure(true);
         if (wishedControls.isAutoGain)
             controls.SetAutoGain(true);
-        return [result](CameraSession &session) {
-            emit session.signalRestored();
-            if (!result.startError.isEmpty())
-                session.FailFrames(result.run, result.startError);
-        };
+        return { [](CameraSession &session) { emit session.signalRestored(); },
+                 [result](CameraSession &session) { session.TakeStartFault(result.run, result.startError); } };
     });
 }

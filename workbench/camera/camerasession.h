@@ -9,6 +9,7 @@
 #include <QObject>
 #include <functional>
 #include <memory>
+#include <vector>
 
 class CameraControls;
 class CameraDevice;
@@ -104,14 +105,15 @@ signals:
 
 private:
     struct Mailbox;
-    /// What the control thread brings back.
-    using News = std::function<void(CameraSession &)>;
+    /// What the control thread brings back, one after the other: whoever hears of one may close the camera, and the rest
+    /// is of no interest then, or delete the session.
+    using News = std::vector<std::function<void(CameraSession &)>>;
 
     bool Ask(const std::function<News(CameraDevice &)> &work, const QString &key = QString());
     void SetControl(const QString &key, const std::function<bool(CameraControls &, QString *error)> &change);
     void SetFormat(const QString &key, const std::function<bool(CameraFormat &, QString *error)> &change);
     void TakeValues(const ControlValues &controls, const FormatValues &format);
-    void FailFrames(int run, const QString &error);
+    void TakeStartFault(int run, const QString &error);
 
     std::shared_ptr<ControlQueue> m_queue; ///< of the open camera, as are the next two
     std::shared_ptr<CameraDevice> m_device;

@@ -115,6 +115,46 @@ private slots:
         QVERIFY(!m_session->IsStreaming());
     }
 
+    /// Who hears of an answer may close the camera, or open it anew; the rest of the answer belongs to the one before.
+    void whoHearsOfTheFormatMayOpenTheCameraAnew()
+    {
+        QSignalSpy failed(m_session.get(), &CameraSession::signalFramesFailed);
+        FrameCollector second;
+        bool isAnew = false;
+        connect(m_session.get(), &CameraSession::signalFormatSet, this, [&] {
+            m_session->Close();
+            isAnew = m_session->Open("Fake_1") && m_session->Start(&second);
+        });
+        SetColumns(m_session.get(), 0);
+        m_session->SetPixelLayout(PixelLayout::Mono16);
+        QTRY_VERIFY_WITH_TIMEOUT(isAnew, MsToWait);
+        QVERIFY(second.WaitFor(2));
+        QCOMPARE(failed.count(), 0);
+        QVERIFY(m_session->IsStreaming());
+        m_session->Stop();
+    }
+
+    void whoHearsOfNewValuesMayCloseTheCamera()
+    {
+        QSignalSpy set(m_session.get(), &CameraSession::signalControlSet);
+        QSignalSpy changed(m_session.get(), &CameraSession::signalControlsChanged);
+        connect(m_session.get(), &CameraSession::signalControlsChanged, m_session.get(), &CameraSession::Close);
+        m_session->SetGain(3);
+        QVERIFY(changed.wait(MsToWait));
+        QVERIFY(!m_session->IsOpen());
+        QCOMPARE(set.count(), 0);
+    }
+
+    void whoHearsOfNewValuesMayDeleteTheSession()
+    {
+        bool isDone = false;
+        connect(m_session.get(), &CameraSession::signalControlsChanged, this, [this] { m_session.reset(); });
+        connect(m_session.get(), &CameraSession::signalControlSet, this, [&isDone] { isDone = true; });
+        m_session->SetGain(3);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_session, MsToWait);
+        QVERIFY(!isDone);
+    }
+
 private:
     std::unique_ptr<CameraSession> m_session;
     FrameCollector m_first;
