@@ -21,6 +21,12 @@ public:
         return &m_error;
     }
     bool IsSet() const { return m_error; }
+    /// The camera said nothing, or is not there any more.
+    bool IsSilence() const
+    {
+        return g_error_matches(m_error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_TIMEOUT)
+               || g_error_matches(m_error, ARV_DEVICE_ERROR, ARV_DEVICE_ERROR_NOT_CONNECTED);
+    }
     QString Text() const { return m_error ? QString::fromUtf8(m_error->message) : QString(); }
 
 private:

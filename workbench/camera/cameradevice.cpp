@@ -180,29 +180,28 @@ qint64 CameraDevice::MillisecondsSinceLastFrame() const
     return m_isGateOpen ? m_receiver->MillisecondsSinceLastFrame() : 0;
 }
 
-bool CameraDevice::CreateStream(QString *error)
+CameraDevice::StartFault CameraDevice::CreateStream()
 {
-    const size_t frameBytes = m_format->FrameBytes();
-    auto receiver = std::make_unique<FrameReceiver>(*m_ledger, StreamBufferPool::Create(frameBytes),
-                                                    m_format->Values().layout);
     AravisError failure;
-    m_stream = arv_camera_create_stream(m_camera, OnStreamEvent, receiver.get(), failure.Receive());
-    const bool isCreated = m_stream && frameBytes > 0;
-    if (isCreated && ARV_IS_GV_STREAM(m_stream))
-        g_object_set(m_stream, "socket-buffer", ARV_GV_STREAM_SOCKET_BUFFER_FIXED, "socket-buffer-size",
-                     SocketBufferBytes, nullptr);
-    if (isCreated)
-        receiver->Prime(m_stream);
-    {
+    const size_t frameBytes = m_format->FrameBytes(&failure);
+    if (frameBytes > 0) {
+        auto receiver = std::make_unique<FrameReceiver>(*m_ledger, StreamBufferPool::Create(frameBytes),
+                                                        m_format->Values().layout);
+        m_stream = arv_camera_create_stream(m_camera, OnStreamEvent, receiver.get(), failure.Receive());
+        if (m_stream && ARV_IS_GV_STREAM(m_stream))
+            g_object_set(m_stream, "socket-buffer", ARV_GV_STREAM_SOCKET_BUFFER_FIXED, "socket-buffer-size",
+                         SocketBufferBytes, nullptr);
+        if (m_stream)
+            receiver->Prime(m_stream);
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_receiver = std::move(receiver);
     }
-    if (isCreated)
-        return true;
+    if (m_stream)
+        return {};
     DropStream();
-    SetError(error, tr("The camera %1 sends no pictures: %2. Close it and open it again.")
-                        .arg(m_info.model, failure.Text()));
-    return false;
+    const QString reason = failure.IsSet() ? failure.Text() : tr("its frames have no size");
+    return { tr("The camera %1 sends no pictures: %2. Close it and open it again.").arg(m_info.model, reason),
+             failure.IsSilence() };
 }
 
 void CameraDevice::DropStream()
@@ -216,19 +215,25 @@ void CameraDevice::DropStream()
     m_receiver.reset();
 }
 
-bool CameraDevice::Start(int run, QString *error)
+CameraDevice::StartFault CameraDevice::Start(int run)
 {
     StopAcquisition();
     m_startedRun = run;
-    return Resume(run, error);
+    return Resume(run);
 }
 
-bool CameraDevice::Resume(int run, QString *error)
+CameraDevice::StartFault CameraDevice::Resume(int run)
 {
-    if (!CanReach(error) || (!m_stream && !CreateStream(error)))
-        return false;
+    QString lost;
+    if (!CanReach(&lost))
+        return { lost, true };
+    if (!m_stream) {
+        const StartFault fault = CreateStream();
+        if (!fault.text.isEmpty())
+            return fault;
+    }
     if (!OpenGate(run))
-        return true;
+        return {};
     if (m_sensor)
         m_sensor->Start();
     AravisError failure;
@@ -236,11 +241,10 @@ bool CameraDevice::Resume(int run, QString *error)
     arv_camera_start_acquisition(m_camera, failure.Receive());
     m_isAcquiring = true; // some of it may have reached the camera
     if (!failure.IsSet())
-        return true;
+        return {};
     StopAcquisition();
-    SetError(error, tr("The camera %1 did not start: %2. Close it and open it again.")
-                        .arg(m_info.model, failure.Text()));
-    return false;
+    return { tr("The camera %1 did not start: %2. Close it and open it again.").arg(m_info.model, failure.Text()),
+             failure.IsSilence() };
 }
 
 void CameraDevice::StopAcquisition()
@@ -269,6 +273,6 @@ CameraDevice::ChangeFormat(const std::function<bool(CameraFormat &format, QStrin
     change(*m_format, &result.error);
     result.run = m_startedRun;
     if (wasAcquiring)
-        Resume(m_startedRun, &result.startError);
+        result.startFault = Resume(m_startedRun);
     return result;
 }

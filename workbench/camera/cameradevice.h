@@ -56,15 +56,21 @@ public:
     /// Since the start or the last frame; 0 while none may come. Any thread.
     qint64 MillisecondsSinceLastFrame() const;
 
+    /// Why no frames come.
+    struct StartFault
+    {
+        QString text;          ///< empty when they come
+        bool isSilent = false; ///< the camera does not answer; otherwise it refuses
+    };
     /// Begins that run, unless another sink was set meanwhile.
-    bool Start(int run, QString *error);
+    StartFault Start(int run);
     void StopAcquisition();
 
     struct FormatChange
     {
-        QString error;      ///< of the change itself; empty when it was taken
-        QString startError; ///< the frames did not go on with the new size; empty when they did
-        int run = 0;        ///< whose frames those are
+        QString error;         ///< of the change itself; empty when it was taken
+        StartFault startFault; ///< the frames did not go on with the new size
+        int run = 0;           ///< whose frames those are
     };
     /// Interrupts the frames and goes on with their new size, unless another sink was set meanwhile.
     FormatChange ChangeFormat(const std::function<bool(CameraFormat &format, QString *error)> &change);
@@ -77,9 +83,9 @@ private:
     void ReadInfo(const QString &id);
     void WatchControl();
     bool CanReach(QString *error) const;
-    bool CreateStream(QString *error);
+    StartFault CreateStream();
     void DropStream();
-    bool Resume(int run, QString *error);
+    StartFault Resume(int run);
     bool OpenGate(int run);
     void CloseGate();
 

@@ -199,4 +199,8 @@ bool CameraFormat::Report(const QString &setting, const AravisError &failure, QS
     return false;
 }
 
-size_t CameraFormat::FrameBytes() const { return arv_camera_get_payload(m_camera, nullptr); }
+size_t CameraFormat::FrameBytes(AravisError *failure) const
+{
+    const size_t bytes = arv_camera_get_payload(m_camera, failure->Receive());
+    return failure->IsSet() ? 0 : bytes;
+}

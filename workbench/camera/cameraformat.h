@@ -29,8 +29,8 @@ public:
     bool SetRegion(const QRect &region, QString *error = nullptr);
     bool SetBinning(int binning, QString *error = nullptr);
 
-    /// Size of one frame with these settings; 0 when the camera does not answer.
-    size_t FrameBytes() const;
+    /// Size of one frame with these settings; 0 and a failure when the camera does not tell.
+    size_t FrameBytes(AravisError *failure) const;
 
 private:
     void ReadLayouts();

@@ -8,6 +8,7 @@
 #include <QThread>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 /// Settings come back in the camera's own steps.
@@ -64,6 +65,7 @@ void CameraLink::Close()
     m_isTrying = false;
     m_isRestoring = false;
     m_session.reset();
+    m_sink = nullptr;
     m_info = CameraInfo();
     SetState(State::NoCamera);
 }
@@ -98,8 +100,11 @@ void CameraLink::OpenInWorker(const QString &id)
         std::shared_ptr<CameraSession> session = m_opener(id, scene, &error);
         if (session)
             session->moveToThread(guiThread);
+        // Nobody but the link keeps it: when that lets go of it, it is gone.
         QMetaObject::invokeMethod(
-            this, [this, id, session, error] { TakeResult(id, session, error); }, Qt::QueuedConnection);
+            this,
+            [this, id, session = std::move(session), error]() mutable { TakeResult(id, std::move(session), error); },
+            Qt::QueuedConnection);
     });
 }
 
@@ -141,7 +146,8 @@ void CameraLink::ConnectSession()
     connect(session, SIGNAL(signalControlSet(QString)), this, SIGNAL(signalControlSet(QString)));
     connect(session, SIGNAL(signalFormatSet(QString)), this, SLOT(slotFormatSet(QString)));
     connect(session, SIGNAL(signalRestored()), this, SLOT(slotRestored()));
-    connect(session, SIGNAL(signalFramesFailed(QString)), this, SLOT(slotFramesFailed(QString)));
+    connect(session, SIGNAL(signalFramesFailed(QString, bool)), this,
+            SLOT(slotFramesFailed(QString, bool)));
 }
 
 void CameraLink::slotFormatSet(QString error)
@@ -159,8 +165,11 @@ void CameraLink::slotRestored()
     emit signalMessage(text);
 }
 
-void CameraLink::slotFramesFailed(QString error)
+/// One that does not answer is lost, before it is known: who wants its frames gets them when it is back.
+void CameraLink::slotFramesFailed(QString error, bool isSilent)
 {
+    if (isSilent)
+        return Lose();
     m_sink = nullptr;
     m_watchTimer.stop();
     emit signalMessage(error);

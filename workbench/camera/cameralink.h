@@ -79,6 +79,7 @@ public:
 
     bool StartFrames(FrameSink *sink) override;
     void StopFrames() override;
+    bool IsStarted() const override { return m_sink; }
     /// Since the preview was started, across reconnections.
     FrameCounts Counts() const;
 
@@ -89,7 +90,7 @@ signals:
     /// Of the open camera, as CameraSession has them.
     void signalControlsChanged();
     void signalControlSet(QString error);
-    /// The camera can't send the frames that StartFrames() asked for; signalMessage() says why.
+    /// The camera refuses to send the frames that StartFrames() asked for; signalMessage() says why.
     void signalFramesFailed();
     /// A sentence for the status bar.
     void signalMessage(QString text);
@@ -100,7 +101,7 @@ private slots:
     void slotTryAgain();
     void slotFormatSet(QString error);
     void slotRestored();
-    void slotFramesFailed(QString error);
+    void slotFramesFailed(QString error, bool isSilent);
 
 private:
     void OpenInWorker(const QString &id);
@@ -122,7 +123,7 @@ private:
     CameraInfo m_info;
     State m_state = State::NoCamera;
     QString m_scene;
-    FrameSink *m_sink = nullptr;
+    FrameSink *m_sink = nullptr; ///< who wants frames, of a lost camera too
     FrameCounts m_countsBefore;
     ControlValues m_keptControls; ///< what a camera that comes back gets again
     FormatValues m_keptFormat;

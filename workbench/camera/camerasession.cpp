@@ -156,9 +156,8 @@ bool CameraSession::Start(FrameSink *sink)
     m_sink = sink;
     m_run = m_device->SetSink(sink);
     return Ask([run = m_run](CameraDevice &device) -> News {
-        QString error;
-        device.Start(run, &error);
-        return { [run, error](CameraSession &session) { session.TakeStartFault(run, error); } };
+        const CameraDevice::StartFault fault = device.Start(run);
+        return { [run, fault](CameraSession &session) { session.TakeStartFault(run, fault.text, fault.isSilent); } };
     });
 }
 
@@ -175,13 +174,13 @@ void CameraSession::Stop()
 }
 
 /// The frames of an older run are not missed any more.
-void CameraSession::TakeStartFault(int run, const QString &error)
+void CameraSession::TakeStartFault(int run, const QString &error, bool isSilent)
 {
     if (error.isEmpty() || !m_sink || m_run != run)
         return;
     m_sink = nullptr;
     m_run = m_device->SetSink(nullptr);
-    emit signalFramesFailed(error);
+    emit signalFramesFailed(error, isSilent);
 }
 
 qint64 CameraSession::MillisecondsSinceLastFrame() const
@@ -262,7 +261,9 @@ void CameraSession::SetFormat(const QString &key,
                         session.m_answered = number;
                         emit session.signalFormatSet(error);
                     },
-                     [result](CameraSession &session) { session.TakeStartFault(result.run, result.startError); } };
+                     [run = result.run, fault = result.startFault](CameraSession &session) {
+                         session.TakeStartFault(run, fault.text, fault.isSilent);
+                     } };
         },
         key);
     if (!isAsked)
@@ -311,6 +312,8 @@ void CameraSession::Restore(const ControlValues &wishedControls, const FormatVal
         if (wishedControls.isAutoGain)
             controls.SetAutoGain(true);
         return { [](CameraSession &session) { emit session.signalRestored(); },
-                 [result](CameraSession &session) { session.TakeStartFault(result.run, result.startError); } };
+                 [run = result.run, fault = result.startFault](CameraSession &session) {
+                     session.TakeStartFault(run, fault.text, fault.isSilent);
+                 } };
     });
 }

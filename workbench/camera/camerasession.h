@@ -100,8 +100,9 @@ signals:
     void signalControlSet(QString error);
     void signalFormatSet(QString error);
     void signalRestored();
-    /// The camera was to send frames and can't; nobody gets any until the next Start().
-    void signalFramesFailed(QString error);
+    /// The camera was to send frames and does not; nobody gets any until the next Start(). A silent one does not answer,
+    /// and will be lost; others refuse.
+    void signalFramesFailed(QString error, bool isSilent);
 
 private:
     struct Mailbox;
@@ -113,7 +114,7 @@ private:
     void SetControl(const QString &key, const std::function<bool(CameraControls &, QString *error)> &change);
     void SetFormat(const QString &key, const std::function<bool(CameraFormat &, QString *error)> &change);
     void TakeValues(const ControlValues &controls, const FormatValues &format);
-    void TakeStartFault(int run, const QString &error);
+    void TakeStartFault(int run, const QString &error, bool isSilent);
 
     std::shared_ptr<ControlQueue> m_queue; ///< of the open camera, as are the next two
     std::shared_ptr<CameraDevice> m_device;

@@ -13,4 +13,6 @@ public:
     virtual bool StartFrames(FrameSink *sink) = 0;
     /// After this no frame reaches the sink any more. Does not wait for a camera that is gone.
     virtual void StopFrames() = 0;
+    /// Frames come, or will when a lost camera is back. False once they failed, though nobody stopped them.
+    virtual bool IsStarted() const = 0;
 };

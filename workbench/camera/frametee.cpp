@@ -28,13 +28,12 @@ void FrameTee::SetListener(FrameSink *sink)
 
 bool FrameTee::Start(FrameSink **place, FrameSink *sink)
 {
-    bool isFirst = false;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        isFirst = !m_display && !m_recording;
         *place = sink;
     }
-    if (!isFirst || m_camera->StartFrames(this))
+    // Not by who else wants frames: theirs may have failed.
+    if (m_camera->IsStarted() || m_camera->StartFrames(this))
         return true;
     const std::lock_guard<std::mutex> lock(m_mutex);
     *place = nullptr;

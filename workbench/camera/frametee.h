@@ -18,6 +18,7 @@ public:
 
     bool StartFrames(FrameSink *display) override;
     void StopFrames() override;
+    bool IsStarted() const override { return m_display && m_camera->IsStarted(); }
     bool StartRecording(FrameSink *recording);
     /// After this no frame reaches the recording any more.
     void StopRecording();

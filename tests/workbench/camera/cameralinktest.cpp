@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <arv.h> // before Qt, whose "signals" GLib uses as a name
+
 #include "cameralink.h"
 #include "camerasession.h"
 #include "devicelist.h"
@@ -214,6 +216,50 @@ private slots:
         link.StartFrames(&sink);
         QVERIFY(link.Counts().captured < 3);
         link.StopFrames();
+    }
+
+    /// One without columns answers, but has nothing to send.
+    void cameraThatRefusesSaysSoAndMayBeStartedAgain()
+    {
+        CameraLink link;
+        OpenSimulated(link);
+        const auto setColumns = [&link, this](quint32 columns) {
+            return link.Session()->TakeTurn(
+                [columns](ArvCamera *camera) {
+                    arv_device_write_register(arv_camera_get_device(camera), ARV_FAKE_CAMERA_REGISTER_WIDTH, columns, nullptr);
+                },
+                this, [] {});
+        };
+        QSignalSpy failed(&link, SIGNAL(signalFramesFailed()));
+        QSignalSpy messages(&link, SIGNAL(signalMessage(QString)));
+        FrameCollector sink;
+        QVERIFY(setColumns(0));
+        QVERIFY(link.StartFrames(&sink));
+        QVERIFY(link.IsStarted());
+        QVERIFY(failed.wait());
+        QVERIFY(!link.IsStarted());
+        QCOMPARE(link.GetState(), CameraLink::State::Open);
+        QCOMPARE(messages.count(), 1);
+        QVERIFY2(messages.first().first().toString().contains("its frames have no size"),
+                 qPrintable(messages.first().first().toString()));
+        QVERIFY(setColumns(64));
+        QVERIFY(link.StartFrames(&sink));
+        QVERIFY(sink.WaitFor(1));
+        QCOMPARE(failed.count(), 1);
+        link.StopFrames();
+    }
+
+    void framesEndWithTheCamera()
+    {
+        CameraLink link;
+        OpenSimulated(link);
+        FrameCollector sink;
+        QVERIFY(link.StartFrames(&sink));
+        QVERIFY(sink.WaitFor(1));
+        link.Close();
+        QVERIFY(!link.IsStarted());
+        OpenSimulated(link);
+        QVERIFY(!link.Session()->IsStreaming());
     }
 
 private:

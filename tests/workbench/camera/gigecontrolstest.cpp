@@ -4,6 +4,7 @@
 #include "cameralink.h"
 #include "camerasession.h"
 #include "framecollector.h"
+#include "frametee.h"
 #include "guardedtest.h"
 
 #include <QFile>
@@ -170,6 +171,29 @@ private slots:
         QCOMPARE(link.Session()->Format().region, QRect(0, 0, 256, 128));
         QVERIFY2(messages.last().first().toString().endsWith("is back."),
                  qPrintable(messages.last().first().toString()));
+        link.Close();
+    }
+
+    /// Frames are asked for before anybody has noticed that the camera is gone.
+    void framesOfACameraThatWentUnnoticedComeWhenItIsBack()
+    {
+        CameraLink link;
+        link.Open(Id);
+        QTRY_COMPARE_WITH_TIMEOUT(link.GetState(), CameraLink::State::Open, MsToWait);
+        link.SetRegion(QRect(0, 0, 256, 128));
+        QTRY_VERIFY_WITH_TIMEOUT(!link.Session()->IsSetting(), MsToWait);
+        QSignalSpy failed(&link, &CameraLink::signalFramesFailed);
+        g_clear_object(&m_camera);
+        FrameTee tee(&link);
+        FrameCollector frames;
+        QVERIFY(tee.StartFrames(&frames));
+        QTRY_COMPARE_WITH_TIMEOUT(link.GetState(), CameraLink::State::Lost, MsToWait);
+        QCOMPARE(failed.count(), 0);
+        QVERIFY(tee.IsStarted());
+        StartCamera(m_folder.filePath("features.xml"));
+        QTRY_VERIFY_WITH_TIMEOUT(frames.Count() > 2, MsToWait);
+        QCOMPARE(QSize(frames.Last().width, frames.Last().height), QSize(256, 128));
+        tee.StopFrames();
         link.Close();
     }
 

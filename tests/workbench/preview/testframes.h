@@ -33,6 +33,7 @@ public:
         return hasCamera;
     }
     void StopFrames() override { sink = nullptr; }
+    bool IsStarted() const override { return sink; }
 
     bool hasCamera = true;
     FrameSink *sink = nullptr;
