@@ -143,7 +143,7 @@ void CameraLink::ConnectSession()
     const CameraSession *session = m_session.get();
     connect(session, SIGNAL(signalControlLost()), this, SLOT(slotControlLost()));
     connect(session, SIGNAL(signalControlsChanged()), this, SIGNAL(signalControlsChanged()));
-    connect(session, SIGNAL(signalControlSet(QString)), this, SIGNAL(signalControlSet(QString)));
+    connect(session, SIGNAL(signalControlSet(QString, QString)), this, SIGNAL(signalControlSet(QString, QString)));
     connect(session, SIGNAL(signalFormatSet(QString)), this, SLOT(slotFormatSet(QString)));
     connect(session, SIGNAL(signalRestored()), this, SLOT(slotRestored()));
     connect(session, SIGNAL(signalFramesFailed(QString, bool)), this,

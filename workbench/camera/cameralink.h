@@ -89,7 +89,7 @@ signals:
     void signalFormatChanged();
     /// Of the open camera, as CameraSession has them.
     void signalControlsChanged();
-    void signalControlSet(QString error);
+    void signalControlSet(QString error, QString control);
     /// The camera refuses to send the frames that StartFrames() asked for; signalMessage() says why.
     void signalFramesFailed();
     /// A sentence for the status bar.

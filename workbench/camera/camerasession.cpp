@@ -193,12 +193,12 @@ void CameraSession::SetControl(const QString &key,
 {
     const int number = ++m_asked;
     const bool isAsked = Ask(
-        [change, number](CameraDevice &device) -> News {
+        [change, number, key](CameraDevice &device) -> News {
             QString error;
             change(device.Controls(), &error);
-            return { [error, number](CameraSession &session) {
+            return { [error, number, key](CameraSession &session) {
                 session.m_answered = number;
-                emit session.signalControlSet(error);
+                emit session.signalControlSet(error, key);
             } };
         },
         key);

@@ -96,8 +96,9 @@ signals:
     void signalControlLost();
     /// Controls() tells something else than before.
     void signalControlsChanged();
-    /// What was asked for was tried; the reason when it was not taken, or empty.
-    void signalControlSet(QString error);
+    /// What was asked for was tried; the reason when it was not taken, or empty. Of the controls it is told which:
+    /// "exposure", "autoExposure", "gain", "autoGain" or "frameRate".
+    void signalControlSet(QString error, QString control);
     void signalFormatSet(QString error);
     void signalRestored();
     /// The camera was to send frames and does not; nobody gets any until the next Start(). A silent one does not answer,

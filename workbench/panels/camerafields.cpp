@@ -56,7 +56,7 @@ CameraFields::CameraFields(CameraLink *link, ConnectedCameras *cameras, RegionOf
     m_search.setInterval(SearchMs);
     connect(&m_refresh, &QTimer::timeout, this, &CameraFields::slotRefresh);
     connect(&m_search, &QTimer::timeout, this, &CameraFields::signalSearchWanted);
-    connect(link, &CameraLink::signalStateChanged, this, [this] { slotAnswered(QString()); });
+    connect(link, &CameraLink::signalStateChanged, this, &CameraFields::slotCameraStateChanged);
     connect(link, &CameraLink::signalControlSet, this, &CameraFields::slotAnswered);
     connect(link, &CameraLink::signalControlsChanged, this, &CameraFields::signalChanged);
     connect(link, &CameraLink::signalFormatChanged, this, &CameraFields::slotFormatAnswered);
@@ -83,9 +83,20 @@ void CameraFields::slotRefresh()
         session->Refresh();
 }
 
-void CameraFields::slotAnswered(QString error)
+void CameraFields::slotCameraStateChanged()
 {
-    emit signalFault(error);
+    m_faults.clear();
+    emit signalFault(QString());
+    slotFormatAnswered();
+}
+
+/// What was refused is shown until that control is taken: the answer to another one may come right after it.
+void CameraFields::slotAnswered(QString error, QString control)
+{
+    m_faults.remove(control);
+    if (!error.isEmpty())
+        m_faults.insert(control, error);
+    emit signalFault(QStringList(m_faults.values()).join('\n'));
     slotFormatAnswered();
 }
 

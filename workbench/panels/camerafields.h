@@ -4,6 +4,7 @@
 #include "fieldsource.h"
 
 #include <QHash>
+#include <QMap>
 #include <QTimer>
 
 class CameraLink;
@@ -35,7 +36,8 @@ signals:
 
 private slots:
     void slotRefresh();
-    void slotAnswered(QString error);
+    void slotCameraStateChanged();
+    void slotAnswered(QString error, QString control);
     void slotFormatAnswered();
 
 private:
@@ -55,4 +57,5 @@ private:
     QTimer m_refresh;
     QTimer m_search;
     QHash<QString, QVariant> m_wishes; ///< not answered yet
+    QMap<QString, QString> m_faults;   ///< by control: why it was not taken the last time
 };

@@ -30,6 +30,7 @@ private slots:
     void regionIsFittedToTheSensor();
     void whatIsWishedIsShownUntilTheCameraAnswers();
     void refusedWishIsTakenBack();
+    void reasonStaysUntilThatSettingIsTaken();
     void sidesOfTheRegionThatWaitCountTogether();
     void whatTheCameraLacksIsDisabled();
     void otherCameraIsAskedFor();
@@ -249,6 +250,26 @@ void CameraFieldsTest::refusedWishIsTakenBack()
     m_fields->Set("width", 100);
     QVERIFY(changed.count() > 0);
     QCOMPARE(Field("width").value.toInt(), 2048);
+}
+
+void CameraFieldsTest::reasonStaysUntilThatSettingIsTaken()
+{
+    OpenCamera();
+    QSignalSpy fault(m_fields.get(), &FieldSource::signalFault);
+    const auto shown = [&fault] { return fault.isEmpty() ? QString() : fault.last().first().toString(); };
+    emit m_link->Session()->signalControlSet("The exposure was refused.", "exposure");
+    QCOMPARE(shown(), QString("The exposure was refused."));
+    m_fields->Set("gain", 2.0);
+    Settle();
+    QCOMPARE(m_link->Session()->Controls().gain, 2.0);
+    QCOMPARE(shown(), QString("The exposure was refused."));
+    emit m_link->Session()->signalControlSet("The gain was refused.", "gain");
+    QCOMPARE(shown(), QString("The exposure was refused.\nThe gain was refused."));
+    m_fields->Set("exposure", 3.0);
+    Settle();
+    QCOMPARE(shown(), QString("The gain was refused."));
+    m_link->Close();
+    QCOMPARE(shown(), QString());
 }
 
 void CameraFieldsTest::sidesOfTheRegionThatWaitCountTogether()
