@@ -50,23 +50,29 @@ void RecordingDesk::slotCapture(bool record, bool single)
         emit signalMessage(error);
         return;
     }
+    TakeTurn(settings, QString(), record);
+}
+
+/// The run begins with what was set until now, not with what the camera still had when it was asked for.
+void RecordingDesk::TakeTurn(const RecordingSettings &settings, const QString &path, bool record)
+{
     SetPreparing(true);
-    // The run begins with what was set until now, not with what the camera still had when the button was pressed.
     CameraSession *session = m_parts.link->Session();
     session->Refresh();
-    const auto prepare = [this, settings, record, preparation = m_preparation] {
+    const auto prepare = [this, settings, path, record, preparation = m_preparation] {
         if (preparation == m_preparation)
-            Prepare(settings, record);
+            Prepare(settings, path, record);
     };
     if (!session->TakeTurn(nullptr, this, prepare))
         LoseCamera();
 }
 
-void RecordingDesk::Prepare(const RecordingSettings &settings, bool record)
+void RecordingDesk::Prepare(const RecordingSettings &settings, const QString &path, bool record)
 {
-    MakeOrder(settings, QString());
+    MakeOrder(settings, path);
     m_order.isRecord = record;
-    m_worker.start([this, folder = settings.Folder(), preparation = m_preparation] {
+    const QString folder = path.isEmpty() ? settings.Folder() : QFileInfo(path).absolutePath();
+    m_worker.start([this, folder, preparation = m_preparation] {
         const RunResources resources = RunResources::Read(folder);
         QMetaObject::invokeMethod(
             this,
@@ -78,8 +84,7 @@ void RecordingDesk::Prepare(const RecordingSettings &settings, bool record)
     });
 }
 
-bool RecordingDesk::Start(const RecordingSettings &settings, const QString &path, QString *warning,
-                          QString *error)
+bool RecordingDesk::Start(const RecordingSettings &settings, const QString &path, QString *error)
 {
     if (IsBusy()) {
         *error = tr("A recording is running already.");
@@ -87,10 +92,7 @@ bool RecordingDesk::Start(const RecordingSettings &settings, const QString &path
     }
     if (!IsCameraThere(error))
         return false;
-    MakeOrder(settings, path);
-    UseResources(RunResources::Read(QFileInfo(path).absolutePath()));
-    *warning = m_estimate.warning;
-    Begin();
+    TakeTurn(settings, path, false);
     return true;
 }
 

@@ -46,9 +46,9 @@ public:
     /// What there was when the run began.
     const RunResources &Resources() const { return m_resources; }
 
-    /// A run of its own settings into a file of that name, without questions: what would be asked is the `warning`.
-    /// False and an error when it can't begin. Looks at the disk at once, for there is no window to keep waiting.
-    bool Start(const RecordingSettings &settings, const QString &path, QString *warning, QString *error);
+    /// Prepares a run of its own settings into a file of that name, as slotCapture() does. False and an error when it
+    /// can't; one that is given up later is neither busy then nor has it a receipt.
+    bool Start(const RecordingSettings &settings, const QString &path, QString *error);
     /// After signalRoomIsShort().
     void GoOn();
     void GoOnShortened();
@@ -77,7 +77,8 @@ private slots:
 
 private:
     bool IsCameraThere(QString *error) const;
-    void Prepare(const RecordingSettings &settings, bool record);
+    void TakeTurn(const RecordingSettings &settings, const QString &path, bool record);
+    void Prepare(const RecordingSettings &settings, const QString &path, bool record);
     void MakeOrder(const RecordingSettings &settings, const QString &path);
     void TakeResources(const RunResources &resources);
     void Begin();

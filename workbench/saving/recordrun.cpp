@@ -24,6 +24,8 @@ RecordRun::RecordRun(const CameraLink *link, RecordingDesk *desk, const Recordin
 {
     connect(link, SIGNAL(signalStateChanged()), this, SLOT(slotCameraStateChanged()));
     connect(link, SIGNAL(signalMessage(QString)), this, SLOT(slotMessage(QString)));
+    connect(desk, SIGNAL(signalRoomIsShort(QString, bool)), this, SLOT(slotRoomIsShort(QString)));
+    connect(desk, SIGNAL(signalStateChanged()), this, SLOT(slotRecordingStateChanged()));
     connect(desk, SIGNAL(signalRunEnded(RunReceipt)), this, SLOT(slotRunEnded(RunReceipt)));
 }
 
@@ -38,15 +40,25 @@ void RecordRun::slotCameraStateChanged()
     if (m_hasBegun || m_link->GetState() != CameraLink::State::Open)
         return;
     m_hasBegun = true;
-    QString warning;
     QString error;
-    const bool hasStarted = m_desk->Start(m_settings, m_path, &warning, &error);
-    if (!warning.isEmpty())
-        fprintf(stderr, "workbench: %s\n", qPrintable(warning));
-    if (!hasStarted)
+    if (!m_desk->Start(m_settings, m_path, &error))
         Fail(error);
     else if (m_longestSeconds > 0)
         QTimer::singleShot(m_longestSeconds * MsPerSecond, m_desk, SLOT(slotStop()));
+}
+
+/// Nobody is there to be asked.
+void RecordRun::slotRoomIsShort(QString warning)
+{
+    fprintf(stderr, "workbench: %s\n", qPrintable(warning));
+    m_desk->GoOn();
+}
+
+/// A run that was given up before it began ends without a receipt.
+void RecordRun::slotRecordingStateChanged()
+{
+    if (m_hasBegun && !m_desk->IsBusy() && !m_desk->HasReceipt())
+        Fail(tr("The recording did not begin: the camera was lost, or did not answer in time."));
 }
 
 void RecordRun::slotRunEnded(RunReceipt receipt)

@@ -26,6 +26,8 @@ public:
 private slots:
     void slotCameraStateChanged();
     void slotMessage(QString text);
+    void slotRoomIsShort(QString warning);
+    void slotRecordingStateChanged();
     void slotRunEnded(RunReceipt receipt);
 
 private:

@@ -170,6 +170,53 @@ private slots:
         QCOMPARE(picture.Size(), NewRegion.size());
     }
 
+    /// The same without hands, into a file of its own name.
+    void whatWasSetBeforeARunWithoutHandsIsInItsFile()
+    {
+        QSemaphore answer;
+        CameraSession *session = m_parts->link.Session();
+        QTRY_VERIFY(!session->IsSetting());
+        QVERIFY(session->TakeTurn([&answer](ArvCamera *) { answer.acquire(); }, this, [] {}));
+        constexpr QRect NewRegion(100, 200, 48, 16);
+        m_parts->link.SetRegion(NewRegion);
+        session->SetExposureUs(2000);
+        RecordingSettings settings = m_parts->settings.Get();
+        settings.mode = RecordingSettings::Mode::Count;
+        settings.frames = 5;
+        const QString path = m_folder->filePath("named.tif");
+        QString error;
+        const bool isPrepared = Desk()->Start(settings, path, &error);
+        const bool hasBegun = Desk()->Saving()->IsBusy();
+        answer.release();
+        QVERIFY2(isPrepared, qPrintable(error));
+        QVERIFY(!hasBegun);
+        QVERIFY(!Desk()->Start(settings, path, &error));
+        QCOMPARE(error, QString("A recording is running already."));
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
+        QCOMPARE(receipt.files.first(), path);
+        QCOMPARE(receipt.facts.exposureUs, 2000.0);
+        QCOMPARE(receipt.facts.region, NewRegion);
+        QCOMPARE(receipt.stamps.size(), 5);
+    }
+
+    void aRunWithoutHandsOfACameraThatIsLostIsGivenUp()
+    {
+        QSemaphore answer;
+        QVERIFY(m_parts->link.Session()->TakeTurn([&answer](ArvCamera *) { answer.acquire(); }, this, [] {}));
+        QSignalSpy states(Desk(), SIGNAL(signalStateChanged()));
+        QString error;
+        const bool isPrepared = Desk()->Start(m_parts->settings.Get(), m_folder->filePath("named.tif"), &error);
+        emit m_parts->link.Session()->signalControlLost();
+        answer.release();
+        QVERIFY2(isPrepared, qPrintable(error));
+        QCOMPARE(states.count(), 2);
+        QVERIFY(!Desk()->IsBusy());
+        QVERIFY(!Desk()->HasReceipt());
+        QVERIFY(!Desk()->Start(m_parts->settings.Get(), m_folder->filePath("named.tif"), &error));
+        QVERIFY2(error.startsWith("There is no camera to record from."), qPrintable(error));
+    }
+
     void aCameraLostBeforeItBeginsIsTold()
     {
         QSemaphore answer;
