@@ -13,12 +13,6 @@
 class TrackDesk::Step : public QUndoCommand
 {
 public:
-    struct State
-    {
-        std::vector<RowBand> tracks;
-        bool isShown;
-    };
-
     Step(TrackDesk *desk, const QString &what, const State &before, const State &after)
         : QUndoCommand(what)
         , m_desk(desk)
@@ -27,12 +21,12 @@ public:
     {
     }
 
-    void undo() override { m_desk->Apply(m_before.tracks, m_before.isShown); }
+    void undo() override { m_desk->Apply(m_before); }
     /// It is done already when it comes onto the stack.
     void redo() override
     {
         if (m_isUndone)
-            m_desk->Apply(m_after.tracks, m_after.isShown);
+            m_desk->Apply(m_after);
         m_isUndone = true;
     }
 
@@ -182,22 +176,27 @@ void TrackDesk::slotDragged(const std::vector<RowBand> &tracks, int track)
 bool TrackDesk::Replace(std::vector<RowBand> tracks, const QString &what)
 {
     std::sort(tracks.begin(), tracks.end(), IsAbove);
-    const Step::State before{Tracks(), m_settings->GetMultiTrackOnFlag()};
-    const Step::State after{tracks, !tracks.empty()};
-    if (!Apply(after.tracks, after.isShown))
+    const bool isShown = !tracks.empty();
+    const bool isBinning = m_settings->GetFVBOnFlag() != 0;
+    const State before{Tracks(), m_settings->GetMultiTrackOnFlag(), isBinning};
+    const State after{tracks, isShown, isBinning && !isShown};
+    if (!Apply(after))
         return false;
     m_undo.push(new Step(this, what, before, after));
     emit signalChanged();
     return true;
 }
 
-bool TrackDesk::Apply(const std::vector<RowBand> &tracks, bool shown)
+/// Binning that the user has switched on since stays on, unless tracks are shown.
+bool TrackDesk::Apply(const State &state)
 {
-    if (tracks.empty())
+    if (state.tracks.empty())
         m_settings->ClearTracks();
-    else if (!m_settings->SetTracks(RectsOf(tracks, m_picture.width())))
+    else if (!m_settings->SetTracks(RectsOf(state.tracks, m_picture.width())))
         return false;
-    m_settings->SetMultiTrackOnFlag(shown && !tracks.empty());
+    m_settings->SetMultiTrackOnFlag(state.isShown);
+    if (state.isBinning)
+        m_settings->SetFVBOnFlag(1);
     return true;
 }
 

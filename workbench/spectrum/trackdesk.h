@@ -52,11 +52,17 @@ signals:
 
 private:
     class Step;
+    struct State
+    {
+        std::vector<RowBand> tracks;
+        bool isShown;
+        bool isBinning; ///< vertically, which ends when tracks are shown
+    };
 
     const std::vector<RowBand> &Tracks() const;
     /// Puts another list in place of the present one, or none; false when it is refused, in words.
     bool Replace(std::vector<RowBand> tracks, const QString &what);
-    bool Apply(const std::vector<RowBand> &tracks, bool shown);
+    bool Apply(const State &state);
     void slotDragged(const std::vector<RowBand> &tracks, int track);
     void slotMenu(int track, QPoint screenPos);
     void ShowMarks();
