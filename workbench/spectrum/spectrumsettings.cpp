@@ -137,9 +137,10 @@ void SpectrumSettings::ClearTracks()
     emit signalRecipeChanged();
 }
 
-void SpectrumSettings::SwitchTracksOff(const QString &reason)
+void SpectrumSettings::DropTracks(const QString &reason)
 {
     ClearTracks();
+    emit signalTracksDropped();
     emit signalMessage(reason);
 }
 
@@ -156,7 +157,7 @@ void SpectrumSettings::slotSetFrameSize(QSize size)
     if (!m_tracks.isEmpty()) {
         const QString fault = TracksFault(m_tracks, size, MostTracksAtAll);
         if (!fault.isEmpty())
-            SwitchTracksOff(fault);
+            DropTracks(fault);
         else if (m_recipe.hasTracks)
             emit SignalMultiTrackOnFlagChanged();
     }

@@ -114,6 +114,8 @@ signals:
     /// Something of Recipe() is another.
     void signalRecipeChanged();
     void signalUnitChanged();
+    /// The frame is another, and the tracks are no more, as they do not fit it.
+    void signalTracksDropped();
     /// A sentence for the status bar.
     void signalMessage(QString text);
 
@@ -141,7 +143,7 @@ private:
     bool KeepBandInPicture();
     int MostTracks(bool horizontal) const;
     void TellOfTooManyTracks();
-    void SwitchTracksOff(const QString &reason);
+    void DropTracks(const QString &reason);
     void AnnounceAxis();
     /// Of what Calculate() gives.
     QString AxisTitle() const;

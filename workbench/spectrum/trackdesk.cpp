@@ -8,6 +8,7 @@
 #include <QMenu>
 
 #include <algorithm>
+#include <utility>
 
 /// Another list of tracks in place of the one before.
 class TrackDesk::Step : public QUndoCommand
@@ -21,20 +22,20 @@ public:
     {
     }
 
-    void undo() override { m_desk->Apply(m_before); }
+    void undo() override { m_desk->Go(m_before, &QUndoStack::redo); }
     /// It is done already when it comes onto the stack.
     void redo() override
     {
-        if (m_isUndone)
-            m_desk->Apply(m_after);
-        m_isUndone = true;
+        if (m_isOnStack)
+            m_desk->Go(m_after, &QUndoStack::undo);
+        m_isOnStack = true;
     }
 
 private:
     TrackDesk *m_desk;
     const State m_before;
     const State m_after;
-    bool m_isUndone = false;
+    bool m_isOnStack = false;
 };
 
 namespace {
@@ -56,6 +57,8 @@ TrackDesk::TrackDesk(SpectrumSettings *settings, QObject *parent)
     , m_settings(settings)
 {
     connect(settings, &SpectrumSettings::signalRecipeChanged, this, &TrackDesk::ShowMarks);
+    connect(settings, &SpectrumSettings::signalTracksDropped, &m_undo, &QUndoStack::clear);
+    connect(&m_undo, &QUndoStack::indexChanged, this, &TrackDesk::slotStackMoved);
 }
 
 TrackDesk::~TrackDesk()
@@ -185,6 +188,22 @@ bool TrackDesk::Replace(std::vector<RowBand> tracks, const QString &what)
     m_undo.push(new Step(this, what, before, after));
     emit signalChanged();
     return true;
+}
+
+void TrackDesk::Go(const State &state, StackMove back)
+{
+    if (!m_isMovingBack && !Apply(state))
+        m_moveBack = back;
+}
+
+/// The stack has moved though the step was refused: it stays to be undone, or done, when there is room for its tracks.
+void TrackDesk::slotStackMoved()
+{
+    if (!m_moveBack)
+        return;
+    m_isMovingBack = true;
+    (m_undo.*std::exchange(m_moveBack, nullptr))();
+    m_isMovingBack = false;
 }
 
 /// Binning that the user has switched on since stays on, unless tracks are shown.

@@ -13,7 +13,7 @@ class SpectrumSettings;
 class TrackMarks;
 
 /// What the user does with tracks: have them found, draw them on the live picture, move, resize and remove them. Each step
-/// can be undone. The list itself is that of the settings, sorted from the top. GUI thread.
+/// can be undone, until the tracks are dropped. The list itself is that of the settings, sorted from the top. GUI thread.
 class TrackDesk : public QObject
 {
     Q_OBJECT
@@ -63,6 +63,10 @@ private:
     /// Puts another list in place of the present one, or none; false when it is refused, in words.
     bool Replace(std::vector<RowBand> tracks, const QString &what);
     bool Apply(const State &state);
+    using StackMove = void (QUndoStack::*)();
+    /// For a step on the stack; one that is refused, in words, moves the stack `back`.
+    void Go(const State &state, StackMove back);
+    void slotStackMoved();
     void slotDragged(const std::vector<RowBand> &tracks, int track);
     void slotMenu(int track, QPoint screenPos);
     void ShowMarks();
@@ -73,4 +77,6 @@ private:
     QSize m_picture;
     int m_chosen = -1;
     bool m_isDrawing = false;
+    StackMove m_moveBack = nullptr; ///< wanted, as a step was refused
+    bool m_isMovingBack = false;
 };

@@ -22,6 +22,8 @@ private slots:
     void undoingTheFirstTrackGivesBackTheBinning();
     void undoingTheFirstTrackKeepsBinningThatCameLater();
     void clearedTracksComeBackAsTheyWereShown();
+    void aStepThatIsRefusedStaysOnTheStack();
+    void tracksThatWereDroppedCannotBeUndone();
 
 private:
     /// What the list is now: first and last row of each track.
@@ -107,6 +109,57 @@ void TrackDeskTest::clearedTracksComeBackAsTheyWereShown()
     m_desk->UndoStack()->undo();
     QCOMPARE(Rows(), QString("190-209"));
     QVERIFY(!m_settings->GetMultiTrackOnFlag() && m_settings->GetFVBOnFlag());
+}
+
+void TrackDeskTest::aStepThatIsRefusedStaysOnTheStack()
+{
+    QList<QRectF> found;
+    for (int i = 0; i < 21; ++i)
+        found << QRectF(0, 10 * i, Picture.width(), 5);
+    m_settings->SetHorizontal(false);
+    m_settings->SetMode(DisplayMode::Tracks3D);
+    m_desk->slotTracksFound(found);
+    m_desk->Clear();
+    m_settings->SetMode(DisplayMode::Plot);
+
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    QUndoStack *stack = m_desk->UndoStack();
+    stack->undo();
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(told[0][0].toString(), QString("There are 21 tracks and the plot shows 20 at most: take some away."));
+    QCOMPARE(Rows(), QString());
+    QCOMPARE(stack->undoText(), QString("Clear Tracks"));
+    QVERIFY(!stack->canRedo());
+
+    m_settings->SetMode(DisplayMode::Tracks3D); // where there is room
+    stack->undo();
+    QCOMPARE(m_settings->GetMultiTrackList(), found);
+    stack->undo();
+    QCOMPARE(Rows(), QString());
+    m_settings->SetMode(DisplayMode::Plot);
+    told.clear();
+    stack->redo();
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(Rows(), QString());
+    QCOMPARE(stack->redoText(), QString("Find Tracks"));
+    QVERIFY(!stack->canUndo());
+    m_settings->SetMode(DisplayMode::Tracks3D);
+    stack->redo();
+    QCOMPARE(m_settings->GetMultiTrackList(), found);
+    QCOMPARE(stack->undoText(), QString("Find Tracks"));
+}
+
+void TrackDeskTest::tracksThatWereDroppedCannotBeUndone()
+{
+    m_desk->Add();
+    m_desk->Add();
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    m_settings->slotSetFrameSize(QSize(1000, 350)); // the tracks still fit
+    QVERIFY(m_desk->UndoStack()->canUndo() && told.isEmpty());
+    m_settings->slotSetFrameSize(QSize(1000, 100));
+    QCOMPARE(Rows(), QString());
+    QCOMPARE(told.count(), 1);
+    QVERIFY(!m_desk->UndoStack()->canUndo() && !m_desk->UndoStack()->canRedo());
 }
 
 GUARDED_TEST_MAIN(TrackDeskTest)
