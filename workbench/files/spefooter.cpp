@@ -103,7 +103,7 @@ void ApplyReferences(const References &references, const Calibrations &calibrati
             region.axis.unit = region.axis.IsEmpty() ? SpectralUnit::Pixel : SpectralUnit::Nanometre;
             region.axis.laserNm = calibrations.lasers.value(id);
             if (region.axis.IsEmpty())
-                layout.warning = Text::tr("its list of wavelengths does not fit its columns and is left out");
+                layout.Warn(Text::tr("its list of wavelengths does not fit its columns and is left out"));
         }
     }
 }

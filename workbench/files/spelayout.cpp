@@ -9,6 +9,7 @@
 #include <QIODevice>
 
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -81,7 +82,7 @@ bool LayoutOfFooter(QIODevice &file, const SpeHeader &header, SpeLayout &layout,
     }
     if (header.Width() == 0 || header.Height() == 0)
         return fault.Set(Text::tr("its description (XML at the end) is missing"), DamagedAdvice());
-    layout.warning = Text::tr("its description (XML at the end) is missing, and with it the wavelengths");
+    layout.Warn(Text::tr("its description (XML at the end) is missing, and with it the wavelengths"));
     return LayoutOfHeader(header, layout, fault);
 }
 
@@ -115,19 +116,28 @@ void CountFrames(SpeLayout &layout, qint64 dataBytes)
     layout.missingFrames = promised > whole ? promised - whole : 0;
 }
 
-/// An axis that turns around has several places for one wavelength.
+/// An axis that turns around has several places for one wavelength. Of several the first is told.
 void LeaveOutAxesThatTurn(SpeLayout &layout)
 {
+    bool isTold = false;
     for (SpeRegion &region : layout.regions) {
         int turn = 0;
         if (IsSteady(region.axis.values, &turn))
             continue;
         region.axis = SpectralAxis();
-        layout.warning = Text::tr("its calibration does not rise or fall steadily (it turns at pixel %1) and is left out").arg(turn);
+        if (!std::exchange(isTold, true))
+            layout.Warn(Text::tr("its calibration does not rise or fall steadily (it turns at pixel %1) and is left out").arg(turn));
     }
 }
 
 } // namespace
+
+/// Regions often share a calibration, and what is wrong with it.
+void SpeLayout::Warn(const QString &warning)
+{
+    if (!warnings.contains(warning))
+        warnings << warning;
+}
 
 bool ReadSpeLayout(QIODevice &file, SpeLayout &layout, FileFault &fault)
 {

@@ -5,6 +5,7 @@
 #include "spectralaxis.h"
 
 #include <QRect>
+#include <QStringList>
 
 class QIODevice;
 struct FileFault;
@@ -31,7 +32,9 @@ struct SpeLayout
     qint64 frameStride = 0; ///< bytes from one frame to the next
     QVector<SpeRegion> regions; ///< at least one
     QVector<MetadataEntry> metadata;
-    QString warning; ///< what could not be understood beside the samples; may be empty
+    QStringList warnings; ///< what could not be understood beside the samples, each once
+
+    void Warn(const QString &warning);
 
     qint64 RegionBytes(const SpeRegion &region) const { return qint64(region.width) * region.height * BytesPerSample(type); }
 };

@@ -45,8 +45,8 @@ void SpePictureFile::FillInfo()
     info.formatDetail = Text::tr("version %1").arg(m_layout.version < 3 ? 2 : 3);
     if (regions > 1)
         info.formatDetail += Text::tr(", %1 regions").arg(regions);
-    if (!m_layout.warning.isEmpty())
-        AddWarning(Text::tr("\u201c%1\u201d: %2. %3").arg(QFileInfo(Path()).fileName(), m_layout.warning, DamagedAdvice()));
+    for (const QString &warning : qAsConst(m_layout.warnings))
+        AddWarning(Text::tr("\u201c%1\u201d: %2. %3").arg(QFileInfo(Path()).fileName(), warning, DamagedAdvice()));
     if (m_layout.missingFrames > 0) {
         AddWarning(ReadFaultText(Path(), {Text::tr("only the first %1 of its %2 frames are there")
                                               .arg(m_layout.frames).arg(m_layout.frames + m_layout.missingFrames),

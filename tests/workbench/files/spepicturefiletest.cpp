@@ -21,6 +21,7 @@ private slots:
     void anAxisThatTurnsIsSaidAndLeftOut();
     void regionsAreFramesOfTheirOwn();
     void aBinnedColumnHasTheMeanOfItsWavelengths();
+    void everythingThatIsWrongIsTold();
     void factsAreTold();
     void fewerFramesThanPromisedAreTold();
     void noNumberOfFramesMeansThoseThatAreThere();
@@ -203,6 +204,18 @@ void SpePictureFileTest::aBinnedColumnHasTheMeanOfItsWavelengths()
     QCOMPARE(cut->AxisOf(0).values, QVector<double>({501, 503, 506}));
     QVERIFY(cut->AxisOf(1).IsEmpty());
     QVERIFY2(cut->Info().warning.contains("its list of wavelengths does not fit its columns"), qPrintable(cut->Info().warning));
+}
+
+void SpePictureFileTest::everythingThatIsWrongIsTold()
+{
+    PictureFolder folder;
+    // The first region's wavelengths turn, the second one's are too few.
+    const QString warning = Opened(folder, TwoRegions("501,503,506,510,515", "501,506,503"))->Info().warning;
+    QVERIFY2(warning.contains("it turns at pixel 2"), qPrintable(warning));
+    QVERIFY2(warning.contains("its list of wavelengths does not fit its columns"), qPrintable(warning));
+    // What is wrong with both is told once.
+    const QString once = Opened(folder, TwoRegions("500,501,503,506,510,515", "500"))->Info().warning;
+    QCOMPARE(once.count("does not fit its columns"), 1);
 }
 
 void SpePictureFileTest::factsAreTold()
