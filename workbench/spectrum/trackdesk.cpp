@@ -182,6 +182,8 @@ bool TrackDesk::Replace(std::vector<RowBand> tracks, const QString &what)
     const bool isShown = !tracks.empty();
     const bool isBinning = m_settings->GetFVBOnFlag() != 0;
     const State before{Tracks(), m_settings->GetMultiTrackOnFlag(), isBinning};
+    if (HaveSameRows(tracks, before.tracks) && before.isShown == isShown)
+        return true;
     const State after{tracks, isShown, isBinning && !isShown};
     if (!Apply(after))
         return false;

@@ -60,7 +60,8 @@ private:
     };
 
     const std::vector<RowBand> &Tracks() const;
-    /// Puts another list in place of the present one, or none; false when it is refused, in words.
+    /// Puts another list in place of the present one, or none, and shows it; false when it is refused, in words. What
+    /// changes nothing is no step.
     bool Replace(std::vector<RowBand> tracks, const QString &what);
     bool Apply(const State &state);
     using StackMove = void (QUndoStack::*)();

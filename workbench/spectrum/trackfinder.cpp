@@ -67,6 +67,12 @@ std::vector<RowBand> FindBands(const std::vector<double> &profile)
     return bands;
 }
 
+bool HaveSameRows(const std::vector<RowBand> &tracks, const std::vector<RowBand> &others)
+{
+    return std::equal(tracks.begin(), tracks.end(), others.begin(), others.end(),
+                      [](const RowBand &a, const RowBand &b) { return a.top == b.top && a.bottom == b.bottom; });
+}
+
 QString TracksFault(const QList<QRectF> &tracks, QSize frame, int most)
 {
     if (tracks.isEmpty())

@@ -16,6 +16,9 @@ struct RowBand
     double light = 0; ///< above the background, summed over its rows
 };
 
+/// The same rows in the same order, whatever their light.
+bool HaveSameRows(const std::vector<RowBand> &tracks, const std::vector<RowBand> &others);
+
 constexpr int MostTracksAtAll = 256;
 
 /// The bands of a profile, which holds the light of each row, from the top: what stands out from the dark rows by more

@@ -24,6 +24,7 @@ private slots:
     void clearedTracksComeBackAsTheyWereShown();
     void aStepThatIsRefusedStaysOnTheStack();
     void tracksThatWereDroppedCannotBeUndone();
+    void whatChangesNothingIsNoStep();
 
 private:
     /// What the list is now: first and last row of each track.
@@ -160,6 +161,30 @@ void TrackDeskTest::tracksThatWereDroppedCannotBeUndone()
     QCOMPARE(Rows(), QString());
     QCOMPARE(told.count(), 1);
     QVERIFY(!m_desk->UndoStack()->canUndo() && !m_desk->UndoStack()->canRedo());
+}
+
+void TrackDeskTest::whatChangesNothingIsNoStep()
+{
+    const QList<QRectF> found{QRectF(0, 40, Picture.width(), 10), QRectF(0, 80, Picture.width(), 10)};
+    QUndoStack *stack = m_desk->UndoStack();
+    m_desk->slotTracksFound(found);
+    QCOMPARE(stack->count(), 1);
+    m_desk->slotTracksFound({found[1], found[0]});
+    m_desk->Choose(1);
+    m_desk->SetChosenRows(80, 89);
+    QCOMPARE(stack->count(), 1);
+    QCOMPARE(m_desk->Chosen(), 1);
+    m_desk->SetChosenRows(80, 90);
+    QCOMPARE(stack->count(), 2);
+    QCOMPARE(Rows(), QString("40-49 80-90"));
+    // Set while they are hidden, they are shown, which can be taken back.
+    m_settings->SetMultiTrackOnFlag(false);
+    m_desk->SetChosenRows(80, 90);
+    QVERIFY(m_settings->GetMultiTrackOnFlag());
+    QCOMPARE(stack->count(), 3);
+    stack->undo();
+    QVERIFY(!m_settings->GetMultiTrackOnFlag());
+    QCOMPARE(Rows(), QString("40-49 80-90"));
 }
 
 GUARDED_TEST_MAIN(TrackDeskTest)
