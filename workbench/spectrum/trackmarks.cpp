@@ -38,13 +38,21 @@ void TrackMarks::SetPicture(QSize size)
 {
     prepareGeometryChange();
     m_picture = size;
-    m_drag.End();
+    EndDrag();
 }
 
 void TrackMarks::SetTracks(const std::vector<RowBand> &tracks, int chosen)
 {
+    if (!HaveSameRows(tracks, m_tracks))
+        EndDrag();
     m_tracks = tracks;
     m_chosen = chosen;
+    update();
+}
+
+void TrackMarks::EndDrag()
+{
+    m_drag.End();
     update();
 }
 
@@ -71,6 +79,14 @@ TrackDrag::Hold TrackMarks::HoldAt(const QPointF &scenePos) const
     return TrackDrag::HoldAt(m_tracks, scenePos.y(), edgeReachPixels / (scale > 0 ? scale : 1.0));
 }
 
+/// Hidden marks, as when drawing is switched off, and those that a menu covers lose the mouse in mid-drag.
+bool TrackMarks::sceneEvent(QEvent *event)
+{
+    if (event->type() == QEvent::UngrabMouse)
+        EndDrag();
+    return QGraphicsObject::sceneEvent(event);
+}
+
 void TrackMarks::hoverMoveEvent(QGraphicsSceneHoverEvent *event) { setCursor(CursorOf(HoldAt(event->scenePos()).grip)); }
 
 void TrackMarks::mousePressEvent(QGraphicsSceneMouseEvent *event)
@@ -94,8 +110,7 @@ void TrackMarks::mouseReleaseEvent(QGraphicsSceneMouseEvent *)
 {
     if (!m_drag.IsActive())
         return;
-    m_drag.End();
-    update();
+    EndDrag();
     const int track = m_drag.Track();
     if (m_hasMoved)
         emit signalDragged(m_drag.Tracks(), track);

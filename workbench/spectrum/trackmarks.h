@@ -17,7 +17,7 @@ public:
     TrackMarks();
 
     void SetPicture(QSize size);
-    /// `chosen` is one of them, or -1.
+    /// `chosen` is one of them, or -1. A drag of others ends without a change.
     void SetTracks(const std::vector<RowBand> &tracks, int chosen);
 
     QRectF boundingRect() const override;
@@ -30,6 +30,7 @@ signals:
     void signalMenuWanted(int track, QPoint screenPos);
 
 protected:
+    bool sceneEvent(QEvent *event) override;
     void hoverMoveEvent(QGraphicsSceneHoverEvent *event) override;
     void mousePressEvent(QGraphicsSceneMouseEvent *event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent *event) override;
@@ -37,6 +38,7 @@ protected:
     void contextMenuEvent(QGraphicsSceneContextMenuEvent *event) override;
 
 private:
+    void EndDrag();
     TrackDrag::Hold HoldAt(const QPointF &scenePos) const;
 
     QSize m_picture;

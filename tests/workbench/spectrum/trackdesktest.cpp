@@ -5,6 +5,10 @@
 #include "spectrumsettings.h"
 #include "trackdesk.h"
 
+#include <QGraphicsScene>
+#include <QGraphicsView>
+#include <QMouseEvent>
+#include <QPainter>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -25,8 +29,19 @@ private slots:
     void aStepThatIsRefusedStaysOnTheStack();
     void tracksThatWereDroppedCannotBeUndone();
     void whatChangesNothingIsNoStep();
+    void aDragMakesATrack();
+    void aDragEndsWithTheDrawing();
+    void aDragEndsWhenItsTracksAreOthers();
 
 private:
+    /// The live picture, at one pixel of the screen for each, with the marks in it.
+    void ShowPicture();
+    /// The left button goes down, or the mouse on, or it comes up, on a row.
+    void Press(int row);
+    void MoveTo(int row);
+    void Release(int row);
+    /// Something of the marks is painted there.
+    bool IsMarked(int row);
     /// What the list is now: first and last row of each track.
     QString Rows() const;
 
@@ -36,11 +51,14 @@ private:
     std::unique_ptr<CentreDisplay> m_centre;
     std::unique_ptr<SpectrumSettings> m_settings;
     std::unique_ptr<TrackDesk> m_desk;
+    std::unique_ptr<QGraphicsScene> m_scene;
+    std::unique_ptr<QGraphicsView> m_view;
 };
 
 namespace {
 
 const QSize Picture(1000, 400);
+constexpr int column = 300; ///< where the mouse is
 
 } // namespace
 
@@ -59,13 +77,47 @@ void TrackDeskTest::init()
 
 void TrackDeskTest::cleanup()
 {
+    m_view.reset();
     m_desk.reset();
+    m_scene.reset();
     m_settings.reset();
     m_centre.reset();
     m_ranges.reset();
     m_stored.reset(); // writes its file, so before the folder goes
     m_folder.reset();
     EndGuard();
+}
+
+void TrackDeskTest::ShowPicture()
+{
+    m_scene = std::make_unique<QGraphicsScene>(QRectF(QPointF(0, 0), Picture));
+    m_scene->setBackgroundBrush(Qt::black);
+    m_desk->ShowIn(m_scene.get());
+    m_view = std::make_unique<QGraphicsView>(m_scene.get());
+    m_view->setFrameShape(QFrame::NoFrame);
+    m_view->setMouseTracking(true);
+    m_view->resize(Picture);
+    m_view->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_view.get()));
+}
+
+void TrackDeskTest::Press(int row) { QTest::mousePress(m_view->viewport(), Qt::LeftButton, {}, m_view->mapFromScene(column, row)); }
+
+void TrackDeskTest::MoveTo(int row)
+{
+    const QPoint place = m_view->mapFromScene(column, row);
+    QMouseEvent move(QEvent::MouseMove, place, m_view->viewport()->mapToGlobal(place), Qt::NoButton, Qt::LeftButton, {});
+    QApplication::sendEvent(m_view->viewport(), &move);
+}
+
+void TrackDeskTest::Release(int row) { QTest::mouseRelease(m_view->viewport(), Qt::LeftButton, {}, m_view->mapFromScene(column, row)); }
+
+bool TrackDeskTest::IsMarked(int row)
+{
+    QImage seen(Picture, QImage::Format_RGB32);
+    QPainter painter(&seen);
+    m_scene->render(&painter);
+    return seen.pixel(column, row) != QColor(Qt::black).rgb();
 }
 
 QString TrackDeskTest::Rows() const
@@ -185,6 +237,60 @@ void TrackDeskTest::whatChangesNothingIsNoStep()
     stack->undo();
     QVERIFY(!m_settings->GetMultiTrackOnFlag());
     QCOMPARE(Rows(), QString("40-49 80-90"));
+}
+
+void TrackDeskTest::aDragMakesATrack()
+{
+    ShowPicture();
+    m_desk->SetDrawing(true);
+    Press(100);
+    MoveTo(120);
+    QVERIFY(IsMarked(110));
+    QCOMPARE(Rows(), QString());
+    Release(120);
+    QCOMPARE(Rows(), QString("100-119"));
+    QVERIFY(m_settings->GetMultiTrackOnFlag());
+    Press(110); // the track itself
+    MoveTo(200);
+    Release(200);
+    QCOMPARE(Rows(), QString("190-209"));
+    QCOMPARE(m_desk->Chosen(), 0);
+    m_desk->UndoStack()->undo();
+    QCOMPARE(Rows(), QString("100-119"));
+    Press(101); // an edge of it
+    MoveTo(90);
+    Release(90);
+    QCOMPARE(Rows(), QString("90-119"));
+}
+
+void TrackDeskTest::aDragEndsWithTheDrawing()
+{
+    ShowPicture();
+    m_desk->SetDrawing(true);
+    Press(100);
+    MoveTo(120);
+    m_desk->SetDrawing(false); // by its key
+    m_desk->SetDrawing(true);
+    QVERIFY(!IsMarked(110));
+    MoveTo(150);
+    Release(150);
+    QVERIFY(!IsMarked(110));
+    QCOMPARE(Rows(), QString());
+}
+
+void TrackDeskTest::aDragEndsWhenItsTracksAreOthers()
+{
+    ShowPicture();
+    m_desk->SetDrawing(true);
+    m_desk->Add();
+    Press(100);
+    MoveTo(120);
+    m_settings->SetFocusAssitanceFlag(true); // told, and not of the tracks
+    QVERIFY(IsMarked(110));
+    m_desk->UndoStack()->undo(); // by its key
+    QVERIFY(!IsMarked(110));
+    Release(120);
+    QCOMPARE(Rows(), QString());
 }
 
 GUARDED_TEST_MAIN(TrackDeskTest)
