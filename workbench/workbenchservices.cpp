@@ -62,6 +62,12 @@ QString RegisterFolder(const QSettings &settings)
     return QFileInfo(settings.fileName()).path() + "/recordings";
 }
 
+SpectralPicture SpectralPictureOf(const LoadedPicture &shown)
+{
+    const PictureEdit::Source source = shown.request.edit.SourceOf(shown.fileSize).value_or(PictureEdit::Source());
+    return {shown.fileSize, source.region, source.orientation, shown.fileAxis, shown.axis};
+}
+
 QString RepairText(const RepairedRun &run)
 {
     if (run.waits && run.fault.isEmpty())
@@ -275,11 +281,8 @@ void WorkbenchServices::ConnectSpectrum()
     m_mainPicture->SetCalibrationSource([this, settings] {
         return m_useArea->IsSpectrumPagePresent() ? settings->ImageCalibration() : QVector<MetadataEntry>();
     });
-    connect(m_mainPicture.get(), &OpenedPicture::signalAxis, settings, [this, settings](const SpectralAxis &axis) {
-        // Of columns that were moved nothing is known but what is said.
-        const bool isKnown = !axis.IsEmpty() || m_mainPicture->Shown().request.edit.IsNone();
-        settings->SetImageAxis(axis, isKnown ? m_mainPicture->GetImageSize().width() : 0);
-    });
+    connect(m_mainPicture.get(), &OpenedPicture::signalColumnsChanged, settings,
+            [this, settings] { settings->SetImage(SpectralPictureOf(m_mainPicture->Shown())); });
     connect(m_link, &CameraLink::signalFormatChanged, this, &WorkbenchServices::UpdateSensorFrame);
     connect(m_link, &CameraLink::signalStateChanged, this, &WorkbenchServices::UpdateSensorFrame);
     connect(m_orientation.get(), &LiveOrientation::signalOrientationChanged, this, &WorkbenchServices::UpdateSensorFrame);

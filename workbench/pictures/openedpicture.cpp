@@ -156,7 +156,7 @@ void OpenedPicture::PickMiddle(bool isOtherSize)
 /// An opened spectrum begins along its rows.
 void OpenedPicture::AnnounceSpectrum(bool isOther, bool isOtherSize)
 {
-    emit signalAxis(m_shown.axis);
+    emit signalColumnsChanged();
     if (isOther && IsSenImage())
         emit signalOpenSpefile();
     // The page was fitted to the other size: its cross may stand where it stood, and it asks for the curves there.
@@ -301,7 +301,7 @@ void OpenedPicture::CloseImage()
     emit signalUpdateFileName(QString());
     emit signalResetImageInfo();
     emit signalResetImageSize();
-    emit signalAxis(SpectralAxis());
+    emit signalColumnsChanged();
     TellFrameBrowser();
     emit UIConfigManager::GetInstance()->signalImageInfoChanged();
 }

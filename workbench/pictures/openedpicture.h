@@ -117,8 +117,8 @@ signals:
     /// A picture, or another one than before, is on the screen.
     void signalShown();
     void signalFailed(PictureDocument *document, QString error);
-    /// What the columns of the picture mean; empty when nobody says.
-    void signalAxis(const SpectralAxis &axis);
+    /// What the columns of Shown() mean, or which of its file they are, may be another.
+    void signalColumnsChanged();
     /// The picture that was asked for will not come.
     void signalGivenUp();
     /// The user wants to say where to save what is shown, or to read about it.

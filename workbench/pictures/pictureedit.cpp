@@ -95,20 +95,30 @@ int PictureEdit::PixelsJoined() const
     });
 }
 
-std::optional<QRect> PictureEdit::FileRegion(const QSize &fileSize) const
+std::optional<PictureEdit::Source> PictureEdit::SourceOf(const QSize &fileSize) const
 {
-    QRect region(QPoint(0, 0), fileSize);
-    const auto crop = [&region](const Geometry &geometry) {
-        region = geometry.RegionOf(region.size()).translated(region.topLeft());
-        return geometry.orientation == Orientation();
+    Source source{QRect(QPoint(0, 0), fileSize), Orientation()};
+    const auto lay = [&source](const Geometry &geometry) {
+        const QSize seenSize = source.orientation.Map(source.region.size());
+        const QRect inRegion = source.orientation.Inverse().Map(geometry.RegionOf(seenSize), seenSize);
+        source.region = inRegion.translated(source.region.topLeft());
+        source.orientation = Then(source.orientation, geometry.orientation);
     };
     for (const ProcessStep &step : m_steps) {
-        if (!crop(step.before) || ::PixelsJoined(step.process) != 1)
+        if (::PixelsJoined(step.process) != 1)
             return std::nullopt;
+        lay(step.before);
     }
-    if (!crop(m_last))
+    lay(m_last);
+    return source;
+}
+
+std::optional<QRect> PictureEdit::FileRegion(const QSize &fileSize) const
+{
+    const std::optional<Source> source = SourceOf(fileSize);
+    if (!source || source->orientation != Orientation())
         return std::nullopt;
-    return region;
+    return source->region;
 }
 
 SpectralAxis PictureEdit::SeenAxis(const SpectralAxis &ofFile, const QSize &fileSize) const

@@ -40,7 +40,14 @@ public:
     QSize SeenSize(const QSize &fileSize) const;
     /// Pixels of the file, along each side, in a pixel that is seen.
     int PixelsJoined() const;
-    /// The pixels of the file's frame that are seen; nothing when they were turned or joined.
+    struct Source
+    {
+        QRect region; ///< pixels of the file's frame
+        Orientation orientation;
+    };
+    /// What is seen of the file's frame, and how it is laid; nothing when its pixels were joined.
+    std::optional<Source> SourceOf(const QSize &fileSize) const;
+    /// The same; nothing when they were turned either.
     std::optional<QRect> FileRegion(const QSize &fileSize) const;
     /// What the columns that are seen mean, by those of the file; empty when they were turned or joined.
     SpectralAxis SeenAxis(const SpectralAxis &ofFile, const QSize &fileSize) const;

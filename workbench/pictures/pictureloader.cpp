@@ -206,7 +206,8 @@ LoadedPicture PictureLoader::Loaded(const PictureRequest &request)
         loaded.info = file->Info();
         loaded.frames = request.edit.SeenFrames(loaded.info.frames);
         loaded.frameDescription = file->FrameDescription(request.frame);
-        loaded.axis = request.edit.SeenAxis(file->AxisOf(request.frame), loaded.fileSize);
+        loaded.fileAxis = file->AxisOf(request.frame);
+        loaded.axis = request.edit.SeenAxis(loaded.fileAxis, loaded.fileSize);
     });
     loaded.news = m_access.TakeNews(request.file);
     return loaded;

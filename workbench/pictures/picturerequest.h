@@ -43,6 +43,7 @@ struct LoadedPicture
     QString countError; ///< why the objects were not counted
     QImage thumbnail; ///< null unless it was wanted
     SampleRange range;
+    SpectralAxis fileAxis; ///< of the columns of the file; empty when it does not say
     SpectralAxis axis; ///< of the columns as seen; empty without one, or when they were turned or joined
 };
 Q_DECLARE_METATYPE(LoadedPicture)

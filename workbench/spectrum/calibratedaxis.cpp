@@ -38,19 +38,27 @@ void CalibratedAxis::SetSpectrum(int width, const SpectralFrame &frame)
     Fit();
 }
 
-bool CalibratedAxis::AreFramesKnown() const { return !m_calibrated.IsNull() && !m_frame.IsNull(); }
+SpectralFrame CalibratedAxis::Calibrated() const
+{
+    if (!m_frame.IsOfFile() || m_calibrated.IsOfFile())
+        return m_calibrated;
+    SpectralFrame columns;
+    columns.count = columns.fileExtent = m_calibration.Width();
+    return columns;
+}
 
 void CalibratedAxis::Fit()
 {
     m_fitting = SpectralCalibration();
     if (m_calibration.IsNull())
         return;
-    if (!AreFramesKnown()) {
+    const SpectralFrame calibrated = Calibrated();
+    if (m_frame.IsNull()) {
         if (m_calibration.Width() == m_width)
             m_fitting = m_calibration;
-    } else if (m_frame.count == m_width && m_frame.IsWithin(m_calibrated)) { // else its pixels are about to change
-        const double first = m_calibrated.SampleAt(m_frame.OnSensor(0));
-        const double second = m_calibrated.SampleAt(m_frame.OnSensor(1));
+    } else if (m_frame.count == m_width && m_frame.IsWithin(calibrated)) { // else its pixels are about to change
+        const double first = calibrated.SampleAt(m_frame.OnSensor(0));
+        const double second = calibrated.SampleAt(m_frame.OnSensor(1));
         m_fitting = m_calibration.Along(first, second - first, m_width);
     }
 }
@@ -60,7 +68,7 @@ SpectralRecord CalibratedAxis::Record() const
     SpectralRecord record;
     record.coefficients = m_fitting.PixelCoefficients();
     record.width = m_fitting.Width();
-    if (!m_frame.IsNull()) // for programs too: English
+    if (!m_frame.IsNull() && !m_frame.IsOfFile()) // for programs too: English
         record.origin = QString("%1 %2 to %3 of the sensor, binned by %4%5")
                             .arg(m_frame.isAlongRows ? "columns" : "rows").arg(m_frame.first)
                             .arg(m_frame.first + m_frame.count * m_frame.binning - 1).arg(m_frame.binning)
@@ -70,18 +78,22 @@ SpectralRecord CalibratedAxis::Record() const
 
 double CalibratedAxis::PixelHere(double calibrated) const
 {
-    return AreFramesKnown() ? m_frame.SampleAt(m_calibrated.OnSensor(calibrated)) : calibrated;
+    const SpectralFrame made = Calibrated();
+    return m_frame.IsNull() || made.IsNull() ? calibrated : m_frame.SampleAt(made.OnSensor(calibrated));
 }
 
 QString CalibratedAxis::Misfit() const
 {
     if (m_calibration.IsNull() || !m_fitting.IsNull() || m_width <= 0)
         return QString();
-    if (!AreFramesKnown())
+    if (m_frame.IsNull())
         return Text::tr("The calibration was made for spectra of %1 pixels and this one has %2: positions are in pixels.")
             .arg(m_calibration.Width()).arg(m_width);
     if (m_frame.count != m_width)
         return QString();
+    if (m_calibrated.IsNull() || m_calibrated.IsOfFile())
+        return Text::tr("The calibration was made on an opened picture, which does not say what pixels of the sensor it shows: live "
+                        "spectra stay in pixels. Calibrate on a live one to have it there too.");
     if (m_frame.isAlongRows != m_calibrated.isAlongRows)
         return Text::tr("The calibration was made along the other side of the sensor: positions are in pixels. Change the direction or "
                         "rotate the picture back, or calibrate anew.");

@@ -16,8 +16,8 @@ public:
     void SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame);
     void SetFileAxis(const SpectralAxis &axis) { m_fileAxis = axis; }
     void SetUnit(SpectralUnit unit) { m_unit = unit; }
-    /// Of the spectra: their width in pixels, and where they lie on the sensor, null when that is not known; then only
-    /// those as wide as our calibration are taken for calibrated.
+    /// Of the spectra: their width in pixels, and where they lie on the sensor or in their file; null when that is not
+    /// known, and then those as wide as our calibration are taken for calibrated.
     void SetSpectrum(int width, const SpectralFrame &frame);
 
     /// As it was made.
@@ -27,7 +27,7 @@ public:
     const SpectralCalibration &Fitting() const { return m_fitting; }
     /// The same, as a file of pictures carries it; of no coefficients where it does not hold.
     SpectralRecord Record() const;
-    /// Why our own does not hold for these spectra, for the user; empty when it does.
+    /// Why our own does not hold for these live spectra, for the user; empty when it does.
     QString Misfit() const;
     /// The place in these spectra of a pixel of the spectrum that our own was made with.
     double PixelHere(double calibrated) const;
@@ -50,8 +50,9 @@ private:
     double OwnValue(double pixel) const;
     bool HasInverse() const;
     void Fit();
-    /// Both frames are known, and the width is that of its frame.
-    bool AreFramesKnown() const;
+    /// Where our own was made, as these spectra count: an opened picture that does not say where on the sensor it was
+    /// taken is assumed to show what a calibration as wide as its file was made with.
+    SpectralFrame Calibrated() const;
     double FileValue(double pixel) const;
 
     SpectralCalibration m_calibration;

@@ -59,7 +59,7 @@ void CalibrationModel::SetSpectrum(const std::vector<double> &values, const std:
 void CalibrationModel::BelongTo(int width, const SpectralFrame &shown)
 {
     const SpectralFrame frame = shown.count == width ? shown : SpectralFrame();
-    const bool isOther = width != m_width || (!frame.IsNull() && !m_frame.IsNull() && frame != m_frame);
+    const bool isOther = width != m_width || (!frame.IsNull() && frame != m_frame);
     if (isOther) {
         m_points.clear();
         m_before.clear();

@@ -12,23 +12,28 @@ constexpr char PixelKey[] = "pixel";
 constexpr char WavelengthKey[] = "nm";
 constexpr char LineKey[] = "line";
 constexpr char SaturatedKey[] = "saturated";
-constexpr char FrameKey[] = "frame"; // along rows, reversed, first, binning
+constexpr char FrameKey[] = "frame"; // along rows, reversed, first, binning, extent of the file
 constexpr int mostPoints = 1000;
 constexpr int widestFrame = 65535;
 
-QVariantList Numbers(const SpectralFrame &frame) { return {int(frame.isAlongRows), int(frame.isReversed), frame.first, frame.binning}; }
+QVariantList Numbers(const SpectralFrame &frame) 
+{
+    return {int(frame.isAlongRows), int(frame.isReversed), frame.first, frame.binning, frame.fileExtent};
+}
 
 /// Null for what makes no sense.
 SpectralFrame Frame(const QVariantList &numbers, int width)
 {
     SpectralFrame frame;
-    if (numbers.size() != 4)
+    if (numbers.size() < 4)
         return frame;
     frame.isAlongRows = numbers[0].toInt() != 0;
     frame.isReversed = numbers[1].toInt() != 0;
     frame.first = numbers[2].toInt();
     frame.binning = numbers[3].toInt();
-    const bool makesSense = frame.first >= 0 && frame.first <= widestFrame && frame.binning >= 1 && frame.binning <= widestFrame;
+    frame.fileExtent = numbers.value(4).toInt(); // those that were kept before are of a sensor
+    const bool makesSense = frame.first >= 0 && frame.first <= widestFrame && frame.binning >= 1 && frame.binning <= widestFrame
+        && frame.fileExtent >= 0 && frame.fileExtent <= widestFrame;
     frame.count = makesSense ? width : 0;
     return frame;
 }

@@ -32,7 +32,7 @@ double SpectralFrame::SampleAt(double onSensor) const
 
 bool SpectralFrame::IsWithin(const SpectralFrame &other) const
 {
-    if (isAlongRows != other.isAlongRows)
+    if (IsNull() || other.IsNull() || isAlongRows != other.isAlongRows || fileExtent != other.fileExtent)
         return false;
     const double one = other.SampleAt(OnSensor(0));
     const double end = other.SampleAt(OnSensor(count - 1));

@@ -5,10 +5,10 @@
 
 #include <QRect>
 
-/// How the frames of a camera come to be what is seen of them.
+/// How the frames of a camera, or of a file, come to be what is seen of them.
 struct SensorFrame
 {
-    QRect region; ///< sensor pixels, unbinned
+    QRect region; ///< sensor, or file, pixels, unbinned
     int binning = 1;
     Orientation orientation;
 
@@ -18,30 +18,33 @@ struct SensorFrame
     }
 };
 
-/// Where the samples of a spectrum lie on the sensor. A value.
+/// Where the samples of a spectrum lie on the sensor; of an opened picture, where in its file, as nobody knows where on the
+/// sensor that was. A value.
 struct SpectralFrame
 {
     bool isAlongRows = true;  ///< of the sensor, however the picture is turned
     bool isReversed = false;  ///< its first sample is the last one on the sensor
     int first = 0;            ///< the sensor's column, or row, that it begins or, reversed, ends with
     int binning = 1;
-    int count = 0; ///< samples; 0 when nothing is known
+    int count = 0;      ///< samples; 0 when nothing is known
+    int fileExtent = 0; ///< of an opened picture: pixels of its file along that side
 
     /// Of a spectrum that runs along the rows, or the columns, of what is seen.
     static SpectralFrame Of(const SensorFrame &frame, bool isHorizontal);
 
     bool IsNull() const { return count <= 0; }
+    bool IsOfFile() const { return fileExtent > 0; }
     /// Where the middle of a sample is, sensor pixels.
     double OnSensor(double sample) const;
     /// The sample whose middle is there.
     double SampleAt(double onSensor) const;
-    /// Lies within another one, to half a sample of that.
+    /// Lies within another one, to half a sample of that. Files of one size are taken to show the same pixels.
     bool IsWithin(const SpectralFrame &other) const;
 
     bool operator==(const SpectralFrame &other) const
     {
         return isAlongRows == other.isAlongRows && isReversed == other.isReversed && first == other.first
-            && binning == other.binning && count == other.count;
+            && binning == other.binning && count == other.count && fileExtent == other.fileExtent;
     }
     bool operator!=(const SpectralFrame &other) const { return !(*this == other); }
 };

@@ -5,6 +5,7 @@
 #include "displaymode.h"
 #include "plotstyle.h"
 #include "rulerrange.h"
+#include "spectralpicture.h"
 #include "spectrumrecipe.h"
 #include "spectrumuimanager.h"
 
@@ -34,18 +35,18 @@ public:
     /// No tracks, none shown.
     void ClearTracks();
     void SetCorrections(const CorrectionSettings &corrections);
-    /// Of live spectra within `frame`, that of the spectrum it was made with, and of those of files that say nothing
-    /// themselves and are as wide as it; null takes it away. Set while a file with an axis of its own is shown, it takes
-    /// the place of that.
+    /// Of spectra within `frame`, that of the spectrum it was made with: live ones, or those of files of that size that
+    /// say nothing themselves. One that was made live is that of such files as wide as it, too. Null takes it away. Made
+    /// on a file with an axis of its own, which is shown, it takes the place of that.
     void SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame);
     const SpectralCalibration &Calibration() const { return m_liveAxis.Calibration(); }
-    /// Where the samples of the spectrum on the screen lie on the sensor; null for an opened one.
+    /// Where the samples of the spectrum on the screen lie on the sensor, or in the file of the opened one.
     SpectralFrame ShownFrame() const;
     /// nm, wavenumbers or pixels, as far as there is a calibration.
     void SetUnit(SpectralUnit unit);
     SpectralUnit Unit() const { return m_unit; }
-    /// The calibration of the opened file, an empty one for none, and the width of its picture.
-    void SetImageAxis(const SpectralAxis &axis, int width);
+    /// The opened picture as it is seen; of no size without one.
+    void SetImage(const SpectralPicture &picture);
     /// How the camera's frames come to be the live picture. A calibration follows, or is said not to hold.
     void SetSensorFrame(const SensorFrame &frame);
     /// What files of the live picture, or of the opened one, carry of our calibration: it is that of their columns.
@@ -148,7 +149,7 @@ private:
     /// Of what Calculate() gives.
     QString AxisTitle() const;
     SpectralFrame LiveFrame() const;
-    void UseFileAxis();
+    void UpdateImageSpectra();
     void UpdateLiveSpectrum();
     void TellOfMisfit();
 
@@ -162,10 +163,10 @@ private:
     SensorFrame m_sensorFrame;
     CalibratedAxis m_liveAxis;
     QString m_toldMisfit; ///< of m_liveAxis
-    CalibratedAxis m_imageAxis;
-    SpectralAxis m_fileAxis;     ///< of the opened file
-    SpectralAxis m_replacedAxis; ///< of files that ours takes the place of
-    const CalibratedAxis m_plainAxis; ///< pixels
+    SpectralPicture m_image;
+    CalibratedAxis m_imageAxis;       ///< along the rows of the opened picture, as it is seen
+    CalibratedAxis m_imageColumnAxis; ///< along its columns
+    SpectralAxis m_replacedAxis;      ///< of files that ours takes the place of
     SpectralUnit m_unit = SpectralUnit::Nanometre;
     bool m_isImageShown = false;
     bool m_isZoomAutomatic = false;

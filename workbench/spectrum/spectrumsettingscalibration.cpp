@@ -6,22 +6,29 @@ void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, co
 {
     m_liveAxis.SetCalibration(calibration, frame);
     m_imageAxis.SetCalibration(calibration, frame);
-    const bool replaces = m_isImageShown && calibration.Width() == m_fileAxis.values.size();
-    m_replacedAxis = replaces ? m_fileAxis : SpectralAxis();
-    UseFileAxis();
+    m_imageColumnAxis.SetCalibration(calibration, frame);
+    const bool replaces = m_isImageShown && frame.isAlongRows && frame.fileExtent == m_image.fileSize.width();
+    m_replacedAxis = replaces ? m_image.fileAxis : SpectralAxis();
+    UpdateImageSpectra();
     TellOfMisfit();
     AnnounceAxis();
 }
 
-void SpectrumSettings::UseFileAxis()
+/// An axis of a file that does not follow its turns is not that of ours either.
+void SpectrumSettings::UpdateImageSpectra()
 {
-    const bool isReplaced = m_fileAxis == m_replacedAxis;
-    m_imageAxis.SetFileAxis(isReplaced ? SpectralAxis() : m_fileAxis);
+    const bool isReplaced = m_image.fileAxis == m_replacedAxis;
+    const bool isLost = !isReplaced && m_image.axis.IsEmpty() && !m_image.fileAxis.IsEmpty();
+    const SpectralFrame alongRows = isLost ? SpectralFrame() : m_image.Frame(true);
+    const SpectralFrame alongColumns = isLost ? SpectralFrame() : m_image.Frame(false);
+    m_imageAxis.SetFileAxis(isReplaced ? SpectralAxis() : m_image.axis);
+    m_imageAxis.SetSpectrum(alongRows.count, alongRows);
+    m_imageColumnAxis.SetSpectrum(alongColumns.count, alongColumns);
 }
 
 SpectralFrame SpectrumSettings::LiveFrame() const { return SpectralFrame::Of(m_sensorFrame, m_recipe.isHorizontal); }
 
-SpectralFrame SpectrumSettings::ShownFrame() const { return m_isImageShown ? SpectralFrame() : LiveFrame(); }
+SpectralFrame SpectrumSettings::ShownFrame() const { return m_isImageShown ? m_image.Frame(m_recipe.isHorizontal) : LiveFrame(); }
 
 void SpectrumSettings::SetSensorFrame(const SensorFrame &frame)
 {
@@ -57,19 +64,19 @@ void SpectrumSettings::SetUnit(SpectralUnit unit)
     m_unit = unit;
     m_liveAxis.SetUnit(unit);
     m_imageAxis.SetUnit(unit);
+    m_imageColumnAxis.SetUnit(unit);
     emit signalUnitChanged();
     AnnounceAxis();
     if (unit == SpectralUnit::Wavenumber && ShownAxis().Unit() == SpectralUnit::Nanometre)
         emit signalMessage(tr("A wavelength of 0 lies in this spectrum, which has no wavenumber: it is shown in nanometres."));
 }
 
-void SpectrumSettings::SetImageAxis(const SpectralAxis &axis, int width)
+void SpectrumSettings::SetImage(const SpectralPicture &picture)
 {
-    if (m_fileAxis == axis && m_imageAxis.Width() == width)
+    if (m_image == picture)
         return; // the next frame: what is announced asks for the curves anew
-    m_fileAxis = axis;
-    UseFileAxis();
-    m_imageAxis.SetSpectrum(width, SpectralFrame());
+    m_image = picture;
+    UpdateImageSpectra();
     AnnounceAxis();
 }
 
@@ -90,12 +97,12 @@ void SpectrumSettings::AnnounceAxis()
     emit SignalConversationFormulaChanged();
 }
 
-/// A file's axis is that of its columns: a profile along one of them has none.
+/// A file's own axis is that of its columns: a profile along one of them has ours at most.
 const CalibratedAxis &SpectrumSettings::ShownAxis() const
 {
     if (!m_isImageShown)
         return m_liveAxis;
-    return m_recipe.isHorizontal ? m_imageAxis : m_plainAxis;
+    return m_recipe.isHorizontal ? m_imageAxis : m_imageColumnAxis;
 }
 
 bool SpectrumSettings::Calculate(int pixel, double &x) const

@@ -74,6 +74,39 @@ private slots:
         }
     }
 
+    /// A step of processing in between leaves the pixels where they are.
+    void theSourceIsTheRegionOfTheFileAndHowItLies()
+    {
+        const Picture frame = Numbered(17, 11);
+        const int commands = 5; // the three commands, a crop, and a step of processing
+        for (int sequence = 0; sequence < commands * commands * commands * commands * commands; ++sequence) {
+            PictureEdit edit;
+            Picture seen = frame;
+            for (int rest = sequence, step = 0; step < 5; rest /= commands, ++step) {
+                const int command = rest % commands;
+                if (command < 3) {
+                    edit = edit.Turned(command);
+                    seen = Turned(seen, command);
+                } else if (command == 3) {
+                    const QRect crop = QRect(QPoint(0, 0), seen.Size()).adjusted(1, 0, -1, -1);
+                    edit = edit.Cropped(crop, frame.Size());
+                    seen = Part(seen, crop);
+                } else {
+                    edit = edit.Processed(DenoiseSettings());
+                }
+            }
+            const PictureEdit::Source source = edit.SourceOf(frame.Size()).value();
+            QCOMPARE(source.orientation.Map(source.region.size()), seen.Size());
+            for (int y = source.region.top(); y <= source.region.bottom(); ++y) {
+                for (int x = source.region.left(); x <= source.region.right(); ++x) {
+                    const QPoint place = source.orientation.Map(QPoint(x, y) - source.region.topLeft(), source.region.size());
+                    QCOMPARE(seen.Samples<quint16>(place.y())[place.x()], frame.Samples<quint16>(y)[x]);
+                }
+            }
+        }
+        QVERIFY(!PictureEdit().Processed(BinningSettings()).SourceOf(frame.Size()));
+    }
+
     void aCropOutsideOrOfEverythingIsNone()
     {
         const QSize size(8, 6);

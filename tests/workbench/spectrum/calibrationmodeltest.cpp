@@ -37,6 +37,7 @@ private slots:
     void aSpectrumOfAnotherWidthBeginsAnew();
     void aSpectrumOfOtherPixelsBeginsAnew();
     void whereItWasMadeIsKept();
+    void thatItWasMadeOnAFileIsKept();
 
 private:
     std::unique_ptr<CalibrationModel> Model() { return std::make_unique<CalibrationModel>(m_settings.get(), m_stored.get()); }
@@ -383,6 +384,33 @@ void CalibrationModelTest::whereItWasMadeIsKept()
     QVERIFY(m_settings->Calculate(width - 1 - 100, again));
     QVERIFY2(std::abs(again - nm) < 1e-9, qPrintable(QString::number(again)));
     m_settings->SetSensorFrame({QRect(65, 0, width, 100), 1, Orientation()});
+    QVERIFY(!m_settings->Calculate(100, again));
+}
+
+void CalibrationModelTest::thatItWasMadeOnAFileIsKept()
+{
+    const QSize size(width, 100);
+    m_settings->SetSensorFrame({QRect(QPoint(0, 0), size), 1, Orientation()});
+    auto model = Model();
+    model->SetSpectrum(HgLamp());
+    model->AddPoint(PixelOf(hgViolet), hgViolet);
+    m_settings->SetImage({size, QRect(QPoint(0, 0), size), Orientation(), SpectralAxis(), SpectralAxis()});
+    m_settings->slotSetImageShown(true);
+    model->SetSpectrum(HgLamp());
+    QVERIFY(model->Points().isEmpty()); // that one was of a live spectrum
+    model->SetDegree(1);
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->AddPoint(PixelOf(hgGreen), hgGreen);
+    QVERIFY(model->Apply());
+    double nm = 0;
+    QVERIFY(m_settings->Calculate(100, nm));
+
+    m_settings->SetCalibration(SpectralCalibration(), SpectralFrame());
+    model = Model();
+    double again = 0;
+    QVERIFY(m_settings->Calculate(100, again));
+    QCOMPARE(again, nm);
+    m_settings->slotSetImageShown(false);
     QVERIFY(!m_settings->Calculate(100, again));
 }
 

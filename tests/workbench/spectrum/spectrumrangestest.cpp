@@ -12,6 +12,13 @@
 
 namespace {
 
+/// A picture of `width` columns as it is in its file.
+SpectralPicture Opened(const SpectralAxis &axis, int width)
+{
+    const QSize size(width, 200);
+    return {size, QRect(QPoint(0, 0), size), Orientation(), axis, axis};
+}
+
 /// A spectrum whose pixels are half a nanometre, from 400 nm on.
 class CalibratedSettings : public SpectrumSettings
 {
@@ -151,7 +158,7 @@ void SpectrumRangesTest::rulersCountInTheirCalibration()
     settings.SetMode(DisplayMode::Physics);
     settings.slotSetImageShown(true);
     settings.SetUnit(SpectralUnit(unit));
-    settings.SetImageAxis(axis, 1001);
+    settings.SetImage(Opened(axis, 1001));
     parts.imageH.clear();
     settings.SlotImageNewArea(left, right, 10, 200);
     QVERIFY(!parts.imageH.isEmpty());
@@ -170,7 +177,7 @@ void SpectrumRangesTest::titleFollowsTheZoom()
     axis.unit = SpectralUnit::Nanometre;
     axis.values = { 400, 400.5 };
     settings.slotSetImageShown(true);
-    settings.SetImageAxis(axis, 1000);
+    settings.SetImage(Opened(axis, 1000));
     QCOMPARE(settings.GetTitleName(), QString("Wavelength [nm]"));
     const QSignalSpy titles(&settings, &SpectrumUIManager::signalDisplayModePropertyChange);
     settings.SlotImageNewArea(0, 1000, 0, 200);
@@ -196,16 +203,16 @@ void SpectrumRangesTest::theSameAxisIsAnnouncedOnce()
     axis.unit = SpectralUnit::Nanometre;
     axis.values = { 400, 401, 402 };
     for (int frame = 0; frame < 3; ++frame) {
-        settings.SetImageAxis(axis, 3);
+        settings.SetImage(Opened(axis, 3));
         QCOMPARE(titles.count(), 1);
     }
     axis.values[2] = 403;
-    settings.SetImageAxis(axis, 3);
+    settings.SetImage(Opened(axis, 3));
     QCOMPARE(titles.count(), 2);
-    settings.SetImageAxis(axis, 4);
+    settings.SetImage(Opened(axis, 4));
     QCOMPARE(titles.count(), 3);
     axis.unit = SpectralUnit::RamanShift;
-    settings.SetImageAxis(axis, 4);
+    settings.SetImage(Opened(axis, 4));
     QCOMPARE(titles.count(), 4);
 }
 

@@ -38,6 +38,10 @@ private slots:
     void anAxisThroughZeroStaysInNanometres();
     void aFileThatSaysNothingIsCalibratedByOurs();
     void oursTakesThePlaceOfAFilesOwnWhenItWasMadeOnIt();
+    void aCalibrationMadeOnAFileIsNotThatOfLiveSpectra();
+    void aCalibrationMadeOnAFileFollowsItsPixels_data();
+    void aCalibrationMadeOnAFileFollowsItsPixels();
+    void anAxisThatDoesNotFollowATurnIsNotReplacedByOurs();
     void spectraAlongTheColumnsAreAsLongAsThose();
     void whatAFileSaysOfItsAreaIsChecked_data();
     void whatAFileSaysOfItsAreaIsChecked();
@@ -57,6 +61,13 @@ private:
 };
 
 namespace {
+
+/// A picture of `width` columns as it is in its file.
+SpectralPicture Opened(const SpectralAxis &axis, int width)
+{
+    const QSize size(width, 200);
+    return {size, QRect(QPoint(0, 0), size), Orientation(), axis, axis};
+}
 
 /// 400 + 0.25 nm a pixel on 1000 pixels.
 SpectralCalibration Straight()
@@ -351,7 +362,7 @@ void SpectrumSettingsTest::theAxisOfAFileIsThatOfItsPage()
     SpectralAxis axis;
     axis.unit = SpectralUnit::RamanShift;
     axis.values = {100, 110, 125};
-    m_settings->SetImageAxis(axis, 3);
+    m_settings->SetImage(Opened(axis, 3));
     double x = 0;
     QVERIFY(!m_settings->Calculate(1, x));
     m_settings->slotSetImageShown(true);
@@ -364,7 +375,7 @@ void SpectrumSettingsTest::theAxisOfAFileIsThatOfItsPage()
     QVERIFY(!m_settings->Calculate(1, x)); // its rows have no wavelengths
     QCOMPARE(m_settings->GetTitleName(), QString("Pixel Number"));
     m_settings->SetHorizontal(true);
-    m_settings->SetImageAxis(SpectralAxis(), 3);
+    m_settings->SetImage(Opened(SpectralAxis(), 3));
     QVERIFY(!m_settings->Calculate(1, x));
 }
 
@@ -373,7 +384,7 @@ void SpectrumSettingsTest::anAxisThroughZeroStaysInNanometres()
     SpectralAxis axis;
     axis.unit = SpectralUnit::Nanometre;
     axis.values = {-10, 0, 10, 20};
-    m_settings->SetImageAxis(axis, 4);
+    m_settings->SetImage(Opened(axis, 4));
     m_settings->slotSetImageShown(true);
     QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
     m_settings->SetUnit(SpectralUnit::Wavenumber);
@@ -384,7 +395,7 @@ void SpectrumSettingsTest::anAxisThroughZeroStaysInNanometres()
     QCOMPARE(x, 10.0);
     // Beyond zero there is a wavenumber for every pixel.
     axis.values = {400, 500, 625, 800};
-    m_settings->SetImageAxis(axis, 4);
+    m_settings->SetImage(Opened(axis, 4));
     QCOMPARE(m_settings->GetTitleName(), QString("Wavenumber [1/cm]"));
     QVERIFY(m_settings->Calculate(2, x));
     QCOMPARE(x, 16000.0);
@@ -398,13 +409,13 @@ void SpectrumSettingsTest::aFileThatSaysNothingIsCalibratedByOurs()
     m_settings->SetCalibration(Straight(), SpectralFrame());
     m_settings->slotSetImageShown(true);
     double x = 0;
-    m_settings->SetImageAxis(SpectralAxis(), 1000);
+    m_settings->SetImage(Opened(SpectralAxis(), 1000));
     QCOMPARE(m_settings->GetTitleName(), QString("Wavelength [nm], by the calibration in use"));
     QVERIFY(m_settings->Calculate(200, x));
     QVERIFY(std::abs(x - 450) < 1e-9);
-    m_settings->SetImageAxis(SpectralAxis(), 999);
+    m_settings->SetImage(Opened(SpectralAxis(), 999));
     QVERIFY(!m_settings->Calculate(200, x));
-    m_settings->SetImageAxis(ofFile, 1000);
+    m_settings->SetImage(Opened(ofFile, 1000));
     QCOMPARE(m_settings->GetTitleName(), QString("Wavelength [nm]"));
     QVERIFY(m_settings->Calculate(1, x));
     QCOMPARE(x, 110.0);
@@ -416,26 +427,114 @@ void SpectrumSettingsTest::oursTakesThePlaceOfAFilesOwnWhenItWasMadeOnIt()
     wrong.unit = SpectralUnit::Nanometre;
     for (int pixel = 0; pixel < 1000; ++pixel)
         wrong.values << 100 + pixel;
-    m_settings->SetImageAxis(wrong, 1000);
+    m_settings->SetImage(Opened(wrong, 1000));
     m_settings->slotSetImageShown(true);
     double x = 0;
-    m_settings->SetCalibration(Straight(), SpectralFrame());
+    m_settings->SetCalibration(Straight(), m_settings->ShownFrame());
     QVERIFY(m_settings->Calculate(200, x));
     QVERIFY2(std::abs(x - 450) < 1e-9, qPrintable(QString::number(x)));
-    m_settings->SetImageAxis(wrong, 1000); // its next frame
+    m_settings->SetImage(Opened(wrong, 1000)); // its next frame
     QVERIFY(m_settings->Calculate(200, x));
     QVERIFY(std::abs(x - 450) < 1e-9);
     QVERIFY(!m_settings->ImageCalibration().isEmpty()); // saved with it
     SpectralAxis other = wrong;
     other.values[999] = 2000;
-    m_settings->SetImageAxis(other, 1000);
+    m_settings->SetImage(Opened(other, 1000));
     QVERIFY(m_settings->Calculate(200, x));
     QCOMPARE(x, 300.0);
     QVERIFY(m_settings->ImageCalibration().isEmpty());
-    m_settings->SetImageAxis(wrong, 1000);
+    m_settings->SetImage(Opened(wrong, 1000));
     m_settings->SetCalibration(SpectralCalibration(), SpectralFrame()); // taken away: the file's is back
     QVERIFY(m_settings->Calculate(200, x));
     QCOMPARE(x, 300.0);
+}
+
+/// Nobody knows which pixels of the sensor the picture shows, or whether it was mirrored when it was taken.
+void SpectrumSettingsTest::aCalibrationMadeOnAFileIsNotThatOfLiveSpectra()
+{
+    const QSize size(1000, 1000);
+    Show({QRect(QPoint(0, 0), size), 1, Orientation()});
+    m_settings->SetImage(Opened(SpectralAxis(), 1000));
+    m_settings->slotSetImageShown(true);
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    m_settings->SetCalibration(Straight(), m_settings->ShownFrame());
+    QCOMPARE(told.count(), 1);
+    QVERIFY2(told[0][0].toString().contains("was made on an opened picture"), qPrintable(told[0][0].toString()));
+    double x = 0;
+    QVERIFY(m_settings->Calculate(200, x));
+    QVERIFY(std::abs(x - 450) < 1e-9);
+    m_settings->slotSetImageShown(false);
+    for (const Orientation &orientation : {Orientation(), Orientation().FlippedHorizontally()}) {
+        Show({QRect(QPoint(0, 0), size), 1, orientation});
+        QVERIFY(!m_settings->Calculate(200, x));
+        QVERIFY(m_settings->LiveCalibration().isEmpty());
+    }
+    QCOMPARE(told.count(), 1);
+    // One that was made live is assumed to be that of files as wide, as their title says.
+    m_settings->SetCalibration(Straight(), m_settings->ShownFrame());
+    m_settings->slotSetImageShown(true);
+    QVERIFY(m_settings->Calculate(200, x));
+    QVERIFY(std::abs(x - 450) < 1e-9);
+    QCOMPARE(m_settings->GetTitleName(), QString("Wavelength [nm], by the calibration in use"));
+}
+
+void SpectrumSettingsTest::aCalibrationMadeOnAFileFollowsItsPixels_data()
+{
+    QTest::addColumn<QRect>("region");
+    QTest::addColumn<bool>("mirrored");
+    QTest::addColumn<int>("turns");
+    QTest::addColumn<bool>("horizontal");
+    QTest::addColumn<double>("first"); // nm
+    QTest::addColumn<double>("step");
+    const QRect whole(0, 0, 1000, 200);
+    QTest::newRow("as it was") << whole << false << 0 << true << 400.0 << 0.25;
+    QTest::newRow("mirrored") << whole << true << 0 << true << 649.75 << -0.25;
+    QTest::newRow("cropped") << QRect(300, 10, 400, 50) << false << 0 << true << 475.0 << 0.25;
+    QTest::newRow("cropped and mirrored") << QRect(300, 10, 400, 50) << true << 0 << true << 574.75 << -0.25;
+    QTest::newRow("a quarter, along the columns") << whole << false << 1 << false << 400.0 << 0.25;
+    QTest::newRow("a quarter to the left") << whole << false << 3 << false << 649.75 << -0.25;
+    QTest::newRow("across") << whole << false << 0 << false << 0.0 << 0.0;
+    QTest::newRow("a quarter, across") << whole << false << 1 << true << 0.0 << 0.0;
+}
+
+void SpectrumSettingsTest::aCalibrationMadeOnAFileFollowsItsPixels()
+{
+    QFETCH(QRect, region);
+    QFETCH(bool, mirrored);
+    QFETCH(int, turns);
+    QFETCH(bool, horizontal);
+    QFETCH(double, first);
+    QFETCH(double, step);
+    m_settings->SetImage(Opened(SpectralAxis(), 1000));
+    m_settings->slotSetImageShown(true);
+    m_settings->SetCalibration(Straight(), m_settings->ShownFrame());
+    m_settings->SetHorizontal(horizontal);
+    m_settings->SetImage({QSize(1000, 200), region, Orientation(mirrored, turns), SpectralAxis(), SpectralAxis()});
+    const CalibratedAxis &axis = m_settings->ShownAxis();
+    QCOMPARE(axis.Width(), horizontal != (turns == 1 || turns == 3) ? region.width() : region.height());
+    QCOMPARE(axis.IsCalibrated(), step != 0);
+    for (const int pixel : {0, 1, 77, axis.Width() - 1}) {
+        double nm = 0;
+        QCOMPARE(m_settings->Calculate(pixel, nm), step != 0);
+        const double expected = step != 0 ? first + step * pixel : pixel;
+        QVERIFY2(std::abs(nm - expected) < 1e-9, qPrintable(QString("%1: %2").arg(pixel).arg(nm, 0, 'f', 6)));
+    }
+    QCOMPARE(!m_settings->ImageCalibration().isEmpty(), step != 0 && horizontal); // saved with it
+}
+
+/// It stays in pixels rather than in the nanometres of another.
+void SpectrumSettingsTest::anAxisThatDoesNotFollowATurnIsNotReplacedByOurs()
+{
+    SpectralPicture turned = Opened(SpectralAxis(), 1000);
+    turned.orientation = Orientation().FlippedHorizontally();
+    turned.fileAxis.unit = SpectralUnit::Nanometre;
+    for (int pixel = 0; pixel < 1000; ++pixel)
+        turned.fileAxis.values << 100 + pixel;
+    m_settings->SetCalibration(Straight(), SpectralFrame());
+    m_settings->slotSetImageShown(true);
+    m_settings->SetImage(turned);
+    double x = 0;
+    QVERIFY(!m_settings->Calculate(200, x));
 }
 
 void SpectrumSettingsTest::spectraAlongTheColumnsAreAsLongAsThose()

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "orientation.h"
+#include "spectralaxis.h"
+#include "spectralframe.h"
+
+#include <QRect>
+
+/// What spectra need to know of the opened picture: how its file comes to be what is seen of it. A value.
+struct SpectralPicture
+{
+    QSize fileSize;
+    QRect region; ///< that is seen, pixels of the file; null when that is not known
+    Orientation orientation;
+    SpectralAxis fileAxis; ///< of the columns of the file; empty when it does not say
+    SpectralAxis axis;     ///< the same of the columns that are seen; empty when they were turned
+
+    /// Of a spectrum that runs along the rows, or the columns, of what is seen.
+    SpectralFrame Frame(bool isHorizontal) const;
+
+    bool operator==(const SpectralPicture &other) const
+    {
+        return fileSize == other.fileSize && region == other.region && orientation == other.orientation
+            && fileAxis == other.fileAxis && axis == other.axis;
+    }
+};
