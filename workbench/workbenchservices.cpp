@@ -65,7 +65,7 @@ QString RegisterFolder(const QSettings &settings)
 SpectralPicture SpectralPictureOf(const LoadedPicture &shown)
 {
     const PictureEdit::Source source = shown.request.edit.SourceOf(shown.fileSize).value_or(PictureEdit::Source());
-    return {shown.fileSize, source.region, source.orientation, shown.fileAxis, shown.axis};
+    return {shown.request.file.id, shown.fileSize, source.region, source.orientation, shown.fileAxis, shown.axis};
 }
 
 QString RepairText(const RepairedRun &run)

@@ -10,6 +10,7 @@
 /// What spectra need to know of the opened picture: how its file comes to be what is seen of it. A value.
 struct SpectralPicture
 {
+    quint64 file = 0; ///< tells the opened files apart
     QSize fileSize;
     QRect region; ///< that is seen, pixels of the file; null when that is not known
     Orientation orientation;
@@ -19,7 +20,10 @@ struct SpectralPicture
     /// Of a spectrum that runs along the rows, or the columns, of what is seen.
     SpectralFrame Frame(bool isHorizontal) const;
 
-    bool operator==(const SpectralPicture &other) const
+    /// A frame of the same file, with the same meaning of its columns, however it is turned and cropped.
+    bool IsOfSameColumns(const SpectralPicture &other) const { return file == other.file && fileAxis == other.fileAxis; }
+    /// The same, whichever file it is of.
+    bool IsLike(const SpectralPicture &other) const
     {
         return fileSize == other.fileSize && region == other.region && orientation == other.orientation
             && fileAxis == other.fileAxis && axis == other.axis;

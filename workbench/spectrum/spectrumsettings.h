@@ -150,6 +150,7 @@ private:
     QString AxisTitle() const;
     SpectralFrame LiveFrame() const;
     void UpdateImageSpectra();
+    bool IsAxisReplaced() const;
     void UpdateLiveSpectrum();
     void TellOfMisfit();
 
@@ -166,7 +167,7 @@ private:
     SpectralPicture m_image;
     CalibratedAxis m_imageAxis;       ///< along the rows of the opened picture, as it is seen
     CalibratedAxis m_imageColumnAxis; ///< along its columns
-    SpectralAxis m_replacedAxis;      ///< of files that ours takes the place of
+    SpectralPicture m_replaced;       ///< the one with an axis that ours takes the place of
     SpectralUnit m_unit = SpectralUnit::Nanometre;
     bool m_isImageShown = false;
     bool m_isZoomAutomatic = false;

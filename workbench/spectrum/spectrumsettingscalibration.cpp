@@ -8,16 +8,18 @@ void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, co
     m_imageAxis.SetCalibration(calibration, frame);
     m_imageColumnAxis.SetCalibration(calibration, frame);
     const bool replaces = m_isImageShown && frame.isAlongRows && frame.fileExtent == m_image.fileSize.width();
-    m_replacedAxis = replaces ? m_image.fileAxis : SpectralAxis();
+    m_replaced = replaces ? m_image : SpectralPicture();
     UpdateImageSpectra();
     TellOfMisfit();
     AnnounceAxis();
 }
 
+bool SpectrumSettings::IsAxisReplaced() const { return m_image.IsOfSameColumns(m_replaced); }
+
 /// An axis of a file that does not follow its turns is not that of ours either.
 void SpectrumSettings::UpdateImageSpectra()
 {
-    const bool isReplaced = m_image.fileAxis == m_replacedAxis;
+    const bool isReplaced = IsAxisReplaced();
     const bool isLost = !isReplaced && m_image.axis.IsEmpty() && !m_image.fileAxis.IsEmpty();
     const SpectralFrame alongRows = isLost ? SpectralFrame() : m_image.Frame(true);
     const SpectralFrame alongColumns = isLost ? SpectralFrame() : m_image.Frame(false);
@@ -73,11 +75,13 @@ void SpectrumSettings::SetUnit(SpectralUnit unit)
 
 void SpectrumSettings::SetImage(const SpectralPicture &picture)
 {
-    if (m_image == picture)
-        return; // the next frame: what is announced asks for the curves anew
+    const bool isSameButTheFile = m_image.IsLike(picture);
+    const bool wasReplaced = IsAxisReplaced();
     m_image = picture;
     UpdateImageSpectra();
-    AnnounceAxis();
+    // Not for the next frame: what is announced asks for the curves anew.
+    if (!isSameButTheFile || IsAxisReplaced() != wasReplaced)
+        AnnounceAxis();
 }
 
 void SpectrumSettings::slotSetImageShown(bool shown)

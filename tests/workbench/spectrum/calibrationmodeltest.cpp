@@ -394,7 +394,7 @@ void CalibrationModelTest::thatItWasMadeOnAFileIsKept()
     auto model = Model();
     model->SetSpectrum(HgLamp());
     model->AddPoint(PixelOf(hgViolet), hgViolet);
-    m_settings->SetImage({size, QRect(QPoint(0, 0), size), Orientation(), SpectralAxis(), SpectralAxis()});
+    m_settings->SetImage({1, size, QRect(QPoint(0, 0), size), Orientation(), SpectralAxis(), SpectralAxis()});
     m_settings->slotSetImageShown(true);
     model->SetSpectrum(HgLamp());
     QVERIFY(model->Points().isEmpty()); // that one was of a live spectrum

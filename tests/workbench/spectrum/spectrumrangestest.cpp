@@ -16,7 +16,7 @@ namespace {
 SpectralPicture Opened(const SpectralAxis &axis, int width)
 {
     const QSize size(width, 200);
-    return {size, QRect(QPoint(0, 0), size), Orientation(), axis, axis};
+    return {1, size, QRect(QPoint(0, 0), size), Orientation(), axis, axis};
 }
 
 /// A spectrum whose pixels are half a nanometre, from 400 nm on.
@@ -206,6 +206,10 @@ void SpectrumRangesTest::theSameAxisIsAnnouncedOnce()
         settings.SetImage(Opened(axis, 3));
         QCOMPARE(titles.count(), 1);
     }
+    SpectralPicture another = Opened(axis, 3);
+    another.file = 2;
+    settings.SetImage(another);
+    QCOMPARE(titles.count(), 1);
     axis.values[2] = 403;
     settings.SetImage(Opened(axis, 3));
     QCOMPARE(titles.count(), 2);

@@ -41,6 +41,7 @@ private slots:
     void aCalibrationMadeOnAFileIsNotThatOfLiveSpectra();
     void aCalibrationMadeOnAFileFollowsItsPixels_data();
     void aCalibrationMadeOnAFileFollowsItsPixels();
+    void oursTakesThePlaceOfThatOfOneFileOnly();
     void anAxisThatDoesNotFollowATurnIsNotReplacedByOurs();
     void spectraAlongTheColumnsAreAsLongAsThose();
     void whatAFileSaysOfItsAreaIsChecked_data();
@@ -66,7 +67,7 @@ namespace {
 SpectralPicture Opened(const SpectralAxis &axis, int width)
 {
     const QSize size(width, 200);
-    return {size, QRect(QPoint(0, 0), size), Orientation(), axis, axis};
+    return {1, size, QRect(QPoint(0, 0), size), Orientation(), axis, axis};
 }
 
 /// 400 + 0.25 nm a pixel on 1000 pixels.
@@ -509,7 +510,7 @@ void SpectrumSettingsTest::aCalibrationMadeOnAFileFollowsItsPixels()
     m_settings->slotSetImageShown(true);
     m_settings->SetCalibration(Straight(), m_settings->ShownFrame());
     m_settings->SetHorizontal(horizontal);
-    m_settings->SetImage({QSize(1000, 200), region, Orientation(mirrored, turns), SpectralAxis(), SpectralAxis()});
+    m_settings->SetImage({1, QSize(1000, 200), region, Orientation(mirrored, turns), SpectralAxis(), SpectralAxis()});
     const CalibratedAxis &axis = m_settings->ShownAxis();
     QCOMPARE(axis.Width(), horizontal != (turns == 1 || turns == 3) ? region.width() : region.height());
     QCOMPARE(axis.IsCalibrated(), step != 0);
@@ -520,6 +521,34 @@ void SpectrumSettingsTest::aCalibrationMadeOnAFileFollowsItsPixels()
         QVERIFY2(std::abs(nm - expected) < 1e-9, qPrintable(QString("%1: %2").arg(pixel).arg(nm, 0, 'f', 6)));
     }
     QCOMPARE(!m_settings->ImageCalibration().isEmpty(), step != 0 && horizontal); // saved with it
+}
+
+/// Files that were recorded one after the other say the same.
+void SpectrumSettingsTest::oursTakesThePlaceOfThatOfOneFileOnly()
+{
+    SpectralAxis own;
+    own.unit = SpectralUnit::Nanometre;
+    for (int pixel = 0; pixel < 1000; ++pixel)
+        own.values << 100 + pixel;
+    SpectralPicture first = Opened(own, 1000);
+    SpectralPicture second = first;
+    second.file = first.file + 1;
+    m_settings->SetImage(first);
+    m_settings->slotSetImageShown(true);
+    m_settings->SetCalibration(Straight(), m_settings->ShownFrame());
+    const auto shown = [this] {
+        double nm = 0;
+        return m_settings->Calculate(200, nm) ? qRound(nm) : -1;
+    };
+    QCOMPARE(shown(), 450);
+    m_settings->SetImage(second);
+    QCOMPARE(shown(), 300);
+    m_settings->SetImage(first);
+    QCOMPARE(shown(), 450);
+    first.region = QRect(100, 0, 300, 200); // a part of it is another picture, but no other file
+    first.axis.values = own.values.mid(100, 300);
+    m_settings->SetImage(first);
+    QCOMPARE(shown(), 475);
 }
 
 /// It stays in pixels rather than in the nanometres of another.
