@@ -32,6 +32,30 @@ void Read(double (*read)(ArvCamera *, GError **), ArvCamera *camera, double *val
     if (!failure->IsSet())
         *value = told;
 }
+
+void ReadControl(void (*readBounds)(ArvCamera *, double *, double *, GError **),
+                 double (*readValue)(ArvCamera *, GError **), ArvCamera *camera, ValueRange *range, double *value)
+{
+    AravisError failure;
+    ValueRange told;
+    readBounds(camera, &told.minimum, &told.maximum, failure.Receive());
+    if (!failure.IsSet() && told.minimum <= told.maximum)
+        *range = told;
+    Read(readValue, camera, value, &failure);
+}
+
+void ReadAutomatic(gboolean (*isAvailable)(ArvCamera *, GError **), ArvAuto (*read)(ArvCamera *, GError **),
+                   ArvCamera *camera, bool *isThere, bool *isOn)
+{
+    AravisError failure;
+    const bool isThereNow = isAvailable(camera, failure.Receive());
+    if (failure.IsSet())
+        return;
+    *isThere = isThereNow;
+    const bool isOnNow = isThereNow && read(camera, failure.Receive()) != ARV_AUTO_OFF;
+    if (!failure.IsSet())
+        *isOn = isOnNow;
+}
 } // namespace
 
 CameraControls::CameraControls(ArvCamera *camera, SimulatedSensor *sensor, std::function<bool()> canReach)
@@ -39,41 +63,48 @@ CameraControls::CameraControls(ArvCamera *camera, SimulatedSensor *sensor, std::
     , m_sensor(sensor)
     , m_canReach(std::move(canReach))
 {
-    ReadRanges();
-    if (!m_sensor)
-        ReadAutomatics();
+    ReadFrameRate();
+    ReadAll();
     if (m_values.frameRateRange.IsAdjustable())
         ApplyFrameRate(
             nullptr); // the camera may have been left with an exposure longer than its frame period
 }
 
-void CameraControls::ReadRanges()
-{
-    if (arv_camera_is_exposure_time_available(m_camera, nullptr)) {
-        ValueRange &range = m_values.exposureRangeUs;
-        arv_camera_get_exposure_time_bounds(m_camera, &range.minimum, &range.maximum, nullptr);
-        m_values.exposureUs = arv_camera_get_exposure_time(m_camera, nullptr);
-    }
-    if (arv_camera_is_gain_available(m_camera, nullptr)) {
-        ValueRange &range = m_values.gainRange;
-        arv_camera_get_gain_bounds(m_camera, &range.minimum, &range.maximum, nullptr);
-        m_values.gain = arv_camera_get_gain(m_camera, nullptr);
-    }
-    if (arv_camera_is_frame_rate_available(m_camera, nullptr)) {
-        ValueRange &range = m_values.frameRateRange;
-        arv_camera_get_frame_rate_bounds(m_camera, &range.minimum, &range.maximum, nullptr);
-        m_values.frameRate = m_wishedRate = arv_camera_get_frame_rate(m_camera, nullptr);
-    }
-}
-
-void CameraControls::ReadAutomatics()
+/// But for the frame rate.
+void CameraControls::ReadAll()
 {
     ControlValues &values = m_values;
-    values.hasAutoExposure = arv_camera_is_exposure_auto_available(m_camera, nullptr);
-    values.isAutoExposure =
-        values.hasAutoExposure && arv_camera_get_exposure_time_auto(m_camera, nullptr) != ARV_AUTO_OFF;
-    values.hasAutoGain = arv_camera_is_gain_auto_available(m_camera, nullptr);
-    values.isAutoGain = values.hasAutoGain && arv_camera_get_gain_auto(m_camera, nullptr) != ARV_AUTO_OFF;
+    if (arv_camera_is_exposure_time_available(m_camera, nullptr))
+        ReadControl(arv_camera_get_exposure_time_bounds, arv_camera_get_exposure_time, m_camera,
+                    &values.exposureRangeUs, &values.exposureUs);
+    if (arv_camera_is_gain_available(m_camera, nullptr))
+        ReadControl(arv_camera_get_gain_bounds, arv_camera_get_gain, m_camera, &values.gainRange, &values.gain);
+    if (m_sensor)
+        return; // nothing goes by itself
+    ReadAutomatic(arv_camera_is_exposure_auto_available, arv_camera_get_exposure_time_auto, m_camera,
+                  &values.hasAutoExposure, &values.isAutoExposure);
+    ReadAutomatic(arv_camera_is_gain_auto_available, arv_camera_get_gain_auto, m_camera, &values.hasAutoGain,
+                  &values.isAutoGain);
+}
+
+/// Another one than was known is what somebody has wished.
+void CameraControls::ReadFrameRate()
+{
+    if (!arv_camera_is_frame_rate_available(m_camera, nullptr))
+        return;
+    double told = m_values.frameRate;
+    ReadControl(arv_camera_get_frame_rate_bounds, arv_camera_get_frame_rate, m_camera, &m_values.frameRateRange, &told);
+    if (told != m_values.frameRate)
+        m_values.frameRate = m_wishedRate = told;
+}
+
+void CameraControls::ReadAgain()
+{
+    if (!m_canReach())
+        return;
+    ReadAll();
+    if (!m_sensor)
+        ReadFrameRate(); // the simulated camera's own rate is that of its ticks
 }
 
 void CameraControls::Refresh()

@@ -32,10 +32,12 @@ public:
     bool SetFrameRate(double framesPerSecond, QString *error = nullptr);
     /// Asks the camera anew for what it may have changed by itself. Fails silently: the values stay.
     void Refresh();
+    /// Asks the camera anew for all of it, limits too: something else may have set it.
+    void ReadAgain();
 
 private:
-    void ReadRanges();
-    void ReadAutomatics();
+    void ReadAll();
+    void ReadFrameRate();
     bool ApplyFrameRate(QString *error);
     bool CanReach(const QString &setting, QString *error) const;
 

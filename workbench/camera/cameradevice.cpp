@@ -196,6 +196,7 @@ CameraDevice::StartFault CameraDevice::CreateStream()
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_receiver = std::move(receiver);
     }
+    m_streamBytes = frameBytes;
     if (m_stream)
         return {};
     DropStream();
@@ -275,4 +276,23 @@ CameraDevice::ChangeFormat(const std::function<bool(CameraFormat &format, QStrin
     if (wasAcquiring)
         result.startFault = Resume(m_startedRun);
     return result;
+}
+
+CameraDevice::FormatChange CameraDevice::ReadAgain()
+{
+    FormatChange unchanged;
+    AravisError failure;
+    // One that does not answer would keep each of many calls waiting.
+    const size_t frameBytes = IsLost() ? 0 : m_format->FrameBytes(&failure);
+    if (IsLost() || failure.IsSet())
+        return unchanged;
+    const FormatValues before = m_format->Values();
+    const bool isKnown = m_format->ReadAgain();
+    m_controls->ReadAgain();
+    const bool hasSameFrames = isKnown && m_format->Values().HasSameFrames(before);
+    if (hasSameFrames && (!m_stream || frameBytes == m_streamBytes))
+        return unchanged;
+    return ChangeFormat([isKnown, layout = before.layout](CameraFormat &format, QString *error) {
+        return isKnown || format.TakeBack(layout, error);
+    });
 }

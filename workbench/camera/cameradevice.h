@@ -74,6 +74,8 @@ public:
     };
     /// Interrupts the frames and goes on with their new size, unless another sink was set meanwhile.
     FormatChange ChangeFormat(const std::function<bool(CameraFormat &format, QString *error)> &change);
+    /// Reads all settings and limits, which something else may have changed; frames of another size or kind go on as such.
+    FormatChange ReadAgain();
 
 private:
     struct LossWatch;
@@ -97,6 +99,7 @@ private:
     std::unique_ptr<CameraControls> m_controls;
     std::unique_ptr<CameraFormat> m_format;
     ArvStream *m_stream = nullptr;
+    size_t m_streamBytes = 0; ///< of a frame that it takes
     bool m_isAcquiring = false;
     int m_startedRun = 0; ///< the one that Start() has begun; a newer one waits for its own
 

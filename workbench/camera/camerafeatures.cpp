@@ -8,6 +8,8 @@
 
 #include <QSet>
 
+#include <utility>
+
 namespace {
 constexpr int RefreshMs = 3000;
 /// So many are read before somebody else may talk to the camera.
@@ -60,10 +62,9 @@ void CameraFeatures::slotCameraStateChanged()
         emit signalRead({});
 }
 
-bool CameraFeatures::TakeTurn(const std::function<void(ArvCamera *)> &task, const std::function<void()> &done,
-                              const QString &key)
+bool CameraFeatures::TakeTurn(const std::function<void(ArvCamera *)> &task, const std::function<void()> &done)
 {
-    return m_link->Session() && m_link->Session()->TakeTurn(task, this, done, key);
+    return m_link->Session() && m_link->Session()->TakeTurn(task, this, done);
 }
 
 void CameraFeatures::slotRead()
@@ -96,6 +97,9 @@ void CameraFeatures::TakeSome(const std::shared_ptr<Reading> &reading)
     if (reading->next < reading->places.size())
         return ReadSome(reading);
     m_isReading = false;
+    // What a command does may come after its answer.
+    if (std::exchange(m_isSet, false) && m_link->Session())
+        m_link->Session()->TakeChangingTurn(nullptr, this, nullptr);
     emit signalRead(reading->features);
     if (m_isStale)
         slotRead();
@@ -111,10 +115,12 @@ void CameraFeatures::Set(const CameraFeature &feature, const QVariant &value)
     };
     const auto written = [this, feature, error] {
         emit signalFault(error->isEmpty() ? QString() : tr("%1 could not be set: %2").arg(feature.text, *error));
+        m_isSet = true;
         slotRead();
     };
     // Each command is carried out; of values the newest is enough.
     const bool isCommand = feature.kind == CameraFeature::Kind::Command;
-    if (!TakeTurn(write, written, isCommand ? QString() : feature.name))
+    CameraSession *const session = m_link->Session();
+    if (!session || !session->TakeChangingTurn(write, this, written, isCommand ? QString() : feature.name))
         emit signalFault(tr("%1 could not be set: the camera does not answer.").arg(feature.text));
 }

@@ -13,7 +13,8 @@ class CameraLink;
 typedef struct _ArvCamera ArvCamera;
 
 /// The open camera's own feature tree. Read in the control thread while somebody watches, a few features at a time so
-/// that nothing else waits for long; each change is read back, and so is what depends on it. Used in the GUI thread.
+/// that nothing else waits for long; each change is read back, and so is what depends on it, all settings of the camera
+/// among it. Used in the GUI thread.
 class CameraFeatures : public QObject
 {
     Q_OBJECT
@@ -42,8 +43,7 @@ private slots:
 private:
     struct Reading;
 
-    bool TakeTurn(const std::function<void(ArvCamera *)> &task, const std::function<void()> &done,
-                  const QString &key = QString());
+    bool TakeTurn(const std::function<void(ArvCamera *)> &task, const std::function<void()> &done);
     void ReadSome(const std::shared_ptr<Reading> &reading);
     void TakeSome(const std::shared_ptr<Reading> &reading);
 
@@ -52,4 +52,5 @@ private:
     bool m_isWatched = false;
     bool m_isReading = false;
     bool m_isStale = false; ///< changed while it was being read
+    bool m_isSet = false;   ///< since everything else was read again
 };

@@ -56,15 +56,14 @@ CameraFormat::CameraFormat(ArvCamera *camera, SimulatedSensor *sensor)
     : m_camera(camera)
     , m_sensor(sensor)
 {
-    ReadLayouts();
-    ReadLimits();
-    ReadBinnings();
-    TakeBinning(m_values.binning);
-    ReadRegion();
+    ReadAgain();
 }
 
-void CameraFormat::ReadLayouts()
+/// False when the camera has another one than these.
+bool CameraFormat::ReadLayouts()
 {
+    m_values.layouts.clear();
+    bool isKnown = false;
     const QStringList formats = AvailableFormats(m_camera);
     const QString current = QString::fromUtf8(arv_camera_get_pixel_format_as_string(m_camera, nullptr));
     for (const PixelLayout layout :
@@ -74,9 +73,32 @@ void CameraFormat::ReadLayouts()
         if (!formats.contains(PixelLayoutName(layout)) && !isSimulated12)
             continue;
         m_values.layouts.append(layout);
-        if (PixelLayoutName(layout) == current)
+        if (PixelLayoutName(layout) != current)
+            continue;
+        isKnown = true;
+        // The simulated camera's 16-bit format may carry 12 bits.
+        if (!(m_sensor && layout == PixelLayout::Mono16 && m_values.layout == PixelLayout::Mono12))
             m_values.layout = layout;
     }
+    return isKnown;
+}
+
+bool CameraFormat::ReadAgain()
+{
+    const bool isKnown = ReadLayouts();
+    ReadLimits();
+    ReadBinnings();
+    TakeBinning(m_values.binning);
+    ReadRegion();
+    return isKnown;
+}
+
+bool CameraFormat::TakeBack(PixelLayout layout, QString *error)
+{
+    if (!SetLayout(layout, error))
+        return false;
+    *error = tr("The camera has chosen a pixel format that can't be shown. It is %1 again.").arg(PixelLayoutName(layout));
+    return true;
 }
 
 void CameraFormat::ReadLimits()
@@ -143,6 +165,7 @@ bool CameraFormat::SetRegion(const QRect &region, QString *error)
 
 void CameraFormat::ReadBinnings()
 {
+    m_values.binnings = { 1 };
     if (m_sensor) {
         for (int binning = 2; binning <= LargestSimulatedBinning; binning *= 2)
             m_values.binnings.append(binning);
@@ -158,7 +181,11 @@ void CameraFormat::ReadBinnings()
     const int step = std::max(arv_camera_get_x_binning_increment(m_camera, nullptr), 1);
     for (int binning = 1 + step; binning <= std::min({ mostAcross, mostDown, LargestBinning }); binning += step)
         m_values.binnings.append(binning);
-    arv_camera_get_binning(m_camera, &m_values.binning, &ignored, nullptr);
+    AravisError failure;
+    int binning = 1;
+    arv_camera_get_binning(m_camera, &binning, &ignored, failure.Receive());
+    if (!failure.IsSet())
+        m_values.binning = std::max(binning, 1);
 }
 
 /// The limits of a region are told in pixels of the sensor.

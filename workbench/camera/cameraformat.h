@@ -28,12 +28,17 @@ public:
     /// Takes the nearest allowed region.
     bool SetRegion(const QRect &region, QString *error = nullptr);
     bool SetBinning(int binning, QString *error = nullptr);
+    /// Asks the camera anew for all of it. False when it has a pixel format now that can't be shown: Values() still tell
+    /// the one before then, which is to be set with TakeBack().
+    bool ReadAgain();
+    /// As SetLayout(); `error` tells that the camera had chosen another one.
+    bool TakeBack(PixelLayout layout, QString *error);
 
     /// Size of one frame with these settings; 0 and a failure when the camera does not tell.
     size_t FrameBytes(AravisError *failure) const;
 
 private:
-    void ReadLayouts();
+    bool ReadLayouts();
     void ReadLimits();
     void ReadRegion();
     void ReadBinnings();

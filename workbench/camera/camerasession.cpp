@@ -13,6 +13,14 @@
 #include <mutex>
 #include <utility>
 
+namespace {
+void Call(const QPointer<QObject> &receiver, const std::function<void()> &done)
+{
+    if (receiver && done)
+        done();
+}
+} // namespace
+
 /// Carries what happens in other threads to the session, if that still has this camera.
 struct CameraSession::Mailbox : std::enable_shared_from_this<CameraSession::Mailbox>
 {
@@ -130,17 +138,37 @@ bool CameraSession::TakeTurn(const std::function<void(ArvCamera *)> &task, QObje
         [task, to = QPointer<QObject>(receiver), done](CameraDevice &device) -> News {
             if (task)
                 task(device.Camera());
-            return { [to, done](CameraSession &) {
-                if (to)
-                    done();
-            } };
+            return { [to, done](CameraSession &) { Call(to, done); } };
+        },
+        key);
+}
+
+bool CameraSession::TakeChangingTurn(const std::function<void(ArvCamera *)> &task, QObject *receiver,
+                                     const std::function<void()> &done, const QString &key)
+{
+    if (IsControlLost())
+        return false;
+    return Ask(
+        [task, to = QPointer<QObject>(receiver), done](CameraDevice &device) -> News {
+            const FormatValues before = device.Format().Values();
+            if (task)
+                task(device.Camera());
+            const CameraDevice::FormatChange result = device.ReadAgain();
+            News news;
+            if (!result.error.isEmpty() || !(device.Format().Values() == before))
+                news.push_back([error = result.error](CameraSession &session) { emit session.signalFormatSet(error); });
+            news.push_back([run = result.run, fault = result.startFault](CameraSession &session) {
+                session.TakeStartFault(run, fault.text, fault.isSilent);
+            });
+            news.push_back([to, done](CameraSession &) { Call(to, done); });
+            return news;
         },
         key);
 }
 
 void CameraSession::TakeValues(const ControlValues &controls, const FormatValues &format)
 {
-    const bool isChanged = !controls.HasSameSettings(m_controls);
+    const bool isChanged = !(controls == m_controls);
     m_controls = controls;
     m_format = format;
     if (isChanged)

@@ -88,17 +88,23 @@ public:
     bool TakeTurn(const std::function<void(ArvCamera *)> &task, QObject *receiver, const std::function<void()> &done,
                   const QString &key = QString());
 
+    /// As TakeTurn(), for a task that may change whatever it likes: all that is known of the camera is read again after
+    /// it, and the frames go on as they are then. `done` may be null.
+    bool TakeChangingTurn(const std::function<void(ArvCamera *)> &task, QObject *receiver,
+                          const std::function<void()> &done, const QString &key = QString());
+
     /// Waits until all closed cameras have been let go of and nothing is being said to open ones, at most that long.
     static bool WaitForTeardown(int timeoutMs);
 
 signals:
     /// The camera does not answer any more; comes some seconds after the loss. Emitted in this object's thread.
     void signalControlLost();
-    /// Controls() tells something else than before.
+    /// Controls() tells something else than before, be it a limit.
     void signalControlsChanged();
     /// What was asked for was tried; the reason when it was not taken, or empty. Of the controls it is told which:
     /// "exposure", "autoExposure", "gain", "autoGain" or "frameRate".
     void signalControlSet(QString error, QString control);
+    /// Of the format, or it changed without being asked for.
     void signalFormatSet(QString error);
     void signalRestored();
     /// The camera was to send frames and does not; nobody gets any until the next Start(). A silent one does not answer,

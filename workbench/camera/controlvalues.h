@@ -8,6 +8,7 @@ struct ValueRange
     double maximum = 0;
 
     bool IsAdjustable() const { return maximum > minimum; }
+    bool operator==(const ValueRange &other) const { return minimum == other.minimum && maximum == other.maximum; }
 };
 
 /// A camera's exposure, gain and frame rate as it last told them: a copy, which nobody waits for.
@@ -29,10 +30,16 @@ struct ControlValues
     /// Frames per second that the camera gives now: what was asked for, bounded by the exposure.
     double frameRate = 0;
 
-    /// The ranges are the camera's for as long as it is open.
+    /// But perhaps other limits.
     bool HasSameSettings(const ControlValues &other) const
     {
         return exposureUs == other.exposureUs && isAutoExposure == other.isAutoExposure && gain == other.gain
                && isAutoGain == other.isAutoGain && frameRate == other.frameRate;
+    }
+    bool operator==(const ControlValues &other) const
+    {
+        return HasSameSettings(other) && exposureRangeUs == other.exposureRangeUs && gainRange == other.gainRange
+               && frameRateRange == other.frameRateRange && hasAutoExposure == other.hasAutoExposure
+               && hasAutoGain == other.hasAutoGain;
     }
 };

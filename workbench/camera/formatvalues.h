@@ -14,6 +14,12 @@ struct RegionLimits
     QSize minimumSize = QSize(1, 1);
     QSize sizeStep = QSize(1, 1);
     QSize offsetStep = QSize(1, 1);
+
+    bool operator==(const RegionLimits &other) const
+    {
+        return sensorSize == other.sensorSize && minimumSize == other.minimumSize && sizeStep == other.sizeStep
+               && offsetStep == other.offsetStep;
+    }
 };
 
 /// A camera's pixel layout, region and binning as it last told them: a copy, which nobody waits for.
@@ -33,4 +39,12 @@ struct FormatValues
     int binning = 1;
 
     QSize FrameSize() const { return region.size() / binning; }
+    bool HasSameFrames(const FormatValues &other) const
+    {
+        return layout == other.layout && region == other.region && binning == other.binning;
+    }
+    bool operator==(const FormatValues &other) const
+    {
+        return HasSameFrames(other) && layouts == other.layouts && limits == other.limits && binnings == other.binnings;
+    }
 };

@@ -164,6 +164,7 @@ SettingsChange RecordingDesk::CurrentSettings() const
 void RecordingDesk::TakeSettings()
 {
     const SettingsChange settings = CurrentSettings();
+    m_toldControls = m_parts.link->Session()->Controls();
     RunFacts &facts = m_order.facts;
     facts.exposureUs = settings.exposureUs;
     facts.isAutoExposure = settings.isAutoExposure;
@@ -175,8 +176,11 @@ void RecordingDesk::TakeSettings()
 /// Exposure, gain and rate may be changed in mid-run, by the user or by the camera itself; the file tells it.
 void RecordingDesk::slotControlsChanged()
 {
-    if (m_refresh.isActive())
-        m_parts.saving->ChangeSettings(CurrentSettings());
+    const CameraSession *session = m_parts.link->Session();
+    if (!m_refresh.isActive() || !session || session->Controls().HasSameSettings(m_toldControls))
+        return; // a limit is no change of the frames
+    m_toldControls = session->Controls();
+    m_parts.saving->ChangeSettings(CurrentSettings());
 }
 
 void RecordingDesk::slotRefresh()

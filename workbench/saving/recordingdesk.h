@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "controlvalues.h"
 #include "framesaving.h"
 #include "runestimate.h"
 
@@ -92,6 +93,7 @@ private:
     const Parts m_parts;
     QThreadPool m_worker;
     RunOrder m_order;
+    ControlValues m_toldControls; ///< as the file of the run has them
     RunEstimate m_estimate;
     RunResources m_resources;
     QTimer m_refresh; ///< while a run goes on

@@ -26,6 +26,7 @@ private slots:
     void WrapOfTheShortIdIsNoLoss();
     void CountsDamagedFramesAsLostInTransfer();
     void IdsOfDamagedFramesAreNotTrusted();
+    void FramesOfAnotherPixelFormatAreDamaged();
     void ClosedGateNeitherCountsNorDelivers();
     void TicksWithoutExposureAreNoFrames();
     void HeldFramesKeepTheirPixels();
@@ -157,6 +158,23 @@ void FrameReceiverTest::IdsOfDamagedFramesAreNotTrusted()
     QCOMPARE(m_ledger.Counts().LostAt(LossStage::Camera), quint64(2));
     QCOMPARE(m_collector.Losses(), (QStringList{ "incomplete 0 x 1", "incomplete 65404 x 1", "incomplete 65405 x 1",
                                                  "missing 65406 x 2", "incomplete 65409 x 1" }));
+}
+
+/// The camera was given another one, and the stream was not made anew yet.
+void FrameReceiverTest::FramesOfAnotherPixelFormatAreDamaged()
+{
+    m_receiver.reset();
+    m_pool = StreamBufferPool::Create(2 * arv_fake_camera_get_payload(m_camera));
+    m_receiver = std::make_unique<FrameReceiver>(m_ledger, m_pool, PixelLayout::Mono8);
+    m_receiver->OpenGate(&m_collector);
+    Deliver(1);
+    arv_fake_camera_write_register(m_camera, ARV_FAKE_CAMERA_REGISTER_PIXEL_FORMAT, ARV_PIXEL_FORMAT_MONO_16);
+    Deliver(2);
+    arv_fake_camera_write_register(m_camera, ARV_FAKE_CAMERA_REGISTER_PIXEL_FORMAT, ARV_PIXEL_FORMAT_MONO_8);
+    Deliver(3);
+    QCOMPARE(m_collector.Count(), size_t(2));
+    QCOMPARE(m_ledger.Counts().LostAt(LossStage::Transfer), quint64(1));
+    QCOMPARE(m_ledger.Counts().Lost(), quint64(1));
 }
 
 void FrameReceiverTest::ClosedGateNeitherCountsNorDelivers()

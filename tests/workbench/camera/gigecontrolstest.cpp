@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <arv.h> // before Qt, whose "signals" GLib uses as a name
 
+#include "camerafeatures.h"
 #include "cameralink.h"
 #include "camerasession.h"
 #include "framecollector.h"
@@ -15,10 +16,25 @@ namespace {
 
 constexpr int MsToWait = 60000;
 constexpr guint64 ExposureAutoRegister = 0x8000; // of the memory that the simulated camera leaves free
+constexpr guint64 LongestExposureRegister = 0x8004;
+constexpr guint64 FastestRateRegister = 0x8008;
 constexpr quint32 Off = 1;
 constexpr quint32 Continuous = 2;
 
-/// What Aravis' camera says of its features, with an automatic exposure.
+/// A feature of the vendor's own and the register behind it.
+QByteArray OwnFeature(const QByteArray &name, const QByteArray &address)
+{
+    QByteArray feature = R"(
+        <Integer Name="@" NameSpace="Custom"><pValue>@Register</pValue><Min>0</Min><Max>4294967295</Max></Integer>
+        <IntReg Name="@Register" NameSpace="Custom">
+            <Address>%</Address><Length>4</Length><AccessMode>RW</AccessMode><pPort>Device</pPort>
+            <Sign>Unsigned</Sign><Endianess>BigEndian</Endianess>
+        </IntReg>)";
+    return feature.replace('@', name).replace('%', address);
+}
+
+/// What Aravis' camera says of its features, with an automatic exposure, a command that sets the width, a way around
+/// the panels to the pixel format, and limits that are settings themselves.
 QByteArray FeaturesWithAutomaticExposure()
 {
     ArvFakeCamera *plain = arv_fake_camera_new("plain");
@@ -39,6 +55,18 @@ QByteArray FeaturesWithAutomaticExposure()
             <Sign>Unsigned</Sign><Endianess>BigEndian</Endianess>
         </IntReg>
         <Enumeration Name="GainAuto")");
+    features.replace("<pFeature>TestRegister</pFeature>",
+                     "<pFeature>TestRegister</pFeature><pFeature>UserSetLoad</pFeature><pFeature>SampleKind</pFeature>"
+                     "<pFeature>LongestExposure</pFeature><pFeature>FastestRate</pFeature>");
+    features.replace("</RegisterDescription>",
+                     R"(<Command Name="UserSetLoad" NameSpace="Standard">
+                            <pValue>WidthRegister</pValue><CommandValue>128</CommandValue>
+                        </Command>)"
+                         + OwnFeature("SampleKind", "0x128") + OwnFeature("LongestExposure", "0x8004")
+                         + OwnFeature("FastestRate", "0x8008") + "</RegisterDescription>");
+    features.replace("<Max>10000000.0</Max>", "<pMax>LongestExposure</pMax>");
+    features.replace("<pValue>AcquisitionFrameRateConverter</pValue>",
+                     "<pValue>AcquisitionFrameRateConverter</pValue><Min>0.1</Min><pMax>FastestRate</pMax>");
     return features;
 }
 
@@ -149,8 +177,7 @@ private slots:
     void lostCameraGetsItsAutomaticsAndItsBinningBack()
     {
         CameraLink link;
-        link.Open(Id);
-        QTRY_COMPARE_WITH_TIMEOUT(link.GetState(), CameraLink::State::Open, MsToWait);
+        OpenLink(link);
         link.SetBinning(2);
         link.SetRegion(QRect(0, 0, 256, 128));
         QSignalSpy set(link.Session(), &CameraSession::signalControlSet);
@@ -174,12 +201,77 @@ private slots:
         link.Close();
     }
 
+    /// A command may reload all settings: it is the width here, and what the camera had done to its exposure.
+    void whatACommandChangesIsSeenEverywhere()
+    {
+        CameraLink link;
+        OpenLink(link);
+        link.SetRegion(QRect(0, 0, 256, 128));
+        FrameCollector frames;
+        QVERIFY(link.StartFrames(&frames));
+        QVERIFY(frames.WaitFor(2, MsToWait));
+        QTRY_VERIFY_WITH_TIMEOUT(!link.Session()->IsSetting(), MsToWait);
+        QSignalSpy formats(&link, &CameraLink::signalFormatChanged);
+        QSignalSpy controls(&link, &CameraLink::signalControlsChanged);
+        Put(ARV_FAKE_CAMERA_REGISTER_EXPOSURE_TIME_US, 4321);
+        SetFeature(link, "UserSetLoad", QVariant());
+        QCOMPARE(link.Session()->Format().region, QRect(0, 0, 128, 128));
+        QCOMPARE(link.Session()->Controls().exposureUs, 4321.0);
+        QCOMPARE(formats.count(), 1);
+        QCOMPARE(controls.count(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(frames.Last().width, 128, MsToWait);
+        SetFeature(link, "TestRegister", 5); // nothing of that
+        QCOMPARE(formats.count(), 1);
+        QCOMPARE(controls.count(), 1);
+        link.Close();
+    }
+
+    void pixelFormatThatAFeatureChangesIsThatOfTheFrames()
+    {
+        CameraLink link;
+        OpenLink(link);
+        link.SetRegion(QRect(0, 0, 256, 128));
+        FrameCollector frames;
+        QVERIFY(link.StartFrames(&frames));
+        QVERIFY(frames.WaitFor(2, MsToWait));
+        QSignalSpy messages(&link, &CameraLink::signalMessage);
+        SetFeature(link, "SampleKind", ARV_PIXEL_FORMAT_MONO_16);
+        QCOMPARE(link.Session()->Format().layout, PixelLayout::Mono16);
+        QTRY_COMPARE_WITH_TIMEOUT(frames.Last().layout, PixelLayout::Mono16, MsToWait);
+        QCOMPARE(QSize(frames.Last().width, frames.Last().height), QSize(256, 128));
+        QCOMPARE(messages.count(), 0);
+        // One that nobody could show is taken back.
+        SetFeature(link, "SampleKind", ARV_PIXEL_FORMAT_BAYER_RG_8);
+        QCOMPARE(link.Session()->Format().layout, PixelLayout::Mono16);
+        QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_PIXEL_FORMAT), quint32(ARV_PIXEL_FORMAT_MONO_16));
+        QCOMPARE(messages.count(), 1);
+        QVERIFY2(messages.first().first().toString().endsWith("It is Mono16 again."),
+                 qPrintable(messages.first().first().toString()));
+        QVERIFY(frames.WaitForMore(2, MsToWait));
+        QCOMPARE(frames.Last().layout, PixelLayout::Mono16);
+        link.Close();
+    }
+
+    void limitsThatAFeatureChangesAreThoseOfThePanel()
+    {
+        CameraLink link;
+        OpenLink(link);
+        QCOMPARE(link.Session()->Controls().exposureRangeUs.maximum, 1e7);
+        QCOMPARE(link.Session()->Controls().frameRateRange.maximum, 1000.0);
+        QSignalSpy controls(&link, &CameraLink::signalControlsChanged);
+        SetFeature(link, "LongestExposure", 50000);
+        QCOMPARE(link.Session()->Controls().exposureRangeUs.maximum, 50000.0);
+        SetFeature(link, "FastestRate", 30);
+        QCOMPARE(link.Session()->Controls().frameRateRange.maximum, 30.0);
+        QCOMPARE(controls.count(), 2);
+        link.Close();
+    }
+
     /// Frames are asked for before anybody has noticed that the camera is gone.
     void framesOfACameraThatWentUnnoticedComeWhenItIsBack()
     {
         CameraLink link;
-        link.Open(Id);
-        QTRY_COMPARE_WITH_TIMEOUT(link.GetState(), CameraLink::State::Open, MsToWait);
+        OpenLink(link);
         link.SetRegion(QRect(0, 0, 256, 128));
         QTRY_VERIFY_WITH_TIMEOUT(!link.Session()->IsSetting(), MsToWait);
         QSignalSpy failed(&link, &CameraLink::signalFramesFailed);
@@ -206,6 +298,8 @@ private:
                                                features.isEmpty() ? nullptr : QFile::encodeName(features).constData());
         QVERIFY(arv_gv_fake_camera_is_running(m_camera));
         Put(ExposureAutoRegister, Off);
+        Put(LongestExposureRegister, 10000000);
+        Put(FastestRateRegister, 1000);
         Put(ARV_FAKE_CAMERA_REGISTER_GAIN_MODE, Off);
     }
 
@@ -216,6 +310,29 @@ private:
         if (!isOpen)
             qWarning("%s", qPrintable(error));
         return isOpen;
+    }
+
+    static void OpenLink(CameraLink &link)
+    {
+        link.Open(Id);
+        QTRY_COMPARE_WITH_TIMEOUT(link.GetState(), CameraLink::State::Open, MsToWait);
+    }
+
+    /// As the feature tree does it; until the camera has answered.
+    static void SetFeature(CameraLink &link, const QString &name, const QVariant &value)
+    {
+        CameraFeatures features(&link);
+        QVector<CameraFeature> all;
+        connect(&features, &CameraFeatures::signalRead, [&all](const QVector<CameraFeature> &read) { all = read; });
+        QSignalSpy fault(&features, &CameraFeatures::signalFault);
+        features.SetWatched(true);
+        QTRY_VERIFY_WITH_TIMEOUT(!all.isEmpty(), MsToWait);
+        for (const CameraFeature &feature : QVector<CameraFeature>(all)) {
+            if (feature.name == name)
+                features.Set(feature, value);
+        }
+        QTRY_COMPARE_WITH_TIMEOUT(fault.count(), 1, MsToWait);
+        QCOMPARE(fault.first().first().toString(), QString());
     }
 
     /// Until all that was set is answered, and without a fault.

@@ -114,6 +114,37 @@ private slots:
         QCOMPARE(Value("Width").data().toString(), QString("2048"));
     }
 
+    /// What this program does in the simulated camera's place is not mistaken for a change.
+    void changeLeavesOtherSettingsAlone()
+    {
+        OpenCamera();
+        CameraSession *session = m_link->Session();
+        m_link->SetPixelLayout(PixelLayout::Mono12);
+        m_link->SetBinning(2);
+        m_link->SetRegion(QRect(64, 32, 256, 128));
+        session->SetExposureUs(200000);
+        session->SetFrameRate(50); // as fast as the exposure lets it
+        QTRY_VERIFY(!session->IsSetting());
+        const FormatValues format = session->Format();
+        const ControlValues controls = session->Controls();
+        QCOMPARE(format.layout, PixelLayout::Mono12);
+        QCOMPARE(controls.frameRate, 5.0);
+        m_tree->SetWatched(true);
+        QTRY_VERIFY(Value("TestRegister").isValid());
+        QSignalSpy formats(m_link.get(), &CameraLink::signalFormatChanged);
+        QSignalSpy changed(m_link.get(), &CameraLink::signalControlsChanged);
+        m_tree->Set(Value("TestRegister"), 11);
+        QTRY_COMPARE(Value("TestRegister").data().toString(), QString("11"));
+        m_tree->Set(Value("TriggerSoftware"), QVariant());
+        bool isDone = false;
+        QVERIFY(session->TakeTurn(nullptr, this, [&isDone] { isDone = true; }));
+        QTRY_VERIFY(isDone);
+        QVERIFY(session->Format() == format);
+        QVERIFY(session->Controls() == controls);
+        QCOMPARE(formats.count(), 0);
+        QCOMPARE(changed.count(), 0);
+    }
+
     /// Both talk to the camera; neither call comes in the middle of the other's.
     void settingsAndReadingTakeTurns()
     {

@@ -140,6 +140,30 @@ private slots:
         QVERIFY(Receipt().IsWhole());
     }
 
+    void onlyOtherSettingsAreToldInMidRun()
+    {
+        QTRY_VERIFY(!m_parts->link.Session()->IsSetting());
+        Set(RecordingSettings::Mode::UntilStopped, 1);
+        Desk()->slotCapture(false, false);
+        QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 0, MsToWait);
+        const auto waitForFrames = [this] {
+            const quint64 saved = Desk()->Saving()->Counts().saved;
+            QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > saved + 2, MsToWait);
+        };
+        emit m_parts->link.signalControlsChanged(); // a limit
+        waitForFrames();
+        m_parts->link.Session()->SetGain(4);
+        QTRY_COMPARE_WITH_TIMEOUT(m_parts->link.Session()->Controls().gain, 4.0, MsToWait);
+        waitForFrames();
+        emit m_parts->link.signalControlsChanged();
+        waitForFrames();
+        Desk()->slotStop();
+        const RunReceipt receipt = Receipt();
+        QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
+        QCOMPARE(receipt.facts.changes.size(), 1);
+        QCOMPARE(receipt.facts.changes.first().gain, 4.0);
+    }
+
     /// It begins with what was set until then, though the camera is slow to take it.
     void whatWasSetBeforeItBeginsIsInTheFile()
     {
