@@ -34,7 +34,8 @@ void Read(double (*read)(ArvCamera *, GError **), ArvCamera *camera, double *val
 }
 
 void ReadControl(void (*readBounds)(ArvCamera *, double *, double *, GError **),
-                 double (*readValue)(ArvCamera *, GError **), ArvCamera *camera, ValueRange *range, double *value)
+                 double (*readValue)(ArvCamera *, GError **), ArvCamera *camera, ValueRange *range,
+                 double *value)
 {
     AravisError failure;
     ValueRange told;
@@ -78,7 +79,8 @@ void CameraControls::ReadAll()
         ReadControl(arv_camera_get_exposure_time_bounds, arv_camera_get_exposure_time, m_camera,
                     &values.exposureRangeUs, &values.exposureUs);
     if (arv_camera_is_gain_available(m_camera, nullptr))
-        ReadControl(arv_camera_get_gain_bounds, arv_camera_get_gain, m_camera, &values.gainRange, &values.gain);
+        ReadControl(arv_camera_get_gain_bounds, arv_camera_get_gain, m_camera, &values.gainRange,
+                    &values.gain);
     if (m_sensor)
         return; // nothing goes by itself
     ReadAutomatic(arv_camera_is_exposure_auto_available, arv_camera_get_exposure_time_auto, m_camera,
@@ -93,7 +95,8 @@ void CameraControls::ReadFrameRate()
     if (!arv_camera_is_frame_rate_available(m_camera, nullptr))
         return;
     double told = m_values.frameRate;
-    ReadControl(arv_camera_get_frame_rate_bounds, arv_camera_get_frame_rate, m_camera, &m_values.frameRateRange, &told);
+    ReadControl(arv_camera_get_frame_rate_bounds, arv_camera_get_frame_rate, m_camera,
+                &m_values.frameRateRange, &told);
     if (told != m_values.frameRate)
         m_values.frameRate = m_wishedRate = told;
 }

@@ -244,8 +244,10 @@ CameraDevice::StartFault CameraDevice::Resume(int run)
     if (!failure.IsSet())
         return {};
     StopAcquisition();
-    return { tr("The camera %1 did not start: %2. Close it and open it again.").arg(m_info.model, failure.Text()),
-             failure.IsSilence() };
+    return {
+        tr("The camera %1 did not start: %2. Close it and open it again.").arg(m_info.model, failure.Text()),
+        failure.IsSilence()
+    };
 }
 
 void CameraDevice::StopAcquisition()

@@ -97,7 +97,8 @@ bool CameraFormat::TakeBack(PixelLayout layout, QString *error)
 {
     if (!SetLayout(layout, error))
         return false;
-    *error = tr("The camera has chosen a pixel format that can't be shown. It is %1 again.").arg(PixelLayoutName(layout));
+    *error = tr("The camera has chosen a pixel format that can't be shown. It is %1 again.")
+                 .arg(PixelLayoutName(layout));
     return true;
 }
 

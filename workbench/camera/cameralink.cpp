@@ -103,7 +103,9 @@ void CameraLink::OpenInWorker(const QString &id)
         // Nobody but the link keeps it: when that lets go of it, it is gone.
         QMetaObject::invokeMethod(
             this,
-            [this, id, session = std::move(session), error]() mutable { TakeResult(id, std::move(session), error); },
+            [this, id, session = std::move(session), error]() mutable {
+                TakeResult(id, std::move(session), error);
+            },
             Qt::QueuedConnection);
     });
 }
@@ -143,11 +145,11 @@ void CameraLink::ConnectSession()
     const CameraSession *session = m_session.get();
     connect(session, SIGNAL(signalControlLost()), this, SLOT(slotControlLost()));
     connect(session, SIGNAL(signalControlsChanged()), this, SIGNAL(signalControlsChanged()));
-    connect(session, SIGNAL(signalControlSet(QString, QString)), this, SIGNAL(signalControlSet(QString, QString)));
+    connect(session, SIGNAL(signalControlSet(QString, QString)), this,
+            SIGNAL(signalControlSet(QString, QString)));
     connect(session, SIGNAL(signalFormatSet(QString)), this, SLOT(slotFormatSet(QString)));
     connect(session, SIGNAL(signalRestored()), this, SLOT(slotRestored()));
-    connect(session, SIGNAL(signalFramesFailed(QString, bool)), this,
-            SLOT(slotFramesFailed(QString, bool)));
+    connect(session, SIGNAL(signalFramesFailed(QString, bool)), this, SLOT(slotFramesFailed(QString, bool)));
 }
 
 void CameraLink::slotFormatSet(QString error)

@@ -25,7 +25,8 @@ void Call(const QPointer<QObject> &receiver, const std::function<void()> &done)
 struct CameraSession::Mailbox : std::enable_shared_from_this<CameraSession::Mailbox>
 {
     std::mutex mutex;
-    CameraSession *session = nullptr; ///< null once the session has closed the camera, in the session's thread
+    CameraSession *session =
+        nullptr; ///< null once the session has closed the camera, in the session's thread
 
     void Post(const News &news)
     {
@@ -119,10 +120,9 @@ bool CameraSession::Ask(const std::function<News(CameraDevice &)> &work, const Q
     m_queue->Add(
         [device = m_device, mailbox = m_mailbox, work] {
             News news = work(*device);
-            news.insert(news.begin(), [controls = device->Controls().Values(),
-                                       format = device->Format().Values()](CameraSession &session) {
-                session.TakeValues(controls, format);
-            });
+            news.insert(news.begin(),
+                        [controls = device->Controls().Values(), format = device->Format().Values()](
+                            CameraSession &session) { session.TakeValues(controls, format); });
             mailbox->Post(news);
         },
         key);
@@ -156,7 +156,8 @@ bool CameraSession::TakeChangingTurn(const std::function<void(ArvCamera *)> &tas
             const CameraDevice::FormatChange result = device.ReadAgain();
             News news;
             if (!result.error.isEmpty() || !(device.Format().Values() == before))
-                news.push_back([error = result.error](CameraSession &session) { emit session.signalFormatSet(error); });
+                news.push_back(
+                    [error = result.error](CameraSession &session) { emit session.signalFormatSet(error); });
             news.push_back([run = result.run, fault = result.startFault](CameraSession &session) {
                 session.TakeStartFault(run, fault.text, fault.isSilent);
             });
@@ -185,7 +186,9 @@ bool CameraSession::Start(FrameSink *sink)
     m_run = m_device->SetSink(sink);
     return Ask([run = m_run](CameraDevice &device) -> News {
         const CameraDevice::StartFault fault = device.Start(run);
-        return { [run, fault](CameraSession &session) { session.TakeStartFault(run, fault.text, fault.isSilent); } };
+        return { [run, fault](CameraSession &session) {
+            session.TakeStartFault(run, fault.text, fault.isSilent);
+        } };
     });
 }
 

@@ -8,7 +8,10 @@ struct ValueRange
     double maximum = 0;
 
     bool IsAdjustable() const { return maximum > minimum; }
-    bool operator==(const ValueRange &other) const { return minimum == other.minimum && maximum == other.maximum; }
+    bool operator==(const ValueRange &other) const
+    {
+        return minimum == other.minimum && maximum == other.maximum;
+    }
 };
 
 /// A camera's exposure, gain and frame rate as it last told them: a copy, which nobody waits for.
@@ -38,8 +41,8 @@ struct ControlValues
     }
     bool operator==(const ControlValues &other) const
     {
-        return HasSameSettings(other) && exposureRangeUs == other.exposureRangeUs && gainRange == other.gainRange
-               && frameRateRange == other.frameRateRange && hasAutoExposure == other.hasAutoExposure
-               && hasAutoGain == other.hasAutoGain;
+        return HasSameSettings(other) && exposureRangeUs == other.exposureRangeUs
+               && gainRange == other.gainRange && frameRateRange == other.frameRateRange
+               && hasAutoExposure == other.hasAutoExposure && hasAutoGain == other.hasAutoGain;
     }
 };

@@ -17,8 +17,8 @@ struct RegionLimits
 
     bool operator==(const RegionLimits &other) const
     {
-        return sensorSize == other.sensorSize && minimumSize == other.minimumSize && sizeStep == other.sizeStep
-               && offsetStep == other.offsetStep;
+        return sensorSize == other.sensorSize && minimumSize == other.minimumSize
+               && sizeStep == other.sizeStep && offsetStep == other.offsetStep;
     }
 };
 
@@ -45,6 +45,7 @@ struct FormatValues
     }
     bool operator==(const FormatValues &other) const
     {
-        return HasSameFrames(other) && layouts == other.layouts && limits == other.limits && binnings == other.binnings;
+        return HasSameFrames(other) && layouts == other.layouts && limits == other.limits
+               && binnings == other.binnings;
     }
 };

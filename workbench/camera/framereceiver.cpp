@@ -109,7 +109,8 @@ bool FrameReceiver::IsComplete(ArvBuffer *buffer) const
     if (arv_buffer_get_status(buffer) != ARV_BUFFER_STATUS_SUCCESS)
         return false;
     // The camera may have been given another pixel format than the stream was made for.
-    if (int(ARV_PIXEL_FORMAT_BIT_PER_PIXEL(arv_buffer_get_image_pixel_format(buffer))) != 8 * BytesPerPixel(m_layout))
+    if (int(ARV_PIXEL_FORMAT_BIT_PER_PIXEL(arv_buffer_get_image_pixel_format(buffer)))
+        != 8 * BytesPerPixel(m_layout))
         return false;
     int paddingX = 0;
     int paddingY = 0;

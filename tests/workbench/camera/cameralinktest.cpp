@@ -226,7 +226,8 @@ private slots:
         const auto setColumns = [&link, this](quint32 columns) {
             return link.Session()->TakeTurn(
                 [columns](ArvCamera *camera) {
-                    arv_device_write_register(arv_camera_get_device(camera), ARV_FAKE_CAMERA_REGISTER_WIDTH, columns, nullptr);
+                    arv_device_write_register(arv_camera_get_device(camera), ARV_FAKE_CAMERA_REGISTER_WIDTH,
+                                              columns, nullptr);
                 },
                 this, [] {});
         };

@@ -34,7 +34,8 @@ void SetColumns(CameraSession *session, quint32 columns)
 {
     QVERIFY(session->TakeTurn(
         [columns](ArvCamera *camera) {
-            arv_device_write_register(arv_camera_get_device(camera), ARV_FAKE_CAMERA_REGISTER_WIDTH, columns, nullptr);
+            arv_device_write_register(arv_camera_get_device(camera), ARV_FAKE_CAMERA_REGISTER_WIDTH, columns,
+                                      nullptr);
         },
         session, [] {}));
 }
@@ -138,7 +139,8 @@ private slots:
     {
         QSignalSpy set(m_session.get(), &CameraSession::signalControlSet);
         QSignalSpy changed(m_session.get(), &CameraSession::signalControlsChanged);
-        connect(m_session.get(), &CameraSession::signalControlsChanged, m_session.get(), &CameraSession::Close);
+        connect(m_session.get(), &CameraSession::signalControlsChanged, m_session.get(),
+                &CameraSession::Close);
         m_session->SetGain(3);
         QVERIFY(changed.wait(MsToWait));
         QVERIFY(!m_session->IsOpen());

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "frametee.h"
 #include "framecollector.h"
 #include "framesource.h"
-#include "frametee.h"
 #include "guardedtest.h"
 
 namespace {

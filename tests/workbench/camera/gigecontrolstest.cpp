@@ -55,9 +55,10 @@ QByteArray FeaturesWithAutomaticExposure()
             <Sign>Unsigned</Sign><Endianess>BigEndian</Endianess>
         </IntReg>
         <Enumeration Name="GainAuto")");
-    features.replace("<pFeature>TestRegister</pFeature>",
-                     "<pFeature>TestRegister</pFeature><pFeature>UserSetLoad</pFeature><pFeature>SampleKind</pFeature>"
-                     "<pFeature>LongestExposure</pFeature><pFeature>FastestRate</pFeature>");
+    features.replace(
+        "<pFeature>TestRegister</pFeature>",
+        "<pFeature>TestRegister</pFeature><pFeature>UserSetLoad</pFeature><pFeature>SampleKind</pFeature>"
+        "<pFeature>LongestExposure</pFeature><pFeature>FastestRate</pFeature>");
     features.replace("</RegisterDescription>",
                      R"(<Command Name="UserSetLoad" NameSpace="Standard">
                             <pValue>WidthRegister</pValue><CommandValue>128</CommandValue>
@@ -323,7 +324,8 @@ private:
     {
         CameraFeatures features(&link);
         QVector<CameraFeature> all;
-        connect(&features, &CameraFeatures::signalRead, [&all](const QVector<CameraFeature> &read) { all = read; });
+        connect(&features, &CameraFeatures::signalRead,
+                [&all](const QVector<CameraFeature> &read) { all = read; });
         QSignalSpy fault(&features, &CameraFeatures::signalFault);
         features.SetWatched(true);
         QTRY_VERIFY_WITH_TIMEOUT(!all.isEmpty(), MsToWait);

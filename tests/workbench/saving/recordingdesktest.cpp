@@ -230,7 +230,8 @@ private slots:
         QVERIFY(m_parts->link.Session()->TakeTurn([&answer](ArvCamera *) { answer.acquire(); }, this, [] {}));
         QSignalSpy states(Desk(), SIGNAL(signalStateChanged()));
         QString error;
-        const bool isPrepared = Desk()->Start(m_parts->settings.Get(), m_folder->filePath("named.tif"), &error);
+        const bool isPrepared =
+            Desk()->Start(m_parts->settings.Get(), m_folder->filePath("named.tif"), &error);
         emit m_parts->link.Session()->signalControlLost();
         answer.release();
         QVERIFY2(isPrepared, qPrintable(error));
