@@ -7,7 +7,7 @@ SpectralFrame SpectralFrame::Of(const SensorFrame &frame, bool isHorizontal)
 {
     SpectralFrame spectrum;
     spectrum.binning = std::max(1, frame.binning);
-    const QSize size = frame.region.size() / spectrum.binning;
+    const QSize size(frame.region.width() / spectrum.binning, frame.region.height() / spectrum.binning); // whole ones
     if (size.isEmpty())
         return SpectralFrame();
     spectrum.isAlongRows = isHorizontal != frame.orientation.SwapsSides();

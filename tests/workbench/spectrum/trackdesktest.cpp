@@ -29,6 +29,9 @@ private slots:
     void aStepThatIsRefusedStaysOnTheStack();
     void tracksThatWereDroppedCannotBeUndone();
     void whatChangesNothingIsNoStep();
+    void tracksAreAddedWhereThereIsRoom();
+    void aTrackThatIsMovedPastAnotherStaysChosen();
+    void whatCannotBeIsRefusedAndNoStep();
     void aDragMakesATrack();
     void aDragEndsWithTheDrawing();
     void aDragEndsWhenItsTracksAreOthers();
@@ -237,6 +240,56 @@ void TrackDeskTest::whatChangesNothingIsNoStep()
     stack->undo();
     QVERIFY(!m_settings->GetMultiTrackOnFlag());
     QCOMPARE(Rows(), QString("40-49 80-90"));
+}
+
+void TrackDeskTest::tracksAreAddedWhereThereIsRoom()
+{
+    QSignalSpy told(m_desk.get(), &TrackDesk::signalMessage);
+    m_desk->slotTracksFound({QRectF(0, 0, Picture.width(), 100)});
+    m_desk->Add(); // into the middle of the 300 rows below
+    QCOMPARE(Rows(), QString("0-99 240-259"));
+    QCOMPARE(m_desk->Chosen(), 1);
+    m_desk->RemoveChosen();
+    QCOMPARE(Rows(), QString("0-99"));
+    QCOMPARE(m_desk->Chosen(), 0);
+    m_desk->SetChosenRows(0, Picture.height() - 1);
+    QVERIFY(told.isEmpty());
+    m_desk->Add();
+    QCOMPARE(told.count(), 1);
+    QVERIFY(told[0][0].toString().startsWith("There is no room for another track"));
+    m_desk->Clear();
+    QCOMPARE(m_desk->Chosen(), -1);
+    m_desk->slotPictureSize(QSize());
+    m_desk->Add();
+    QCOMPARE(told.last()[0].toString(), QString("There is no live picture to lay a track on."));
+    QCOMPARE(Rows(), QString());
+}
+
+void TrackDeskTest::aTrackThatIsMovedPastAnotherStaysChosen()
+{
+    m_desk->slotTracksFound({QRectF(0, 10, 1, 10), QRectF(0, 50, 1, 10), QRectF(0, 90, 1, 10)});
+    m_desk->Choose(0);
+    m_desk->SetChosenRows(70, 79);
+    QCOMPARE(Rows(), QString("50-59 70-79 90-99"));
+    QCOMPARE(m_desk->Chosen(), 1);
+    QCOMPARE(m_desk->ChosenRows().top, 70);
+    m_desk->SetChosenRows(0, 9);
+    QCOMPARE(m_desk->Chosen(), 0);
+    QCOMPARE(m_desk->UndoStack()->undoText(), QString("Change Track"));
+}
+
+void TrackDeskTest::whatCannotBeIsRefusedAndNoStep()
+{
+    m_desk->slotTracksFound({QRectF(0, 10, 1, 10), QRectF(0, 50, 1, 10)});
+    m_desk->Choose(0);
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    m_desk->SetChosenRows(10, 55);
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(told[0][0].toString(), QString("Tracks 1 and 2 overlap: move or remove one of them."));
+    m_desk->slotTracksFound({}); // in the dark
+    QCOMPARE(told.count(), 2);
+    QCOMPARE(Rows(), QString("10-19 50-59"));
+    QCOMPARE(m_desk->UndoStack()->count(), 1);
 }
 
 void TrackDeskTest::aDragMakesATrack()
