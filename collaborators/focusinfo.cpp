@@ -3,6 +3,7 @@
 
 #include "focuscrossline.h"
 #include "fvbline.h"
+#include "marktext.h"
 
 #include <QGraphicsItem>
 #include <QPen>
@@ -47,14 +48,12 @@ void AddSpectralLine(QGraphicsItem *parent, const QRectF &rectangle, qreal angle
     item->setAcceptedMouseButtons(Qt::NoButton);
 }
 
-/// Keeps its size on the screen at any zoom.
-void AddText(QGraphicsItem *parent, const QPointF &scenePos, const QString &text, const QColor &color)
+/// The text `index` of its marks.
+void AddText(QGraphicsItem *marks, int index, const QPointF &scenePos, const QString &text, const QColor &color)
 {
-    auto *item = new QGraphicsSimpleTextItem(text, parent);
+    auto *item = new MarkText(text, index, marks);
     item->setPos(scenePos);
     item->setBrush(color);
-    item->setFlag(QGraphicsItem::ItemIgnoresTransformations);
-    item->setAcceptedMouseButtons(Qt::NoButton);
 }
 
 } // namespace
@@ -116,7 +115,7 @@ void FocusInfo::AddFocusInfo(QList<QRect> rectangles, QList<QPoint> points, QLis
             AddSpectralLine(marks, rectangles.at(i), angles.at(i), MarkPen(Qt::red, style));
         const QString text =
             QString("%1  %2%3").arg(distances.at(i), 0, 'f', 2).arg(angles.at(i), 0, 'f', 2).arg(QChar(0xB0));
-        AddText(marks, points.at(i), text, Qt::yellow);
+        AddText(marks, i, points.at(i), text, Qt::yellow);
     }
 }
 
@@ -131,10 +130,9 @@ void FocusInfo::AddMultiTrackInfo(QList<QRectF> tracks)
     QGraphicsItem *marks = NewMarks();
     if (!marks)
         return;
-    int number = 1;
-    for (const QRectF &track : tracks) {
-        AddRectangle(marks, track, MarkPen(Qt::cyan, Qt::SolidLine));
-        AddText(marks, track.topLeft(), QString::number(number++), Qt::cyan);
+    for (int i = 0; i < tracks.size(); ++i) {
+        AddRectangle(marks, tracks.at(i), MarkPen(Qt::cyan, Qt::SolidLine));
+        AddText(marks, i, tracks.at(i).topLeft(), QString::number(i + 1), Qt::cyan);
     }
 }
 

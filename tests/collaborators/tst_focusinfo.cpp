@@ -51,6 +51,7 @@ private slots:
     void NewMarksReplaceTheOldOnes();
     void ShowModeChoosesTheMarks_data();
     void ShowModeChoosesTheMarks();
+    void TextsOfCloseLinesStandBelowEachOther();
     void LinesChosenByHandAreDashed();
     void TracksAreRectanglesWithNumbers();
     void ClearingTakesTheMarksOut();
@@ -61,6 +62,8 @@ private slots:
     void TakesItsMarksAlong();
 
 private:
+    /// Rows of the screen with something of a text in them.
+    int TextRows() const;
     QGraphicsObject *Line(const FocusInfo &info) const;
 
     std::unique_ptr<QGraphicsScene> m_scene;
@@ -196,6 +199,37 @@ void TestFocusInfo::ShowModeChoosesTheMarks()
     QCOMPARE(Rectangles(*m_scene).size(), rectangles);
     QCOMPARE(ItemsOf<QGraphicsLineItem>(*m_scene).size(), lines);
     QCOMPARE(ItemsOf<QGraphicsSimpleTextItem>(*m_scene).size(), 1);
+}
+
+int TestFocusInfo::TextRows() const
+{
+    const QImage seen = m_view->grab().toImage();
+    int rows = 0;
+    for (int y = 0; y < seen.height(); ++y) {
+        bool hasText = false;
+        for (int x = 0; x < seen.width(); ++x) {
+            const QColor colour = seen.pixelColor(x, y);
+            hasText = hasText || (colour.green() > 100 && colour.blue() < 100); // yellow; the lines are red
+        }
+        rows += hasText;
+    }
+    return rows;
+}
+
+void TestFocusInfo::TextsOfCloseLinesStandBelowEachOther()
+{
+    FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    info.SetShowMode(2); // lines, whose colour is another
+    const QRect line(0, 200, 10, 50);
+    info.AddFocusInfo({line}, {QPoint(12, 22)}, {1.5F}, {0.0F});
+    const int one = TextRows();
+    QVERIFY(one > 4);
+    info.AddFocusInfo({line, line, line, line}, {QPoint(12, 22), QPoint(22, 22), QPoint(32, 24), QPoint(300, 22)},
+                      {1.5F, 1.5F, 1.5F, 1.5F}, {0.0F, 0.0F, 0.0F, 0.0F});
+    QCOMPARE(TextRows(), 3 * one); // the fourth stands where there is room
+    m_view->scale(10, 1);
+    m_view->centerOn(16, 150);
+    QCOMPARE(TextRows(), one + 2); // at their lines, the third two rows lower
 }
 
 void TestFocusInfo::LinesChosenByHandAreDashed()
