@@ -73,6 +73,7 @@ bool RasterPictureFile::Open(FileFault &fault)
     info.sampleType = m_header.type;
     info.dpiX = m_header.dpiX;
     info.dpiY = m_header.dpiY;
+    m_axis = AxisOfFirst(info.metadata);
     return true;
 }
 

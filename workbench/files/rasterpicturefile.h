@@ -15,6 +15,7 @@ public:
     RasterPictureFile(const QString &path, PictureFormat format);
 
     bool Open(FileFault &fault);
+    SpectralAxis AxisOf(int) const override { return m_axis; }
 
 protected:
     bool Decode(int index, Picture &frame, FrameRows *rows, FileFault &fault) override;
@@ -22,4 +23,5 @@ protected:
 private:
     QFile m_file;
     RasterHeader m_header;
+    SpectralAxis m_axis;
 };

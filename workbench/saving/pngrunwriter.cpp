@@ -85,6 +85,8 @@ bool PngRunWriter::AppendFrame(const uchar *samples, const FrameStamp &stamp, Fi
     writer.setQuality(PngQuality);
     for (const auto &line : Facts().At(FramesWritten()).Lines())
         writer.setText(Keyword(line.first), line.second);
+    for (const MetadataEntry &entry : Facts().calibration)
+        writer.setText(entry.key, entry.value);
     writer.setText("FrameId", QString::number(stamp.frameId));
     writer.setText("CameraTime", QString("%1 ns").arg(stamp.cameraTimeNs));
     writer.setText("HostTime", QString("%1 ns").arg(stamp.hostTimeNs));

@@ -106,6 +106,7 @@ private slots:
         QTest::addColumn<RunFormat>("format");
         QTest::newRow("TIFF") << RunFormat::Tiff;
         QTest::newRow("FITS") << RunFormat::Fits;
+        QTest::newRow("PNG") << RunFormat::Png;
     }
 
     /// Also in one that is finished later, by what the journal kept of it.
@@ -124,7 +125,7 @@ private slots:
         QVERIFY2(writer->Begin(facts, &error), qPrintable(error));
         QVERIFY2(writer->Write(RunSample::Frame(Size, PixelLayout::Mono16, 0), &error), qPrintable(error));
         QVERIFY2(Finish(writer.get(), 1, &error), qPrintable(error));
-        const auto file = OpenPicture(Path(format), error);
+        const auto file = OpenPicture(writer->Files().value(0), error);
         QVERIFY2(file, qPrintable(error));
         const SpectralAxis axis = file->AxisOf(0);
         QCOMPARE(int(axis.unit), int(SpectralUnit::Nanometre));
