@@ -2,6 +2,7 @@
 #include "spectrometermenu.h"
 
 #include "correctionsline.h"
+#include "ledgerline.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
 #include "trackdesk.h"
@@ -95,6 +96,9 @@ void SpectrometerMenu::AddCorrections()
     QMenu *menu = addMenu(tr("C&orrections"));
     m_description = menu->addAction(QString());
     m_description->setEnabled(false);
+    m_ledger = menu->addAction(QString());
+    m_ledger->setObjectName("actionSpectrumLedger");
+    m_ledger->setEnabled(false);
     menu->addSeparator();
     menu->addAction(tr("Take &Dark Spectrum"), this, [this] { Take(true); });
     m_dark = AddCheck(menu, tr("&Subtract Dark"), [change](bool on) { change([on](CorrectionSettings *c) { c->subtractsDark = on; }); });
@@ -197,4 +201,5 @@ void SpectrometerMenu::slotUpdate()
     m_reference->setChecked(recipe.corrections.subtractsReference);
     m_baseline->setChecked(recipe.corrections.removesBaseline);
     m_description->setText(CorrectionsLine(*m_settings, m_services->Spectra()->Shown()));
+    m_ledger->setText(LedgerLine(m_services->Spectra()->Ledger()));
 }

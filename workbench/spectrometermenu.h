@@ -53,6 +53,7 @@ private:
     QAction *m_clearTracks = nullptr;
     QAction *m_focus = nullptr;
     QAction *m_description = nullptr;
+    QAction *m_ledger = nullptr;
     QAction *m_rays = nullptr;
     QAction *m_dark = nullptr;
     QAction *m_reference = nullptr;

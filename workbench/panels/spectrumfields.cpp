@@ -2,6 +2,7 @@
 #include "spectrumfields.h"
 
 #include "correctionsline.h"
+#include "ledgerline.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
 #include "trackdesk.h"
@@ -14,6 +15,8 @@ constexpr double MostLineWidth = 10;
 constexpr double MostPeakSize = 40;
 constexpr int MostPeaks = 100;
 constexpr double MostBlankPercent = 90;
+
+constexpr int leastMsBetweenMissed = 1000;
 
 enum Binning { BinningOff, BinAll, BinFound, BinByHand };
 
@@ -61,14 +64,25 @@ void SpectrumFields::slotSpectrumShown()
     const SpectrumProduct &product = m_spectra->Shown();
     const QString corrections = CorrectionsLine(*m_settings, product);
     const bool isSaturated = product.IsSaturated();
-    if (m_corrections == corrections && m_samples == product.raw.Count() && m_rows == product.frameSize.height()
+    const bool isMissedNews = IsMissedNews();
+    if (!isMissedNews && m_corrections == corrections && m_samples == product.raw.Count() && m_rows == product.frameSize.height()
         && m_isSaturated == isSaturated)
         return;
+    if (isMissedNews) {
+        m_missed = m_spectra->Ledger().missed;
+        m_sinceMissed.start();
+    }
     m_isSaturated = isSaturated;
     m_corrections = corrections;
     m_samples = product.raw.Count();
     m_rows = product.frameSize.height();
     emit signalChanged();
+}
+
+/// A camera that is too fast for every second frame is no reason to build the form at its rate.
+bool SpectrumFields::IsMissedNews() const
+{
+    return m_spectra->Ledger().missed != m_missed && (!m_sinceMissed.isValid() || m_sinceMissed.hasExpired(leastMsBetweenMissed));
 }
 
 PanelFields SpectrumFields::Fields() const
@@ -157,6 +171,10 @@ void SpectrumFields::AddReferences(PanelFields &fields) const
     if (m_isSaturated) {
         fields << PanelField::Make(PanelField::Kind::Note, "saturated", tr("Saturated"),
                                    tr("Pixels are at the end of their range: peaks are cut off there. Shorten the exposure."));
+    }
+    if (m_spectra->Ledger().missed > 0) {
+        fields << PanelField::Make(PanelField::Kind::Note, "missed", tr("Missed"), LedgerLine(m_spectra->Ledger()));
+        fields.last().toolTip = tr("Lengthen the exposure, or bin fewer rows, to have a spectrum of every frame.");
     }
     fields << PanelField::MakeAction("takeDark", tr("Take Dark"), m_samples > 0);
     fields.last().toolTip = m_samples > 0 ? tr("The spectrum shown becomes the dark spectrum.") : none;

@@ -3,6 +3,8 @@
 
 #include "fieldsource.h"
 
+#include <QElapsedTimer>
+
 class SpectrumPipeline;
 class SpectrumSettings;
 class TrackDesk;
@@ -27,6 +29,7 @@ private slots:
     void slotSpectrumShown();
 
 private:
+    bool IsMissedNews() const;
     void AddDisplay(PanelFields &fields) const;
     void AddBinning(PanelFields &fields) const;
     void AddTracks(PanelFields &fields) const;
@@ -46,5 +49,7 @@ private:
     QString m_corrections; ///< the line as it was told last
     int m_samples = 0;     ///< of it; 0 without one
     int m_rows = 0;        ///< of its frame
+    quint64 m_missed = 0;  ///< frames that no spectrum was made of, as it was told last
+    QElapsedTimer m_sinceMissed; ///< was told
     bool m_isSaturated = false; ///< some value of it, or of the tracks
 };

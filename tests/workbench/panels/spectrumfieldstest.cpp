@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "centredisplay.h"
 #include "guardedtest.h"
+#include "ledgerline.h"
 #include "spectrumfields.h"
 #include "spectrumpipeline.h"
 #include "spectrumranges.h"
 #include "spectrumsettings.h"
 #include "trackdesk.h"
 
+#include <QMutex>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -48,7 +50,10 @@ private slots:
         m_centre = std::make_unique<CentreDisplay>(m_stored.get());
         m_settings = std::make_unique<SpectrumSettings>(&m_ranges, m_centre.get());
         m_settings->slotSetFrameSize(QSize(Width, Height));
-        m_spectra = std::make_unique<SpectrumPipeline>();
+        m_spectra = std::make_unique<SpectrumPipeline>([this] {
+            const QMutexLocker lock(&m_gate);
+            return Orientation();
+        });
         connect(m_settings.get(), &SpectrumSettings::signalRecipeChanged, m_spectra.get(),
                 [this] { m_spectra->SetRecipe(m_settings->Recipe()); });
         m_tracks = std::make_unique<TrackDesk>(m_settings.get());
@@ -257,6 +262,26 @@ private slots:
         QTRY_VERIFY(isSaid());
     }
 
+    void framesThatWereMissedAreSaid()
+    {
+        m_fields->Set("binning", 1);
+        m_spectra->OnFrame(Frame(1, 50));
+        QTRY_COMPARE(m_spectra->Shown().frameId, quint64(1));
+        QCOMPARE(Field("missed").key, QString());
+        QCOMPARE(LedgerLine(m_spectra->Ledger()), QString("Spectra of 1 of 1 frames, none missed."));
+        QTRY_COMPARE(Field("corrections").value.toString(), QString("No correction is on."));
+        QSignalSpy changes(m_fields.get(), SIGNAL(signalChanged()));
+        m_gate.lock();
+        for (quint64 id = 2; m_spectra->Ledger().missed < 5; ++id)
+            m_spectra->OnFrame(Frame(id, 50));
+        m_gate.unlock();
+        const quint64 taken = m_spectra->Ledger().taken;
+        QTRY_COMPARE(m_spectra->Ledger().computed.load(), taken - 5);
+        QTRY_COMPARE(changes.count(), 1);
+        QCOMPARE(Field("missed").value.toString(),
+                 QString("Spectra of %1 of %2 frames; 5 came too fast and were missed.").arg(taken - 5).arg(taken));
+    }
+
     void spectraThatSayNothingNewDoNotBuildTheFormAnew()
     {
         m_fields->Set("binning", 1);
@@ -311,6 +336,7 @@ private:
         return PanelField();
     }
 
+    QMutex m_gate; ///< while it is locked the thread of spectra waits in the middle of a frame
     QTemporaryDir m_folder;
     SpectrumRanges m_ranges;
     std::unique_ptr<QSettings> m_stored;
