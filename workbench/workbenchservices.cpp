@@ -286,6 +286,11 @@ void WorkbenchServices::ConnectSpectrum()
     connect(m_link, &CameraLink::signalFormatChanged, this, &WorkbenchServices::UpdateSensorFrame);
     connect(m_link, &CameraLink::signalStateChanged, this, &WorkbenchServices::UpdateSensorFrame);
     connect(m_orientation.get(), &LiveOrientation::signalOrientationChanged, this, &WorkbenchServices::UpdateSensorFrame);
+    const auto updateExposure = [this] {
+        m_spectrumPipeline->SetExposure(m_link->Session() ? m_link->Session()->Controls().exposureUs : 0);
+    };
+    connect(m_link, &CameraLink::signalControlsChanged, m_spectrumPipeline.get(), updateExposure);
+    connect(m_link, &CameraLink::signalStateChanged, m_spectrumPipeline.get(), updateExposure);
     connect(settings, &SpectrumSettings::signalMessage, this, &WorkbenchServices::signalMessage);
 }
 

@@ -17,6 +17,16 @@ QString AverageText(const AppliedCorrections &applied)
                                                       : Text::tr("average of %1").arg(applied.wanted.averaged);
 }
 
+/// Empty when none is wanted.
+QString DarkText(const AppliedCorrections &applied)
+{
+    if (!applied.wanted.subtractsDark)
+        return QString();
+    if (!applied.hasDark)
+        return Text::tr("no dark spectrum of this part of the picture to subtract");
+    return applied.isDarkOfOtherExposure ? Text::tr("dark of another exposure subtracted: take it anew") : Text::tr("dark subtracted");
+}
+
 /// Empty when neither is wanted.
 QString ReferenceText(const AppliedCorrections &applied)
 {
@@ -37,11 +47,7 @@ QStringList DarkAndReference(const AppliedCorrections &applied)
     QStringList parts;
     if (applied.isTrack && (applied.wanted.subtractsDark || applied.IsReferenceWanted()))
         return {Text::tr("dark and reference not of tracks")};
-    if (applied.wanted.subtractsDark) {
-        parts << (applied.hasDark ? Text::tr("dark subtracted")
-                                  : Text::tr("no dark spectrum of this part of the picture to subtract"));
-    }
-    parts << ReferenceText(applied);
+    parts << DarkText(applied) << ReferenceText(applied);
     parts.removeAll(QString());
     return parts;
 }
@@ -78,7 +84,7 @@ QString AppliedCorrections::Record() const
     if (wanted.averaged > 1)
         parts << QString("average of %1 spectra").arg(averaged);
     if (IsDarkSubtracted())
-        parts << "dark subtracted";
+        parts << (isDarkOfOtherExposure ? "dark of another exposure subtracted" : "dark subtracted");
     if (Quantity() != SpectrumQuantity::Counts)
         parts << "divided by reference";
     else if (hasReference && wanted.subtractsReference)

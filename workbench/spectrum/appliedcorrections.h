@@ -32,6 +32,7 @@ struct AppliedCorrections
     int averaged = 1;          ///< spectra, so far
     bool hasDark = false;      ///< there is a dark spectrum of its place
     bool hasReference = false; ///< likewise
+    bool isDarkOfOtherExposure = false; ///< as far as both exposures are known
     bool isTrack = false;      ///< dark and reference are those of binned spectra only
 
     bool IsReferenceWanted() const { return wanted.subtractsReference || wanted.quantity != SpectrumQuantity::Counts; }

@@ -27,6 +27,13 @@ bool IsOf(const Spectrum &reference, const Spectrum &spectrum)
     return spectrum.Count() > 0 && reference.Count() == spectrum.Count() && reference.place == spectrum.place;
 }
 
+/// Cameras round what they are told.
+bool AreOtherExposures(double oneUs, double otherUs)
+{
+    constexpr double rounding = 1e-3;
+    return oneUs > 0 && otherUs > 0 && std::abs(oneUs - otherUs) > rounding * std::max(oneUs, otherUs);
+}
+
 double MiddleOf(double a, double b, double c)
 {
     return std::max(std::min(a, b), std::min(std::max(a, b), c));
@@ -57,6 +64,7 @@ Spectrum SpectrumCorrections::Apply(const Spectrum &raw)
     m_applied.averaged = std::max(1, int(m_averaged.size()));
     m_applied.hasDark = IsOf(m_dark, raw);
     m_applied.hasReference = IsOf(m_reference, raw);
+    m_applied.isDarkOfOtherExposure = m_applied.hasDark && AreOtherExposures(m_dark.exposureUs, raw.exposureUs);
 
     Spectrum spectrum = m_mean;
     SubtractDark(&spectrum);

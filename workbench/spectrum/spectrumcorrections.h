@@ -20,6 +20,7 @@ struct Spectrum
     /// The values before they were smoothed; empty when they were not. Smoothed noise is no longer that of each sample
     /// for itself: peaks are looked for in these.
     std::vector<double> unsmoothed = {};
+    double exposureUs = 0; ///< 0 when it is not known
 
     int Count() const { return int(values.size()); }
 };

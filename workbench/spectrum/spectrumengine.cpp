@@ -127,7 +127,7 @@ Spectrum SpectrumEngine::SpectrumOf(const SampleView &picture, const RowBand &ba
 {
     const BinnedLine line = LineOf(picture, band, isHorizontal);
     return {std::vector<double>(line.sums.begin(), line.sums.end()), line.saturated, frameId,
-            {m_size, m_orientation, isHorizontal, band.top, band.bottom}};
+            {m_size, m_orientation, isHorizontal, band.top, band.bottom}, {}, m_exposureUs};
 }
 
 bool SpectrumEngine::UpdateBand(const SampleView &picture)

@@ -14,6 +14,8 @@ public:
     void SetRecipe(const SpectrumRecipe &recipe);
     void SetDark(const Spectrum &dark) { m_corrections.SetDark(dark); }
     void SetReference(const Spectrum &reference) { m_corrections.SetReference(reference); }
+    /// Of the pictures from now on; 0 when it is not known.
+    void SetExposure(double exposureUs) { m_exposureUs = exposureUs; }
     /// The band is looked for again with the next picture.
     void FindBandAgain();
 
@@ -31,6 +33,7 @@ private:
     SpectrumRecipe m_recipe;
     SpectrumCorrections m_corrections;
     std::vector<SpectrumCorrections> m_trackCorrections;
+    double m_exposureUs = 0;
     QSize m_size;
     Orientation m_orientation;
     RowBand m_band;

@@ -108,6 +108,11 @@ bool SpectrumPipeline::TakeReference()
     return true;
 }
 
+void SpectrumPipeline::SetExposure(double exposureUs)
+{
+    ChangeEngine([exposureUs](SpectrumEngine *engine) { engine->SetExposure(exposureUs); });
+}
+
 void SpectrumPipeline::FindBandAgain()
 {
     ChangeEngine([](SpectrumEngine *engine) { engine->FindBandAgain(); });

@@ -37,6 +37,8 @@ public:
     bool TakeReference();
     /// The band is looked for again.
     void FindBandAgain();
+    /// As the camera said last; 0 when it is not known. A dark spectrum of another one is said to be that.
+    void SetExposure(double exposureUs);
     /// Looks for tracks in the next frame; signalTracksFound() tells. Without live frames it says so.
     void FindTracks();
     /// Frames come. What waits for one is given up when they stop.

@@ -24,6 +24,8 @@ private slots:
     void cosmicRaysGoAndSharpLinesStay();
     void aLampThatIsSwitchedOnIsNoCosmicRay();
     void theBaselineGoesAndTheLineStays();
+    void aDarkOfAnotherExposureIsSaid_data();
+    void aDarkOfAnotherExposureIsSaid();
     void theSentenceSaysAll();
 };
 
@@ -265,6 +267,39 @@ void SpectrumCorrectionsTest::theBaselineGoesAndTheLineStays()
     const std::vector<double> values = corrections.Apply(Of(samples)).values;
     QVERIFY2(std::abs(values[500] - 5000) < 50, qPrintable(QString::number(values[500])));
     QVERIFY2(std::abs(values[200]) < 20, qPrintable(QString::number(values[200])));
+}
+
+void SpectrumCorrectionsTest::aDarkOfAnotherExposureIsSaid_data()
+{
+    QTest::addColumn<double>("ofDark");
+    QTest::addColumn<double>("ofSpectrum");
+    QTest::addColumn<bool>("isOther");
+    QTest::newRow("the same") << 20000.0 << 20000.0 << false;
+    QTest::newRow("as the camera rounds it") << 20000.0 << 20003.0 << false;
+    QTest::newRow("longer") << 20000.0 << 40000.0 << true;
+    QTest::newRow("a little shorter") << 20000.0 << 19000.0 << true;
+    QTest::newRow("of an unknown one") << 0.0 << 20000.0 << false;
+    QTest::newRow("now unknown") << 20000.0 << 0.0 << false;
+}
+
+void SpectrumCorrectionsTest::aDarkOfAnotherExposureIsSaid()
+{
+    QFETCH(double, ofDark);
+    QFETCH(double, ofSpectrum);
+    QFETCH(bool, isOther);
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.subtractsDark = true;
+    corrections.SetSettings(settings);
+    Spectrum dark = Of({1, 2});
+    dark.exposureUs = ofDark;
+    corrections.SetDark(dark);
+    Spectrum raw = Of({10, 20});
+    raw.exposureUs = ofSpectrum;
+    QVERIFY(corrections.Apply(raw).values == std::vector<double>({9, 18})); // as it was wanted
+    QCOMPARE(corrections.Applied().Sentence(), isOther ? QString("Corrections: dark of another exposure subtracted: take it anew.")
+                                                       : QString("Corrections: dark subtracted."));
+    QCOMPARE(corrections.Applied().Record(), isOther ? QString("dark of another exposure subtracted") : QString("dark subtracted"));
 }
 
 void SpectrumCorrectionsTest::theSentenceSaysAll()

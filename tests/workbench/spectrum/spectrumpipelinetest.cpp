@@ -284,6 +284,7 @@ void SpectrumPipelineTest::darkIsTheSpectrumShown()
     QVERIFY(!pipeline.TakeDark());
     SpectrumRecipe recipe = Binning();
     pipeline.SetRecipe(recipe);
+    pipeline.SetExposure(20000);
     pipeline.OnFrame(Frame(1, 0, 0));
     QTRY_COMPARE(pipeline.Shown().frameId, quint64(1));
     QVERIFY(pipeline.TakeDark());
@@ -294,6 +295,10 @@ void SpectrumPipelineTest::darkIsTheSpectrumShown()
     QCOMPARE(pipeline.Shown().corrected.values[0], 0.0);
     QCOMPARE(pipeline.Shown().raw.values[0], 8000.0);
     QCOMPARE(pipeline.Shown().corrections.Sentence(), QString("Corrections: dark subtracted."));
+    pipeline.SetExposure(40000);
+    pipeline.OnFrame(Frame(3));
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(3));
+    QCOMPARE(pipeline.Shown().corrections.Sentence(), QString("Corrections: dark of another exposure subtracted: take it anew."));
 }
 
 void SpectrumPipelineTest::whatWasAveragedBeforeAChangeDoesNotStay_data()
