@@ -276,8 +276,10 @@ void WorkbenchServices::ConnectSpectrum()
     connect(m_config.get(), &WorkspaceConfig::signalSwitchView, settings, [this, settings] {
         const int view = m_config->GetCurrentView();
         settings->slotSetImageShown(view == ImageView || view == ImageCompareView);
-        m_spectrumPipeline->ShowAgain();
+        ShowCurvesAgain();
     });
+    // The pages are told what pixels mean now, but what they show was drawn before.
+    connect(settings, &SpectrumSettings::SignalConversationFormulaChanged, this, &WorkbenchServices::ShowCurvesAgain);
     m_mainPicture->SetCalibrationSource([this, settings] {
         return m_useArea->IsSpectrumPagePresent() ? settings->ImageCalibration() : QVector<MetadataEntry>();
     });
@@ -317,14 +319,19 @@ void WorkbenchServices::ConnectTracks()
     connect(m_link, &CameraLink::signalStateChanged, spectra, updateLive);
 }
 
-/// The curves of a standing picture need a frame to be made of.
 void WorkbenchServices::slotDisplayModeChanged()
 {
     if (m_centreDisplay->Mode() != DisplayMode::General)
         m_useArea->slotSetSpectrum(true); // its pages belong to that use
     UpdateProfilesWanted();
+    ShowCurvesAgain();
+}
+
+/// With the camera stopped nothing else would come. The profile of a standing picture needs a frame to be made of.
+void WorkbenchServices::ShowCurvesAgain()
+{
     m_preview->slotShowAgain();
-    m_spectrumPipeline->ShowAgain(); // for the page that comes to the front: with the camera stopped nothing else would come
+    m_spectrumPipeline->ShowAgain();
 }
 
 /// The curve's page shows a profile of the picture only while there is neither a binned spectrum nor a track.

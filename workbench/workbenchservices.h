@@ -127,6 +127,7 @@ private:
     void ConnectSpectrum();
     void ConnectTracks();
     void UpdateProfilesWanted();
+    void ShowCurvesAgain();
     void UpdateSensorFrame();
     void RepairRecordings();
 

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "camerasession.h"
+#include "livepreview.h"
+#include "plotpicture.h"
+#include "scenariotest.h"
+#include "spectrographscene.h"
+#include "spectrumpipeline.h"
+#include "spectrumsettings.h"
+
+#include <QAction>
+#include <QPushButton>
+
+#include <qcustomplot.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int width = 2048;
+constexpr int waitMs = 20000;
+constexpr double faintExposureUs = 2000; ///< nothing is cut off
+/// 390 nm in the first column and 930 nm in the last.
+const SpectralCalibration straight({660, 270}, width);
+
+} // namespace
+
+/// A person stops the camera on a good frame, and works with its spectrum.
+class StandingSpectrumScenario : public ScenarioTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() override
+    {
+        ScenarioTest::init();
+        m_workbench->link.SetScene(SpectrographScene::SceneName());
+        m_workbench->link.SetPixelLayout(PixelLayout::Mono16);
+        m_workbench->link.Session()->SetExposureUs(faintExposureUs);
+        QVERIFY(m_workbench->WaitForNextPicture());
+    }
+
+    void aCalibrationMovesTheCurveAndItsPeaks_data()
+    {
+        QTest::addColumn<bool>("isBinned");
+        QTest::newRow("binned spectrum") << true;
+        QTest::newRow("row of the picture") << false;
+    }
+
+    void aCalibrationMovesTheCurveAndItsPeaks()
+    {
+        QFETCH(bool, isBinned);
+        m_workbench->Action("Curve with Peaks")->trigger();
+        if (isBinned)
+            m_workbench->Action("All Rows")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot() && Plot()->graph(0)->dataCount() == width && !PeakKeys().isEmpty(), waitMs);
+        StopCamera();
+
+        SpectrumSettings *settings = m_workbench->services.Spectrum();
+        settings->SetCalibration(straight, settings->ShownFrame());
+        QCOMPARE(Plot()->xAxis->label(), QString("Wavelength [nm]"));
+        CheckEnds(390, 930);
+        m_workbench->Action("Pixels")->trigger();
+        QCOMPARE(Plot()->xAxis->label(), QString("Pixel Number"));
+        CheckEnds(0, width - 1);
+        m_workbench->Action("Nanometres")->trigger();
+        CheckEnds(390, 930);
+    }
+
+private:
+    /// By the button; then nothing is on its way any more.
+    void StopCamera() const
+    {
+        auto *button = m_workbench->window.findChild<QPushButton *>("pushButtonPreviewChecked");
+        QVERIFY(button);
+        button->click();
+        QVERIFY(!m_workbench->services.Preview()->isRunning());
+        const SpectrumLedger &ledger = m_workbench->services.Spectra()->Ledger();
+        QTRY_COMPARE_WITH_TIMEOUT(ledger.computed + ledger.missed + ledger.dropped, quint64(ledger.taken), waitMs);
+        QCoreApplication::processEvents();
+    }
+
+    QCustomPlot *Plot() const { return qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())); }
+
+    /// On the axis of the plot, of the marks of peaks.
+    QVector<double> PeakKeys() const
+    {
+        QVector<double> keys;
+        for (int i = 0; i < Plot()->itemCount(); ++i) {
+            if (const auto *mark = qobject_cast<const QCPItemTracer *>(Plot()->item(i)))
+                keys << mark->graphKey();
+        }
+        return keys;
+    }
+
+    /// The curve, the axis and the marks agree on what is where.
+    void CheckEnds(double first, double last) const
+    {
+        const auto samples = Plot()->graph(0)->data();
+        QTRY_VERIFY(std::abs(samples->at(0)->key - first) < 1e-6 && std::abs(samples->at(width - 1)->key - last) < 1e-6);
+        QTRY_COMPARE(Plot()->xAxis->range().lower, samples->at(0)->key);
+        QCOMPARE(Plot()->xAxis->range().upper, samples->at(width - 1)->key);
+        QVERIFY(!PeakKeys().isEmpty());
+        for (const double key : PeakKeys()) {
+            const auto peak = samples->findBegin(key, false);
+            const auto highest = std::max_element(peak - 3, peak + 4, [](const QCPGraphData &a, const QCPGraphData &b) { return a.value < b.value; });
+            QVERIFY2(std::abs(peak->key - key) < 1e-6, qPrintable(QString::number(key)));
+            QCOMPARE(peak->value, highest->value);
+        }
+    }
+};
+
+GUARDED_TEST_MAIN(StandingSpectrumScenario)
+#include "tst_standingspectrum.moc"
