@@ -6,6 +6,7 @@
 #include "scenariotest.h"
 #include "spectrographoptics.h"
 #include "spectrographscene.h"
+#include "spectrumexport.h"
 #include "spectrumlinepayload.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
@@ -30,17 +31,6 @@ namespace {
 constexpr int waitMs = 20000;
 constexpr double faintExposureUs = 2000; ///< nothing is cut off
 const SpectrographOptics truth(QSize(2048, 2048));
-
-/// Those of the lines: all else in the plot is black, white or grey.
-int ColouredPixels(const QImage &picture)
-{
-    int count = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x)
-            count += picture.pixelColor(x, y).saturation() > 60;
-    }
-    return count;
-}
 
 } // namespace
 

@@ -10,6 +10,7 @@
 #include "scenariotest.h"
 #include "spectrographoptics.h"
 #include "spectrographscene.h"
+#include "spectrumexport.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
 #include "stylesheet.h"
@@ -23,11 +24,9 @@
 #include <QDoubleSpinBox>
 #include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
-#include <QSvgRenderer>
 #include <QTableWidget>
 #include <qcustomplot.h>
 
@@ -39,21 +38,6 @@ namespace {
 constexpr QSize sensor(2048, 2048);
 constexpr int waitMs = 20000;
 constexpr double faintExposureUs = 2000; ///< nothing is cut off
-
-/// The columns of an exported table: its lines without those that begin with "#" and without the names.
-QVector<QVector<double>> ColumnsOf(const QStringList &lines)
-{
-    QVector<QVector<double>> columns;
-    for (const QString &line : lines) {
-        if (line.isEmpty() || line.startsWith('#') || line.startsWith("pixel"))
-            continue;
-        const QStringList cells = line.split(',');
-        columns.resize(cells.size());
-        for (int i = 0; i < cells.size(); ++i)
-            columns[i] << cells[i].toDouble();
-    }
-    return columns;
-}
 
 } // namespace
 
@@ -100,8 +84,8 @@ private slots:
         QTRY_VERIFY(std::abs(Plot()->xAxis->range().upper - 930) < 2);
         m_dialog->close();
 
-        CheckTable(Export("Export Spectrum…", "lamp.csv"));
-        ExportPlots(Plot());
+        CheckTable(Exporting().Lines("Export Spectrum…", "lamp.csv"));
+        Exporting().CheckPlots(Plot());
         m_workbench->Action("Wavenumbers")->trigger();
         QCOMPARE(Plot()->xAxis->label(), QString("Wavenumber [1/cm]"));
     }
@@ -227,8 +211,8 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(m_workbench->services.Spectra()->Shown().tracks.size(), size_t(3), waitMs);
         QTRY_VERIFY(VisiblePlot(m_workbench->window.centralWidget()));
         WaitForNextSpectrum();
-        ExportPlots(VisiblePlot(m_workbench->window.centralWidget()));
-        const QStringList lines = Export("Export Spectrum…", "tracks.csv");
+        Exporting().CheckPlots(VisiblePlot(m_workbench->window.centralWidget()));
+        const QStringList lines = Exporting().Lines("Export Spectrum…", "tracks.csv");
         QVERIFY(lines.contains("pixel,axis,track1,track2,track3,saturated1,saturated2,saturated3"));
         QCOMPARE(ColumnsOf(lines).value(0).size(), sensor.width());
     }
@@ -249,7 +233,7 @@ private slots:
         m_workbench->window.findChild<QFrame *>("MultiImageToolUI")->findChild<QScrollBar *>()->setValue(4);
         QTRY_COMPARE(Plot()->graph(0)->data()->at(76)->value, 1484.0);
 
-        const QStringList lines = Export("Export Spectrum…", "raman.csv");
+        const QStringList lines = Exporting().Lines("Export Spectrum…", "raman.csv");
         QVERIFY(lines.contains("# frame: 5"));
         QVERIFY(lines.contains("# calibration: from the file"));
         QVERIFY(lines.contains("# rows: 0 to 0"));
@@ -257,7 +241,7 @@ private slots:
         QCOMPARE(columns.value(0).size(), 1023);
         QCOMPARE(columns[2][76], 1484.0);
         QVERIFY(std::abs(columns[1][620] - 2618.027) < 0.01);
-        ExportPlots(Plot());
+        Exporting().CheckPlots(Plot());
         m_workbench->services.Config()->SetCameraView(); // a live picture leaves with its page
     }
 
@@ -281,7 +265,7 @@ private slots:
     void whatCannotBeWrittenIsTold()
     {
         ShowLamp();
-        QFileDialog *dialog = OpenExport("Export Plot…");
+        QFileDialog *dialog = Exporting().Open("Export Plot…");
         QVERIFY(dialog);
         emit dialog->fileSelected(m_folder->filePath("gone") + "/plot.png");
         dialog->close();
@@ -392,18 +376,7 @@ private:
         QCOMPARE(model->Points(), all);
     }
 
-    QFileDialog *OpenExport(const QString &action)
-    {
-        m_workbench->Action(action)->trigger();
-        auto *dialog = m_workbench->window.findChild<QFileDialog *>("ExportDialog");
-        return dialog && QTest::qWaitForWindowExposed(dialog) ? dialog : nullptr;
-    }
-
-    static void TypeInto(QFileDialog *dialog, const QString &path)
-    {
-        dialog->findChild<QLineEdit *>("fileNameEdit")->setText(path);
-        QMetaObject::invokeMethod(dialog, "accept");
-    }
+    SpectrumExport Exporting() const { return SpectrumExport(m_workbench.get(), m_folder->path()); }
 
     /// The window has one for pictures and one for spectra.
     QString NoticeText() const
@@ -419,21 +392,6 @@ private:
     {
         for (QMessageBox *notice : m_workbench->window.findChildren<QMessageBox *>("FaultNotice"))
             notice->close();
-    }
-
-    /// The lines of the file that was written.
-    QStringList Export(const QString &action, const QString &name)
-    {
-        QFileDialog *dialog = OpenExport(action);
-        if (!dialog)
-            return {};
-        TypeInto(dialog, m_folder->filePath(name));
-        const QString told = QString::fromUtf8("“%1” was saved.").arg(name);
-        if (!QTest::qWaitFor([&] { return m_workbench->StatusText() == told && !m_workbench->window.findChild<QFileDialog *>(); }, waitMs))
-            return {};
-        QFile file(m_folder->filePath(name));
-        const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        return QString::fromUtf8(content.constData(), content.size()).split('\n'); // with the zeros of a PDF
     }
 
     void CheckTable(const QStringList &lines)
@@ -461,22 +419,6 @@ private:
         for (int power = coefficients.size() - 1; power >= 0; --power)
             nm = nm * 1000 + coefficients[power].toDouble();
         QVERIFY2(std::abs(nm - columns[1][1000]) < 1e-6, qPrintable(QString::number(nm)));
-    }
-
-    void ExportPlots(const QWidget *plot)
-    {
-        Export("Export Plot…", "plot.png");
-        const QImage picture(m_folder->filePath("plot.png"));
-        QVERIFY(picture.width() >= plot->width() && picture.height() * plot->width() == picture.width() * plot->height());
-        Export("Export Plot…", "plot.svg");
-        QSvgRenderer drawing(m_folder->filePath("plot.svg"));
-        QVERIFY(drawing.isValid());
-        QCOMPARE(drawing.viewBox().size(), plot->size());
-        const QStringList page = Export("Export Plot…", "plot.pdf");
-        QVERIFY(page.value(0).startsWith("%PDF-"));
-        const QRegularExpressionMatch box = QRegularExpression("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]").match(page.join(' '));
-        QVERIFY2(std::abs(box.captured(1).toDouble() - plot->width() * 0.75) < 1, qPrintable(box.captured(1)));
-        QVERIFY2(std::abs(box.captured(2).toDouble() - plot->height() * 0.75) < 1, qPrintable(box.captured(2)));
     }
 
     QPointer<QDialog> m_dialog;
