@@ -63,6 +63,18 @@ void WriteSpectrum(const QString &path, int frames, int file)
     Write(path, spe.Bytes());
 }
 
+/// Two frames of one row with one line, so high.
+void WriteLine(const QString &path, int height)
+{
+    SpeBytes spe(FileSize.width(), 1, 3, 2);
+    for (int x = 0; x < 2 * FileSize.width(); ++x) {
+        QByteArray sample(2, '\0');
+        qToLittleEndian(quint16(x % FileSize.width() == LineColumn ? height : 0), sample.data());
+        spe.Append(sample);
+    }
+    Write(path, spe.Bytes());
+}
+
 void WriteColour(const QString &path)
 {
     Picture picture(640, 480, 3, SampleType::U8);
@@ -102,6 +114,7 @@ private slots:
     void dragsClicksAndStepsBack();
     void framesAndFilesKeepTheirPlace();
     void thePlotShowsTheWholeRowOfAZoomedImage();
+    void anotherFileIsRangedAnew();
     void rulersCountWhatTheyCanShow();
     void barShowsThePaletteOfThePicture();
 
@@ -242,6 +255,23 @@ void OpenedSpectrumScenario::thePlotShowsTheWholeRowOfAZoomedImage()
     m_workbench->Action("Sensor Image")->trigger();
     QVERIFY(page.WaitForImage());
     QVERIFY(std::abs(row.first - first) <= 1); // the part that is seen
+}
+
+/// As high as itself, not as the brighter one before it.
+void OpenedSpectrumScenario::anotherFileIsRangedAnew()
+{
+    WriteLine(m_folder->filePath("bright.spe"), 40000);
+    WriteLine(m_folder->filePath("faint.spe"), 200);
+    m_workbench->Action("Curve")->trigger();
+    QVERIFY(Open("bright.spe"));
+    const auto plot = [this] { return qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())); };
+    QTRY_VERIFY(plot() && plot()->yAxis->range().upper > 40000);
+    Main()->SetImage(1);
+    QTRY_COMPARE(Main()->Shown().request.frame, 1);
+    QVERIFY(Open("faint.spe"));
+    QTRY_COMPARE(plot()->graph(0)->data()->at(LineColumn)->value, 200.0);
+    QVERIFY2(plot()->yAxis->range().upper < 300, qPrintable(QString::number(plot()->yAxis->range().upper)));
+    QVERIFY(plot()->yAxis->range().upper >= 200);
 }
 
 void OpenedSpectrumScenario::rulersCountWhatTheyCanShow()

@@ -111,7 +111,6 @@ void OpenedPicture::Take(const LoadedPicture &picture)
     emit signalUpdateFileNameAndSize(GetFileInfo());
     emit signalUpdateLevel(m_levels->LeftValue(), m_levels->RightValue());
     PickMiddle(isOtherSize);
-    AnnounceCurves();
     if (isOther)
         AnnounceDocument();
     else
@@ -124,6 +123,7 @@ void OpenedPicture::Take(const LoadedPicture &picture)
         FinishApply();
     else
         Settle(isOther);
+    AnnounceCurves(); // the plot has been told that it is another file, and ranges anew
     if (picture.request.count && m_count)
         emit signalCounted();
 }
