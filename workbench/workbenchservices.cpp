@@ -332,6 +332,14 @@ void WorkbenchServices::ShowCurvesAgain()
 {
     m_preview->slotShowAgain();
     m_spectrumPipeline->ShowAgain();
+    // The 3D page is built when it is shown for the first time, which may be later than this.
+    QMetaObject::invokeMethod(this, &WorkbenchServices::TellOfNoTracks, Qt::QueuedConnection);
+}
+
+void WorkbenchServices::TellOfNoTracks()
+{
+    if (m_centreDisplay->Mode() == DisplayMode::Tracks3D && m_spectrumPipeline->Shown().tracks.empty())
+        m_spectrumPipeline->AnnounceNoTracks();
 }
 
 /// The curve's page shows a profile of the picture only while there is neither a binned spectrum nor a track.

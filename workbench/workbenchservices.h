@@ -128,6 +128,7 @@ private:
     void ConnectTracks();
     void UpdateProfilesWanted();
     void ShowCurvesAgain();
+    void TellOfNoTracks();
     void UpdateSensorFrame();
     void RepairRecordings();
 

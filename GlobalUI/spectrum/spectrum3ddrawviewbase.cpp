@@ -31,6 +31,14 @@ bool IsOpenGLOffered()
     return context.create();
 }
 
+QLabel *MakeNotice(const QString &text, QWidget *parent)
+{
+    auto *notice = new QLabel(text, parent);
+    notice->setAlignment(Qt::AlignCenter);
+    notice->setWordWrap(true);
+    return notice;
+}
+
 } // namespace
 
 Spectrum3DDrawViewBase::Spectrum3DDrawViewBase(QWidget *parent)
@@ -42,10 +50,7 @@ Spectrum3DDrawViewBase::Spectrum3DDrawViewBase(QWidget *parent)
     if (IsOpenGLOffered()) {
         CreatePlot();
     } else {
-        auto *notice = new QLabel(tr("The 3D plot can't be shown: this display offers no OpenGL."), this);
-        notice->setAlignment(Qt::AlignCenter);
-        notice->setWordWrap(true);
-        column->addWidget(notice);
+        column->addWidget(MakeNotice(tr("The 3D plot can't be shown: this display offers no OpenGL."), this));
     }
 
     m_zoomBar = new SpectrumZoomUI(this, false);
@@ -73,6 +78,9 @@ void Spectrum3DDrawViewBase::CreatePlot()
     m_plot = new TrackPlot; // reparented by the layout
     m_plot->setAttribute(Qt::WA_DontCreateNativeAncestors);
     layout()->addWidget(m_plot);
+    m_noTracks = MakeNotice(tr("There are no tracks to show: draw them on the picture or have them found."), this);
+    m_noTracks->setAttribute(Qt::WA_DontCreateNativeAncestors); // beside the plot it becomes a window of its own, too
+    m_noTracks->hide();
     connect(m_plot, SIGNAL(rotationChanged(double, double, double)), this,
             SLOT(Slot3DViewRotationChanged(double, double, double)));
     connect(m_plot, SIGNAL(zoomChanged(double)), this, SLOT(Slot3DZoomChanged(double)));
@@ -88,6 +96,14 @@ void Spectrum3DDrawViewBase::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     PlaceZoomBar();
+    if (m_noTracks)
+        m_noTracks->setGeometry(rect().marginsRemoved(layout()->contentsMargins()));
+}
+
+void Spectrum3DDrawViewBase::ShowPlot(bool shown)
+{
+    m_plot->setVisible(shown);
+    m_noTracks->setVisible(!shown);
 }
 
 void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
@@ -98,7 +114,7 @@ void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
     if (!m_plot || !param || !settings->IsDisplayMode3D() || !isVisible())
         return;
     const QList<QRectF> tracks = settings->GetMultiTrackList();
-    m_plot->setVisible(!tracks.isEmpty());
+    ShowPlot(!tracks.isEmpty());
     if (tracks.isEmpty())
         return;
 
@@ -114,6 +130,8 @@ void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
         maximum = payload->maximum;
     }
     const int width = int(tracks.first().width());
+    if (!values)
+        ShowPlot(false); // tracks that are switched off
     if (!values || width < 1)
         return;
 

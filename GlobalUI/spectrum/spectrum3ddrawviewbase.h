@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class QLabel;
 class Rosenbrock;
 class SpectrumZoomUI;
 
@@ -43,6 +44,8 @@ protected:
 private:
     void CreatePlot();
     void PlaceZoomBar();
+    /// The plot, or a notice in its place.
+    void ShowPlot(bool shown);
     /// Box, axes and view, for tracks of this width and the values of this payload.
     void SetUpPlot(int trackCount, int width, const TrackSteps &steps, int minimum, int maximum);
     void SetUpAxes(int width, double depth, const TrackSteps &steps);
@@ -56,4 +59,5 @@ private:
     Qwt3D::Line3D *m_lines = nullptr;       ///< the plot owns it
     TrackSteps m_steps{};                   ///< of the axes
     SpectrumZoomUI *m_zoomBar = nullptr;
+    QLabel *m_noTracks = nullptr;           ///< the notice; null without a plot
 };

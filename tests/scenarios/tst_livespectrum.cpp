@@ -17,6 +17,7 @@
 #include <QContextMenuEvent>
 #include <QGraphicsSimpleTextItem>
 #include <QGraphicsView>
+#include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QMutexLocker>
@@ -179,6 +180,36 @@ private slots:
         QTRY_VERIFY(ColouredPixels(Screen(live)) > 300);
     }
 
+    /// What is gone is not shown, turned or exported as if it were of now.
+    void withoutTracksThe3DPageSaysSo()
+    {
+        m_workbench->Action("Tracks in 3D")->trigger();
+        QTRY_COMPARE(Notice(), QString("There are no tracks to show: draw them on the picture or have them found."));
+        QVERIFY(!Plot3D());
+        m_workbench->Action("Find Tracks")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot3D(), waitMs);
+        QVERIFY(Notice().isEmpty());
+
+        m_workbench->Action("Clear Tracks")->trigger();
+        QTRY_VERIFY(!Plot3D());
+        QVERIFY(!Notice().isEmpty());
+        SavePicture("no-tracks-3d.png");
+        m_workbench->Action("Export Plot…")->trigger();
+        QCOMPARE(m_workbench->StatusText(), QString("There is no plot to export: show the curve or the tracks in 3D first."));
+        m_workbench->Action("Undo Clear Tracks")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot3D(), waitMs);
+        m_workbench->Action("Show Tracks")->trigger();
+        QTRY_VERIFY(!Plot3D());
+        m_workbench->Action("Show Tracks")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot3D(), waitMs);
+        m_workbench->Action("All Rows")->trigger();
+        QTRY_VERIFY(!Plot3D());
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("Tracks in 3D")->trigger();
+        QTRY_VERIFY(!Notice().isEmpty());
+        QVERIFY(!Plot3D());
+    }
+
 private:
     SpectrumPipeline *Spectra() const { return m_workbench->services.Spectra(); }
 
@@ -230,6 +261,16 @@ private:
                 return plot;
         }
         return nullptr;
+    }
+
+    /// The words on the 3D page.
+    QString Notice() const
+    {
+        for (const QLabel *label : m_workbench->window.centralWidget()->findChildren<QLabel *>()) {
+            if (label->isVisible() && label->parentWidget()->inherits("Spectrum3DDrawViewBase"))
+                return label->text();
+        }
+        return QString();
     }
 
     static QImage Screen(const QWidget *widget)

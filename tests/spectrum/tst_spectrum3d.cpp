@@ -9,6 +9,7 @@
 #include "spectrumzoomui.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QMetaMethod>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -229,9 +230,14 @@ void TestSpectrum3D::withoutTracks()
     page.Update();
     QVERIFY(page.plot->isVisible());
     QVERIFY(page.plot->hasData());
+    const auto *notice = page.view->findChild<QLabel *>();
+    QVERIFY(notice && notice->isHidden());
     page.SetTracks(0, 300);
     page.Update();
     QVERIFY(page.plot->isHidden());
+    QCOMPARE(notice->text(), QString("There are no tracks to show: draw them on the picture or have them found."));
+    QVERIFY(notice->isVisible());
+    QCOMPARE(notice->geometry(), QRect(40, 10, 550, 380));
 }
 
 void TestSpectrum3D::tracksWithoutWidth_data()
@@ -262,8 +268,11 @@ void TestSpectrum3D::buffersAreExchanged()
     page.payload->lock.unlock();
     LinePayload empty({ 1 });
     empty.record.fill = nullptr;
-    page.view->SlotUpdateMultiTrack(empty.Param()); // nothing to draw, and nothing happens
+    page.view->SlotUpdateMultiTrack(empty.Param()); // nothing to draw: tracks that are switched off
+    QVERIFY(page.plot->isHidden());
     QCOMPARE(PlotLines::Of(page.plot).first()->lines().size(), size_t(3));
+    page.Update();
+    QVERIFY(page.plot->isVisible());
 }
 
 void TestSpectrum3D::queuedFromTheService()

@@ -52,6 +52,7 @@ SpectrumPipeline::SpectrumPipeline(std::function<Orientation()> orientation, QOb
     , m_orientation(std::move(orientation))
     , m_thread([this] { Run(); })
 {
+    m_noTracks.lock = &m_noTracksLock;
 }
 
 SpectrumPipeline::~SpectrumPipeline()
@@ -77,8 +78,11 @@ void SpectrumPipeline::SetRecipe(const SpectrumRecipe &recipe)
             m_queue.clear();
         }
     }
+    const bool hadTracks = !m_shown.tracks.empty();
     if (ForgetUnwanted(&m_shown))
         emit signalSpectrumShown();
+    if (hadTracks && m_shown.tracks.empty())
+        AnnounceNoTracks();
 }
 
 /// What is no longer made is no longer shown, exported or taken as dark. True when there was any.
@@ -227,6 +231,11 @@ void SpectrumPipeline::ShowAgain()
     const std::lock_guard<std::mutex> lock(m_deliveryMutex);
     if (!std::exchange(m_isOnItsWay, true))
         QMetaObject::invokeMethod(this, &SpectrumPipeline::slotAnnounce, Qt::QueuedConnection);
+}
+
+void SpectrumPipeline::AnnounceNoTracks()
+{
+    emit SignalUpdateMultiTrack(&m_noTracks);
 }
 
 void SpectrumPipeline::slotAnnounce()

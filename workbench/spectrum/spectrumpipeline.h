@@ -9,6 +9,8 @@
 #include "spectrumledger.h"
 #include "spectrummanager.h"
 
+#include <QMutex>
+
 #include <condition_variable>
 #include <deque>
 #include <functional>
@@ -46,6 +48,8 @@ public:
 
     /// The plots get the newest spectrum once more: a page that was hidden has none. Nothing when one is on its way.
     void ShowAgain();
+    /// The plots are told that there are no tracks, in place of those that they show.
+    void AnnounceNoTracks();
 
     /// The newest one that was announced.
     const SpectrumProduct &Shown() const { return m_shown; }
@@ -105,5 +109,7 @@ private:
     std::vector<LineFocus> m_lines;
     LinePayload m_line{1};
     LinePayload m_tracks{MostTracksAtAll};
+    QMutex m_noTracksLock;
+    SpectrumLinePayload m_noTracks{}; ///< of no lines
     std::thread m_thread; ///< last: everything it uses is there before it
 };
