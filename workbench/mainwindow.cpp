@@ -36,6 +36,7 @@
 #include "shownframes.h"
 #include "spectrometermenu.h"
 #include "spectrumdialogs.h"
+#include "spectrumsettings.h"
 #include "spectrumuimanager.h"
 #include "statusline.h"
 #include "uimanagerbase.h"
@@ -101,7 +102,9 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
 
     // The panels find them while the module is built.
     auto *sources = new PanelSources(
-        {services->Histogram(), services->Spectrum(), services->Spectra(), services->Tracks(), services->Calibration()}, this);
+        {services->Histogram(), services->Spectrum(), services->Spectra(), services->Tracks(), services->Calibration(),
+         [services] { return services->Desk()->MainPicture()->IsProfileSaturated(services->Spectrum()->IsDirectionHorinzontal()); }},
+        this);
     AddAdjustment(FieldSource::CameraAdjustmentName, services->LivePosition(), SLOT(slotSetMirrorRotate(int)));
     AddAdjustment(FieldSource::ImageAdjustmentName, services->Desk()->MainPicture(), SLOT(slotRotateImage(int)));
     BuildAreas();

@@ -175,7 +175,9 @@ void SpectrometerMenu::FindTracks()
 void SpectrometerMenu::Take(bool dark)
 {
     SpectrumPipeline *spectra = m_services->Spectra();
-    if (!(dark ? spectra->TakeDark() : spectra->TakeReference()))
+    if (m_settings->IsImageShown())
+        emit signalMessage(tr("An opened file is shown: go to the camera first."));
+    else if (!(dark ? spectra->TakeDark() : spectra->TakeReference()))
         emit signalMessage(tr("There is no spectrum yet: switch vertical binning on first."));
     else
         emit signalMessage(dark ? tr("The spectrum shown is the dark spectrum now.") : tr("The spectrum shown is the reference spectrum now."));

@@ -28,8 +28,17 @@ PanelSources::PanelSources(const Parts &parts, QObject *parent)
         },
         this);
     AddReport();
-    new SpectrumFields(parts.spectrum, parts.spectra, parts.tracks, this);
+    AddSpectrum();
     AddTables();
+}
+
+void PanelSources::AddSpectrum()
+{
+    auto *fields = new SpectrumFields(m_parts.spectrum, m_parts.spectra, m_parts.tracks, this);
+    fields->SetOpenedSaturation(m_parts.isOpenedSaturated);
+    const ImageManager *picture = GlobalManager::GetInstance()->GetMainImageManager();
+    connect(picture, &ImageManager::sglUpdateHorizontalCurve, fields, &SpectrumFields::slotSpectrumShown);
+    connect(picture, &ImageManager::sglUpdateVerticalCurve, fields, &SpectrumFields::slotSpectrumShown);
 }
 
 void PanelSources::AddReport()

@@ -3,6 +3,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class CalibrationModel;
 class LiveHistogram;
 class SpectrumPipeline;
@@ -24,6 +26,7 @@ public:
         SpectrumPipeline *spectra = nullptr;
         TrackDesk *tracks = nullptr;
         CalibrationModel *calibration = nullptr;
+        std::function<bool()> isOpenedSaturated; ///< of the curve of the opened picture
     };
 
     explicit PanelSources(const Parts &parts, QObject *parent = nullptr);
@@ -34,6 +37,7 @@ signals:
 
 private:
     void AddReport();
+    void AddSpectrum();
     void AddTables();
 
     Parts m_parts;

@@ -58,12 +58,20 @@ SpectrumFields::SpectrumFields(SpectrumSettings *settings, SpectrumPipeline *spe
     connect(settings, &SpectrumSettings::signalDisplayModePropertyChange, this, &SpectrumFields::slotSpectrumShown);
 }
 
+/// Of what is on the screen.
+bool SpectrumFields::IsSaturated() const
+{
+    if (m_settings->IsImageShown())
+        return m_isOpenedSaturated && m_isOpenedSaturated();
+    return m_spectra->Shown().IsSaturated();
+}
+
 /// Comes with every spectrum; the form is shown anew only for what it says of it.
 void SpectrumFields::slotSpectrumShown()
 {
     const SpectrumProduct &product = m_spectra->Shown();
     const QString corrections = CorrectionsLine(*m_settings, product);
-    const bool isSaturated = product.IsSaturated();
+    const bool isSaturated = IsSaturated();
     const bool isMissedNews = IsMissedNews();
     if (!isMissedNews && m_corrections == corrections && m_samples == product.raw.Count() && m_rows == product.frameSize.height()
         && m_isSaturated == isSaturated)
@@ -165,23 +173,27 @@ void SpectrumFields::AddTracks(PanelFields &fields) const
 void SpectrumFields::AddReferences(PanelFields &fields) const
 {
     const CorrectionSettings &corrections = m_settings->Recipe().corrections;
-    const QString none = tr("There is no spectrum yet: switch vertical binning on first.");
+    const bool isOpened = m_settings->IsImageShown();
+    const bool canTake = m_samples > 0 && !isOpened;
+    const QString whyNot = isOpened ? tr("An opened file is shown: go to the camera first.")
+                                    : tr("There is no spectrum yet: switch vertical binning on first.");
     fields << PanelField::Make(PanelField::Kind::Note, "corrections", tr("Now"),
                                CorrectionsLine(*m_settings, m_spectra->Shown()));
     if (m_isSaturated) {
         fields << PanelField::Make(PanelField::Kind::Note, "saturated", tr("Saturated"),
-                                   tr("Pixels are at the end of their range: peaks are cut off there. Shorten the exposure."));
+                                   isOpened ? tr("Pixels are at the end of their range: peaks are cut off there.")
+                                            : tr("Pixels are at the end of their range: peaks are cut off there. Shorten the exposure."));
     }
     if (m_spectra->Ledger().missed > 0) {
         fields << PanelField::Make(PanelField::Kind::Note, "missed", tr("Missed"), LedgerLine(m_spectra->Ledger()));
         fields.last().toolTip = tr("Lengthen the exposure, or bin fewer rows, to have a spectrum of every frame.");
     }
-    fields << PanelField::MakeAction("takeDark", tr("Take Dark"), m_samples > 0);
-    fields.last().toolTip = m_samples > 0 ? tr("The spectrum shown becomes the dark spectrum.") : none;
+    fields << PanelField::MakeAction("takeDark", tr("Take Dark"), canTake);
+    fields.last().toolTip = canTake ? tr("The spectrum shown becomes the dark spectrum.") : whyNot;
     fields << CheckField("dark", tr("subtract"), corrections.subtractsDark);
     fields.last().isBeside = true;
-    fields << PanelField::MakeAction("takeReference", tr("Take Reference"), m_samples > 0);
-    fields.last().toolTip = m_samples > 0 ? tr("The spectrum shown becomes the reference spectrum.") : none;
+    fields << PanelField::MakeAction("takeReference", tr("Take Reference"), canTake);
+    fields.last().toolTip = canTake ? tr("The spectrum shown becomes the reference spectrum.") : whyNot;
     fields << CheckField("reference", tr("subtract"), corrections.subtractsReference);
     fields.last().isBeside = true;
     fields.last().isEnabled = corrections.quantity == SpectrumQuantity::Counts;

@@ -5,6 +5,8 @@
 
 #include <QElapsedTimer>
 
+#include <functional>
+
 class SpectrumPipeline;
 class SpectrumSettings;
 class TrackDesk;
@@ -22,14 +24,19 @@ public:
     /// All are borrowed and outlive this object.
     SpectrumFields(SpectrumSettings *settings, SpectrumPipeline *spectra, TrackDesk *tracks, QObject *parent = nullptr);
 
+    /// Says whether pixels of the curve of the opened picture are at the end of their range.
+    void SetOpenedSaturation(const std::function<bool()> &isSaturated) { m_isOpenedSaturated = isSaturated; }
+
     PanelFields Fields() const override;
     void Set(const QString &key, const QVariant &value) override;
 
-private slots:
+public slots:
+    /// What is on the screen is another one, live or opened.
     void slotSpectrumShown();
 
 private:
     bool IsMissedNews() const;
+    bool IsSaturated() const;
     void AddDisplay(PanelFields &fields) const;
     void AddBinning(PanelFields &fields) const;
     void AddTracks(PanelFields &fields) const;
@@ -46,6 +53,7 @@ private:
     SpectrumSettings *m_settings;
     SpectrumPipeline *m_spectra;
     TrackDesk *m_tracks;
+    std::function<bool()> m_isOpenedSaturated;
     QString m_corrections; ///< the line as it was told last
     int m_samples = 0;     ///< of it; 0 without one
     int m_rows = 0;        ///< of its frame

@@ -238,6 +238,14 @@ std::vector<double> OpenedPicture::Profile(bool alongRow) const
     return values;
 }
 
+bool OpenedPicture::IsProfileSaturated(bool alongRow) const
+{
+    if (IsNonImage())
+        return false;
+    const std::vector<quint8> saturated = SaturatedInProfile(alongRow);
+    return std::find(saturated.begin(), saturated.end(), 1) != saturated.end();
+}
+
 ProfileBand OpenedPicture::LinesOfProfile(bool alongRow) const
 {
     return alongRow ? m_curves.RowBand(GetImageSize()) : m_curves.ColumnBand(GetImageSize());

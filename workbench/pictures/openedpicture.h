@@ -51,6 +51,7 @@ public:
     std::vector<double> Profile(bool alongRow) const;
     /// Where a sample of it is saturated, see PictureCurves::Saturated().
     std::vector<quint8> SaturatedInProfile(bool alongRow) const { return m_curves.Saturated(m_shown.samples, alongRow); }
+    bool IsProfileSaturated(bool alongRow) const;
     /// The rows, or columns, that it is the mean of.
     ProfileBand LinesOfProfile(bool alongRow) const;
 

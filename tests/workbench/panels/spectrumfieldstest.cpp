@@ -260,6 +260,34 @@ private slots:
         m_fields->Set("showTracks", true);
         m_spectra->OnFrame(Frame(3, 65535));
         QTRY_VERIFY(isSaid());
+
+        // An opened file has its own.
+        bool isOpenedSaturated = false;
+        m_fields->SetOpenedSaturation([&] { return isOpenedSaturated; });
+        m_settings->slotSetImageShown(true);
+        QVERIFY(!isSaid());
+        isOpenedSaturated = true;
+        m_fields->slotSpectrumShown();
+        QVERIFY(isSaid());
+        QCOMPARE(Field("saturated").value.toString(), QString("Pixels are at the end of their range: peaks are cut off there."));
+        m_settings->slotSetImageShown(false);
+        QVERIFY(isSaid());
+        QVERIFY(Field("saturated").value.toString().endsWith("Shorten the exposure."));
+    }
+
+    /// What is taken is live, and that is not what is seen.
+    void nothingIsTakenWhileAnOpenedFileIsShown()
+    {
+        m_fields->Set("binning", 1);
+        m_spectra->OnFrame(Frame(1, 50));
+        QTRY_VERIFY(Field("takeDark").isEnabled);
+        m_settings->slotSetImageShown(true);
+        for (const char *key : {"takeDark", "takeReference"}) {
+            QVERIFY(!Field(key).isEnabled);
+            QCOMPARE(Field(key).toolTip, QString("An opened file is shown: go to the camera first."));
+        }
+        m_settings->slotSetImageShown(false);
+        QVERIFY(Field("takeDark").isEnabled && Field("takeReference").isEnabled);
     }
 
     void framesThatWereMissedAreSaid()
