@@ -4,6 +4,7 @@
 #include "calibrationdialog.h"
 #include "calibrationmodel.h"
 #include "cameralink.h"
+#include "exportdialog.h"
 #include "faultnotice.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
@@ -14,7 +15,7 @@
 #include "wholefile.h"
 #include "workbenchservices.h"
 
-#include <QFileDialog>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include <cmath>
@@ -27,9 +28,6 @@ PlotForm FormOf(const QString &suffix)
         return PlotForm::Svg;
     return suffix == "pdf" ? PlotForm::Pdf : PlotForm::Png;
 }
-
-/// "SVG (*.svg)" gives "svg".
-QString SuffixOf(const QString &filter) { return filter.section("*.", 1).remove(')'); }
 
 } // namespace
 
@@ -108,7 +106,7 @@ void SpectrumDialogs::slotExportSpectrum()
         emit signalMessage(tr("There is no spectrum to export: switch vertical binning or tracks on, or open a spectrum."));
         return;
     }
-    AskWhere(tr("Export Spectrum"), {tr("Table with commented header (*.csv)")}, "csv",
+    AskWhere(tr("Export Spectrum"), {tr("Table with commented header (*.csv)")},
              [this, spectrum](const QString &path) { Write(path, SpectrumCsv(spectrum)); });
 }
 
@@ -119,7 +117,7 @@ void SpectrumDialogs::slotExportPlot()
         emit signalMessage(tr("There is no plot to export: show the curve or the tracks in 3D first."));
         return;
     }
-    AskWhere(tr("Export Plot"), {tr("PNG picture (*.png)"), tr("SVG drawing (*.svg)"), tr("PDF page (*.pdf)")}, "png",
+    AskWhere(tr("Export Plot"), {tr("PNG picture (*.png)"), tr("SVG drawing (*.svg)"), tr("PDF page (*.pdf)")},
              [this, plot](const QString &path) {
                  if (plot)
                      Write(path, PlotPicture(plot, FormOf(QFileInfo(path).suffix().toLower())));
@@ -136,19 +134,10 @@ QString SpectrumDialogs::SuggestedName() const
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + '/' + tr("spectrum %1").arg(when);
 }
 
-void SpectrumDialogs::AskWhere(const QString &title, const QStringList &filters, const QString &suffix,
+void SpectrumDialogs::AskWhere(const QString &title, const QStringList &filters,
                                const std::function<void(const QString &)> &write)
 {
-    const QFileInfo suggested(SuggestedName());
-    auto *dialog = new QFileDialog(m_window, title, suggested.path());
-    dialog->setObjectName("ExportDialog");
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilters(filters);
-    dialog->setDefaultSuffix(suffix);
-    dialog->selectFile(suggested.fileName());
-    connect(dialog, &QFileDialog::filterSelected, dialog, [dialog](const QString &filter) { dialog->setDefaultSuffix(SuffixOf(filter)); });
+    auto *dialog = new ExportDialog(title, filters, SuggestedName(), m_window);
     connect(dialog, &QFileDialog::fileSelected, this, write);
     dialog->open();
 }

@@ -40,7 +40,7 @@ private:
     ExportedSpectrum LiveSpectrum() const;
     ExportedSpectrum OpenedSpectrum() const;
     QString SuggestedName() const;
-    void AskWhere(const QString &title, const QStringList &filters, const QString &suffix,
+    void AskWhere(const QString &title, const QStringList &filters,
                   const std::function<void(const QString &)> &write);
     void Write(const QString &path, const QByteArray &content);
     void slotWritten(const QString &path, const QString &fault);

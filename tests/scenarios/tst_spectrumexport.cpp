@@ -29,6 +29,41 @@ class SpectrumExportScenario : public ScenarioTest
     Q_OBJECT
 
 private slots:
+    /// What follows the dot is no suffix.
+    void namesWithADotGetTheSuffixOfTheirForm()
+    {
+        OpenFile("lamp 1.5s.spe", 100);
+        m_workbench->Action("Curve")->trigger();
+        QTRY_VERIFY(VisiblePlot(m_workbench->window.centralWidget()));
+
+        QFileDialog *dialog = Exporting().Open("Export Spectrum…");
+        QVERIFY(dialog);
+        SpectrumExport::Accept(dialog);
+        QVERIFY(Exporting().IsSaved("lamp 1.5s spectrum.csv"));
+
+        dialog = Exporting().Open("Export Plot…");
+        QVERIFY(dialog);
+        SpectrumExport::Accept(dialog);
+        QVERIFY(Exporting().IsSaved("lamp 1.5s spectrum.png"));
+
+        dialog = Exporting().Open("Export Plot…");
+        QVERIFY(dialog);
+        ChooseSvg(dialog);
+        QCOMPARE(NameIn(dialog), QString("lamp 1.5s spectrum.svg"));
+        SpectrumExport::Accept(dialog);
+        QVERIFY(Exporting().IsSaved("lamp 1.5s spectrum.svg"));
+        QCOMPARE(QImageReader::imageFormat(m_folder->filePath("lamp 1.5s spectrum.svg")), QByteArray("svg"));
+
+        // Typed without one.
+        dialog = Exporting().Open("Export Plot…");
+        QVERIFY(dialog);
+        ChooseSvg(dialog);
+        dialog->findChild<QLineEdit *>("fileNameEdit")->setText("lamp 0.3s");
+        SpectrumExport::Accept(dialog);
+        QVERIFY(Exporting().IsSaved("lamp 0.3s.svg"));
+        m_workbench->services.Config()->SetCameraView(); // a live picture leaves with its page
+    }
+
     /// The panel speaks of the opened curve, and the menu takes nothing that is not seen.
     void anOpenedCurveIsSaidToBeSaturated()
     {
@@ -43,6 +78,8 @@ private slots:
     }
 
 private:
+    SpectrumExport Exporting() const { return SpectrumExport(m_workbench.get(), m_folder->path()); }
+
     /// A spectrum of one row with one line, so high.
     void OpenFile(const QString &name, quint16 height)
     {
@@ -61,6 +98,17 @@ private:
         QTRY_COMPARE(desk->MainPicture()->GetFileName(), name);
         QTRY_VERIFY(m_workbench->services.Spectrum()->IsImageShown());
     }
+
+    /// As by hand: the box tells the dialog.
+    static void ChooseSvg(QFileDialog *dialog)
+    {
+        auto *filters = dialog->findChild<QComboBox *>("fileTypeCombo");
+        const int svg = filters->findText("svg", Qt::MatchContains);
+        filters->setCurrentIndex(svg);
+        QMetaObject::invokeMethod(filters, "activated", Q_ARG(int, svg));
+    }
+
+    static QString NameIn(const QFileDialog *dialog) { return dialog->findChild<QLineEdit *>("fileNameEdit")->text(); }
 
     static bool IsSaturationSaid()
     {

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "exportdialog.h"
+
+#include <QFileInfo>
+#include <QLineEdit>
+
+#include <algorithm>
+
+namespace {
+
+/// "SVG drawing (*.svg)" gives "svg".
+QString SuffixOf(const QString &filter) { return filter.section("*.", 1).remove(')'); }
+
+} // namespace
+
+ExportDialog::ExportDialog(const QString &title, const QStringList &filters, const QString &suggestedPath, QWidget *parent)
+    : QFileDialog(parent, title, QFileInfo(suggestedPath).path())
+{
+    setObjectName("ExportDialog");
+    setAttribute(Qt::WA_DeleteOnClose);
+    setOption(QFileDialog::DontUseNativeDialog);
+    setAcceptMode(QFileDialog::AcceptSave);
+    setNameFilters(filters);
+    // With it the name follows another filter, too.
+    selectFile(QFileInfo(suggestedPath).fileName() + '.' + SuffixOf(filters.first()));
+}
+
+bool ExportDialog::IsOffered(const QString &suffix) const
+{
+    const QStringList filters = nameFilters();
+    return std::any_of(filters.begin(), filters.end(),
+                       [&suffix](const QString &filter) { return SuffixOf(filter).compare(suffix, Qt::CaseInsensitive) == 0; });
+}
+
+/// The name is whole before it is asked whether a file of that name may be replaced.
+void ExportDialog::accept()
+{
+    auto *name = findChild<QLineEdit *>("fileNameEdit");
+    const QFileInfo typed(directory(), name->text());
+    if (!name->text().isEmpty() && !typed.isDir() && !IsOffered(typed.suffix()))
+        name->setText(name->text() + '.' + SuffixOf(selectedNameFilter()));
+    QFileDialog::accept();
+}
