@@ -59,7 +59,6 @@ void SpectrumDialogs::slotCalibrate()
 ExportedSpectrum SpectrumDialogs::Shown() const
 {
     ExportedSpectrum spectrum = m_services->Spectrum()->IsImageShown() ? OpenedSpectrum() : LiveSpectrum();
-    spectrum.axis = m_services->Spectrum()->ShownAxis();
     spectrum.points = m_services->Calibration()->AppliedPoints();
     const double pixelsHere = std::abs(spectrum.axis.PixelHere(1) - spectrum.axis.PixelHere(0));
     spectrum.residualPixels = m_services->Calibration()->Applied().rmsPixel * pixelsHere;
@@ -74,6 +73,8 @@ ExportedSpectrum SpectrumDialogs::LiveSpectrum() const
     const SpectrumRecipe &recipe = m_services->Spectrum()->Recipe();
     if (recipe.isBinning || recipe.hasTracks)
         spectrum.product = m_services->Spectra()->Shown();
+    // Tracks lie along the rows, and a spectrum may have been made before the direction became another one.
+    spectrum.axis = m_services->Spectrum()->LiveAxis(!spectrum.product.tracks.empty() || spectrum.product.raw.place.isHorizontal);
     spectrum.source = m_services->Link()->Name();
     return spectrum;
 }
@@ -83,6 +84,7 @@ ExportedSpectrum SpectrumDialogs::OpenedSpectrum() const
     ExportedSpectrum spectrum;
     const OpenedPicture *picture = m_services->Desk()->MainPicture();
     const bool isHorizontal = m_services->Spectrum()->Recipe().isHorizontal;
+    spectrum.axis = m_services->Spectrum()->ShownAxis();
     spectrum.product.raw.values = picture->Profile(isHorizontal);
     if (spectrum.product.raw.values.empty())
         return spectrum;

@@ -23,6 +23,15 @@
 #include <algorithm>
 #include <cmath>
 
+namespace {
+
+constexpr int side = 2048; ///< of the sensor, pixels
+constexpr int waitMs = 20000;
+/// 390 nm in the first column and 930 nm in the last.
+const SpectralCalibration straight({660, 270}, side);
+
+} // namespace
+
 /// A person takes spectra home.
 class SpectrumExportScenario : public ScenarioTest
 {
@@ -64,6 +73,40 @@ private slots:
         m_workbench->services.Config()->SetCameraView(); // a live picture leaves with its page
     }
 
+    /// They run along the rows whatever the direction is, and have the axis of those.
+    void tracksKeepTheAxisOfTheRows()
+    {
+        ShowLamp();
+        SpectrumSettings *settings = m_workbench->services.Spectrum();
+        settings->SetCalibration(straight, settings->ShownFrame());
+        m_workbench->Action("Vertical")->trigger();
+        m_workbench->Action("Find Tracks")->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(m_workbench->services.Spectra()->Shown().tracks.size(), size_t(3), waitMs);
+        CheckAxis("tracks.csv", "# axis: nm", 390);
+
+        // That of the other side of the sensor is none for them.
+        settings->SetCalibration(straight, settings->ShownFrame());
+        CheckAxis("others.csv", "# axis: pixel", 0);
+    }
+
+    /// With the camera stopped it stays on the screen when the direction is another one.
+    void aSpectrumKeepsTheAxisOfItsDirection()
+    {
+        ShowLamp();
+        SpectrumSettings *settings = m_workbench->services.Spectrum();
+        m_workbench->Action("All Rows")->trigger();
+        SpectrumPipeline *spectra = m_workbench->services.Spectra();
+        QTRY_COMPARE_WITH_TIMEOUT(spectra->Shown().raw.Count(), side, waitMs);
+        settings->SetCalibration(straight, settings->ShownFrame());
+        m_workbench->services.Preview()->StopPreview();
+        const SpectrumLedger &ledger = spectra->Ledger();
+        QTRY_COMPARE_WITH_TIMEOUT(ledger.computed + ledger.missed + ledger.dropped, quint64(ledger.taken), waitMs);
+        QCoreApplication::processEvents();
+        m_workbench->Action("Vertical")->trigger();
+        QVERIFY(spectra->Shown().raw.place.isHorizontal);
+        CheckAxis("old.csv", "# axis: nm", 390);
+    }
+
     /// The panel speaks of the opened curve, and the menu takes nothing that is not seen.
     void anOpenedCurveIsSaidToBeSaturated()
     {
@@ -99,6 +142,14 @@ private:
         QTRY_VERIFY(m_workbench->services.Spectrum()->IsImageShown());
     }
 
+    void ShowLamp()
+    {
+        m_workbench->link.SetScene(SpectrographScene::SceneName());
+        m_workbench->link.SetPixelLayout(PixelLayout::Mono16);
+        m_workbench->link.Session()->SetExposureUs(2000); // nothing is cut off
+        QVERIFY(m_workbench->WaitForNextPicture());
+    }
+
     /// As by hand: the box tells the dialog.
     static void ChooseSvg(QFileDialog *dialog)
     {
@@ -109,6 +160,15 @@ private:
     }
 
     static QString NameIn(const QFileDialog *dialog) { return dialog->findChild<QLineEdit *>("fileNameEdit")->text(); }
+
+    void CheckAxis(const QString &name, const QString &comment, double first) const
+    {
+        const QStringList lines = Exporting().Lines("Export Spectrum…", name);
+        QVERIFY2(lines.contains(comment), qPrintable(lines.filter("axis").join(' ')));
+        const QVector<QVector<double>> columns = ColumnsOf(lines);
+        QCOMPARE(columns.value(0).size(), side);
+        QVERIFY2(std::abs(columns[1][0] - first) < 1e-6, qPrintable(QString::number(columns[1][0])));
+    }
 
     static bool IsSaturationSaid()
     {

@@ -54,6 +54,8 @@ public:
     QVector<MetadataEntry> ImageCalibration() const;
     /// The axis of what is on the screen.
     const CalibratedAxis &ShownAxis() const;
+    /// That of live spectra along the rows, or along the columns, whatever the direction is now.
+    CalibratedAxis LiveAxis(bool isHorizontal) const;
     /// An opened picture is on the screen, rather than the live one.
     bool IsImageShown() const { return m_isImageShown; }
     PlotStyle Style() const { return m_style; }

@@ -109,6 +109,13 @@ const CalibratedAxis &SpectrumSettings::ShownAxis() const
     return m_recipe.isHorizontal ? m_imageAxis : m_imageColumnAxis;
 }
 
+CalibratedAxis SpectrumSettings::LiveAxis(bool isHorizontal) const
+{
+    CalibratedAxis axis = m_liveAxis;
+    axis.SetSpectrum(isHorizontal ? m_frameSize.width() : m_frameSize.height(), SpectralFrame::Of(m_sensorFrame, isHorizontal));
+    return axis;
+}
+
 bool SpectrumSettings::Calculate(int pixel, double &x) const
 {
     x = pixel;
