@@ -70,11 +70,18 @@ void ReadFacts(const SpeHeader &header, SpeLayout &layout)
         AddFact(layout, "Comment", header.Comment(line), "", true);
 }
 
+/// Behind the header and within the file.
+bool IsFooterThere(const QIODevice &file, const SpeHeader &header)
+{
+    const quint64 offset = header.FooterOffset();
+    return offset >= quint64(SpeLayout::headerBytes) && offset < quint64(file.size());
+}
+
 /// The description of an SPE 3 file; one that is gone leaves a plain file readable by its header.
 bool LayoutOfFooter(QIODevice &file, const SpeHeader &header, SpeLayout &layout, FileFault &fault)
 {
-    const quint64 offset = header.FooterOffset();
-    if (offset >= quint64(SpeLayout::headerBytes) && offset < quint64(file.size())) {
+    if (IsFooterThere(file, header)) {
+        const quint64 offset = header.FooterOffset();
         if (file.size() - qint64(offset) > mostFooterBytes)
             return fault.Set(Text::tr("its description (XML at the end) is larger than any such file needs"), DamagedAdvice());
         file.seek(qint64(offset));
@@ -152,7 +159,7 @@ bool ReadSpeLayout(QIODevice &file, SpeLayout &layout, FileFault &fault)
     ReadFacts(header, layout);
     if (!(hasFooter ? LayoutOfFooter(file, header, layout, fault) : LayoutOfHeader(header, layout, fault)))
         return false;
-    const bool footerIsThere = hasFooter && header.FooterOffset() < quint64(file.size());
+    const bool footerIsThere = hasFooter && IsFooterThere(file, header);
     const qint64 dataEnd = footerIsThere ? qint64(header.FooterOffset()) : file.size();
     if (!CheckRegions(layout, dataEnd - SpeLayout::headerBytes, fault))
         return false;

@@ -27,6 +27,7 @@ private slots:
     void noNumberOfFramesMeansThoseThatAreThere();
     void aWrongFileIsToldInWords_data();
     void aWrongFileIsToldInWords();
+    void aLostFooterLeavesThePlainSamples_data();
     void aLostFooterLeavesThePlainSamples();
     void everyTruncationIsToldOrRead();
     void everyFlippedByteIsSurvived();
@@ -284,11 +285,19 @@ void SpePictureFileTest::aWrongFileIsToldInWords()
     QVERIFY2(error.endsWith('.'), qPrintable(error)); // the advice
 }
 
+void SpePictureFileTest::aLostFooterLeavesThePlainSamples_data()
+{
+    QTest::addColumn<quint64>("place");
+    QTest::newRow("behind the end") << quint64(1000000);
+    QTest::newRow("within the header") << quint64(100);
+}
+
 void SpePictureFileTest::aLostFooterLeavesThePlainSamples()
 {
+    QFETCH(quint64, place);
     PictureFolder folder;
     SpeBytes spe(2, 1, 3, 1, 3.0F);
-    spe.AppendRamp(2, 5).Set<quint64>(678, 1000000);
+    spe.AppendRamp(2, 5).Set<quint64>(678, place);
     const auto file = Opened(folder, spe.Bytes());
     QVERIFY(file);
     QCOMPARE(Frame(*file, 0), QVector<double>({5, 6}));
