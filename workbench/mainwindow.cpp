@@ -38,6 +38,7 @@
 #include "spectrumdialogs.h"
 #include "spectrumsettings.h"
 #include "spectrumuimanager.h"
+#include "standingcurve.h"
 #include "statusline.h"
 #include "uimanagerbase.h"
 #include "viewcodes.h"
@@ -118,6 +119,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     connect(m_recordingStatus, &RecordingStatus::signalLossSeen, this,
             [this](bool seen) { statusBar()->setVisible(!m_isFullScreen || seen); });
     new CurveStatus(services, statusBar(), this);
+    new StandingCurve(services, m_centre, this);
     m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);
     connect(services, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
     connect(m_drawingGuard, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));

@@ -276,10 +276,10 @@ void WorkbenchServices::ConnectSpectrum()
     connect(m_config.get(), &WorkspaceConfig::signalSwitchView, settings, [this, settings] {
         const int view = m_config->GetCurrentView();
         settings->slotSetImageShown(view == ImageView || view == ImageCompareView);
-        ShowCurvesAgain();
+        slotShowCurvesAgain();
     });
     // The pages are told what pixels mean now, but what they show was drawn before.
-    connect(settings, &SpectrumSettings::SignalConversationFormulaChanged, this, &WorkbenchServices::ShowCurvesAgain);
+    connect(settings, &SpectrumSettings::SignalConversationFormulaChanged, this, &WorkbenchServices::slotShowCurvesAgain);
     m_mainPicture->SetCalibrationSource([this, settings] {
         return m_useArea->IsSpectrumPagePresent() ? settings->ImageCalibration() : QVector<MetadataEntry>();
     });
@@ -324,11 +324,10 @@ void WorkbenchServices::slotDisplayModeChanged()
     if (m_centreDisplay->Mode() != DisplayMode::General)
         m_useArea->slotSetSpectrum(true); // its pages belong to that use
     UpdateProfilesWanted();
-    ShowCurvesAgain();
+    slotShowCurvesAgain();
 }
 
-/// With the camera stopped nothing else would come. The profile of a standing picture needs a frame to be made of.
-void WorkbenchServices::ShowCurvesAgain()
+void WorkbenchServices::slotShowCurvesAgain()
 {
     m_preview->slotShowAgain();
     m_spectrumPipeline->ShowAgain();

@@ -99,6 +99,8 @@ public:
 public slots:
     /// Shows what the workbench is used for: the picture or a spectrum page. For the first time when the pages are built.
     void slotShowUseArea();
+    /// With the camera stopped nothing else feeds the pages. The profile of a standing picture needs a frame to be made of.
+    void slotShowCurvesAgain();
 
 signals:
     /// A sentence for the status bar, from any service.
@@ -127,7 +129,6 @@ private:
     void ConnectSpectrum();
     void ConnectTracks();
     void UpdateProfilesWanted();
-    void ShowCurvesAgain();
     void TellOfNoTracks();
     void UpdateSensorFrame();
     void RepairRecordings();

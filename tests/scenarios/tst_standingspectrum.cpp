@@ -9,6 +9,8 @@
 
 #include <QAction>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
 
 #include <qcustomplot.h>
 
@@ -65,6 +67,40 @@ private slots:
         CheckEnds(0, width - 1);
         m_workbench->Action("Nanometres")->trigger();
         CheckEnds(390, 930);
+    }
+
+    void theBarBelowThePlotChoosesATrack()
+    {
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("Find Tracks")->trigger();
+        const SpectrumPipeline *spectra = m_workbench->services.Spectra();
+        QTRY_COMPARE_WITH_TIMEOUT(spectra->Shown().tracks.size(), size_t(3), waitMs);
+        StopCamera();
+        const std::vector<Spectrum> &tracks = spectra->Shown().tracks;
+        QTRY_COMPARE(Plot()->graph(0)->data()->at(1000)->value, tracks[0].values[1000]);
+        QVERIFY(tracks[0].values[1000] != tracks[1].values[1000]);
+        Plot()->parentWidget()->findChild<QScrollBar *>()->setValue(1);
+        QTRY_COMPARE(Plot()->graph(0)->data()->at(1000)->value, tracks[1].values[1000]);
+    }
+
+    /// A page that is too narrow draws nothing.
+    void aPageThatBecomesWideHasItsCurve()
+    {
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("All Rows")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot() && Plot()->graph(0)->dataCount() == width, waitMs);
+        StopCamera();
+        QWidget *page = Plot()->parentWidget();
+        const QSize wide = page->size();
+        page->resize(280, page->height());
+        SpectrumSettings *settings = m_workbench->services.Spectrum();
+        settings->SetCalibration(straight, settings->ShownFrame());
+        QSignalSpy announced(m_workbench->services.Spectra(), SIGNAL(SignalUpdateFVB(void *)));
+        QTRY_VERIFY(!announced.isEmpty());
+        QCoreApplication::processEvents();
+        QCOMPARE(Plot()->graph(0)->data()->at(0)->key, 0.0);
+        page->resize(wide);
+        QTRY_VERIFY(std::abs(Plot()->graph(0)->data()->at(0)->key - 390) < 1e-6);
     }
 
 private:
