@@ -78,8 +78,10 @@ void Spectrum3DDrawViewBase::CreatePlot()
     m_plot = new TrackPlot; // reparented by the layout
     m_plot->setAttribute(Qt::WA_DontCreateNativeAncestors);
     layout()->addWidget(m_plot);
-    m_noTracks = MakeNotice(tr("There are no tracks to show: draw them on the picture or have them found."), this);
-    m_noTracks->setAttribute(Qt::WA_DontCreateNativeAncestors); // beside the plot it becomes a window of its own, too
+    m_noTracks =
+        MakeNotice(tr("There are no tracks to show: draw them on the picture or have them found."), this);
+    // Beside the plot it becomes a window of its own, too.
+    m_noTracks->setAttribute(Qt::WA_DontCreateNativeAncestors);
     m_noTracks->hide();
     connect(m_plot, SIGNAL(rotationChanged(double, double, double)), this,
             SLOT(Slot3DViewRotationChanged(double, double, double)));

@@ -59,5 +59,5 @@ private:
     Qwt3D::Line3D *m_lines = nullptr;       ///< the plot owns it
     TrackSteps m_steps{};                   ///< of the axes
     SpectrumZoomUI *m_zoomBar = nullptr;
-    QLabel *m_noTracks = nullptr;           ///< the notice; null without a plot
+    QLabel *m_noTracks = nullptr; ///< the notice; null without a plot
 };
