@@ -2,7 +2,6 @@
 #include "calibrationmodel.h"
 
 #include "calibrationstore.h"
-#include "lineassignment.h"
 #include "spectrumsettings.h"
 
 #include <algorithm>
@@ -144,15 +143,16 @@ void CalibrationModel::Assign()
     hints.degree = m_degree;
     m_thread.start([this, peaks = m_peaks, hints, question = ++m_question] {
         QMetaObject::invokeMethod(
-            this, [this, points = AssignLines(peaks, hints), question] { TakeAssigned(points, question); }, Qt::QueuedConnection);
+            this, [this, lines = AssignLines(peaks, hints), question] { TakeAssigned(lines, question); }, Qt::QueuedConnection);
     });
 }
 
-void CalibrationModel::TakeAssigned(const QVector<CalibrationPoint> &points, int question)
+void CalibrationModel::TakeAssigned(const AssignedLines &lines, int question)
 {
     if (question != m_question)
         return;
-    QVector<CalibrationPoint> marked = points;
+    m_assigned = lines;
+    QVector<CalibrationPoint> marked = lines.points;
     for (CalibrationPoint &point : marked)
         point.isSaturated = IsSaturated(point.pixel);
     if (!marked.isEmpty())

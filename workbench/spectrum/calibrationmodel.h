@@ -2,8 +2,7 @@
 #pragma once
 
 #include "calibrationfit.h"
-#include "lamplines.h"
-#include "peakfinder.h"
+#include "lineassignment.h"
 #include "spectralframe.h"
 
 #include <QObject>
@@ -52,6 +51,8 @@ public:
     void SetWavelength(int index, double nm);
     /// Replaces all points by those found, some time later; signalAssigned() tells.
     void Assign();
+    /// What the last assignment found and left out.
+    const AssignedLines &Assigned() const { return m_assigned; }
     bool CanUndo() const { return !m_before.isEmpty(); }
     void Undo();
 
@@ -78,7 +79,7 @@ private:
     /// The top of the peak there is cut off.
     bool IsSaturated(double pixel) const;
     void BelongTo(int width, const SpectralFrame &shown);
-    void TakeAssigned(const QVector<CalibrationPoint> &points, int question);
+    void TakeAssigned(const AssignedLines &lines, int question);
     void Restore();
 
     SpectrumSettings *m_target;
@@ -101,6 +102,7 @@ private:
     CalibrationFit m_fit;
     CalibrationFit m_applied;
     QVector<CalibrationPoint> m_appliedPoints;
+    AssignedLines m_assigned;
     int m_question = 0; ///< the newest one to the thread
     QThreadPool m_thread;
 };

@@ -2,6 +2,7 @@
 #include "lineassignment.h"
 
 #include "calibrationfit.h"
+#include "linescreening.h"
 
 #include <algorithm>
 #include <array>
@@ -341,10 +342,25 @@ private:
 
 } // namespace
 
-QVector<CalibrationPoint> AssignLines(const std::vector<SpectralPeak> &peaks, const AssignmentHints &hints)
+AssignedLines AssignLines(const std::vector<SpectralPeak> &peaks, const AssignmentHints &hints)
 {
-    const bool isEnough = peaks.size() >= size_t(leastMatches) && peaks.back().position > peaks.front().position && !hints.lamps.isEmpty() && hints.width > 1;
-    return isEnough ? Assignment(peaks, hints).Best() : QVector<CalibrationPoint>();
+    AssignedLines assigned;
+    const double width = UsualWidth(peaks);
+    const int least = LeastScreenedPoints(hints.degree);
+    std::vector<SpectralPeak> used = PeaksOfWidth(peaks, width);
+    if (int(used.size()) < least)
+        used = peaks;
+    const bool isEnough = used.size() >= size_t(leastMatches) && used.back().position > used.front().position && !hints.lamps.isEmpty() && hints.width > 1;
+    const QVector<CalibrationPoint> best = isEnough ? Assignment(used, hints).Best() : QVector<CalibrationPoint>();
+    const CalibrationFit fit = FitCalibration(best, std::min(hints.degree, best.size() - 1), hints.width);
+    if (best.isEmpty() || !fit.IsGood())
+        return assigned;
+    const QVector<CalibrationPoint> apart = WithoutBlends(best, hints.lamps, fit.calibration, width, least);
+    assigned.points = WithoutOutliers(apart, hints.degree, hints.width, least);
+    assigned.oddWidths = int(peaks.size() - used.size());
+    assigned.blends = best.size() - apart.size();
+    assigned.outliers = apart.size() - assigned.points.size();
+    return assigned;
 }
 
 CalibrationPoint NearestLine(const QVector<Lamp> &lamps, double nm, double reachNm)

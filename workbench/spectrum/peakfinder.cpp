@@ -2,6 +2,8 @@
 #include "peakfinder.h"
 
 #include "gaussianfit.h"
+#include "matchedfilter.h"
+#include "noisealong.h"
 #include "runningmedian.h"
 #include "spectrumnoise.h"
 
@@ -10,10 +12,12 @@
 
 namespace {
 
-/// Samples. The narrow one is that of the sharpest lines, so that close pairs stay two; the wide one finds faint lines of
-/// a wide slit.
-constexpr double narrowSigma = 0.9;
-constexpr double wideSigma = 2.0;
+/// Of the filters, samples: from the sharpest lines of a sensor to those of a wide slit. A line between two of them
+/// loses 2 % of its height over the noise at most.
+const std::vector<double> sigmas = {0.9, 1.5, 2.5, 4, 6};
+constexpr double backgroundSigma = 0.9; // of the filter whose curve tells the background
+constexpr int backgroundRounds = 2;
+constexpr double clippedDeviations = 3;
 constexpr double widthPerSigma = 2.3548; // of a Gaussian, at half of its height
 constexpr int backgroundPerHalfWidth = 4; // the running median reaches so far to each side
 constexpr int leastSamples = 5;
@@ -23,45 +27,12 @@ constexpr size_t neighbours = 2; // to each side
 constexpr double leastShareOfHeight = 0.01;
 constexpr double shareOfOwnFoot = 0.3;
 constexpr double leastValleyShare = 0.05;
-
-std::vector<double> KernelOf(double sigma)
-{
-    const int reach = int(std::ceil(4 * sigma));
-    std::vector<double> kernel(size_t(2 * reach + 1));
-    double sum = 0;
-    for (int k = -reach; k <= reach; ++k)
-        sum += kernel[size_t(k + reach)] = std::exp(-0.5 * k * k / (sigma * sigma));
-    for (double &weight : kernel)
-        weight /= sum;
-    return kernel;
-}
-
-/// What smoothing leaves of the noise of a sample.
-double NoiseShare(const std::vector<double> &kernel)
-{
-    double sum = 0;
-    for (const double weight : kernel)
-        sum += weight * weight;
-    return std::sqrt(sum);
-}
-
-/// Mirrored at the ends.
-std::vector<double> Smoothed(const std::vector<double> &samples, const std::vector<double> &kernel)
-{
-    const int count = int(samples.size());
-    const int reach = int(kernel.size()) / 2;
-    std::vector<double> smooth(samples.size());
-    for (int i = 0; i < count; ++i) {
-        double sum = 0;
-        for (int k = -reach; k <= reach; ++k) {
-            int at = std::abs(i + k);
-            at = at < count ? at : 2 * count - 2 - at;
-            sum += kernel[size_t(k + reach)] * samples[size_t(std::max(0, at))];
-        }
-        smooth[size_t(i)] = sum;
-    }
-    return smooth;
-}
+constexpr double leastDeviations = 4; // of the faintest beside many others
+/// A line within so many widths of its filter, of this least width, of another one is the same or its flank.
+constexpr double nearSigmas = 3;
+constexpr double leastNearSigma = 2;
+constexpr double usualSamples = 2048;
+constexpr double leastThousands = 1e-3;
 
 /// The valley on the way from `peak` in direction `step` to the next higher sample or the end; a step onto an equal
 /// sample goes on, so that of a flat top the first sample counts.
@@ -150,6 +121,8 @@ struct FoundLine
 {
     SpectralPeak peak;
     LineWindow window;
+    double deviations; ///< of the noise in its filter, that it stands high
+    double sigma;      ///< of its filter
 };
 
 /// Fits every line to what the others leave of the samples, so that neighbours do not pull at each other.
@@ -174,89 +147,188 @@ void FitTogether(const std::vector<double> &samples, const std::vector<quint8> &
     }
 }
 
-/// The lines that stand out of the samples smoothed with a Gaussian of `sigma`.
-std::vector<FoundLine> LinesAt(double sigma, const std::vector<double> &samples, const std::vector<quint8> &saturated, double noise,
-                               const PeakRules &rules)
+/// What is known of a spectrum before lines are looked for.
+struct Search
+{
+    const std::vector<double> &samples;
+    const std::vector<quint8> &saturated;
+    double saturation;              ///< as in PeakRules
+    std::vector<double> background; ///< at each sample
+    std::vector<double> noise;      ///< of each sample
+    double certainBar;              ///< deviations of a line that needs no others beside it
+    double leastBar;                ///< deviations below which nothing is a line
+};
+
+/// The mean of the values up to `reach` to each side, each no further from 0 than `most`.
+std::vector<double> ClippedMean(const std::vector<double> &values, size_t reach, double most)
+{
+    std::vector<double> sums(1, 0.0);
+    for (const double value : values)
+        sums.push_back(sums.back() + std::max(-most, std::min(value, most)));
+    std::vector<double> means;
+    for (size_t i = 0; i < values.size(); ++i) {
+        const size_t from = i > reach ? i - reach : 0;
+        const size_t to = std::min(values.size(), i + reach + 1);
+        means.push_back((sums[to] - sums[from]) / double(to - from));
+    }
+    return means;
+}
+
+/// A running median does not see lines, but lies too low at the top of a wide hump and is itself noisy there: what it
+/// left is put right by means, to which a line counts little.
+std::vector<double> BackgroundOf(const std::vector<double> &curve, double noise, int reach)
+{
+    constexpr double unclipped = std::numeric_limits<double>::infinity();
+    std::vector<double> background = ClippedMean(RunningMedian(curve, reach), size_t(reach / 2), unclipped);
+    std::vector<double> left(curve.size());
+    for (int round = 0; round < backgroundRounds; ++round) {
+        for (size_t i = 0; i < curve.size(); ++i)
+            left[i] = curve[i] - background[i];
+        const std::vector<double> means = ClippedMean(left, size_t(reach), clippedDeviations * noise);
+        for (size_t i = 0; i < curve.size(); ++i)
+            background[i] += means[i];
+    }
+    return background;
+}
+
+/// The line at a maximum of the filter's curve.
+FoundLine LineAt(int i, const std::vector<double> &curve, double valley, double noiseShare, double sigma, const Search &search)
+{
+    const std::vector<double> &samples = search.samples;
+    const double noise = search.noise[size_t(i)];
+    const double background = search.background[size_t(i)];
+    SpectralPeak peak;
+    peak.height = curve[size_t(i)] - background;
+    peak.prominence = curve[size_t(i)] - valley;
+    // A line on the flank of another one has its own foot.
+    LineWindow window;
+    const bool isOnFlank = peak.prominence < shareOfOwnFoot * peak.height;
+    window.background = isOnFlank ? valley : background;
+    const double half = isOnFlank ? curve[size_t(i)] - peak.prominence / 2 : curve[size_t(i)] - peak.height / 2;
+    const double rise = search.certainBar * noise * noiseShare;
+    const double left = CrossingFrom(curve, i, -1, half, rise);
+    const double right = CrossingFrom(curve, i, 1, half, rise);
+    // The smoothing has widened the line.
+    const double kernelWidth = widthPerSigma * sigma;
+    peak.width = std::sqrt(std::max(0.0, (right - left) * (right - left) - kernelWidth * kernelWidth));
+    peak.index = HighestNear(samples, i);
+    peak.isSaturated = IsCutOff(samples, peak.index, peak.height > 50 * noise, search.saturation) || IsMarked(search.saturated, peak.index);
+    peak.height = samples[size_t(peak.index)] - background;
+    peak.position = (left + right) / 2;
+
+    const double room = peak.isSaturated ? (right - left) / 4 : 0; // only the flanks are left
+    window.from = std::max(0, int(std::floor(left - room)));
+    window.to = std::min(int(samples.size()) - 1, int(std::ceil(right + room)));
+    if (!peak.isSaturated)
+        LeaveOutNeighbours(samples, peak, search.certainBar * noise, &window);
+    else
+        window.limit = std::min(samples[size_t(peak.index)], search.saturation);
+    return {peak, window, 0, sigma};
+}
+
+/// The top of a maximum between samples, by a parabola through the three around it.
+double TopAt(const std::vector<double> &curve, int i)
+{
+    if (i == 0 || i + 1 == int(curve.size()))
+        return curve[size_t(i)];
+    const double slope = (curve[size_t(i + 1)] - curve[size_t(i - 1)]) / 2;
+    const double bend = curve[size_t(i + 1)] - 2 * curve[size_t(i)] + curve[size_t(i - 1)];
+    return bend < 0 ? curve[size_t(i)] - slope * slope / (2 * bend) : curve[size_t(i)];
+}
+
+/// The lines that stand out of the filter's curve, and out of their surroundings.
+std::vector<FoundLine> LinesIn(const MatchedFilter &filter, const Search &search)
 {
     std::vector<FoundLine> found;
-    const std::vector<double> kernel = KernelOf(sigma);
-    const std::vector<double> curve = Smoothed(samples, kernel);
-    const std::vector<double> background = RunningMedian(curve, backgroundPerHalfWidth * std::max(1, rules.halfWidth));
-    const double leastHeight = DeviationsFor(rules.certainty) * noise * NoiseShare(kernel);
-
+    const std::vector<double> curve = filter.Apply(search.samples);
     for (int i = 0; i < int(curve.size()); ++i) {
         if (!IsLocalMaximum(curve, i))
             continue;
-        SpectralPeak peak;
-        peak.height = curve[size_t(i)] - background[size_t(i)];
-        if (peak.height <= leastHeight)
+        const double share = filter.NoiseShare(i, int(curve.size()));
+        const double noise = search.noise[size_t(i)] * share;
+        const double top = TopAt(curve, i);
+        const double height = top - search.background[size_t(i)];
+        if (height <= search.leastBar * noise)
             continue;
         const double valley = std::max(LowestOnTheWay(curve, i, -1), LowestOnTheWay(curve, i, 1));
-        peak.prominence = curve[size_t(i)] - valley;
-        if (peak.prominence <= std::max(leastHeight, leastShareOfHeight * peak.height))
+        const double prominence = top - valley;
+        if (prominence <= std::max(search.leastBar * noise, leastShareOfHeight * height))
             continue;
-        // A line on the flank of another one has its own foot.
-        LineWindow window;
-        const bool isOnFlank = peak.prominence < shareOfOwnFoot * peak.height;
-        window.background = isOnFlank ? valley : background[size_t(i)];
-        const double half = isOnFlank ? curve[size_t(i)] - peak.prominence / 2 : curve[size_t(i)] - peak.height / 2;
-        const double left = CrossingFrom(curve, i, -1, half, leastHeight);
-        const double right = CrossingFrom(curve, i, 1, half, leastHeight);
-        // The smoothing has widened the line.
-        const double kernelWidth = widthPerSigma * sigma;
-        peak.width = std::sqrt(std::max(0.0, (right - left) * (right - left) - kernelWidth * kernelWidth));
-        peak.index = HighestNear(samples, i);
-        peak.isSaturated = IsCutOff(samples, peak.index, peak.height > 50 * noise, rules.saturation) || IsMarked(saturated, peak.index);
-        peak.height = samples[size_t(peak.index)] - background[size_t(i)];
-        peak.position = (left + right) / 2;
-
-        const double room = peak.isSaturated ? (right - left) / 4 : 0; // only the flanks are left
-        window.from = std::max(0, int(std::floor(left - room)));
-        window.to = std::min(int(samples.size()) - 1, int(std::ceil(right + room)));
-        if (!peak.isSaturated)
-            LeaveOutNeighbours(samples, peak, DeviationsFor(rules.certainty) * noise, &window);
-        else
-            window.limit = std::min(samples[size_t(peak.index)], rules.saturation);
-        found.push_back({peak, window});
+        FoundLine line = LineAt(i, curve, valley, share, filter.Sigma(), search);
+        line.deviations = std::min(height, prominence) / noise;
+        found.push_back(line);
     }
     return found;
 }
 
-/// Adds what only the wide kernel shows.
-void AddFaint(const std::vector<FoundLine> &wide, std::vector<FoundLine> *lines)
+bool IsNear(const FoundLine &line, const std::vector<FoundLine> &others)
 {
-    const std::vector<FoundLine> narrow = *lines;
-    for (const FoundLine &line : wide) {
-        const auto isNear = [&](const FoundLine &other) { return std::abs(other.peak.position - line.peak.position) < 3 * wideSigma; };
-        if (std::none_of(narrow.begin(), narrow.end(), isNear))
+    return std::any_of(others.begin(), others.end(), [&](const FoundLine &other) {
+        return std::abs(other.peak.position - line.peak.position) < nearSigmas * std::max(leastNearSigma, line.sigma);
+    });
+}
+
+/// Adds the lines of a filter that are certain and that no narrower filter has shown.
+void AddCertain(const std::vector<FoundLine> &ofFilter, double bar, std::vector<FoundLine> *lines)
+{
+    const std::vector<FoundLine> narrower = *lines;
+    for (const FoundLine &line : ofFilter) {
+        if (line.deviations > bar && (narrower.empty() || !IsNear(line, narrower)))
             lines->push_back(line);
     }
-    std::sort(lines->begin(), lines->end(), [](const FoundLine &a, const FoundLine &b) { return a.peak.position < b.peak.position; });
+}
+
+/// Where k lines have been found, k times as many false ones are as rare among them as one false peak where there is
+/// nothing: the bar falls with each line (Benjamini and Hochberg, Journal of the Royal Statistical Society B 57, 289, 1995).
+void AddFaint(std::vector<FoundLine> faint, double falsePeaks, int samples, std::vector<FoundLine> *lines)
+{
+    std::sort(faint.begin(), faint.end(), [](const FoundLine &a, const FoundLine &b) { return a.deviations > b.deviations; });
+    std::vector<FoundLine> apart = *lines;
+    for (const FoundLine &line : faint) {
+        if (!IsNear(line, apart))
+            apart.push_back(line);
+    }
+    size_t kept = apart.size();
+    while (kept > lines->size() && apart[kept - 1].deviations <= BarFor(falsePeaks * double(kept), samples, sigmas))
+        --kept;
+    apart.resize(kept);
+    *lines = std::move(apart);
+}
+
+std::vector<FoundLine> LinesOf(const Search &search, double falsePeaks)
+{
+    std::vector<FoundLine> lines;
+    std::vector<FoundLine> faint;
+    for (const double sigma : sigmas) {
+        const std::vector<FoundLine> found = LinesIn(MatchedFilter(sigma), search);
+        AddCertain(found, search.certainBar, &lines);
+        faint.insert(faint.end(), found.begin(), found.end());
+    }
+    AddFaint(std::move(faint), falsePeaks, int(search.samples.size()), &lines);
+    std::sort(lines.begin(), lines.end(), [](const FoundLine &a, const FoundLine &b) { return a.peak.position < b.peak.position; });
+    return lines;
 }
 
 } // namespace
 
-double DeviationsFor(double certainty)
-{
-    // Halving the interval: the tail of the normal distribution falls steadily.
-    double low = 0;
-    double high = 40;
-    const double chance = std::pow(10.0, -certainty);
-    for (int i = 0; i < 100; ++i) {
-        const double middle = (low + high) / 2;
-        (0.5 * std::erfc(middle / std::sqrt(2.0)) > chance ? low : high) = middle;
-    }
-    return high;
-}
-
 std::vector<SpectralPeak> FindPeaks(const std::vector<double> &samples, const PeakRules &rules, const std::vector<quint8> &saturated)
 {
     std::vector<SpectralPeak> peaks;
-    const double noise = EstimateNoise(samples);
-    if (int(samples.size()) < leastSamples || std::isnan(noise))
+    const double usualNoise = EstimateNoise(samples);
+    if (int(samples.size()) < leastSamples || std::isnan(usualNoise))
         return peaks;
-    std::vector<FoundLine> lines = LinesAt(narrowSigma, samples, saturated, noise, rules);
-    AddFaint(LinesAt(wideSigma, samples, saturated, noise, rules), &lines);
+    Search search{samples, saturated, rules.saturation, {}, {}, 0, leastDeviations};
+    const MatchedFilter filter(backgroundSigma);
+    FilteredNoise filtered;
+    filtered.curve = filter.Apply(samples);
+    filtered.noiseShare = filter.NoiseShare(int(samples.size() / 2), int(samples.size()));
+    filtered.background = BackgroundOf(filtered.curve, usualNoise * filtered.noiseShare, backgroundPerHalfWidth * std::max(1, rules.halfWidth));
+    search.noise = NoiseAlong(samples, filtered);
+    search.background = std::move(filtered.background);
+    // Expected in this spectrum if it is nothing but noise.
+    const double falsePeaks = double(samples.size()) / (usualSamples * 1000 * std::max(leastThousands, rules.thousandsPerFalsePeak));
+    search.certainBar = BarFor(falsePeaks, int(samples.size()), sigmas);
+    std::vector<FoundLine> lines = LinesOf(search, falsePeaks);
     FitTogether(samples, saturated, &lines);
     for (FoundLine &line : lines) {
         if (line.window.shape.height > 0)

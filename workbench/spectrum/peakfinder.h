@@ -22,21 +22,17 @@ struct PeakRules
 {
     /// The half width of the widest line, samples. The background is a running median over eight times as much.
     int halfWidth = 15;
-    /// How sure a peak is: minus the decimal logarithm of the chance that noise alone lifts a sample as high. With 10
-    /// one spectrum of 2048 samples in five million has a false peak.
-    double certainty = 10;
+    /// Of spectra of 2048 samples of white noise, so many thousands have one false peak among them.
+    double thousandsPerFalsePeak = 10;
     /// A sample of that or more is cut off. Two or more equal highest samples side by side count as cut off too when
     /// they stand far above the noise.
     double saturation = std::numeric_limits<double>::infinity();
 };
 
-/// The peaks of a spectrum, by rising position. A curve smoothed with a narrow Gaussian (the matched filter of a sharp
-/// line) shows where they are; the samples themselves give the position: a Gaussian fitted by weighted least squares
-/// to the logarithm (Guo, IEEE Signal Processing Magazine 28, 134, 2011), leaving out samples that are cut off: those
-/// that look so, and those that `saturated` marks with 1 where it is not empty. The sum of many rows of which few are
-/// saturated looks like any other.
+/// The peaks of a spectrum, by rising position. Matched filters of five line widths show where they are, above a bar in
+/// the noise of the filter (see BarFor()). The samples themselves give the position: a Gaussian fitted by weighted least
+/// squares to the logarithm (Guo, IEEE Signal Processing Magazine 28, 134, 2011), leaving out samples that are cut off:
+/// those that look so, and those that `saturated` marks with 1 where it is not empty. The sum of many rows of which few
+/// are saturated looks like any other.
 std::vector<SpectralPeak> FindPeaks(const std::vector<double> &samples, const PeakRules &rules = PeakRules(),
                                     const std::vector<quint8> &saturated = {});
-
-/// How many standard deviations noise exceeds with the chance 10 to the minus `certainty`, on one side.
-double DeviationsFor(double certainty);

@@ -51,7 +51,7 @@ void PeakFinding::Findcurvepeak(unsigned int *data, int count, int peakNumber, s
         return;
     PeakRules rules;
     rules.halfWidth = window;
-    rules.certainty = double(threshold);
+    rules.thousandsPerFalsePeak = double(threshold);
     std::vector<SpectralPeak> found = FindPeaks(Uncut(data, count), rules);
     std::sort(found.begin(), found.end(), [](const SpectralPeak &a, const SpectralPeak &b) { return a.height > b.height; });
     if (peakNumber > 0)

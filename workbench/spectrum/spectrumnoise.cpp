@@ -42,10 +42,10 @@ double NormalQuantile(double share)
     return low;
 }
 
-/// The noise of samples around a level near 0 of which all that lay below 0 became 0; 0 when few did. Lines hardly count:
-/// only samples beside a 0 tell. Of a sample beside a 0 the share that is 0 is that below the cut, and the median of the
+/// The noise that samples around a level near 0 had before all that lay below 0 became 0; 0 when few did.
+/// Lines hardly count: only samples beside a 0 tell. Of a sample beside a 0 the share that is 0 is that below the cut, and the median of the
 /// rest is the quantile half way between that share and 1.
-double NoiseAboveCut(const std::vector<double> &samples, bool areWhole)
+double NoiseBeforeCut(const std::vector<double> &samples)
 {
     constexpr double leastCutShare = 0.25;
     std::vector<double> above;
@@ -64,7 +64,7 @@ double NoiseAboveCut(const std::vector<double> &samples, bool areWhole)
     if (above.empty() || cut < leastCutShare * double(samples.size()))
         return 0;
     const double share = 1 - double(above.size()) / neighbours;
-    const double middle = areWhole ? MedianOfWhole(above) - 0.5 : MedianOf(above); // whole numbers above 0 begin at 0.5
+    const double middle = AreWhole(samples) ? MedianOfWhole(above) - 0.5 : MedianOf(above); // whole numbers above 0 begin at 0.5
     return middle / (NormalQuantile((1 + share) / 2) - NormalQuantile(share));
 }
 
@@ -91,6 +91,8 @@ double EstimateNoise(const std::vector<double> &samples)
         step = std::abs(step - median);
     const bool areWhole = AreWhole(samples);
     const double deviation = areWhole ? MedianOfWhole(steps) : MedianOf(steps);
-    const double noise = std::max(deviationPerMad * deviation / std::sqrt(2.0), NoiseAboveCut(samples, areWhole));
+    const double noise = std::max(deviationPerMad * deviation / std::sqrt(2.0), NoiseBeforeCut(samples));
     return areWhole ? std::max(noise, roundingNoise) : noise;
 }
+
+double RoundingNoise(const std::vector<double> &samples) { return AreWhole(samples) ? roundingNoise : 0; }

@@ -9,5 +9,8 @@
 /// for fewer than three samples.
 double EstimateNoise(const std::vector<double> &samples);
 
+/// That of samples which are all whole numbers, 0 otherwise.
+double RoundingNoise(const std::vector<double> &samples);
+
 /// The middle value; 0 of nothing.
 double MedianOf(std::vector<double> values);

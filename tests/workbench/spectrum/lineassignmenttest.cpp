@@ -80,7 +80,7 @@ void LineAssignmentTest::theSimulatedLampIsCalibrated()
     hints.width = 2048;
     hints.firstNm = first;
     hints.lastNm = last;
-    const auto points = AssignLines(FindPeaks(std::vector<double>(line.sums.begin(), line.sums.end())), hints);
+    const auto points = AssignLines(FindPeaks(std::vector<double>(line.sums.begin(), line.sums.end())), hints).points;
     QVERIFY2(points.size() >= 14, qPrintable(QString::number(points.size())));
     const CalibrationFit fit = FitCalibration(points, 3, 2048);
     QVERIFY2(fit.IsGood(), qPrintable(fit.fault));
@@ -97,13 +97,13 @@ void LineAssignmentTest::peaksOfNothingAreNotAssigned()
     AssignmentHints hints;
     hints.lamps = {Lamp::Neon};
     hints.width = 1000;
-    QVERIFY(AssignLines({}, hints).isEmpty());
+    QVERIFY(AssignLines({}, hints).points.isEmpty());
     std::vector<SpectralPeak> evenly(5);
     for (size_t i = 0; i < evenly.size(); ++i)
         evenly[i].position = 1 + 0.1 * double(i);
-    QVERIFY(AssignLines(evenly, hints).isEmpty());
+    QVERIFY(AssignLines(evenly, hints).points.isEmpty());
     hints.lamps.clear();
-    QVERIFY(AssignLines(evenly, hints).isEmpty());
+    QVERIFY(AssignLines(evenly, hints).points.isEmpty());
 }
 
 void LineAssignmentTest::theNearestOfBoth()

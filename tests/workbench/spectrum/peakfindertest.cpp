@@ -21,9 +21,10 @@ private slots:
     void noiseCutAtZeroIsThatBefore();
     void linesDoNotCountAsNoise();
     void linesOverZerosDoNotCountAsNoise();
-    void deviationsAreThoseOfTheNormalDistribution();
     void noiseAloneHasNoPeak_data();
     void noiseAloneHasNoPeak();
+    void noiseOnWavesHasNoPeak();
+    void falsePeaksAreAsRareAsWanted();
     void linesFiveTimesAboveTheNoiseAreFound_data();
     void linesFiveTimesAboveTheNoiseAreFound();
     void thePlaceIsBetterThanATenthOfASample_data();
@@ -95,14 +96,6 @@ void PeakFinderTest::linesDoNotCountAsNoise()
     QVERIFY(std::abs(EstimateNoise(samples) / 10 - 1) < 0.4);
 }
 
-void PeakFinderTest::deviationsAreThoseOfTheNormalDistribution()
-{
-    // From tables of the normal distribution.
-    QVERIFY(std::abs(DeviationsFor(-std::log10(0.0227501319)) - 2) < 1e-4);
-    QVERIFY(std::abs(DeviationsFor(-std::log10(2.866516e-7)) - 5) < 1e-4);
-    QVERIFY(std::abs(DeviationsFor(10) - 6.3613) < 1e-3);
-}
-
 void PeakFinderTest::noiseAloneHasNoPeak_data()
 {
     QTest::addColumn<double>("noise");
@@ -120,6 +113,31 @@ void PeakFinderTest::noiseAloneHasNoPeak()
     QCOMPARE(found, 0);
 }
 
+/// Light of a wide source, a hundred times as high as the noise and much wider than any line.
+void PeakFinderTest::noiseOnWavesHasNoPeak()
+{
+    int found = 0;
+    for (unsigned spectrum = 0; spectrum < 1000; ++spectrum) {
+        std::vector<double> samples = NoiseOnly(2048, 1000, 5, spectrum, false);
+        for (size_t i = 0; i < samples.size(); ++i)
+            samples[i] += 300 * std::sin(double(i) / 150);
+        Round(&samples);
+        found += int(FindPeaks(samples).size());
+    }
+    QCOMPARE(found, 0);
+}
+
+/// The rate that the rules name, where it is high enough to be counted: 50 expected at most, and noise that is estimated.
+void PeakFinderTest::falsePeaksAreAsRareAsWanted()
+{
+    PeakRules rules;
+    rules.thousandsPerFalsePeak = 0.02;
+    int found = 0;
+    for (unsigned spectrum = 0; spectrum < 1000; ++spectrum)
+        found += int(FindPeaks(NoiseOnly(2048, 500, 30, 20000 + spectrum), rules).size());
+    QVERIFY2(found > 5 && found <= 50, qPrintable(QString::number(found)));
+}
+
 void PeakFinderTest::linesFiveTimesAboveTheNoiseAreFound_data()
 {
     QTest::addColumn<double>("noise");
@@ -127,12 +145,13 @@ void PeakFinderTest::linesFiveTimesAboveTheNoiseAreFound_data()
     QTest::addColumn<double>("height");
     QTest::addColumn<int>("most");
     for (const double noise : {1.0, 30.0}) {
-        for (const double sigma : {2.5, 4.0})
+        for (const double sigma : {1.5, 2.5, 4.0, 6.0})
             QTest::addRow("noise %g, line of sigma %g, 5 times the noise of a sample", noise, sigma) << noise << sigma << 5.0 << 0;
-        // The smoothed curve, by which lines are told, has little more of a line of few samples than its highest one: a
-        // height of 5.5 noises is 8.4 deviations of that curve. 6.4 make a line, and noise takes two off one in forty.
-        QTest::addRow("noise %g, line of sigma 1.5, 5.5 times the noise of a sample", noise) << noise << 1.5 << 5.5 << 20;
-        QTest::addRow("noise %g, line of sigma 1.5, 6 times the noise of a sample", noise) << noise << 1.5 << 6.0 << 1;
+        // In the best of all filters such a line stands 5 sqrt(sqrt(pi)) = 6.66 deviations high. Noise alone in 1,000
+        // spectra reaches 5.2 there, and the bar, which 20 lines lower to 5.01, is missed by 1 of 20: by 20 of 400, and
+        // by 34 once in a thousand times.
+        QTest::addRow("noise %g, line of sigma 1, 5 times the noise of a sample", noise) << noise << 1.0 << 5.0 << 34;
+        QTest::addRow("noise %g, line of sigma 1, 6.5 times the noise of a sample", noise) << noise << 1.0 << 6.5 << 0;
     }
 }
 
@@ -144,6 +163,7 @@ void PeakFinderTest::linesFiveTimesAboveTheNoiseAreFound()
     QFETCH(double, height);
     QFETCH(int, most);
     const double ofSample = std::sqrt(noise * noise + 1.0 / 12); // rounding to whole counts adds its own
+    const double reach = std::max(3.0, 1.5 * sigma);
     int missed = 0;
     for (unsigned spectrum = 0; spectrum < 20; ++spectrum) {
         std::vector<double> samples = NoiseOnly(2048, 500, noise, 7000 + spectrum, false);
@@ -152,7 +172,7 @@ void PeakFinderTest::linesFiveTimesAboveTheNoiseAreFound()
         Round(&samples);
         const std::vector<SpectralPeak> peaks = FindPeaks(samples);
         for (int line = 0; line < 20; ++line) {
-            const auto isIt = [&](const SpectralPeak &peak) { return std::abs(peak.position - 52.3 - 100 * line) < 3; };
+            const auto isIt = [&](const SpectralPeak &peak) { return std::abs(peak.position - 52.3 - 100 * line) < reach; };
             missed += std::any_of(peaks.begin(), peaks.end(), isIt) ? 0 : 1;
         }
     }

@@ -50,25 +50,6 @@ std::vector<double> Counts(const QString &name)
     return counts;
 }
 
-/// Those that no other line of the lamp comes near, so that nothing pulls their peaks aside.
-QVector<CalibrationPoint> StandingApart(const QVector<CalibrationPoint> &points, Lamp lamp, const SpectralCalibration &calibration)
-{
-    constexpr double reachPixels = 6; // three times as wide as a line
-    constexpr double leastShare = 0.02;
-    QVector<CalibrationPoint> apart;
-    for (const CalibrationPoint &point : points) {
-        const QVector<LampLine> &lines = LinesOf(lamp);
-        const auto own = std::find_if(lines.begin(), lines.end(), [&](const LampLine &line) { return std::abs(line.nm - point.nm) < 1e-3; });
-        const auto isNear = [&](const LampLine &line) {
-            const double pixels = std::abs((line.nm - point.nm) / calibration.Dispersion(point.pixel));
-            return own != lines.end() && &line != &*own && pixels < reachPixels && line.strength >= leastShare * own->strength;
-        };
-        if (std::none_of(lines.begin(), lines.end(), isNear))
-            apart << point;
-    }
-    return apart;
-}
-
 /// The mean of some rows of a picture.
 std::vector<double> MeanOfRows(const QString &name, int first, int end)
 {
@@ -154,7 +135,7 @@ void RealLampsTest::theirPointsGiveAGoodCalibration()
     const CalibrationFit fit = FitCalibration(points, 4, 2051);
     QVERIFY2(fit.IsGood(), qPrintable(fit.fault));
     QVERIFY2(fit.rmsPixel < 0.1, qPrintable(QString::number(fit.rmsPixel)));
-    QVERIFY(fit.leaveOneOutPixel > fit.rmsPixel && fit.leaveOneOutPixel < 0.5); // one line stands alone at the blue end
+    QVERIFY2(fit.leaveOneOutPixel > fit.rmsPixel && fit.leaveOneOutPixel < 0.5, qPrintable(QString::number(fit.leaveOneOutPixel))); // one line stands alone at the blue end
 }
 
 void RealLampsTest::theyAreAssignedByThemselves()
@@ -165,7 +146,7 @@ void RealLampsTest::theyAreAssignedByThemselves()
     hints.firstNm = 335;
     hints.lastNm = 785;
     hints.degree = 4;
-    const auto points = AssignLines(FindPeaks(Counts(osiris)), hints);
+    const auto points = AssignLines(FindPeaks(Counts(osiris)), hints).points;
     QVERIFY2(points.size() >= 20, qPrintable(QString::number(points.size())));
     const CalibrationFit fit = FitCalibration(points, 4, 2051);
     QVERIFY2(fit.IsGood() && fit.rmsPixel < 0.1, qPrintable(QString::number(fit.rmsPixel)));
@@ -194,15 +175,14 @@ void RealLampsTest::neonInAVacuumAxisIsFound()
     hints.firstNm = axis.first();
     hints.lastNm = axis.last();
     hints.degree = 3;
-    const auto points = AssignLines(FindPeaks(counts), hints);
-    QVERIFY2(points.size() >= 12, qPrintable(QString::number(points.size())));
+    const AssignedLines assigned = AssignLines(FindPeaks(counts), hints);
+    const auto &points = assigned.points;
+    QVERIFY2(points.size() >= 15, qPrintable(QString::number(points.size())));
     const CalibrationFit fit = FitCalibration(points, 3, picture.Width());
-    // At a quarter of a nanometre a pixel many of its lines are two in one: they lie up to half a pixel beside the curve.
-    QVERIFY2(fit.IsGood() && fit.rmsPixel < 0.25, qPrintable(QString::number(fit.rmsPixel)));
-    const auto apart = StandingApart(points, Lamp::Neon, fit.calibration);
-    QVERIFY2(apart.size() >= 12, qPrintable(QString::number(apart.size())));
-    const CalibrationFit best = FitCalibration(apart, 3, picture.Width());
-    QVERIFY2(best.IsGood() && best.rmsPixel < 0.1, qPrintable(QString::number(best.rmsPixel)));
+    QVERIFY2(fit.IsGood() && fit.rmsPixel < 0.1, qPrintable(QString::number(fit.rmsPixel)));
+    QVERIFY(fit.leaveOneOutPixel < 0.1);
+    // At a quarter of a nanometre a pixel many of its lines are two in one and lie up to half a pixel beside the curve.
+    QVERIFY(assigned.oddWidths >= 5 && assigned.blends >= 2);
     // The file's axis is in vacuum: a quarter of a nanometre above air.
     const double middle = 500;
     QVERIFY2(std::abs(axis[500] - fit.calibration.Wavelength(middle) - 0.23) < 0.1,
@@ -218,7 +198,7 @@ void RealLampsTest::mercuryBesideFaintArgonIsAssigned()
     hints.firstNm = 320;
     hints.lastNm = 590;
     hints.degree = 3;
-    const auto points = AssignLines(FindPeaks(Counts("floyds-blue-effective-pixel-spectrum.txt")), hints);
+    const auto points = AssignLines(FindPeaks(Counts("floyds-blue-effective-pixel-spectrum.txt")), hints).points;
     QVERIFY2(points.size() >= 6, qPrintable(QString::number(points.size())));
     const CalibrationFit fit = FitCalibration(points, 3, hints.width);
     QVERIFY2(fit.IsGood() && fit.rmsPixel < 0.1, qPrintable(QString::number(fit.rmsPixel)));
@@ -228,8 +208,8 @@ void RealLampsTest::mercuryBesideFaintArgonIsAssigned()
     }
 }
 
-/// Half a nanometre a pixel and lines of two pixels: nearly every line of xenon has another one in it, so that no
-/// curve comes nearer to them all than a fifth of a pixel. The curve that others found leaves half a pixel.
+/// Half a nanometre a pixel and lines of nearly four pixels: more than a third of the peaks are two lines of xenon or
+/// more, also of its ions, which no list has.
 void RealLampsTest::xenonOfAPictureIsAssigned()
 {
     AssignmentHints hints;
@@ -238,10 +218,10 @@ void RealLampsTest::xenonOfAPictureIsAssigned()
     hints.firstNm = 340;
     hints.lastNm = 816;
     hints.degree = 3;
-    const auto points = AssignLines(FindPeaks(MeanOfRows("/fits/v_a_20190516_57_1_0_1.fits", 124, 154)), hints);
-    QVERIFY2(points.size() >= 15, qPrintable(QString::number(points.size())));
+    const auto points = AssignLines(FindPeaks(MeanOfRows("/fits/v_a_20190516_57_1_0_1.fits", 124, 154)), hints).points;
+    QVERIFY2(points.size() >= 10, qPrintable(QString::number(points.size())));
     const CalibrationFit fit = FitCalibration(points, 3, hints.width);
-    QVERIFY2(fit.IsGood() && fit.rmsPixel < 0.25, qPrintable(QString::number(fit.rmsPixel)));
+    QVERIFY2(fit.IsGood() && fit.rmsPixel < 0.1, qPrintable(QString::number(fit.rmsPixel)));
     const auto pairs = Numbers("sprat_ground_truth_v_a.csv");
     QCOMPARE(pairs.size(), 39);
     for (const auto &pair : pairs) {
