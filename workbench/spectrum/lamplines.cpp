@@ -4,7 +4,7 @@
 namespace {
 
 // Air wavelengths of neutral atoms: the Ritz wavelengths of the NIST Atomic Spectra Database in vacuum, put into air
-// by the formula of the IAU (Morton 1991 for Hg, Ne and Ar; Morton 2000 for Kr and Xe).
+// by the formula of the IAU (Morton 1991 for Hg, Ne, Ar and He; Morton 2000 for Kr and Xe).
 
 const QVector<LampLine> mercuryLines = {
     {302.1504, 0.1}, {302.3470, 0.025}, {302.7489, 0.005}, {312.5674, 0.333}, {334.1484, 0.0583}, {365.0158, 0.75},
@@ -59,6 +59,11 @@ const QVector<LampLine> xenonLines = {
     {979.9697, 0.8}, {992.3198, 0.8},
 };
 
+const QVector<LampLine> heliumLines = {
+    {388.8648, 1}, {396.4729, 0.04}, {402.6191, 0.1}, {447.1480, 0.4}, {471.3146, 0.06}, {492.1931, 0.04}, {501.5678, 0.2},
+    {587.5620, 1}, {667.8151, 0.2}, {706.5190, 0.4}, {706.5712, 0.06}, {728.1349, 0.1},
+};
+
 } // namespace
 
 QString LampName(Lamp lamp)
@@ -68,14 +73,15 @@ QString LampName(Lamp lamp)
     case Lamp::Argon: return "Ar";
     case Lamp::Neon: return "Ne";
     case Lamp::Krypton: return "Kr";
-    case Lamp::Xenon: break;
+    case Lamp::Xenon: return "Xe";
+    case Lamp::Helium: break;
     }
-    return "Xe";
+    return "He";
 }
 
 const QVector<Lamp> &AllLamps()
 {
-    static const QVector<Lamp> lamps = {Lamp::Mercury, Lamp::Argon, Lamp::Neon, Lamp::Krypton, Lamp::Xenon};
+    static const QVector<Lamp> lamps = {Lamp::Mercury, Lamp::Argon, Lamp::Neon, Lamp::Krypton, Lamp::Xenon, Lamp::Helium};
     return lamps;
 }
 
@@ -86,7 +92,8 @@ const QVector<LampLine> &LinesOf(Lamp lamp)
     case Lamp::Argon: return argonLines;
     case Lamp::Neon: return neonLines;
     case Lamp::Krypton: return kryptonLines;
-    case Lamp::Xenon: break;
+    case Lamp::Xenon: return xenonLines;
+    case Lamp::Helium: break;
     }
-    return xenonLines;
+    return heliumLines;
 }

@@ -11,7 +11,8 @@ enum class Lamp
     Argon,
     Neon,
     Krypton,
-    Xenon
+    Xenon,
+    Helium
 };
 
 /// One emission line of a lamp.
