@@ -29,7 +29,10 @@ std::vector<double> MatchedFilter::Apply(const std::vector<double> &samples) con
 {
     const int count = int(samples.size());
     const int reach = int(m_weights.size()) / 2;
-    const auto mirrored = [&](int at) { return std::max(0, std::abs(at) < count ? std::abs(at) : 2 * count - 2 - at); };
+    const auto mirrored = [count](int at) {
+        const int inside = std::abs(at);
+        return inside < count ? inside : std::max(0, 2 * count - 2 - inside);
+    };
     std::vector<double> padded;
     for (int i = -reach; count > 0 && i < count + reach; ++i)
         padded.push_back(samples[size_t(mirrored(i))]);

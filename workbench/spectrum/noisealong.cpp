@@ -17,7 +17,10 @@ constexpr double lineDeviations = 4;
 constexpr int lineReach = 5; ///< ...that covers so many samples to each side of there
 constexpr size_t leastSamples = 64;
 constexpr double medianPerDeviation = 0.9539; ///< of the step from one sample of normal noise to the next
-constexpr double mostAboveMedian = 1.35; ///< of few counts; above that it is lines
+constexpr double fewCounts = 10; ///< rounding noises
+/// What the mean says of few counts may differ from what the median says by these factors.
+constexpr double leastOfMedian = 0.85;
+constexpr double mostOfMedian = 1.35;
 constexpr double mostDeviations = 12; ///< of a step between neighbours; rays and jumps are longer
 
 /// From each sample to the next; 0 behind the last.
@@ -55,7 +58,8 @@ std::vector<size_t> PlacesBesideLines(const std::vector<double> &samples, const 
     size_t clear = 0; // the first one behind the last line
     std::vector<size_t> places;
     for (size_t i = 0; i < samples.size(); ++i) {
-        const bool isLine = std::abs(filtered.curve[i] - filtered.background[i]) > lineDeviations * filtered.noiseShare * std::max(noise, usual[i] / medianPerDeviation);
+        const double deviation = filtered.noiseShare * std::max(noise, usual[i] / medianPerDeviation);
+        const bool isLine = std::abs(filtered.curve[i] - filtered.background[i]) > lineDeviations * deviation;
         if (isLine) {
             while (!places.empty() && places.back() + lineReach >= i)
                 places.pop_back();
@@ -67,12 +71,15 @@ std::vector<size_t> PlacesBesideLines(const std::vector<double> &samples, const 
     return places;
 }
 
-/// The median of steps of few counts jumps from one whole number to the next; their mean square does not.
+/// The median of steps of few counts jumps from one whole number to the next; their mean square does not, unless samples
+/// were cut off at 0.
 double NoiseOf(const std::vector<double> &samples, const SquaredSteps &steps)
 {
     const double usual = EstimateNoise(samples);
-    const bool areFewCounts = usual < 10 * RoundingNoise(samples);
-    return areFewCounts ? std::max(RoundingNoise(samples), std::min(steps.Noise(0, samples.size()), mostAboveMedian * usual)) : usual;
+    const double rounding = RoundingNoise(samples);
+    const double mean = steps.Noise(0, samples.size());
+    const bool isByMean = usual < fewCounts * rounding && mean > leastOfMedian * usual;
+    return isByMean ? std::max(rounding, std::min(mean, mostOfMedian * usual)) : usual;
 }
 
 } // namespace
@@ -94,7 +101,8 @@ std::vector<double> NoiseAlong(const std::vector<double> &samples, const Filtere
     for (size_t i = 0; i < samples.size(); ++i) {
         while (step + 1 < places.size() && places[step] < i)
             ++step;
-        const double mean = squares.Noise(step > size_t(reach) ? step - size_t(reach) : 0, std::min(beside.size(), step + size_t(reach) + 1));
+        const size_t from = step > size_t(reach) ? step - size_t(reach) : 0;
+        const double mean = squares.Noise(from, std::min(beside.size(), step + size_t(reach) + 1));
         const double here = std::min(mean, medians[step] / medianPerDeviation); // lines too faint to be seen move the mean
         along[i] = here > clearlyMore * noise ? here : noise;
     }

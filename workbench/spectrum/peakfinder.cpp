@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -322,7 +323,8 @@ std::vector<SpectralPeak> FindPeaks(const std::vector<double> &samples, const Pe
     FilteredNoise filtered;
     filtered.curve = filter.Apply(samples);
     filtered.noiseShare = filter.NoiseShare(int(samples.size() / 2), int(samples.size()));
-    filtered.background = BackgroundOf(filtered.curve, usualNoise * filtered.noiseShare, backgroundPerHalfWidth * std::max(1, rules.halfWidth));
+    const int reach = backgroundPerHalfWidth * std::max(1, rules.halfWidth);
+    filtered.background = BackgroundOf(filtered.curve, usualNoise * filtered.noiseShare, reach);
     search.noise = NoiseAlong(samples, filtered);
     search.background = std::move(filtered.background);
     // Expected in this spectrum if it is nothing but noise.

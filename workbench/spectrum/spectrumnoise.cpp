@@ -42,9 +42,9 @@ double NormalQuantile(double share)
     return low;
 }
 
-/// The noise that samples around a level near 0 had before all that lay below 0 became 0; 0 when few did.
-/// Lines hardly count: only samples beside a 0 tell. Of a sample beside a 0 the share that is 0 is that below the cut, and the median of the
-/// rest is the quantile half way between that share and 1.
+/// The noise that samples around a level near 0 had before all that lay below 0 became 0; 0 when few did. Lines hardly
+/// count: only samples beside a 0 tell. Of a sample beside a 0 the share that is 0 is that below the cut, and the median
+/// of the rest is the quantile half way between that share and 1.
 double NoiseBeforeCut(const std::vector<double> &samples)
 {
     constexpr double leastCutShare = 0.25;
@@ -64,7 +64,8 @@ double NoiseBeforeCut(const std::vector<double> &samples)
     if (above.empty() || cut < leastCutShare * double(samples.size()))
         return 0;
     const double share = 1 - double(above.size()) / neighbours;
-    const double middle = AreWhole(samples) ? MedianOfWhole(above) - 0.5 : MedianOf(above); // whole numbers above 0 begin at 0.5
+    // Whole numbers above 0 begin at 0.5.
+    const double middle = AreWhole(samples) ? MedianOfWhole(above) - 0.5 : MedianOf(above);
     return middle / (NormalQuantile((1 + share) / 2) - NormalQuantile(share));
 }
 

@@ -11,6 +11,7 @@ private slots:
     void aLineStandsAsHighAsTheoryHasIt_data();
     void aLineStandsAsHighAsTheoryHasIt();
     void noiseIsThatOfItsSamples();
+    void spectraShorterThanTheFilterAreMirrored();
     void theBarIsThatOfRice();
 };
 
@@ -52,6 +53,17 @@ void MatchedFilterTest::noiseIsThatOfItsSamples()
         const double found = std::sqrt(squares[i]) / filter.NoiseShare(places[i], count);
         QVERIFY2(std::abs(found - 1) < 0.08, qPrintable(QString("%1: %2").arg(places[i]).arg(found)));
     }
+}
+
+void MatchedFilterTest::spectraShorterThanTheFilterAreMirrored()
+{
+    for (const size_t count : {1, 2, 5, 20, 47}) {
+        const std::vector<double> curve = MatchedFilter(6).Apply(std::vector<double>(count, 7.0));
+        QCOMPARE(curve.size(), count);
+        for (const double value : curve)
+            QVERIFY(std::abs(value - 7) < 1e-9);
+    }
+    QVERIFY(MatchedFilter(6).Apply({}).empty());
 }
 
 void MatchedFilterTest::theBarIsThatOfRice()
