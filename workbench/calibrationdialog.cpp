@@ -237,7 +237,9 @@ void CalibrationDialog::Assign()
 void CalibrationDialog::slotAssigned(bool found)
 {
     m_assign->setEnabled(!m_model->Values().empty());
-    if (!found)
+    if (found)
+        m_verdict->setText(VerdictOfAssigned());
+    else
         m_verdict->setText(tr("No assignment fits: choose the lamps, say about which wavelengths the ends have, or add lines by hand."));
 }
 
@@ -313,6 +315,16 @@ void CalibrationDialog::ShowTable()
         m_table->setItem(i, ResidualColumn, Cell(isThere ? Number(fit.residualsPixel[i], 3) : QString(), false));
     }
     m_isFilling = false;
+}
+
+QString CalibrationDialog::VerdictOfAssigned() const
+{
+    const AssignedLines &lines = m_model->Assigned();
+    return tr("%1 Left out: peaks broader or narrower than a line: %2, two lines in one: %3, off the curve: %4.")
+        .arg(Verdict())
+        .arg(lines.oddWidths)
+        .arg(lines.blends)
+        .arg(lines.outliers);
 }
 
 QString CalibrationDialog::Verdict() const

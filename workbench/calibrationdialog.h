@@ -46,6 +46,8 @@ private:
     void RemovePoints();
     void ShowTable();
     QString Verdict() const;
+    /// The same with what the assignment left out, and why.
+    QString VerdictOfAssigned() const;
     void slotPicked(double pixel);
     void slotAssigned(bool found);
     void slotShow();

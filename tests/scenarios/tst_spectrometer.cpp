@@ -109,7 +109,11 @@ private slots:
         }
         const QString verdict = QString("Residual %1 pixels (%2 nm) rms; leaving one out: %3 pixels.")
                                     .arg(fit.rmsPixel, 0, 'f', 3).arg(fit.rmsNm, 0, 'f', 4).arg(fit.leaveOneOutPixel, 0, 'f', 3);
-        QCOMPARE(Label("labelVerdict"), verdict);
+        const AssignedLines &assigned = model->Assigned();
+        QCOMPARE(Label("labelVerdict"),
+                 QString("%1 Left out: peaks broader or narrower than a line: %2, two lines in one: %3, off the curve: %4.")
+                     .arg(verdict).arg(assigned.oddWidths).arg(assigned.blends).arg(assigned.outliers));
+        QVERIFY(assigned.oddWidths + assigned.blends + assigned.outliers > 0);
 
         Button("Apply")->click();
         QCOMPARE(Plot()->xAxis->label(), QString("Wavelength [nm]"));

@@ -347,9 +347,7 @@ AssignedLines AssignLines(const std::vector<SpectralPeak> &peaks, const Assignme
     AssignedLines assigned;
     const double width = UsualWidth(peaks);
     const int least = LeastScreenedPoints(hints.degree);
-    std::vector<SpectralPeak> used = PeaksOfWidth(peaks, width);
-    if (int(used.size()) < least)
-        used = peaks;
+    const std::vector<SpectralPeak> used = PeaksOfWidth(peaks, width, least);
     const bool isEnough = used.size() >= size_t(leastMatches) && used.back().position > used.front().position && !hints.lamps.isEmpty() && hints.width > 1;
     const QVector<CalibrationPoint> best = isEnough ? Assignment(used, hints).Best() : QVector<CalibrationPoint>();
     const CalibrationFit fit = FitCalibration(best, std::min(hints.degree, best.size() - 1), hints.width);

@@ -15,7 +15,6 @@ constexpr double widthTolerance = 0.25;
 constexpr double comparableShare = 0.2;
 constexpr double sameNm = 1e-3;
 constexpr double mostDeviations = 3;
-constexpr double deviationPerMedian = 1.4826; // of the absolute values of a normal distribution
 /// No peak's place is known better than that.
 constexpr double leastDeviationPixels = 0.01;
 
@@ -43,15 +42,24 @@ bool IsBlend(const CalibrationPoint &point, const QVector<Lamp> &lamps, const Sp
     });
 }
 
-/// The index of the point farthest off the curve; -1 when none is too far.
-int OutlierOf(const QVector<double> &residuals)
+/// The index of the point farthest off the curve; -1 when none is too far. The residual that a point has in the fit times
+/// the one it has without being in it is what leaving it out takes off the sum of squares.
+int OutlierOf(const CalibrationFit &fit)
 {
-    std::vector<double> sizes;
-    for (const double residual : residuals)
-        sizes.push_back(std::abs(residual));
-    const double deviation = std::max(leastDeviationPixels, deviationPerMedian * MedianOf(sizes));
-    const auto farthest = std::max_element(sizes.begin(), sizes.end());
-    return farthest != sizes.end() && *farthest > mostDeviations * deviation ? int(farthest - sizes.begin()) : -1;
+    const int count = fit.leaveOneOutErrors.size();
+    const int free = count - fit.calibration.Degree() - 2; // of the others, fitted alone
+    int outlier = -1;
+    double most = mostDeviations;
+    for (int i = 0; i < count && free > 0; ++i) {
+        const double taken = fit.residualsPixel[i] * fit.leaveOneOutErrors[i];
+        const double left = std::max(0.0, count * fit.rmsPixel * fit.rmsPixel - taken);
+        const double deviations = std::sqrt(std::max(0.0, taken)) / std::max(leastDeviationPixels, std::sqrt(left / free));
+        if (deviations <= most)
+            continue;
+        most = deviations;
+        outlier = i;
+    }
+    return outlier;
 }
 
 } // namespace
@@ -73,13 +81,18 @@ double UsualWidth(const std::vector<SpectralPeak> &peaks)
     return MedianOf(widths);
 }
 
-std::vector<SpectralPeak> PeaksOfWidth(const std::vector<SpectralPeak> &peaks, double width)
+std::vector<SpectralPeak> PeaksOfWidth(const std::vector<SpectralPeak> &peaks, double width, int least)
 {
-    std::vector<SpectralPeak> usual;
     // One that is cut off has lost its half height: its width says nothing.
-    std::copy_if(peaks.begin(), peaks.end(), std::back_inserter(usual), [width](const SpectralPeak &peak) {
-        return peak.isSaturated || std::abs(peak.width - width) <= widthTolerance * width;
-    });
+    const auto oddness = [width](const SpectralPeak &peak) { return peak.isSaturated ? 0 : std::abs(peak.width - width); };
+    std::vector<double> all;
+    for (const SpectralPeak &peak : peaks)
+        all.push_back(oddness(peak));
+    std::sort(all.begin(), all.end());
+    const double ofLeast = all.empty() ? 0 : all[std::min(all.size(), size_t(least)) - 1];
+    const double most = std::max(widthTolerance * width, ofLeast);
+    std::vector<SpectralPeak> usual;
+    std::copy_if(peaks.begin(), peaks.end(), std::back_inserter(usual), [&](const SpectralPeak &peak) { return oddness(peak) <= most; });
     return usual;
 }
 
@@ -98,7 +111,7 @@ QVector<CalibrationPoint> WithoutOutliers(QVector<CalibrationPoint> points, int 
 {
     while (points.size() > least) {
         const CalibrationFit fit = FitCalibration(points, degree, spectrumWidth);
-        const int outlier = fit.IsGood() ? OutlierOf(fit.residualsPixel) : -1;
+        const int outlier = fit.IsGood() ? OutlierOf(fit) : -1;
         if (outlier < 0)
             break;
         points.remove(outlier);

@@ -196,6 +196,7 @@ void CalibrationModelTest::linesAreAssignedInTheBackground()
     QVERIFY(assigned.wait());
     QCOMPARE(assigned[0][0].toBool(), true);
     QCOMPARE(model->Points().size(), 5);
+    QCOMPARE(model->Assigned().points.size(), 5);
     QVERIFY2(model->Fit().IsGood() && model->Fit().rmsPixel < 0.1, qPrintable(model->Fit().fault));
     for (const double nm : {hgViolet, hgBlue, hgGreen})
         QVERIFY(std::abs(model->Fit().calibration.Wavelength(PixelOf(nm)) - nm) < 0.02);

@@ -24,6 +24,8 @@ private slots:
     void neonInAVacuumAxisIsFound();
     void mercuryBesideFaintArgonIsAssigned();
     void xenonOfAPictureIsAssigned();
+    void heliumAndArgonAlongAPictureAreAssigned_data();
+    void heliumAndArgonAlongAPictureAreAssigned();
 };
 
 namespace {
@@ -50,19 +52,39 @@ std::vector<double> Counts(const QString &name)
     return counts;
 }
 
-/// The mean of some rows of a picture.
-std::vector<double> MeanOfRows(const QString &name, int first, int end)
+Picture FirstFrame(const QString &name)
 {
     QString error;
     const auto file = OpenPicture(QString(TEST_DATA) + name, error);
     Picture picture;
     if (!file || !file->ReadFrame(0, picture, error))
         qFatal("%s", qPrintable(error));
+    return picture;
+}
+
+/// The mean of some rows of a picture.
+std::vector<double> MeanOfRows(const QString &name, int first, int end)
+{
+    const Picture picture = FirstFrame(name);
     std::vector<double> mean(size_t(picture.Width()), 0.0);
     VisitSampleType(picture.Type(), [&](auto sample) {
         for (int y = first; y < end; ++y) {
             for (int x = 0; x < picture.Width(); ++x)
                 mean[size_t(x)] += double(picture.Samples<decltype(sample)>(y)[x]) / (end - first);
+        }
+    });
+    return mean;
+}
+
+/// The mean of some columns of a picture.
+std::vector<double> MeanOfColumns(const QString &name, int first, int end)
+{
+    const Picture picture = FirstFrame(name);
+    std::vector<double> mean(size_t(picture.Height()), 0.0);
+    VisitSampleType(picture.Type(), [&](auto sample) {
+        for (int y = 0; y < picture.Height(); ++y) {
+            for (int x = first; x < end; ++x)
+                mean[size_t(y)] += double(picture.Samples<decltype(sample)>(y)[x]) / (end - first);
         }
     });
     return mean;
@@ -228,6 +250,35 @@ void RealLampsTest::xenonOfAPictureIsAssigned()
         const double off = (fit.calibration.Wavelength(pair.first) - pair.second / 10) / fit.calibration.Dispersion(pair.first);
         QVERIFY2(std::abs(off) < 4, qPrintable(QString("%1: %2").arg(pair.second).arg(off))); // theirs are good to two
     }
+}
+
+void RealLampsTest::heliumAndArgonAlongAPictureAreAssigned_data()
+{
+    QTest::addColumn<double>("first");
+    QTest::addColumn<double>("last");
+    QTest::newRow("range known about") << 750.0 << 320.0;
+    QTest::newRow("nothing known") << 0.0 << 0.0;
+}
+
+/// The spectrum runs downwards, and its dispersion bends more than a cubic does.
+void RealLampsTest::heliumAndArgonAlongAPictureAreAssigned()
+{
+    QFETCH(double, first);
+    QFETCH(double, last);
+    AssignmentHints hints;
+    hints.lamps = {Lamp::Helium, Lamp::Argon};
+    hints.width = 1030;
+    hints.firstNm = first;
+    hints.lastNm = last;
+    hints.degree = 4;
+    const auto points = AssignLines(FindPeaks(MeanOfColumns("/fits/EFOSC_spec_HeAr227_0005.fits", 495, 535)), hints).points;
+    QVERIFY2(points.size() >= 12, qPrintable(QString::number(points.size())));
+    const CalibrationFit fit = FitCalibration(points, hints.degree, hints.width);
+    QVERIFY2(fit.IsGood() && fit.rmsPixel < 0.1, qPrintable(QString::number(fit.rmsPixel)));
+    QVERIFY(fit.leaveOneOutPixel < 0.1);
+    // The brightest line is the yellow one of helium, and the last bright one its ultraviolet one.
+    QVERIFY2(std::abs(fit.calibration.Wavelength(373.2) - 587.562) < 0.1, qPrintable(QString::number(fit.calibration.Wavelength(373.2))));
+    QVERIFY2(std::abs(fit.calibration.Wavelength(862.5) - 388.865) < 0.1, qPrintable(QString::number(fit.calibration.Wavelength(862.5))));
 }
 
 GUARDED_TEST_MAIN(RealLampsTest)
