@@ -16,6 +16,7 @@
 #include "viewcodes.h"
 
 #include <QSignalBlocker>
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace {
@@ -52,6 +53,7 @@ QWidget *CameraUI::GetControlScrollArea()
         disconnect(m_leftTabWidget, SIGNAL(currentChanged(int)), this, SLOT(slotCameraTabWidgetCurrentChanged(int)));
     m_leftTabWidget =
         qobject_cast<QTabWidget *>(GetScrollArea(FirstCameraPanel, AcquisitionPanel, tabNames, "Camera"));
+    m_leftTabWidget->tabBar()->setAccessibleName(tr("Camera Panels"));
     connect(m_leftTabWidget, SIGNAL(currentChanged(int)), this, SLOT(slotCameraTabWidgetCurrentChanged(int)));
     if (!m_capturePreviewUI)
         m_capturePreviewUI = new CapturePreviewUI(nullptr); // the first one went with the page it stood in

@@ -15,12 +15,12 @@ CenterStackedWidget::CenterStackedWidget(QWidget *parent)
     : QStackedWidget(parent)
 {
     setObjectName("CenterStackedWidget");
-    m_leftButton = AddButton("pushButtonLeft", true);
-    m_rightButton = AddButton("pushButtonRight", false);
-    m_analysisButton = AddButton("analysisPushButton", false);
+    m_leftButton = AddButton("pushButtonLeft", tr("Left Panel"), true);
+    m_rightButton = AddButton("pushButtonRight", tr("Hide the Right Panel"), false);
+    m_analysisButton = AddButton("analysisPushButton", tr("Show the Right Panel"), false);
     m_analysisButton->setIconSize(QSize(GlobalClass::GetActualSize(20), GlobalClass::GetActualSize(90)));
-    m_bottomButton = AddButton("pushButtonBottom", true);
-    m_captureButton = AddButton("pushButtonCustomCapture", true);
+    m_bottomButton = AddButton("pushButtonBottom", tr("Bottom Panel"), true);
+    m_captureButton = AddButton("pushButtonCustomCapture", tr("Capture"), true);
     ConnectButtons();
 
     connect(FrameSaveManager::GetInstance(), &FrameSaveManager::signalSaveThreadRunningChanged, this,
@@ -31,10 +31,11 @@ CenterStackedWidget::CenterStackedWidget(QWidget *parent)
             Qt::QueuedConnection);
 }
 
-QPushButton *CenterStackedWidget::AddButton(const QString &objectName, bool checkable)
+QPushButton *CenterStackedWidget::AddButton(const QString &objectName, const QString &name, bool checkable)
 {
     auto *button = new QPushButton(this);
     button->setObjectName(objectName);
+    button->setAccessibleName(name);
     button->setCheckable(checkable);
     return button;
 }

@@ -39,7 +39,8 @@ private slots:
     void onFrameSaveThreadRunningChanged(bool saveRunning);
 
 private:
-    QPushButton *AddButton(const QString &objectName, bool checkable);
+    /// It shows an icon only: `name` is for those who do not see it.
+    QPushButton *AddButton(const QString &objectName, const QString &name, bool checkable);
     void ConnectButtons();
     void UpdateCaptureButton();
     void ShowCaptureState(bool saving);

@@ -30,6 +30,7 @@
 #include "viewcodes.h"
 #include "widgetswitchui.h"
 
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace {
@@ -114,6 +115,8 @@ void GlobalUI::InitMainUI(QWidget *parent)
     m_leftStackedWidget = new QStackedWidget(parent);
     m_rightTabWidget = new QTabWidget(parent);
     m_bottomTabWidget = new QTabWidget(parent);
+    m_rightTabWidget->tabBar()->setAccessibleName(tr("Right Panels"));
+    m_bottomTabWidget->tabBar()->setAccessibleName(tr("Bottom Panels"));
     // The panels' widgets exist only from here on.
     LoadPluginUI(parent);
     GetLeftStackedWidget(parent);

@@ -61,6 +61,7 @@ QVBoxLayout *ImageNavigateUI::MakeColumn(const QString &layoutName, QPushButton 
 {
     auto *label = new QLabel(labelText, this);
     label->setObjectName(labelName);
+    button->setAccessibleName(labelText);
     label->setAlignment(Qt::AlignCenter);
 
     auto *column = new QVBoxLayout;

@@ -13,6 +13,7 @@
 #include "uiconfigmanager.h"
 #include "uiplugin.h"
 
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace {
@@ -41,6 +42,7 @@ QWidget *ImageUI::GetControlScrollArea()
         disconnect(m_leftTabWidget, SIGNAL(currentChanged(int)), this, SLOT(slotImageTabWidgetCurrentChanged(int)));
     m_leftTabWidget =
         qobject_cast<QTabWidget *>(GetScrollArea(FirstImagePanel, LastImagePanel, tabNames, "Image"));
+    m_leftTabWidget->tabBar()->setAccessibleName(tr("Image Panels"));
     m_leftTabWidget->setCurrentIndex(UIConfigManager::GetInstance()->GetLeftUIIndex());
     connect(m_leftTabWidget, SIGNAL(currentChanged(int)), this, SLOT(slotImageTabWidgetCurrentChanged(int)));
     return MakeControlPage(m_navigateUI, m_leftTabWidget);

@@ -26,12 +26,12 @@ QHBoxLayout *WidgetSwitchUI::SetupForm()
 
     const double largeIcon = 0.8;
     const double smallIcon = 0.6;
-    m_showFileDirButton = MakeButton("pushButtonShowFileDirTreeView", largeIcon);
-    m_returnButton = MakeButton("pushButtonReturn", largeIcon);
-    QPushButton *modifyDPIButton = MakeButton("pushButtonModifyDPI", smallIcon);
-    modifyDPIButton->setToolTip(tr("Modify DPI"));
-    QPushButton *convertCSVButton = MakeButton("pushButtonConvertCSV", smallIcon);
-    convertCSVButton->setToolTip(tr("Convert to CSV"));
+    m_showFileDirButton = MakeButton("pushButtonShowFileDirTreeView", tr("Show File Directory"), largeIcon);
+    m_returnButton = MakeButton("pushButtonReturn", tr("Back to the View Before"), largeIcon);
+    QPushButton *modifyDPIButton = MakeButton("pushButtonModifyDPI", tr("Modify DPI"), smallIcon);
+    modifyDPIButton->setToolTip(modifyDPIButton->accessibleName());
+    QPushButton *convertCSVButton = MakeButton("pushButtonConvertCSV", tr("Convert to CSV"), smallIcon);
+    convertCSVButton->setToolTip(convertCSVButton->accessibleName());
 
     auto *column = new QVBoxLayout;
     column->setObjectName("verticalLayout");
@@ -55,12 +55,13 @@ QHBoxLayout *WidgetSwitchUI::SetupForm()
     return row;
 }
 
-QPushButton *WidgetSwitchUI::MakeButton(const QString &objectName, double iconRatio)
+QPushButton *WidgetSwitchUI::MakeButton(const QString &objectName, const QString &name, double iconRatio)
 {
     const int side = GlobalClass::GetActualSize(30);
     const int iconSide = int(side * iconRatio);
     auto *button = new QPushButton(this);
     button->setObjectName(objectName);
+    button->setAccessibleName(name);
     button->setFixedSize(side, side);
     button->setIconSize(QSize(iconSide, iconSide));
     return button;

@@ -26,8 +26,9 @@ private slots:
 private:
     /// Gives the row in which the thumbnail list stands.
     QHBoxLayout *SetupForm();
-    /// `iconRatio` is the icon's side as a part of the button's.
-    QPushButton *MakeButton(const QString &objectName, double iconRatio);
+    /// It shows an icon only: `name` is for those who do not see it. `iconRatio` is the icon's side as a part of the
+    /// button's.
+    QPushButton *MakeButton(const QString &objectName, const QString &name, double iconRatio);
 
     QPushButton *m_showFileDirButton;
     QPushButton *m_returnButton;

@@ -71,6 +71,7 @@ QPushButton *CapturePreviewUI::AddButtonOverCaption(QHBoxLayout *row, const char
     button->setMinimumSize(0, 40);
     button->setIconSize(QSize(45, 45));
     column->addWidget(button);
+    button->setAccessibleName(caption->text()); // it shows an icon only
     caption->setAlignment(Qt::AlignCenter);
     column->addWidget(caption);
     return button;
@@ -86,6 +87,7 @@ void CapturePreviewUI::slotUpdateUI()
     const bool previewing = PreviewManager::GetInstance()->isRunning();
     RenameAndRestyle(m_preview, previewing ? "pushButtonPreviewChecked" : "pushButtonPreview");
     m_live->setText(previewing ? tr("Stop") : tr("Live"));
+    m_preview->setAccessibleName(m_live->text());
     ShowCaptureState(FrameSaveManager::GetInstance()->isRunning());
 }
 

@@ -46,21 +46,22 @@ void SpectrumZoomUI::BuildForm()
     column->setObjectName("verticalLayout");
     column->setContentsMargins(1, 9, 1, column->contentsMargins().bottom());
     column->setSpacing(0); // the plots give the bar just the height of its buttons
-    m_auto = AddButton(column, "pushButtonRescaleAuto");
+    m_auto = AddButton(column, "pushButtonRescaleAuto", tr("Automatic Range"));
     m_auto->setCheckable(true);
-    AddButton(column, "pushButton2DHZoomIn");
-    AddButton(column, "pushButton2DHZoomOut");
-    AddButton(column, "pushButton2DZoomIn");
-    AddButton(column, "pushButton2DZoomOut");
-    AddButton(column, "pushButton2DScaleReset");
+    AddButton(column, "pushButton2DHZoomIn", tr("Zoom In Horizontally"));
+    AddButton(column, "pushButton2DHZoomOut", tr("Zoom Out Horizontally"));
+    AddButton(column, "pushButton2DZoomIn", tr("Zoom In Vertically"));
+    AddButton(column, "pushButton2DZoomOut", tr("Zoom Out Vertically"));
+    AddButton(column, "pushButton2DScaleReset", tr("Reset Zoom"));
 
     QMetaObject::connectSlotsByName(this);
 }
 
-QPushButton *SpectrumZoomUI::AddButton(QVBoxLayout *column, const char *name)
+QPushButton *SpectrumZoomUI::AddButton(QVBoxLayout *column, const char *name, const QString &spokenName)
 {
     auto *button = new QPushButton(this);
     button->setObjectName(name);
+    button->setAccessibleName(spokenName);
     column->addWidget(button);
     return button;
 }

@@ -35,7 +35,8 @@ public slots:
 
 private:
     void BuildForm();
-    QPushButton *AddButton(QVBoxLayout *column, const char *name);
+    /// It shows an icon only: `spokenName` is for those who do not see it.
+    QPushButton *AddButton(QVBoxLayout *column, const char *name, const QString &spokenName);
 
     bool m_withAutoButton;
     QPushButton *m_auto = nullptr;

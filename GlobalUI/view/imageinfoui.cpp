@@ -116,6 +116,7 @@ void ImageInfoUI::AddZoomBox(QHBoxLayout *row)
 {
     m_zoom = new QLineEdit(m_frame);
     m_zoom->setObjectName("lineEditZoom");
+    m_zoom->setAccessibleName(tr("Zoom"));
     row->addWidget(NewCaption("label_2", tr("Zoom :"), m_frame));
     row->addWidget(m_zoom);
 }

@@ -27,6 +27,7 @@ void MultiImageToolUI::BuildForm()
 
     m_scrollBar = new QScrollBar(Qt::Horizontal, this);
     m_scrollBar->setObjectName("horizontalScrollBar");
+    m_scrollBar->setAccessibleName(tr("Frame"));
     m_scrollBar->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     m_scrollBar->setMinimumSize(0, 0);
     row->addWidget(m_scrollBar);

@@ -24,6 +24,7 @@ ViewToolBar::ViewToolBar(QWidget *parent, bool isCamera)
 {
     BuildForm();
     m_buttons[Rotate90]->setToolTip(tr("Rotate") + " 90" + GlobalClass::GetSpecialSymbol(176));
+    NameButtons();
 
     m_buttons[SaveAs]->setVisible(!isCamera);
     m_buttons[Crop]->setVisible(!isCamera);
@@ -94,6 +95,15 @@ void ViewToolBar::BuildForm()
     outer->addWidget(m_column);
 
     QMetaObject::connectSlotsByName(this);
+}
+
+/// They show icons only; before their tool tips get the keys, which are told apart from a name.
+void ViewToolBar::NameButtons()
+{
+    for (QPushButton *button : m_buttons)
+        button->setAccessibleName(button->toolTip());
+    m_buttons[ShowBar]->setAccessibleName(tr("Show the Tool Bar"));
+    m_buttons[HideBar]->setAccessibleName(tr("Hide the Tool Bar"));
 }
 
 void ViewToolBar::SetShortcuts()

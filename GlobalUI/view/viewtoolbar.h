@@ -77,6 +77,7 @@ private:
     };
 
     void BuildForm();
+    void NameButtons();
     void SetShortcuts();
     void SetButtonVisible(Button button, bool visible);
     void SetFolded(bool folded);

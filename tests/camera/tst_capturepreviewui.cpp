@@ -156,9 +156,11 @@ void TestCapturePreviewUI::form()
     QCOMPARE(parts.captureCaption->objectName(), QString("labelCapture"));
     QCOMPARE(parts.captureCaption->text(), QString("Capture"));
     QCOMPARE(parts.captureCaption->alignment(), Qt::AlignCenter);
+    QCOMPARE(parts.capture->accessibleName(), QString("Capture"));
     QCOMPARE(parts.live->objectName(), QString("labelLive"));
     QCOMPARE(parts.live->text(), QString("Live"));
     QCOMPARE(parts.live->alignment(), Qt::AlignCenter);
+    QCOMPARE(parts.preview->accessibleName(), QString("Live"));
 }
 
 void TestCapturePreviewUI::showsTheStateAtBirth_data()
@@ -254,6 +256,7 @@ void TestCapturePreviewUI::previewToggles()
     QCOMPARE(CallLog::Calls(), QStringList("PreviewManager::StartPreview()"));
     QCOMPARE(stateChanges.count(), 1);
     QCOMPARE(parts.live->text(), QString("Stop"));
+    QCOMPARE(parts.preview->accessibleName(), QString("Stop"));
     QCOMPARE(parts.preview->objectName(), QString("pushButtonPreviewChecked"));
 
     QTest::mouseClick(parts.preview, Qt::LeftButton); // found by its first name still

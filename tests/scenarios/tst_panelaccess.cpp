@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every panel that is loaded, whichever it is: what can be used in it has a name for those who do not see it, the Tab key
-// goes down it, and the window comes back with the tabs and panels that it had.
+// goes down it, and the window comes back with the tabs and panels that it had. What stands around the panels has names,
+// too.
 #include "openedpicture.h"
 #include "panelscenario.h"
 #include "picturedesk.h"
@@ -21,6 +22,7 @@
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
 
 namespace {
@@ -34,7 +36,8 @@ bool IsUsable(const QWidget *widget)
         || qobject_cast<const QHeaderView *>(widget))
         return false;
     if (qobject_cast<const QAbstractSpinBox *>(widget->parentWidget())
-        || qobject_cast<const QComboBox *>(widget->parentWidget())
+        || qobject_cast<const QComboBox *>(widget->parentWidget()) || widget->window()->windowType() == Qt::Popup
+        || qobject_cast<const QLineEdit *>(widget->parentWidget())
         || qobject_cast<const QAbstractItemView *>(widget->parentWidget()))
         return false;
     return qobject_cast<const QAbstractButton *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget)
@@ -103,6 +106,22 @@ private slots:
         for (const UIPluginReport &report : UIManagerBase::PluginReports())
             loaded += report.loaded ? 1 : 0;
         QCOMPARE(visited.size(), loaded);
+    }
+
+    /// Shown or not: what waits for its page is built with the window.
+    void allThatCanBeUsedHasAName()
+    {
+        OpenPicture();
+        const QWidget *window = &m_workbench->window;
+        for (const char *name : { "pushButtonReturn", "pushButton2DHZoomIn", "pushButtonRotate90", "listPictures" })
+            QVERIFY2(window->findChild<QWidget *>(name), name);
+        QStringList nameless;
+        for (const QWidget *widget : window->findChildren<QWidget *>()) {
+            const bool isTabBar = qobject_cast<const QTabBar *>(widget);
+            if ((IsUsable(widget) || isTabBar) && !HasName(window, widget))
+                nameless << Caption(widget);
+        }
+        QCOMPARE(nameless.join(", "), QString());
     }
 
     void tabsAndPanelsComeBack()

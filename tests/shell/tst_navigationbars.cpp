@@ -73,6 +73,7 @@ void NavigationBarsTest::imageBarForm()
         QCOMPARE(label->objectName(), QString(labels[i]));
         QCOMPARE(label->text(), QString(texts[i]));
         QCOMPARE(label->alignment(), Qt::AlignCenter);
+        QCOMPARE(button->accessibleName(), QString(texts[i]));
     }
     QCOMPARE(bar.findChild<QPushButton *>("pushButtonCamera")->toolTip(), QString("(Ctrl+Q)"));
 }
@@ -138,16 +139,20 @@ void NavigationBarsTest::switchBarForm()
     QCOMPARE(column->objectName(), QString("verticalLayout"));
     QStringList names;
     QStringList toolTips;
+    QStringList spokenNames;
     for (int i = 0; i < 4; ++i) {
         auto *button = qobject_cast<QPushButton *>(column->itemAt(i)->widget());
         QVERIFY(button);
         QVERIFY(button->text().isEmpty());
         names << button->objectName();
         toolTips << button->toolTip();
+        spokenNames << button->accessibleName();
     }
     QCOMPARE(names, QStringList({ "pushButtonShowFileDirTreeView", "pushButtonReturn", "pushButtonModifyDPI",
                                   "pushButtonConvertCSV" }));
     QCOMPARE(toolTips, QStringList({ "Show File Directory(Ctrl+P)", "", "Modify DPI", "Convert to CSV" }));
+    QCOMPARE(spokenNames,
+             QStringList({ "Show File Directory", "Back to the View Before", "Modify DPI", "Convert to CSV" }));
     const QSpacerItem *spacer = column->itemAt(4)->spacerItem();
     QVERIFY(spacer);
     QCOMPARE(spacer->sizeHint(), QSize(20, 40));

@@ -42,6 +42,7 @@ void TestMultiImage::toolForm()
     QCOMPARE(tool.windowTitle(), QString("Form"));
     QCOMPARE(tool.styleSheet(), QString());
     QCOMPARE(tool.width(), 578);
+    QCOMPARE(tool.findChild<QScrollBar *>("horizontalScrollBar")->accessibleName(), QString("Frame"));
     auto *row = tool.findChild<QHBoxLayout *>("horizontalLayout");
     QCOMPARE(tool.layout(), row);
     QCOMPARE(row->spacing(), 1);

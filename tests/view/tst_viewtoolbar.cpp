@@ -52,6 +52,7 @@ private slots:
     void form();
     void buttons_data();
     void buttons();
+    void names();
     void sizes_data();
     void sizes();
     void visibleAtBirth_data();
@@ -140,6 +141,20 @@ void TestViewToolBar::buttons()
     Listener listener(&bar);
     QTest::mouseClick(button, Qt::LeftButton);
     QCOMPARE(listener.heard, QStringList(heard));
+}
+
+/// For those who do not see the icons; the keys are told apart.
+void TestViewToolBar::names()
+{
+    ViewToolBar bar(nullptr, false);
+    QStringList names;
+    for (const QPushButton *button : bar.findChildren<QPushButton *>())
+        names << button->accessibleName();
+    names.sort();
+    QCOMPARE(names, QStringList({"1 : 1", "Black Background", "Close Compare", "Fit", "Full Screen",
+                                 "Hide the Tool Bar", "Horizontal Flip", "Image Crop", "Image Info",
+                                 "Rotate 90" + degree, "Save Image As...", "Show the Tool Bar", "Vertical Flip",
+                                 "Zoom In", "Zoom Out"}));
 }
 
 void TestViewToolBar::sizes_data()

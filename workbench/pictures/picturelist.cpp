@@ -78,6 +78,7 @@ void PictureList::BuildList()
     connect(m_checkAll, SIGNAL(toggled(bool)), this, SLOT(slotCheckAll(bool)));
 
     m_list->setObjectName("listPictures");
+    m_list->setAccessibleName(tr("Opened pictures"));
     m_list->setViewMode(QListView::IconMode);
     m_list->setMovement(QListView::Static);
     m_list->setWrapping(false);
