@@ -24,6 +24,7 @@
 #include "previewmanager.h"
 #include "spectrumuimanager.h"
 #include "tabbarstyle.h"
+#include "taborder.h"
 #include "thumbnaillist.h"
 #include "uiconfigmanager.h"
 #include "useareamanager.h"
@@ -122,6 +123,7 @@ void GlobalUI::InitMainUI(QWidget *parent)
     GetLeftStackedWidget(parent);
     GetRightTabWidget(parent);
     GetBottomTabWidget(parent);
+    ChainTabOrder({ m_leftStackedWidget, m_rightTabWidget, m_bottomTabWidget });
 }
 
 void GlobalUI::LoadPluginUI(QWidget *parent)

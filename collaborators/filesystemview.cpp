@@ -25,7 +25,6 @@ QString PathTyped(const QString &text)
 FileSystemView::FileSystemView(QWidget *parent)
     : QWidget(parent)
     , m_model(new FolderTreeModel(this))
-    , m_tree(new QTreeView(this))
     , m_path(new QLineEdit(this))
 {
     auto *backButton = new QPushButton(tr("Back"), this);
@@ -35,6 +34,7 @@ FileSystemView::FileSystemView(QWidget *parent)
     m_path->setAccessibleName(tr("Folder"));
     m_path->setPlaceholderText(tr("Path of a folder"));
     m_path->setToolTip(tr("Type the path of a folder and press Enter"));
+    m_tree = new QTreeView(this); // the Tab key comes to them in the order they are made
     m_tree->setObjectName("treeViewFolders");
     m_tree->setAccessibleName(tr("Folders"));
     auto *row = new QHBoxLayout;

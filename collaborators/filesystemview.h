@@ -41,7 +41,7 @@ private slots:
 
 private:
     FolderTreeModel *m_model;
-    QTreeView *m_tree;
+    QTreeView *m_tree = nullptr;
     QLineEdit *m_path;
     QString m_folder;
 };

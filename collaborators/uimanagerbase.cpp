@@ -234,6 +234,7 @@ QWidget *UIManagerBase::GetWidget(int id, const QString &title, const QString &g
     page.area->setObjectName(group + "ScrollArea");
     page.area->setFrameShape(QFrame::NoFrame);
     page.area->setWidgetResizable(true);
+    page.area->setFocusPolicy(Qt::ClickFocus); // the Tab key goes on to what is in it
     m_private->FillPage(id);
     return page.area;
 }

@@ -4,6 +4,7 @@
 #include "filesystemview.h"
 #include "filethumbnail.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -12,6 +13,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 #include <memory>
 
@@ -32,6 +34,7 @@ private slots:
         m_folder.reset();
         EndGuard();
     }
+    void TheTabKeyGoesDown();
     void TheTreeShowsTheFolderTyped();
     void TheTreeShowsTheFolderClicked();
     void TheTreeFollowsTheFoldersWhileItIsWatched();
@@ -42,6 +45,24 @@ private slots:
 private:
     std::unique_ptr<QTemporaryDir> m_folder;
 };
+
+void TestFileSystemView::TheTabKeyGoesDown()
+{
+    QWidget window;
+    QVBoxLayout column(&window);
+    QLineEdit above;
+    FileSystemView view(nullptr);
+    column.addWidget(&above);
+    column.addWidget(&view);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    above.setFocus();
+    for (const char *name : { "lineEditPath", "pushButtonBack", "treeViewFolders" }) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QCOMPARE(QApplication::focusWidget()->objectName(), QString(name));
+    }
+}
 
 void TestFileSystemView::TheTreeShowsTheFolderTyped()
 {

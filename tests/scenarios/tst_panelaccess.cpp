@@ -17,6 +17,7 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QGroupBox>
+#include <QHash>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -108,6 +109,21 @@ private slots:
         QCOMPARE(visited.size(), loaded);
     }
 
+    /// Whichever was visited before, and whatever was built anew since.
+    void tabKeyGoesFromTheTabsIntoTheirPanel()
+    {
+        EnterPanels(Tabs("CameraTabWidget"));
+        QCOMPARE(m_entered.value("CameraPanel"), QString("choiceDevice"));
+        EnterPanels(RightTabs());
+        EnterPanels(BottomTabs());
+        EnterPanels(Tabs("CameraTabWidget"));
+        OpenPicture();
+        EnterPanels(Tabs("ImageTabWidget"));
+        Config()->SetCameraView();
+        EnterPanels(Tabs("CameraTabWidget"));
+        QCOMPARE(m_entered.value("CameraPanel"), QString("choiceDevice"));
+    }
+
     /// Shown or not: what waits for its page is built with the window.
     void allThatCanBeUsedHasAName()
     {
@@ -189,6 +205,27 @@ private:
         }
     }
 
+    /// With the Tab key, from each of the tabs.
+    void EnterPanels(QTabWidget *tabs)
+    {
+        QVERIFY(QTest::qWaitForWindowActive(&m_workbench->window));
+        for (int i = 0; i < tabs->count(); ++i) {
+            tabs->setCurrentIndex(i);
+            auto *area = qobject_cast<QScrollArea *>(tabs->widget(i));
+            QWidget *panel = area ? area->widget() : tabs->widget(i);
+            QTRY_VERIFY2(panel->isVisible(), qPrintable(panel->objectName()));
+            const QVector<QWidget *> stops = TabStops(panel);
+            if (stops.isEmpty())
+                continue;
+            tabs->tabBar()->setFocus();
+            QTest::keyClick(tabs->tabBar(), Qt::Key_Tab);
+            QVERIFY2(QApplication::focusWidget() == stops.first(),
+                     qPrintable(QString("%1: %2 instead of %3")
+                                    .arg(panel->objectName(), Caption(QApplication::focusWidget()), Caption(stops.first()))));
+            m_entered[panel->objectName()] = stops.first()->objectName();
+        }
+    }
+
     void OpenPicture()
     {
         const QString path = m_folder->filePath("picture.png");
@@ -202,6 +239,8 @@ private:
     }
 
     WorkspaceConfig *Config() const { return m_workbench->services.Config(); }
+
+    QHash<QString, QString> m_entered; ///< the first stop in each panel
 };
 
 int main(int argc, char **argv)

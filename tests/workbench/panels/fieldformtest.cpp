@@ -4,6 +4,7 @@
 #include "guardedtest.h"
 #include "numberbox.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -11,6 +12,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QShowEvent>
+#include <QVBoxLayout>
 #include <QWheelEvent>
 #include <qtestspontaneevent.h>
 
@@ -72,6 +74,7 @@ private slots:
     void emptiedLineIsFilledWhenTheEditingIsFinished();
     void wheelChangesOnlyWhatHasTheFocus();
     void otherFieldsMakeOtherWidgets();
+    void tabKeyFindsTheFieldsWhereTheFormStands();
     void faultIsShownUntilItIsOver();
     void watchedOnlyWhileShown();
     void minimisingIsNoTurningAway();
@@ -223,6 +226,38 @@ void FieldFormTest::otherFieldsMakeOtherWidgets()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QVERIFY(!form.findChild<NumberBox *>("numberWidth"));
     QVERIFY(form.findChild<QComboBox *>("choiceMode"));
+}
+
+void FieldFormTest::tabKeyFindsTheFieldsWhereTheFormStands()
+{
+    Recorder source("test");
+    QWidget window;
+    QVBoxLayout column(&window);
+    QLineEdit above;
+    FieldForm form(&source, "absent");
+    QLineEdit below;
+    for (QWidget *widget : QVector<QWidget *>{&above, &form, &below})
+        column.addWidget(widget);
+    window.show(); // the fields are made now
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const auto passed = [&] {
+        QStringList names;
+        above.setFocus();
+        QTest::keyClick(&above, Qt::Key_Tab);
+        for (int i = 0; i < 20 && !below.hasFocus() && !above.hasFocus(); ++i) {
+            names << QApplication::focusWidget()->objectName();
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        return names;
+    };
+    QCOMPARE(passed(), QStringList({"numberWidth", "choiceMode", "textName", "textFolder", "chooseFolder", "actionBegin"}));
+    source.fields.remove(0);
+    emit source.signalChanged();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QTRY_VERIFY(form.findChild<QComboBox *>("choiceMode")->isVisible());
+    QCOMPARE(passed(), QStringList({"choiceMode", "textName", "textFolder", "chooseFolder", "actionBegin"}));
+    QVERIFY(below.hasFocus());
 }
 
 void FieldFormTest::faultIsShownUntilItIsOver()
