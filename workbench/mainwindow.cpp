@@ -126,6 +126,8 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     connect(m_processFields, &ProcessFields::signalMessage, this, &MainWindow::slotShowMessage);
     connect(m_countFields, &CountFields::signalMessage, this, &MainWindow::slotShowMessage);
     connect(sources, &PanelSources::signalMessage, this, &MainWindow::slotShowMessage);
+    connect(sources, &PanelSources::signalNotSaved, services->Desk(), &PictureDesk::signalFault);
+    connect(m_countFields, &CountFields::signalNotSaved, services->Desk(), &PictureDesk::signalFault);
     m_leaveFullScreen = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     m_leaveFullScreen->setEnabled(false);
     connect(m_leaveFullScreen, SIGNAL(activated()), this, SLOT(slotLeaveFullScreen()));

@@ -3,6 +3,7 @@
 #include "advancedprocessmanager.h"
 #include "autocounting.h"
 #include "createpicture.h"
+#include "fieldsource.h"
 #include "openedpicture.h"
 #include "openpicture.h"
 #include "panelscenario.h"
@@ -16,6 +17,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTabWidget>
@@ -213,6 +215,19 @@ private slots:
         QTRY_COMPARE(Note("noteResult"), QString("Nothing is being counted."));
         QVERIFY(!counting->IsCounting());
         QCOMPARE(counting->Table()->rowCount(), 4); // they stay
+    }
+
+    /// It stays until it is read, as of every file that could not be saved.
+    void aTableThatIsNotSavedIsToldInTheNotice()
+    {
+        auto *notice = m_workbench->window.findChild<QMessageBox *>("FaultNotice");
+        for (const char *name : { FieldSource::CountName, FieldSource::CalibrationName }) {
+            QVERIFY(!notice->isVisible());
+            FieldSource::Find(name)->Set("saveTable", m_folder->filePath(QString("no such folder/%1.csv").arg(name)));
+            QTRY_VERIFY2(notice->isVisible(), name);
+            QVERIFY2(notice->text().contains(QString("%1.csv").arg(name)), qPrintable(notice->text()));
+            notice->close();
+        }
     }
 
     void theLivePictureEndsCounting()

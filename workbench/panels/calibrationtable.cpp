@@ -84,7 +84,14 @@ void CalibrationTable::Save(const QString &path)
 {
     m_writer.start([this, path, bytes = Csv()] {
         const QString fault = WriteWholeFile(path, bytes);
-        const QString text = fault.isEmpty() ? tr("“%1” was saved.").arg(QFileInfo(path).fileName()) : fault;
-        QMetaObject::invokeMethod(this, [this, text] { emit signalMessage(text); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, [this, path, fault] { Tell(path, fault); }, Qt::QueuedConnection);
     });
+}
+
+void CalibrationTable::Tell(const QString &path, const QString &fault)
+{
+    if (fault.isEmpty())
+        emit signalMessage(tr("“%1” was saved.").arg(QFileInfo(path).fileName()));
+    else
+        emit signalNotSaved(fault);
 }

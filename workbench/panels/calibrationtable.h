@@ -28,11 +28,14 @@ public:
 signals:
     /// A sentence for the status bar.
     void signalMessage(QString text);
+    /// What could not be saved and why, for the user.
+    void signalNotSaved(QString text);
 
 private:
     void Fill();
     QByteArray Csv() const;
     void Save(const QString &path);
+    void Tell(const QString &path, const QString &fault);
 
     CalibrationModel *m_calibration;
     QStandardItemModel m_table;

@@ -202,6 +202,8 @@ void CountFields::slotEnd()
 
 void CountFields::slotSaved(QString path, QString error)
 {
-    emit signalMessage(error.isEmpty() ? tr("\u201c%1\u201d was saved.").arg(QFileInfo(path).fileName())
-                                       : error);
+    if (error.isEmpty())
+        emit signalMessage(tr("\u201c%1\u201d was saved.").arg(QFileInfo(path).fileName()));
+    else
+        emit signalNotSaved(error);
 }

@@ -26,6 +26,8 @@ public:
 signals:
     /// A sentence for the status bar.
     void signalMessage(QString text);
+    /// What could not be saved and why, for the user.
+    void signalNotSaved(QString text);
 
 private slots:
     void slotCount();

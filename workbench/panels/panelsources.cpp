@@ -64,4 +64,5 @@ void PanelSources::AddTables()
         [] { return tr("Nothing was counted by class."); }, this);
     auto *calibration = new CalibrationTable(m_parts.calibration, this);
     connect(calibration, &CalibrationTable::signalMessage, this, &PanelSources::signalMessage);
+    connect(calibration, &CalibrationTable::signalNotSaved, this, &PanelSources::signalNotSaved);
 }

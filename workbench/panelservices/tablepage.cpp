@@ -122,8 +122,16 @@ void TablePage::slotCopy() { QGuiApplication::clipboard()->setText(Text()); }
 
 void TablePage::slotSave()
 {
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Save Table"), QString(), tr("Tables (*.csv)"));
-    if (m_source && !path.isEmpty())
-        m_source->Set("saveTable", path);
+    auto *dialog = new QFileDialog(this, tr("Save Table"));
+    dialog->setObjectName("SaveTableDialog");
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilter(tr("Tables (*.csv)"));
+    dialog->setDefaultSuffix("csv");
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
+        if (m_source)
+            m_source->Set("saveTable", path);
+    });
+    dialog->open();
 }

@@ -131,10 +131,12 @@ private slots:
     void saysWhatCannotBeSaved()
     {
         QSignalSpy messages(m_table.get(), SIGNAL(signalMessage(QString)));
+        QSignalSpy faults(m_table.get(), SIGNAL(signalNotSaved(QString)));
         m_table->Set("saveTable", m_folder->filePath("no/such/folder/table.csv"));
-        QTRY_COMPARE(messages.count(), 1);
-        QVERIFY(messages.at(0).at(0).toString().contains("table.csv"));
-        QVERIFY(messages.at(0).at(0).toString().contains("not saved"));
+        QTRY_COMPARE(faults.count(), 1);
+        QVERIFY(faults.at(0).at(0).toString().contains("table.csv"));
+        QVERIFY(faults.at(0).at(0).toString().contains("not saved"));
+        QCOMPARE(messages.count(), 0);
     }
 
 private:

@@ -4,12 +4,16 @@
 #include "guardedtest.h"
 
 #include <QClipboard>
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <QTemporaryDir>
 
 #include <memory>
 
@@ -26,7 +30,11 @@ public:
     }
 
     PanelFields Fields() const override { return {}; }
-    void Set(const QString &, const QVariant &) override {}
+    void Set(const QString &key, const QVariant &value) override
+    {
+        if (key == "saveTable")
+            saved << value.toString();
+    }
     QAbstractItemModel *Table() override { return &table; }
     QString TableNote() const override { return "Nothing was counted."; }
 
@@ -40,6 +48,7 @@ public:
     }
 
     QStandardItemModel table;
+    QStringList saved;
 };
 
 } // namespace
@@ -91,6 +100,32 @@ private slots:
         Table(page)->setFocus();
         QTest::keyClick(Table(page), Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QGuiApplication::clipboard()->text(), QString("Name\tArea\ntwo\t2\n"));
+    }
+
+    void savedNamesGetASuffix()
+    {
+        Counted source;
+        source.Add("one", 1);
+        QTemporaryDir folder;
+        TablePage page(&source, "absent");
+        page.show();
+        QTest::mouseClick(Button(page, "Save"), Qt::LeftButton);
+        QPointer<QFileDialog> dialog = page.findChild<QFileDialog *>("SaveTableDialog");
+        QVERIFY(dialog);
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        QVERIFY(source.saved.isEmpty()); // nothing waits for the dialog
+        auto *name = dialog->findChild<QLineEdit *>("fileNameEdit");
+        name->setText(folder.filePath("peaks"));
+        QTest::keyClick(name, Qt::Key_Return);
+        QCOMPARE(source.saved, QStringList(folder.filePath("peaks.csv")));
+        QTRY_VERIFY(!dialog);
+        // Thought better of it.
+        QTest::mouseClick(Button(page, "Save"), Qt::LeftButton);
+        dialog = page.findChild<QFileDialog *>("SaveTableDialog");
+        QVERIFY(QTest::qWaitForWindowActive(dialog));
+        dialog->reject();
+        QTRY_VERIFY(!dialog);
+        QCOMPARE(source.saved.size(), 1);
     }
 
     void withoutASourceItSaysSo()
