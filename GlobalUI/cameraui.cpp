@@ -24,6 +24,7 @@ namespace {
 enum CameraPanelId
 {
     FirstCameraPanel = 0,
+    AdjustmentPanel = 1,
     HardwarePanel = 2,
     AcquisitionPanel = 3
 };
@@ -33,6 +34,7 @@ enum CameraPanelId
 CameraUI::CameraUI()
     : m_capturePreviewUI(new CapturePreviewUI(nullptr)) // reparented by the control page
 {
+    SetTabIds({ FirstCameraPanel, AdjustmentPanel, HardwarePanel, AcquisitionPanel });
     // Asked for from inside our own slots too: run after the current event.
     connect(UIConfigManager::GetInstance(), SIGNAL(signalUpdateCameraControlUI()), this, SLOT(slotUpdateUI()),
             Qt::QueuedConnection);

@@ -36,13 +36,6 @@
 
 namespace {
 
-enum RightPanelId
-{
-    AnalysisPanel = 7,
-    ToolPropertiesPanel = 8,
-    ReportPanel = 9,
-    SpectrumPanel = 11
-};
 constexpr int TabsWithSpectrum = 4;
 constexpr int TabsWithoutSpectrum = 3;
 
@@ -239,22 +232,22 @@ QWidget *GlobalUI::GetImageControlUIScrollArea() { return m_imageUI->GetControlS
 
 QWidget *GlobalUI::GetSpectrumWidget()
 {
-    return m_measureUI->GetWidget(SpectrumPanel, MeasureUI::tr("Spectrum"), "");
+    return m_measureUI->GetWidget(MeasureUI::SpectrumPanel, MeasureUI::tr("Spectrum"), "");
 }
 
 QWidget *GlobalUI::GetDataAnalysisWidget()
 {
-    return m_measureUI->GetWidget(AnalysisPanel, MeasureUI::tr("Analysis"), "Measure");
+    return m_measureUI->GetWidget(MeasureUI::AnalysisPanel, MeasureUI::tr("Analysis"), "Measure");
 }
 
 QWidget *GlobalUI::GetToolPropertyWidget()
 {
-    return m_measureUI->GetWidget(ToolPropertiesPanel, MeasureUI::tr("Tool Properties"), "Measure");
+    return m_measureUI->GetWidget(MeasureUI::ToolPropertiesPanel, MeasureUI::tr("Tool Properties"), "Measure");
 }
 
 QWidget *GlobalUI::GetReportWidget()
 {
-    return m_measureUI->GetWidget(ReportPanel, MeasureUI::tr("Report"), "Report");
+    return m_measureUI->GetWidget(MeasureUI::ReportPanel, MeasureUI::tr("Report"), "Report");
 }
 
 void GlobalUI::SetCameraBottomControlUIPanel(QTabWidget *tabWidget)

@@ -21,6 +21,7 @@ namespace {
 enum ImagePanelId
 {
     FirstImagePanel = 4,
+    ProcessPanel = 5,
     LastImagePanel = 6
 };
 
@@ -28,6 +29,7 @@ enum ImagePanelId
 
 ImageUI::ImageUI()
 {
+    SetTabIds({ FirstImagePanel, ProcessPanel, LastImagePanel });
     connect(UIConfigManager::GetInstance(), SIGNAL(signalUpdateImageControlUI()), this,
             SLOT(slotUpdateImageControlUI()));
 }

@@ -20,6 +20,7 @@ bool NeedsImage(int id) { return id == 13 || id == 64; }
 
 MeasureUI::MeasureUI()
 {
+    SetTabIds({ AnalysisPanel, ToolPropertiesPanel, ReportPanel, SpectrumPanel });
     MeasureManager::Init();
     GlobalAttachObserver(this);
     connect(UIConfigManager::GetInstance(), SIGNAL(signalUpdateMeasureControlUI()), this,

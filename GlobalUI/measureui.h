@@ -11,6 +11,9 @@ class MeasureUI : public UIManagerBase, public LxObserver
     Q_OBJECT
 
 public:
+    /// The panels that stand as tabs at the right of the window.
+    enum RightPanelId { AnalysisPanel = 7, ToolPropertiesPanel = 8, ReportPanel = 9, SpectrumPanel = 11 };
+
     MeasureUI();
     ~MeasureUI() override;
 

@@ -87,6 +87,7 @@ public:
     const Source *SourceOf(int id) const;
 
     std::vector<Source> sources;
+    QSet<int> tabIds; ///< empty: not known
     QList<LoadedPlugin> plugins;
     QHash<int, Page> pages;
     QPointer<QTabWidget> bottomTabs;
@@ -99,6 +100,9 @@ void UIManagerBase::Private::Load(const QString &filePath, QWidget *parent, UIMa
     source.entry = UIPluginLoader::Load(filePath, Registry().takenIds, report);
     report.title = TitleText(*manager, report.title);
     source.entry.title = report.title;
+    if (report.loaded && !source.entry.isBottomPage && !tabIds.isEmpty() && !tabIds.contains(report.id))
+        report.reason = tr("no page here has a tab with the id %1; give it the place \"bottom\" and a title")
+                            .arg(report.id);
     AddReport(report);
     if (!report.loaded)
         return;
@@ -319,6 +323,11 @@ int UIManagerBase::PluginLoadMs()
 const QList<UIManagerBase::LoadedPlugin> &UIManagerBase::Plugins() const
 {
     return m_private->plugins;
+}
+
+void UIManagerBase::SetTabIds(const QSet<int> &ids)
+{
+    m_private->tabIds = ids;
 }
 
 void UIManagerBase::UpdatePlugin(const LoadedPlugin &loaded)

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -67,6 +68,9 @@ protected:
         UIPlugin *plugin = nullptr;
         QPointer<QWidget> widget;
     };
+    /// The tabs that this manager's pages ask for. A plug-in for another tab is reported as not seen; without this
+    /// nothing is said of any.
+    void SetTabIds(const QSet<int> &ids);
     /// Those whose panel still lives.
     const QList<LoadedPlugin> &Plugins() const;
     /// Lets one of them show the state anew. If it throws it is taken out of the list and reported as not loaded.

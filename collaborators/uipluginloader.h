@@ -22,7 +22,7 @@ struct UIPluginReport
     QString version;
     int id = -1;
     bool loaded = false;
-    QString reason; ///< why it was not loaded
+    QString reason; ///< why it was not loaded, or is not seen although it was
 };
 
 /// A plug-in that was loaded: its root object and what its metadata says.

@@ -18,7 +18,9 @@ QString PluginList::Name(const UIPluginReport &report)
 
 QString PluginList::State(const UIPluginReport &report)
 {
-    return report.loaded ? tr("Loaded") : tr("Not loaded: %1").arg(report.reason);
+    if (!report.loaded)
+        return tr("Not loaded: %1").arg(report.reason);
+    return report.reason.isEmpty() ? tr("Loaded") : tr("Loaded, but not seen: %1").arg(report.reason);
 }
 
 QStringList PluginList::Folders()

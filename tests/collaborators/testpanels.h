@@ -11,6 +11,8 @@
 class TestPanels : public UIManagerBase
 {
 public:
+    using UIManagerBase::SetTabIds;
+
     void LoadTestFolder(bool complete) { LoadUIPluginAndInitUI("plugins/test/ui", nullptr, complete); }
 
     void UpdateAll()

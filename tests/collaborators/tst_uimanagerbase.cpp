@@ -67,6 +67,7 @@ private slots:
     void LoadsThePanelsItFinds();
     void TellsWhyAPluginIsNotLoaded_data();
     void TellsWhyAPluginIsNotLoaded();
+    void ATabThatNoPageAsksForIsReported();
     void AFolderThatIsNotThereLoadsNothing();
     void AnIdBelongsToOneManagerWhileItLives();
     void PanelsShowTheStateAfterTheLastFolder();
@@ -169,6 +170,24 @@ void TestUIManagerBase::TellsWhyAPluginIsNotLoaded()
     QVERIFY(!report.loaded);
     QCOMPARE(report.id, id);
     QVERIFY2(report.reason.contains(reason), qPrintable(report.reason));
+}
+
+void TestUIManagerBase::ATabThatNoPageAsksForIsReported()
+{
+    {
+        TestPanels manager;
+        manager.SetTabIds({ 5, 6 });
+        LoadAll(&manager);
+        const UIPluginReport report = ReportOf("a_tabpanel.so");
+        QVERIFY(report.loaded);
+        QCOMPARE(report.reason,
+                 QString("no page here has a tab with the id 4; give it the place \"bottom\" and a title"));
+        QCOMPARE(ReportOf("b_histogrampage.so").reason, QString()); // a bottom page has its place
+    }
+    TestPanels manager;
+    manager.SetTabIds({ 4 });
+    LoadAll(&manager);
+    QCOMPARE(ReportOf("a_tabpanel.so").reason, QString());
 }
 
 void TestUIManagerBase::AFolderThatIsNotThereLoadsNothing()

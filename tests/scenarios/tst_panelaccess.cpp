@@ -104,8 +104,10 @@ private slots:
         VisitTabs(Tabs("ImageTabWidget"), &visited);
         VisitTabs(BottomTabs(), &visited);
         int loaded = 0;
-        for (const UIPluginReport &report : UIManagerBase::PluginReports())
+        for (const UIPluginReport &report : UIManagerBase::PluginReports()) {
             loaded += report.loaded ? 1 : 0;
+            QCOMPARE(report.reason, QString()); // each is where it is seen
+        }
         QCOMPARE(visited.size(), loaded);
     }
 

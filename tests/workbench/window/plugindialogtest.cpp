@@ -49,6 +49,9 @@ private slots:
         QTest::newRow("missing") << 3
                                  << QStringList({"Report", "9", "", "Not loaded: no plug-in brings this panel", ""})
                                  << "Not loaded: no plug-in brings this panel";
+        QTest::newRow("loaded for a tab that is nowhere")
+            << 4 << QStringList({"Rate", "100", "1.0", "Loaded, but not seen: no page has it", "/home/lab/plugins/camera/ui"})
+            << "/home/lab/plugins/camera/ui/rate.so\nLoaded, but not seen: no page has it";
     }
 
     void eachPluginHasItsRow()
@@ -59,7 +62,7 @@ private slots:
         PluginDialog dialog(Reports(), {"/opt/plugins"}, nullptr);
         dialog.setAttribute(Qt::WA_DeleteOnClose, false);
         auto *table = dialog.findChild<QTreeWidget *>("treePlugins");
-        QCOMPARE(table->topLevelItemCount(), 4);
+        QCOMPARE(table->topLevelItemCount(), 5);
         for (int column = 0; column < texts.size(); ++column)
             QCOMPARE(table->topLevelItem(row)->text(column), texts.at(column));
         table->setCurrentItem(table->topLevelItem(row));
@@ -99,10 +102,12 @@ private slots:
 private:
     static QList<UIPluginReport> Reports()
     {
+        UIPluginReport unseen = Report("/home/lab/plugins/camera/ui/rate.so", 100, "Rate", "1.0", "no page has it");
+        unseen.loaded = true;
         return {Report("/opt/plugins/camera/ui/camerapanel.so", 0, "Camera", "1.0", ""),
                 Report("/home/lab/plugins/camera/ui/lamp.so", 0, "", "3.2", "another plug-in has the id 0 already"),
                 Report("/home/lab/plugins/camera/ui/text.so", -1, "", "", "it is not a plug-in"),
-                Report("", 9, "Report", "", "no plug-in brings this panel")};
+                Report("", 9, "Report", "", "no plug-in brings this panel"), unseen};
     }
 };
 
