@@ -10,16 +10,17 @@ QString Unversioned(const QString &iid) { return iid.section('/', 0, 0); }
 
 } // namespace
 
-UIPluginMetaData::UIPluginMetaData(const QJsonObject &information)
+UIPluginMetaData::UIPluginMetaData(const QJsonObject &information, const QString &readError)
     : m_information(information)
     , m_metaData(information.value("MetaData").toObject())
+    , m_readError(readError)
 {
 }
 
 QString UIPluginMetaData::Fault(const QSet<int> &takenIds) const
 {
     if (m_information.isEmpty())
-        return tr("it is not a plug-in");
+        return m_readError.isEmpty() ? tr("it is not a plug-in") : tr("it is not a plug-in: %1").arg(m_readError);
     const QString fault = InterfaceFault();
     if (!fault.isEmpty())
         return fault;

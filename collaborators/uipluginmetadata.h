@@ -12,8 +12,8 @@ class UIPluginMetaData
     Q_DECLARE_TR_FUNCTIONS(UIPluginMetaData)
 
 public:
-    /// As QPluginLoader::metaData() gives it.
-    explicit UIPluginMetaData(const QJsonObject &information);
+    /// As QPluginLoader::metaData() gives it, and its errorString() where that is empty.
+    explicit UIPluginMetaData(const QJsonObject &information, const QString &readError = QString());
 
     /// Why this does not describe a panel that can be placed; empty when it does.
     QString Fault(const QSet<int> &takenIds) const;
@@ -35,4 +35,5 @@ private:
 
     QJsonObject m_information;
     QJsonObject m_metaData;
+    QString m_readError;
 };

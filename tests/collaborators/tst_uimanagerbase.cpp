@@ -137,7 +137,8 @@ void TestUIManagerBase::TellsWhyAPluginIsNotLoaded_data()
     QTest::newRow("id taken") << "d_sameid.so" << 4 << "another plug-in has the id 4 already";
     QTest::newRow("other program") << "e_otherinterface.so" << 40
                                    << "it is a plug-in for another interface: \"some.other.Interface/1\"";
-    QTest::newRow("no plug-in") << "f_nometadata.so" << -1 << "it is not a plug-in";
+    QTest::newRow("no plug-in") << "f_nometadata.so" << -1
+                                << "it is not a plug-in: Failed to extract plugin meta data";
     QTest::newRow("no id") << "g_noid.so" << -1 << "its metadata has no valid \"id\"";
     QTest::newRow("missing symbol") << "h_unresolved.so" << 41 << "AFunctionThatIsNowhere";
     QTest::newRow("no interface") << "i_notapanel.so" << 42 << "its root object is not a panel";
@@ -156,7 +157,7 @@ void TestUIManagerBase::TellsWhyAPluginIsNotLoaded_data()
     QTest::newRow("missing library") << "q_needslibrary.so" << 48 << "liblampnowhere.so.7";
     QTest::newRow("link to nowhere") << "r_brokenlink.so" << -1
                                      << "the file is missing: it is a link to /no/such/folder/panel.so";
-    QTest::newRow("text file") << "k_text.so" << -1 << "it is not a plug-in";
+    QTest::newRow("text file") << "k_text.so" << -1 << "is not an ELF object";
 }
 
 void TestUIManagerBase::TellsWhyAPluginIsNotLoaded()

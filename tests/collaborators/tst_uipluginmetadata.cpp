@@ -120,6 +120,8 @@ void TestUIPluginMetaData::TellsTitleAndVersion()
 void TestUIPluginMetaData::AnEmptyFileIsNoPlugin()
 {
     QCOMPARE(UIPluginMetaData(QJsonObject()).Fault({}), QString("it is not a plug-in"));
+    QCOMPARE(UIPluginMetaData(QJsonObject(), "it is cut off").Fault({}),
+             QString("it is not a plug-in: it is cut off"));
 }
 
 void TestUIPluginMetaData::AnotherInterfaceIsNamed()
