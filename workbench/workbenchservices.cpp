@@ -313,6 +313,7 @@ void WorkbenchServices::ConnectTracks()
     connect(spectra, &SpectrumPipeline::signalMessage, this, &WorkbenchServices::signalMessage);
     connect(tracks, &TrackDesk::signalMessage, this, &WorkbenchServices::signalMessage);
     m_pictureDesk->SetLiveUndoStack(tracks->UndoStack());
+    spectra->SetUndoStack(tracks->UndoStack());
     const auto updateLive = [this, spectra] { spectra->SetLive(m_preview->isRunning() && m_link->GetState() == CameraLink::State::Open); };
     connect(m_preview.get(), &QThread::started, spectra, updateLive);
     connect(m_preview.get(), &QThread::finished, spectra, updateLive);

@@ -11,6 +11,7 @@
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
 #include "stylesheet.h"
+#include "trackdesk.h"
 #include "viewcodes.h"
 
 #include <QAction>
@@ -111,6 +112,7 @@ private slots:
         QTRY_VERIFY_WITH_TIMEOUT(Widget("actionTakeDark")->isEnabled(), WaitMs);
         QTRY_COMPARE(Note("noteCorrections"), QString("No correction is on."));
         Click("actionTakeDark");
+        QCOMPARE(m_workbench->services.Tracks()->UndoStack()->undoText(), QString("Take Dark Spectrum"));
         Click("checkDark");
         QVERIFY(settings->Recipe().corrections.subtractsDark);
         // The chart stands still: less itself nothing is left.

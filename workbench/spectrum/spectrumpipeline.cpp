@@ -2,6 +2,9 @@
 #include "spectrumpipeline.h"
 
 #include "pixelmove.h"
+#include "takenspectrumstep.h"
+
+#include <QUndoStack>
 
 #include <utility>
 
@@ -100,7 +103,8 @@ bool SpectrumPipeline::TakeDark()
 {
     if (m_shown.averaged.values.empty())
         return false;
-    ChangeEngine([dark = m_shown.averaged](SpectrumEngine *engine) { engine->SetDark(dark); });
+    Do(std::make_unique<TakenSpectrumStep>(tr("Take Dark Spectrum"), m_dark, m_shown.averaged,
+                                           [this](const Spectrum &dark) { SetDark(dark); }));
     return true;
 }
 
@@ -108,13 +112,34 @@ bool SpectrumPipeline::TakeReference()
 {
     if (m_shown.averaged.values.empty())
         return false;
-    ChangeEngine([reference = m_shown.averaged](SpectrumEngine *engine) { engine->SetReference(reference); });
+    Do(std::make_unique<TakenSpectrumStep>(tr("Take Reference Spectrum"), m_reference, m_shown.averaged,
+                                           [this](const Spectrum &reference) { SetReference(reference); }));
     return true;
 }
 
 void SpectrumPipeline::SetExposure(double exposureUs)
 {
     ChangeEngine([exposureUs](SpectrumEngine *engine) { engine->SetExposure(exposureUs); });
+}
+
+void SpectrumPipeline::SetDark(const Spectrum &dark)
+{
+    m_dark = dark;
+    ChangeEngine([dark](SpectrumEngine *engine) { engine->SetDark(dark); });
+}
+
+void SpectrumPipeline::SetReference(const Spectrum &reference)
+{
+    m_reference = reference;
+    ChangeEngine([reference](SpectrumEngine *engine) { engine->SetReference(reference); });
+}
+
+void SpectrumPipeline::Do(std::unique_ptr<QUndoCommand> step)
+{
+    if (m_undo)
+        m_undo->push(step.release()); // which does it
+    else
+        step->redo();
 }
 
 void SpectrumPipeline::FindBandAgain()

@@ -14,8 +14,12 @@
 #include <condition_variable>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <thread>
+
+class QUndoCommand;
+class QUndoStack;
 
 /// Makes spectra of the raw samples of every frame, in a thread of its own. A frame is never skipped: they wait in a
 /// bounded queue, and one that finds it full is counted as missed. The screen gets the newest spectrum; at most one
@@ -33,6 +37,8 @@ public:
 
     /// From the next frame on.
     void SetRecipe(const SpectrumRecipe &recipe);
+    /// Where the next two can be undone. Borrowed; without it they cannot.
+    void SetUndoStack(QUndoStack *stack) { m_undo = stack; }
     /// What is shown, as it was before dark and reference, becomes the dark or the reference spectrum; false when there
     /// is none.
     bool TakeDark();
@@ -75,6 +81,9 @@ signals:
 private:
     void Run();
     void Work(const CameraFrame &frame, const std::function<void(SpectrumEngine *)> &change, bool findsTracks);
+    void SetDark(const Spectrum &dark);
+    void SetReference(const Spectrum &reference);
+    void Do(std::unique_ptr<QUndoCommand> step);
     void ChangeEngine(const std::function<void(SpectrumEngine *)> &change);
     bool ForgetUnwanted(SpectrumProduct *product) const;
     void Deliver(SpectrumProduct product);
@@ -105,6 +114,9 @@ private:
     bool m_isBinning = false; ///< by the newest recipe
     bool m_hasTracks = false;
     SpectrumProduct m_shown;
+    QUndoStack *m_undo = nullptr;
+    Spectrum m_dark; ///< the engine's after the next frame, as the next one
+    Spectrum m_reference;
     RowBand m_band;
     std::vector<LineFocus> m_lines;
     LinePayload m_line{1};

@@ -5,6 +5,7 @@
 #include <QMutex>
 #include <QSignalSpy>
 #include <QThread>
+#include <QUndoStack>
 
 #include <cmath>
 
@@ -27,6 +28,8 @@ private slots:
     void aTurnedPictureIsBinnedAsItIsSeen();
     void aVerticalSpectrumIsAsLongAsThePictureIsHigh();
     void darkIsTheSpectrumShown();
+    void whatWasTakenCanBeUndone_data();
+    void whatWasTakenCanBeUndone();
     void whatWasAveragedBeforeAChangeDoesNotStay_data();
     void whatWasAveragedBeforeAChangeDoesNotStay();
     void tracksOfOtherRowsAreNotMixed();
@@ -299,6 +302,51 @@ void SpectrumPipelineTest::darkIsTheSpectrumShown()
     pipeline.OnFrame(Frame(3));
     QTRY_COMPARE(pipeline.Shown().frameId, quint64(3));
     QCOMPARE(pipeline.Shown().corrections.Sentence(), QString("Corrections: dark of another exposure subtracted: take it anew."));
+}
+
+void SpectrumPipelineTest::whatWasTakenCanBeUndone_data()
+{
+    QTest::addColumn<bool>("isDark");
+    QTest::newRow("dark") << true;
+    QTest::newRow("reference") << false;
+}
+
+/// The spectrum of the rows without light is 8000 everywhere; with light over 20 rows it is more in the middle.
+void SpectrumPipelineTest::whatWasTakenCanBeUndone()
+{
+    QFETCH(bool, isDark);
+    QUndoStack steps;
+    SpectrumPipeline pipeline;
+    pipeline.SetUndoStack(&steps);
+    SpectrumRecipe recipe = Binning();
+    recipe.corrections.subtractsDark = isDark;
+    recipe.corrections.subtractsReference = !isDark;
+    pipeline.SetRecipe(recipe);
+    quint64 id = 0;
+    const auto show = [&](int litRows) {
+        pipeline.OnFrame(Frame(++id, 20, 20 + litRows));
+        return QTest::qWaitFor([&] { return pipeline.Shown().frameId == id; });
+    };
+    const auto take = [&] { return isDark ? pipeline.TakeDark() : pipeline.TakeReference(); };
+    QVERIFY(show(0) && take());
+    QVERIFY(show(20) && take()); // with the lamp on: a wrong click
+    QCOMPARE(steps.count(), 2);
+    QCOMPARE(steps.undoText(), QString(isDark ? "Take Dark Spectrum" : "Take Reference Spectrum"));
+    QVERIFY(show(20));
+    QCOMPARE(pipeline.Shown().corrected.values[150], 0.0);
+
+    steps.undo();
+    QVERIFY(show(20));
+    const double light = pipeline.Shown().raw.values[150] - 8000;
+    QVERIFY(light > 0);
+    QCOMPARE(pipeline.Shown().corrected.values[150], light);
+    steps.undo(); // there was none before
+    QVERIFY(show(20));
+    QCOMPARE(pipeline.Shown().corrected.values[150], pipeline.Shown().raw.values[150]);
+    QVERIFY(pipeline.Shown().corrections.Sentence() != QString("Corrections: dark subtracted."));
+    steps.setIndex(2);
+    QVERIFY(show(20));
+    QCOMPARE(pipeline.Shown().corrected.values[150], 0.0);
 }
 
 void SpectrumPipelineTest::whatWasAveragedBeforeAChangeDoesNotStay_data()
