@@ -242,7 +242,8 @@ QWidget *GlobalUI::GetDataAnalysisWidget()
 
 QWidget *GlobalUI::GetToolPropertyWidget()
 {
-    return m_measureUI->GetWidget(MeasureUI::ToolPropertiesPanel, MeasureUI::tr("Tool Properties"), "Measure");
+    return m_measureUI->GetWidget(MeasureUI::ToolPropertiesPanel, MeasureUI::tr("Tool Properties"),
+                                  "Measure");
 }
 
 QWidget *GlobalUI::GetReportWidget()

@@ -12,7 +12,13 @@ class MeasureUI : public UIManagerBase, public LxObserver
 
 public:
     /// The panels that stand as tabs at the right of the window.
-    enum RightPanelId { AnalysisPanel = 7, ToolPropertiesPanel = 8, ReportPanel = 9, SpectrumPanel = 11 };
+    enum RightPanelId
+    {
+        AnalysisPanel = 7,
+        ToolPropertiesPanel = 8,
+        ReportPanel = 9,
+        SpectrumPanel = 11
+    };
 
     MeasureUI();
     ~MeasureUI() override;

@@ -325,10 +325,7 @@ const QList<UIManagerBase::LoadedPlugin> &UIManagerBase::Plugins() const
     return m_private->plugins;
 }
 
-void UIManagerBase::SetTabIds(const QSet<int> &ids)
-{
-    m_private->tabIds = ids;
-}
+void UIManagerBase::SetTabIds(const QSet<int> &ids) { m_private->tabIds = ids; }
 
 void UIManagerBase::UpdatePlugin(const LoadedPlugin &loaded)
 {

@@ -91,7 +91,8 @@ UIPluginEntry UIPluginLoader::Load(const QString &filePath, const QSet<int> &tak
     QPluginLoader loader(filePath);
     // Missing symbols are found now and not at the first click.
     loader.setLoadHints(QLibrary::ResolveAllSymbolsHint | QLibrary::PreventUnloadHint);
-    const UIPluginMetaData metaData(loader.metaData(), loader.metaData().isEmpty() ? loader.errorString() : QString());
+    const UIPluginMetaData metaData(loader.metaData(),
+                                    loader.metaData().isEmpty() ? loader.errorString() : QString());
     report.title = metaData.Title();
     report.version = metaData.Version();
     report.id = metaData.Id();

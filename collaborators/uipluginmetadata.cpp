@@ -20,7 +20,8 @@ UIPluginMetaData::UIPluginMetaData(const QJsonObject &information, const QString
 QString UIPluginMetaData::Fault(const QSet<int> &takenIds) const
 {
     if (m_information.isEmpty())
-        return m_readError.isEmpty() ? tr("it is not a plug-in") : tr("it is not a plug-in: %1").arg(m_readError);
+        return m_readError.isEmpty() ? tr("it is not a plug-in")
+                                     : tr("it is not a plug-in: %1").arg(m_readError);
     const QString fault = InterfaceFault();
     if (!fault.isEmpty())
         return fault;

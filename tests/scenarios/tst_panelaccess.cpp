@@ -37,7 +37,8 @@ bool IsUsable(const QWidget *widget)
         || qobject_cast<const QHeaderView *>(widget))
         return false;
     if (qobject_cast<const QAbstractSpinBox *>(widget->parentWidget())
-        || qobject_cast<const QComboBox *>(widget->parentWidget()) || widget->window()->windowType() == Qt::Popup
+        || qobject_cast<const QComboBox *>(widget->parentWidget())
+        || widget->window()->windowType() == Qt::Popup
         || qobject_cast<const QLineEdit *>(widget->parentWidget())
         || qobject_cast<const QAbstractItemView *>(widget->parentWidget()))
         return false;
@@ -131,7 +132,8 @@ private slots:
     {
         OpenPicture();
         const QWidget *window = &m_workbench->window;
-        for (const char *name : { "pushButtonReturn", "pushButton2DHZoomIn", "pushButtonRotate90", "listPictures" })
+        for (const char *name :
+             { "pushButtonReturn", "pushButton2DHZoomIn", "pushButtonRotate90", "listPictures" })
             QVERIFY2(window->findChild<QWidget *>(name), name);
         QStringList nameless;
         for (const QWidget *widget : window->findChildren<QWidget *>()) {
@@ -223,7 +225,8 @@ private:
             QTest::keyClick(tabs->tabBar(), Qt::Key_Tab);
             QVERIFY2(QApplication::focusWidget() == stops.first(),
                      qPrintable(QString("%1: %2 instead of %3")
-                                    .arg(panel->objectName(), Caption(QApplication::focusWidget()), Caption(stops.first()))));
+                                    .arg(panel->objectName(), Caption(QApplication::focusWidget()),
+                                         Caption(stops.first()))));
             m_entered[panel->objectName()] = stops.first()->objectName();
         }
     }

@@ -223,7 +223,8 @@ private slots:
         auto *notice = m_workbench->window.findChild<QMessageBox *>("FaultNotice");
         for (const char *name : { FieldSource::CountName, FieldSource::CalibrationName }) {
             QVERIFY(!notice->isVisible());
-            FieldSource::Find(name)->Set("saveTable", m_folder->filePath(QString("no such folder/%1.csv").arg(name)));
+            FieldSource::Find(name)->Set("saveTable",
+                                         m_folder->filePath(QString("no such folder/%1.csv").arg(name)));
             QTRY_VERIFY2(notice->isVisible(), name);
             QVERIFY2(notice->text().contains(QString("%1.csv").arg(name)), qPrintable(notice->text()));
             notice->close();

@@ -151,8 +151,8 @@ void NavigationBarsTest::switchBarForm()
     QCOMPARE(names, QStringList({ "pushButtonShowFileDirTreeView", "pushButtonReturn", "pushButtonModifyDPI",
                                   "pushButtonConvertCSV" }));
     QCOMPARE(toolTips, QStringList({ "Show File Directory(Ctrl+P)", "", "Modify DPI", "Convert to CSV" }));
-    QCOMPARE(spokenNames,
-             QStringList({ "Show File Directory", "Back to the View Before", "Modify DPI", "Convert to CSV" }));
+    QCOMPARE(spokenNames, QStringList({ "Show File Directory", "Back to the View Before", "Modify DPI",
+                                        "Convert to CSV" }));
     const QSpacerItem *spacer = column->itemAt(4)->spacerItem();
     QVERIFY(spacer);
     QCOMPARE(spacer->sizeHint(), QSize(20, 40));

@@ -151,10 +151,10 @@ void TestViewToolBar::names()
     for (const QPushButton *button : bar.findChildren<QPushButton *>())
         names << button->accessibleName();
     names.sort();
-    QCOMPARE(names, QStringList({"1 : 1", "Black Background", "Close Compare", "Fit", "Full Screen",
-                                 "Hide the Tool Bar", "Horizontal Flip", "Image Crop", "Image Info",
-                                 "Rotate 90" + degree, "Save Image As...", "Show the Tool Bar", "Vertical Flip",
-                                 "Zoom In", "Zoom Out"}));
+    QCOMPARE(names, QStringList({ "1 : 1", "Black Background", "Close Compare", "Fit", "Full Screen",
+                                  "Hide the Tool Bar", "Horizontal Flip", "Image Crop", "Image Info",
+                                  "Rotate 90" + degree, "Save Image As...", "Show the Tool Bar",
+                                  "Vertical Flip", "Zoom In", "Zoom Out" }));
 }
 
 void TestViewToolBar::sizes_data()

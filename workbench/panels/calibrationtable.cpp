@@ -84,7 +84,8 @@ void CalibrationTable::Save(const QString &path)
 {
     m_writer.start([this, path, bytes = Csv()] {
         const QString fault = WriteWholeFile(path, bytes);
-        QMetaObject::invokeMethod(this, [this, path, fault] { Tell(path, fault); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this, path, fault] { Tell(path, fault); }, Qt::QueuedConnection);
     });
 }
 

@@ -83,7 +83,8 @@ FieldForm::FieldForm(FieldSource *source, const QString &absentText, QWidget *pa
 {
     m_fault->setObjectName("labelFault");
     m_fault->setWordWrap(true);
-    m_fault->setTextInteractionFlags(Qt::TextSelectableByMouse); // may have the focus: ChainTabOrder() wants that
+    m_fault->setTextInteractionFlags(
+        Qt::TextSelectableByMouse); // may have the focus: ChainTabOrder() wants that
     m_column->addWidget(m_fault);
     m_column->addStretch();
     if (!source)
@@ -160,7 +161,7 @@ void FieldForm::Build(const PanelFields &fields)
     for (const PanelField &field : fields)
         AddField(field);
     m_column->insertWidget(0, m_fields);
-    ChainTabOrder({m_fault, m_fields}); // the label has been at the place of the form from the beginning
+    ChainTabOrder({ m_fault, m_fields }); // the label has been at the place of the form from the beginning
     if (QWidget *widget = m_widgets.value(focused)) {
         m_fields->show(); // what is not seen takes no focus
         widget->setFocus();

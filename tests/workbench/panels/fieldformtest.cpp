@@ -236,7 +236,7 @@ void FieldFormTest::tabKeyFindsTheFieldsWhereTheFormStands()
     QLineEdit above;
     FieldForm form(&source, "absent");
     QLineEdit below;
-    for (QWidget *widget : QVector<QWidget *>{&above, &form, &below})
+    for (QWidget *widget : QVector<QWidget *>{ &above, &form, &below })
         column.addWidget(widget);
     window.show(); // the fields are made now
     window.activateWindow();
@@ -251,12 +251,14 @@ void FieldFormTest::tabKeyFindsTheFieldsWhereTheFormStands()
         }
         return names;
     };
-    QCOMPARE(passed(), QStringList({"numberWidth", "choiceMode", "textName", "textFolder", "chooseFolder", "actionBegin"}));
+    QCOMPARE(passed(), QStringList({ "numberWidth", "choiceMode", "textName", "textFolder", "chooseFolder",
+                                     "actionBegin" }));
     source.fields.remove(0);
     emit source.signalChanged();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QTRY_VERIFY(form.findChild<QComboBox *>("choiceMode")->isVisible());
-    QCOMPARE(passed(), QStringList({"choiceMode", "textName", "textFolder", "chooseFolder", "actionBegin"}));
+    QCOMPARE(passed(),
+             QStringList({ "choiceMode", "textName", "textFolder", "chooseFolder", "actionBegin" }));
     QVERIFY(below.hasFocus());
 }
 

@@ -50,7 +50,9 @@ private slots:
                                  << QStringList({"Report", "9", "", "Not loaded: no plug-in brings this panel", ""})
                                  << "Not loaded: no plug-in brings this panel";
         QTest::newRow("loaded for a tab that is nowhere")
-            << 4 << QStringList({"Rate", "100", "1.0", "Loaded, but not seen: no page has it", "/home/lab/plugins/camera/ui"})
+            << 4
+            << QStringList({ "Rate", "100", "1.0", "Loaded, but not seen: no page has it",
+                             "/home/lab/plugins/camera/ui" })
             << "/home/lab/plugins/camera/ui/rate.so\nLoaded, but not seen: no page has it";
     }
 
@@ -102,12 +104,14 @@ private slots:
 private:
     static QList<UIPluginReport> Reports()
     {
-        UIPluginReport unseen = Report("/home/lab/plugins/camera/ui/rate.so", 100, "Rate", "1.0", "no page has it");
+        UIPluginReport unseen =
+            Report("/home/lab/plugins/camera/ui/rate.so", 100, "Rate", "1.0", "no page has it");
         unseen.loaded = true;
-        return {Report("/opt/plugins/camera/ui/camerapanel.so", 0, "Camera", "1.0", ""),
-                Report("/home/lab/plugins/camera/ui/lamp.so", 0, "", "3.2", "another plug-in has the id 0 already"),
-                Report("/home/lab/plugins/camera/ui/text.so", -1, "", "", "it is not a plug-in"),
-                Report("", 9, "Report", "", "no plug-in brings this panel"), unseen};
+        return { Report("/opt/plugins/camera/ui/camerapanel.so", 0, "Camera", "1.0", ""),
+                 Report("/home/lab/plugins/camera/ui/lamp.so", 0, "", "3.2",
+                        "another plug-in has the id 0 already"),
+                 Report("/home/lab/plugins/camera/ui/text.so", -1, "", "", "it is not a plug-in"),
+                 Report("", 9, "Report", "", "no plug-in brings this panel"), unseen };
     }
 };
 
