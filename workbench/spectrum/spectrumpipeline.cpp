@@ -122,26 +122,6 @@ void SpectrumPipeline::SetExposure(double exposureUs)
     ChangeEngine([exposureUs](SpectrumEngine *engine) { engine->SetExposure(exposureUs); });
 }
 
-void SpectrumPipeline::SetDark(const Spectrum &dark)
-{
-    m_dark = dark;
-    ChangeEngine([dark](SpectrumEngine *engine) { engine->SetDark(dark); });
-}
-
-void SpectrumPipeline::SetReference(const Spectrum &reference)
-{
-    m_reference = reference;
-    ChangeEngine([reference](SpectrumEngine *engine) { engine->SetReference(reference); });
-}
-
-void SpectrumPipeline::Do(std::unique_ptr<QUndoCommand> step)
-{
-    if (m_undo)
-        m_undo->push(step.release()); // which does it
-    else
-        step->redo();
-}
-
 void SpectrumPipeline::FindBandAgain()
 {
     ChangeEngine([](SpectrumEngine *engine) { engine->FindBandAgain(); });
@@ -169,6 +149,26 @@ void SpectrumPipeline::SetLive(bool live)
     }
     if (isGivenUp)
         emit signalMessage(tr("There is no live picture to find tracks in."));
+}
+
+void SpectrumPipeline::SetDark(const Spectrum &dark)
+{
+    m_dark = dark;
+    ChangeEngine([dark](SpectrumEngine *engine) { engine->SetDark(dark); });
+}
+
+void SpectrumPipeline::SetReference(const Spectrum &reference)
+{
+    m_reference = reference;
+    ChangeEngine([reference](SpectrumEngine *engine) { engine->SetReference(reference); });
+}
+
+void SpectrumPipeline::Do(std::unique_ptr<QUndoCommand> step)
+{
+    if (m_undo)
+        m_undo->push(step.release()); // which does it
+    else
+        step->redo();
 }
 
 void SpectrumPipeline::ChangeEngine(const std::function<void(SpectrumEngine *)> &change)
