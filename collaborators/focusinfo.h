@@ -37,7 +37,8 @@ public:
     /// One entry of each list per line; rectangles and points in picture pixels, angles in degrees.
     void AddFocusInfo(QList<QRect> rectangles, QList<QPoint> points, QList<float> distances,
                       QList<float> angles);
-    /// The band between two rows (y of the two points); `movable` lets the user drag its edges.
+    /// The band between two rows (y of the two points), or between two columns of a spectrum that runs along them;
+    /// `movable` lets the user drag its edges.
     void AddFVBInfo(QList<QPointF> endPoints, bool movable);
     void AddMultiTrackInfo(QList<QRectF> tracks);
     /// Which marks of the spectral lines are shown: 0 all, 1 rectangles, 2 lines.

@@ -2,6 +2,7 @@
 #include "fvbline.h"
 
 #include "globalclass.h"
+#include "spectrumuimanager.h"
 
 #include <QCursor>
 #include <QGraphicsScene>
@@ -10,13 +11,23 @@
 #include <QPainter>
 
 namespace {
+
 constexpr int EdgeReachSize = 5; // design pixels, to each side of an edge
-}
+
+/// A spectrum along the columns is made of columns: the edges stand upright then.
+bool IsUpright() { return !SpectrumUIManager::GetInstance()->IsDirectionHorinzontal(); }
+
+/// The row there, or the column.
+qreal LineAt(const QPointF &scenePos) { return IsUpright() ? scenePos.x() : scenePos.y(); }
+
+} // namespace
 
 FVBLine::FVBLine()
 {
     hide();
     UpdateMouse();
+    connect(SpectrumUIManager::GetInstance(), SIGNAL(signalDisplayModePropertyChange()), this,
+            SLOT(slotDirectionChanged()));
 }
 
 void FVBLine::Retire()
@@ -45,27 +56,28 @@ QPainterPath FVBLine::shape() const
     const qreal reach = EdgeReach();
     QPainterPath edges;
     edges.setFillRule(Qt::WindingFill);
-    edges.addRect(m_picture.left(), m_top - reach, m_picture.width(), 2 * reach);
-    edges.addRect(m_picture.left(), m_bottom - reach, m_picture.width(), 2 * reach);
+    edges.addRect(Part(m_top - reach, m_top + reach));
+    edges.addRect(Part(m_bottom - reach, m_bottom + reach));
     return edges;
 }
 
 void FVBLine::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
-    painter->fillRect(QRectF(m_picture.left(), m_top, m_picture.width(), m_bottom - m_top),
-                      QColor(0, 160, 255, 40));
+    const QRectF band = Part(m_top, m_bottom);
+    painter->fillRect(band, QColor(0, 160, 255, 40));
     QPen pen(m_manual ? Qt::yellow : Qt::cyan);
     pen.setCosmetic(true);
     painter->setPen(pen);
-    painter->drawLine(QPointF(m_picture.left(), m_top), QPointF(m_picture.right(), m_top));
-    painter->drawLine(QPointF(m_picture.left(), m_bottom), QPointF(m_picture.right(), m_bottom));
+    const bool upright = IsUpright();
+    painter->drawLine(band.topLeft(), upright ? band.bottomLeft() : band.topRight());
+    painter->drawLine(upright ? band.topRight() : band.bottomLeft(), band.bottomRight());
 }
 
 void FVBLine::SetFVBArea(QPointF first, QPointF second)
 {
     if (!m_active)
         return;
-    SetRows(int(qMin(first.y(), second.y())), int(qMax(first.y(), second.y())));
+    SetLines(int(qMin(first.y(), second.y())), int(qMax(first.y(), second.y())));
 }
 
 void FVBLine::SlotFVBManualFlagChanged(bool manual)
@@ -83,19 +95,20 @@ void FVBLine::SlotFVBSpeedingFlagChanged(bool speeding)
 
 void FVBLine::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
-    const qreal toTop = qAbs(event->scenePos().y() - m_top);
-    const qreal toBottom = qAbs(event->scenePos().y() - m_bottom);
+    const qreal toTop = qAbs(LineAt(event->scenePos()) - m_top);
+    const qreal toBottom = qAbs(LineAt(event->scenePos()) - m_bottom);
     m_dragged = toTop < toBottom ? Edge::Top : Edge::Bottom;
 }
 
 void FVBLine::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
-    const qreal lastRow = m_picture.bottom() - 1;
-    const int row = qRound(qBound(m_picture.top(), event->scenePos().y(), lastRow));
+    const qreal first = LineAt(m_picture.topLeft());
+    const qreal last = LineAt(m_picture.bottomRight()) - 1;
+    const int line = qRound(qBound(first, LineAt(event->scenePos()), last));
     if (m_dragged == Edge::Top)
-        SetRows(qMin(row, m_bottom), m_bottom);
+        SetLines(qMin(line, m_bottom), m_bottom);
     else if (m_dragged == Edge::Bottom)
-        SetRows(m_top, qMax(row, m_top));
+        SetLines(m_top, qMax(line, m_top));
 }
 
 void FVBLine::mouseReleaseEvent(QGraphicsSceneMouseEvent *)
@@ -121,14 +134,28 @@ void FVBLine::slotSceneRectChanged(QRectF sceneRect)
     m_picture = sceneRect;
 }
 
+void FVBLine::slotDirectionChanged()
+{
+    UpdateMouse();
+    update();
+}
+
+QRectF FVBLine::Part(qreal from, qreal to) const
+{
+    if (IsUpright())
+        return QRectF(from, m_picture.top(), to - from, m_picture.height());
+    return QRectF(m_picture.left(), from, m_picture.width(), to - from);
+}
+
 qreal FVBLine::EdgeReach() const
 {
     const QList<QGraphicsView *> views = scene() ? scene()->views() : QList<QGraphicsView *>();
-    const qreal scale = views.isEmpty() ? 1.0 : views.first()->transform().m22();
+    const QTransform zoom = views.isEmpty() ? QTransform() : views.first()->transform();
+    const qreal scale = IsUpright() ? zoom.m11() : zoom.m22();
     return GlobalClass::GetActualSize(EdgeReachSize) / (scale > 0.0 ? scale : 1.0);
 }
 
-void FVBLine::SetRows(int top, int bottom)
+void FVBLine::SetLines(int top, int bottom)
 {
     m_top = top;
     m_bottom = bottom;
@@ -140,7 +167,7 @@ void FVBLine::UpdateMouse()
     const bool movable = m_manual && !m_speeding;
     setAcceptedMouseButtons(movable ? Qt::LeftButton : Qt::NoButton);
     if (movable)
-        setCursor(Qt::SizeVerCursor);
+        setCursor(IsUpright() ? Qt::SizeHorCursor : Qt::SizeVerCursor);
     else
         unsetCursor();
 }

@@ -5,7 +5,8 @@
 #include <QPointF>
 
 /// The FVB band: the rows of the picture that are binned into one line, between a top and a bottom
-/// edge. The user may drag the edges when the band is set by hand. The scene owns it.
+/// edge; its columns, when the spectrum runs along them. The user may drag the edges when the band is
+/// set by hand. The scene owns it.
 class FVBLine : public QGraphicsObject
 {
     Q_OBJECT
@@ -23,7 +24,7 @@ public:
     void paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *widget) override;
 
 public slots:
-    /// The y of each point is a row; they may come in either order.
+    /// The y of each point is a row, or the column; they may come in either order.
     void SetFVBArea(QPointF first, QPointF second);
     /// Only a band set by hand can be dragged.
     void SlotFVBManualFlagChanged(bool manual);
@@ -31,7 +32,7 @@ public slots:
     void SlotFVBSpeedingFlagChanged(bool speeding);
 
 signals:
-    /// The user has dragged an edge; rows of the picture.
+    /// The user has dragged an edge; rows of the picture, or columns.
     void SignalTopBottomChanged(int top, int bottom);
 
 protected:
@@ -42,13 +43,17 @@ protected:
 
 private slots:
     void slotSceneRectChanged(QRectF sceneRect);
+    /// Rows may have become columns.
+    void slotDirectionChanged();
 
 private:
     enum class Edge { None, Top, Bottom };
 
     /// Reach of an edge in picture pixels.
     qreal EdgeReach() const;
-    void SetRows(int top, int bottom);
+    /// The part of the picture from one row to another, or from one column.
+    QRectF Part(qreal from, qreal to) const;
+    void SetLines(int top, int bottom);
     void UpdateMouse();
 
     QRectF m_picture;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "guardedtest.h"
 
+#include "fakespectrumuimanager.h"
 #include "focusinfo.h"
 
 #include <QGraphicsItem>
@@ -66,6 +67,7 @@ private:
     int TextRows() const;
     QGraphicsObject *Line(const FocusInfo &info) const;
 
+    const FakeSpectrumUIManager m_settings;
     std::unique_ptr<QGraphicsScene> m_scene;
     std::unique_ptr<QGraphicsView> m_view;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "guardedtest.h"
 
+#include "fakespectrumuimanager.h"
 #include "focusinfo.h"
 
 #include <QGraphicsView>
@@ -45,8 +46,13 @@ private slots:
     void ABandThatIsNotManualStays_data();
     void ABandThatIsNotManualStays();
     void ARetiredBandStaysAway();
+    void TheBandOfAnUprightSpectrumLiesBetweenColumns();
+    void AnUprightEdgeIsDragged_data();
+    void AnUprightEdgeIsDragged();
+    void TheDirectionTurnsTheBand();
 
 private:
+    FakeSpectrumUIManager m_settings;
     std::unique_ptr<QGraphicsScene> m_scene;
     std::unique_ptr<QGraphicsView> m_view;
 };
@@ -54,6 +60,7 @@ private:
 void TestFVBLine::init()
 {
     StartGuard();
+    m_settings.directionHorinzontal = true;
     m_scene = std::make_unique<QGraphicsScene>(QRectF(0, 0, 400, 300));
     m_scene->setBackgroundBrush(Qt::black);
     m_view = std::make_unique<QGraphicsView>(m_scene.get());
@@ -172,6 +179,68 @@ void TestFVBLine::ARetiredBandStaysAway()
     QVERIFY(!band->isVisible());
     info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, true);
     QVERIFY(band->isVisible());
+}
+
+void TestFVBLine::TheBandOfAnUprightSpectrumLiesBetweenColumns()
+{
+    m_settings.directionHorinzontal = false;
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    QGraphicsObject *band = Band(info);
+    info.AddFVBInfo({QPointF(0, 340.2), QPointF(0, 40.7)}, false); // beyond the last row
+    QVERIFY(band->shape().contains(QPointF(40, 150)));
+    QVERIFY(band->shape().contains(QPointF(340, 150)));
+    QVERIFY(!band->shape().contains(QPointF(200, 40)));
+    const QImage picture = m_view->grab().toImage();
+    for (const int row : {2, 150, 297}) {
+        QVERIFY(picture.pixelColor(200, row) != QColor(Qt::black));
+        QCOMPARE(picture.pixelColor(20, row), QColor(Qt::black));
+        QCOMPARE(picture.pixelColor(360, row), QColor(Qt::black));
+        QCOMPARE(picture.pixelColor(40, row), QColor(Qt::cyan));
+        QCOMPARE(picture.pixelColor(340, row), QColor(Qt::cyan));
+    }
+}
+
+void TestFVBLine::AnUprightEdgeIsDragged_data()
+{
+    QTest::addColumn<QPointF>("from");
+    QTest::addColumn<QPointF>("to");
+    QTest::addColumn<int>("top");
+    QTest::addColumn<int>("bottom");
+    QTest::newRow("first") << QPointF(101, 200) << QPointF(60, 220) << 60 << 320;
+    QTest::newRow("last") << QPointF(319, 200) << QPointF(350, 200) << 100 << 350;
+    QTest::newRow("last, out of the picture") << QPointF(320, 200) << QPointF(440, 200) << 100 << 399;
+    QTest::newRow("first, out of the picture") << QPointF(100, 200) << QPointF(-40, 200) << 0 << 320;
+    QTest::newRow("first, beyond the last") << QPointF(100, 200) << QPointF(350, 200) << 320 << 320;
+}
+
+void TestFVBLine::AnUprightEdgeIsDragged()
+{
+    QFETCH(QPointF, from);
+    QFETCH(QPointF, to);
+    QFETCH(int, top);
+    QFETCH(int, bottom);
+    m_settings.directionHorinzontal = false;
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    info.AddFVBInfo({QPointF(0, 100), QPointF(0, 320)}, true);
+    QSignalSpy changes(Band(info), SIGNAL(SignalTopBottomChanged(int, int)));
+    DragInView(m_view.get(), from, to);
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(changes.first(), QList<QVariant>({top, bottom}));
+}
+
+void TestFVBLine::TheDirectionTurnsTheBand()
+{
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    info.AddFVBInfo({QPointF(0, 100), QPointF(0, 200)}, true);
+    QGraphicsObject *band = Band(info);
+    QCOMPARE(band->cursor().shape(), Qt::SizeVerCursor);
+    QCOMPARE(m_view->grab().toImage().pixelColor(300, 100), QColor(Qt::yellow));
+    m_settings.directionHorinzontal = false;
+    emit m_settings.signalDisplayModePropertyChange();
+    QCOMPARE(band->cursor().shape(), Qt::SizeHorCursor);
+    const QImage picture = m_view->grab().toImage();
+    QCOMPARE(picture.pixelColor(300, 100), QColor(Qt::black));
+    QCOMPARE(picture.pixelColor(100, 290), QColor(Qt::yellow));
 }
 
 GUARDED_TEST_MAIN(TestFVBLine)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "camerasession.h"
+#include "livepreview.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
 #include "plotpicture.h"
@@ -16,16 +17,19 @@
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QGraphicsSimpleTextItem>
+#include <QGraphicsObject>
 #include <QGraphicsView>
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QMutexLocker>
+#include <QScrollBar>
 
 #include <qcustomplot.h>
 #include <qwt3d_surfaceplot.h>
 
 #include <cmath>
+#include <numeric>
 
 namespace {
 
@@ -75,6 +79,88 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(double(drawn), made, waitMs);
         disconnect(Spectra(), nullptr, this, nullptr);
         m_workbench->Action("Off")->trigger();
+    }
+
+    /// A spectrum along the columns has a band of columns, on a picture that is wider than high.
+    void theBandOfAnUprightSpectrumIsDraggedOverColumns()
+    {
+        constexpr int firstRow = 300;
+        m_workbench->Action("Curve")->trigger(); // the spectrum pages are used from now on
+        m_workbench->Action("Picture")->trigger();
+        m_workbench->link.SetRegion(QRect(0, firstRow, 2048, 512));
+        m_workbench->Action("Vertical")->trigger();
+        m_workbench->Action("Band by Hand")->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().frameSize, QSize(2048, 512), waitMs);
+        SpectrumSettings *settings = m_workbench->services.Spectrum();
+        settings->SetBottom(2047);
+        QTRY_VERIFY(Band() && Band()->shape().contains(QPointF(2047, 5)));
+        Drag(QPointF(0, 200), QPointF(540, 300));
+        QTRY_VERIFY(std::abs(settings->GetTop() - 540) <= Reach());
+        Drag(QPointF(2045, 200), QPointF(1500, 100));
+        QTRY_VERIFY(std::abs(settings->GetBottom() - 1500) <= Reach());
+        QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().band.top, settings->GetTop(), waitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().band.bottom, settings->GetBottom() + 1, waitMs);
+        SavePicture("columns-by-hand.png");
+
+        // One frame whose picture and whose spectrum are both there: its columns were summed.
+        std::vector<double> sums;
+        std::vector<double> made;
+        connect(Spectra(), &SpectrumPipeline::signalSpectrumShown, this, [&] {
+            const CameraFrame &frame = m_workbench->services.Preview()->ShownFrame();
+            const SpectrumProduct &product = Spectra()->Shown();
+            if (!made.empty() || frame.frameId != product.frameId)
+                return;
+            sums = SumsOfColumns(frame, product.band.top, product.band.bottom);
+            made = product.raw.values;
+        });
+        QTRY_VERIFY_WITH_TIMEOUT(!made.empty(), waitMs);
+        disconnect(Spectra(), nullptr, this, nullptr);
+        QCOMPARE(made.size(), size_t(512));
+        QCOMPARE(made, sums);
+
+        // Over the rows the curve has the fibre that lies in the region.
+        m_workbench->Action("Curve")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot() && Plot()->graph(0)->dataCount() == 512, waitMs);
+        SavePicture("upright-curve.png");
+        const auto curve = Plot()->graph(0)->data();
+        const auto lower = [](const QCPGraphData &a, const QCPGraphData &b) { return a.value < b.value; };
+        const double brightest = std::max_element(curve->constBegin(), curve->constEnd(), lower)->key;
+        QVERIFY2(std::abs(brightest - (truth.TrackCentre(0) - firstRow)) < 60, qPrintable(QString::number(brightest)));
+        QTRY_COMPARE(Plot()->xAxis->range().upper, 511.0);
+
+        // The band that is found is one of columns too: there is light at the green line.
+        m_workbench->Action("Picture")->trigger();
+        m_workbench->Action("Band Found by Itself")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Spectra()->Shown().band.bottom - Spectra()->Shown().band.top < 400, waitMs);
+        const RowBand found = Spectra()->Shown().band;
+        QTRY_VERIFY(Band() && Band()->shape().contains(QPointF(found.top, 5)));
+        QVERIFY(Band()->shape().contains(QPointF(found.bottom - 1, 500)));
+        SavePicture("columns-found.png");
+    }
+
+    /// Across the tracks the curve has one value of each, and the bar goes over the columns.
+    void theCurveGoesAcrossTheTracks()
+    {
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("Find Tracks")->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().tracks.size(), size_t(3), waitMs);
+        m_workbench->Action("Vertical")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot() && Plot()->graph(0)->dataCount() == 3, waitMs);
+        auto *bar = Plot()->parentWidget()->findChild<QScrollBar *>(QString(), Qt::FindDirectChildrenOnly);
+        QVERIFY(bar && bar->isVisible());
+        QCOMPARE(bar->maximum(), 2048);
+        const int green = qRound(truth.LinePosition(546.075, truth.TrackCentre(1)));
+        bar->setValue(green);
+        const auto isColumn = [&] {
+            for (int track = 0; track < 3; ++track) {
+                const double made = std::floor(Spectra()->Shown().tracks[size_t(track)].values[size_t(green)] + 0.5);
+                if (Plot()->graph(0)->data()->at(track)->value != made)
+                    return false;
+            }
+            return true;
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(isColumn(), waitMs);
+        SavePicture("across-tracks.png");
     }
 
     void tracksAreDrawnMovedResizedAndRemoved()
@@ -212,6 +298,29 @@ private slots:
 
 private:
     SpectrumPipeline *Spectra() const { return m_workbench->services.Spectra(); }
+
+    QCustomPlot *Plot() const { return qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())); }
+
+    /// The mark on the live picture; null without one.
+    const QGraphicsObject *Band() const
+    {
+        for (QGraphicsItem *item : m_workbench->View()->scene()->items()) {
+            const QGraphicsObject *object = item->toGraphicsObject();
+            if (object && object->inherits("FVBLine") && object->isVisible())
+                return object;
+        }
+        return nullptr;
+    }
+
+    static std::vector<double> SumsOfColumns(const CameraFrame &frame, int from, int to)
+    {
+        std::vector<double> sums;
+        for (int y = 0; y < frame.height; ++y) {
+            const auto *row = reinterpret_cast<const quint16 *>(frame.Row(y));
+            sums.push_back(std::accumulate(row + from, row + to, 0.0));
+        }
+        return sums;
+    }
 
     QList<QRectF> Tracks() const { return m_workbench->services.Spectrum()->GetMultiTrackList(); }
 
