@@ -64,6 +64,7 @@ void SpectrometerMenu::AddBinning()
                                 m_settings->SetBinnedRows(BinnedRows(rows));
                             m_settings->SetFVBOnFlag(rows != binningOff);
                         });
+    m_allRows = m_rows->actions().at(1);
     menu->addSeparator();
     menu->addAction(tr("Find the Band Aga&in"), this, [this] { m_services->Spectra()->FindBandAgain(); });
     QMenu *directions = addMenu(tr("&Direction"));
@@ -188,6 +189,7 @@ void SpectrometerMenu::slotUpdate()
     const SpectrumRecipe &recipe = m_settings->Recipe();
     Check(m_modes, int(m_settings->Mode()));
     Check(m_rows, recipe.isBinning ? int(recipe.rows) : binningOff);
+    m_allRows->setText(recipe.isHorizontal ? tr("&All Rows") : tr("&All Columns"));
     Check(m_directions, recipe.isHorizontal ? 1 : 0);
     Check(m_quantities, int(recipe.corrections.quantity));
     Check(m_averages, recipe.corrections.averaged);

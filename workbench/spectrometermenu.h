@@ -42,6 +42,7 @@ private:
     SpectrumSettings *m_settings;
     QActionGroup *m_modes = nullptr;
     QActionGroup *m_rows = nullptr;
+    QAction *m_allRows = nullptr; ///< one of them
     QActionGroup *m_directions = nullptr;
     QActionGroup *m_quantities = nullptr;
     QActionGroup *m_averages = nullptr;

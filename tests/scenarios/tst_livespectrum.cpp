@@ -89,6 +89,7 @@ private slots:
         m_workbench->Action("Picture")->trigger();
         m_workbench->link.SetRegion(QRect(0, firstRow, 2048, 512));
         m_workbench->Action("Vertical")->trigger();
+        QVERIFY(m_workbench->Action("All Columns"));
         m_workbench->Action("Band by Hand")->trigger();
         QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().frameSize, QSize(2048, 512), waitMs);
         SpectrumSettings *settings = m_workbench->services.Spectrum();

@@ -74,7 +74,7 @@ void SpectrumFields::slotSpectrumShown()
     const bool isSaturated = IsSaturated();
     const bool isMissedNews = IsMissedNews();
     if (!isMissedNews && m_corrections == corrections && m_samples == product.raw.Count() && m_rows == product.frameSize.height()
-        && m_isSaturated == isSaturated)
+        && m_linesAcross == m_settings->LinesAcross() && m_isSaturated == isSaturated)
         return;
     if (isMissedNews) {
         m_missed = m_spectra->Ledger().missed;
@@ -84,6 +84,7 @@ void SpectrumFields::slotSpectrumShown()
     m_corrections = corrections;
     m_samples = product.raw.Count();
     m_rows = product.frameSize.height();
+    m_linesAcross = m_settings->LinesAcross();
     emit signalChanged();
 }
 
@@ -128,12 +129,14 @@ void SpectrumFields::AddBinning(PanelFields &fields) const
     const int first = fields.size();
     const SpectrumRecipe &recipe = m_settings->Recipe();
     const bool isManual = recipe.isBinning && recipe.rows == BinnedRows::Manual;
-    const double last = qMax(m_rows - 1, qMax(recipe.top, recipe.bottom));
-    fields << PanelField::MakeChoice("binning", tr("Rows"), BinningOf(recipe),
-                                     {tr("off"), tr("all rows"), tr("band found by itself"), tr("band by hand")});
-    fields << PanelField::MakeNumber("top", tr("First row"), recipe.top, 0, last);
+    const bool isOfRows = recipe.isHorizontal;
+    const double last = qMax(m_settings->LinesAcross() - 1, qMax(recipe.top, recipe.bottom));
+    fields << PanelField::MakeChoice("binning", isOfRows ? tr("Rows") : tr("Columns"), BinningOf(recipe),
+                                     {tr("off"), isOfRows ? tr("all rows") : tr("all columns"), tr("band found by itself"),
+                                      tr("band by hand")});
+    fields << PanelField::MakeNumber("top", isOfRows ? tr("First row") : tr("First column"), recipe.top, 0, last);
     fields.last().isEnabled = isManual;
-    fields << PanelField::MakeNumber("bottom", tr("Last row"), recipe.bottom, 0, last);
+    fields << PanelField::MakeNumber("bottom", isOfRows ? tr("Last row") : tr("Last column"), recipe.bottom, 0, last);
     fields.last().isEnabled = isManual;
     fields << PanelField::MakeAction("findBand", tr("Find the Band Again"),
                                      recipe.isBinning && recipe.rows == BinnedRows::Auto);

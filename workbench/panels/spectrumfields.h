@@ -59,5 +59,6 @@ private:
     int m_rows = 0;        ///< of its frame
     quint64 m_missed = 0;  ///< frames that no spectrum was made of, as it was told last
     QElapsedTimer m_sinceMissed; ///< was told
+    int m_linesAcross = 0; ///< as they were told last
     bool m_isSaturated = false; ///< some value of it, or of the tracks
 };

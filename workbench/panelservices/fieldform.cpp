@@ -153,6 +153,7 @@ void FieldForm::Build(const PanelFields &fields)
         m_fields->deleteLater(); // one of its widgets may be what asked for this
     }
     m_widgets.clear();
+    m_labels.clear();
     m_form = nullptr;
     m_shape = Shape(fields);
     m_fields = new QWidget(this);
@@ -192,8 +193,10 @@ void FieldForm::AddField(const PanelField &field)
     row->addWidget(widget, 1);
     const bool hasLabel = field.kind != PanelField::Kind::Check && field.kind != PanelField::Kind::Action;
     m_form->addRow(hasLabel ? WithoutMnemonic(field.text) : QString(), row);
-    if (auto *label = qobject_cast<QLabel *>(m_form->labelForField(row))) // none for an empty text
+    if (auto *label = qobject_cast<QLabel *>(m_form->labelForField(row))) { // none for an empty text
         label->setBuddy(widget);
+        m_labels.insert(field.key, label);
+    }
 }
 
 QWidget *FieldForm::MakeWidget(const PanelField &field)
@@ -265,7 +268,6 @@ QWidget *FieldForm::MakeNumber(const PanelField &field)
     box->setSuffix(field.unit);
     TakeWheelWithFocusOnly(box);
     box->setSpecialValueText(field.zeroText);
-    box->setAccessibleName(WithoutMnemonic(field.text));
     connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
             [this, key = field.key](double value) { Send(key, value); });
     return box;
@@ -275,7 +277,6 @@ QWidget *FieldForm::MakeChoice(const PanelField &field)
 {
     auto *box = new QComboBox(m_fields);
     box->setObjectName(ObjectName("choice", field.key));
-    box->setAccessibleName(WithoutMnemonic(field.text));
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     TakeWheelWithFocusOnly(box);
     connect(box, QOverload<int>::of(&QComboBox::activated), this,
@@ -322,16 +323,20 @@ void FieldForm::ShowField(const PanelField &field)
     QWidget *widget = m_widgets.value(field.key);
     widget->setEnabled(field.isEnabled);
     widget->setToolTip(ToolTip(field));
+    if (QLabel *label = m_labels.value(field.key))
+        label->setText(WithoutMnemonic(field.text));
     const QSignalBlocker blocker(widget);
     switch (field.kind) {
     case PanelField::Kind::Number: {
         auto *box = static_cast<NumberBox *>(widget);
+        box->setAccessibleName(WithoutMnemonic(field.text));
         box->setSingleStep(field.step);
         box->Show(field.minimum, field.maximum, field.value.toDouble());
         break;
     }
     case PanelField::Kind::Choice: {
         auto *box = static_cast<QComboBox *>(widget);
+        box->setAccessibleName(WithoutMnemonic(field.text));
         FillChoices(box, field.choices);
         box->setCurrentIndex(field.value.toInt());
         break;

@@ -58,4 +58,5 @@ private:
     QLabel *m_fault;
     QStringList m_shape; ///< key and kind of each field that has a widget
     QHash<QString, QWidget *> m_widgets;
+    QHash<QString, QLabel *> m_labels; ///< of those that have one
 };

@@ -28,6 +28,8 @@ public:
 
     const SpectrumRecipe &Recipe() const { return m_recipe; }
     void SetBinnedRows(BinnedRows rows);
+    /// Of the live picture, across the spectrum: its rows or its columns; 0 before there is one.
+    int LinesAcross() const;
     /// Refused, in words, while the plot is shown and has no room for all tracks in that direction.
     void SetHorizontal(bool horizontal);
     /// Replaces the list; refused, in words, when it is empty, overlaps or leaves the frame.
@@ -140,8 +142,6 @@ private:
     RulerRange SpectralPixels(const Area &area) const;
     /// Null where a ruler has to count pixels.
     std::optional<RulerRange> SpectralValues(const Area &area) const;
-    /// Of the picture, across the spectrum.
-    int LinesAcross() const;
     /// True when the band set by hand had to become another one; the user is told.
     bool KeepBandInPicture();
     int MostTracks(bool horizontal) const;

@@ -71,6 +71,7 @@ private slots:
     void fieldsAreShownInOrder();
     void whatIsSetIsPassedOn();
     void valuesFollowAndWidgetsStay();
+    void namesFollowAndWidgetsStay();
     void emptiedLineIsFilledWhenTheEditingIsFinished();
     void wheelChangesOnlyWhatHasTheFocus();
     void otherFieldsMakeOtherWidgets();
@@ -166,6 +167,27 @@ void FieldFormTest::valuesFollowAndWidgetsStay()
     source.fields[3].value = "yours";
     emit source.signalChanged();
     QCOMPARE(name->text(), QString("yours"));
+}
+
+void FieldFormTest::namesFollowAndWidgetsStay()
+{
+    Recorder source("test");
+    FieldForm form(&source, "absent");
+    form.show();
+    auto *number = form.findChild<NumberBox *>("numberWidth");
+    auto *choice = form.findChild<QComboBox *>("choiceMode");
+    source.fields[0].text = "&Columns";
+    source.fields[1].text = "Side";
+    emit source.signalChanged();
+    QCOMPARE(form.findChild<NumberBox *>("numberWidth"), number);
+    QCOMPARE(number->accessibleName(), QString("Columns"));
+    QCOMPARE(choice->accessibleName(), QString("Side"));
+    QStringList names;
+    for (const QLabel *label : form.findChildren<QLabel *>()) {
+        if (label->buddy() == number || label->buddy() == choice)
+            names << label->text();
+    }
+    QCOMPARE(names, QStringList({"Columns", "Side"}));
 }
 
 void FieldFormTest::emptiedLineIsFilledWhenTheEditingIsFinished()

@@ -120,6 +120,38 @@ private slots:
         QVERIFY(!Field("findBand").isEnabled);
     }
 
+    void columnsAreBinnedOfASpectrumAlongThem()
+    {
+        m_fields->Set("binning", 3);
+        QCOMPARE(Field("bottom").maximum, double(Height - 1));
+        QCOMPARE(Field("binning").text, QString("Rows"));
+        QCOMPARE(Field("binning").choices.value(1), QString("all rows"));
+        QCOMPARE(Field("top").text, QString("First row"));
+        QCOMPARE(Field("bottom").text, QString("Last row"));
+
+        m_fields->Set("direction", 1);
+        QCOMPARE(Field("binning").text, QString("Columns"));
+        QCOMPARE(Field("binning").choices.value(1), QString("all columns"));
+        QCOMPARE(Field("top").text, QString("First column"));
+        QCOMPARE(Field("bottom").text, QString("Last column"));
+        m_fields->Set("bottom", 30);
+        for (const char *key : {"top", "bottom"})
+            QCOMPARE(Field(key).maximum, double(Width - 1));
+        m_fields->Set("bottom", 180);
+        QCOMPARE(m_settings->GetBottom(), 180);
+
+        m_settings->slotSetFrameSize(QSize(100, Height));
+        QSignalSpy changes(m_fields.get(), SIGNAL(signalChanged()));
+        m_spectra->OnFrame(Frame(1, 50));
+        QVERIFY(changes.wait());
+        QCOMPARE(Field("bottom").maximum, 99.0);
+
+        // Tracks stay rows.
+        m_fields->Set("addTrack", QVariant());
+        QTRY_COMPARE(Field("trackBottom").maximum, double(Height - 1));
+        QCOMPARE(Field("trackTop").text, QString("Its first row"));
+    }
+
     void tracksThatAreNotThereAreRefusedInWords()
     {
         QVERIFY(!Field("showTracks").isEnabled);
