@@ -162,10 +162,13 @@ void Spectrum2DDrawFrameBase::AutoRange()
         m_peakMarkers->Remove();
     // Ranging again what nobody has zoomed since doesn't add blank space to blank space.
     QCPAxis *axis = m_plot->yAxis;
-    if (axis->range() == m_autoRange)
-        axis->setRange(m_autoRangeOfCurve);
+    const bool wasRanged = axis->range() == m_autoRange;
+    if (wasRanged)
+        axis->setRange(m_autoRangeOfCurve); // not that of a flat curve, which has no height
     m_plot->graph(0)->rescaleAxes(true);
     qDebug("custom plot range[%lf, %lf]", axis->range().lower, axis->range().upper);
+    if (wasRanged && m_autoRangeOfCurve.size() <= 0.0 && axis->range() == m_autoRange)
+        return;
     m_autoRangeOfCurve = axis->range();
     LeaveBlankAbove();
     m_autoRange = axis->range();

@@ -103,7 +103,7 @@ private:
     std::vector<int> m_peaks; ///< indices of samples
     std::array<unsigned int, 20> m_trackColumn{};
     RangeHistory m_rangeHistory;
-    QCPRange m_autoRange;        ///< the value axis as AutoRange() left it
+    QCPRange m_autoRange;        ///< the value axis as it was ranged last, not zoomed by the user
     QCPRange m_autoRangeOfCurve; ///< the same without the blank space
 
     // Plot pixels. The tracer stands where the mouse was released last.

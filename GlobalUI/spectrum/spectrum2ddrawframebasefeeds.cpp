@@ -187,5 +187,7 @@ void Spectrum2DDrawFrameBase::SetRangesOfCurve()
     m_plot->yAxis->setRange(m_samples.Minimum(),
                             UpperWithBlank(m_samples.Maximum(), settings->GetBlankRatio()));
     m_plot->graph(0)->rescaleAxes(true);
+    m_autoRange = m_plot->yAxis->range();
+    m_autoRangeOfCurve = QCPRange(m_autoRange.lower, m_samples.Maximum());
     m_resetFlag = false;
 }

@@ -77,6 +77,28 @@ void PlotPage::DrawLine(const Values &values)
     page->SlotUpdateFVB(payload.Param());
 }
 
+void PlotPage::Send(QEvent::Type type, const QPointF &pos) const
+{
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, pos, button, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(plot, &event);
+}
+
+QPoint PlotPage::PixelOf(double x) const
+{
+    return QPoint(qRound(plot->xAxis->coordToPixel(x)), plot->axisRect()->center().y());
+}
+
+void PlotPage::Drag(double from, double to) const { Drag(PixelOf(from), PixelOf(to)); }
+
+void PlotPage::Drag(const QPoint &from, const QPoint &to) const
+{
+    Send(QEvent::MouseButtonPress, from);
+    Send(QEvent::MouseMove, to);
+    Send(QEvent::MouseButtonRelease, to);
+    plot->replot();
+}
+
 QVector<double> PlotPage::Keys() const
 {
     QVector<double> keys;

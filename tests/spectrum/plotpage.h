@@ -63,6 +63,13 @@ public:
     void SetOtherMode();
     /// A new FVB line, as many values as the frame is then wide.
     void DrawLine(const Values &values);
+    /// A mouse event at a place of the plot.
+    void Send(QEvent::Type type, const QPointF &pos) const;
+    /// Where an x of the plot is, in the middle of its height.
+    QPoint PixelOf(double x) const;
+    /// With the left button from one x to another.
+    void Drag(double from, double to) const;
+    void Drag(const QPoint &from, const QPoint &to) const;
 
     QVector<double> Keys() const;
     QVector<double> DrawnValues() const;

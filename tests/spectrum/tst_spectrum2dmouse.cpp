@@ -12,30 +12,10 @@ Values HundredSamples()
     return values;
 }
 
-void Send(const PlotPage &page, QEvent::Type type, const QPointF &pos)
-{
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, pos, button, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(page.plot, &event);
-}
-
-QPoint PixelOf(const PlotPage &page, double x)
-{
-    return QPoint(qRound(page.plot->xAxis->coordToPixel(x)), page.plot->axisRect()->center().y());
-}
-
-void Drag(const PlotPage &page, const QPoint &from, const QPoint &to)
-{
-    Send(page, QEvent::MouseButtonPress, from);
-    Send(page, QEvent::MouseMove, to);
-    Send(page, QEvent::MouseButtonRelease, to);
-    page.plot->replot();
-}
-
 void Click(const PlotPage &page, const QPoint &pos)
 {
-    Send(page, QEvent::MouseButtonPress, pos);
-    Send(page, QEvent::MouseButtonRelease, pos);
+    page.Send(QEvent::MouseButtonPress, pos);
+    page.Send(QEvent::MouseButtonRelease, pos);
 }
 
 } // namespace
@@ -66,7 +46,7 @@ void TestSpectrum2DMouse::rubberBand()
     PlotPage page;
     QVERIFY(page.Show());
     page.DrawLine(HundredSamples());
-    Send(page, QEvent::MouseButtonPress, QPoint(200, 100));
+    page.Send(QEvent::MouseButtonPress, QPoint(200, 100));
     const QList<QCPItemRect *> bands = page.Items<QCPItemRect>();
     QCOMPARE(bands.size(), 1);
     QCPItemRect *band = bands.first();
@@ -77,7 +57,7 @@ void TestSpectrum2DMouse::rubberBand()
         QCOMPARE(corner->type(), QCPItemPosition::ptAbsolute);
     QCOMPARE(band->topLeft->coords(), QPointF(200, 100));
 
-    Send(page, QEvent::MouseMove, QPoint(260, 150));
+    page.Send(QEvent::MouseMove, QPoint(260, 150));
     QVERIFY(band->visible());
     QCOMPARE(band->topLeft->coords(), QPointF(200, 100));
     QCOMPARE(band->bottomRight->coords(), QPointF(260, 150));
@@ -86,7 +66,7 @@ void TestSpectrum2DMouse::rubberBand()
     const QColor inside = page.plot->toPixmap().toImage().pixelColor(230, 120);
     QVERIFY2(inside.blue() > 250 && inside.red() < 245, qPrintable(inside.name()));
 
-    Send(page, QEvent::MouseButtonRelease, QPoint(260, 150));
+    page.Send(QEvent::MouseButtonRelease, QPoint(260, 150));
     QCOMPARE(page.Items<QCPItemRect>().size(), 0);
     QVERIFY(DebugLines().contains("SlotCustomPlotMouseRelease QPointF(260,150)"));
 }
@@ -96,13 +76,13 @@ void TestSpectrum2DMouse::secondButtonDuringADrag()
     PlotPage page;
     QVERIFY(page.Show());
     page.DrawLine(HundredSamples());
-    Send(page, QEvent::MouseButtonPress, QPoint(200, 100));
-    Send(page, QEvent::MouseMove, QPoint(220, 100));
-    Send(page, QEvent::MouseButtonPress, QPoint(220, 100));
+    page.Send(QEvent::MouseButtonPress, QPoint(200, 100));
+    page.Send(QEvent::MouseMove, QPoint(220, 100));
+    page.Send(QEvent::MouseButtonPress, QPoint(220, 100));
     QCOMPARE(page.Items<QCPItemRect>().size(), 1);
-    Send(page, QEvent::MouseButtonRelease, QPoint(221, 100));
-    Send(page, QEvent::MouseMove, QPoint(240, 100));
-    Send(page, QEvent::MouseButtonRelease, QPoint(240, 100));
+    page.Send(QEvent::MouseButtonRelease, QPoint(221, 100));
+    page.Send(QEvent::MouseMove, QPoint(240, 100));
+    page.Send(QEvent::MouseButtonRelease, QPoint(240, 100));
     QCOMPARE(page.Items<QCPItemRect>().size(), 0);
 }
 
@@ -111,7 +91,7 @@ void TestSpectrum2DMouse::moveWithoutPress()
     PlotPage page;
     QVERIFY(page.Show());
     page.DrawLine(HundredSamples());
-    Send(page, QEvent::MouseMove, QPoint(220, 100));
+    page.Send(QEvent::MouseMove, QPoint(220, 100));
     QCOMPARE(page.plot->itemCount(), 0);
     QCOMPARE(CallLog::Calls(), QStringList());
 }
@@ -132,7 +112,7 @@ void TestSpectrum2DMouse::tracerAtTheClick()
     QVERIFY(page.Show());
     page.DrawLine(HundredSamples());
     page.plot->replot();
-    const QPoint pos = PixelOf(page, x);
+    const QPoint pos = page.PixelOf(x);
     Click(page, pos);
 
     const double tracerX = page.plot->xAxis->pixelToCoord(pos.x());
@@ -172,7 +152,7 @@ void TestSpectrum2DMouse::tracerStaysAtItsPixel()
     QVERIFY(page.Show());
     page.DrawLine(HundredSamples());
     page.plot->replot();
-    const QPoint pos = PixelOf(page, 20);
+    const QPoint pos = page.PixelOf(20);
     Click(page, pos);
     page.plot->xAxis->setRange(40, 60);
     page.DrawLine(HundredSamples());
@@ -227,7 +207,7 @@ void TestSpectrum2DMouse::shortDragIsAClick()
     page.plot->replot();
     const QCPRange before = page.X();
     CallLog::Clear();
-    Drag(page, QPoint(300, 100), QPoint(300, 100) + way);
+    page.Drag(QPoint(300, 100), QPoint(300, 100) + way);
     QCOMPARE(CallLog::Calls(),
              zooms ? QStringList("SpectrumUIManager::SetZoomAutoFlag(false)") : QStringList());
     QCOMPARE(page.Items<QCPItemTracer>().size(), zooms ? 0 : 1);
@@ -241,11 +221,11 @@ void TestSpectrum2DMouse::dragRightZooms()
     QVERIFY(page.Show());
     page.DrawLine(HundredSamples());
     page.plot->replot();
-    const QPoint from = PixelOf(page, 20);
-    const QPoint to = PixelOf(page, 60);
+    const QPoint from = page.PixelOf(20);
+    const QPoint to = page.PixelOf(60);
     const QCPRange expected(page.plot->xAxis->pixelToCoord(from.x()), page.plot->xAxis->pixelToCoord(to.x()));
     const QCPRange y = page.Y();
-    Drag(page, from, to);
+    page.Drag(from, to);
     QCOMPARE(Text(page.X()), Text(expected));
     QCOMPARE(Text(page.Y()), Text(y));
 }
@@ -257,7 +237,7 @@ void TestSpectrum2DMouse::dragRightStaysWithinTheCurve()
     page.DrawLine(HundredSamples());
     page.plot->xAxis->setRange(-50, 200);
     page.plot->replot();
-    Drag(page, PixelOf(page, -40), PixelOf(page, 190));
+    page.Drag(page.PixelOf(-40), page.PixelOf(190));
     QCOMPARE(Text(page.X()), QString("0..101")); // to behind the last sample
 }
 
@@ -268,7 +248,7 @@ void TestSpectrum2DMouse::dragBesideTheCurve()
     page.DrawLine(HundredSamples());
     page.plot->xAxis->setRange(-50, 200);
     page.plot->replot();
-    Drag(page, PixelOf(page, 120), PixelOf(page, 190));
+    page.Drag(page.PixelOf(120), page.PixelOf(190));
     QCOMPARE(Text(page.X()), QString("-50..200"));
 }
 
@@ -278,20 +258,20 @@ void TestSpectrum2DMouse::dragLeftStepsBack()
     QVERIFY(page.Show());
     page.DrawLine(HundredSamples());
     page.plot->replot();
-    Drag(page, PixelOf(page, 20), PixelOf(page, 80));
+    page.Drag(page.PixelOf(20), page.PixelOf(80));
     const QCPRange first = page.X();
-    Drag(page, PixelOf(page, 30), PixelOf(page, 50));
+    page.Drag(page.PixelOf(30), page.PixelOf(50));
     QVERIFY(page.X().size() < first.size());
-    Drag(page, PixelOf(page, 45), PixelOf(page, 35));
+    page.Drag(page.PixelOf(45), page.PixelOf(35));
     QCOMPARE(Text(page.X()), Text(first));
     page.plot->yAxis->setRange(300, 310);
     // Back at the start the whole curve is shown, however far away the axes are.
-    Drag(page, PixelOf(page, 60), PixelOf(page, 40));
+    page.Drag(page.PixelOf(60), page.PixelOf(40));
     QCOMPARE(Text(page.X()), QString("0..100"));
     QCOMPARE(Text(page.Y()), QString("0..1250"));
     page.plot->xAxis->setRange(10, 20);
     page.plot->replot();
-    Drag(page, QPoint(400, 100), QPoint(200, 100)); // there is no step left
+    page.Drag(QPoint(400, 100), QPoint(200, 100)); // there is no step left
     QCOMPARE(Text(page.X()), QString("0..100"));
 }
 

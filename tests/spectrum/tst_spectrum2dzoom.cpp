@@ -35,6 +35,11 @@ private slots:
     void modeChange();
     void picturesAreRangedEachTime();
     void rangingAgainKeepsTheBlankSpace();
+    void aFreshPictureHasItsBlankSpaceOnce_data();
+    void aFreshPictureHasItsBlankSpaceOnce();
+    void flatPicturesStayInPlace();
+    void resetGoesBackToTheFirstStep();
+    void theFirstStepIsCalibrated();
     void flatCurve_data();
     void flatCurve();
 };
@@ -233,13 +238,83 @@ void TestSpectrum2DZoom::rangingAgainKeepsTheBlankSpace()
     page.page->SetStaticMode(true);
     int row[] = { 0, 4000, 200 };
     page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
-    const QString once = Text(page.Y());
+    QCOMPARE(Text(page.Y()), QString("0..5000"));
     for (int pick = 0; pick < 5; ++pick)
         page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
-    QCOMPARE(Text(page.Y()), once);
+    QCOMPARE(Text(page.Y()), QString("0..5000"));
     page.plot->yAxis->setRange(0, 8000); // zoomed by the user
     page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
     QCOMPARE(Text(page.Y()), QString("0..10000"));
+}
+
+void TestSpectrum2DZoom::aFreshPictureHasItsBlankSpaceOnce_data()
+{
+    QTest::addColumn<bool>("automatic");
+    QTest::addColumn<bool>("modeChanges");
+    QTest::newRow("first") << false << false;
+    QTest::newRow("automatic zoom") << true << false;
+    QTest::newRow("after a mode change") << false << true;
+}
+
+void TestSpectrum2DZoom::aFreshPictureHasItsBlankSpaceOnce()
+{
+    QFETCH(bool, automatic);
+    QFETCH(bool, modeChanges);
+    PlotPage page;
+    page.page->SetStaticMode(true);
+    page.services.spectrumUI.zoomAutoFlag = automatic;
+    int row[] = { 0, 4000, 200 };
+    for (int frame = 0; frame < 3; ++frame) {
+        page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+        if (modeChanges)
+            emit page.services.spectrumUI.signalDisplayModeChange();
+        QCOMPARE(Text(page.Y()), QString("0..5000"));
+    }
+    row[1] = 8000;
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    QCOMPARE(Text(page.Y()), QString("0..10000"));
+}
+
+void TestSpectrum2DZoom::flatPicturesStayInPlace()
+{
+    PlotPage page;
+    page.page->SetStaticMode(true);
+    int row[] = { 500, 500, 500 };
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    QCOMPARE(Text(page.Y()), QString("500..625"));
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    QCOMPARE(Text(page.Y()), QString("500..625"));
+    row[1] = 8000;
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    QCOMPARE(Text(page.Y()), QString("500..10000"));
+}
+
+void TestSpectrum2DZoom::resetGoesBackToTheFirstStep()
+{
+    PlotPage page; // 10 pixels wide: the first step is 0 to 10
+    QVERIFY(page.Show());
+    page.services.preview.SetRunning(true);
+    page.DrawLine({ 10, 4000, 200, 0, 0, 0, 0, 0, 0, 0 });
+    page.Drag(2, 8);
+    page.Drag(4, 6);
+    QVERIFY(page.X().lower > 3 && page.X().upper < 7);
+    page.page->SlotZoomReset();
+    QCOMPARE(Text(page.X()), QString("0..10"));
+    // The steps between are forgotten.
+    page.Drag(3, 7);
+    page.Drag(6, 4);
+    QVERIFY(page.X().lower <= 0 && page.X().upper >= 9);
+}
+
+void TestSpectrum2DZoom::theFirstStepIsCalibrated()
+{
+    PlotPage page([](FakeServices &services) {
+        services.spectrumUI.calibrationOffset = 400;
+        services.spectrumUI.calibrationFactor = 2;
+    });
+    page.services.preview.SetRunning(true);
+    page.page->SlotZoomReset();
+    QCOMPARE(Text(page.X()), QString("400..420"));
 }
 
 void TestSpectrum2DZoom::flatCurve_data()
