@@ -17,10 +17,14 @@ QCPRange WithinWholeEnds(const QCPRange &range, const QCPRange &old, const QCPRa
 
 } // namespace
 
-double UpperWithBlank(double upper, double blankRatio)
+QCPRange WithBlankAbove(double lower, double upper, double blankRatio)
 {
     const bool usable = blankRatio >= 0.0 && blankRatio < 1.0; // not a number: no blank either
-    return usable ? upper / (1.0 - blankRatio) : upper;
+    if (!usable)
+        return QCPRange(lower, upper);
+    if (upper < 0.0)
+        return QCPRange(lower, lower + (upper - lower) / (1.0 - blankRatio));
+    return QCPRange(lower, upper / (1.0 - blankRatio));
 }
 
 QCPRange ZoomedValueRange(const QCPRange &range, double factor)

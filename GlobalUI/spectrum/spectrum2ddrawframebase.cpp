@@ -178,13 +178,13 @@ void Spectrum2DDrawFrameBase::LeaveBlankAbove()
 {
     const QCPRange range = m_plot->yAxis->range();
     const double blankRatio = SpectrumUIManager::GetInstance()->GetBlankRatio();
-    m_plot->yAxis->setRange(range.lower, UpperWithBlank(range.upper, blankRatio));
+    m_plot->yAxis->setRange(WithBlankAbove(range.lower, range.upper, blankRatio));
 }
 
 void Spectrum2DDrawFrameBase::SlotUpdateLevels(int low, int upper)
 {
     const double blankRatio = SpectrumUIManager::GetInstance()->GetBlankRatio();
-    m_plot->yAxis->setRange(low, UpperWithBlank(upper, blankRatio));
+    m_plot->yAxis->setRange(WithBlankAbove(low, upper, blankRatio));
 }
 
 void Spectrum2DDrawFrameBase::SlotZoomIn()

@@ -184,8 +184,7 @@ void Spectrum2DDrawFrameBase::SetRangesOfCurve()
     if (!m_resetFlag && !settings->GetZoomAutoFlag())
         return;
     m_plot->xAxis->setRange(m_samples.X().first(), m_samples.X().last());
-    m_plot->yAxis->setRange(m_samples.Minimum(),
-                            UpperWithBlank(m_samples.Maximum(), settings->GetBlankRatio()));
+    m_plot->yAxis->setRange(WithBlankAbove(m_samples.Minimum(), m_samples.Maximum(), settings->GetBlankRatio()));
     m_plot->graph(0)->rescaleAxes(true);
     m_autoRange = m_plot->yAxis->range();
     m_autoRangeOfCurve = QCPRange(m_autoRange.lower, m_samples.Maximum());

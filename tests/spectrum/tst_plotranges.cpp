@@ -28,6 +28,9 @@ void TestPlotRanges::blankAbove_data()
     QTest::addColumn<double>("upper");
     QTest::addColumn<double>("ratio");
     QTest::addColumn<double>("expected");
+    QTest::newRow("all below zero") << -10.0 << 0.2 << -7.5; // of a height of 12.5
+    QTest::newRow("all below zero, none blank") << -10.0 << 0.0 << -10.0;
+    QTest::newRow("zero") << 0.0 << 0.2 << 0.0;
     QTest::newRow("fifth") << 4000.0 << 0.2 << 5000.0;
     QTest::newRow("none") << 4000.0 << 0.0 << 4000.0;
     QTest::newRow("half") << 3.0 << 0.5 << 6.0;
@@ -41,7 +44,9 @@ void TestPlotRanges::blankAbove()
 {
     QFETCH(double, upper);
     QFETCH(double, ratio);
-    QTEST(UpperWithBlank(upper, ratio), "expected");
+    const QCPRange range = WithBlankAbove(-20, upper, ratio);
+    QCOMPARE(range.lower, -20.0);
+    QTEST(range.upper, "expected");
 }
 
 void TestPlotRanges::verticalZoom_data()

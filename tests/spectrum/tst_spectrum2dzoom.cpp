@@ -37,6 +37,7 @@ private slots:
     void rangingAgainKeepsTheBlankSpace();
     void aFreshPictureHasItsBlankSpaceOnce_data();
     void aFreshPictureHasItsBlankSpaceOnce();
+    void aPictureBelowZeroIsNotCutOff();
     void flatPicturesStayInPlace();
     void resetGoesBackToTheFirstStep();
     void theFirstStepIsCalibrated();
@@ -273,6 +274,17 @@ void TestSpectrum2DZoom::aFreshPictureHasItsBlankSpaceOnce()
     row[1] = 8000;
     page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
     QCOMPARE(Text(page.Y()), QString("0..10000"));
+}
+
+void TestSpectrum2DZoom::aPictureBelowZeroIsNotCutOff()
+{
+    PlotPage page;
+    page.page->SetStaticMode(true);
+    int row[] = { -50, -10, -30 };
+    for (int pick = 0; pick < 2; ++pick) {
+        page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+        QCOMPARE(Text(page.Y()), QString("-50..0")); // a fifth of 50 above -10
+    }
 }
 
 void TestSpectrum2DZoom::flatPicturesStayInPlace()
