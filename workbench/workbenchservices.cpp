@@ -263,7 +263,7 @@ void WorkbenchServices::ConnectSpectrum()
     for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()}) {
         connect(picture, &OpenedPicture::signalShown, this, &WorkbenchServices::slotShowPalette);
         connect(m_profiles.get(), &LiveProfiles::signalLinesChanged, picture, &OpenedPicture::slotSetCurveLines);
-        connect(m_centreDisplay.get(), &CentreDisplay::signalModeChanged, picture, &OpenedPicture::slotDisplayModeChanged);
+        connect(m_centreDisplay.get(), &CentreDisplay::signalModeChanged, picture, &OpenedPicture::slotShowCurvesAgain);
         picture->slotSetCurveLines(m_profiles->Lines());
     }
     m_frameTee->SetListener(m_spectrumPipeline.get());
@@ -272,6 +272,8 @@ void WorkbenchServices::ConnectSpectrum()
     connect(settings, &SpectrumSettings::signalRecipeChanged, m_spectrumPipeline.get(),
             [this, settings] { m_spectrumPipeline->SetRecipe(settings->Recipe()); });
     connect(settings, &SpectrumSettings::signalRecipeChanged, this, &WorkbenchServices::UpdateProfilesWanted);
+    // Once the plot knows of it; of a standing camera and of a file no curve comes by itself.
+    connect(settings, &SpectrumSettings::signalWholeCurveWanted, this, &WorkbenchServices::slotShowCurvesAgain, Qt::QueuedConnection);
     ConnectTracks();
     connect(m_config.get(), &WorkspaceConfig::signalSwitchView, settings, [this, settings] {
         const int view = m_config->GetCurrentView();
@@ -340,6 +342,13 @@ void WorkbenchServices::TellOfNoTracks()
 {
     if (m_centreDisplay->Mode() == DisplayMode::Tracks3D && m_spectrumPipeline->Shown().tracks.empty())
         m_spectrumPipeline->AnnounceNoTracks();
+}
+
+void WorkbenchServices::slotShowCurvesAgain()
+{
+    m_preview->slotShowAgain();
+    m_spectrumPipeline->ShowAgain();
+    m_mainPicture->slotShowCurvesAgain();
 }
 
 /// The curve's page shows a profile of the picture only while there is neither a binned spectrum nor a track.

@@ -114,6 +114,7 @@ private slots:
     void slotPictureSizeChanged(QSize size);
     void slotRegionWanted(QRect region);
     void slotDisplayModeChanged();
+    void slotShowCurvesAgain();
     void slotShowPalette();
 
 private:

@@ -23,6 +23,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QMutexLocker>
+#include <QPushButton>
 #include <QScrollBar>
 
 #include <qcustomplot.h>
@@ -239,6 +240,33 @@ private slots:
         QTRY_VERIFY(qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())));
         QTest::keyClick(&m_workbench->window, Qt::Key_1, Qt::ControlModifier);
         QTRY_VERIFY(!VisiblePlot(m_workbench->window.centralWidget()));
+    }
+
+    /// No curve comes by itself: the plot is given its last one.
+    void resetShowsTheWholeCurveOfAStandingCamera()
+    {
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("All Rows")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot() && Plot()->graph(0)->dataCount() == 2048 && Spectra()->Shown().raw.Count() == 2048, waitMs);
+        m_workbench->services.Preview()->StopPreview();
+        QTRY_VERIFY(!m_workbench->services.Preview()->isRunning());
+        const auto wholeHeight = [this] {
+            const auto curve = Plot()->graph(0)->data();
+            const auto lower = [](const QCPGraphData &a, const QCPGraphData &b) { return a.value < b.value; };
+            const double most = std::max_element(curve->constBegin(), curve->constEnd(), lower)->value;
+            return most / (1 - m_workbench->services.Spectrum()->GetBlankRatio());
+        };
+        const QWidget *page = Plot()->parentWidget();
+        for (int i = 0; i < 3; ++i)
+            page->findChild<QPushButton *>("pushButton2DZoomOut")->click();
+        QVERIFY(Plot()->yAxis->range().upper > 1.2 * wholeHeight());
+        page->findChild<QPushButton *>("pushButton2DScaleReset")->click();
+        QTRY_COMPARE(Plot()->yAxis->range().upper, wholeHeight());
+
+        // The wheel leaves the automatic zoom on; the reset counts all the same.
+        Plot()->yAxis->setRange(0, 5 * wholeHeight());
+        page->findChild<QPushButton *>("pushButton2DScaleReset")->click();
+        QTRY_COMPARE(Plot()->yAxis->range().upper, wholeHeight());
     }
 
     /// Both pages have a plot of their own, and one payload.

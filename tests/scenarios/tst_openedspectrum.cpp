@@ -13,6 +13,7 @@
 #include <QAction>
 #include <QFile>
 #include <QGraphicsView>
+#include <QPushButton>
 #include <QSignalSpy>
 #include <qcustomplot.h>
 
@@ -115,6 +116,7 @@ private slots:
     void framesAndFilesKeepTheirPlace();
     void thePlotShowsTheWholeRowOfAZoomedImage();
     void anotherFileIsRangedAnew();
+    void resetShowsTheWholeCurveOfTheFile();
     void rulersCountWhatTheyCanShow();
     void barShowsThePaletteOfThePicture();
 
@@ -272,6 +274,27 @@ void OpenedSpectrumScenario::anotherFileIsRangedAnew()
     QTRY_COMPARE(plot()->graph(0)->data()->at(LineColumn)->value, 200.0);
     QVERIFY2(plot()->yAxis->range().upper < 300, qPrintable(QString::number(plot()->yAxis->range().upper)));
     QVERIFY(plot()->yAxis->range().upper >= 200);
+}
+
+void OpenedSpectrumScenario::resetShowsTheWholeCurveOfTheFile()
+{
+    SpectrumOnScreen page(&m_workbench->window);
+    QVERIFY(OpenSpectrum(&page));
+    m_workbench->Action("Curve")->trigger();
+    const auto *plot = qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget()));
+    QVERIFY(plot);
+    const auto data = plot->graph(0)->data();
+    double most = 0;
+    for (const QCPGraphData &sample : *data)
+        most = std::max(most, sample.value);
+    const double whole = most / (1 - SpectrumUIManager::GetInstance()->GetBlankRatio());
+    QCOMPARE(plot->yAxis->range().upper, whole);
+    const QWidget *frame = plot->parentWidget();
+    for (int i = 0; i < 3; ++i)
+        frame->findChild<QPushButton *>("pushButton2DZoomOut")->click();
+    QVERIFY(plot->yAxis->range().upper > 1.2 * whole);
+    frame->findChild<QPushButton *>("pushButton2DScaleReset")->click();
+    QTRY_COMPARE(plot->yAxis->range().upper, whole);
 }
 
 void OpenedSpectrumScenario::rulersCountWhatTheyCanShow()

@@ -107,8 +107,8 @@ public slots:
     void slotLevelsChanged();
     /// Neighbouring lines that a curve is the mean of.
     void slotSetCurveLines(int lines);
-    /// Another page shows the curves.
-    void slotDisplayModeChanged() { AnnounceCurves(); }
+    /// Another page shows the curves, or the same one wants them once more.
+    void slotShowCurvesAgain() { AnnounceCurves(); }
     /// The frame browser is that of the active picture, at first the main one; only that tells it of its frames.
     void slotActiveImageChanged(QObject *image);
 

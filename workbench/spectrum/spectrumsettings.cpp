@@ -247,6 +247,8 @@ bool SpectrumSettings::GetZoomAutoFlag() const { return m_isZoomAutomatic; }
 
 void SpectrumSettings::SetZoomAutoFlag(bool on)
 {
+    if (on)
+        emit signalWholeCurveWanted();
     if (m_isZoomAutomatic == on)
         return;
     m_isZoomAutomatic = on;

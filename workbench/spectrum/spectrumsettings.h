@@ -121,6 +121,8 @@ signals:
     void signalUnitChanged();
     /// The frame is another, and the tracks are no more, as they do not fit it.
     void signalTracksDropped();
+    /// The plot is to show all of the curve. It does so with the next one.
+    void signalWholeCurveWanted();
     /// A sentence for the status bar.
     void signalMessage(QString text);
 
