@@ -22,6 +22,8 @@ public:
     quint64 FooterOffset() const { return Number<quint64>(678); }
     double ExposureSeconds() const { return Float(10); }
     double TemperatureCelsius() const { return Float(36); }
+    /// Regions that were read out together, 1 to 10; version 2 lays them into one rectangle.
+    int Regions() const { return qBound(1, int(Number<qint16>(1510)), 10); }
     int Accumulations() const { return Number<qint32>(668); }
     QString Date() const { return Text(20, 10); }
     QString LocalTime() const { return Text(172, 7); }

@@ -49,6 +49,7 @@ bool LayoutOfHeader(const SpeHeader &header, SpeLayout &layout, FileFault &fault
     layout.regions = {region};
     layout.frameStride = layout.RegionBytes(region);
     layout.frames = header.Frames();
+    layout.mergedRegions = header.Regions();
     return true;
 }
 

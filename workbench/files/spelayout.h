@@ -29,6 +29,7 @@ struct SpeLayout
     SampleType type = SampleType::U16;
     int frames = 0;        ///< that are whole
     qint64 missingFrames = 0; ///< that were promised
+    int mergedRegions = 1; ///< regions of the sensor that lie in one rectangle, with filler between them: version 2
     qint64 frameStride = 0; ///< bytes from one frame to the next
     QVector<SpeRegion> regions; ///< at least one
     QVector<MetadataEntry> metadata;

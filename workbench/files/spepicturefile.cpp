@@ -47,6 +47,10 @@ void SpePictureFile::FillInfo()
         info.formatDetail += Text::tr(", %1 regions").arg(regions);
     for (const QString &warning : qAsConst(m_layout.warnings))
         AddWarning(Text::tr("\u201c%1\u201d: %2. %3").arg(QFileInfo(Path()).fileName(), warning, DamagedAdvice()));
+    if (m_layout.mergedRegions > 1) {
+        AddWarning(Text::tr("\u201c%1\u201d: its %2 regions are shown as one picture, with the filler rows that lie between them.")
+                       .arg(QFileInfo(Path()).fileName()).arg(m_layout.mergedRegions));
+    }
     if (m_layout.missingFrames > 0) {
         AddWarning(ReadFaultText(Path(), {Text::tr("only the first %1 of its %2 frames are there")
                                               .arg(m_layout.frames).arg(m_layout.frames + m_layout.missingFrames),

@@ -20,6 +20,8 @@ private slots:
     void anAxisThatTurnsIsSaidAndLeftOut_data();
     void anAxisThatTurnsIsSaidAndLeftOut();
     void regionsAreFramesOfTheirOwn();
+    void regionsInOneRectangleAreSaid_data();
+    void regionsInOneRectangleAreSaid();
     void aBinnedColumnHasTheMeanOfItsWavelengths();
     void everythingThatIsWrongIsTold();
     void factsAreTold();
@@ -191,6 +193,27 @@ void SpePictureFileTest::regionsAreFramesOfTheirOwn()
     QCOMPARE(Frame(*file, 2), QVector<double>({20, 21, 22}));
     QCOMPARE(Frame(*file, 3), QVector<double>({23, 24, 25, 26}));
     QCOMPARE(file->FrameDescription(3), QString("exposure 2 of 2, region 2 of 2, from column 2 and row 5 of the sensor"));
+}
+
+void SpePictureFileTest::regionsInOneRectangleAreSaid_data()
+{
+    QTest::addColumn<int>("regions");
+    QTest::addColumn<QString>("warning");
+    QTest::newRow("not told") << 0 << "";
+    QTest::newRow("one") << 1 << "";
+    QTest::newRow("less than none") << -5 << "";
+    QTest::newRow("three") << 3 << "\u201crectangle.spe\u201d: its 3 regions are shown as one picture, with the filler rows that lie between them.";
+}
+
+void SpePictureFileTest::regionsInOneRectangleAreSaid()
+{
+    QFETCH(int, regions);
+    PictureFolder folder;
+    QString error;
+    const auto file = OpenPicture(folder.Write("rectangle.spe", SpeBytes(2, 3, 3, 1).Set<qint16>(1510, qint16(regions)).AppendRamp(6).Bytes()), error);
+    QVERIFY2(file, qPrintable(error));
+    QTEST(file->Info().warning, "warning");
+    QCOMPARE(file->Info().frames, 1);
 }
 
 void SpePictureFileTest::aBinnedColumnHasTheMeanOfItsWavelengths()
