@@ -208,6 +208,7 @@ void FileThumbnail::slotOpenFileDirectory(QString folder)
         return;
     slotShowNotice(QString());
     m_renamed.clear();
+    m_grid->scrollToTop();
     m_model->Clear();
     m_total = 0;
     m_empty->setText(tr("Reading the folder…"));

@@ -146,10 +146,36 @@ void FileGrid::showEvent(QShowEvent *event)
     emit signalScrolled();
 }
 
+bool FileGrid::IsLayingOut() const
+{
+    const int count = model()->rowCount();
+    return count > 0 && visualRect(model()->index(count - 1, 0)).isEmpty();
+}
+
+/// A scroll bar that ended with the part laid out so far would lose the place of whoever is beyond it.
 void FileGrid::updateGeometries()
 {
-    QListView::updateGeometries();
+    if (!IsLayingOut()) {
+        QListView::updateGeometries();
+        if (m_scrollTo.isValid())
+            QListView::scrollTo(m_scrollTo);
+        m_scrollTo = QModelIndex();
+    }
     emit signalScrolled();
+}
+
+void FileGrid::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    if (index.isValid() && visualRect(index).isEmpty())
+        m_scrollTo = index;
+    else
+        QListView::scrollTo(index, hint);
+}
+
+/// All cells have one size: what is in them moves none, so nothing is laid out anew.
+void FileGrid::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight, const QVector<int> &roles)
+{
+    QAbstractItemView::dataChanged(topLeft, bottomRight, roles);
 }
 
 void FileGrid::scrollContentsBy(int dx, int dy)

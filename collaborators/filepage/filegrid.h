@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QListView>
+#include <QPersistentModelIndex>
 #include <QStringList>
 
 class FileDelegate;
@@ -26,6 +27,13 @@ public:
     QVector<int> SelectedRows() const;
     void SelectRows(const QVector<int> &rows, int current);
 
+    /// As soon as the row has its place.
+    void scrollTo(const QModelIndex &index, ScrollHint hint = EnsureVisible) override;
+
+public slots:
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QVector<int> &roles = QVector<int>()) override;
+
 signals:
     /// Other rows are seen than before.
     void signalScrolled();
@@ -42,8 +50,11 @@ protected:
 
 private:
     void UpdateCellSize();
+    /// The last rows have no place yet.
+    bool IsLayingOut() const;
     /// The first row whose lower edge is at `y` of the viewport or below it.
     int FirstRowBelow(int y) const;
 
     FileDelegate *m_delegate;
+    QPersistentModelIndex m_scrollTo; ///< when it has its place
 };

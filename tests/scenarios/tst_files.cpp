@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "createpicture.h"
+#include "filelistmodel.h"
 #include "filesystemview.h"
 #include "filethumbnail.h"
 #include "guiwatchdog.h"
@@ -261,6 +262,47 @@ private slots:
         QVERIFY2(watchdog.LongestMs() <= LongestBlockMs, watchdog.Text("following"));
     }
 
+    /// Far down in a long list nothing that comes or goes throws anyone back.
+    void thePlaceInALongListStays()
+    {
+        WriteEmptyFiles(m_folder->filePath("pictures"), 30000);
+        ShowFolder();
+        QTRY_COMPARE_WITH_TIMEOUT(Count(), 30000, WaitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(IsLaidOut(), WaitMs);
+        QScrollBar *bar = m_list->verticalScrollBar();
+        const int place = bar->maximum() / 5 * 4;
+        bar->setValue(place);
+        const int first = FirstSeenRow();
+        QVERIFY(first > 23000);
+        QTRY_VERIFY(!Index(first).data(FileListModel::FaultRole).toString().isEmpty());
+        QTRY_VERIFY(IsLaidOut());
+        QCOMPARE(bar->value(), place);
+        QCOMPARE(FirstSeenRow(), first);
+
+        QVERIFY(QFile::remove(Path("frame29999.tif")));
+        QTRY_COMPARE(Count(), 29999);
+        QTRY_VERIFY(IsLaidOut());
+        QCOMPARE(bar->value(), place);
+        QCOMPARE(FirstSeenRow(), first);
+
+        m_list->setFocus();
+        QTest::keyClick(m_list, Qt::Key_End);
+        QTRY_COMPARE(bar->value(), bar->maximum());
+        const QString last = Name(Count() - 1);
+        QVERIFY(QFile::rename(Path(last), Path("frame29999b.tif")));
+        QTRY_COMPARE(Name(Count() - 1), QString("frame29999b.tif"));
+        QTRY_VERIFY(IsLaidOut());
+        QTRY_COMPARE(bar->value(), bar->maximum());
+
+        // Another folder begins at its top.
+        QVERIFY(QDir(m_folder->path()).mkdir("others"));
+        WriteEmptyFiles(m_folder->filePath("others"), 30000);
+        m_page->slotOpenFileDirectory(m_folder->filePath("others"));
+        QTRY_COMPARE_WITH_TIMEOUT(Count(), 30000, WaitMs);
+        QTRY_VERIFY(IsLaidOut());
+        QCOMPARE(bar->value(), 0);
+    }
+
 private:
     QString Path(const QString &name) const { return m_folder->filePath("pictures/" + name); }
     void ShowFolder()
@@ -271,6 +313,8 @@ private:
         m_page->slotOpenFileDirectory(m_folder->filePath("pictures"));
         QTRY_VERIFY(m_page->isVisible());
     }
+    bool IsLaidOut() const { return m_list->visualRect(Index(Count() - 1)).isValid(); }
+    int FirstSeenRow() const { return m_list->indexAt(m_list->viewport()->rect().topLeft() + QPoint(20, 20)).row(); }
     int Count() const { return m_list->model()->rowCount(); }
     QModelIndex Index(int row) const { return m_list->model()->index(row, 0); }
     QString Name(int row) const { return Index(row).data().toString(); }
