@@ -284,7 +284,9 @@ void FileThumbnail::slotWantThumbnails()
     if (!m_grid->isVisible())
         return;
     m_queue->SetEdge(qRound(EdgeOnScreen() * devicePixelRatioF()));
-    m_queue->SetWanted(m_model->MissingThumbnails(m_grid->WantedRows()));
+    const QVector<int> rows = m_grid->WantedRows();
+    m_model->KeepThumbnails(rows.size());
+    m_queue->SetWanted(m_model->MissingThumbnails(rows));
     m_watchTimer->start();
 }
 

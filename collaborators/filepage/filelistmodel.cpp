@@ -11,19 +11,19 @@
 
 namespace {
 
-constexpr int MostThumbnailKilobytes = 64 * 1024;
+constexpr int UsualThumbnailKilobytes = 64 * 1024; ///< more only where more are seen
 constexpr int SmallestKilobytes = 1; ///< of a fault
 
-int KilobytesOf(const QPixmap &pixmap)
+int KilobytesOf(const QSize &size)
 {
-    return SmallestKilobytes + pixmap.width() * pixmap.height() * 4 / 1024;
+    return SmallestKilobytes + size.width() * size.height() * 4 / 1024;
 }
 
 } // namespace
 
 FileListModel::FileListModel(QObject *parent)
     : QAbstractListModel(parent)
-    , m_thumbnails(MostThumbnailKilobytes)
+    , m_thumbnails(UsualThumbnailKilobytes)
 {
 }
 
@@ -76,6 +76,12 @@ int FileListModel::RowOf(const QString &name) const
     return found == m_entries.end() ? -1 : int(found - m_entries.begin());
 }
 
+void FileListModel::KeepThumbnails(int count)
+{
+    const int largest = KilobytesOf(QSize(ThumbnailStore::LargeEdge, ThumbnailStore::LargeEdge));
+    m_thumbnails.setMaxCost(qMax(UsualThumbnailKilobytes, count * largest));
+}
+
 void FileListModel::SetThumbnails(const QVector<ThumbnailResult> &results)
 {
     for (const ThumbnailResult &result : results) {
@@ -83,7 +89,7 @@ void FileListModel::SetThumbnails(const QVector<ThumbnailResult> &results)
         thumbnail->modifiedMs = result.subject.modifiedMs;
         thumbnail->pixmap = QPixmap::fromImage(result.image);
         thumbnail->fault = result.fault;
-        m_thumbnails.insert(result.subject.path, thumbnail, KilobytesOf(thumbnail->pixmap));
+        m_thumbnails.insert(result.subject.path, thumbnail, KilobytesOf(thumbnail->pixmap.size()));
     }
     // Finding the rows would cost more than painting those that are seen.
     if (!m_entries.isEmpty())

@@ -33,6 +33,8 @@ public:
     /// -1 when there is none of that name.
     int RowOf(const QString &name) const;
 
+    /// So many thumbnails are at hand at a time, whatever their size.
+    void KeepThumbnails(int count);
     void SetThumbnails(const QVector<ThumbnailResult> &results);
     /// Those of these rows that are not at hand.
     QVector<ThumbnailStore::Subject> MissingThumbnails(const QVector<int> &rows) const;

@@ -3,6 +3,8 @@
 
 #include "fakethumbnaillist.h"
 #include "filethumbnail.h"
+#include "thumbnailmaker.h"
+#include "thumbnailstore.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -10,13 +12,44 @@
 #include <QLineEdit>
 #include <QLabel>
 #include <QListView>
+#include <QMutex>
+#include <QMutexLocker>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QToolButton>
 #include <QUndoStack>
 
+#include <algorithm>
 #include <memory>
+
+namespace {
+
+/// Large pictures of nothing; notes for which files it was asked.
+class CountingMaker : public ThumbnailMaker
+{
+public:
+    QStringList Suffixes() const override { return {"tif"}; }
+    QImage Make(const QString &path, int, QString &) override
+    {
+        const QMutexLocker lock(&m_mutex);
+        ++m_asked[path];
+        QImage image(ThumbnailStore::LargeEdge, ThumbnailStore::LargeEdge, QImage::Format_RGB32);
+        image.fill(Qt::gray);
+        return image;
+    }
+    int MostAskedForOne() const
+    {
+        const QMutexLocker lock(&m_mutex);
+        return m_asked.isEmpty() ? 0 : *std::max_element(m_asked.begin(), m_asked.end());
+    }
+
+private:
+    mutable QMutex m_mutex;
+    QHash<QString, int> m_asked;
+};
+
+} // namespace
 
 /// The pictures of a folder.
 class TestFilePage : public GuardedTest
@@ -43,6 +76,7 @@ private slots:
     void DeleteMovesToTheTrashAndUndoBringsBack();
     void KeysOpenAndSelect();
     void FollowsAFolderThatComesBack();
+    void ALargePageAsksForEachThumbnailOnce();
 
 private:
     void WriteFile(const QString &name);
@@ -54,6 +88,7 @@ private:
     QStringList Selected() const;
     QString EmptyText() const { return m_thumbnails->findChild<QLabel *>("labelEmpty")->text(); }
 
+    CountingMaker m_maker;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<FileThumbnail> m_thumbnails;
     QListView *m_list = nullptr;
@@ -399,6 +434,30 @@ void TestFilePage::FollowsAFolderThatComesBack()
     QTRY_COMPARE(Listed(), QStringList("b.tif"));
     WriteFile("below/c.tif");
     QTRY_COMPARE(Listed(), QStringList({ "b.tif", "c.tif" }));
+}
+
+/// Three pages of more large thumbnails than usually are kept.
+void TestFilePage::ALargePageAsksForEachThumbnailOnce()
+{
+    constexpr int Count = 1000;
+    for (int i = 0; i < Count; ++i)
+        WriteFile(QString("below/%1.tif").arg(i));
+    m_thumbnails->SetThumbnailMaker(&m_maker);
+    m_thumbnails->slotOpenFileDirectory(m_folder->filePath("below"));
+    m_thumbnails->resize(3200, 1900);
+    m_thumbnails->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_thumbnails.get()));
+    const int seen = 3200 / m_list->gridSize().width() * (1700 / m_list->gridSize().height());
+    QVERIFY(2 * seen > 300); // more than usually are kept
+    const auto haveAll = [&] {
+        for (int row = 0; row < 2 * seen; ++row) {
+            if (Index(row).data(Qt::DecorationRole).isNull())
+                return false;
+        }
+        return true;
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(haveAll(), 20000);
+    QCOMPARE(m_maker.MostAskedForOne(), 1);
 }
 
 GUARDED_TEST_MAIN(TestFilePage)

@@ -85,6 +85,30 @@ private slots:
         QCOMPARE(model.MissingThumbnails({0}).first().modifiedMs, 200);
     }
 
+    /// Whatever a large screen wants is at hand at once; else it would be read again and again.
+    void asManyThumbnailsAreKeptAsAreWanted()
+    {
+        constexpr int Wanted = 600;
+        FileEntries entries;
+        QVector<ThumbnailResult> results;
+        QVector<int> rows;
+        for (int row = 0; row < Wanted; ++row) {
+            entries.append({QString("%1.tif").arg(row), 1, 100, false});
+            results.append(Result(QString("/pictures/%1.tif").arg(row), 100));
+            results.last().image = QImage(256, 256, QImage::Format_RGB32);
+            results.last().image.fill(Qt::gray);
+            rows.append(row);
+        }
+        FileListModel model;
+        model.SetListing(Listing(entries, {}, true));
+        model.KeepThumbnails(Wanted);
+        model.SetThumbnails(results);
+        QCOMPARE(model.MissingThumbnails(rows).size(), 0);
+        model.KeepThumbnails(10); // a small window keeps what usually fits
+        QVERIFY(model.MissingThumbnails(rows).size() > Wanted / 2);
+        QVERIFY(model.MissingThumbnails(rows).size() < Wanted - 200);
+    }
+
     void namesAreShownOnOneLine()
     {
         QCOMPARE(FileNameText("a\nb.tif"), QString::fromUtf8("a\u23ceb.tif"));
