@@ -64,6 +64,19 @@ void FillChoices(QComboBox *box, const QStringList &choices)
     box->addItems(choices);
 }
 
+/// How the number is written: another picture may have finer levels. What is the same is not set again, which would
+/// take from the user what is being typed.
+void SetNotation(NumberBox *box, const PanelField &field)
+{
+    if (box->decimals() != field.decimals)
+        box->setDecimals(field.decimals);
+    if (box->suffix() != field.unit)
+        box->setSuffix(field.unit);
+    if (box->specialValueText() != field.zeroText)
+        box->setSpecialValueText(field.zeroText);
+    box->setSingleStep(field.step);
+}
+
 /// Who is typing is not interrupted: a space at the end is the beginning of the next word, and an emptied line is not
 /// filled before the editing is finished.
 void ShowText(QLineEdit *edit, const QString &text)
@@ -264,10 +277,7 @@ QWidget *FieldForm::MakeNumber(const PanelField &field)
 {
     auto *box = new NumberBox(m_fields);
     box->setObjectName(ObjectName("number", field.key));
-    box->setDecimals(field.decimals);
-    box->setSuffix(field.unit);
     TakeWheelWithFocusOnly(box);
-    box->setSpecialValueText(field.zeroText);
     connect(box, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
             [this, key = field.key](double value) { Send(key, value); });
     return box;
@@ -330,7 +340,7 @@ void FieldForm::ShowField(const PanelField &field)
     case PanelField::Kind::Number: {
         auto *box = static_cast<NumberBox *>(widget);
         box->setAccessibleName(WithoutMnemonic(field.text));
-        box->setSingleStep(field.step);
+        SetNotation(box, field);
         box->Show(field.minimum, field.maximum, field.value.toDouble());
         break;
     }

@@ -74,6 +74,7 @@ private slots:
     void namesFollowAndWidgetsStay();
     void emptiedLineIsFilledWhenTheEditingIsFinished();
     void wheelChangesOnlyWhatHasTheFocus();
+    void aNumberMayBecomeFiner();
     void otherFieldsMakeOtherWidgets();
     void tabKeyFindsTheFieldsWhereTheFormStands();
     void faultIsShownUntilItIsOver();
@@ -236,6 +237,42 @@ void FieldFormTest::wheelChangesOnlyWhatHasTheFocus()
                        Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(number, &turned);
     QCOMPARE(source.told, QStringList("width=19"));
+}
+
+/// The levels of a picture of whole numbers, then those of one from 0 to 1.
+void FieldFormTest::aNumberMayBecomeFiner()
+{
+    Recorder source("test");
+    FieldForm form(&source, "absent");
+    form.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    auto *number = form.findChild<NumberBox *>("numberWidth");
+    QCOMPARE(number->text(), number->locale().toString(20));
+    PanelField &width = source.fields[0];
+    width.minimum = 0;
+    width.maximum = 1;
+    width.value = 0.5;
+    width.decimals = 3;
+    width.step = 0.001;
+    width.unit = " mm";
+    emit source.signalChanged();
+    QCOMPARE(form.findChild<NumberBox *>("numberWidth"), number);
+    QCOMPARE(number->text(), number->locale().toString(0.5, 'f', 3) + " mm");
+    number->selectAll();
+    QTest::keyClicks(number, "0.25");
+    QTest::keyClick(number, Qt::Key_Return);
+    QCOMPARE(source.told, QStringList("width=0.25"));
+
+    width.decimals = 0;
+    width.maximum = 500;
+    width.value = 123;
+    width.unit = QString();
+    emit source.signalChanged();
+    QCOMPARE(number->text(), QString("123"));
+    width.value = 0;
+    width.zeroText = "automatic";
+    emit source.signalChanged();
+    QCOMPARE(number->text(), QString("automatic"));
 }
 
 void FieldFormTest::otherFieldsMakeOtherWidgets()
