@@ -24,6 +24,7 @@
 #include "picturedesk.h"
 #include "picturedialogs.h"
 #include "picturemenus.h"
+#include "pictureshelf.h"
 #include "plugindialog.h"
 #include "pluginlist.h"
 #include "processfields.h"
@@ -41,6 +42,7 @@
 #include "standingcurve.h"
 #include "statusline.h"
 #include "uimanagerbase.h"
+#include "unsavedguard.h"
 #include "viewcodes.h"
 #include "viewmenu.h"
 #include "workbenchservices.h"
@@ -190,6 +192,7 @@ QDockWidget *MainWindow::AddDock(const char *name, QWidget *area, Qt::DockWidget
 PictureMenus *MainWindow::BuildPictureCommands()
 {
     auto *dialogs = new PictureDialogs(m_services, this);
+    m_unsavedGuard = new UnsavedGuard(m_services->Desk(), dialogs, this);
     auto *drop = new FileDrop(this);
     connect(drop, SIGNAL(signalFilesDropped(QStringList)), dialogs, SLOT(slotOpenFiles(QStringList)));
     new FilePageCommands(m_services, qobject_cast<FileThumbnail *>(m_centre->widget(FileSystemPage)), this);
@@ -357,6 +360,14 @@ void MainWindow::closeEvent(QCloseEvent *event)
     if (m_services->Recording()->IsBusy()) {
         event->ignore();
         m_recordingGuard->Do(tr("Closing the program ends it."), [this] { close(); });
+        return;
+    }
+    if (!m_mayLoseChanges && !m_services->Desk()->Shelf()->Changed().isEmpty()) {
+        event->ignore();
+        m_unsavedGuard->DoLosingAll([this] {
+            m_mayLoseChanges = true;
+            close();
+        });
         return;
     }
     slotLeaveFullScreen();

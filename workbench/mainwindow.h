@@ -20,6 +20,7 @@ class RecordingGuard;
 class ShownFrames;
 class RecordingStatus;
 class StatusLine;
+class UnsavedGuard;
 class ViewMenu;
 class WorkbenchServices;
 
@@ -87,6 +88,8 @@ private:
     ShownFrames *m_shown = nullptr;
     RecordingStatus *m_recordingStatus = nullptr;
     StatusLine *m_statusLine = nullptr;
+    UnsavedGuard *m_unsavedGuard = nullptr;
+    bool m_mayLoseChanges = false; ///< the user said so
     PanelsShown m_panelsBeforeFullScreen;
     QShortcut *m_leaveFullScreen = nullptr;
     bool m_isFullScreen = false;

@@ -66,10 +66,14 @@ void PictureDialogs::slotOpenFiles(const QStringList &paths)
     m_services->Desk()->Open(paths, m_services->GetWorkspace()->PlaceForPictures());
 }
 
-void PictureDialogs::slotAskWhereToSave()
+void PictureDialogs::slotAskWhereToSave() { AskWhereToSave(qobject_cast<OpenedPicture *>(sender()), false); }
+
+SaveDialog *PictureDialogs::AskWhereToSaveAll(const OpenedPicture *picture) { return AskWhereToSave(picture, true); }
+
+SaveDialog *PictureDialogs::AskWhereToSave(const OpenedPicture *picture, bool wantsAllFrames)
 {
-    const auto *picture = qobject_cast<OpenedPicture *>(sender());
     SaveDialog::Subject subject;
+    subject.wantsAllFrames = wantsAllFrames;
     subject.suggestedPath = SuggestedPath(picture->Document());
     subject.type = picture->Shown().samples.Type();
     subject.channels = picture->Shown().samples.Channels();
@@ -84,6 +88,7 @@ void PictureDialogs::slotAskWhereToSave()
         m_services->Loader()->Save(request);
     });
     dialog->open();
+    return dialog;
 }
 
 void PictureDialogs::slotAskWhereToSaveComparison(const QImage &image)

@@ -5,6 +5,7 @@
 #include <QObject>
 
 class FaultNotice;
+class OpenedPicture;
 class SaveDialog;
 class WorkbenchServices;
 
@@ -18,6 +19,9 @@ public:
     /// `services` are borrowed and outlive this object; `window` owns it.
     PictureDialogs(WorkbenchServices *services, QWidget *window);
 
+    /// Where to save the shown picture, all its frames if nothing else is said.
+    SaveDialog *AskWhereToSaveAll(const OpenedPicture *picture);
+
 public slots:
     void slotAskForFiles();
     void slotOpenFiles(const QStringList &paths);
@@ -29,6 +33,8 @@ private slots:
     void slotShowInformation();
 
 private:
+    SaveDialog *AskWhereToSave(const OpenedPicture *picture, bool wantsAllFrames);
+
     WorkbenchServices *m_services;
     QWidget *m_window;
     FaultNotice *m_faultNotice;

@@ -91,7 +91,7 @@ void PictureMenus::slotClose()
     const OpenedPicture *picture =
         isSecond ? m_services->Desk()->ComparePicture() : m_services->Desk()->MainPicture();
     if (PictureDocument *document = picture->Document())
-        m_services->Desk()->Close(document);
+        m_services->Desk()->RequestClose(document);
 }
 
 /// Two pictures side by side have no room for the frame.

@@ -58,6 +58,7 @@ SaveDialog::SaveDialog(const Subject &subject, QWidget *parent)
     m_loss->setWordWrap(true);
     m_allFrames->setObjectName("checkBoxAllFrames");
     m_allFrames->setVisible(subject.frames > 1);
+    m_allFrames->setChecked(subject.wantsAllFrames);
     auto *grid = qobject_cast<QGridLayout *>(layout());
     grid->addWidget(m_allFrames, grid->rowCount(), 1);
     grid->addWidget(m_loss, grid->rowCount(), 1, 1, -1);

@@ -22,6 +22,7 @@ public:
         SampleType type = SampleType::U8;
         int channels = 1;
         int frames = 1;
+        bool wantsAllFrames = false; ///< rather than the one that is shown
     };
 
     SaveDialog(const Subject &subject, QWidget *parent);

@@ -4,4 +4,4 @@
 #include <QString>
 
 /// A file name on one line: line breaks and other control characters are shown as marks.
-QString FileNameText(const QString &name);
+Q_DECL_EXPORT QString FileNameText(const QString &name);

@@ -6,6 +6,7 @@
 #include "picturedocument.h"
 #include "pictureloader.h"
 #include "pictureshelf.h"
+#include "savetask.h"
 #include "uiconfigmanager.h"
 #include "viewcodes.h"
 
@@ -34,7 +35,7 @@ PictureDesk::PictureDesk(PictureLoader *loader, PictureShelf *shelf, OpenedPictu
     connect(comparePicture, SIGNAL(signalShown()), this, SLOT(slotUpdateUndo()));
     connect(comparePicture, SIGNAL(signalGivenUp()), this, SLOT(slotCompareFailed()));
     connect(shelf, SIGNAL(signalAdded(PictureDocument *)), this, SLOT(slotAdded(PictureDocument *)));
-    connect(loader, SIGNAL(signalSaved(QString, QString)), this, SLOT(slotSaved(QString, QString)));
+    connect(loader, SIGNAL(signalSaved(SaveRequest, QString)), this, SLOT(slotSaved(SaveRequest, QString)));
 }
 
 void PictureDesk::Open(const QStringList &paths, OpenedPicture *place)
@@ -77,6 +78,48 @@ void PictureDesk::Close(PictureDocument *document)
         m_main->CloseImage();
         emit signalLastClosed();
     }
+}
+
+void PictureDesk::Close(const QVector<PictureDocument *> &documents)
+{
+    if (documents.size() == m_shelf->Documents().size()) {
+        CloseAll();
+        return;
+    }
+    for (PictureDocument *document : documents)
+        Close(document);
+}
+
+void PictureDesk::RequestClose(PictureDocument *document)
+{
+    if (!document->IsChanged()) {
+        Close(document);
+        return;
+    }
+    if (m_toClose.isEmpty())
+        QMetaObject::invokeMethod(this, "slotAskToClose", Qt::QueuedConnection); // others may follow
+    if (!m_toClose.contains(document))
+        m_toClose << document;
+}
+
+void PictureDesk::RequestCloseAll()
+{
+    if (m_shelf->Changed().isEmpty())
+        CloseAll();
+    else
+        emit signalCloseQuestion(m_shelf->Documents());
+}
+
+void PictureDesk::slotAskToClose()
+{
+    QVector<PictureDocument *> documents;
+    for (const QObject *wanted : qAsConst(m_toClose)) {
+        if (PictureDocument *document = m_shelf->Find(wanted))
+            documents << document;
+    }
+    m_toClose.clear();
+    if (!documents.isEmpty())
+        emit signalCloseQuestion(documents);
 }
 
 void PictureDesk::CloseAll()
@@ -251,17 +294,22 @@ void PictureDesk::slotUpdateUndo()
 
 void PictureDesk::slotAdded(PictureDocument *document) { m_undoGroup->addStack(document->UndoStack()); }
 
-void PictureDesk::slotSaved(QString target, QString error)
+void PictureDesk::slotSaved(const SaveRequest &request, const QString &error)
 {
+    PictureDocument *source = request.image.isNull() ? m_shelf->Find(request.file.path) : nullptr;
     if (!error.isEmpty()) {
         emit signalFault(error);
-        return;
+    } else {
+        emit signalMessage(tr("\u201c%1\u201d was saved.").arg(QFileInfo(request.target).fileName()));
+        if (source && request.frameCount >= request.edit.SeenFrames(source->Info().frames))
+            source->SetSaved(request.edit);
+        if (PictureDocument *document = m_shelf->Find(request.target)) {
+            document->Reset(); // what was done to the old file is in the new one
+            Reread(document);
+        }
     }
-    emit signalMessage(tr("\u201c%1\u201d was saved.").arg(QFileInfo(target).fileName()));
-    if (PictureDocument *document = m_shelf->Find(target)) {
-        document->Reset(); // what was done to the old file is in the new one
-        Reread(document);
-    }
+    if (source)
+        emit signalSaveEnded(source);
 }
 
 /// The file may be another one now.

@@ -4,12 +4,14 @@
 #include <QObject>
 #include <QPointer>
 #include <QUndoStack>
+#include <QVector>
 
 class OpenedPicture;
 class PictureDocument;
 class PictureLoader;
 class PictureShelf;
 class QUndoGroup;
+struct SaveRequest;
 
 /// What the user does with opened pictures: opens and closes files, renames them, chooses which are
 /// compared. Which page is shown is not decided here. GUI thread.
@@ -35,7 +37,12 @@ public:
     void Show(PictureDocument *document, OpenedPicture *place);
     /// The document's neighbour takes its place.
     void Close(PictureDocument *document);
+    void Close(const QVector<PictureDocument *> &documents);
     void CloseAll();
+    /// As the user wishes: at once when nothing is lost by it, else signalCloseQuestion() comes, one for all that were
+    /// asked for at a time.
+    void RequestClose(PictureDocument *document);
+    void RequestCloseAll();
     /// Renames the file on the disk; its folder stays.
     void Rename(PictureDocument *document, const QString &name);
 
@@ -66,6 +73,10 @@ signals:
     void signalOpened();
     /// The last picture was closed.
     void signalLastClosed();
+    /// These are to be closed, and changes would be lost by it.
+    void signalCloseQuestion(QVector<PictureDocument *> documents);
+    /// A file of this picture was written, or could not be.
+    void signalSaveEnded(PictureDocument *document);
     /// The second picture of a comparison is gone, or cannot be shown.
     void signalCompareLost();
     /// A sentence for the status bar.
@@ -78,7 +89,8 @@ private slots:
     void slotMainShown();
     void slotCompareFailed();
     void slotAdded(PictureDocument *document);
-    void slotSaved(QString target, QString error);
+    void slotSaved(const SaveRequest &request, const QString &error);
+    void slotAskToClose();
 
 private:
     void Reread(PictureDocument *document);
@@ -93,6 +105,7 @@ private:
     QUndoGroup *m_undoGroup;
     QPointer<QUndoStack> m_fileUndoStack;
     QPointer<QUndoStack> m_liveUndoStack;
+    QVector<PictureDocument *> m_toClose; ///< to be asked for; some may be gone
     bool m_isAskedFor = false;          ///< the next main picture is one that the user asked for
     QPointer<PictureDocument> m_shown;  ///< in the main picture
     QPointer<PictureDocument> m_before; ///< was shown there before

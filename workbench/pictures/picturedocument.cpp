@@ -83,6 +83,14 @@ void PictureDocument::Reset()
     m_edit = PictureEdit();
 }
 
+bool PictureDocument::IsChanged() const { return !m_undoStack->isClean(); }
+
+void PictureDocument::SetSaved(const PictureEdit &edit)
+{
+    if (edit == m_edit) // not when more was done meanwhile
+        m_undoStack->setClean();
+}
+
 void PictureDocument::SetEdit(const PictureEdit &edit)
 {
     if (!edit.HasSameSteps(m_edit))

@@ -50,6 +50,10 @@ public:
     /// As it is in the file; nothing to undo.
     void Reset();
     QUndoStack *UndoStack() const { return m_undoStack; }
+    /// What was done to it is in no file.
+    bool IsChanged() const;
+    /// A file has all frames as `edit` makes them.
+    void SetSaved(const PictureEdit &edit);
 
 signals:
     /// Name, thumbnail or check mark.

@@ -50,6 +50,7 @@ PictureLoader::PictureLoader(const LevelsModel *levels, QObject *parent)
 {
     qRegisterMetaType<LoadedPicture>();
     qRegisterMetaType<PictureThumbnail>();
+    qRegisterMetaType<SaveRequest>();
     setObjectName("PictureLoader");
     start();
 }
@@ -240,12 +241,12 @@ void PictureLoader::SaveStep()
         return;
     if (error.isEmpty())
         error = task->Error();
-    const QString target = task->Request().target;
+    const SaveRequest request = task->Request();
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_saves.pop_front();
     }
-    emit signalSaved(target, error);
+    emit signalSaved(request, error);
 }
 
 void PictureLoader::ThumbnailNext()

@@ -40,7 +40,7 @@ signals:
     void signalLoaded(LoadedPicture picture);
     void signalThumbnail(PictureThumbnail thumbnail);
     /// `error` is empty when the file is saved.
-    void signalSaved(QString target, QString error);
+    void signalSaved(SaveRequest request, QString error);
     /// Nothing was left to do but to read a frame that nobody has asked for yet; it is at hand now if there is room.
     void signalReadAhead(int frame);
 

@@ -30,6 +30,14 @@ QVector<PictureDocument *> PictureShelf::Chosen() const
     return checked.isEmpty() ? m_selected : checked;
 }
 
+QVector<PictureDocument *> PictureShelf::Changed() const
+{
+    QVector<PictureDocument *> changed;
+    std::copy_if(m_documents.begin(), m_documents.end(), std::back_inserter(changed),
+                 [](const PictureDocument *document) { return document->IsChanged(); });
+    return changed;
+}
+
 PictureDocument *PictureShelf::Find(const QString &path) const
 {
     const QString wanted = FullPath(path);

@@ -23,6 +23,8 @@ public:
     bool IsEmpty() const { return m_documents.isEmpty(); }
     /// Those that are checked in the list; without any, those that are selected in it.
     QVector<PictureDocument *> Chosen() const;
+    /// Those with changes that are in no file.
+    QVector<PictureDocument *> Changed() const;
     void SetSelected(const QVector<PictureDocument *> &documents) { m_selected = documents; }
     /// Null when that file is not open.
     PictureDocument *Find(const QString &path) const;

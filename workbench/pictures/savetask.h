@@ -6,6 +6,7 @@
 #include "samplerange.h"
 
 #include <QImage>
+#include <QMetaType>
 
 #include <memory>
 
@@ -24,6 +25,8 @@ struct SaveRequest
     QString target;
     bool compress = false;
 };
+
+Q_DECLARE_METATYPE(SaveRequest)
 
 /// Saves one request, one frame a step, so that the thread that does it can do other work in between.
 class SaveTask

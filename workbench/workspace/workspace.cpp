@@ -153,13 +153,13 @@ void Workspace::slotRename(QObject *image, QString fileName)
 
 void Workspace::slotCloseAllImage()
 {
-    m_parts.desk->CloseAll();
+    m_parts.desk->RequestCloseAll();
 }
 
 void Workspace::slotCloseImage(QObject *image)
 {
     if (PictureDocument *document = m_parts.desk->Shelf()->Find(image))
-        m_parts.desk->Close(document);
+        m_parts.desk->RequestClose(document);
 }
 
 void Workspace::slotSetImageChecked(QObject *image, bool checked)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "picturerequest.h"
+#include "savetask.h"
 
 #include <QObject>
 #include <QStringList>
@@ -19,7 +20,7 @@ public:
         connect(loader, SIGNAL(signalThumbnail(PictureThumbnail)), this,
                 SLOT(slotThumbnail(PictureThumbnail)));
         connect(loader, SIGNAL(signalReadAhead(int)), this, SLOT(slotReadAhead(int)));
-        connect(loader, SIGNAL(signalSaved(QString, QString)), this, SLOT(slotSaved(QString, QString)));
+        connect(loader, SIGNAL(signalSaved(SaveRequest, QString)), this, SLOT(slotSaved(SaveRequest, QString)));
     }
 
     QVector<LoadedPicture> loaded;
@@ -44,5 +45,5 @@ private slots:
         readAhead << frame;
         order << QString("ahead %1").arg(frame);
     }
-    void slotSaved(const QString &, const QString &error) { saveErrors << error; }
+    void slotSaved(const SaveRequest &, const QString &error) { saveErrors << error; }
 };

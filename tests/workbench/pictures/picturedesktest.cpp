@@ -114,6 +114,34 @@ private slots:
         QCOMPARE(lastClosed.size(), 1);
     }
 
+    void whatIsInAFileIsNotAskedFor()
+    {
+        PictureBench bench;
+        int questions = 0;
+        int ended = 0;
+        connect(&bench.desk, &PictureDesk::signalCloseQuestion, this, [&] { ++questions; });
+        connect(&bench.desk, &PictureDesk::signalSaveEnded, this, [&] { ++ended; });
+        QVERIFY(bench.Open("stack.tif", QSize(5, 3), 3));
+        bench.main.slotRotateImage(0);
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("3x5"));
+        bench.desk.RequestClose(bench.main.Document());
+        QTRY_COMPARE(questions, 1);
+        QCOMPARE(bench.shelf.Documents().size(), 1);
+
+        bench.main.SaveAs(bench.Path("frame.tif"), false); // one of three
+        QTRY_COMPARE(ended, 1);
+        QVERIFY(bench.main.Document()->IsChanged());
+        bench.main.SaveAs(bench.Path("all.tif"), true);
+        QTRY_COMPARE(ended, 2);
+        QVERIFY(!bench.main.Document()->IsChanged());
+        bench.main.Document()->UndoStack()->undo(); // the new file is not what is seen any more
+        QVERIFY(bench.main.Document()->IsChanged());
+        bench.main.Document()->UndoStack()->redo();
+        bench.desk.RequestClose(bench.main.Document());
+        QVERIFY(bench.shelf.IsEmpty());
+        QCOMPARE(questions, 1);
+    }
+
     void renamingRenamesTheFile()
     {
         PictureBench bench;
