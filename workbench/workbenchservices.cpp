@@ -381,7 +381,10 @@ void WorkbenchServices::ConnectPictures()
     connect(m_fileJobs.get(), &FileJobs::signalFault, m_pictureDesk.get(), &PictureDesk::signalFault);
     connect(m_fileJobs.get(), &FileJobs::signalChanged, m_pictureDesk.get(), &PictureDesk::slotFileChanged);
     connect(m_fileJobs.get(), &FileJobs::signalMerged, this,
-            [this](const QString &path) { m_workspace->slotOpenImage(path, nullptr); });
+            [this](const QString &path) {
+                m_pictureDesk->slotFileReplaced(path);
+                m_workspace->slotOpenImage(path, nullptr);
+            });
     connect(m_workspace.get(), SIGNAL(signalUpdateImageCompareFrame()), m_pictureDesk.get(), SLOT(slotUpdateUndo()));
     // The module's frame browser listens to the picture that was active when it was built.
     connect(m_comparePicture.get(), SIGNAL(signalCurrentFileFrameNumber(int)), m_mainPicture.get(),

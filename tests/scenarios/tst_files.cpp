@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "createpicture.h"
+#include "filejobs.h"
 #include "filelistmodel.h"
 #include "filesystemview.h"
 #include "filethumbnail.h"
@@ -161,6 +162,13 @@ private slots:
             QVERIFY(merged->ReadFrame(i, frame, error));
             QCOMPARE(int(frame.Samples<quint16>(9)[19]), 119 + 1000 * i);
         }
+
+        // Merged anew, it is not turned as the file before was.
+        Desk()->MainPicture()->slotRotateImage(0);
+        QTRY_COMPARE(Desk()->MainPicture()->GetImageSizeString(), QString("10x20"));
+        m_workbench->services.Jobs()->Merge({Path("0.tif"), Path("1.tif")}, Path("all.tif"));
+        QTRY_COMPARE(Desk()->MainPicture()->FrameCount(), 2);
+        QCOMPARE(Desk()->MainPicture()->GetImageSizeString(), QString("20x10"));
     }
 
     void aFileIsRenamedTrashedAndBroughtBack()

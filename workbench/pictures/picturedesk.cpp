@@ -231,7 +231,16 @@ void PictureDesk::slotFileMoved(const QString &from, const QString &to)
 void PictureDesk::slotFileChanged(const QString &path)
 {
     if (PictureDocument *document = m_shelf->Find(path))
+        Reopen(document);
+}
+
+/// What was done to the old file does not belong to the new one.
+void PictureDesk::slotFileReplaced(const QString &path)
+{
+    if (PictureDocument *document = m_shelf->Find(path)) {
+        document->Reset();
         Reread(document);
+    }
 }
 
 PictureDocument *PictureDesk::PartnerOf(const PictureDocument *document) const
@@ -303,10 +312,7 @@ void PictureDesk::slotSaved(const SaveRequest &request, const QString &error)
         emit signalMessage(tr("\u201c%1\u201d was saved.").arg(QFileInfo(request.target).fileName()));
         if (source && request.frameCount >= request.edit.SeenFrames(source->Info().frames))
             source->SetSaved(request.edit);
-        if (PictureDocument *document = m_shelf->Find(request.target)) {
-            document->Reset(); // what was done to the old file is in the new one
-            Reread(document);
-        }
+        slotFileReplaced(request.target); // what was done is in it
     }
     if (source)
         emit signalSaveEnded(source);
@@ -315,9 +321,15 @@ void PictureDesk::slotSaved(const SaveRequest &request, const QString &error)
 /// The file may be another one now.
 void PictureDesk::Reread(PictureDocument *document)
 {
-    m_loader->Close(document->File().id);
     document->SetRange(SampleRange());
     document->SetFrame(0);
+    Reopen(document);
+}
+
+/// With the frame and the levels that were shown.
+void PictureDesk::Reopen(PictureDocument *document)
+{
+    m_loader->Close(document->File().id);
     for (OpenedPicture *picture : { m_main, m_compare }) {
         if (picture->WantedDocument() == document)
             picture->Show(document);

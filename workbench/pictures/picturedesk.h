@@ -65,8 +65,10 @@ public slots:
     void slotUpdateUndo();
     /// The file has another path.
     void slotFileMoved(const QString &from, const QString &to);
-    /// The file was written anew.
+    /// The file was written anew, with the same samples.
     void slotFileChanged(const QString &path);
+    /// Another file stands at this path.
+    void slotFileReplaced(const QString &path);
 
 signals:
     /// The main picture that the user asked for is ready.
@@ -94,6 +96,7 @@ private slots:
 
 private:
     void Reread(PictureDocument *document);
+    void Reopen(PictureDocument *document);
     PictureDocument *PartnerOf(const PictureDocument *document) const;
     /// Checked or selected in the list; null when that is none or more than one.
     PictureDocument *OnlyChosen() const;

@@ -81,6 +81,36 @@ private slots:
         QVERIFY(bench.main.Document()->UndoStack()->canUndo());
     }
 
+    void aFileThatWasReplacedIsAsItStandsOnTheDisk()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("one.tif", QSize(5, 3)));
+        bench.main.slotRotateImage(0);
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("3x5"));
+        MadePictures::Write(bench.Path("one.tif"), QSize(7, 2));
+        bench.desk.slotFileReplaced(bench.Path("one.tif"));
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("7x2"));
+        QVERIFY(!bench.main.Document()->UndoStack()->canUndo());
+        QVERIFY(!bench.main.Document()->IsChanged());
+    }
+
+    void aNewResolutionLeavesFrameAndLevels()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("stack.tif", QSize(5, 3), 3));
+        bench.main.SetImage(2);
+        QTRY_COMPARE(bench.main.Document()->Frame(), 2);
+        const SampleRange range{ 100, 900 };
+        bench.main.Document()->SetRange(range);
+        const int shown = bench.shown.size();
+        bench.desk.slotFileChanged(bench.Path("stack.tif"));
+        QTRY_VERIFY(bench.shown.size() > shown);
+        QCOMPARE(bench.main.Document()->Frame(), 2);
+        QCOMPARE(bench.main.Shown().request.frame, 2);
+        QCOMPARE(bench.main.Document()->Range().left, range.left);
+        QCOMPARE(bench.main.Document()->Range().right, range.right);
+    }
+
     void closingShowsTheNeighbour()
     {
         PictureBench bench;
