@@ -7,7 +7,9 @@
 #include "pictureresolution.h"
 
 #include <QFileInfo>
+#include <QLocale>
 
+#include <cmath>
 #include <memory>
 #include <new>
 
@@ -44,6 +46,17 @@ bool Guarded(const QString &path, QString &error, const Work &work)
         error = FileJobs::tr("There is not enough memory for \u201c%1\u201d. Close other pictures or programs.").arg(NameOf(path));
         return false;
     }
+}
+
+/// As the file has it: some formats hold whole numbers only, PNG pixels a metre.
+QString ResolutionText(const QString &path)
+{
+    constexpr int hundredth = 100;
+    QString error;
+    const std::unique_ptr<PictureFile> file = OpenPicture(path, error);
+    if (!file)
+        return QString();
+    return QLocale().toString(std::round(file->Info().dpiX * hundredth) / hundredth, 'g', QLocale::FloatingPointShortest);
 }
 
 bool IsAlike(const PictureInfo &one, const PictureInfo &other)
@@ -146,9 +159,9 @@ void FileJobs::SetResolution(const QStringList &paths, double dpi)
                 Tell([this, error] { emit signalFault(error); });
                 return;
             }
-            Tell([this, path, dpi] {
+            Tell([this, path, written = ResolutionText(path)] {
                 emit signalChanged(path);
-                emit signalMessage(tr("\u201c%1\u201d has %2 pixels an inch now.").arg(NameOf(path)).arg(dpi));
+                emit signalMessage(tr("\u201c%1\u201d has %2 pixels an inch now.").arg(NameOf(path), written));
             });
         });
     }

@@ -5,6 +5,8 @@
 #include "openpicture.h"
 
 #include <QDir>
+#include <QImage>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -77,6 +79,33 @@ private slots:
         QCOMPARE(changed.last().first().toString(), Path("b.png"));
         QString error;
         QCOMPARE(OpenPicture(Path("a.tif"), error)->Info().dpiX, 600.0);
+    }
+
+    void resolutionIsToldAsTheFileHasIt_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("any number") << "a.tif" << "72,5";
+        QTest::newRow("pixels a metre") << "a.png" << "72,49"; // 2854 pixels a metre
+        QTest::newRow("whole numbers") << "a.jpg" << "73";
+    }
+    void resolutionIsToldAsTheFileHasIt()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, written);
+        QImage image(3, 2, QImage::Format_Grayscale8);
+        image.fill(Qt::gray);
+        if (name.endsWith("tif"))
+            MadePictures::Write(Path(name), image.size());
+        else
+            QVERIFY(image.save(Path(name)));
+        QLocale::setDefault(QLocale(QLocale::German));
+        m_jobs->SetResolution({Path(name)}, 72.5);
+        const bool isTold = QTest::qWaitFor([&] { return m_messages->count() == 1; });
+        QLocale::setDefault(QLocale::c());
+        QVERIFY(isTold);
+        QCOMPARE(m_messages->first().first().toString(),
+                 QString("\u201c%1\u201d has %2 pixels an inch now.").arg(name, written));
     }
 
     void equalPicturesBecomeOneFile()
