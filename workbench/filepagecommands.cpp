@@ -2,6 +2,7 @@
 #include "filepagecommands.h"
 
 #include "filejobs.h"
+#include "filenametext.h"
 #include "filethumbnail.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
@@ -16,6 +17,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
+#include <QLabel>
 #include <QUndoStack>
 
 namespace {
@@ -27,7 +29,7 @@ constexpr int DpiDecimals = 3;
 
 QString NamesText(const QStringList &paths)
 {
-    const QString first = QFileInfo(paths.first()).fileName();
+    const QString first = FileNameText(QFileInfo(paths.first()).fileName());
     return paths.size() == 1 ? FilePageCommands::tr("\u201c%1\u201d").arg(first)
                              : FilePageCommands::tr("\u201c%1\u201d and %n more", nullptr, paths.size() - 1).arg(first);
 }
@@ -115,6 +117,7 @@ void FilePageCommands::AskForDpi(const QStringList &paths, double dpi)
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(tr("Modify DPI"));
     dialog->setLabelText(tr("Pixels an inch (DPI) of %1. The file is written anew; its samples stay.").arg(NamesText(paths)));
+    dialog->findChild<QLabel *>()->setTextFormat(Qt::PlainText); // names may look like markup
     dialog->setInputMode(QInputDialog::DoubleInput);
     dialog->setDoubleDecimals(DpiDecimals);
     dialog->setDoubleRange(LeastDpi, MostDpi);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "unsavedguard.h"
 
-#include "filenametext.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
 #include "picturedialogs.h"
@@ -69,7 +68,7 @@ QMessageBox *UnsavedGuard::NewBox(const QVector<PictureDocument *> &changed)
     if (m_box && m_box->isVisible())
         return nullptr;
     const QString text = changed.size() == 1
-        ? tr("\u201c%1\u201d has changes that are not saved.").arg(FileNameText(changed.first()->Name()))
+        ? tr("\u201c%1\u201d has changes that are not saved.").arg(changed.first()->ShownName())
         : tr("%n pictures have changes that are not saved.", nullptr, changed.size());
     m_box = new QMessageBox(QMessageBox::Question, tr("Unsaved Changes"), text, QMessageBox::NoButton, m_window);
     m_box->setObjectName("UnsavedQuestion");

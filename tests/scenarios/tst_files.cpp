@@ -213,6 +213,20 @@ private slots:
         QTRY_COMPARE(OpenPicture(Path("a.tif"), error)->Info().dpiX, 1200.0);
     }
 
+    /// A name that looks like markup is no markup.
+    void aNameInAngleBracketsIsAskedFor()
+    {
+        WritePicture(Path("<b>a<b>.tif"), QSize(4, 2));
+        ShowFolder();
+        QTRY_COMPARE(Count(), 1);
+        QTest::mouseClick(m_list->viewport(), Qt::LeftButton, Qt::NoModifier, Place(0));
+        Bottom("pushButtonModifyDPI")->click();
+        auto *dialog = m_workbench->window.findChild<QInputDialog *>("DpiDialog");
+        QVERIFY(dialog->labelText().contains("<b>a<b>.tif"));
+        QCOMPARE(dialog->findChild<QLabel *>()->textFormat(), Qt::PlainText);
+        dialog->reject();
+    }
+
     void badFoldersAreSaidOnThePage()
     {
         auto *path = m_workbench->window.findChild<FileSystemView *>()->findChild<QLineEdit *>("lineEditPath");

@@ -3,6 +3,7 @@
 
 #include "createpicture.h"
 #include "csvwriter.h"
+#include "filenametext.h"
 #include "openpicture.h"
 #include "pictureresolution.h"
 
@@ -17,7 +18,7 @@ namespace {
 
 QString NameOf(const QString &path)
 {
-    return QFileInfo(path).fileName();
+    return FileNameText(QFileInfo(path).fileName());
 }
 
 /// Beside the picture, under a name that is free: "cells.csv", "cells (2).csv".

@@ -166,7 +166,7 @@ void OpenedPicture::AnnounceSpectrum(bool isOther, bool isOtherSize)
 
 void OpenedPicture::AnnounceDocument()
 {
-    emit signalUpdateFileName(m_document->Name());
+    emit signalUpdateFileName(m_document->ShownName());
     if (!m_shown.info.warning.isEmpty())
         emit signalMessage(m_shown.info.warning);
 }
@@ -272,7 +272,7 @@ void OpenedPicture::slotRenamed()
     if (!m_document || m_shown.request.file.path == m_document->Path())
         return;
     m_shown.request.file.path = m_document->Path();
-    emit signalUpdateFileName(m_document->Name());
+    emit signalUpdateFileName(m_document->ShownName());
     emit signalUpdateFileNameAndSize(GetFileInfo());
 }
 
@@ -423,11 +423,11 @@ bool OpenedPicture::IsColour() const { return !IsNonImage() && m_shown.samples.C
 
 QSize OpenedPicture::GetImageSize() const { return IsNonImage() ? QSize() : m_shown.samples.Size(); }
 
-QString OpenedPicture::GetFileName() const { return IsNonImage() ? QString() : m_document->Name(); }
+QString OpenedPicture::GetFileName() const { return IsNonImage() ? QString() : m_document->ShownName(); }
 
 QString OpenedPicture::GetFileInfo() const
 {
-    return IsNonImage() ? QString() : QString("%1  %2").arg(m_document->Name(), GetImageSizeString());
+    return IsNonImage() ? QString() : QString("%1  %2").arg(GetFileName(), GetImageSizeString());
 }
 
 QString OpenedPicture::GetImageSizeString() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "picturedesk.h"
 
+#include "filenametext.h"
 #include "globalmanager.h"
 #include "openedpicture.h"
 #include "picturedocument.h"
@@ -153,7 +154,7 @@ void PictureDesk::Rename(PictureDocument *document, const QString &name)
     }
     emit document->signalChanged(); // the list takes the old name back
     emit signalFault(
-        tr("\u201c%1\u201d was not renamed to \u201c%2\u201d: %3.").arg(document->Name(), name, reason));
+        tr("\u201c%1\u201d was not renamed to \u201c%2\u201d: %3.").arg(document->ShownName(), FileNameText(name), reason));
 }
 
 PictureDocument *PictureDesk::OnlyChosen() const
@@ -309,7 +310,7 @@ void PictureDesk::slotSaved(const SaveRequest &request, const QString &error)
     if (!error.isEmpty()) {
         emit signalFault(error);
     } else {
-        emit signalMessage(tr("\u201c%1\u201d was saved.").arg(QFileInfo(request.target).fileName()));
+        emit signalMessage(tr("\u201c%1\u201d was saved.").arg(FileNameText(QFileInfo(request.target).fileName())));
         if (source && request.frameCount >= request.edit.SeenFrames(source->Info().frames))
             source->SetSaved(request.edit);
         slotFileReplaced(request.target); // what was done is in it

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "picturedocument.h"
 
+#include "filenametext.h"
+
 #include <QFileInfo>
 #include <QUndoStack>
 
@@ -34,6 +36,8 @@ PictureDocument::PictureDocument(quint64 id, const QString &path, QObject *paren
 }
 
 QString PictureDocument::Name() const { return QFileInfo(m_path).fileName(); }
+
+QString PictureDocument::ShownName() const { return FileNameText(Name()); }
 
 void PictureDocument::SetPath(const QString &path)
 {

@@ -23,6 +23,8 @@ public:
     const QString &Path() const { return m_path; }
     /// Without its folder.
     QString Name() const;
+    /// On one line, to be shown.
+    QString ShownName() const;
     void SetPath(const QString &path);
 
     /// Frames are 0 until the file was opened once.

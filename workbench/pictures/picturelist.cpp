@@ -170,7 +170,7 @@ void PictureList::slotDocumentChanged()
 void PictureList::Update(QListWidgetItem *item)
 {
     const PictureDocument *document = DocumentOf(item);
-    item->setText(document->Name());
+    item->setText(document->ShownName());
     item->setToolTip(document->Description());
     item->setCheckState(document->IsChecked() ? Qt::Checked : Qt::Unchecked);
     item->setIcon(IconOf(document->Thumbnail()));
@@ -225,7 +225,7 @@ void PictureList::slotItemChanged(QListWidgetItem *item)
     const bool isChecked = item->checkState() == Qt::Checked;
     if (isChecked != document->IsChecked())
         emit signalSetImageChecked(document, isChecked);
-    else if (item->text() != document->Name())
+    else if (item->text() != document->ShownName())
         emit signalRename(document, item->text());
 }
 

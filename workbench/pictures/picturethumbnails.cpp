@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "picturethumbnails.h"
 
+#include "filenametext.h"
 #include "openpicture.h"
 #include "scaledsamples.h"
 
@@ -22,7 +23,7 @@ struct Text
 
 QString NameOf(const QString &path)
 {
-    return QFileInfo(path).fileName();
+    return FileNameText(QFileInfo(path).fileName());
 }
 
 double BytesOf(const PictureInfo &info)

@@ -48,6 +48,15 @@ private slots:
         QCOMPARE(Lines("a (2).csv"), Lines("a.csv"));
     }
 
+    void aNameWithALineBreakIsOneLine()
+    {
+        MadePictures::Write(Path("two\nlines.tif"), QSize(3, 2));
+        m_jobs->ConvertToCsv({Path("two\nlines.tif")});
+        QTRY_COMPARE(m_messages->count(), 1);
+        QCOMPARE(Lines("two\nlines.csv").first(), QString::fromUtf8("# picture: two\u23celines.tif"));
+        QVERIFY(m_messages->first().first().toString().startsWith(QString::fromUtf8("\u201ctwo\u23celines.tif\u201d")));
+    }
+
     void whatIsSeenBecomesCsv()
     {
         m_jobs->ConvertToCsv(MadePictures::Numbered(QSize(3, 1), 1), Path("a.tif"), "frame: 2 of 5");

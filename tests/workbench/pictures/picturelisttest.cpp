@@ -51,6 +51,19 @@ class PictureListTest : public GuardedTest
     Q_OBJECT
 
 private slots:
+    void aNameWithALineBreakIsOneLine()
+    {
+        ListBench bench;
+        const QString shown = QString::fromUtf8("two\u23celines.tif");
+        MadePictures::Write(bench.Path("two\nlines.tif"), QSize(6, 4));
+        bench.desk.Open({ bench.Path("two\nlines.tif") }, &bench.main);
+        QTRY_COMPARE(bench.main.GetFileInfo(), shown + "  6x4");
+        QCOMPARE(bench.widget->item(0)->text(), shown);
+        QSignalSpy renamed(bench.list.get(), SIGNAL(signalRename(QObject *, QString)));
+        bench.widget->item(0)->setCheckState(Qt::Checked); // is no new name
+        QCOMPARE(renamed.size(), 0);
+    }
+
     void anEmptyListSaysWhatToDo()
     {
         ListBench bench;
