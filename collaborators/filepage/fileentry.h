@@ -12,11 +12,12 @@ struct FileEntry
     qint64 bytes = 0;
     qint64 modifiedMs = 0; ///< since 1970, UTC
     bool isBrokenLink = false; ///< what it points to is not there
+    bool isMisspelt = false;   ///< its name is in another encoding: no program finds the file by what is shown of it
 
     bool operator==(const FileEntry &other) const
     {
         return name == other.name && bytes == other.bytes && modifiedMs == other.modifiedMs
-               && isBrokenLink == other.isBrokenLink;
+               && isBrokenLink == other.isBrokenLink && isMisspelt == other.isMisspelt;
     }
     bool operator!=(const FileEntry &other) const { return !(*this == other); }
 };

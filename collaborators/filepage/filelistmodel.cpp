@@ -100,7 +100,7 @@ QVector<ThumbnailStore::Subject> FileListModel::MissingThumbnails(const QVector<
 {
     QVector<ThumbnailStore::Subject> missing;
     for (const int row : rows) {
-        if (!Entry(row).isBrokenLink && !ThumbnailOf(row))
+        if (!Entry(row).isBrokenLink && !Entry(row).isMisspelt && !ThumbnailOf(row))
             missing.append({PathOf(row), Entry(row).modifiedMs, Entry(row).bytes});
     }
     return missing;
@@ -141,6 +141,9 @@ QVariant FileListModel::data(const QModelIndex &index, int role) const
     case FaultRole: {
         if (Entry(row).isBrokenLink)
             return tr("A link to a file that is not there any more.");
+        if (Entry(row).isMisspelt)
+            return tr("Its name is written in another encoding, as on old disks, and the file cannot be reached by it. Give "
+                      "it another name, for example in a terminal.");
         const Thumbnail *thumbnail = ThumbnailOf(row);
         return thumbnail ? thumbnail->fault : QString();
     }

@@ -129,6 +129,7 @@ FolderFiles FolderReading::Files(const QString &path, const QStringList &suffixe
             files.entries.append({name, 0, 0, true});
         } else if (reason == 0 && S_ISREG(status.st_mode)) {
             files.entries.append(EntryOf(name, status));
+            files.entries.last().isMisspelt = QFile::encodeName(name) != entry->d_name;
         }
     }
     if (errno != 0)

@@ -85,6 +85,18 @@ private slots:
         QCOMPARE(model.MissingThumbnails({0}).first().modifiedMs, 200);
     }
 
+    void aNameInAnotherEncodingIsSaid()
+    {
+        FileListModel model;
+        FileEntries entries{{"a.tif", 1, 1, false}, {"a.tif", 1, 1, false}};
+        entries[1].isMisspelt = true;
+        model.SetListing(Listing(entries, {}, true));
+        QCOMPARE(model.MissingThumbnails({0, 1}).size(), 1); // it could not be opened
+        QVERIFY(model.index(0).data(FileListModel::FaultRole).toString().isEmpty());
+        QVERIFY(model.index(1).data(FileListModel::FaultRole).toString().contains("another encoding"));
+        QVERIFY(model.index(1).data(Qt::ToolTipRole).toString().contains("another encoding"));
+    }
+
     /// Whatever a large screen wants is at hand at once; else it would be read again and again.
     void asManyThumbnailsAreKeptAsAreWanted()
     {

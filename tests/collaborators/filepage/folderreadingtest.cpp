@@ -6,7 +6,9 @@
 #include <QFile>
 
 #include <algorithm>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -56,6 +58,22 @@ private slots:
         QStringList sorted = names;
         sorted.sort();
         QCOMPARE(Names(Read(folder.Path())), sorted);
+    }
+
+    /// As on old disks: Latin-1, which is no UTF-8.
+    void namesInAnotherEncodingAreListedAsSuch()
+    {
+        const FileFolder folder;
+        folder.Write(QString::fromUtf8("Pr\u00e4parat.tif"));
+        const QByteArray latin = QFile::encodeName(folder.Path()) + "/Pr\xe4parat 2.tif";
+        const int fd = ::open(latin.constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0644);
+        QVERIFY(fd >= 0);
+        ::close(fd);
+        const FolderFiles files = Read(folder.Path());
+        QCOMPARE(::unlink(latin.constData()), 0); // the folder's own end does not find it
+        QCOMPARE(files.entries.size(), 2);
+        for (const FileEntry &entry : files.entries)
+            QCOMPARE(entry.isMisspelt, entry.name.contains('2'));
     }
 
     void brokenLinksAreListedAsSuch()
