@@ -16,6 +16,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileDialog>
@@ -69,6 +70,22 @@ void WriteEmptyFiles(const QString &folder, int count)
         if (fd < 0)
             qFatal("No more files can be made.");
         ::close(fd);
+    }
+}
+
+/// Copies of one, long ago, so that what is made of them goes into the cache.
+void WritePictures(const QString &folder, int count)
+{
+    constexpr int AgeSeconds = 3600;
+    const QString first = folder + "/frame0.tif";
+    WritePicture(first, QSize(256, 256));
+    for (int i = 0; i < count; ++i) {
+        QFile file(folder + QString("/frame%1.tif").arg(i));
+        if (i > 0)
+            QFile::copy(first, file.fileName());
+        if (!file.open(QIODevice::ReadWrite)
+            || !file.setFileTime(QDateTime::currentDateTime().addSecs(-AgeSeconds), QFileDevice::FileModificationTime))
+            qFatal("%s", qPrintable(file.errorString()));
     }
 }
 
@@ -284,6 +301,32 @@ private slots:
         QVERIFY2(watchdog.LongestMs() <= LongestBlockMs, watchdog.Text("following"));
     }
 
+    /// Through all their thumbnails, which the cache has.
+    void twoThousandPicturesAreScrolledThrough()
+    {
+        constexpr int Pictures = 2000;
+        WritePictures(m_folder->filePath("pictures"), Pictures);
+        ShowFolder();
+        QTRY_COMPARE_WITH_TIMEOUT(Count(), Pictures, WaitMs);
+        QScrollBar *bar = m_list->verticalScrollBar();
+        const int step = m_list->viewport()->height() / 2;
+        for (int value = 0; value < bar->maximum() + step; value += step) {
+            bar->setValue(value);
+            QTRY_VERIFY_WITH_TIMEOUT(AllSeenHaveThumbnails(), WaitMs); // made, and from then on in the cache
+        }
+        GuiWatchdog watchdog;
+        for (int value = 0; value < bar->maximum() + step; value += step) {
+            bar->setValue(value);
+            QTRY_VERIFY_WITH_TIMEOUT(AllSeenHaveThumbnails(), WaitMs);
+        }
+        for (int value = bar->maximum(); value >= 0; value -= bar->singleStep()) {
+            bar->setValue(value);
+            QCoreApplication::processEvents();
+        }
+        QTRY_VERIFY_WITH_TIMEOUT(AllSeenHaveThumbnails(), WaitMs);
+        QVERIFY2(watchdog.LongestMs() <= LongestBlockMs, watchdog.Text("scrolling through thumbnails"));
+    }
+
     /// Far down in a long list nothing that comes or goes throws anyone back.
     void thePlaceInALongListStays()
     {
@@ -334,6 +377,17 @@ private:
         m_workbench->services.Config()->SetFileView();
         m_page->slotOpenFileDirectory(m_folder->filePath("pictures"));
         QTRY_VERIFY(m_page->isVisible());
+    }
+    bool AllSeenHaveThumbnails() const
+    {
+        int row = FirstSeenRow();
+        if (row < 0)
+            return false;
+        for (; row < Count() && Place(row).y() < m_list->viewport()->height(); ++row) {
+            if (Thumbnail(row).isNull())
+                return false;
+        }
+        return true;
     }
     bool IsLaidOut() const { return m_list->visualRect(Index(Count() - 1)).isValid(); }
     int FirstSeenRow() const { return m_list->indexAt(m_list->viewport()->rect().topLeft() + QPoint(20, 20)).row(); }
