@@ -169,9 +169,8 @@ private slots:
         const QString path = m_folder->filePath("lamp.tif");
         RecordingDesk *recording = m_workbench->services.Recording();
         QSignalSpy ended(recording, &RecordingDesk::signalRunEnded);
-        QString warning;
         QString error;
-        QVERIFY2(recording->Start(settings, path, &warning, &error), qPrintable(error));
+        QVERIFY2(recording->Start(settings, path, &error), qPrintable(error));
         QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, waitMs);
         m_workbench->services.Calibration()->TakeAway();
 
