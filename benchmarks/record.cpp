@@ -98,6 +98,7 @@ public:
         m_thread = std::thread([this, sink] { Send(sink); });
         return true;
     }
+    bool IsStarted() const override { return m_runs; }
     void StopFrames() override
     {
         m_runs = false;

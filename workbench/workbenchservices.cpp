@@ -273,7 +273,7 @@ void WorkbenchServices::ConnectSpectrum()
             [this, settings] { m_spectrumPipeline->SetRecipe(settings->Recipe()); });
     connect(settings, &SpectrumSettings::signalRecipeChanged, this, &WorkbenchServices::UpdateProfilesWanted);
     // Once the plot knows of it; of a standing camera and of a file no curve comes by itself.
-    connect(settings, &SpectrumSettings::signalWholeCurveWanted, this, &WorkbenchServices::slotShowCurvesAgain, Qt::QueuedConnection);
+    connect(settings, &SpectrumSettings::signalWholeCurveWanted, this, &WorkbenchServices::slotShowWholeCurve, Qt::QueuedConnection);
     ConnectTracks();
     connect(m_config.get(), &WorkspaceConfig::signalSwitchView, settings, [this, settings] {
         const int view = m_config->GetCurrentView();
@@ -344,10 +344,9 @@ void WorkbenchServices::TellOfNoTracks()
         m_spectrumPipeline->AnnounceNoTracks();
 }
 
-void WorkbenchServices::slotShowCurvesAgain()
+void WorkbenchServices::slotShowWholeCurve()
 {
-    m_preview->slotShowAgain();
-    m_spectrumPipeline->ShowAgain();
+    slotShowCurvesAgain();
     m_mainPicture->slotShowCurvesAgain();
 }
 

@@ -114,7 +114,7 @@ private slots:
     void slotPictureSizeChanged(QSize size);
     void slotRegionWanted(QRect region);
     void slotDisplayModeChanged();
-    void slotShowCurvesAgain();
+    void slotShowWholeCurve();
     void slotShowPalette();
 
 private:
