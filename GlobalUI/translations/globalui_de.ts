@@ -54,6 +54,10 @@
         <source>Histogram(Live)</source>
         <translation>Histogramm (live)</translation>
     </message>
+    <message>
+        <source>Camera Panels</source>
+        <translation>Kamerabedienfelder</translation>
+    </message>
 </context>
 <context>
     <name>CapturePreviewUI</name>
@@ -72,6 +76,29 @@
     <message>
         <source>Stop</source>
         <translation>Stopp</translation>
+    </message>
+</context>
+<context>
+    <name>CenterStackedWidget</name>
+    <message>
+        <source>Left Panel</source>
+        <translation>Linkes Bedienfeld</translation>
+    </message>
+    <message>
+        <source>Hide the Right Panel</source>
+        <translation>Rechtes Bedienfeld ausblenden</translation>
+    </message>
+    <message>
+        <source>Show the Right Panel</source>
+        <translation>Rechtes Bedienfeld einblenden</translation>
+    </message>
+    <message>
+        <source>Bottom Panel</source>
+        <translation>Unteres Bedienfeld</translation>
+    </message>
+    <message>
+        <source>Capture</source>
+        <translation>Aufnehmen</translation>
     </message>
 </context>
 <context>
@@ -111,6 +138,10 @@
     <message>
         <source>%1, changed %2</source>
         <translation>%1, geändert %2</translation>
+    </message>
+    <message>
+        <source>Its name is written in another encoding, as on old disks, and the file cannot be reached by it. Give it another name, for example in a terminal.</source>
+        <translation>Der Name ist anders kodiert, wie auf alten Datenträgern, und die Datei ist unter ihm nicht zu erreichen. Die Datei umbenennen, etwa in einem Terminal.</translation>
     </message>
 </context>
 <context>
@@ -413,6 +444,14 @@
         <source>File Preview</source>
         <translation>Dateivorschau</translation>
     </message>
+    <message>
+        <source>Right Panels</source>
+        <translation>Rechte Bedienfelder</translation>
+    </message>
+    <message>
+        <source>Bottom Panels</source>
+        <translation>Untere Bedienfelder</translation>
+    </message>
 </context>
 <context>
     <name>ImageInfoUI</name>
@@ -448,6 +487,10 @@
         <source>Zoom :</source>
         <translation>Zoom :</translation>
     </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
 </context>
 <context>
     <name>ImageNavigateUI</name>
@@ -473,6 +516,10 @@
     <message>
         <source>Automatic Counting</source>
         <translation>Automatisch zählen</translation>
+    </message>
+    <message>
+        <source>Image Panels</source>
+        <translation>Bildbedienfelder</translation>
     </message>
 </context>
 <context>
@@ -512,6 +559,10 @@
         <source>Form</source>
         <translation>Formular</translation>
     </message>
+    <message>
+        <source>Frame</source>
+        <translation>Bild</translation>
+    </message>
 </context>
 <context>
     <name>Spectrum2DDrawFrameBase</name>
@@ -546,6 +597,10 @@
         <source>Counts</source>
         <translation>Zählwert</translation>
     </message>
+    <message>
+        <source>There are no tracks to show: draw them on the picture or have them found.</source>
+        <translation>Es gibt keine Spuren zu zeigen: Spuren ins Bild zeichnen oder suchen lassen.</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumView</name>
@@ -559,6 +614,33 @@
     </message>
 </context>
 <context>
+    <name>SpectrumZoomUI</name>
+    <message>
+        <source>Automatic Range</source>
+        <translation>Automatischer Bereich</translation>
+    </message>
+    <message>
+        <source>Zoom In Horizontally</source>
+        <translation>Waagrecht vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom Out Horizontally</source>
+        <translation>Waagrecht verkleinern</translation>
+    </message>
+    <message>
+        <source>Zoom In Vertically</source>
+        <translation>Senkrecht vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom Out Vertically</source>
+        <translation>Senkrecht verkleinern</translation>
+    </message>
+    <message>
+        <source>Reset Zoom</source>
+        <translation>Zoom zurücksetzen</translation>
+    </message>
+</context>
+<context>
     <name>UIManagerBase</name>
     <message>
         <source>The panel &quot;%1&quot; is not installed.</source>
@@ -567,6 +649,10 @@
     <message>
         <source>no plug-in brings this panel</source>
         <translation>kein Plug-in bringt dieses Bedienfeld mit</translation>
+    </message>
+    <message>
+        <source>no page here has a tab with the id %1; give it the place &quot;bottom&quot; and a title</source>
+        <translation>keine Seite hat hier einen Reiter mit der Nummer %1; ihm den Platz &quot;bottom&quot; und einen Titel geben</translation>
     </message>
 </context>
 <context>
@@ -638,6 +724,10 @@
         <source>it was built for Qt %1.%2, but this program has Qt %3.%4: build it anew</source>
         <translation>es wurde für Qt %1.%2 gebaut, dieses Programm hat aber Qt %3.%4: neu bauen</translation>
     </message>
+    <message>
+        <source>it is not a plug-in: %1</source>
+        <translation>es ist kein Plug-in: %1</translation>
+    </message>
 </context>
 <context>
     <name>ViewToolBar</name>
@@ -701,6 +791,14 @@
         <source>Form</source>
         <translation>Formular</translation>
     </message>
+    <message>
+        <source>Show the Tool Bar</source>
+        <translation>Werkzeugleiste einblenden</translation>
+    </message>
+    <message>
+        <source>Hide the Tool Bar</source>
+        <translation>Werkzeugleiste ausblenden</translation>
+    </message>
 </context>
 <context>
     <name>WidgetSwitchUI</name>
@@ -715,6 +813,10 @@
     <message>
         <source>Convert to CSV</source>
         <translation>In CSV umwandeln</translation>
+    </message>
+    <message>
+        <source>Back to the View Before</source>
+        <translation>Zurück zur vorigen Ansicht</translation>
     </message>
 </context>
 <context>

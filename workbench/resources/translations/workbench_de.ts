@@ -183,6 +183,10 @@
         <source>, </source>
         <translation>, </translation>
     </message>
+    <message>
+        <source>dark of another exposure subtracted: take it anew</source>
+        <translation>Dunkelspektrum anderer Belichtung abgezogen: neu aufnehmen</translation>
+    </message>
 </context>
 <context>
     <name>AutoCountPanel</name>
@@ -227,6 +231,10 @@
     <message>
         <source>The calibration was made for the sensor&apos;s pixels %1 to %2, and this spectrum has others too: positions are in pixels. Choose a region among those, or calibrate anew.</source>
         <translation>Die Kalibrierung gilt für die Pixel %1 bis %2 des Sensors, und dieses Spektrum hat auch andere: Positionen sind in Pixeln. Einen Bereich unter jenen wählen oder neu kalibrieren.</translation>
+    </message>
+    <message>
+        <source>The calibration was made on an opened picture, which does not say what pixels of the sensor it shows: live spectra stay in pixels. Calibrate on a live one to have it there too.</source>
+        <translation>Die Kalibrierung stammt von einem geöffneten Bild, das nicht sagt, welche Pixel des Sensors es zeigt: Live-Spektren bleiben in Pixeln. An einem Live-Spektrum kalibrieren, damit sie auch dort gilt.</translation>
     </message>
 </context>
 <context>
@@ -346,6 +354,10 @@
     <message>
         <source>%1 It is applied.</source>
         <translation>%1 Sie ist angewendet.</translation>
+    </message>
+    <message>
+        <source>%1 Left out: peaks broader or narrower than a line: %2, two lines in one: %3, off the curve: %4.</source>
+        <translation>%1 Ausgelassen: breiter oder schmaler als eine Linie: %2, zwei Linien in einer: %3, neben der Kurve: %4.</translation>
     </message>
 </context>
 <context>
@@ -494,6 +506,10 @@
     <message>
         <source>The camera %1 did not start: %2. Close it and open it again.</source>
         <translation>Die Kamera %1 lief nicht an: %2. Schließen und neu öffnen.</translation>
+    </message>
+    <message>
+        <source>its frames have no size</source>
+        <translation>ihre Bilder haben keine Größe</translation>
     </message>
 </context>
 <context>
@@ -662,6 +678,10 @@
     <message>
         <source>%1 could not be set: %2. Choose another one.</source>
         <translation>%1 ließ sich nicht einstellen: %2. Etwas anderes wählen.</translation>
+    </message>
+    <message>
+        <source>The camera has chosen a pixel format that can&apos;t be shown. It is %1 again.</source>
+        <translation>Die Kamera hatte ein Pixelformat gewählt, das nicht gezeigt werden kann. Es ist wieder %1.</translation>
     </message>
 </context>
 <context>
@@ -1351,6 +1371,17 @@ Im Menü Kamera eine wählen.</translation>
     </message>
 </context>
 <context>
+    <name>LedgerLine</name>
+    <message>
+        <source>Spectra of %1 of %2 frames, none missed.</source>
+        <translation>Spektren von %1 der %2 Bilder, keines verpasst.</translation>
+    </message>
+    <message>
+        <source>Spectra of %1 of %2 frames; %3 came too fast and were missed.</source>
+        <translation>Spektren von %1 der %2 Bilder; %3 kamen zu schnell und wurden verpasst.</translation>
+    </message>
+</context>
+<context>
     <name>LevelsDialog</name>
     <message>
         <source>Levels</source>
@@ -1780,6 +1811,10 @@ Im Menü Kamera eine wählen.</translation>
         <source>Close &amp;All</source>
         <translation>&amp;Alle schließen</translation>
     </message>
+    <message>
+        <source>Opened pictures</source>
+        <translation>Geöffnete Bilder</translation>
+    </message>
 </context>
 <context>
     <name>PictureLoader</name>
@@ -1940,6 +1975,10 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>Not loaded: %1</source>
         <translation>Nicht geladen: %1</translation>
+    </message>
+    <message>
+        <source>Loaded, but not seen: %1</source>
+        <translation>Geladen, aber nicht zu sehen: %1</translation>
     </message>
 </context>
 <context>
@@ -2409,6 +2448,10 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>No frame came from the camera.</source>
         <translation>Von der Kamera kam kein Bild.</translation>
+    </message>
+    <message>
+        <source>The recording did not begin: the camera was lost, or did not answer in time.</source>
+        <translation>Die Aufzeichnung hat nicht begonnen: Die Kamera ging verloren oder antwortete nicht rechtzeitig.</translation>
     </message>
 </context>
 <context>
@@ -3232,6 +3275,10 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>frame %1 of %2 is not whole</source>
         <translation>das Bild %1 von %2 ist nicht vollständig</translation>
     </message>
+    <message>
+        <source>“%1”: its %2 regions are shown as one picture, with the filler rows that lie between them.</source>
+        <translation>„%1“: Die %2 Bereiche werden als ein Bild gezeigt, mit den Füllzeilen dazwischen.</translation>
+    </message>
 </context>
 <context>
     <name>SpectralMetadata</name>
@@ -3429,6 +3476,14 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>&amp;Clear Tracks</source>
         <translation>&amp;Alle Spuren entfernen</translation>
+    </message>
+    <message>
+        <source>An opened file is shown: go to the camera first.</source>
+        <translation>Eine geöffnete Datei wird gezeigt: zuerst zur Kamera gehen.</translation>
+    </message>
+    <message>
+        <source>&amp;All Columns</source>
+        <translation>Alle &amp;Spalten</translation>
     </message>
 </context>
 <context>
@@ -3788,6 +3843,38 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>Pixels are at the end of their range: peaks are cut off there. Shorten the exposure.</source>
         <translation>Pixel sind am Ende ihres Bereichs: Linien sind dort abgeschnitten. Die Belichtung verkürzen.</translation>
     </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>all columns</source>
+        <translation>alle Spalten</translation>
+    </message>
+    <message>
+        <source>First column</source>
+        <translation>Erste Spalte</translation>
+    </message>
+    <message>
+        <source>Last column</source>
+        <translation>Letzte Spalte</translation>
+    </message>
+    <message>
+        <source>An opened file is shown: go to the camera first.</source>
+        <translation>Eine geöffnete Datei wird gezeigt: zuerst zur Kamera gehen.</translation>
+    </message>
+    <message>
+        <source>Pixels are at the end of their range: peaks are cut off there.</source>
+        <translation>Pixel sind am Ende ihres Bereichs: Linien sind dort abgeschnitten.</translation>
+    </message>
+    <message>
+        <source>Missed</source>
+        <translation>Verpasst</translation>
+    </message>
+    <message>
+        <source>Lengthen the exposure, or bin fewer rows, to have a spectrum of every frame.</source>
+        <translation>Länger belichten oder weniger Zeilen binnen, um von jedem Bild ein Spektrum zu haben.</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumMenu</name>
@@ -3836,6 +3923,14 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>There is no live picture to find tracks in.</source>
         <translation>Es gibt kein Livebild, um darin Spuren zu suchen.</translation>
+    </message>
+    <message>
+        <source>Take Dark Spectrum</source>
+        <translation>Dunkelspektrum aufnehmen</translation>
+    </message>
+    <message>
+        <source>Take Reference Spectrum</source>
+        <translation>Referenzspektrum aufnehmen</translation>
     </message>
 </context>
 <context>
@@ -4218,6 +4313,40 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>Tracks %1 and %2 overlap: move or remove one of them.</source>
         <translation>Die Spuren %1 und %2 überlappen: eine davon verschieben oder entfernen.</translation>
+    </message>
+</context>
+<context>
+    <name>UnsavedGuard</name>
+    <message>
+        <source>&amp;Discard All</source>
+        <translation>&amp;Alle verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>&amp;Speichern unter…</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>“%1” has changes that are not saved.</source>
+        <translation>„%1“ hat Änderungen, die nicht gespeichert sind.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pictures have changes that are not saved.</source>
+        <translation>
+            <numerusform>%n Bild hat Änderungen, die nicht gespeichert sind.</numerusform>
+            <numerusform>%n Bilder haben Änderungen, die nicht gespeichert sind.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>Closing loses what was done.</source>
+        <translation>Beim Schließen geht verloren, was getan wurde.</translation>
     </message>
 </context>
 <context>

@@ -28,4 +28,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>UnsavedGuard</name>
+    <message numerus="yes">
+        <source>%n pictures have changes that are not saved.</source>
+        <translation>
+            <numerusform>%n picture has changes that are not saved.</numerusform>
+            <numerusform>%n pictures have changes that are not saved.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>
