@@ -48,12 +48,14 @@ void AddSpectralLine(QGraphicsItem *parent, const QRectF &rectangle, qreal angle
     item->setAcceptedMouseButtons(Qt::NoButton);
 }
 
-/// The text `index` of its marks.
-void AddText(QGraphicsItem *marks, int index, const QPointF &scenePos, const QString &text, const QColor &color)
+/// The number `index + 1` of a track stays at it, however many there are.
+void AddNumber(QGraphicsItem *marks, int index, const QPointF &scenePos)
 {
-    auto *item = new MarkText(text, index, marks);
+    auto *item = new QGraphicsSimpleTextItem(QString::number(index + 1), marks);
     item->setPos(scenePos);
-    item->setBrush(color);
+    item->setBrush(Qt::cyan);
+    item->setFlag(QGraphicsItem::ItemIgnoresTransformations);
+    item->setAcceptedMouseButtons(Qt::NoButton);
 }
 
 } // namespace
@@ -115,7 +117,9 @@ void FocusInfo::AddFocusInfo(QList<QRect> rectangles, QList<QPoint> points, QLis
             AddSpectralLine(marks, rectangles.at(i), angles.at(i), MarkPen(Qt::red, style));
         const QString text =
             QString("%1  %2%3").arg(distances.at(i), 0, 'f', 2).arg(angles.at(i), 0, 'f', 2).arg(QChar(0xB0));
-        AddText(marks, i, points.at(i), text, Qt::yellow);
+        auto *item = new MarkText(text, i, marks);
+        item->setPos(points.at(i));
+        item->setBrush(Qt::yellow);
     }
 }
 
@@ -132,7 +136,7 @@ void FocusInfo::AddMultiTrackInfo(QList<QRectF> tracks)
         return;
     for (int i = 0; i < tracks.size(); ++i) {
         AddRectangle(marks, tracks.at(i), MarkPen(Qt::cyan, Qt::SolidLine));
-        AddText(marks, i, tracks.at(i).topLeft(), QString::number(i + 1), Qt::cyan);
+        AddNumber(marks, i, tracks.at(i).topLeft());
     }
 }
 

@@ -2,6 +2,8 @@
 #include "standingcurve.h"
 
 #include "livepreview.h"
+#include "openedpicture.h"
+#include "picturedesk.h"
 #include "workbenchservices.h"
 
 #include <QEvent>
@@ -29,9 +31,10 @@ bool StandingCurve::eventFilter(QObject *watched, QEvent *event)
     return QObject::eventFilter(watched, event);
 }
 
-/// While frames come, the next one does it.
+/// While frames come, the next one does it for the camera's page.
 void StandingCurve::Draw()
 {
     if (!m_services->Preview()->isRunning())
         m_services->slotShowCurvesAgain();
+    m_services->Desk()->MainPicture()->slotShowCurvesAgain();
 }

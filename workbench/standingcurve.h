@@ -6,7 +6,7 @@
 class QWidget;
 class WorkbenchServices;
 
-/// Draws the curve of a stopped camera anew, as the next frame would do it: when another track is chosen at the bar below
+/// Draws the curve of a stopped camera and of an opened picture anew, as the next frame would do it: when another track is chosen at the bar below
 /// the plot, and when its page has another size, as one that was too narrow has drawn nothing. GUI thread.
 class StandingCurve : public QObject
 {

@@ -291,7 +291,10 @@ void WorkbenchServices::ConnectSpectrum()
     connect(m_link, &CameraLink::signalStateChanged, this, &WorkbenchServices::UpdateSensorFrame);
     connect(m_orientation.get(), &LiveOrientation::signalOrientationChanged, this, &WorkbenchServices::UpdateSensorFrame);
     const auto updateExposure = [this] {
-        m_spectrumPipeline->SetExposure(m_link->Session() ? m_link->Session()->Controls().exposureUs : 0);
+        const CameraSession *camera = m_link->Session();
+        // An automatic one is another for each frame, and they don't tell it.
+        const bool isKnown = camera && !camera->Controls().isAutoExposure;
+        m_spectrumPipeline->SetExposure(isKnown ? camera->Controls().exposureUs : 0);
     };
     connect(m_link, &CameraLink::signalControlsChanged, m_spectrumPipeline.get(), updateExposure);
     connect(m_link, &CameraLink::signalStateChanged, m_spectrumPipeline.get(), updateExposure);
@@ -340,7 +343,7 @@ void WorkbenchServices::slotShowCurvesAgain()
 
 void WorkbenchServices::TellOfNoTracks()
 {
-    if (m_centreDisplay->Mode() == DisplayMode::Tracks3D && m_spectrumPipeline->Shown().tracks.empty())
+    if (m_centreDisplay->Mode() == DisplayMode::Tracks3D && !m_spectrumSettings->Recipe().hasTracks)
         m_spectrumPipeline->AnnounceNoTracks();
 }
 
@@ -356,7 +359,11 @@ void WorkbenchServices::UpdateProfilesWanted()
     const DisplayMode mode = m_centreDisplay->Mode();
     const SpectrumRecipe &recipe = m_spectrumSettings->Recipe();
     const bool isCurve = mode == DisplayMode::Plot || mode == DisplayMode::PlotPeak;
-    m_profiles->SetWanted(mode == DisplayMode::Physics || (isCurve && !recipe.isBinning && !recipe.hasTracks));
+    const bool isWanted = mode == DisplayMode::Physics || (isCurve && !recipe.isBinning && !recipe.hasTracks);
+    const bool isNew = isWanted && !m_profiles->IsWanted();
+    m_profiles->SetWanted(isWanted);
+    if (isNew) // after what was shown until now is gone from the page
+        QMetaObject::invokeMethod(this, &WorkbenchServices::slotShowCurvesAgain, Qt::QueuedConnection);
 }
 
 void WorkbenchServices::slotShowPalette()

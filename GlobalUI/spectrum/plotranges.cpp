@@ -17,14 +17,16 @@ QCPRange WithinWholeEnds(const QCPRange &range, const QCPRange &old, const QCPRa
 
 } // namespace
 
-QCPRange WithBlankAbove(double lower, double upper, double blankRatio)
+double UpperWithBlank(double upper, double blankRatio)
 {
     const bool usable = blankRatio >= 0.0 && blankRatio < 1.0; // not a number: no blank either
-    if (!usable)
-        return QCPRange(lower, upper);
-    if (upper < 0.0)
-        return QCPRange(lower, lower + (upper - lower) / (1.0 - blankRatio));
-    return QCPRange(lower, upper / (1.0 - blankRatio));
+    return usable ? upper / (1.0 - blankRatio) : upper;
+}
+
+QCPRange WithBlankAbove(double lower, double upper, double blankRatio)
+{
+    return upper < 0.0 ? QCPRange(lower, lower + UpperWithBlank(upper - lower, blankRatio))
+                       : QCPRange(lower, UpperWithBlank(upper, blankRatio));
 }
 
 QCPRange ZoomedValueRange(const QCPRange &range, double factor)

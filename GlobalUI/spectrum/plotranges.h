@@ -5,6 +5,8 @@
 
 // Axis ranges of the 2D spectrum plot. A range that comes out empty or reversed is none to zoom to.
 
+/// The upper end that leaves `blankRatio` of the height above 0 (0 to below 1) free above `upper`.
+double UpperWithBlank(double upper, double blankRatio);
 /// From `lower` to an upper end that leaves `blankRatio` of the height above 0 (0 to below 1) free above `upper`. A curve
 /// that lies below 0 as a whole has that much of its own height free.
 QCPRange WithBlankAbove(double lower, double upper, double blankRatio);

@@ -184,7 +184,7 @@ void Spectrum2DDrawFrameBase::LeaveBlankAbove()
 void Spectrum2DDrawFrameBase::SlotUpdateLevels(int low, int upper)
 {
     const double blankRatio = SpectrumUIManager::GetInstance()->GetBlankRatio();
-    m_plot->yAxis->setRange(WithBlankAbove(low, upper, blankRatio));
+    m_plot->yAxis->setRange(low, UpperWithBlank(upper, blankRatio));
 }
 
 void Spectrum2DDrawFrameBase::SlotZoomIn()

@@ -116,9 +116,10 @@ void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
     if (!m_plot || !param || !settings->IsDisplayMode3D() || !isVisible())
         return;
     const QList<QRectF> tracks = settings->GetMultiTrackList();
-    ShowPlot(!tracks.isEmpty());
-    if (tracks.isEmpty())
+    if (tracks.isEmpty()) {
+        ShowPlot(false);
         return;
+    }
 
     auto *payload = static_cast<SpectrumLinePayload *>(param);
     const unsigned int *values = nullptr;
@@ -132,8 +133,7 @@ void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
         maximum = payload->maximum;
     }
     const int width = int(tracks.first().width());
-    if (!values)
-        ShowPlot(false); // tracks that are switched off
+    ShowPlot(values); // there are none of tracks that are switched off
     if (!values || width < 1)
         return;
 

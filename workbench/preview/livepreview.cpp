@@ -156,12 +156,19 @@ void LivePreview::slotShowAgain()
     if (isRunning() || m_shownFrame.IsNull())
         return;
     if (m_gate.IsTaken()) {
-        QMetaObject::invokeMethod(this, "slotShowAgain", Qt::QueuedConnection);
+        if (!std::exchange(m_isAskedAgain, true))
+            QMetaObject::invokeMethod(this, &LivePreview::ShowWhenFree, Qt::QueuedConnection);
         return;
     }
     m_gate.Open();
     if (m_gate.Enter())
         SendPicture(m_shownFrame);
+}
+
+void LivePreview::ShowWhenFree()
+{
+    m_isAskedAgain = false;
+    slotShowAgain();
 }
 
 void LivePreview::slotManualROI(int x, int y, int width, int height, bool apply)

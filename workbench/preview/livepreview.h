@@ -88,6 +88,7 @@ private slots:
 private:
     void SendPicture(const CameraFrame &frame);
     void KeepPeriod(QElapsedTimer *sinceLast);
+    void ShowWhenFree();
 
     FrameSource *m_source;
     LiveOrientation *m_orientation;
@@ -103,5 +104,6 @@ private:
     CameraFrame m_shownFrame;
     QSize m_shownSize;
     quint64 m_delivered = 0;
+    bool m_isAskedAgain = false; ///< slotShowAgain() waits for the gate
     LeastPeriod m_leastPeriodMs = [] { return 0; };
 };

@@ -350,7 +350,7 @@ AssignedLines AssignLines(const std::vector<SpectralPeak> &peaks, const Assignme
     const std::vector<SpectralPeak> used = PeaksOfWidth(peaks, width, least);
     const bool isEnough = used.size() >= size_t(leastMatches) && used.back().position > used.front().position && !hints.lamps.isEmpty() && hints.width > 1;
     const QVector<CalibrationPoint> best = isEnough ? Assignment(used, hints).Best() : QVector<CalibrationPoint>();
-    const CalibrationFit fit = FitCalibration(best, std::min(hints.degree, best.size() - 1), hints.width);
+    const CalibrationFit fit = FitCalibration(best, std::min(hints.degree, best.size() - 2), hints.width);
     if (best.isEmpty() || !fit.IsGood())
         return assigned;
     const QVector<CalibrationPoint> apart = WithoutBlends(best, hints.lamps, fit.calibration, width, least);

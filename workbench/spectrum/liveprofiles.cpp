@@ -91,7 +91,14 @@ void LiveProfiles::Analyse(const AnalysedFrame &frame)
                       std::clamp(pick.point.y(), 0, seenSize.height() - 1));
     m_profiles.Extract(samples, frame.orientation.Inverse().Map(seen, seenSize), m_lines);
     Hand(frame, pick.region);
-    emit SignalUpdateCurve(&m_payload);
+    QMetaObject::invokeMethod(this, &LiveProfiles::Announce, Qt::QueuedConnection);
+}
+
+/// In the GUI thread. What was wanted when the frame came may have been replaced by a spectrum since then.
+void LiveProfiles::Announce()
+{
+    if (m_isWanted)
+        emit SignalUpdateCurve(&m_payload);
 }
 
 void LiveProfiles::Hand(const AnalysedFrame &frame, const QRectF &region)

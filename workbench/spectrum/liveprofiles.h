@@ -50,6 +50,7 @@ private:
 
     Pick CurrentPick() const;
     void Hand(const AnalysedFrame &frame, const QRectF &region);
+    void Announce();
 
     QSettings *m_settings;
     std::atomic<bool> m_isWanted{false};

@@ -316,7 +316,8 @@ std::vector<SpectralPeak> FindPeaks(const std::vector<double> &samples, const Pe
 {
     std::vector<SpectralPeak> peaks;
     const double usualNoise = EstimateNoise(samples);
-    if (int(samples.size()) < leastSamples || std::isnan(usualNoise))
+    const bool areNumbers = std::all_of(samples.begin(), samples.end(), [](double sample) { return std::isfinite(sample); });
+    if (int(samples.size()) < leastSamples || !areNumbers || std::isnan(usualNoise))
         return peaks;
     Search search{samples, saturated, rules.saturation, {}, {}, 0, leastDeviations};
     const MatchedFilter filter(backgroundSigma);

@@ -119,7 +119,8 @@ bool SpectrumPipeline::TakeReference()
 
 void SpectrumPipeline::SetExposure(double exposureUs)
 {
-    ChangeEngine([exposureUs](SpectrumEngine *engine) { engine->SetExposure(exposureUs); });
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_exposureUs = exposureUs;
 }
 
 void SpectrumPipeline::FindBandAgain()
@@ -205,6 +206,7 @@ void SpectrumPipeline::Run()
         CameraFrame frame;
         std::function<void(SpectrumEngine *)> change;
         bool findsTracks = false;
+        double exposureUs = 0;
         {
             std::unique_lock<std::mutex> lock(m_mutex);
             m_wake.wait(lock, [this] { return m_stops || !m_queue.empty(); });
@@ -214,7 +216,9 @@ void SpectrumPipeline::Run()
             m_queue.pop_front();
             change = std::exchange(m_change, nullptr);
             findsTracks = std::exchange(m_findsTracks, false);
+            exposureUs = m_exposureUs;
         }
+        m_engine.SetExposure(exposureUs);
         Work(frame, change, findsTracks);
     }
 }

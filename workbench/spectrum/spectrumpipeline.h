@@ -97,6 +97,7 @@ private:
     std::condition_variable m_wake;
     std::deque<CameraFrame> m_queue;
     std::function<void(SpectrumEngine *)> m_change; ///< what is to be done before the next frame
+    double m_exposureUs = 0; ///< of the frames that come
     bool m_findsTracks = false;
     bool m_isLive = true;
     bool m_isWanted = false;

@@ -100,6 +100,7 @@ private:
         const auto connection = connect(profiles, &IntensityManager::SignalUpdateCurve, profiles,
                                         [&payload](void *announced) { payload = announced; }, Qt::DirectConnection);
         profiles->Analyse(frame);
+        QCoreApplication::sendPostedEvents(profiles);
         disconnect(connection);
         return static_cast<SpectrumCurvePayload *>(payload);
     }
