@@ -55,6 +55,7 @@ private slots:
     void TextsOfCloseLinesStandBelowEachOther();
     void LinesChosenByHandAreDashed();
     void TracksAreRectanglesWithNumbers();
+    void NumbersOfManyTracksStayAtThem();
     void ClearingTakesTheMarksOut();
     void TheCrossLineFollowsItsSlots();
     void TheCrossLineCoversThePicture();
@@ -257,6 +258,23 @@ void TestFocusInfo::TracksAreRectanglesWithNumbers()
     QCOMPARE(numbers, QStringList({"1", "2"}));
     info.AddMultiTrackInfo({});
     QVERIFY(Rectangles(*m_scene).isEmpty());
+}
+
+/// As narrow as they are, and lower than a text is high.
+void TestFocusInfo::NumbersOfManyTracksStayAtThem()
+{
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    QList<QRectF> tracks;
+    for (int i = 0; i < 100; ++i)
+        tracks << QRectF(0, 3 * i, 400, 2);
+    info.AddMultiTrackInfo(tracks);
+    const auto numbers = ItemsOf<QGraphicsSimpleTextItem>(*m_scene);
+    QCOMPARE(numbers.size(), tracks.size());
+    for (const QGraphicsSimpleTextItem *item : numbers) {
+        QCOMPARE(item->scenePos(), tracks.at(item->text().toInt() - 1).topLeft());
+        const QRectF seen = item->sceneBoundingRect();
+        QVERIFY2(seen.height() < 40, qPrintable(item->text())); // it has no other place to move to
+    }
 }
 
 void TestFocusInfo::ClearingTakesTheMarksOut()

@@ -103,7 +103,41 @@ private slots:
         QTRY_VERIFY(std::abs(Plot()->graph(0)->data()->at(0)->key - 390) < 1e-6);
     }
 
+    /// Of the standing picture, as that of the frame that would come next.
+    void theProfileComesWhenTheSpectrumGoes_data()
+    {
+        QTest::addColumn<bool>("isBinned");
+        QTest::newRow("binned spectrum") << true;
+        QTest::newRow("tracks") << false;
+    }
+
+    void theProfileComesWhenTheSpectrumGoes()
+    {
+        QFETCH(bool, isBinned);
+        SpectrumSettings *settings = m_workbench->services.Spectrum();
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action(isBinned ? "All Rows" : "Find Tracks")->trigger();
+        constexpr double mostOfAPixel = 65535;
+        QTRY_VERIFY_WITH_TIMEOUT(Plot() && Highest() > mostOfAPixel, waitMs);
+        StopCamera();
+        if (isBinned)
+            settings->SetFVBOnFlag(false);
+        else
+            settings->SetMultiTrackOnFlag(false);
+        QTRY_VERIFY(Highest() > 0 && Highest() <= mostOfAPixel);
+        QCOMPARE(Plot()->graph(0)->dataCount(), width);
+    }
+
 private:
+    /// Of the curve; 0 without one.
+    double Highest() const
+    {
+        double highest = 0;
+        for (const QCPGraphData &sample : *Plot()->graph(0)->data())
+            highest = std::max(highest, sample.value);
+        return highest;
+    }
+
     /// By the button; then nothing is on its way any more.
     void StopCamera() const
     {

@@ -9,6 +9,7 @@
 #include "spectrographscene.h"
 
 #include <cmath>
+#include <random>
 
 class LineAssignmentTest : public GuardedTest
 {
@@ -19,6 +20,7 @@ private slots:
     void theMainLinesAreInTheLists();
     void theSimulatedLampIsCalibrated_data();
     void theSimulatedLampIsCalibrated();
+    void fourLinesAreAssigned();
     void peaksOfNothingAreNotAssigned();
     void theNearestOfBoth();
 };
@@ -90,6 +92,46 @@ void LineAssignmentTest::theSimulatedLampIsCalibrated()
         const double place = truth.LinePosition(known.wavelengthNm, row);
         const double off = (fit.calibration.Wavelength(place) - known.wavelengthNm) / fit.calibration.Dispersion(place);
         QVERIFY2(std::abs(off) < 0.1, qPrintable(QString("%1 nm is off by %2 pixels").arg(known.wavelengthNm).arg(off)));
+    }
+}
+
+/// Whatever part of the spectrum they lie in: a cubic through all four would turn for some.
+void LineAssignmentTest::fourLinesAreAssigned()
+{
+    std::mt19937 random(1);
+    std::uniform_real_distribution<double> part(0, 1);
+    std::normal_distribution<double> error(0, 0.15);
+    for (int spectrum = 0; spectrum < 300; ++spectrum) {
+        AssignmentHints hints;
+        hints.lamps = {Lamp::Mercury};
+        hints.width = 2048;
+        hints.firstNm = 150 + 240 * part(random);
+        hints.lastNm = 700 + 900 * part(random);
+        const double range = hints.lastNm - hints.firstNm;
+        const double bend = (part(random) - 0.5) * 0.06 * range;
+        const auto nmAt = [&](double pixel) {
+            const double place = pixel / (hints.width - 1);
+            return hints.firstNm + range * place + bend * 4 * place * (1 - place);
+        };
+        std::vector<SpectralPeak> peaks;
+        for (const double nm : {404.6563, 435.8328, 546.0735, 576.9598}) {
+            double low = 0;
+            double high = hints.width - 1;
+            while (high - low > 1e-6) {
+                const double middle = (low + high) / 2;
+                (nmAt(middle) < nm ? low : high) = middle;
+            }
+            SpectralPeak peak;
+            peak.position = low + error(random);
+            peak.index = int(std::lround(peak.position));
+            peak.height = nm > 540 && nm < 550 ? 2000 : 1000;
+            peak.prominence = peak.height;
+            peak.width = 3;
+            peaks.push_back(peak);
+        }
+        const AssignedLines assigned = AssignLines(peaks, hints);
+        QVERIFY2(assigned.points.size() == 4,
+                 qPrintable(QString("%1 of %2 to %3 nm").arg(assigned.points.size()).arg(hints.firstNm).arg(hints.lastNm)));
     }
 }
 

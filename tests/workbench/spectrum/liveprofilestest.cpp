@@ -83,6 +83,7 @@ private slots:
     void turnedPictures_data();
     void turnedPictures();
     void nothingIsWorkedOutUnlessWanted();
+    void whatComesTooLateIsDropped();
     void regionIsKeptWithinThePicture_data();
     void regionIsKeptWithinThePicture();
     void pointBeyondThePicture_data();
@@ -176,6 +177,23 @@ void LiveProfilesTest::nothingIsWorkedOutUnlessWanted()
     QVERIFY(Payload(&profiles, made.frame));
     profiles.SetWanted(false);
     QVERIFY(!Payload(&profiles, made.frame));
+}
+
+/// A spectrum was asked for between the frame and its profile.
+void LiveProfilesTest::whatComesTooLateIsDropped()
+{
+    LiveProfiles profiles(&m_settings);
+    profiles.SetWanted(true);
+    QSignalSpy announced(&profiles, SIGNAL(SignalUpdateCurve(void *)));
+    const MadeFrame made(20, 10);
+    profiles.Analyse(made.frame);
+    profiles.SetWanted(false);
+    QCoreApplication::sendPostedEvents(&profiles);
+    QVERIFY(announced.isEmpty());
+    profiles.SetWanted(true);
+    profiles.Analyse(made.frame);
+    QCoreApplication::sendPostedEvents(&profiles);
+    QCOMPARE(announced.count(), 1);
 }
 
 void LiveProfilesTest::regionIsKeptWithinThePicture_data()
