@@ -33,15 +33,22 @@ void Read(double (*read)(ArvCamera *, GError **), ArvCamera *camera, double *val
         *value = told;
 }
 
-void ReadControl(void (*readBounds)(ArvCamera *, double *, double *, GError **),
-                 double (*readValue)(ArvCamera *, GError **), ArvCamera *camera, ValueRange *range,
-                 double *value)
+void ReadBounds(void (*readBounds)(ArvCamera *, double *, double *, GError **), ArvCamera *camera,
+                ValueRange *range)
 {
     AravisError failure;
     ValueRange told;
     readBounds(camera, &told.minimum, &told.maximum, failure.Receive());
     if (!failure.IsSet() && told.minimum <= told.maximum)
         *range = told;
+}
+
+void ReadControl(void (*readBounds)(ArvCamera *, double *, double *, GError **),
+                 double (*readValue)(ArvCamera *, GError **), ArvCamera *camera, ValueRange *range,
+                 double *value)
+{
+    ReadBounds(readBounds, camera, range);
+    AravisError failure;
     Read(readValue, camera, value, &failure);
 }
 
@@ -99,6 +106,13 @@ void CameraControls::ReadFrameRate()
                 &m_values.frameRateRange, &told);
     if (told != m_values.frameRate)
         m_values.frameRate = m_wishedRate = told;
+}
+
+/// Many a camera allows as many frames as its exposure leaves time for.
+void CameraControls::ReadFrameRateBounds()
+{
+    if (!m_sensor && arv_camera_is_frame_rate_available(m_camera, nullptr))
+        ReadBounds(arv_camera_get_frame_rate_bounds, m_camera, &m_values.frameRateRange);
 }
 
 void CameraControls::ReadAgain()
@@ -171,7 +185,10 @@ bool CameraControls::SetExposureUs(double exposureUs, QString *error)
     Read(arv_camera_get_exposure_time, m_camera, &m_values.exposureUs, &failure);
     if (!Report(setting, failure, error))
         return false;
-    return !m_values.frameRateRange.IsAdjustable() || ApplyFrameRate(error);
+    // The longest exposure may leave one rate only, which is to be set like any other.
+    const bool wasAdjustable = m_values.frameRateRange.IsAdjustable();
+    ReadFrameRateBounds();
+    return (!wasAdjustable && !m_values.frameRateRange.IsAdjustable()) || ApplyFrameRate(error);
 }
 
 bool CameraControls::SetGain(double gain, QString *error)
@@ -191,7 +208,8 @@ bool CameraControls::SetFrameRate(double framesPerSecond, QString *error)
 {
     if (!CanReach(tr("The frame rate"), error))
         return false;
-    m_wishedRate = Bounded(framesPerSecond, m_values.frameRateRange);
+    m_wishedRate = framesPerSecond; // the exposure may allow it later
+    ReadFrameRateBounds();
     return ApplyFrameRate(error);
 }
 

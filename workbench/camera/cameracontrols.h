@@ -38,6 +38,7 @@ public:
 private:
     void ReadAll();
     void ReadFrameRate();
+    void ReadFrameRateBounds();
     bool ApplyFrameRate(QString *error);
     bool CanReach(const QString &setting, QString *error) const;
 
@@ -45,5 +46,5 @@ private:
     SimulatedSensor *m_sensor;
     std::function<bool()> m_canReach;
     ControlValues m_values;
-    double m_wishedRate = 0;
+    double m_wishedRate = 0; ///< whatever the exposure allows now
 };

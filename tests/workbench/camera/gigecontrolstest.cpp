@@ -71,6 +71,19 @@ QByteArray FeaturesWithAutomaticExposure()
     return features;
 }
 
+/// As above, but no more frames than the exposure leaves time for.
+QByteArray FeaturesWithRateOfExposure()
+{
+    QByteArray features = FeaturesWithAutomaticExposure();
+    features.replace("<pMax>FastestRate</pMax>", "<pMax>RateOfExposure</pMax>");
+    features.replace("</RegisterDescription>", R"(
+        <SwissKnife Name="RateOfExposure" NameSpace="Custom">
+            <pVariable Name="EXPOSURE">ExposureTimeAbs</pVariable><Formula>1000000 / EXPOSURE</Formula>
+        </SwissKnife>
+        </RegisterDescription>)");
+    return features;
+}
+
 } // namespace
 
 /// What a GenICam camera does by itself, and bins by itself, on one that runs in this process behind real sockets. Its
@@ -82,8 +95,8 @@ class GigEControlsTest : public GuardedTest
 private slots:
     void initTestCase()
     {
-        QFile file(m_folder.filePath("features.xml"));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(FeaturesWithAutomaticExposure()) > 0);
+        QVERIFY(WriteFile("features.xml", FeaturesWithAutomaticExposure()));
+        QVERIFY(WriteFile("rateofexposure.xml", FeaturesWithRateOfExposure()));
     }
 
     void init() override
@@ -268,6 +281,51 @@ private slots:
         link.Close();
     }
 
+    void wishedRateComesBackAfterALongExposure_data()
+    {
+        QTest::addColumn<double>("longExposureUs");
+        QTest::addColumn<double>("slowRate");
+        QTest::newRow("half a second") << 5e5 << 2.0;
+        QTest::newRow("only one rate is left") << 1e7 << 0.1;
+    }
+
+    void wishedRateComesBackAfterALongExposure()
+    {
+        QFETCH(double, longExposureUs);
+        QFETCH(double, slowRate);
+        g_clear_object(&m_camera);
+        StartCamera(m_folder.filePath("rateofexposure.xml"));
+        CameraLink link;
+        OpenLink(link);
+        CameraSession &session = *link.Session();
+        const ControlValues &controls = session.Controls();
+        QSignalSpy set(&session, &CameraSession::signalControlSet);
+        session.SetExposureUs(1000);
+        session.SetFrameRate(40);
+        Settle(session, set);
+        QCOMPARE(controls.frameRate, 40.0);
+        session.SetExposureUs(longExposureUs);
+        Settle(session, set);
+        QCOMPARE(controls.frameRate, slowRate);
+        QCOMPARE(controls.frameRateRange.maximum, slowRate);
+        SetFeature(link, "TestRegister", 5);
+        QCOMPARE(controls.frameRate, slowRate);
+        session.SetExposureUs(1000);
+        Settle(session, set);
+        QCOMPARE(controls.frameRate, 40.0);
+        QCOMPARE(controls.frameRateRange.maximum, 1000.0);
+        // One that is wished meanwhile waits for its exposure.
+        session.SetExposureUs(longExposureUs);
+        session.SetFrameRate(50);
+        Settle(session, set);
+        QCOMPARE(controls.frameRate, slowRate);
+        session.SetExposureUs(1000);
+        Settle(session, set);
+        QCOMPARE(controls.frameRate, 50.0);
+        QCOMPARE(Register(ARV_FAKE_CAMERA_REGISTER_ACQUISITION_FRAME_PERIOD_US), 20000u);
+        link.Close();
+    }
+
     /// Frames are asked for before anybody has noticed that the camera is gone.
     void framesOfACameraThatWentUnnoticedComeWhenItIsBack()
     {
@@ -302,6 +360,12 @@ private:
         Put(LongestExposureRegister, 10000000);
         Put(FastestRateRegister, 1000);
         Put(ARV_FAKE_CAMERA_REGISTER_GAIN_MODE, Off);
+    }
+
+    bool WriteFile(const QString &name, const QByteArray &content) const
+    {
+        QFile file(m_folder.filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
     }
 
     bool Open(CameraSession *session)
