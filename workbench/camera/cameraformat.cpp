@@ -30,10 +30,34 @@ Span FittedSpan(Span wished, int sensor, int minimum, int lengthStep, int startS
     return { start, length };
 }
 
-QStringList AvailableFormats(ArvCamera *camera)
+// What the camera leaves unanswered stays as it was known.
+bool ReadPair(void (*read)(ArvCamera *, int *, int *, GError **), ArvCamera *camera, int *first, int *second)
+{
+    int firstTold = 0;
+    int secondTold = 0;
+    AravisError failure;
+    read(camera, &firstTold, &secondTold, failure.Receive());
+    if (failure.IsSet())
+        return false;
+    *first = firstTold;
+    *second = secondTold;
+    return true;
+}
+
+bool ReadStep(int (*read)(ArvCamera *, GError **), ArvCamera *camera, int *step)
+{
+    AravisError failure;
+    const int told = read(camera, failure.Receive());
+    if (failure.IsSet())
+        return false;
+    *step = told;
+    return true;
+}
+
+QStringList AvailableFormats(ArvCamera *camera, AravisError *failure)
 {
     unsigned int count = 0;
-    const char **names = arv_camera_dup_available_pixel_formats_as_strings(camera, &count, nullptr);
+    const char **names = arv_camera_dup_available_pixel_formats_as_strings(camera, &count, failure->Receive());
     QStringList formats;
     for (unsigned int i = 0; i < count; ++i)
         formats.append(QString::fromUtf8(names[i]));
@@ -59,13 +83,17 @@ CameraFormat::CameraFormat(ArvCamera *camera, SimulatedSensor *sensor)
     ReadAgain();
 }
 
-/// False when the camera has another one than these.
+/// False when the camera has another one than these; one that does not answer has the one that was known.
 bool CameraFormat::ReadLayouts()
 {
+    AravisError failure;
+    const QStringList formats = AvailableFormats(m_camera, &failure);
+    if (failure.IsSet())
+        return true;
+    const QString current =
+        QString::fromUtf8(arv_camera_get_pixel_format_as_string(m_camera, failure.Receive()));
+    bool isKnown = failure.IsSet();
     m_values.layouts.clear();
-    bool isKnown = false;
-    const QStringList formats = AvailableFormats(m_camera);
-    const QString current = QString::fromUtf8(arv_camera_get_pixel_format_as_string(m_camera, nullptr));
     for (const PixelLayout layout :
          { PixelLayout::Mono8, PixelLayout::Mono12, PixelLayout::Mono16, PixelLayout::Rgb8 }) {
         const bool isSimulated12 = m_sensor && layout == PixelLayout::Mono12
@@ -104,20 +132,17 @@ bool CameraFormat::TakeBack(PixelLayout layout, QString *error)
 
 void CameraFormat::ReadLimits()
 {
-    int width = 0;
-    int height = 0;
-    arv_camera_get_sensor_size(m_camera, &width, &height, nullptr);
-    m_frameLimits.sensorSize = QSize(width, height);
-
+    RegionLimits &limits = m_frameLimits;
     int largest = 0;
-    arv_camera_get_width_bounds(m_camera, &width, &largest, nullptr);
-    arv_camera_get_height_bounds(m_camera, &height, &largest, nullptr);
-    m_frameLimits.minimumSize = QSize(width, height);
-    m_frameLimits.sizeStep = QSize(arv_camera_get_width_increment(m_camera, nullptr),
-                              arv_camera_get_height_increment(m_camera, nullptr));
-    if (arv_camera_is_region_offset_available(m_camera, nullptr))
-        m_frameLimits.offsetStep = QSize(arv_camera_get_x_offset_increment(m_camera, nullptr),
-                                    arv_camera_get_y_offset_increment(m_camera, nullptr));
+    ReadPair(arv_camera_get_sensor_size, m_camera, &limits.sensorSize.rwidth(), &limits.sensorSize.rheight());
+    ReadPair(arv_camera_get_width_bounds, m_camera, &limits.minimumSize.rwidth(), &largest);
+    ReadPair(arv_camera_get_height_bounds, m_camera, &limits.minimumSize.rheight(), &largest);
+    ReadStep(arv_camera_get_width_increment, m_camera, &limits.sizeStep.rwidth());
+    ReadStep(arv_camera_get_height_increment, m_camera, &limits.sizeStep.rheight());
+    if (!arv_camera_is_region_offset_available(m_camera, nullptr))
+        return;
+    ReadStep(arv_camera_get_x_offset_increment, m_camera, &limits.offsetStep.rwidth());
+    ReadStep(arv_camera_get_y_offset_increment, m_camera, &limits.offsetStep.rheight());
 }
 
 void CameraFormat::ReadRegion()
@@ -166,27 +191,30 @@ bool CameraFormat::SetRegion(const QRect &region, QString *error)
 
 void CameraFormat::ReadBinnings()
 {
-    m_values.binnings = { 1 };
     if (m_sensor) {
+        m_values.binnings = { 1 };
         for (int binning = 2; binning <= LargestSimulatedBinning; binning *= 2)
             m_values.binnings.append(binning);
         return;
     }
-    if (!arv_camera_is_binning_available(m_camera, nullptr))
-        return;
+    AravisError failure;
+    const bool isAvailable = arv_camera_is_binning_available(m_camera, failure.Receive());
     int ignored = 1;
     int mostAcross = 1;
     int mostDown = 1;
-    arv_camera_get_x_binning_bounds(m_camera, &ignored, &mostAcross, nullptr);
-    arv_camera_get_y_binning_bounds(m_camera, &ignored, &mostDown, nullptr);
-    const int step = std::max(arv_camera_get_x_binning_increment(m_camera, nullptr), 1);
+    int step = 1;
+    if (failure.IsSet()
+        || (isAvailable
+            && !(ReadPair(arv_camera_get_x_binning_bounds, m_camera, &ignored, &mostAcross)
+                 && ReadPair(arv_camera_get_y_binning_bounds, m_camera, &ignored, &mostDown)
+                 && ReadStep(arv_camera_get_x_binning_increment, m_camera, &step))))
+        return;
+    step = std::max(step, 1);
+    m_values.binnings = { 1 };
     for (int binning = 1 + step; binning <= std::min({ mostAcross, mostDown, LargestBinning }); binning += step)
         m_values.binnings.append(binning);
-    AravisError failure;
-    int binning = 1;
-    arv_camera_get_binning(m_camera, &binning, &ignored, failure.Receive());
-    if (!failure.IsSet())
-        m_values.binning = std::max(binning, 1);
+    if (isAvailable && ReadPair(arv_camera_get_binning, m_camera, &m_values.binning, &ignored))
+        m_values.binning = std::max(m_values.binning, 1);
 }
 
 /// The limits of a region are told in pixels of the sensor.

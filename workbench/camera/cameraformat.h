@@ -28,8 +28,8 @@ public:
     /// Takes the nearest allowed region.
     bool SetRegion(const QRect &region, QString *error = nullptr);
     bool SetBinning(int binning, QString *error = nullptr);
-    /// Asks the camera anew for all of it. False when it has a pixel format now that can't be shown: Values() still tell
-    /// the one before then, which is to be set with TakeBack().
+    /// Asks the camera anew for all of it; what it leaves unanswered stays. False when it has a pixel format now that
+    /// can't be shown: Values() still tell the one before then, which is to be set with TakeBack().
     bool ReadAgain();
     /// As SetLayout(); `error` tells that the camera had chosen another one.
     bool TakeBack(PixelLayout layout, QString *error);
