@@ -49,7 +49,7 @@ void SpePictureFile::FillInfo()
         AddWarning(Text::tr("\u201c%1\u201d: %2. %3").arg(QFileInfo(Path()).fileName(), warning, DamagedAdvice()));
     if (m_layout.mergedRegions > 1) {
         AddWarning(Text::tr("\u201c%1\u201d: its %2 regions are shown as one picture, with the filler rows that lie between them.")
-                       .arg(QFileInfo(Path()).fileName()).arg(m_layout.mergedRegions));
+                       .arg(QFileInfo(Path()).fileName(), QString::number(m_layout.mergedRegions)));
     }
     if (m_layout.missingFrames > 0) {
         AddWarning(ReadFaultText(Path(), {Text::tr("only the first %1 of its %2 frames are there")

@@ -197,20 +197,23 @@ void SpePictureFileTest::regionsAreFramesOfTheirOwn()
 
 void SpePictureFileTest::regionsInOneRectangleAreSaid_data()
 {
+    QTest::addColumn<QString>("name");
     QTest::addColumn<int>("regions");
     QTest::addColumn<QString>("warning");
-    QTest::newRow("not told") << 0 << "";
-    QTest::newRow("one") << 1 << "";
-    QTest::newRow("less than none") << -5 << "";
-    QTest::newRow("three") << 3 << "\u201crectangle.spe\u201d: its 3 regions are shown as one picture, with the filler rows that lie between them.";
+    QTest::newRow("not told") << "rectangle.spe" << 0 << "";
+    QTest::newRow("one") << "rectangle.spe" << 1 << "";
+    QTest::newRow("less than none") << "rectangle.spe" << -5 << "";
+    QTest::newRow("a name with a place marker") << "a%2.spe" << 3 << "\u201ca%2.spe\u201d: its 3 regions are shown as one picture, with the filler rows that lie between them.";
+    QTest::newRow("three") << "rectangle.spe" << 3 << "\u201crectangle.spe\u201d: its 3 regions are shown as one picture, with the filler rows that lie between them.";
 }
 
 void SpePictureFileTest::regionsInOneRectangleAreSaid()
 {
+    QFETCH(QString, name);
     QFETCH(int, regions);
     PictureFolder folder;
     QString error;
-    const auto file = OpenPicture(folder.Write("rectangle.spe", SpeBytes(2, 3, 3, 1).Set<qint16>(1510, qint16(regions)).AppendRamp(6).Bytes()), error);
+    const auto file = OpenPicture(folder.Write(name, SpeBytes(2, 3, 3, 1).Set<qint16>(1510, qint16(regions)).AppendRamp(6).Bytes()), error);
     QVERIFY2(file, qPrintable(error));
     QTEST(file->Info().warning, "warning");
     QCOMPARE(file->Info().frames, 1);
