@@ -87,7 +87,8 @@ void PictureDocument::Reset()
     m_edit = PictureEdit();
 }
 
-bool PictureDocument::IsChanged() const { return !m_undoStack->isClean(); }
+/// Steps that undo each other leave it as it is in its own file, whatever was saved elsewhere.
+bool PictureDocument::IsChanged() const { return !m_edit.IsNone() && !m_undoStack->isClean(); }
 
 void PictureDocument::SetSaved(const PictureEdit &edit)
 {

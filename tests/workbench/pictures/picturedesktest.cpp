@@ -164,12 +164,29 @@ private slots:
         bench.main.SaveAs(bench.Path("all.tif"), true);
         QTRY_COMPARE(ended, 2);
         QVERIFY(!bench.main.Document()->IsChanged());
-        bench.main.Document()->UndoStack()->undo(); // the new file is not what is seen any more
+        bench.main.slotRotateImage(0);
         QVERIFY(bench.main.Document()->IsChanged());
-        bench.main.Document()->UndoStack()->redo();
+        bench.main.Document()->UndoStack()->undo();
         bench.desk.RequestClose(bench.main.Document());
         QVERIFY(bench.shelf.IsEmpty());
         QCOMPARE(questions, 1);
+    }
+
+    void whatIsAsInItsOwnFileIsNotChanged()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("one.tif", QSize(5, 3)));
+        const PictureDocument *document = bench.main.Document();
+        for (int quarter = 1; quarter <= 4; ++quarter) {
+            bench.main.slotRotateImage(0);
+            QCOMPARE(document->IsChanged(), quarter < 4);
+        }
+        bench.main.slotRotateImage(0);
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("3x5"));
+        bench.main.SaveAs(bench.Path("turned.tif"), true);
+        QTRY_VERIFY(!document->IsChanged());
+        document->UndoStack()->undo(); // not what is in the new file, but what is in its own
+        QVERIFY(!document->IsChanged());
     }
 
     void renamingRenamesTheFile()
