@@ -21,9 +21,12 @@ UnsavedGuard::UnsavedGuard(PictureDesk *desk, PictureDialogs *dialogs, QWidget *
 {
     connect(desk, &PictureDesk::signalCloseQuestion, this, &UnsavedGuard::AskToClose);
     connect(desk, &PictureDesk::signalSaveEnded, this, &UnsavedGuard::CloseSaved);
-    connect(desk->MainPicture(), &OpenedPicture::signalShown, this, [this] {
-        if (m_toShow && m_desk->MainPicture()->Document() == m_toShow)
-            AskWhereToSave(m_desk->MainPicture());
+    const OpenedPicture *picture = desk->MainPicture();
+    connect(picture, &OpenedPicture::signalShowPicture, this, &UnsavedGuard::ForgetUnwanted);
+    connect(picture, &OpenedPicture::signalGivenUp, this, &UnsavedGuard::ForgetUnwanted);
+    connect(picture, &OpenedPicture::signalShown, this, [this, picture] {
+        if (m_toShow && picture->Document() == m_toShow)
+            AskWhereToSave(picture);
     });
 }
 
@@ -102,6 +105,15 @@ void UnsavedGuard::SaveAndClose(PictureDocument *document)
     }
     m_toShow = document;
     m_desk->Show(document, m_desk->MainPicture());
+    if (m_desk->MainPicture()->Document() == document) // still there: another was on its way
+        AskWhereToSave(m_desk->MainPicture());
+}
+
+/// It could not be shown, or the user went on to another picture: to see it later is no wish to save it.
+void UnsavedGuard::ForgetUnwanted()
+{
+    if (m_desk->MainPicture()->WantedDocument() != m_toShow)
+        m_toShow.clear();
 }
 
 void UnsavedGuard::AskWhereToSave(const OpenedPicture *picture)

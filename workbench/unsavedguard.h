@@ -32,6 +32,7 @@ private:
     QMessageBox *NewBox(const QVector<PictureDocument *> &changed);
     void AddAnswers(const QString &discard, const std::function<void()> &action);
     void SaveAndClose(PictureDocument *document);
+    void ForgetUnwanted();
     void AskWhereToSave(const OpenedPicture *picture);
     void CloseSaved(PictureDocument *document);
 

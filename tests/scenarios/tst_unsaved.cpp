@@ -4,9 +4,11 @@
 #include "openpicture.h"
 #include "picturedesk.h"
 #include "picturedocument.h"
+#include "pictureloader.h"
 #include "pictureshelf.h"
 #include "savedialog.h"
 #include "scenariotest.h"
+#include "unsavedguard.h"
 #include "workspaceconfig.h"
 
 #include <QAction>
@@ -15,6 +17,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QUndoStack>
 
 /// A person closes pictures that he worked on.
@@ -105,12 +108,11 @@ private slots:
     void aPictureIsSavedAndClosed()
     {
         Rotate("a.tif");
-        m_workbench->services.Desk()->Show(Document("b.tif"), Main());
-        QTRY_COMPARE(Main()->GetFileName(), QString("b.tif"));
+        ShowAndWait("b.tif");
         m_workbench->services.Desk()->RequestClose(Document("a.tif"));
         Answer("Save As\u2026");
         SaveDialog *dialog = nullptr;
-        QTRY_VERIFY((dialog = m_workbench->window.findChild<SaveDialog *>("SaveDialog")));
+        QTRY_VERIFY((dialog = Dialog()));
         QVERIFY(QTest::qWaitForWindowExposed(dialog));
         QCOMPARE(Main()->GetFileName(), QString("a.tif"));
         QMetaObject::invokeMethod(dialog, "reject");
@@ -118,7 +120,7 @@ private slots:
 
         m_workbench->Action("Close")->trigger();
         Answer("Save As\u2026");
-        QTRY_VERIFY((dialog = m_workbench->window.findChild<SaveDialog *>("SaveDialog")) && dialog->isVisible());
+        QTRY_VERIFY((dialog = Dialog()) && dialog->isVisible());
         QVERIFY(dialog->AllFrames());
         dialog->findChild<QLineEdit *>("fileNameEdit")->setText(m_folder->filePath("turned.tif"));
         QMetaObject::invokeMethod(dialog, "accept");
@@ -128,6 +130,59 @@ private slots:
         QVERIFY2(saved, qPrintable(error));
         QCOMPARE(saved->Info().size, QSize(20, 30));
         QCOMPARE(saved->Info().frames, 2);
+    }
+
+    void aPictureThatCannotBeShownIsNotAskedForLater()
+    {
+        Rotate("a.tif");
+        ShowAndWait("b.tif");
+        const QString path = m_folder->filePath("a.tif");
+        QVERIFY(QFile::rename(path, path + ".away"));
+        m_workbench->services.Loader()->Close(Document("a.tif")->File().id);
+        QSignalSpy faults(m_workbench->services.Desk(), SIGNAL(signalFault(QString)));
+        m_workbench->services.Desk()->RequestClose(Document("a.tif"));
+        Answer("Save As\u2026");
+        QTRY_COMPARE(faults.size(), 1);
+        QVERIFY(QFile::rename(path + ".away", path));
+        ShowAndWait("a.tif");
+        QVERIFY(!Dialog());
+    }
+
+    void whoGoesOnToAnotherPictureIsNotAskedLater_data()
+    {
+        QTest::addColumn<QString>("other");
+        QTest::newRow("that is shown") << "b.tif";
+        QTest::newRow("that is not") << "c.tif";
+    }
+
+    void whoGoesOnToAnotherPictureIsNotAskedLater()
+    {
+        QFETCH(QString, other);
+        Rotate("a.tif");
+        ShowAndWait("b.tif");
+        m_workbench->services.Desk()->RequestClose(Document("a.tif"));
+        Answer("Save As\u2026");
+        TakeAnswer();
+        QCOMPARE(Main()->WantedDocument(), Document("a.tif"));
+        QSignalSpy pictures(Main(), SIGNAL(signalShowPicture(QImage)));
+        m_workbench->services.Desk()->Show(Document(other), Main());
+        QTRY_VERIFY(!pictures.isEmpty());
+        QCOMPARE(Main()->GetFileName(), other);
+        ShowAndWait("a.tif");
+        QVERIFY(!Dialog());
+    }
+
+    void aPictureIsSavedThoughAnotherIsOnItsWay()
+    {
+        Rotate("a.tif");
+        m_workbench->services.Desk()->RequestClose(Document("a.tif"));
+        Answer("Save As\u2026");
+        m_workbench->services.Desk()->Show(Document("b.tif"), Main());
+        TakeAnswer();
+        QVERIFY(Dialog());
+        QVERIFY(QTest::qWaitForWindowExposed(Dialog()));
+        QCOMPARE(Main()->GetFileName(), QString("a.tif"));
+        QMetaObject::invokeMethod(Dialog(), "reject");
     }
 
 private:
@@ -148,12 +203,19 @@ private:
     }
     void Rotate(const QString &name)
     {
-        m_workbench->services.Desk()->Show(Document(name), Main());
-        QTRY_COMPARE(Main()->GetFileName(), name);
+        ShowAndWait(name);
         Main()->slotRotateImage(0);
         QVERIFY(Document(name)->IsChanged());
         QTRY_COMPARE(Main()->GetImageSizeString(), QString("20x30"));
     }
+    void ShowAndWait(const QString &name)
+    {
+        m_workbench->services.Desk()->Show(Document(name), Main());
+        QTRY_COMPARE(Main()->GetFileName(), name);
+    }
+    SaveDialog *Dialog() const { return m_workbench->window.findChild<SaveDialog *>("SaveDialog"); }
+    /// Without waiting for any picture.
+    void TakeAnswer() { QCoreApplication::sendPostedEvents(m_workbench->window.findChild<UnsavedGuard *>(), QEvent::MetaCall); }
     OpenedPicture *Main() const { return m_workbench->services.Desk()->MainPicture(); }
     PictureDocument *Document(const QString &name) const
     {
