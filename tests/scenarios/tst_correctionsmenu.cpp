@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "camerasession.h"
-#include "scenariotest.h"
-#include "spectrographscene.h"
+#include "spectrographscenario.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
 
@@ -12,28 +10,12 @@
 #include <cmath>
 #include <numeric>
 
-namespace {
-
-constexpr int waitMs = 20000;
-constexpr double faintExposureUs = 2000; ///< nothing is cut off
-
-} // namespace
-
 /// A person corrects a spectrum by the menu.
-class CorrectionsMenuScenario : public ScenarioTest
+class CorrectionsMenuScenario : public SpectrographScenario
 {
     Q_OBJECT
 
 private slots:
-    void init() override
-    {
-        ScenarioTest::init();
-        m_workbench->link.SetScene(SpectrographScene::SceneName());
-        m_workbench->link.SetPixelLayout(PixelLayout::Mono16);
-        m_workbench->link.Session()->SetExposureUs(faintExposureUs);
-        QVERIFY(m_workbench->WaitForNextPicture());
-    }
-
     /// Each entry sets its own correction and no other, and says that it does.
     void theMenuSetsTheCorrections()
     {

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "camerasession.h"
 #include "livepreview.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
 #include "plotpicture.h"
-#include "scenariotest.h"
 #include "spectrographoptics.h"
-#include "spectrographscene.h"
+#include "spectrographscenario.h"
 #include "spectrumexport.h"
 #include "spectrumlinepayload.h"
 #include "spectrumpipeline.h"
@@ -34,27 +32,16 @@
 
 namespace {
 
-constexpr int waitMs = 20000;
-constexpr double faintExposureUs = 2000; ///< nothing is cut off
 const SpectrographOptics truth(QSize(2048, 2048));
 
 } // namespace
 
 /// A person works with the rows of the spectrum on the live picture.
-class LiveSpectrumScenario : public ScenarioTest
+class LiveSpectrumScenario : public SpectrographScenario
 {
     Q_OBJECT
 
 private slots:
-    void init() override
-    {
-        ScenarioTest::init();
-        m_workbench->link.SetScene(SpectrographScene::SceneName());
-        m_workbench->link.SetPixelLayout(PixelLayout::Mono16);
-        m_workbench->link.Session()->SetExposureUs(faintExposureUs);
-        QVERIFY(m_workbench->WaitForNextPicture());
-    }
-
     /// The edges that are dragged are the rows that the plot is given.
     void theBandIsDraggedOnThePicture()
     {
@@ -327,8 +314,6 @@ private slots:
 
 private:
     SpectrumPipeline *Spectra() const { return m_workbench->services.Spectra(); }
-
-    QCustomPlot *Plot() const { return qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())); }
 
     /// The mark on the live picture; null without one.
     const QGraphicsObject *Band() const

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "camerasession.h"
 #include "livepreview.h"
 #include "plotpicture.h"
-#include "scenariotest.h"
-#include "spectrographscene.h"
+#include "spectrographscenario.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
 
@@ -20,28 +18,17 @@
 namespace {
 
 constexpr int width = 2048;
-constexpr int waitMs = 20000;
-constexpr double faintExposureUs = 2000; ///< nothing is cut off
 /// 390 nm in the first column and 930 nm in the last.
 const SpectralCalibration straight({660, 270}, width);
 
 } // namespace
 
 /// A person stops the camera on a good frame, and works with its spectrum.
-class StandingSpectrumScenario : public ScenarioTest
+class StandingSpectrumScenario : public SpectrographScenario
 {
     Q_OBJECT
 
 private slots:
-    void init() override
-    {
-        ScenarioTest::init();
-        m_workbench->link.SetScene(SpectrographScene::SceneName());
-        m_workbench->link.SetPixelLayout(PixelLayout::Mono16);
-        m_workbench->link.Session()->SetExposureUs(faintExposureUs);
-        QVERIFY(m_workbench->WaitForNextPicture());
-    }
-
     void aCalibrationMovesTheCurveAndItsPeaks_data()
     {
         QTest::addColumn<bool>("isBinned");
@@ -149,8 +136,6 @@ private:
         QTRY_COMPARE_WITH_TIMEOUT(ledger.computed + ledger.missed + ledger.dropped, quint64(ledger.taken), waitMs);
         QCoreApplication::processEvents();
     }
-
-    QCustomPlot *Plot() const { return qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())); }
 
     /// On the axis of the plot, of the marks of peaks.
     QVector<double> PeakKeys() const
