@@ -63,6 +63,8 @@
 #include <QStatusBar>
 #include <QTabWidget>
 
+#include <utility>
+
 namespace {
 /// Of QMainWindow::saveState().
 constexpr int StateVersion = 1;
@@ -355,19 +357,23 @@ void MainWindow::changeEvent(QEvent *event)
         SetFullScreen(false);
 }
 
+/// The recording comes last: it cannot be brought back when the other question is cancelled.
+void MainWindow::AskToClose()
+{
+    m_unsavedGuard->DoLosingAll([this] {
+        m_recordingGuard->Do(tr("Closing the program ends it."), [this] {
+            m_mayLoseChanges = true;
+            QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection); // the closing that asked may not have ended
+        });
+    });
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (m_services->Recording()->IsBusy()) {
+    const bool mayLoseChanges = std::exchange(m_mayLoseChanges, false);
+    if (m_services->Recording()->IsBusy() || (!mayLoseChanges && !m_services->Desk()->Shelf()->Changed().isEmpty())) {
         event->ignore();
-        m_recordingGuard->Do(tr("Closing the program ends it."), [this] { close(); });
-        return;
-    }
-    if (!m_mayLoseChanges && !m_services->Desk()->Shelf()->Changed().isEmpty()) {
-        event->ignore();
-        m_unsavedGuard->DoLosingAll([this] {
-            m_mayLoseChanges = true;
-            close();
-        });
+        AskToClose();
         return;
     }
     slotLeaveFullScreen();

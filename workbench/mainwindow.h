@@ -70,6 +70,7 @@ private:
     void SetFullScreen(bool full);
     void SetPanels(const PanelsShown &panels);
     void SetBlackBackground(bool black);
+    void AskToClose();
 
     WorkbenchServices *m_services;
     QSettings *m_settings;
@@ -89,7 +90,7 @@ private:
     RecordingStatus *m_recordingStatus = nullptr;
     StatusLine *m_statusLine = nullptr;
     UnsavedGuard *m_unsavedGuard = nullptr;
-    bool m_mayLoseChanges = false; ///< the user said so
+    bool m_mayLoseChanges = false; ///< the user said so; of the next closing
     PanelsShown m_panelsBeforeFullScreen;
     QShortcut *m_leaveFullScreen = nullptr;
     bool m_isFullScreen = false;

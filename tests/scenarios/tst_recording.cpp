@@ -178,6 +178,19 @@ private slots:
         QCOMPARE(QDir(m_folder->path()).entryList({ "run*.tif" }).size(), files);
     }
 
+    void aRecordingThatEndsWhileItAsksLetsTheProgramClose()
+    {
+        m_settings.mode = RecordingSettings::Mode::UntilStopped;
+        Apply();
+        QTest::keyClick(&m_workbench->window, Qt::Key_F10);
+        QTRY_VERIFY_WITH_TIMEOUT(Desk()->Saving()->Counts().saved > 3, MsToWait);
+        QTimer::singleShot(0, Desk(), &RecordingDesk::slotStop); // the question stands by then
+        connect(Desk(), &RecordingDesk::signalRunEnded, this, [this] { Answer("Finish It"); });
+        m_workbench->window.close();
+        QTRY_VERIFY_WITH_TIMEOUT(!m_workbench->window.isVisible(), MsToWait);
+        QVERIFY(m_isAnswered);
+    }
+
     void exposureSetByHandIsWhatTheFileTells()
     {
         m_workbench->Action("Exposure and Gain…")->trigger();

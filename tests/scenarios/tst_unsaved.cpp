@@ -1,23 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "createpicture.h"
+#include "framesaving.h"
 #include "openedpicture.h"
 #include "openpicture.h"
 #include "picturedesk.h"
 #include "picturedocument.h"
 #include "pictureloader.h"
 #include "pictureshelf.h"
+#include "recordingdesk.h"
+#include "savesettings.h"
 #include "savedialog.h"
 #include "scenariotest.h"
 #include "unsavedguard.h"
 #include "workspaceconfig.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTimer>
 #include <QUndoStack>
 
 /// A person closes pictures that he worked on.
@@ -185,6 +190,38 @@ private slots:
         QMetaObject::invokeMethod(Dialog(), "reject");
     }
 
+    void aRecordingIsAskedForLast()
+    {
+        Rotate("b.tif");
+        RecordingDesk *recording = m_workbench->services.Recording();
+        RecordingSettings settings;
+        settings.folder = m_folder->path();
+        settings.pattern = "run{number}";
+        settings.mode = RecordingSettings::Mode::UntilStopped;
+        recording->Settings()->Set(settings);
+        recording->slotCapture(true, false);
+        QTRY_VERIFY_WITH_TIMEOUT(recording->Saving()->Counts().saved > 3, 60000);
+
+        AnswerForRecording("Discard It");
+        m_workbench->window.close();
+        Answer("Cancel");
+        QVERIFY(recording->IsBusy());
+        QCOMPARE(m_recordingAnswers.size(), 1); // not asked
+
+        AnswerForRecording("Go On Recording");
+        m_workbench->window.close();
+        Answer("Discard All");
+        QTRY_VERIFY(m_recordingAnswers.isEmpty());
+        QVERIFY(recording->IsBusy() && m_workbench->window.isVisible());
+
+        AnswerForRecording("Finish It");
+        m_workbench->window.close();
+        Answer("Discard All"); // who went on may have changed more
+        QTRY_VERIFY_WITH_TIMEOUT(!m_workbench->window.isVisible(), 60000);
+        QVERIFY(!recording->IsBusy());
+        QVERIFY(QFile::exists(m_folder->filePath("run1.tif")));
+    }
+
 private:
     bool Open(const QString &name)
     {
@@ -250,6 +287,28 @@ private:
         }
         QFAIL(qPrintable("no button " + text));
     }
+    /// Presses that button of the question for the recording as soon as it is there; that question has a loop of its own.
+    void AnswerForRecording(const QString &text)
+    {
+        m_recordingAnswers = QStringList(text);
+        connect(&m_answering, &QTimer::timeout, this, &UnsavedScenario::TakeRecordingAnswer, Qt::UniqueConnection);
+        m_answering.start(20);
+    }
+    void TakeRecordingAnswer()
+    {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box || box->objectName() != "RecordingQuestion" || !box->isActiveWindow())
+            return;
+        m_answering.stop();
+        const QString text = m_recordingAnswers.takeFirst();
+        for (QAbstractButton *button : box->buttons()) {
+            if (button->text().remove('&') == text)
+                button->click();
+        }
+    }
+
+    QTimer m_answering;
+    QStringList m_recordingAnswers; ///< still to be given
 };
 
 GUARDED_TEST_MAIN(UnsavedScenario)
