@@ -124,11 +124,11 @@ void UnsavedGuard::AskWhereToSave(const OpenedPicture *picture)
             [this, document] { m_toClose = document; });
 }
 
-void UnsavedGuard::CloseSaved(PictureDocument *document)
+void UnsavedGuard::CloseSaved(PictureDocument *document, bool isWhole)
 {
     if (document != m_toClose)
         return;
     m_toClose.clear();
-    if (!document->IsChanged()) // it could be saved, whole
+    if (isWhole)
         m_desk->Close(document);
 }

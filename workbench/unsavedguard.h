@@ -34,7 +34,7 @@ private:
     void SaveAndClose(PictureDocument *document);
     void ForgetUnwanted();
     void AskWhereToSave(const OpenedPicture *picture);
-    void CloseSaved(PictureDocument *document);
+    void CloseSaved(PictureDocument *document, bool isWhole);
 
     PictureDesk *m_desk;
     PictureDialogs *m_dialogs;

@@ -307,16 +307,23 @@ void PictureDesk::slotAdded(PictureDocument *document) { m_undoGroup->addStack(d
 void PictureDesk::slotSaved(const SaveRequest &request, const QString &error)
 {
     PictureDocument *source = request.image.isNull() ? m_shelf->Find(request.file.path) : nullptr;
+    bool isWhole = false;
     if (!error.isEmpty()) {
         emit signalFault(error);
     } else {
         emit signalMessage(tr("\u201c%1\u201d was saved.").arg(FileNameText(QFileInfo(request.target).fileName())));
-        if (source && request.frameCount >= request.edit.SeenFrames(source->Info().frames))
+        const bool isAsSeen = source && source->Edit() == request.edit;
+        isWhole = isAsSeen && request.frameCount >= request.edit.SeenFrames(source->Info().frames);
+        if (isWhole)
             source->SetSaved(request.edit);
+        if (source && !isAsSeen && source == m_shelf->Find(request.target))
+            emit signalFault(tr("\u201c%1\u201d was changed while it was saved onto its own file: what was done meanwhile "
+                                "is lost. Do it again.")
+                                 .arg(source->ShownName()));
         slotFileReplaced(request.target); // what was done is in it
     }
     if (source)
-        emit signalSaveEnded(source);
+        emit signalSaveEnded(source, isWhole);
 }
 
 /// The file may be another one now.

@@ -77,8 +77,8 @@ signals:
     void signalLastClosed();
     /// These are to be closed, and changes would be lost by it.
     void signalCloseQuestion(QVector<PictureDocument *> documents);
-    /// A file of this picture was written, or could not be.
-    void signalSaveEnded(PictureDocument *document);
+    /// A file of this picture was written, or could not be; `isWhole`: with all frames and all that was done to it.
+    void signalSaveEnded(PictureDocument *document, bool isWhole);
     /// The second picture of a comparison is gone, or cannot be shown.
     void signalCompareLost();
     /// A sentence for the status bar.

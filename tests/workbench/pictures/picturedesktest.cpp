@@ -189,6 +189,29 @@ private slots:
         QVERIFY(!document->IsChanged());
     }
 
+    void whatIsDoneWhileAFileIsSavedOntoItselfIsNotLostInSilence()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("stack.tif", QSize(5, 3), 3));
+        bench.main.slotRotateImage(0);
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("3x5"));
+        QVector<bool> whole;
+        connect(&bench.desk, &PictureDesk::signalSaveEnded, this,
+                [&whole](const PictureDocument *, bool isWhole) { whole << isWhole; });
+        bench.main.SaveAs(bench.Path("stack.tif"), true);
+        bench.main.slotRotateImage(0);
+        QTRY_COMPARE(whole, QVector<bool>({ false }));
+        QCOMPARE(bench.FirstFault(),
+                 QString("\u201cstack.tif\u201d was changed while it was saved onto its own file: what was done meanwhile is "
+                         "lost. Do it again."));
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("3x5")); // as it was saved
+        bench.main.slotRotateImage(0);
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("5x3"));
+        bench.main.SaveAs(bench.Path("stack.tif"), true);
+        QTRY_COMPARE(whole, QVector<bool>({ false, true }));
+        QCOMPARE(bench.faults.size(), 1);
+    }
+
     void renamingRenamesTheFile()
     {
         PictureBench bench;
