@@ -166,9 +166,9 @@ void FileGrid::updateGeometries()
 
 void FileGrid::scrollTo(const QModelIndex &index, ScrollHint hint)
 {
-    if (index.isValid() && visualRect(index).isEmpty())
-        m_scrollTo = index;
-    else
+    const bool hasPlace = !index.isValid() || !visualRect(index).isEmpty();
+    m_scrollTo = hasPlace ? QModelIndex() : index;
+    if (hasPlace)
         QListView::scrollTo(index, hint);
 }
 

@@ -15,6 +15,7 @@
 #include <QMutex>
 #include <QMutexLocker>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QToolButton>
@@ -77,6 +78,7 @@ private slots:
     void KeysOpenAndSelect();
     void FollowsAFolderThatComesBack();
     void ALargePageAsksForEachThumbnailOnce();
+    void TheLastPlaceWantedIsScrolledTo();
 
 private:
     void WriteFile(const QString &name);
@@ -458,6 +460,26 @@ void TestFilePage::ALargePageAsksForEachThumbnailOnce()
     };
     QTRY_VERIFY_WITH_TIMEOUT(haveAll(), 20000);
     QCOMPARE(m_maker.MostAskedForOne(), 1);
+}
+
+/// Though the one wanted before had no place yet.
+void TestFilePage::TheLastPlaceWantedIsScrolledTo()
+{
+    for (int i = 0; i < 200; ++i)
+        WriteFile(QString("z%1.tif").arg(i));
+    m_thumbnails->slotOpenFileDirectory(m_folder->path());
+    m_thumbnails->resize(800, 600);
+    m_thumbnails->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_thumbnails.get()));
+    QTRY_COMPARE(Count(), 205);
+    m_list->setBatchSize(10); // laid out at a time
+    m_list->doItemsLayout();
+    QVERIFY(m_list->visualRect(Index(204)).isEmpty());
+    m_list->scrollTo(Index(204));
+    m_list->scrollTo(Index(0));
+    QTRY_VERIFY(!m_list->visualRect(Index(204)).isEmpty());
+    QCOMPARE(m_list->verticalScrollBar()->value(), 0);
+    QVERIFY(m_list->verticalScrollBar()->maximum() > 0);
 }
 
 GUARDED_TEST_MAIN(TestFilePage)
