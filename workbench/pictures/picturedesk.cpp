@@ -306,7 +306,7 @@ void PictureDesk::slotAdded(PictureDocument *document) { m_undoGroup->addStack(d
 
 void PictureDesk::slotSaved(const SaveRequest &request, const QString &error)
 {
-    PictureDocument *source = request.image.isNull() ? m_shelf->Find(request.file.path) : nullptr;
+    PictureDocument *source = request.image.isNull() ? m_shelf->FindId(request.file.id) : nullptr; // its name may be another
     bool isWhole = false;
     if (!error.isEmpty()) {
         emit signalFault(error);

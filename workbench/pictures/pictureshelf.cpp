@@ -47,6 +47,13 @@ PictureDocument *PictureShelf::Find(const QString &path) const
     return found == m_documents.end() ? nullptr : *found;
 }
 
+PictureDocument *PictureShelf::FindId(quint64 id) const
+{
+    const auto found = std::find_if(m_documents.begin(), m_documents.end(),
+                                    [id](const PictureDocument *document) { return document->File().id == id; });
+    return found == m_documents.end() ? nullptr : *found;
+}
+
 PictureDocument *PictureShelf::Find(const QObject *document) const
 {
     const auto found = std::find(m_documents.begin(), m_documents.end(), document);

@@ -28,6 +28,8 @@ public:
     void SetSelected(const QVector<PictureDocument *> &documents) { m_selected = documents; }
     /// Null when that file is not open.
     PictureDocument *Find(const QString &path) const;
+    /// That of PictureAccess::FileName; null when it was closed.
+    PictureDocument *FindId(quint64 id) const;
     /// The one there, or null: an object that came back from a widget.
     PictureDocument *Find(const QObject *document) const;
     /// The next one that stays when `document` goes; null when it is the last.

@@ -3,7 +3,9 @@
 #include "picturebench.h"
 #include "viewcodes.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QThread>
 #include <QUndoGroup>
 #include <QUndoStack>
 
@@ -210,6 +212,21 @@ private slots:
         bench.main.SaveAs(bench.Path("stack.tif"), true);
         QTRY_COMPARE(whole, QVector<bool>({ false, true }));
         QCOMPARE(bench.faults.size(), 1);
+    }
+
+    void aFileThatIsRenamedWhileItIsSavedIsSaved()
+    {
+        PictureBench bench;
+        QVERIFY(bench.Open("one.tif", QSize(5, 3)));
+        bench.main.slotRotateImage(0);
+        QTRY_COMPARE(bench.main.GetImageSizeString(), QString("3x5"));
+        bench.main.SaveAs(bench.Path("turned.tif"), true);
+        const QDeadlineTimer deadline(20000);
+        while (!QFile::exists(bench.Path("turned.tif")) && !deadline.hasExpired())
+            QThread::msleep(1); // no event: the answer is taken after the file has its new name
+        bench.desk.Rename(bench.main.Document(), "new name.tif");
+        QTRY_COMPARE(bench.LastMessage(), QString("\u201cturned.tif\u201d was saved."));
+        QVERIFY(!bench.main.Document()->IsChanged());
     }
 
     void renamingRenamesTheFile()
