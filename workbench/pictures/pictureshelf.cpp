@@ -89,12 +89,9 @@ void PictureShelf::Remove(PictureDocument *document)
 
 void PictureShelf::slotThumbnail(const PictureThumbnail &thumbnail)
 {
-    const auto found =
-        std::find_if(m_documents.begin(), m_documents.end(),
-                     [&](const PictureDocument *document) { return document->File().id == thumbnail.id; });
-    if (found == m_documents.end())
+    PictureDocument *document = FindId(thumbnail.id);
+    if (!document)
         return; // closed meanwhile
-    PictureDocument *document = *found;
     if (!thumbnail.error.isEmpty()) {
         if (document->Info().frames == 0)
             emit signalFailed(document, thumbnail.error);
