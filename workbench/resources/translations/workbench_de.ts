@@ -1723,6 +1723,10 @@ Im Menü Kamera eine wählen.</translation>
         <source>“%1” was saved.</source>
         <translation>„%1“ wurde gespeichert.</translation>
     </message>
+    <message>
+        <source>“%1” was changed while it was saved onto its own file: what was done meanwhile is lost. Do it again.</source>
+        <translation>„%1“ wurde geändert, während es in die eigene Datei gespeichert wurde: Was inzwischen getan wurde, ist verloren. Noch einmal tun.</translation>
+    </message>
 </context>
 <context>
     <name>PictureDialogs</name>
