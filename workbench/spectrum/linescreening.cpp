@@ -89,7 +89,8 @@ std::vector<SpectralPeak> PeaksOfWidth(const std::vector<SpectralPeak> &peaks, d
     for (const SpectralPeak &peak : peaks)
         all.push_back(oddness(peak));
     std::sort(all.begin(), all.end());
-    const double ofLeast = all.empty() ? 0 : all[std::min(all.size(), size_t(least)) - 1];
+    const size_t needed = std::min(all.size(), size_t(std::max(0, least)));
+    const double ofLeast = needed > 0 ? all[needed - 1] : 0;
     const double most = std::max(widthTolerance * width, ofLeast);
     std::vector<SpectralPeak> usual;
     std::copy_if(peaks.begin(), peaks.end(), std::back_inserter(usual), [&](const SpectralPeak &peak) { return oddness(peak) <= most; });

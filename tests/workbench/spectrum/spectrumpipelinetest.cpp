@@ -91,6 +91,9 @@ public:
                 const QMutexLocker lock(payload->lock);
                 std::swap(payload->fill, payload->show);
             }
+            shown.clear();
+            if (!payload->show)
+                return; // there are no lines any more
             shown = QVector<unsigned>(payload->show, payload->show + count);
             least = payload->minimum;
             most = payload->maximum;
