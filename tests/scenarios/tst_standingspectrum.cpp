@@ -40,8 +40,10 @@ private slots:
     {
         QFETCH(bool, isBinned);
         m_workbench->Action("Curve with Peaks")->trigger();
-        if (isBinned)
+        if (isBinned) {
             m_workbench->Action("All Rows")->trigger();
+            WaitForBinned();
+        }
         QTRY_VERIFY_WITH_TIMEOUT(Plot() && Plot()->graph(0)->dataCount() == width && !PeakKeys().isEmpty(), waitMs);
         StopCamera();
 
@@ -75,6 +77,7 @@ private slots:
     {
         m_workbench->Action("Curve")->trigger();
         m_workbench->Action("All Rows")->trigger();
+        WaitForBinned();
         QTRY_VERIFY_WITH_TIMEOUT(Plot() && Plot()->graph(0)->dataCount() == width, waitMs);
         StopCamera();
         QWidget *page = Plot()->parentWidget();
@@ -116,6 +119,12 @@ private slots:
     }
 
 private:
+    /// A row of the picture is as long as its spectrum.
+    void WaitForBinned() const
+    {
+        QTRY_COMPARE_WITH_TIMEOUT(m_workbench->services.Spectra()->Shown().raw.Count(), width, waitMs);
+    }
+
     /// Of the curve; 0 without one.
     double Highest() const
     {
