@@ -43,9 +43,8 @@
 #include "spectrumpipeline.h"
 #include "spectrumranges.h"
 #include "spectrumsettings.h"
+#include "spectrumwiring.h"
 #include "usearea.h"
-#include "viewcodes.h"
-#include "viewrules.h"
 #include "trackdesk.h"
 #include "workspace.h"
 #include "workspaceconfig.h"
@@ -60,12 +59,6 @@ namespace {
 QString RegisterFolder(const QSettings &settings)
 {
     return QFileInfo(settings.fileName()).path() + "/recordings";
-}
-
-SpectralPicture SpectralPictureOf(const LoadedPicture &shown)
-{
-    const PictureEdit::Source source = shown.request.edit.SourceOf(shown.fileSize).value_or(PictureEdit::Source());
-    return {shown.request.file.id, shown.fileSize, source.region, source.orientation, shown.fileAxis, shown.axis};
 }
 
 QString RepairText(const RepairedRun &run)
@@ -111,7 +104,7 @@ WorkbenchServices::~WorkbenchServices()
 {
     m_repair.waitForDone();
     m_preview->StopPreview();
-    m_frameTee->SetListener(nullptr);
+    m_spectrumWiring.reset();
     m_spectrumPipeline.reset(); // frames that wait there ask for the orientation
     delete m_pictureList;
 }
@@ -235,8 +228,8 @@ void WorkbenchServices::Connect()
     connect(m_workspace.get(), &Workspace::signalCameraSceneSet, m_cover.get(), &LiveCover::ShowIn);
 
     connect(m_useArea.get(), &UseArea::signalUpdateUseArea, this, &WorkbenchServices::slotShowUseArea);
-    ConnectSpectrum();
-
+    ConnectPalette();
+    WireSpectrum();
     ConnectPictures();
 
     connect(m_link, SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
@@ -248,122 +241,40 @@ void WorkbenchServices::Connect()
     connect(m_pictureDesk.get(), SIGNAL(signalMessage(QString)), this, SIGNAL(signalMessage(QString)));
 }
 
-void WorkbenchServices::ConnectSpectrum()
+void WorkbenchServices::ConnectPalette()
 {
-    connect(m_centreDisplay.get(), &CentreDisplay::signalModeChanged, this, &WorkbenchServices::slotDisplayModeChanged);
-    // The pages that a comparison takes the place of are switched before it begins.
-    connect(m_config.get(), &WorkspaceConfig::signalSwitchView, m_centreDisplay.get(),
-            [this] { m_centreDisplay->SetComparing(ViewRules::IsComparison(m_config->WorkedView())); });
-    connect(m_centreDisplay.get(), &CentreDisplay::signalEndComparisonWanted, m_config.get(),
-            [this] { m_config->SetCompareView(); });
-    connect(m_profiles.get(), &LiveProfiles::signalFrameWanted, m_preview.get(), &LivePreview::slotShowAgain);
     connect(m_levelsModel.get(), &LevelsModel::signalPaletteChanged, this, &WorkbenchServices::slotShowPalette);
     connect(m_link, &CameraLink::signalFormatChanged, this, &WorkbenchServices::slotShowPalette);
     connect(m_link, &CameraLink::signalStateChanged, this, &WorkbenchServices::slotShowPalette);
-    for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()}) {
+    for (OpenedPicture *picture : {m_mainPicture.get(), m_comparePicture.get()})
         connect(picture, &OpenedPicture::signalShown, this, &WorkbenchServices::slotShowPalette);
-        connect(m_profiles.get(), &LiveProfiles::signalLinesChanged, picture, &OpenedPicture::slotSetCurveLines);
-        connect(m_centreDisplay.get(), &CentreDisplay::signalModeChanged, picture, &OpenedPicture::slotShowCurvesAgain);
-        picture->slotSetCurveLines(m_profiles->Lines());
-    }
-    m_frameTee->SetListener(m_spectrumPipeline.get());
-    SpectrumSettings *settings = m_spectrumSettings.get();
-    connect(m_preview.get(), &LivePreview::signalPictureSizeChanged, settings, &SpectrumSettings::slotSetFrameSize);
-    connect(settings, &SpectrumSettings::signalRecipeChanged, m_spectrumPipeline.get(),
-            [this, settings] { m_spectrumPipeline->SetRecipe(settings->Recipe()); });
-    connect(settings, &SpectrumSettings::signalRecipeChanged, this, &WorkbenchServices::UpdateProfilesWanted);
-    // Once the plot knows of it; of a standing camera and of a file no curve comes by itself.
-    connect(settings, &SpectrumSettings::signalWholeCurveWanted, this, &WorkbenchServices::slotShowWholeCurve, Qt::QueuedConnection);
-    ConnectTracks();
-    connect(m_config.get(), &WorkspaceConfig::signalSwitchView, settings, [this, settings] {
-        const int view = m_config->GetCurrentView();
-        settings->slotSetImageShown(view == ImageView || view == ImageCompareView);
-        slotShowCurvesAgain();
-    });
-    // The pages are told what pixels mean now, but what they show was drawn before.
-    connect(settings, &SpectrumSettings::SignalConversationFormulaChanged, this, &WorkbenchServices::slotShowCurvesAgain);
-    m_mainPicture->SetCalibrationSource([this, settings] {
-        return m_useArea->IsSpectrumPagePresent() ? settings->ImageCalibration() : QVector<MetadataEntry>();
-    });
-    connect(m_mainPicture.get(), &OpenedPicture::signalColumnsChanged, settings,
-            [this, settings] { settings->SetImage(SpectralPictureOf(m_mainPicture->Shown())); });
-    connect(m_link, &CameraLink::signalFormatChanged, this, &WorkbenchServices::UpdateSensorFrame);
-    connect(m_link, &CameraLink::signalStateChanged, this, &WorkbenchServices::UpdateSensorFrame);
-    connect(m_orientation.get(), &LiveOrientation::signalOrientationChanged, this, &WorkbenchServices::UpdateSensorFrame);
-    const auto updateExposure = [this] {
-        const CameraSession *camera = m_link->Session();
-        // An automatic one is another for each frame, and they don't tell it.
-        const bool isKnown = camera && !camera->Controls().isAutoExposure;
-        m_spectrumPipeline->SetExposure(isKnown ? camera->Controls().exposureUs : 0);
-    };
-    connect(m_link, &CameraLink::signalControlsChanged, m_spectrumPipeline.get(), updateExposure);
-    connect(m_link, &CameraLink::signalStateChanged, m_spectrumPipeline.get(), updateExposure);
-    connect(settings, &SpectrumSettings::signalMessage, this, &WorkbenchServices::signalMessage);
 }
 
-/// A camera that is gone leaves its last picture, and what is known of that.
-void WorkbenchServices::UpdateSensorFrame()
+void WorkbenchServices::WireSpectrum()
 {
-    if (const CameraSession *camera = m_link->Session())
-        m_spectrumSettings->SetSensorFrame({camera->Format().region, camera->Format().binning, m_orientation->Get()});
-}
-
-void WorkbenchServices::ConnectTracks()
-{
-    SpectrumPipeline *spectra = m_spectrumPipeline.get();
-    TrackDesk *tracks = m_tracks.get();
-    connect(m_workspace.get(), &Workspace::signalCameraSceneSet, tracks, &TrackDesk::ShowIn);
-    connect(m_preview.get(), &LivePreview::signalPictureSizeChanged, tracks, &TrackDesk::slotPictureSize);
-    connect(spectra, &SpectrumPipeline::signalTracksFound, tracks, &TrackDesk::slotTracksFound);
-    connect(spectra, &SpectrumPipeline::signalMessage, this, &WorkbenchServices::signalMessage);
-    connect(tracks, &TrackDesk::signalMessage, this, &WorkbenchServices::signalMessage);
-    m_pictureDesk->SetLiveUndoStack(tracks->UndoStack());
-    spectra->SetUndoStack(tracks->UndoStack());
-    const auto updateLive = [this, spectra] { spectra->SetLive(m_preview->isRunning() && m_link->GetState() == CameraLink::State::Open); };
-    connect(m_preview.get(), &QThread::started, spectra, updateLive);
-    connect(m_preview.get(), &QThread::finished, spectra, updateLive);
-    connect(m_link, &CameraLink::signalStateChanged, spectra, updateLive);
-}
-
-void WorkbenchServices::slotDisplayModeChanged()
-{
-    if (m_centreDisplay->Mode() != DisplayMode::General)
-        m_useArea->slotSetSpectrum(true); // its pages belong to that use
-    UpdateProfilesWanted();
-    slotShowCurvesAgain();
+    SpectrumWiring::Parts parts;
+    parts.link = m_link;
+    parts.tee = m_frameTee.get();
+    parts.preview = m_preview.get();
+    parts.orientation = m_orientation.get();
+    parts.mainPicture = m_mainPicture.get();
+    parts.comparePicture = m_comparePicture.get();
+    parts.desk = m_pictureDesk.get();
+    parts.config = m_config.get();
+    parts.workspace = m_workspace.get();
+    parts.useArea = m_useArea.get();
+    parts.centre = m_centreDisplay.get();
+    parts.settings = m_spectrumSettings.get();
+    parts.pipeline = m_spectrumPipeline.get();
+    parts.profiles = m_profiles.get();
+    parts.tracks = m_tracks.get();
+    m_spectrumWiring = std::make_unique<SpectrumWiring>(parts);
+    connect(m_spectrumWiring.get(), &SpectrumWiring::signalMessage, this, &WorkbenchServices::signalMessage);
 }
 
 void WorkbenchServices::slotShowCurvesAgain()
 {
-    m_preview->slotShowAgain();
-    m_spectrumPipeline->ShowAgain();
-    // The 3D page is built when it is shown for the first time, which may be later than this.
-    QMetaObject::invokeMethod(this, &WorkbenchServices::TellOfNoTracks, Qt::QueuedConnection);
-}
-
-void WorkbenchServices::TellOfNoTracks()
-{
-    if (m_centreDisplay->Mode() == DisplayMode::Tracks3D && !m_spectrumSettings->Recipe().hasTracks)
-        m_spectrumPipeline->AnnounceNoTracks();
-}
-
-void WorkbenchServices::slotShowWholeCurve()
-{
-    slotShowCurvesAgain();
-    m_mainPicture->slotShowCurvesAgain();
-}
-
-/// The curve's page shows a profile of the picture only while there is neither a binned spectrum nor a track.
-void WorkbenchServices::UpdateProfilesWanted()
-{
-    const DisplayMode mode = m_centreDisplay->Mode();
-    const SpectrumRecipe &recipe = m_spectrumSettings->Recipe();
-    const bool isCurve = mode == DisplayMode::Plot || mode == DisplayMode::PlotPeak;
-    const bool isWanted = mode == DisplayMode::Physics || (isCurve && !recipe.isBinning && !recipe.hasTracks);
-    const bool isNew = isWanted && !m_profiles->IsWanted();
-    m_profiles->SetWanted(isWanted);
-    if (isNew) // after what was shown until now is gone from the page
-        QMetaObject::invokeMethod(this, &WorkbenchServices::slotShowCurvesAgain, Qt::QueuedConnection);
+    m_spectrumWiring->slotShowCurvesAgain();
 }
 
 void WorkbenchServices::slotShowPalette()

@@ -50,6 +50,7 @@ class SaveSettings;
 class SpectrumPipeline;
 class SpectrumRanges;
 class SpectrumSettings;
+class SpectrumWiring;
 class TrackDesk;
 class UseArea;
 class Workspace;
@@ -99,7 +100,7 @@ public:
 public slots:
     /// Shows what the workbench is used for: the picture or a spectrum page. For the first time when the pages are built.
     void slotShowUseArea();
-    /// With the camera stopped nothing else feeds the pages. The profile of a standing picture needs a frame to be made of.
+    /// Draws the camera's curves anew, see SpectrumWiring.
     void slotShowCurvesAgain();
 
 signals:
@@ -113,8 +114,6 @@ private slots:
     void slotFramesFailed();
     void slotPictureSizeChanged(QSize size);
     void slotRegionWanted(QRect region);
-    void slotDisplayModeChanged();
-    void slotShowWholeCurve();
     void slotShowPalette();
 
 private:
@@ -127,11 +126,8 @@ private:
     void StartWorkspace();
     void Connect();
     void ConnectPictures();
-    void ConnectSpectrum();
-    void ConnectTracks();
-    void UpdateProfilesWanted();
-    void TellOfNoTracks();
-    void UpdateSensorFrame();
+    void ConnectPalette();
+    void WireSpectrum();
     void RepairRecordings();
 
     QSettings *m_settings;
@@ -179,6 +175,7 @@ private:
     std::unique_ptr<LiveProfiles> m_profiles;
     std::unique_ptr<RecordingDesk> m_recording;
     std::unique_ptr<Workspace> m_workspace;
+    std::unique_ptr<SpectrumWiring> m_spectrumWiring;
     /// Only while a camera is open.
     std::unique_ptr<OpenCamera> m_openCamera;
     /// The tab that shows it owns it.
