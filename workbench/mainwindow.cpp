@@ -20,6 +20,7 @@
 #include "levelssource.h"
 #include "liveorientation.h"
 #include "openedpicture.h"
+#include "openedprofiles.h"
 #include "panelsources.h"
 #include "picturedesk.h"
 #include "picturedialogs.h"
@@ -108,7 +109,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     // The panels find them while the module is built.
     auto *sources = new PanelSources(
         {services->Histogram(), services->Spectrum(), services->Spectra(), services->Tracks(), services->Calibration(),
-         [services] { return services->Desk()->MainPicture()->IsProfileSaturated(services->Spectrum()->IsDirectionHorinzontal()); }},
+         [services] { return services->Desk()->MainPicture()->Profiles()->IsSaturated(services->Spectrum()->IsDirectionHorinzontal()); }},
         this);
     AddAdjustment(FieldSource::CameraAdjustmentName, services->LivePosition(), SLOT(slotSetMirrorRotate(int)));
     AddAdjustment(FieldSource::ImageAdjustmentName, services->Desk()->MainPicture(), SLOT(slotRotateImage(int)));

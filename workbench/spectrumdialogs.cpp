@@ -7,6 +7,7 @@
 #include "exportdialog.h"
 #include "faultnotice.h"
 #include "openedpicture.h"
+#include "openedprofiles.h"
 #include "picturedesk.h"
 #include "picturedocument.h"
 #include "plotpicture.h"
@@ -85,11 +86,11 @@ ExportedSpectrum SpectrumDialogs::OpenedSpectrum() const
     const OpenedPicture *picture = m_services->Desk()->MainPicture();
     const bool isHorizontal = m_services->Spectrum()->Recipe().isHorizontal;
     spectrum.axis = m_services->Spectrum()->ShownAxis();
-    spectrum.product.raw.values = picture->Profile(isHorizontal);
+    spectrum.product.raw.values = picture->Profiles()->Values(isHorizontal);
     if (spectrum.product.raw.values.empty())
         return spectrum;
-    spectrum.product.raw.saturated = picture->SaturatedInProfile(isHorizontal);
-    const ProfileBand lines = picture->LinesOfProfile(isHorizontal);
+    spectrum.product.raw.saturated = picture->Profiles()->Saturated(isHorizontal);
+    const ProfileBand lines = picture->Profiles()->Lines(isHorizontal);
     spectrum.product.band.top = lines.first;
     spectrum.product.band.bottom = lines.end;
     spectrum.product.raw.place.isHorizontal = isHorizontal;

@@ -9,6 +9,7 @@
 #include "livepreview.h"
 #include "liveprofiles.h"
 #include "openedpicture.h"
+#include "openedprofiles.h"
 #include "picturedesk.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
@@ -61,9 +62,9 @@ void SpectrumWiring::ConnectProfiles()
 {
     connect(m_parts.profiles, &LiveProfiles::signalFrameWanted, m_parts.preview, &LivePreview::slotShowAgain);
     for (OpenedPicture *picture : {m_parts.mainPicture, m_parts.comparePicture}) {
-        connect(m_parts.profiles, &LiveProfiles::signalLinesChanged, picture, &OpenedPicture::slotSetCurveLines);
+        connect(m_parts.profiles, &LiveProfiles::signalLinesChanged, picture->Profiles(), &OpenedProfiles::slotSetLines);
         connect(m_parts.centre, &CentreDisplay::signalModeChanged, picture, &OpenedPicture::slotShowCurvesAgain);
-        picture->slotSetCurveLines(m_parts.profiles->Lines());
+        picture->Profiles()->slotSetLines(m_parts.profiles->Lines());
     }
 }
 

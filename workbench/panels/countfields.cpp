@@ -3,6 +3,7 @@
 
 #include "autocounting.h"
 #include "openedpicture.h"
+#include "picturetrials.h"
 
 #include <QFileInfo>
 
@@ -26,8 +27,8 @@ CountFields::CountFields(OpenedPicture *picture, AutoCounting *counting, QObject
     m_delay.setSingleShot(true);
     m_delay.setInterval(DelayMs);
     connect(&m_delay, &QTimer::timeout, this, &CountFields::slotCount);
-    connect(picture, &OpenedPicture::signalCounted, this, &CountFields::slotCounted);
-    connect(picture, &OpenedPicture::signalProcessingEnded, this, &CountFields::slotEnd);
+    connect(picture->Trials(), &PictureTrials::signalCounted, this, &CountFields::slotCounted);
+    connect(picture->Trials(), &PictureTrials::signalProcessingEnded, this, &CountFields::slotEnd);
     connect(picture, &OpenedPicture::signalShown, this, &CountFields::signalChanged);
     connect(counting, &AutoCounting::signalSaved, this, &CountFields::slotSaved);
 }
@@ -176,7 +177,7 @@ void CountFields::slotCount()
 {
     m_delay.stop();
     if (m_counting->IsCounting())
-        m_picture->Count(m_settings);
+        m_picture->Trials()->Count(m_settings);
 }
 
 void CountFields::slotCounted()
@@ -195,7 +196,7 @@ void CountFields::slotEnd()
 {
     m_delay.stop();
     m_counting->SetCounting(false);
-    m_picture->Count(std::nullopt);
+    m_picture->Trials()->Count(std::nullopt);
     emit signalFault(QString());
     emit signalChanged();
 }

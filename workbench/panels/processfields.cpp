@@ -4,6 +4,7 @@
 #include "openedpicture.h"
 #include "picturedocument.h"
 #include "pictureshelf.h"
+#include "picturetrials.h"
 
 namespace {
 
@@ -20,9 +21,9 @@ ProcessFields::ProcessFields(OpenedPicture *picture, PictureShelf *shelf, QObjec
     m_delay.setSingleShot(true);
     m_delay.setInterval(DelayMs);
     connect(&m_delay, &QTimer::timeout, this, &ProcessFields::slotTry);
-    connect(picture, &OpenedPicture::signalPreviewed, this, &ProcessFields::slotPreviewed);
-    connect(picture, &OpenedPicture::signalPreviewEnded, this, &ProcessFields::slotPreviewEnded);
-    connect(picture, &OpenedPicture::signalApplyWanted, this, &ProcessFields::slotApply);
+    connect(picture->Trials(), &PictureTrials::signalPreviewed, this, &ProcessFields::slotPreviewed);
+    connect(picture->Trials(), &PictureTrials::signalPreviewEnded, this, &ProcessFields::slotPreviewEnded);
+    connect(picture->Trials(), &PictureTrials::signalApplyWanted, this, &ProcessFields::slotApply);
     connect(picture, &OpenedPicture::signalShown, this, &ProcessFields::signalChanged);
     connect(shelf, &PictureShelf::signalAdded, this, &ProcessFields::slotAdded);
     connect(shelf, &PictureShelf::signalRemoved, this, &ProcessFields::signalChanged);
@@ -127,7 +128,7 @@ void ProcessFields::slotLeave()
 void ProcessFields::slotTry()
 {
     m_delay.stop();
-    m_picture->Preview(m_choices.Settings(Context()));
+    m_picture->Trials()->Preview(m_choices.Settings(Context()));
 }
 
 /// The button above the panels, too, which can be clicked when there is nothing to apply.
@@ -139,7 +140,7 @@ void ProcessFields::slotApply()
     }
     if (m_delay.isActive())
         slotTry();
-    m_picture->ApplyPreview(ProcessChoices::StepText(m_choices.Settings(Context())));
+    m_picture->Trials()->ApplyPreview(ProcessChoices::StepText(m_choices.Settings(Context())));
 }
 
 void ProcessFields::slotPreviewed(QString error)

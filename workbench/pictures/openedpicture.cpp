@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "openedpicture.h"
 
+#include "openedprofiles.h"
 #include "picturedocument.h"
 #include "picturelevels.h"
 #include "pictureloader.h"
+#include "picturetrials.h"
 #include "pixeltext.h"
 #include "spectrumuimanager.h"
 #include "uiconfigmanager.h"
@@ -27,9 +29,13 @@ OpenedPicture::OpenedPicture(PictureLoader *loader, Place place, QObject *parent
     , m_place(place)
     , m_measuring(new ViewMeasuring(this))
     , m_levels(new PictureLevels(this))
+    , m_profiles(new OpenedProfiles(this))
+    , m_trials(new PictureTrials(this))
     , m_isBrowsed(place == MainPlace)
 {
     connect(loader, SIGNAL(signalLoaded(LoadedPicture)), this, SLOT(slotLoaded(LoadedPicture)));
+    connect(m_profiles, &OpenedProfiles::signalRow, this, &ImageManager::sglUpdateHorizontalCurve);
+    connect(m_profiles, &OpenedProfiles::signalColumn, this, &ImageManager::sglUpdateVerticalCurve);
 }
 
 // Asking and answering
@@ -39,14 +45,14 @@ void OpenedPicture::Show(PictureDocument *document) { Request(document, document
 void OpenedPicture::Request(PictureDocument *document, int frame)
 {
     if (document != m_document)
-        EndTrials();
+        m_trials->End();
     PictureRequest request;
     request.place = m_place;
     request.file = document->File();
     request.frame = frame;
-    request.isPreview = !IsNone(m_preview);
-    request.edit = document->Edit().Processed(m_preview);
-    request.count = m_count;
+    request.isPreview = m_trials->IsPreviewing();
+    request.edit = document->Edit().Processed(m_trials->Previewed());
+    request.count = m_trials->Counting();
     request.range = request.isPreview ? SampleRange() : document->Range();
     request.wantsThumbnail =
         !request.isPreview
@@ -66,7 +72,7 @@ void OpenedPicture::slotLoaded(const LoadedPicture &picture)
         Take(picture);
     } else if (picture.request.isPreview) {
         if (picture.request.ticket == m_wantedTicket)
-            FailPreview(picture.error);
+            m_trials->PreviewFailed(picture.error);
     } else if (picture.request.ticket == m_wantedTicket) {
         PictureDocument *failed = m_wanted;
         if (failed != m_document)
@@ -105,12 +111,13 @@ void OpenedPicture::Take(const LoadedPicture &picture)
     if (isOther)
         Follow(m_wanted);
     m_levels->Set(picture.samples.Type(), picture.range);
+    m_profiles->SetPicture(picture.samples, m_levels->Factor());
 
     emit signalSetCropState(NewSelection, false);
     emit signalShowPicture(m_shown.image);
     emit signalUpdateFileNameAndSize(GetFileInfo());
     emit signalUpdateLevel(m_levels->LeftValue(), m_levels->RightValue());
-    PickMiddle(isOtherSize);
+    m_profiles->PickMiddle(isOtherSize); // of one of the same size the place and the part that are seen stay
     if (isOther)
         AnnounceDocument();
     else
@@ -120,12 +127,12 @@ void OpenedPicture::Take(const LoadedPicture &picture)
         emit sglAddThumbnail(m_shown.thumbnail);
     emit UIConfigManager::GetInstance()->signalImageInfoChanged();
     if (picture.request.isPreview)
-        FinishApply();
+        m_trials->PreviewShown();
     else
         Settle(isOther);
-    AnnounceCurves(); // the plot has been told that it is another file, and ranges anew
-    if (picture.request.count && m_count)
-        emit signalCounted();
+    slotShowCurvesAgain(); // the plot has been told that it is another file, and ranges anew
+    if (picture.request.count)
+        m_trials->CountShown();
 }
 
 /// The picture is there without anything that is only tried.
@@ -143,14 +150,6 @@ void OpenedPicture::Settle(bool isOther)
         emit signalShown();
     else if (was32Bit != Is32BitMat())
         emit UIConfigManager::GetInstance()->signalUpdateImageControlUI();
-}
-
-/// Of a picture of the same size the place and the part that are seen stay, so their curves do too.
-void OpenedPicture::PickMiddle(bool isOtherSize)
-{
-    const QSize size = m_shown.samples.Size();
-    if (isOtherSize || !m_curves.IsPicked())
-        m_curves.Pick(QPointF(size.width() / 2.0, size.height() / 2.0), QRectF(0, 0, 1, 1));
 }
 
 /// An opened spectrum begins along its rows.
@@ -201,55 +200,10 @@ void OpenedPicture::AnnounceFrame()
 
 void OpenedPicture::GetIntensityCurveHistogramData(QPointF scenePos, QRectF region, int)
 {
-    m_curves.Pick(scenePos, region);
-    AnnounceCurves();
+    m_profiles->Pick(scenePos, region);
 }
 
-void OpenedPicture::slotSetCurveLines(int lines)
-{
-    m_curves.SetLines(lines);
-    AnnounceCurves();
-}
-
-/// Through the point that was picked last, as long as one was. The plot has a zoom of its own: it gets all of them.
-void OpenedPicture::AnnounceCurves()
-{
-    if (IsNonImage() || !m_curves.Make(m_shown.samples, m_levels->Factor()))
-        return;
-    const SpectrumUIManager *pages = SpectrumUIManager::GetInstance();
-    if (pages->IsDisplayMode2D() || pages->IsDisplayMode2DPeak())
-        m_curves.ShowAll();
-    PictureCurves::Curve &row = m_curves.Row();
-    emit sglUpdateHorizontalCurve(row.samples.data(), int(row.samples.size()), row.offset, row.count);
-    PictureCurves::Curve &column = m_curves.Column();
-    emit sglUpdateVerticalCurve(column.samples.data(), int(column.samples.size()), column.offset, column.count);
-}
-
-std::vector<double> OpenedPicture::Profile(bool alongRow) const
-{
-    PictureCurves curves = m_curves;
-    const double factor = m_levels->Factor();
-    if (IsNonImage() || !curves.Make(m_shown.samples, factor))
-        return {};
-    const std::vector<int> &samples = alongRow ? curves.Row().samples : curves.Column().samples;
-    std::vector<double> values(samples.begin(), samples.end());
-    for (double &value : values)
-        value /= factor;
-    return values;
-}
-
-bool OpenedPicture::IsProfileSaturated(bool alongRow) const
-{
-    if (IsNonImage())
-        return false;
-    const std::vector<quint8> saturated = SaturatedInProfile(alongRow);
-    return std::find(saturated.begin(), saturated.end(), 1) != saturated.end();
-}
-
-ProfileBand OpenedPicture::LinesOfProfile(bool alongRow) const
-{
-    return alongRow ? m_curves.RowBand(GetImageSize()) : m_curves.ColumnBand(GetImageSize());
-}
+void OpenedPicture::slotShowCurvesAgain() { m_profiles->slotAnnounce(); }
 
 void OpenedPicture::Follow(PictureDocument *document)
 {
@@ -261,11 +215,13 @@ void OpenedPicture::Follow(PictureDocument *document)
 }
 
 /// While another picture is on its way, what was done to this one is seen when the other cannot be shown.
-void OpenedPicture::slotEdited()
+void OpenedPicture::ShowAnew()
 {
-    if (m_wanted == m_document)
+    if (m_document && m_wanted == m_document)
         Request(m_document, m_wantedFrame);
 }
+
+void OpenedPicture::slotEdited() { ShowAnew(); }
 
 void OpenedPicture::slotRenamed()
 {
@@ -281,8 +237,7 @@ void OpenedPicture::slotLevelsChanged()
     if (!m_document)
         return;
     m_document->SetRange(SampleRange());
-    if (m_wanted == m_document)
-        Request(m_document, m_wantedFrame);
+    ShowAnew();
 }
 
 void OpenedPicture::SetImage(int index)
@@ -318,14 +273,14 @@ void OpenedPicture::Forget()
 {
     if (m_document)
         disconnect(m_document, nullptr, this, nullptr);
-    EndTrials();
+    m_trials->End();
     m_document.clear();
     m_wanted.clear();
     m_frameCount = 0;
     m_wantedFrame = 0;
     m_shown = LoadedPicture();
     m_levels->Set(SampleType::U8, { 0, 255 });
-    m_curves.Forget();
+    m_profiles->Forget();
 }
 
 void OpenedPicture::ConnectWidthDrawView(QObject *view, bool spectrum)
@@ -338,70 +293,6 @@ void OpenedPicture::ConnectWidthDrawView(QObject *view, bool spectrum)
         connect(this, SIGNAL(signalShowPicture(QImage)), view, SLOT(slotPaintPreview(QImage)));
     connect(view, SIGNAL(signalUpdateMousePosition(QPointF)), this, SLOT(slotMouseAt(QPointF)));
     connect(view, SIGNAL(signalUpdateImageGrayValueInfo()), this, SLOT(slotReadPixel()));
-}
-
-// What is tried
-
-void OpenedPicture::Preview(const ProcessSettings &settings)
-{
-    if (!m_document || m_wanted != m_document || settings == m_preview)
-        return;
-    m_applyText.clear();
-    m_preview = settings;
-    Request(m_document, m_wantedFrame);
-    if (IsNone(settings))
-        emit signalPreviewEnded();
-}
-
-void OpenedPicture::ApplyPreview(const QString &text)
-{
-    if (IsNone(m_preview))
-        return;
-    m_applyText = text;
-    if (m_shown.request.ticket == m_wantedTicket)
-        FinishApply();
-}
-
-void OpenedPicture::FinishApply()
-{
-    emit signalPreviewed(QString());
-    if (m_applyText.isEmpty() || m_shown.request.ticket != m_wantedTicket)
-        return;
-    const PictureEdit edit = m_document->Edit().Processed(m_preview);
-    const QString text = m_applyText;
-    m_preview = ProcessSettings();
-    m_applyText.clear();
-    m_document->PushEdit(edit, text);
-    emit signalPreviewEnded();
-}
-
-/// What was shown before stays, and what is tried is still what the user set.
-void OpenedPicture::FailPreview(const QString &error)
-{
-    m_applyText.clear();
-    emit signalPreviewed(error);
-}
-
-/// Another picture is wanted.
-void OpenedPicture::EndTrials()
-{
-    if (!IsNone(m_preview)) {
-        m_preview = ProcessSettings();
-        m_applyText.clear();
-        emit signalPreviewEnded();
-    }
-    if (m_count) {
-        m_count.reset();
-        emit signalProcessingEnded();
-    }
-}
-
-void OpenedPicture::Count(const std::optional<CountSettings> &settings)
-{
-    if (!m_document || m_wanted != m_document || settings == m_count)
-        return;
-    m_count = settings;
-    Request(m_document, m_wantedFrame);
 }
 
 // What is shown
@@ -476,7 +367,7 @@ void OpenedPicture::slotRotateImage(int type)
 void OpenedPicture::slotImageCrop()
 {
     // What is cropped out is said in pixels of the picture without what is tried.
-    Preview(ProcessSettings());
+    m_trials->Preview(ProcessSettings());
     if (!IsNonImage())
         emit signalSetCropState(NewSelection, true);
 }
@@ -522,10 +413,6 @@ void OpenedPicture::slotImageInfo()
         emit signalInformationWanted();
 }
 
-void OpenedPicture::ClearAll() {}
-
-void OpenedPicture::LineProfileMouseMoveEvent(QMouseEvent *) {}
-
 MeasureManager *OpenedPicture::GetMeasureManager() const { return m_measuring; }
 
 /// Panels say themselves what they process; the module only ends it.
@@ -533,19 +420,7 @@ void OpenedPicture::SetProcessType(int type)
 {
     constexpr int none = 0;
     if (type == none)
-        emit signalProcessingEnded();
+        emit m_trials->signalProcessingEnded();
 }
 
-void OpenedPicture::SetAdjustApply(int) { emit signalApplyWanted(); }
-
-void OpenedPicture::slotFinishSetBrush() {}
-
-void OpenedPicture::slotNewImageCopy(void *) {}
-
-void OpenedPicture::slotMouseMoveEvent(QMouseEvent *) {}
-
-void OpenedPicture::slotMousePressEvent(QMouseEvent *, QPointF) {}
-
-void OpenedPicture::slotMouseReleaseEvent(QMouseEvent *) {}
-
-void OpenedPicture::slotMouseDoubleClickEvent(QMouseEvent *) {}
+void OpenedPicture::SetAdjustApply(int) { emit m_trials->signalApplyWanted(); }

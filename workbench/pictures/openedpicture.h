@@ -2,16 +2,17 @@
 #pragma once
 
 #include "imagemanager.h"
-#include "picturecurves.h"
 #include "picturerequest.h"
 
 #include <QPointer>
 
 #include <functional>
 
+class OpenedProfiles;
 class PictureDocument;
 class PictureLevels;
 class PictureLoader;
+class PictureTrials;
 class ViewMeasuring;
 struct SaveRequest;
 
@@ -47,28 +48,19 @@ public:
     /// What a save of it asks for, but for the target; without what is only tried.
     SaveRequest SaveOfShown(bool allFrames) const;
     void SaveAs(const QString &target, bool allFrames);
-    /// The profile through the point that was picked last, in the units of the file; empty when none was.
-    std::vector<double> Profile(bool alongRow) const;
-    /// Where a sample of it is saturated, see PictureCurves::Saturated().
-    std::vector<quint8> SaturatedInProfile(bool alongRow) const { return m_curves.Saturated(m_shown.samples, alongRow); }
-    bool IsProfileSaturated(bool alongRow) const;
-    /// The rows, or columns, that it is the mean of.
-    ProfileBand LinesOfProfile(bool alongRow) const;
-
-    /// Shows what a step of processing would make of the picture; none ends it. Ends by itself when another picture is
-    /// shown or the user begins to crop.
-    void Preview(const ProcessSettings &settings);
-    /// Makes what is tried a step that can be undone, `text`, as soon as it is shown.
-    void ApplyPreview(const QString &text);
-    /// Counts and marks the objects of what is shown, until it is told otherwise or another picture is shown.
-    void Count(const std::optional<CountSettings> &settings);
+    OpenedProfiles *Profiles() const { return m_profiles; }
+    PictureTrials *Trials() const { return m_trials; }
+    /// Makes what is shown once more, as it is wanted now; not while another picture is on its way.
+    void ShowAnew();
+    /// What is shown is what was asked for last.
+    bool IsUpToDate() const { return m_shown.request.ticket == m_wantedTicket; }
     /// It is shown in its own colours, whatever the palette.
     bool IsColour() const;
     /// How many frames can be browsed.
     int FrameCount() const { return m_frameCount; }
 
-    void ClearAll() override;
-    void LineProfileMouseMoveEvent(QMouseEvent *event) override;
+    void ClearAll() override {}
+    void LineProfileMouseMoveEvent(QMouseEvent *) override {}
     MeasureManager *GetMeasureManager() const override;
     QSize GetImageSize() const override;
     QString GetFileName() const override;
@@ -92,23 +84,21 @@ public:
     void GetIntensityCurveHistogramData(QPointF scenePos, QRectF region, int type) override;
 
 public slots:
-    void slotFinishSetBrush() override;
+    void slotFinishSetBrush() override {}
     void slotRotateImage(int type) override;
     void slotSaveImageAs() override;
     void slotImageCrop() override;
     void slotImageInfo() override;
     void slotCrop(int x, int y, int width, int height, bool apply) override;
-    void slotNewImageCopy(void *image) override;
-    void slotMouseMoveEvent(QMouseEvent *event) override;
-    void slotMousePressEvent(QMouseEvent *event, QPointF scenePos) override;
-    void slotMouseReleaseEvent(QMouseEvent *event) override;
-    void slotMouseDoubleClickEvent(QMouseEvent *event) override;
+    void slotNewImageCopy(void *) override {}
+    void slotMouseMoveEvent(QMouseEvent *) override {}
+    void slotMousePressEvent(QMouseEvent *, QPointF) override {}
+    void slotMouseReleaseEvent(QMouseEvent *) override {}
+    void slotMouseDoubleClickEvent(QMouseEvent *) override {}
     /// The levels were changed: makes the picture anew.
     void slotLevelsChanged();
-    /// Neighbouring lines that a curve is the mean of.
-    void slotSetCurveLines(int lines);
     /// Another page shows the curves, or the same one wants them once more.
-    void slotShowCurvesAgain() { AnnounceCurves(); }
+    void slotShowCurvesAgain();
     /// The frame browser is that of the active picture, at first the main one; only that tells it of its frames.
     void slotActiveImageChanged(QObject *image);
 
@@ -125,16 +115,6 @@ signals:
     /// The user wants to say where to save what is shown, or to read about it.
     void signalSaveAsWanted();
     void signalInformationWanted();
-    /// What is tried is on the screen, or `error` says why not.
-    void signalPreviewed(QString error);
-    /// Nothing is tried any more, though nobody asked for that.
-    void signalPreviewEnded();
-    /// What is tried is to be applied.
-    void signalApplyWanted();
-    /// The objects of what is shown were counted.
-    void signalCounted();
-    /// The counting is left.
-    void signalProcessingEnded();
     /// A sentence for the status bar.
     void signalMessage(QString text);
 
@@ -150,22 +130,18 @@ private:
     void Take(const LoadedPicture &picture);
     void AnnounceDocument();
     void AnnounceFrame();
-    void AnnounceCurves();
     void TellFrameBrowser();
-    void PickMiddle(bool isOtherSize);
     void AnnounceSpectrum(bool isOther, bool isOtherSize);
     void Follow(PictureDocument *document);
     void Settle(bool isOther);
-    void FailPreview(const QString &error);
-    void FinishApply();
-    void EndTrials();
     void Forget();
 
     PictureLoader *m_loader;
     const Place m_place;
     ViewMeasuring *m_measuring;
     PictureLevels *m_levels;
-    PictureCurves m_curves;
+    OpenedProfiles *m_profiles;
+    PictureTrials *m_trials;
     QPointer<PictureDocument> m_document;
     QPointer<PictureDocument> m_wanted;
     int m_wantedFrame = 0;
@@ -173,10 +149,7 @@ private:
     bool m_isTellingBrowser = false;
     quint64 m_wantedTicket = 0;
     LoadedPicture m_shown;
-    ProcessSettings m_preview; ///< of m_document
     CalibrationSource m_calibration;
-    QString m_applyText;       ///< of the step that the preview becomes when it is shown; empty: it does not
-    std::optional<CountSettings> m_count; ///< of m_document
     SampleType m_settledType = SampleType::U8; ///< without what is only tried
     int m_frameCount = 0;                      ///< likewise
     QPointF m_mousePos; ///< picture pixels

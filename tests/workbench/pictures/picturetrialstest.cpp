@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "picturetrials.h"
 #include "guardedtest.h"
 #include "picturebench.h"
 
@@ -20,7 +21,7 @@ ProjectionSettings Most() { return { ProjectionSettings::Method::Maximum, false 
 } // namespace
 
 /// Steps of processing: tried on the picture that is shown, applied, undone, saved.
-class PicturePreviewTest : public GuardedTest
+class PictureTrialsTest : public GuardedTest
 {
     Q_OBJECT
 
@@ -39,15 +40,15 @@ private slots:
         QVERIFY(bench.Open("a.tif", QSize(6, 4), 3));
         bench.main.SetImage(1);
         QTRY_COMPARE(FirstSample(bench), 1000);
-        QSignalSpy previewed(&bench.main, &OpenedPicture::signalPreviewed);
-        QSignalSpy ended(&bench.main, &OpenedPicture::signalPreviewEnded);
-        bench.main.Preview(Less(300));
+        QSignalSpy previewed(bench.main.Trials(), &PictureTrials::signalPreviewed);
+        QSignalSpy ended(bench.main.Trials(), &PictureTrials::signalPreviewEnded);
+        bench.main.Trials()->Preview(Less(300));
         QTRY_COMPARE(FirstSample(bench), 700);
         QCOMPARE(previewed.size(), 1);
         QCOMPARE(previewed.first().first().toString(), QString());
         bench.main.SetImage(2); // the other frames are seen in the same way
         QTRY_COMPARE(FirstSample(bench), 1700);
-        bench.main.Preview(ProcessSettings());
+        bench.main.Trials()->Preview(ProcessSettings());
         QTRY_COMPARE(FirstSample(bench), 2000);
         QCOMPARE(ended.size(), 1);
         QVERIFY(!bench.main.Document()->UndoStack()->canUndo());
@@ -61,7 +62,7 @@ private slots:
         bench.main.SetImage(1);
         QTRY_COMPARE(FirstSample(bench), 1000);
         for (int level = 1; level <= 50; ++level)
-            bench.main.Preview(Less(level));
+            bench.main.Trials()->Preview(Less(level));
         QTRY_COMPARE(FirstSample(bench), 950);
         QVERIFY(bench.shown.size() < 40); // not each was made
     }
@@ -73,17 +74,17 @@ private slots:
         bench.main.SetImage(1);
         QTRY_COMPARE(FirstSample(bench), 1000);
         QUndoStack *undo = bench.main.Document()->UndoStack();
-        bench.main.Preview(Less(300));
-        bench.main.ApplyPreview("Background");
+        bench.main.Trials()->Preview(Less(300));
+        bench.main.Trials()->ApplyPreview("Background");
         QTRY_COMPARE(undo->count(), 1);
         QCOMPARE(undo->undoText(), QString("Background"));
         QTRY_VERIFY(!bench.main.Shown().request.isPreview);
         QCOMPARE(FirstSample(bench), 700);
         QVERIFY(!bench.main.Shown().thumbnail.isNull());
 
-        bench.main.Preview(Less(200)); // on top of it
+        bench.main.Trials()->Preview(Less(200)); // on top of it
         QTRY_COMPARE(FirstSample(bench), 500);
-        bench.main.ApplyPreview("Background");
+        bench.main.Trials()->ApplyPreview("Background");
         QCOMPARE(undo->count(), 2); // it is on the screen already
         undo->undo();
         QTRY_COMPARE(FirstSample(bench), 700);
@@ -97,9 +98,9 @@ private slots:
     {
         PictureBench bench;
         QVERIFY(bench.Open("a.tif", QSize(6, 4)));
-        bench.main.ApplyPreview("Nothing");
+        bench.main.Trials()->ApplyPreview("Nothing");
         QCOMPARE(bench.main.Document()->UndoStack()->count(), 0);
-        QSignalSpy wanted(&bench.main, &OpenedPicture::signalApplyWanted);
+        QSignalSpy wanted(bench.main.Trials(), &PictureTrials::signalApplyWanted);
         bench.main.SetAdjustApply(0);
         QCOMPARE(wanted.size(), 1);
     }
@@ -108,11 +109,11 @@ private slots:
     {
         PictureBench bench;
         QVERIFY(bench.Open("a.tif", QSize(6, 4)));
-        QSignalSpy previewed(&bench.main, &OpenedPicture::signalPreviewed);
+        QSignalSpy previewed(bench.main.Trials(), &PictureTrials::signalPreviewed);
         BinningSettings coarse;
         coarse.size = 5;
-        bench.main.Preview(coarse);
-        bench.main.ApplyPreview("Binning");
+        bench.main.Trials()->Preview(coarse);
+        bench.main.Trials()->ApplyPreview("Binning");
         QTRY_COMPARE(previewed.size(), 1);
         QCOMPARE(previewed.first().first().toString(), QString("The picture, 6x4 pixels, is smaller than 5x5."));
         QCOMPARE(bench.main.Shown().samples.Size(), QSize(6, 4));
@@ -124,9 +125,9 @@ private slots:
     {
         PictureBench bench;
         QVERIFY(bench.Open("a.tif", QSize(6, 4), 2));
-        bench.main.Preview(Less(5));
+        bench.main.Trials()->Preview(Less(5));
         QTRY_VERIFY(bench.main.Shown().request.isPreview);
-        QSignalSpy ended(&bench.main, &OpenedPicture::signalPreviewEnded);
+        QSignalSpy ended(bench.main.Trials(), &PictureTrials::signalPreviewEnded);
         QVERIFY(bench.Open("b.tif", QSize(6, 4)));
         QCOMPARE(ended.size(), 1);
         QVERIFY(!bench.main.Shown().request.isPreview);
@@ -139,7 +140,7 @@ private slots:
     {
         PictureBench bench;
         QVERIFY(bench.Open("a.tif", QSize(6, 4)));
-        bench.main.Preview(BinningSettings());
+        bench.main.Trials()->Preview(BinningSettings());
         QTRY_COMPARE(bench.main.Shown().samples.Size(), QSize(3, 2));
         bench.main.slotImageCrop();
         QTRY_COMPARE(bench.main.Shown().samples.Size(), QSize(6, 4));
@@ -150,10 +151,10 @@ private slots:
         PictureBench bench;
         QVERIFY(bench.Open("a.tif", QSize(6, 4), 5));
         QSignalSpy counts(&bench.main, &ImageManager::signalCurrentFileFrameNumber);
-        bench.main.Preview(Most());
+        bench.main.Trials()->Preview(Most());
         QTRY_COMPARE(FirstSample(bench), 4000);
         QCOMPARE(bench.main.FrameCount(), 5); // not yet
-        bench.main.ApplyPreview("Projection");
+        bench.main.Trials()->ApplyPreview("Projection");
         QTRY_COMPARE(bench.main.FrameCount(), 1);
         QCOMPARE(counts.last().first().toInt(), 1);
         bench.main.SetImage(3);
@@ -169,10 +170,10 @@ private slots:
     {
         PictureBench bench;
         QVERIFY(bench.Open("a.tif", QSize(6, 4), 5));
-        bench.main.Preview(ProjectionSettings{ ProjectionSettings::Method::StandardDeviation, false });
+        bench.main.Trials()->Preview(ProjectionSettings{ ProjectionSettings::Method::StandardDeviation, false });
         QTRY_COMPARE(int(bench.main.Shown().samples.Type()), int(SampleType::F32));
         QVERIFY(!bench.main.Is32BitMat());
-        bench.main.ApplyPreview("Projection");
+        bench.main.Trials()->ApplyPreview("Projection");
         QTRY_VERIFY(bench.main.Is32BitMat());
         bench.main.Document()->UndoStack()->undo();
         QTRY_VERIFY(!bench.main.Is32BitMat());
@@ -183,10 +184,10 @@ private slots:
         PictureBench bench;
         QVERIFY(bench.Open("a.tif", QSize(6, 4), 3));
         bench.main.slotRotateImage(0);
-        bench.main.Preview(Less(1500));
-        bench.main.ApplyPreview("Background");
+        bench.main.Trials()->Preview(Less(1500));
+        bench.main.Trials()->ApplyPreview("Background");
         QTRY_COMPARE(bench.main.Document()->UndoStack()->count(), 2);
-        bench.main.Preview(ProjectionSettings{ ProjectionSettings::Method::Sum, false });
+        bench.main.Trials()->Preview(ProjectionSettings{ ProjectionSettings::Method::Sum, false });
         QTRY_COMPARE(int(bench.main.Shown().samples.Type()), int(SampleType::U32));
         // Turned by 90 degrees, the first sample is the lower left one: 60, 1060 and 2060 less 1500, at least 0.
         QCOMPARE(int(bench.main.Shown().samples.Samples<quint32>(0)[0]), MadePictures::Value(0, 3, 2) - 1500);
@@ -197,10 +198,10 @@ private slots:
         PictureBench bench;
         QVERIFY(bench.Open("a.tif", QSize(8, 6), 3));
         QSignalSpy saved(&bench.loader, &PictureLoader::signalSaved);
-        bench.main.Preview(Less(500));
-        bench.main.ApplyPreview("Background");
+        bench.main.Trials()->Preview(Less(500));
+        bench.main.Trials()->ApplyPreview("Background");
         QTRY_COMPARE(bench.main.Document()->UndoStack()->count(), 1);
-        bench.main.Preview(BinningSettings());
+        bench.main.Trials()->Preview(BinningSettings());
         QTRY_COMPARE(bench.main.Shown().samples.Size(), QSize(4, 3));
         bench.main.SaveAs(bench.Path("all.tif"), true);
         QTRY_COMPARE(saved.size(), 1);
@@ -208,8 +209,8 @@ private slots:
         const Picture last = MadePictures::Read(bench.Path("all.tif"), 2);
         QCOMPARE(last.Size(), QSize(8, 6));
         QCOMPARE(SampleAt(last, 3, 2), MadePictures::Value(3, 2, 2) - 500);
-        bench.main.Preview(Most());
-        bench.main.ApplyPreview("Projection");
+        bench.main.Trials()->Preview(Most());
+        bench.main.Trials()->ApplyPreview("Projection");
         QTRY_COMPARE(bench.main.FrameCount(), 1);
         bench.main.SaveAs(bench.Path("one.tif"), true);
         QTRY_COMPARE(saved.size(), 2);
@@ -221,11 +222,11 @@ private slots:
     {
         PictureBench bench;
         QVERIFY(bench.Open("a.tif", QSize(20, 12)));
-        QSignalSpy counted(&bench.main, &OpenedPicture::signalCounted);
+        QSignalSpy counted(bench.main.Trials(), &PictureTrials::signalCounted);
         CountSettings settings;
         settings.isAutomatic = false;
         settings.level = MadePictures::Value(0, 6, 0); // the lower half
-        bench.main.Count(settings);
+        bench.main.Trials()->Count(settings);
         QTRY_COMPARE(counted.size(), 1);
         QCOMPARE(bench.main.Shown().objects.size(), 1);
         QCOMPARE(bench.main.Shown().objects.first().area, 120);
@@ -234,13 +235,13 @@ private slots:
         QCOMPARE(image.pixelColor(3, 6), QColor(255, 60, 60)); // its first row
         QVERIFY(image.pixelColor(3, 5) != QColor(255, 60, 60));
         QVERIFY(image.pixelColor(3, 8) != QColor(255, 60, 60)); // inside
-        QSignalSpy ended(&bench.main, &OpenedPicture::signalProcessingEnded);
+        QSignalSpy ended(bench.main.Trials(), &PictureTrials::signalProcessingEnded);
         bench.main.SetProcessType(0);
         QCOMPARE(ended.size(), 1);
-        bench.main.Count(std::nullopt);
+        bench.main.Trials()->Count(std::nullopt);
         QTRY_VERIFY(bench.main.Shown().image.pixelColor(3, 6) != QColor(255, 60, 60));
         QCOMPARE(counted.size(), 1);
-        bench.main.Count(settings);
+        bench.main.Trials()->Count(settings);
         QTRY_COMPARE(counted.size(), 2);
         QVERIFY(bench.Open("b.tif", QSize(6, 4)));
         QCOMPARE(ended.size(), 2);
@@ -255,8 +256,8 @@ private slots:
         QVERIFY(bench.Open("a.tif", QSize(6, 4), 2));
         FlatFieldSettings settings;
         settings.reference = bench.Path("even.tif");
-        QSignalSpy previewed(&bench.main, &OpenedPicture::signalPreviewed);
-        bench.main.Preview(settings);
+        QSignalSpy previewed(bench.main.Trials(), &PictureTrials::signalPreviewed);
+        bench.main.Trials()->Preview(settings);
         QTRY_COMPARE(previewed.size(), 1);
         QCOMPARE(previewed.first().first().toString(), QString());
         QVERIFY(QFile::remove(bench.Path("even.tif")));
@@ -267,5 +268,5 @@ private slots:
     }
 };
 
-GUARDED_TEST_MAIN(PicturePreviewTest)
-#include "picturepreviewtest.moc"
+GUARDED_TEST_MAIN(PictureTrialsTest)
+#include "picturetrialstest.moc"
