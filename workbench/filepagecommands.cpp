@@ -29,7 +29,7 @@ constexpr int DpiDecimals = 3;
 
 QString NamesText(const QStringList &paths)
 {
-    const QString first = FileNameText(QFileInfo(paths.first()).fileName());
+    const QString first = FileNameTextOf(paths.first());
     return paths.size() == 1 ? FilePageCommands::tr("\u201c%1\u201d").arg(first)
                              : FilePageCommands::tr("\u201c%1\u201d and %n more", nullptr, paths.size() - 1).arg(first);
 }

@@ -17,7 +17,7 @@ class RenameStep : public QUndoCommand
 {
 public:
     RenameStep(FileCommands *commands, const FileMove &move)
-        : QUndoCommand(FileCommands::tr("Rename %1").arg(FileNameText(QFileInfo(move.from).fileName())))
+        : QUndoCommand(FileCommands::tr("Rename %1").arg(FileNameTextOf(move.from)))
         , m_commands(commands)
         , m_move(move)
         , m_isDone(std::make_shared<bool>(false))

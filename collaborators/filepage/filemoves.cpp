@@ -40,11 +40,6 @@ QString ReasonText(int reason)
     }
 }
 
-QString NameOf(const QString &path)
-{
-    return FileNameText(QFileInfo(path).fileName());
-}
-
 /// 0, or why not. Another file of that name stays as it is.
 int MoveFile(const FileMove &move)
 {
@@ -86,14 +81,14 @@ bool FileMoves::Rename(const FileMove &move, QString &fault)
     const int reason = MoveFile(move);
     if (reason != 0)
         fault = Text::tr("\u201c%1\u201d was not renamed to \u201c%2\u201d: %3.")
-                    .arg(NameOf(move.from), NameOf(move.to), ReasonText(reason));
+                    .arg(FileNameTextOf(move.from), FileNameTextOf(move.to), ReasonText(reason));
     return reason == 0;
 }
 
 bool FileMoves::Trash(FileMove &move, QString &fault)
 {
     if (!QFileInfo(move.from).isSymLink() && !QFileInfo::exists(move.from)) {
-        fault = Text::tr("\u201c%1\u201d was not moved to the trash: %2.").arg(NameOf(move.from), ReasonText(ENOENT));
+        fault = Text::tr("\u201c%1\u201d was not moved to the trash: %2.").arg(FileNameTextOf(move.from), ReasonText(ENOENT));
         return false;
     }
     // The trash of a new user has no folder to lie in yet.
@@ -101,7 +96,7 @@ bool FileMoves::Trash(FileMove &move, QString &fault)
     if (QFile::moveToTrash(move.from, &move.to))
         return true;
     fault = Text::tr("\u201c%1\u201d was not moved to the trash: the disk has none, or you have no right to change "
-                      "this folder. Copy it elsewhere, or delete it with a file manager.").arg(NameOf(move.from));
+                      "this folder. Copy it elsewhere, or delete it with a file manager.").arg(FileNameTextOf(move.from));
     return false;
 }
 
@@ -109,7 +104,7 @@ bool FileMoves::Restore(const FileMove &move, QString &fault)
 {
     const int reason = MoveFile({move.to, move.from});
     if (reason != 0) {
-        fault = Text::tr("\u201c%1\u201d was not taken out of the trash: %2.").arg(NameOf(move.from), ReasonText(reason));
+        fault = Text::tr("\u201c%1\u201d was not taken out of the trash: %2.").arg(FileNameTextOf(move.from), ReasonText(reason));
         return false;
     }
     QFile::remove(TrashNote(move.to));

@@ -16,11 +16,6 @@
 
 namespace {
 
-QString NameOf(const QString &path)
-{
-    return FileNameText(QFileInfo(path).fileName());
-}
-
 /// Beside the picture, under a name that is free: "cells.csv", "cells (2).csv".
 QString CsvPathOf(const QString &picturePath)
 {
@@ -44,7 +39,7 @@ bool Guarded(const QString &path, QString &error, const Work &work)
     try {
         return work();
     } catch (const std::bad_alloc &) {
-        error = FileJobs::tr("There is not enough memory for \u201c%1\u201d. Close other pictures or programs.").arg(NameOf(path));
+        error = FileJobs::tr("There is not enough memory for \u201c%1\u201d. Close other pictures or programs.").arg(FileNameTextOf(path));
         return false;
     }
 }
@@ -105,7 +100,7 @@ void FileJobs::ConvertToCsv(const QStringList &paths)
             QString error;
             QString target;
             if (Guarded(path, error, [&] { return !(target = WriteCsv(path, error)).isEmpty(); }))
-                Tell([this, path, target] { emit signalMessage(tr("\u201c%1\u201d was written as \u201c%2\u201d.").arg(NameOf(path), target)); });
+                Tell([this, path, target] { emit signalMessage(tr("\u201c%1\u201d was written as \u201c%2\u201d.").arg(FileNameTextOf(path), target)); });
             else
                 Tell([this, error] { emit signalFault(error); });
         });
@@ -121,7 +116,7 @@ QString FileJobs::WriteCsv(const QString &path, QString &error)
     const QString target = CsvPathOf(path);
     CsvWriter writer(target);
     FileFault fault;
-    bool isWritten = writer.Create(NameOf(path), fault);
+    bool isWritten = writer.Create(FileNameTextOf(path), fault);
     Picture frame;
     for (int index = 0; isWritten && index < file->Info().frames && !m_ends; ++index) {
         if (!file->ReadFrame(index, frame, error))
@@ -142,10 +137,10 @@ void FileJobs::ConvertToCsv(const Picture &samples, const QString &path, const Q
         FileFault fault;
         QString error;
         const bool isWritten = Guarded(path, error, [&] {
-            return writer.Create(NameOf(path), fault) && writer.Append(samples, title, fault) && writer.Commit(fault);
+            return writer.Create(FileNameTextOf(path), fault) && writer.Append(samples, title, fault) && writer.Commit(fault);
         });
         if (isWritten)
-            Tell([this, path, target] { emit signalMessage(tr("\u201c%1\u201d was written as \u201c%2\u201d.").arg(NameOf(path), target)); });
+            Tell([this, path, target] { emit signalMessage(tr("\u201c%1\u201d was written as \u201c%2\u201d.").arg(FileNameTextOf(path), target)); });
         else
             Tell([this, text = error.isEmpty() ? WriteFaultText(target, fault) : error] { emit signalFault(text); });
     });
@@ -162,7 +157,7 @@ void FileJobs::SetResolution(const QStringList &paths, double dpi)
             }
             Tell([this, path, written = ResolutionText(path)] {
                 emit signalChanged(path);
-                emit signalMessage(tr("\u201c%1\u201d has %2 pixels an inch now.").arg(NameOf(path), written));
+                emit signalMessage(tr("\u201c%1\u201d has %2 pixels an inch now.").arg(FileNameTextOf(path), written));
             });
         });
     }
@@ -174,7 +169,7 @@ void FileJobs::Merge(const QStringList &paths, const QString &target)
         QString error;
         if (Guarded(target, error, [&] { return WriteMerged(paths, target, error); }))
             Tell([this, target, count = paths.size()] {
-                emit signalMessage(tr("%1 pictures were merged into \u201c%2\u201d.").arg(count).arg(NameOf(target)));
+                emit signalMessage(tr("%1 pictures were merged into \u201c%2\u201d.").arg(count).arg(FileNameTextOf(target)));
                 emit signalMerged(target);
             });
         else
@@ -197,7 +192,7 @@ bool FileJobs::WriteMerged(const QStringList &paths, const QString &target, QStr
         if (!IsAlike(kind, file->Info())) {
             error = tr("The pictures were not merged: \u201c%1\u201d (%2) and \u201c%3\u201d (%4) differ. Choose pictures of one size "
                        "and one kind of samples.")
-                        .arg(NameOf(paths.first()), KindText(kind), NameOf(path), KindText(file->Info()));
+                        .arg(FileNameTextOf(paths.first()), KindText(kind), FileNameTextOf(path), KindText(file->Info()));
             return false;
         }
         options.frameCount += file->Info().frames;

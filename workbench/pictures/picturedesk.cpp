@@ -311,7 +311,7 @@ void PictureDesk::slotSaved(const SaveRequest &request, const QString &error)
     if (!error.isEmpty()) {
         emit signalFault(error);
     } else {
-        emit signalMessage(tr("\u201c%1\u201d was saved.").arg(FileNameText(QFileInfo(request.target).fileName())));
+        emit signalMessage(tr("\u201c%1\u201d was saved.").arg(FileNameTextOf(request.target)));
         const bool isAsSeen = source && source->Edit() == request.edit;
         isWhole = isAsSeen && request.frameCount >= request.edit.SeenFrames(source->Info().frames);
         if (isWhole)

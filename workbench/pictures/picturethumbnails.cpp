@@ -6,7 +6,6 @@
 #include "scaledsamples.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QMutexLocker>
 
 #include <new>
@@ -20,11 +19,6 @@ struct Text
 {
     Q_DECLARE_TR_FUNCTIONS(PictureThumbnails)
 };
-
-QString NameOf(const QString &path)
-{
-    return FileNameText(QFileInfo(path).fileName());
-}
 
 double BytesOf(const PictureInfo &info)
 {
@@ -57,14 +51,14 @@ QImage PictureThumbnails::Make(const QString &path, int edge, QString &fault)
             return QImage();
         const double bytes = BytesOf(file->Info());
         if (bytes > MostBytes) {
-            fault = Text::tr("\u201c%1\u201d is too large for a thumbnail. It can still be opened.").arg(NameOf(path));
+            fault = Text::tr("\u201c%1\u201d is too large for a thumbnail. It can still be opened.").arg(FileNameTextOf(path));
             return QImage();
         }
         QMutexLocker lock(bytes > LargeBytes ? &m_large : nullptr);
         Picture frame;
         return file->ReadFrame(0, frame, fault) ? Thumbnail(frame, edge) : QImage();
     } catch (const std::bad_alloc &) {
-        fault = Text::tr("There is not enough memory for a thumbnail of \u201c%1\u201d.").arg(NameOf(path));
+        fault = Text::tr("There is not enough memory for a thumbnail of \u201c%1\u201d.").arg(FileNameTextOf(path));
         return QImage();
     }
 }

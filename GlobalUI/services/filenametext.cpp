@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "filenametext.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 QString FileNameText(const QString &name)
@@ -17,3 +19,5 @@ QString FileNameText(const QString &name)
     }
     return text;
 }
+
+QString FileNameTextOf(const QString &path) { return FileNameText(QFileInfo(path).fileName()); }
