@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "filefault.h"
 
+#include "filenametext.h"
+
 #include <QCoreApplication>
-#include <QFileInfo>
 
 namespace {
 
@@ -23,7 +24,7 @@ QString Printable(QString text)
 
 QString FaultText(const QString &verb, const QString &path, const FileFault &fault)
 {
-    QString text = verb.arg(QFileInfo(path).fileName(), fault.what);
+    QString text = verb.arg(FileNameTextOf(path), fault.what);
     if (!fault.detail.isEmpty())
         text += QString(" (%1)").arg(Printable(fault.detail));
     return text + ". " + fault.advice;

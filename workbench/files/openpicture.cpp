@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "openpicture.h"
 
+#include "filenametext.h"
 #include "fitspicturefile.h"
 #include "rasterpicturefile.h"
 #include "spepicturefile.h"
@@ -8,7 +9,6 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -116,7 +116,7 @@ void WarnOfWrongEnding(PictureFile &file)
     if (FormatOfName(file.Path()) == format)
         return;
     file.AddWarning(Text::tr("\u201c%1\u201d is a %2 file, though its name does not end in \u201c.%3\u201d.")
-                        .arg(QFileInfo(file.Path()).fileName(), FormatName(format), FormatSuffixes(format).first()));
+                        .arg(FileNameTextOf(file.Path()), FormatName(format), FormatSuffixes(format).first()));
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "picturefile.h"
 
+#include "filenametext.h"
 #include "spectralmetadata.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 #include <new>
 
@@ -25,7 +25,8 @@ SpectralAxis PictureFile::AxisOfFirst(const QVector<MetadataEntry> &metadata)
     QString fault;
     const SpectralAxis axis = AxisOfMetadata(metadata, m_info.size.width(), &fault);
     if (!fault.isEmpty())
-        AddWarning(QCoreApplication::translate("PictureFile", "\u201c%1\u201d: %2. %3").arg(QFileInfo(m_path).fileName(), fault, DamagedAdvice()));
+        AddWarning(QCoreApplication::translate("PictureFile", "\u201c%1\u201d: %2. %3")
+                       .arg(FileNameTextOf(m_path), fault, DamagedAdvice()));
     return axis;
 }
 

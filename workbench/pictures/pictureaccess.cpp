@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictureaccess.h"
 
+#include "filenametext.h"
 #include "openpicture.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <sys/stat.h>
@@ -134,7 +134,7 @@ QString PictureAccess::TakeNews(const FileName &name)
     const bool isGone = now.size < 0;
     file->identity = now;
     file->isLost = isGone || !isSame;
-    const QString fileName = QFileInfo(file->name.path).fileName();
+    const QString fileName = FileNameTextOf(file->name.path);
     if (isGone)
         return Text::tr("\u201c%1\u201d was deleted or moved. It stays open; save it to keep it.")
             .arg(fileName);

@@ -2,9 +2,9 @@
 #include "pictureloader.h"
 
 #include "countmarks.h"
+#include "filenametext.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 #include <algorithm>
 #include <new>
@@ -20,7 +20,7 @@ QString MemoryText(const QString &path)
     return QCoreApplication::translate(
                "PictureLoader",
                "There is not enough memory for \u201c%1\u201d. Close other pictures or programs.")
-        .arg(QFileInfo(path).fileName());
+        .arg(FileNameTextOf(path));
 }
 
 QImage ThumbnailOf(const QImage &image)

@@ -53,6 +53,7 @@ void OpenPictureTest::aFileIsWhatItsContentIs_data()
     QTest::newRow("FITS named TIFF") << "a.tif" << SmallFits() << told.arg("a.tif", "FITS", "fits");
     QTest::newRow("no ending") << "cells" << SmallTiff() << told.arg("cells", "TIFF", "tif");
     QTest::newRow("FITS name with a filter") << "a.fits[1:2,1:2]" << SmallFits() << told.arg("a.fits[1:2,1:2]", "FITS", "fits");
+    QTest::newRow("a line break in the name") << "a\nb.png" << SmallTiff() << told.arg("a\u23ceb.png", "TIFF", "tif");
     QTest::newRow("letters of other scripts") << QString::fromUtf8("Zellen \u00e4\u7ec6\u80de.fits") << SmallFits() << QString();
 }
 
