@@ -1,24 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "camerasession.h"
-#include "framecollector.h"
-#include "guardedtest.h"
-#include "guiwatchdog.h"
+#include "camerasessionfixture.h"
 #include "testchartscene.h"
 
 #include <QElapsedTimer>
-#include <QSemaphore>
-#include <QSignalSpy>
+
 #include <cstring>
 
 /// The session on the simulated camera.
-class CameraSessionTest : public GuardedTest
+class CameraSessionTest : public CameraSessionFixture
 {
     Q_OBJECT
 
 private slots:
-    void init() override;
-    void cleanup() override;
-
     void OpensTheSimulatedCamera();
     void UnknownCameraIsToldInWords();
     void ClosedSessionRefuses();
@@ -34,72 +27,10 @@ private slots:
     void FrameRateIsKept();
     void SceneChangesWhileRunning();
     void OpensAgainAfterClose();
-    void SetsReturnAtOnceWhileTheCameraDoesNotAnswer();
-    void NewestOfManySetsWins();
-    void WhatWasSetBeforeAStartHoldsInIt();
-    void StopAndStartWhileTheCameraDoesNotAnswer();
-    void ClosedWithWorkThatWaits();
 
 private:
-    void OpenWithChart();
-    /// Waits until the camera has taken all that was set.
-    void Settle();
-    /// The camera does not answer to anything until that is released.
-    void Block(QSemaphore *answer);
     static int WrongSamples(const CameraFrame &frame, const QRect &region);
-
-    std::unique_ptr<CameraSession> m_session;
-    FrameCollector m_frames;
-    QStringList m_faults;
 };
-
-void CameraSessionTest::init()
-{
-    StartGuard();
-    m_session = std::make_unique<CameraSession>();
-    m_frames.Clear();
-    m_faults.clear();
-    const auto keepFault = [this](const QString &error) {
-        if (!error.isEmpty())
-            m_faults << error;
-    };
-    connect(m_session.get(), &CameraSession::signalControlSet, this, keepFault);
-    connect(m_session.get(), &CameraSession::signalFormatSet, this, keepFault);
-    connect(m_session.get(), &CameraSession::signalFramesFailed, this, keepFault);
-}
-
-void CameraSessionTest::cleanup()
-{
-    m_session.reset();
-    m_frames.Clear();
-    QVERIFY(CameraSession::WaitForTeardown(10000));
-    EndGuard();
-}
-
-void CameraSessionTest::OpenWithChart()
-{
-    QVERIFY(m_session->SetScene("testchart"));
-    QString error;
-    QVERIFY2(m_session->Open("Fake_1", &error), qPrintable(error));
-}
-
-void CameraSessionTest::Settle()
-{
-    QTRY_VERIFY_WITH_TIMEOUT(!m_session->IsSetting(), 20000);
-    QCOMPARE(m_faults, QStringList());
-}
-
-void CameraSessionTest::Block(QSemaphore *answer)
-{
-    QSemaphore isBlocked;
-    QVERIFY(m_session->TakeTurn(
-        [answer, &isBlocked](ArvCamera *) {
-            isBlocked.release();
-            answer->acquire();
-        },
-        this, [] {}));
-    QVERIFY(isBlocked.tryAcquire(1, 5000));
-}
 
 int CameraSessionTest::WrongSamples(const CameraFrame &frame, const QRect &region)
 {
@@ -404,164 +335,6 @@ void CameraSessionTest::OpensAgainAfterClose()
         QVERIFY(!m_session->IsOpen());
         QVERIFY(m_session->Info().id.isEmpty());
     }
-}
-
-void CameraSessionTest::SetsReturnAtOnceWhileTheCameraDoesNotAnswer()
-{
-    OpenWithChart();
-    m_session->SetRegion(QRect(0, 0, 64, 64));
-    QVERIFY(m_session->Start(&m_frames));
-    Settle();
-    QVERIFY(m_frames.WaitFor(1));
-    const ControlValues before = m_session->Controls();
-    QSemaphore answer;
-    Block(&answer);
-
-    GuiWatchdog watchdog;
-    m_session->SetExposureUs(1);
-    m_session->SetGain(99);
-    m_session->SetFrameRate(12);
-    m_session->SetRegion(QRect(10, 10, 32, 32));
-    m_session->SetBinning(2);
-    m_session->SetPixelLayout(PixelLayout::Mono12);
-    m_session->Refresh();
-    QVERIFY(m_session->IsSetting());
-    int beats = 0;
-    QTimer beat;
-    connect(&beat, &QTimer::timeout, this, [&beats] { ++beats; });
-    beat.start(10);
-    QTRY_VERIFY(beats >= 50); // the window lives on
-    QVERIFY2(watchdog.LongestMs() < 50, watchdog.Text("a camera that does not answer"));
-    // What was known of it can be read all the time.
-    QVERIFY(m_session->Controls() == before);
-    QCOMPARE(m_session->Format().region, QRect(0, 0, 64, 64));
-    QVERIFY(m_session->IsSetting());
-
-    QSignalSpy controlSet(m_session.get(), &CameraSession::signalControlSet);
-    QSignalSpy formatSet(m_session.get(), &CameraSession::signalFormatSet);
-    answer.release();
-    Settle();
-    QCOMPARE(controlSet.count(), 3);
-    QCOMPARE(formatSet.count(), 3);
-    QCOMPARE(m_session->Controls().exposureUs, 10.0); // as clamped
-    QCOMPARE(m_session->Controls().gain, 10.0);
-    QCOMPARE(m_session->Controls().frameRate, 12.0);
-    QCOMPARE(m_session->Format().region, QRect(10, 10, 32, 32));
-    QCOMPARE(m_session->Format().binning, 2);
-    QCOMPARE(m_session->Format().layout, PixelLayout::Mono12);
-    QVERIFY(m_frames.WaitForMore(2));
-    QCOMPARE(QSize(m_frames.Last().width, m_frames.Last().height), QSize(16, 16));
-}
-
-void CameraSessionTest::NewestOfManySetsWins()
-{
-    OpenWithChart();
-    QSemaphore answer;
-    Block(&answer);
-    QSignalSpy set(m_session.get(), &CameraSession::signalControlSet);
-    QSignalSpy changed(m_session.get(), &CameraSession::signalControlsChanged);
-    QSignalSpy formatSet(m_session.get(), &CameraSession::signalFormatSet);
-    for (int i = 1; i <= 100; ++i) {
-        m_session->SetExposureUs(1000 + i);
-        m_session->SetGain(i / 100.0);
-        for (const QString side : { "left", "top" })
-            m_session->ChangeRegion(side, [side, i](const QRect &region) {
-                return side == "left" ? QRect(i, region.y(), 64, 64) : QRect(region.x(), 2 * i, 64, 64);
-            });
-    }
-    answer.release();
-    Settle();
-    QCOMPARE(set.count(), 2); // one of each setting
-    QCOMPARE(formatSet.count(), 2);
-    QCOMPARE(changed.count(), 2);
-    QCOMPARE(m_session->Controls().exposureUs, 1100.0);
-    QCOMPARE(m_session->Controls().gain, 1.0);
-    QCOMPARE(m_session->Format().region, QRect(100, 200, 64, 64)); // the one side counts with the other
-}
-
-void CameraSessionTest::WhatWasSetBeforeAStartHoldsInIt()
-{
-    OpenWithChart();
-    QSemaphore answer;
-    Block(&answer);
-    m_session->SetRegion(QRect(0, 0, 64, 48));
-    m_session->SetExposureUs(1000);
-    m_session->SetExposureUs(2000);
-    double exposureAtTurn = 0;
-    QRect regionAtTurn;
-    QVERIFY(m_session->TakeTurn(nullptr, this, [&] {
-        exposureAtTurn = m_session->Controls().exposureUs;
-        regionAtTurn = m_session->Format().region;
-    }));
-    QVERIFY(m_session->Start(&m_frames));
-    m_session->SetExposureUs(3000); // too late for that turn
-    answer.release();
-    Settle();
-    QCOMPARE(exposureAtTurn, 2000.0);
-    QCOMPARE(regionAtTurn, QRect(0, 0, 64, 48));
-    QCOMPARE(m_session->Controls().exposureUs, 3000.0);
-    QVERIFY(m_frames.WaitFor(2));
-    for (const CameraFrame &frame : m_frames.Frames())
-        QCOMPARE(QSize(frame.width, frame.height), QSize(64, 48));
-}
-
-void CameraSessionTest::StopAndStartWhileTheCameraDoesNotAnswer()
-{
-    OpenWithChart();
-    m_session->SetRegion(QRect(0, 0, 64, 64));
-    QVERIFY(m_session->Start(&m_frames));
-    QVERIFY(m_frames.WaitFor(2));
-    QSemaphore answer;
-    Block(&answer);
-    QElapsedTimer timer;
-    timer.start();
-    m_session->Stop();
-    const size_t countAtStop = m_frames.Count();
-    FrameCollector never;
-    QVERIFY(m_session->Start(&never));
-    QCOMPARE(m_session->MillisecondsSinceLastFrame(), qint64(0));
-    FrameCollector last;
-    QVERIFY(m_session->Start(&last));
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
-    answer.release();
-    QVERIFY(last.WaitFor(3));
-    m_session->Stop();
-    QCOMPARE(m_frames.Count(), countAtStop);
-    QCOMPARE(never.Count(), size_t(0));
-    QCOMPARE(m_session->Ledger().Counts().captured, quint64(last.Count()));
-}
-
-void CameraSessionTest::ClosedWithWorkThatWaits()
-{
-    OpenWithChart();
-    m_session->SetRegion(QRect(0, 0, 64, 64));
-    QVERIFY(m_session->Start(&m_frames));
-    QVERIFY(m_frames.WaitFor(1));
-    QSemaphore answer;
-    Block(&answer);
-    const auto owned = std::make_shared<int>(0);
-    bool isDone = false;
-    QVERIFY(m_session->TakeTurn([owned](ArvCamera *) { ++*owned; }, this, [&isDone] { isDone = true; }));
-    m_session->SetExposureUs(1000);
-    QVERIFY(m_session->Start(&m_frames));
-    QSignalSpy set(m_session.get(), &CameraSession::signalControlSet);
-    QElapsedTimer timer;
-    timer.start();
-    m_session->Close();
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
-    QVERIFY(!m_session->IsSetting());
-    QCOMPARE(owned.use_count(), 1L); // what waited is gone
-    const size_t countAtClose = m_frames.Count();
-    OpenWithChart(); // another camera need not wait for it
-    m_session->SetGain(2);
-    Settle();
-    answer.release();
-    QVERIFY(CameraSession::WaitForTeardown(10000));
-    QCoreApplication::processEvents();
-    QCOMPARE(*owned, 0);
-    QVERIFY(!isDone);
-    QCOMPARE(set.count(), 1);
-    QCOMPARE(m_frames.Count(), countAtClose);
 }
 
 GUARDED_TEST_MAIN(CameraSessionTest)
