@@ -248,7 +248,61 @@ private slots:
         request.edit = PictureEdit().Turned(FlipHorizontal);
         request.target = Path("mirrored.tif");
         QCOMPARE(SaveError(request), QString());
-        QVERIFY(AxisOf("mirrored.tif").IsEmpty());
+        QCOMPARE(AxisOf("mirrored.tif").values.value(3), 432.0);
+    }
+
+    void theCalibrationOfTheRowsIsSavedToo_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("target");
+        QTest::newRow("TIFF") << int(SampleType::U16) << "saved.tif";
+        QTest::newRow("FITS") << int(SampleType::F32) << "saved.fits";
+        QTest::newRow("PNG") << int(SampleType::U16) << "saved.png";
+        QTest::newRow("PNG of other samples") << int(SampleType::F32) << "saved.png";
+        QTest::newRow("JPEG") << int(SampleType::U16) << "saved.jpg";
+    }
+
+    /// Turned it is that of the columns.
+    void theCalibrationOfTheRowsIsSavedToo()
+    {
+        QFETCH(int, type);
+        QFETCH(QString, target);
+        const QSize size(6, 20);
+        Picture picture(size.width(), size.height(), 1, SampleType(type));
+        std::fill_n(picture.Data(), picture.ByteCount(), uchar(0));
+        SpectralRecord record;
+        record.side = SpectralSide::Rows;
+        record.coefficients = { 400, 2 };
+        record.width = size.height();
+        SaveOptions options;
+        options.metadata = SpectralMetadata(record);
+        QString error;
+        QVERIFY2(SavePicture(Path("opened.fits"), picture, options, error), qPrintable(error));
+
+        SaveRequest request;
+        request.file = { 1, Path("opened.fits") };
+        request.target = Path(target);
+        QCOMPARE(SaveError(request), QString());
+        SpectralAxis axis = AxisOf(target);
+        QCOMPARE(int(axis.side), int(SpectralSide::Rows));
+        QCOMPARE(axis.values.size(), 20);
+        QCOMPARE(axis.values.value(3), 406.0);
+
+        request.edit = PictureEdit().Turned(RotateBy90).Cropped(QRect(1, 0, 15, 6), size); // the last row is at the left
+        request.target = Path("turned" + target);
+        QCOMPARE(SaveError(request), QString());
+        axis = AxisOf("turned" + target);
+        QCOMPARE(int(axis.side), int(SpectralSide::Columns));
+        QCOMPARE(axis.values.size(), 15);
+        QCOMPARE(axis.values.value(0), 436.0);
+        QCOMPARE(axis.values.value(14), 408.0);
+
+        record.coefficients = { 700, -1 };
+        request.edit = PictureEdit();
+        request.calibration = SpectralMetadata(record); // what it is shown with
+        request.target = Path("other" + target);
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(AxisOf("other" + target).values.value(3), 697.0);
     }
 
     void aSaveThatWasBegunIsEndedWhenTheProgramEnds()
