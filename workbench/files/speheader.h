@@ -2,6 +2,7 @@
 #pragma once
 
 #include "spectralaxis.h"
+#include "speregions.h"
 
 #include <QByteArray>
 #include <QString>
@@ -22,8 +23,13 @@ public:
     quint64 FooterOffset() const { return Number<quint64>(678); }
     double ExposureSeconds() const { return Float(10); }
     double TemperatureCelsius() const { return Float(36); }
-    /// Regions that were read out together, 1 to 10; version 2 lays them into one rectangle.
-    int Regions() const { return qBound(1, int(Number<qint16>(1510)), 10); }
+    /// Regions that were read out together, at least 1; version 2 lays them into one rectangle.
+    int Regions() const;
+    static constexpr int mostRegionsTold = 10;
+    /// One of those that the header has room for; without pixels when it makes no sense.
+    SpeSensorRegion Region(int index) const;
+    /// The samples were turned or mirrored after they had been read out.
+    bool IsTurned() const { return Number<quint16>(600) != 0; }
     int Accumulations() const { return Number<qint32>(668); }
     QString Date() const { return Text(20, 10); }
     QString LocalTime() const { return Text(172, 7); }
