@@ -57,7 +57,8 @@ SpeRegion PartOf(const SpeRegion &whole, const QRect &place, const SpeLayout &la
     part.offset = (qint64(place.y()) * whole.width + place.x()) * BytesPerSample(layout.type);
     part.skipped = whole.width - place.width();
     part.axis = whole.axis;
-    part.axis.values = whole.axis.values.mid(place.x(), place.width());
+    const bool isOfColumns = whole.axis.side == SpectralSide::Columns;
+    part.axis.values = whole.axis.values.mid(isOfColumns ? place.x() : place.y(), PixelsOf(whole.axis.side, place.size()));
     return part;
 }
 
@@ -96,6 +97,19 @@ void FindRegions(const SpeHeader &header, SpeLayout &layout)
     }
 }
 
+/// Of the columns, or where those have none, of the rows.
+SpectralAxis AxisOf(const SpeHeader &header, SpeLayout &layout)
+{
+    const bool isOfRows = header.OfRows().IsValid() && !header.OfColumns().IsValid();
+    QString fault;
+    SpectralAxis axis = isOfRows ? header.OfRows().Axis(header.Height(), &fault) : header.OfColumns().Axis(header.Width(), &fault);
+    if (isOfRows && !axis.IsEmpty())
+        axis.side = SpectralSide::Rows;
+    if (!fault.isEmpty())
+        layout.Warn(fault);
+    return axis;
+}
+
 bool LayoutOfHeader(const SpeHeader &header, SpeLayout &layout, FileFault &fault)
 {
     if (!TypeOfCode(header.TypeCode(), layout.type, fault))
@@ -106,7 +120,7 @@ bool LayoutOfHeader(const SpeHeader &header, SpeLayout &layout, FileFault &fault
     SpeRegion whole;
     whole.width = header.Width();
     whole.height = header.Height();
-    whole.axis = header.Axis();
+    whole.axis = AxisOf(header, layout);
     layout.regions = {whole};
     layout.frameStride = layout.RegionBytes(whole);
     layout.frames = header.Frames();

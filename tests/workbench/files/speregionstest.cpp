@@ -164,6 +164,21 @@ private slots:
         }
     }
 
+    /// That stands 489 bytes behind the one of the columns.
+    void theyHaveTheirRowsOfACalibrationOfTheRows()
+    {
+        PictureFolder folder;
+        QByteArray bytes = File(QSize(6, 5), {Told{1, 6, 1, 11, 12, 1}, Told{1, 6, 1, 15, 15, 1}}, {QRect(0, 0, 6, 2), QRect(0, 4, 6, 1)});
+        bytes[3587] = 1; // calibrated: 500 nm, and a quarter more in each row, which count from 1
+        bytes[3589] = 4;
+        bytes[3590] = 1;
+        bytes.replace(3752, 16, QByteArray::fromHex("0000000000407f40000000000000d03f"));
+        const auto file = Opened(folder, bytes);
+        QCOMPARE(int(file->AxisOf(0).side), int(SpectralSide::Rows));
+        QCOMPARE(file->AxisOf(0).values, QVector<double>({500.25, 500.5}));
+        QCOMPARE(file->AxisOf(1).values, QVector<double>({501.25}));
+    }
+
     void whereTheyLieOnTheSensorIsTold()
     {
         PictureFolder folder;
