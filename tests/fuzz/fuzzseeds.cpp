@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Writes small pictures of every kind for the fuzzers to begin with: fuzzseeds FOLDER
 #include "createpicture.h"
+#include "spectralmetadata.h"
 
 #include <QDir>
 #include <QtEndian>
@@ -19,6 +20,16 @@ Picture Ramp(int channels, SampleType type)
     return picture;
 }
 
+/// Of the rows of it.
+QVector<MetadataEntry> Calibration(const Picture &picture)
+{
+    SpectralRecord record;
+    record.side = SpectralSide::Rows;
+    record.coefficients = {500, 0.5, 1e-3};
+    record.width = picture.Height();
+    return SpectralMetadata(record);
+}
+
 bool Save(const QString &path, const Picture &picture, int frames, bool compress)
 {
     SaveOptions options;
@@ -27,6 +38,7 @@ bool Save(const QString &path, const Picture &picture, int frames, bool compress
     options.dpiX = options.dpiY = 300;
     options.metadata = {{"ImageDescription", QString("ImageJ=1.53t\nimages=%1\n").arg(frames), QString(), true},
                         {"EXPTIME", "12.5", "seconds", false}};
+    options.metadata += Calibration(picture);
     QString error;
     const auto writer = CreatePicture(path, options, error);
     bool done = writer != nullptr;
@@ -77,9 +89,17 @@ bool SaveTiles(const QString &path, int compression, int planarConfiguration)
     return done;
 }
 
-/// Version 2 with a calibration, version 3 with two regions; samples count up.
-bool SaveSpe(const QString &path, bool isThree)
+enum class SpeKind
 {
+    Two,
+    TwoWithRegions, ///< of two columns each, one column apart
+    Three           ///< with two regions
+};
+
+/// With a calibration; samples count up.
+bool SaveSpe(const QString &path, SpeKind kind)
+{
+    const bool isThree = kind == SpeKind::Three;
     constexpr int headerBytes = 4100;
     QByteArray bytes(headerBytes, '\0');
     const auto set = [&](int offset, auto value) { qToLittleEndian(value, bytes.data() + offset); };
@@ -94,6 +114,13 @@ bool SaveSpe(const QString &path, bool isThree)
     set(3101, quint8(1));
     set(3263, 500.0);
     set(3271, 0.5);
+    if (kind == SpeKind::TwoWithRegions) {
+        set(1488, qint16(2));
+        set(1510, qint16(2));
+        const quint16 regions[] = {11, 12, 1, 21, 23, 1, 14, 15, 1, 21, 23, 1};
+        for (int i = 0; i < 12; ++i)
+            set(1512 + 2 * i, regions[i]);
+    }
     for (int i = 0; i < 60; ++i)
         bytes += char(i);
     if (isThree) {
@@ -111,7 +138,8 @@ bool SaveSpe(const QString &path, bool isThree)
 
 bool SaveOtherKinds(const QDir &folder)
 {
-    bool done = SaveSpe(folder.filePath("seed-2.spe"), false) && SaveSpe(folder.filePath("seed-3.spe"), true);
+    bool done = SaveSpe(folder.filePath("seed-2.spe"), SpeKind::Two) && SaveSpe(folder.filePath("seed-3.spe"), SpeKind::Three)
+        && SaveSpe(folder.filePath("seed-2-regions.spe"), SpeKind::TwoWithRegions);
     for (const int method : {RICE_1, GZIP_1, GZIP_2, PLIO_1, HCOMPRESS_1})
         done = done && SaveCompressedFits(folder.filePath(QString("seed-compressed-%1.fits").arg(method)), method);
     for (const int compression : {COMPRESSION_NONE, COMPRESSION_LZW, COMPRESSION_PACKBITS, COMPRESSION_ADOBE_DEFLATE}) {

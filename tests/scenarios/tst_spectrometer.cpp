@@ -182,6 +182,37 @@ private slots:
         m_workbench->services.Config()->SetCameraView(); // a live picture leaves with its page
     }
 
+    /// Along its columns it has nanometres, along its rows it is a picture like any other.
+    void aRecordingOfATurnedSpectrumIsOpenedWithItsCalibration()
+    {
+        CalibrateByLamp();
+        m_workbench->services.LivePosition()->slotSetMirrorRotate(RotateBy90);
+        SpectrumSettings *spectrum = m_workbench->services.Spectrum();
+        spectrum->SetHorizontal(false);
+        double first = 0;
+        QTRY_VERIFY_WITH_TIMEOUT(spectrum->Calculate(0, first) && std::abs(first - 390) < 1, waitMs);
+        RecordingSettings settings;
+        settings.mode = RecordingSettings::Mode::Single;
+        const QString path = m_folder->filePath("turned.tif");
+        RecordingDesk *recording = m_workbench->services.Recording();
+        QSignalSpy ended(recording, &RecordingDesk::signalRunEnded);
+        QString error;
+        QVERIFY2(recording->Start(settings, path, &error), qPrintable(error));
+        QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, waitMs);
+        m_workbench->services.Calibration()->TakeAway();
+
+        PictureDesk *desk = m_workbench->services.Desk();
+        desk->Open({path}, desk->MainPicture());
+        QTRY_VERIFY_WITH_TIMEOUT(Plot() && spectrum->IsImageShown() && Plot()->graph(0)->dataCount() == sensor.width(), waitMs);
+        QTRY_COMPARE(Plot()->xAxis->label(), QString("Wavelength [nm]"));
+        QCOMPARE(Plot()->graph(0)->data()->at(0)->key, first);
+        spectrum->SetHorizontal(true);
+        QTRY_COMPARE(Plot()->xAxis->label(), QString("Pixel Number"));
+        QTRY_COMPARE(Plot()->graph(0)->dataCount(), sensor.height());
+        QCOMPARE(Plot()->graph(0)->data()->at(5)->key, 5.0);
+        m_workbench->services.Config()->SetCameraView(); // a live picture leaves with its page
+    }
+
     void thePanelShowsTheCurveToo()
     {
         QVERIFY(!m_workbench->services.GetUseArea()->IsSpectrumPagePresent());

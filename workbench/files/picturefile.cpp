@@ -23,7 +23,7 @@ SpectralAxis PictureFile::AxisOf(int) const { return SpectralAxis(); }
 SpectralAxis PictureFile::AxisOfFirst(const QVector<MetadataEntry> &metadata)
 {
     QString fault;
-    const SpectralAxis axis = AxisOfMetadata(metadata, m_info.size.width(), &fault);
+    const SpectralAxis axis = AxisOfMetadata(metadata, m_info.size, &fault);
     if (!fault.isEmpty())
         AddWarning(QCoreApplication::translate("PictureFile", "\u201c%1\u201d: %2. %3")
                        .arg(FileNameTextOf(m_path), fault, DamagedAdvice()));

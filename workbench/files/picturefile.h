@@ -20,7 +20,7 @@ public:
     const PictureInfo &Info() const { return m_info; }
     /// Where a frame belongs in a stack, "channel 2 of 3, slice 5 of 7"; empty if the file does not say.
     virtual QString FrameDescription(int index) const;
-    /// What the columns of a frame mean; empty if the file does not say.
+    /// What the columns, or the rows, of a frame mean; empty if the file does not say.
     virtual SpectralAxis AxisOf(int index) const;
 
     /// Decodes frame `index` (from 0). `frame` gives its buffer for the new samples when it fits. On
@@ -34,7 +34,7 @@ public:
 protected:
     explicit PictureFile(const QString &path);
 
-    /// What frames as wide as the first one mean by this metadata; says what cannot be used of it.
+    /// What frames of the size of the first one mean by this metadata; says what cannot be used of it.
     SpectralAxis AxisOfFirst(const QVector<MetadataEntry> &metadata);
 
     /// `rows` may be null.

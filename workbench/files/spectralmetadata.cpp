@@ -13,6 +13,7 @@ struct Text
 };
 
 constexpr char UnitKey[] = "SPECUNIT";
+constexpr char SideKey[] = "SPECSIDE";
 constexpr char WidthKey[] = "SPECWID";
 constexpr char OriginKey[] = "SPECORIG";
 constexpr char LaserKey[] = "SPECLAS";
@@ -22,7 +23,7 @@ constexpr int MostDegree = 9;
 /// Of a card of FITS, whose text has 68 letters.
 constexpr int ValuesInCard = 4;
 
-constexpr char Keys[] = "(SPEC(?:UNIT|WID|ORIG|LAS|DEG|C[0-9])|SPL[0-9]{5})";
+constexpr char Keys[] = "(SPEC(?:UNIT|SIDE|WID|ORIG|LAS|DEG|C[0-9])|SPL[0-9]{5})";
 
 /// In an OME description.
 const QRegularExpression &AnnotationPattern()
@@ -64,6 +65,35 @@ SpectralUnit UnitOf(const QString &name)
     return SpectralUnit::Pixel;
 }
 
+/// What a file says of a side, and what it says about its calibration.
+struct SideTexts
+{
+    const char *name;
+    const char *unitComment;
+    const char *widthComment;
+    const char *degreeComment;
+};
+
+const SideTexts &TextsOf(SpectralSide side)
+{
+    static const SideTexts columns{"columns", "what the columns mean", "columns that the calibration holds for",
+                                   "polynomial of the column, counted from 0"};
+    static const SideTexts rows{"rows", "what the rows mean", "rows that the calibration holds for",
+                                "polynomial of the row, from 0 at the top"};
+    return side == SpectralSide::Columns ? columns : rows;
+}
+
+bool SideOf(const QString &name, SpectralSide *side)
+{
+    for (const SpectralSide candidate : {SpectralSide::Columns, SpectralSide::Rows}) {
+        if (name != TextsOf(candidate).name)
+            continue;
+        *side = candidate;
+        return true;
+    }
+    return false;
+}
+
 QString ListCard(int index) { return QString("SPL%1").arg(index, 5, 10, QChar('0')); }
 
 MetadataEntry TextEntry(const QString &key, const QString &value, const char *comment) { return {key, value, comment, true}; }
@@ -71,6 +101,14 @@ MetadataEntry TextEntry(const QString &key, const QString &value, const char *co
 MetadataEntry NumberEntry(const QString &key, double value, const char *comment)
 {
     return {key, QString::number(value, 'G', 17), comment, false};
+}
+
+/// Unit, side, and how many pixels it holds for.
+QVector<MetadataEntry> FirstEntries(SpectralUnit unit, SpectralSide side, int width)
+{
+    const SideTexts &texts = TextsOf(side);
+    return {TextEntry(UnitKey, NameOf(unit), texts.unitComment), TextEntry(SideKey, texts.name, "that have a value each"),
+            NumberEntry(WidthKey, width, texts.widthComment)};
 }
 
 using Values = QHash<QString, QString>;
@@ -81,9 +119,9 @@ QVector<double> Polynomial(const Values &values, int width)
     if (degree < 1 || degree > MostDegree)
         return {};
     QVector<double> results(width, 0.0);
-    for (int column = 0; column < width; ++column) {
+    for (int pixel = 0; pixel < width; ++pixel) {
         for (int power = degree; power >= 0; --power)
-            results[column] = results[column] * column + values.value(CoefficientKey + QString::number(power)).toDouble();
+            results[pixel] = results[pixel] * pixel + values.value(CoefficientKey + QString::number(power)).toDouble();
     }
     return results;
 }
@@ -105,10 +143,8 @@ QVector<MetadataEntry> SpectralMetadata(const SpectralRecord &record)
     const int degree = record.coefficients.size() - 1;
     if (degree < 1 || degree > MostDegree || record.width <= 0)
         return {};
-    QVector<MetadataEntry> entries{TextEntry(UnitKey, NameOf(record.unit), "what the columns mean"),
-                                   NumberEntry(WidthKey, record.width, "columns that the calibration holds for"),
-                                   TextEntry(OriginKey, record.origin, ""),
-                                   NumberEntry(DegreeKey, degree, "polynomial of the column, counted from 0")};
+    QVector<MetadataEntry> entries = FirstEntries(record.unit, record.side, record.width);
+    entries << TextEntry(OriginKey, record.origin, "") << NumberEntry(DegreeKey, degree, TextsOf(record.side).degreeComment);
     for (int power = 0; power <= degree; ++power)
         entries << NumberEntry(CoefficientKey + QString::number(power), record.coefficients[power], "");
     return entries;
@@ -118,8 +154,7 @@ QVector<MetadataEntry> SpectralMetadata(const SpectralAxis &axis)
 {
     if (axis.IsEmpty())
         return {};
-    QVector<MetadataEntry> entries{TextEntry(UnitKey, NameOf(axis.unit), "what the columns mean"),
-                                   NumberEntry(WidthKey, axis.values.size(), "columns that the calibration holds for")};
+    QVector<MetadataEntry> entries = FirstEntries(axis.unit, axis.side, axis.values.size());
     if (axis.laserNm != 0)
         entries << NumberEntry(LaserKey, axis.laserNm, "[nm] line of the laser");
     for (int first = 0; first < axis.values.size(); first += ValuesInCard) {
@@ -155,8 +190,9 @@ QString WithoutSpectralMetadata(const QString &description)
     return QString(description).remove(AnnotationPattern()).remove(LinePattern());
 }
 
-SpectralAxis AxisOfMetadata(const QVector<MetadataEntry> &metadata, int width, QString *fault)
+SpectralAxis AxisOfMetadata(const QVector<MetadataEntry> &metadata, const QSize &size, QString *fault)
 {
+    constexpr int mostLettersOfAFile = 20;
     Values values;
     for (const MetadataEntry &entry : metadata) {
         if (IsSpectralMetadata(entry))
@@ -164,7 +200,15 @@ SpectralAxis AxisOfMetadata(const QVector<MetadataEntry> &metadata, int width, Q
     }
     SpectralAxis axis;
     axis.unit = UnitOf(values.value(UnitKey));
-    if (axis.unit == SpectralUnit::Pixel || width <= 0 || values.value(WidthKey).toDouble() != width)
+    if (axis.unit == SpectralUnit::Pixel)
+        return SpectralAxis();
+    if (values.contains(SideKey) && !SideOf(values[SideKey], &axis.side)) {
+        *fault = Text::tr("its calibration is that of \u201c%1\u201d (SPECSIDE), which are neither columns nor rows, and is left out")
+                     .arg(values[SideKey].left(mostLettersOfAFile));
+        return SpectralAxis();
+    }
+    const int width = PixelsOf(axis.side, size);
+    if (width <= 0 || values.value(WidthKey).toDouble() != width)
         return SpectralAxis();
     axis.laserNm = values.value(LaserKey).toDouble();
     axis.values = values.contains(DegreeKey) ? Polynomial(values, width) : Listed(values, width);

@@ -4,13 +4,14 @@
 #include "pictureinfo.h"
 #include "spectralaxis.h"
 
-/// A polynomial calibration of the columns of a picture, as its file carries it.
+/// A polynomial calibration of the columns, or the rows, of a picture, as its file carries it.
 struct SpectralRecord
 {
     SpectralUnit unit = SpectralUnit::Nanometre;
-    QVector<double> coefficients; ///< of the column, counted from 0: lowest power first
-    int width = 0;                ///< columns of the pictures that it holds for
-    QString origin;               ///< for people: which pixels of the sensor the columns are
+    SpectralSide side = SpectralSide::Columns;
+    QVector<double> coefficients; ///< of the column or row, counted from 0: lowest power first
+    int width = 0;                ///< columns, or rows, of the pictures that it holds for
+    QString origin;               ///< for people: which pixels of the sensor these are
 };
 
 /// Keys and values that every format can hold: cards in FITS, annotations in OME, lines in other TIFF descriptions. Empty
@@ -22,6 +23,6 @@ bool IsSpectralMetadata(const MetadataEntry &entry);
 QVector<MetadataEntry> SpectralMetadataOfText(const QString &description);
 QString WithoutSpectralMetadata(const QString &description);
 
-/// What they mean for pictures of `width` columns; empty without a calibration or for one of other pictures. `fault`
-/// says, as part of a sentence, when there is one that cannot be used.
-SpectralAxis AxisOfMetadata(const QVector<MetadataEntry> &metadata, int width, QString *fault);
+/// What they mean for pictures of `size`; empty without a calibration or for one of other pictures. One that does not say
+/// so is that of the columns. `fault` says, as part of a sentence, when there is one that cannot be used.
+SpectralAxis AxisOfMetadata(const QVector<MetadataEntry> &metadata, const QSize &size, QString *fault);

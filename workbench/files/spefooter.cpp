@@ -17,18 +17,11 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(SpeFooter)
 };
 
-/// Where a region lies on the sensor.
-struct SensorMapping
-{
-    QRect rect;
-    int xBinning = 1;
-};
-
 /// Things that data blocks refer to by number.
 struct Calibrations
 {
     QHash<QString, QVector<double>> wavelengths; ///< nm, one for each column of the sensor
-    QHash<QString, SensorMapping> mappings;
+    QHash<QString, SpeSensorRegion> mappings;
     QHash<QString, double> lasers;
 };
 
@@ -60,28 +53,27 @@ QVector<double> ReadWavelengths(const QString &text, bool withErrors)
     return values;
 }
 
-SensorMapping ReadMapping(const QXmlStreamAttributes &attributes)
+SpeSensorRegion ReadMapping(const QXmlStreamAttributes &attributes)
 {
     constexpr int most = 1000000000; // two of them can be added
     const auto number = [&](const char *name) { return qBound(-most, attributes.value(name).toInt(), most); };
-    SensorMapping mapping;
-    mapping.rect = QRect(number("x"), number("y"), number("width"), number("height"));
-    mapping.xBinning = qMax(1, number("xBinning"));
-    return mapping;
+    return {QRect(number("x"), number("y"), number("width"), number("height")),
+            QSize(qMax(1, number("xBinning")), qMax(1, number("yBinning")))};
 }
 
 /// A column of a binned region stands for several of the sensor: their mean.
-QVector<double> ValuesOfRegion(const QVector<double> &ofSensor, const SensorMapping &mapping, int width)
+QVector<double> ValuesOfRegion(const QVector<double> &ofSensor, const SpeSensorRegion &mapping, int width)
 {
-    const qint64 first = mapping.rect.x();
-    if (first < 0 || width <= 0 || first + qint64(width) * mapping.xBinning > ofSensor.size())
+    const qint64 first = mapping.pixels.x();
+    const int binning = mapping.binning.width();
+    if (first < 0 || width <= 0 || first + qint64(width) * binning > ofSensor.size())
         return {};
     QVector<double> values(width);
     for (int i = 0; i < width; ++i) {
         double sum = 0;
-        for (int k = 0; k < mapping.xBinning; ++k)
-            sum += ofSensor[int(first) + i * mapping.xBinning + k];
-        values[i] = sum / mapping.xBinning;
+        for (int k = 0; k < binning; ++k)
+            sum += ofSensor[int(first) + i * binning + k];
+        values[i] = sum / binning;
     }
     return values;
 }
@@ -91,11 +83,11 @@ void ApplyReferences(const References &references, const Calibrations &calibrati
     for (int i = 0; i < layout.regions.size(); ++i) {
         SpeRegion &region = layout.regions[i];
         const QStringList ids = references.ofFrame + references.ofRegions[i];
-        SensorMapping mapping;
+        SpeSensorRegion mapping;
         for (const QString &id : ids)
             mapping = calibrations.mappings.value(id, mapping);
-        if (mapping.rect.isValid())
-            region.onSensor = mapping.rect;
+        if (mapping.pixels.isValid())
+            region.onSensor = mapping;
         for (const QString &id : ids) {
             if (!calibrations.wavelengths.contains(id))
                 continue;

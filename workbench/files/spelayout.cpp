@@ -35,6 +35,81 @@ bool TypeOfCode(int code, SampleType &type, FileFault &fault)
     }
 }
 
+void AddFact(SpeLayout &layout, const QString &key, const QString &value, const char *unit, bool isText)
+{
+    if (!value.isEmpty())
+        layout.metadata.append({key, value, unit, isText});
+}
+
+void AddRegionFacts(const QVector<SpeSensorRegion> &regions, SpeLayout &layout)
+{
+    for (int i = 0; i < regions.size(); ++i) {
+        const QString key = regions.size() == 1 ? QString("Region") : QString("Region%1").arg(i + 1);
+        AddFact(layout, key, regions[i].pixels.isEmpty() ? QString() : regions[i].Text(), "", true);
+    }
+}
+
+SpeRegion PartOf(const SpeRegion &whole, const QRect &place, const SpeLayout &layout)
+{
+    SpeRegion part;
+    part.width = place.width();
+    part.height = place.height();
+    part.offset = (qint64(place.y()) * whole.width + place.x()) * BytesPerSample(layout.type);
+    part.skipped = whole.width - place.width();
+    part.axis = whole.axis;
+    const bool isOfColumns = whole.axis.side == SpectralSide::Columns;
+    part.axis.values = whole.axis.values.mid(isOfColumns ? place.x() : place.y(), PixelsOf(whole.axis.side, place.size()));
+    return part;
+}
+
+/// Takes the rectangle that a frame of version 2 is apart where its regions are known. A file of one region often tells
+/// nothing of it, or of another one.
+void FindRegions(const SpeHeader &header, SpeLayout &layout)
+{
+    const SpeRegion whole = layout.regions.first();
+    const QSize rectangle(whole.width, whole.height);
+    const int count = header.Regions();
+    QVector<SpeSensorRegion> regions;
+    for (int i = 0; i < qMin(count, SpeHeader::mostRegionsTold); ++i)
+        regions << header.Region(i);
+    if (count == 1) {
+        if (regions.first().Size() != rectangle)
+            return;
+        layout.regions.first().onSensor = regions.first();
+        AddRegionFacts(regions, layout);
+        return;
+    }
+    AddRegionFacts(regions, layout);
+    QVector<QRect> places;
+    if (count > SpeHeader::mostRegionsTold)
+        layout.mergedReason = Text::tr("its header has room for %1 of them").arg(SpeHeader::mostRegionsTold);
+    else if (header.IsTurned())
+        layout.mergedReason = Text::tr("its frames were turned or mirrored after they had been read out");
+    else
+        places = PlaceSpeRegions(regions, rectangle, &layout.mergedReason);
+    layout.mergedRegions = places.isEmpty() ? count : 1;
+    if (places.isEmpty())
+        return;
+    layout.regions.clear();
+    for (int i = 0; i < places.size(); ++i) {
+        layout.regions << PartOf(whole, places[i], layout);
+        layout.regions.last().onSensor = regions[i];
+    }
+}
+
+/// Of the columns, or where those have none, of the rows.
+SpectralAxis AxisOf(const SpeHeader &header, SpeLayout &layout)
+{
+    const bool isOfRows = header.OfRows().IsValid() && !header.OfColumns().IsValid();
+    QString fault;
+    SpectralAxis axis = isOfRows ? header.OfRows().Axis(header.Height(), &fault) : header.OfColumns().Axis(header.Width(), &fault);
+    if (isOfRows && !axis.IsEmpty())
+        axis.side = SpectralSide::Rows;
+    if (!fault.isEmpty())
+        layout.Warn(fault);
+    return axis;
+}
+
 bool LayoutOfHeader(const SpeHeader &header, SpeLayout &layout, FileFault &fault)
 {
     if (!TypeOfCode(header.TypeCode(), layout.type, fault))
@@ -42,21 +117,15 @@ bool LayoutOfHeader(const SpeHeader &header, SpeLayout &layout, FileFault &fault
     if (header.Width() == 0 || header.Height() == 0)
         return fault.Set(Text::tr("its header gives a size of %1 x %2 pixels").arg(header.Width()).arg(header.Height()),
                          DamagedAdvice());
-    SpeRegion region;
-    region.width = header.Width();
-    region.height = header.Height();
-    region.axis = header.Axis();
-    layout.regions = {region};
-    layout.frameStride = layout.RegionBytes(region);
+    SpeRegion whole;
+    whole.width = header.Width();
+    whole.height = header.Height();
+    whole.axis = AxisOf(header, layout);
+    layout.regions = {whole};
+    layout.frameStride = layout.RegionBytes(whole);
     layout.frames = header.Frames();
-    layout.mergedRegions = header.Regions();
+    FindRegions(header, layout);
     return true;
-}
-
-void AddFact(SpeLayout &layout, const char *key, const QString &value, const char *unit, bool isText)
-{
-    if (!value.isEmpty())
-        layout.metadata.append({key, value, unit, isText});
 }
 
 void ReadFacts(const SpeHeader &header, SpeLayout &layout)
@@ -86,7 +155,13 @@ bool LayoutOfFooter(QIODevice &file, const SpeHeader &header, SpeLayout &layout,
         if (file.size() - qint64(offset) > mostFooterBytes)
             return fault.Set(Text::tr("its description (XML at the end) is larger than any such file needs"), DamagedAdvice());
         file.seek(qint64(offset));
-        return ReadSpeFooter(file.read(mostFooterBytes), layout, fault);
+        if (!ReadSpeFooter(file.read(mostFooterBytes), layout, fault))
+            return false;
+        QVector<SpeSensorRegion> regions;
+        for (const SpeRegion &region : qAsConst(layout.regions))
+            regions << region.onSensor;
+        AddRegionFacts(regions, layout);
+        return true;
     }
     if (header.Width() == 0 || header.Height() == 0)
         return fault.Set(Text::tr("its description (XML at the end) is missing"), DamagedAdvice());
@@ -115,8 +190,9 @@ bool CheckRegions(const SpeLayout &layout, qint64 dataBytes, FileFault &fault)
 /// Some writers give a wrong number of frames: those that are there count.
 void CountFrames(SpeLayout &layout, qint64 dataBytes)
 {
-    const SpeRegion &last = layout.regions.last();
-    const qint64 lastBytes = last.offset + layout.RegionBytes(last);
+    qint64 lastBytes = 0;
+    for (const SpeRegion &region : qAsConst(layout.regions))
+        lastBytes = qMax(lastBytes, region.offset + layout.RegionBytes(region));
     const qint64 whole = 1 + (dataBytes - lastBytes) / layout.frameStride;
     const qint64 most = std::numeric_limits<int>::max() / layout.regions.size();
     const qint64 promised = layout.frames;

@@ -3,8 +3,8 @@
 
 #include "pictureinfo.h"
 #include "spectralaxis.h"
+#include "speregions.h"
 
-#include <QRect>
 #include <QStringList>
 
 class QIODevice;
@@ -16,7 +16,8 @@ struct SpeRegion
     int width = 0;
     int height = 0;
     qint64 offset = 0; ///< bytes from the start of the frame
-    QRect onSensor;    ///< sensor pixels from 0; null when the file does not say
+    int skipped = 0;   ///< samples from the end of a row to the next one: of other regions, or filler
+    SpeSensorRegion onSensor; ///< without pixels when the file does not say
     SpectralAxis axis;
 };
 
@@ -29,7 +30,8 @@ struct SpeLayout
     SampleType type = SampleType::U16;
     int frames = 0;        ///< that are whole
     qint64 missingFrames = 0; ///< that were promised
-    int mergedRegions = 1; ///< regions of the sensor that lie in one rectangle, with filler between them: version 2
+    int mergedRegions = 1; ///< regions of the sensor that lie somewhere in one rectangle: version 2
+    QString mergedReason;  ///< why nobody knows where, as part of a sentence
     qint64 frameStride = 0; ///< bytes from one frame to the next
     QVector<SpeRegion> regions; ///< at least one
     QVector<MetadataEntry> metadata;
@@ -37,7 +39,11 @@ struct SpeLayout
 
     void Warn(const QString &warning);
 
-    qint64 RegionBytes(const SpeRegion &region) const { return qint64(region.width) * region.height * BytesPerSample(type); }
+    /// From its first sample to its last.
+    qint64 RegionBytes(const SpeRegion &region) const
+    {
+        return ((qint64(region.width) + region.skipped) * region.height - region.skipped) * BytesPerSample(type);
+    }
 };
 
 /// Reads header and footer. Every size is checked against the file before anything is made of it.

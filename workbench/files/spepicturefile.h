@@ -23,6 +23,8 @@ protected:
 private:
     const SpeRegion &RegionOf(int index) const { return m_layout.regions[index % m_layout.regions.size()]; }
     void FillInfo();
+    /// `start` is in the file; `skippedBytes` lie between two rows.
+    bool ReadRows(qint64 start, int skippedBytes, Picture &frame);
 
     QFile m_file;
     SpeLayout m_layout;

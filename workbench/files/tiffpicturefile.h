@@ -36,7 +36,7 @@ private:
     TiffChain m_chain;
     qint64 m_fileSize = 0;
     StackOrder m_order;
-    SpectralAxis m_axis; ///< of pages as wide as the first
+    SpectralAxis m_axis; ///< of pages of the size of the first
     /// First byte of the frames that follow each other without descriptions; 0 for ordinary files.
     quint64 m_contiguousOffset = 0;
     qint64 m_contiguousBytes = 0; ///< of each of them

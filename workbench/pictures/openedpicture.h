@@ -42,7 +42,7 @@ public:
     /// The one that was asked for last: that which is shown, or will be.
     PictureDocument *WantedDocument() const;
     const LoadedPicture &Shown() const { return m_shown; }
-    /// Gives the calibration that its columns have instead of that of its file, and that is saved with it; may give none.
+    /// Gives the calibration that its columns, or rows, have instead of that of its file, and that is saved with it; may give none.
     using CalibrationSource = std::function<QVector<MetadataEntry>()>;
     void SetCalibrationSource(const CalibrationSource &source) { m_calibration = source; }
     /// What a save of it asks for, but for the target; without what is only tried.

@@ -46,7 +46,7 @@ QString OpenedPicture::GetPixelString() const
                      QPoint(int(std::floor(m_mousePos.x())), int(std::floor(m_mousePos.y()))));
 }
 
-/// The values of the first and the last column.
+/// The values of the first and the last column, or row.
 QString OpenedPicture::GetExpansionArea() const
 {
     if (m_shown.axis.IsEmpty())

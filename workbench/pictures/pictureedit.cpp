@@ -123,11 +123,18 @@ std::optional<QRect> PictureEdit::FileRegion(const QSize &fileSize) const
 
 SpectralAxis PictureEdit::SeenAxis(const SpectralAxis &ofFile, const QSize &fileSize) const
 {
-    const std::optional<QRect> region = FileRegion(fileSize);
-    if (!region || ofFile.values.size() != fileSize.width())
+    const std::optional<Source> source = SourceOf(fileSize);
+    if (!source || ofFile.values.size() != PixelsOf(ofFile.side, fileSize))
         return SpectralAxis();
+    const QRect &region = source->region;
+    const bool isOfColumns = ofFile.side == SpectralSide::Columns;
     SpectralAxis seen = ofFile;
-    seen.values = ofFile.values.mid(region->left(), region->width());
+    seen.values = ofFile.values.mid(isOfColumns ? region.left() : region.top(), PixelsOf(ofFile.side, region.size()));
+    const bool isOfSeenColumns = isOfColumns != source->orientation.SwapsSides();
+    seen.side = isOfSeenColumns ? SpectralSide::Columns : SpectralSide::Rows;
+    const QPoint corner = source->orientation.Map(QPoint(0, 0), region.size());
+    if ((isOfSeenColumns ? corner.x() : corner.y()) != 0)
+        std::reverse(seen.values.begin(), seen.values.end());
     return seen;
 }
 

@@ -49,7 +49,7 @@ public:
     std::optional<Source> SourceOf(const QSize &fileSize) const;
     /// The same; nothing when they were turned either.
     std::optional<QRect> FileRegion(const QSize &fileSize) const;
-    /// What the columns that are seen mean, by those of the file; empty when they were turned or joined.
+    /// What the columns, or the rows, that are seen mean, by those of the file; empty when they were joined.
     SpectralAxis SeenAxis(const SpectralAxis &ofFile, const QSize &fileSize) const;
     /// Frames that are left of those of the file.
     int SeenFrames(int fileFrames) const;

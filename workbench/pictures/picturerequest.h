@@ -43,8 +43,8 @@ struct LoadedPicture
     QString countError; ///< why the objects were not counted
     QImage thumbnail; ///< null unless it was wanted
     SampleRange range;
-    SpectralAxis fileAxis; ///< of the columns of the file; empty when it does not say
-    SpectralAxis axis; ///< of the columns as seen; empty without one, or when they were turned or joined
+    SpectralAxis fileAxis; ///< of the columns, or rows, of the file; empty when it does not say
+    SpectralAxis axis; ///< of the columns, or rows, as seen; empty without one, or when they were joined
 };
 Q_DECLARE_METATYPE(LoadedPicture)
 

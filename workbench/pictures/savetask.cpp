@@ -40,7 +40,14 @@ QVector<MetadataEntry> MetadataOf(const PictureInfo &info, const PictureEdit &ed
     return metadata;
 }
 
-/// What the columns of the frames to be saved mean.
+/// Of a frame with this axis; frames of one file may differ along it.
+QSize FrameSize(const SpectralAxis &axis, const QSize &first)
+{
+    const int pixels = axis.values.size();
+    return axis.side == SpectralSide::Columns ? QSize(pixels, first.height()) : QSize(first.width(), pixels);
+}
+
+/// What the columns, or rows, of the frames to be saved mean.
 QVector<MetadataEntry> CalibrationOf(const PictureFile &file, const SaveRequest &request)
 {
     if (!request.calibration.isEmpty())
@@ -51,7 +58,7 @@ QVector<MetadataEntry> CalibrationOf(const PictureFile &file, const SaveRequest 
         if (!(file.AxisOf(frame) == ofFile))
             return {};
     }
-    return SpectralMetadata(request.edit.SeenAxis(ofFile, QSize(ofFile.values.size(), file.Info().size.height())));
+    return SpectralMetadata(request.edit.SeenAxis(ofFile, FrameSize(ofFile, file.Info().size)));
 }
 
 Picture FromImage(const QImage &image)

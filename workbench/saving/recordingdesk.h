@@ -30,7 +30,7 @@ public:
         FrameSaving *saving = nullptr;
         SaveSettings *settings = nullptr;
         const LiveOrientation *orientation = nullptr;
-        /// Gives the spectral calibration of the columns as they are seen; may give none.
+        /// Gives the spectral calibration of the columns, or rows, as they are seen; may give none.
         std::function<QVector<MetadataEntry>()> calibration = nullptr;
     };
 

@@ -31,6 +31,12 @@ void CalibratedAxis::SetCalibration(const SpectralCalibration &calibration, cons
     Fit();
 }
 
+void CalibratedAxis::SetFileAxis(const SpectralAxis &axis)
+{
+    m_fileAxis = axis;
+    Fit();
+}
+
 void CalibratedAxis::SetSpectrum(int width, const SpectralFrame &frame)
 {
     m_width = width;
@@ -40,11 +46,12 @@ void CalibratedAxis::SetSpectrum(int width, const SpectralFrame &frame)
 
 SpectralFrame CalibratedAxis::Calibrated() const
 {
-    if (!m_frame.IsOfFile() || m_calibrated.IsOfFile())
+    if (!m_frame.IsOfFile() || m_calibrated.IsOfFile() || !m_fileAxis.IsEmpty())
         return m_calibrated;
-    SpectralFrame columns;
-    columns.count = columns.fileExtent = m_calibration.Width();
-    return columns;
+    SpectralFrame assumed;
+    assumed.isHorizontal = assumed.isAlongRows = m_calibrated.isHorizontal; // as it was seen
+    assumed.count = assumed.fileExtent = m_calibration.Width();
+    return assumed;
 }
 
 void CalibratedAxis::Fit()
@@ -68,6 +75,7 @@ SpectralRecord CalibratedAxis::Record() const
     SpectralRecord record;
     record.coefficients = m_fitting.PixelCoefficients();
     record.width = m_fitting.Width();
+    record.side = m_frame.Side();
     if (!m_frame.IsNull() && !m_frame.IsOfFile()) // for programs too: English
         record.origin = QString("%1 %2 to %3 of the sensor, binned by %4%5")
                             .arg(m_frame.isAlongRows ? "columns" : "rows").arg(m_frame.first)
@@ -102,7 +110,7 @@ QString CalibratedAxis::Misfit() const
         .arg(m_calibrated.first).arg(m_calibrated.first + m_calibrated.count * m_calibrated.binning - 1);
 }
 
-bool CalibratedAxis::IsCalibrated() const { return !m_fileAxis.IsEmpty() || !m_fitting.IsNull(); }
+bool CalibratedAxis::IsCalibrated() const { return IsByFile() || !m_fitting.IsNull(); }
 
 SpectralUnit CalibratedAxis::Unit() const
 {
@@ -112,11 +120,11 @@ SpectralUnit CalibratedAxis::Unit() const
     return AreInverse(own, m_unit) && HasInverse() ? m_unit : own;
 }
 
-SpectralUnit CalibratedAxis::OwnUnit() const { return m_fileAxis.IsEmpty() ? SpectralUnit::Nanometre : m_fileAxis.unit; }
+SpectralUnit CalibratedAxis::OwnUnit() const { return IsByFile() ? m_fileAxis.unit : SpectralUnit::Nanometre; }
 
 double CalibratedAxis::OwnValue(double pixel) const
 {
-    return m_fileAxis.IsEmpty() ? m_fitting.Wavelength(pixel) : FileValue(pixel);
+    return IsByFile() ? FileValue(pixel) : m_fitting.Wavelength(pixel);
 }
 
 /// Rulers and plots ask for the pixel behind the last one too.

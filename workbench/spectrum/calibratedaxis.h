@@ -14,7 +14,9 @@ class CalibratedAxis
 public:
     /// `frame` is that of the spectrum it was made with, null when that is not known.
     void SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame);
-    void SetFileAxis(const SpectralAxis &axis) { m_fileAxis = axis; }
+    /// Of the picture as it is seen. It holds for spectra along that side; for those along the other one ours does where
+    /// it was made on a file, and is not assumed to.
+    void SetFileAxis(const SpectralAxis &axis);
     void SetUnit(SpectralUnit unit) { m_unit = unit; }
     /// Of the spectra: their width in pixels, and where they lie on the sensor or in their file; null when that is not
     /// known, and then those as wide as our calibration are taken for calibrated.
@@ -31,27 +33,27 @@ public:
     QString Misfit() const;
     /// The place in these spectra of a pixel of the spectrum that our own was made with.
     double PixelHere(double calibrated) const;
-    const SpectralAxis &FileAxis() const { return m_fileAxis; }
     int Width() const { return m_width; }
     /// By what came with the file, or by our own calibration where it fits.
     bool IsCalibrated() const;
     /// What At() gives: pixels unless there is a calibration; its own unit where a wavelength or wavenumber of 0 lies in
     /// it, which has no inverse.
     SpectralUnit Unit() const;
-    bool IsOwn() const { return m_fileAxis.IsEmpty() && IsCalibrated(); }
+    bool IsOwn() const { return !IsByFile() && IsCalibrated(); }
     /// The value at a pixel, counted from 0, beyond the spectrum too.
     double At(double pixel) const;
     /// For the axis: "Wavelength [nm]".
     QString Title() const;
 
 private:
+    bool IsByFile() const { return !m_fileAxis.IsEmpty() && m_fileAxis.side == m_frame.Side(); }
     /// Before it is converted.
     SpectralUnit OwnUnit() const;
     double OwnValue(double pixel) const;
     bool HasInverse() const;
     void Fit();
-    /// Where our own was made, as these spectra count: an opened picture that does not say where on the sensor it was
-    /// taken is assumed to show what a calibration as wide as its file was made with.
+    /// Where our own was made, as these spectra count: an opened picture that brings no calibration, and does not say where
+    /// on the sensor it was taken, is assumed to show what a calibration as wide as its file was made with.
     SpectralFrame Calibrated() const;
     double FileValue(double pixel) const;
 

@@ -12,13 +12,13 @@ constexpr char PixelKey[] = "pixel";
 constexpr char WavelengthKey[] = "nm";
 constexpr char LineKey[] = "line";
 constexpr char SaturatedKey[] = "saturated";
-constexpr char FrameKey[] = "frame"; // along rows, reversed, first, binning, extent of the file
+constexpr char FrameKey[] = "frame"; // along rows, reversed, first, binning, extent of the file, horizontal
 constexpr int mostPoints = 1000;
 constexpr int widestFrame = 65535;
 
 QVariantList Numbers(const SpectralFrame &frame) 
 {
-    return {int(frame.isAlongRows), int(frame.isReversed), frame.first, frame.binning, frame.fileExtent};
+    return {int(frame.isAlongRows), int(frame.isReversed), frame.first, frame.binning, frame.fileExtent, int(frame.isHorizontal)};
 }
 
 /// Null for what makes no sense.
@@ -32,6 +32,7 @@ SpectralFrame Frame(const QVariantList &numbers, int width)
     frame.first = numbers[2].toInt();
     frame.binning = numbers[3].toInt();
     frame.fileExtent = numbers.value(4).toInt(); // those that were kept before are of a sensor
+    frame.isHorizontal = numbers.value(5, 1).toInt() != 0;
     const bool makesSense = frame.first >= 0 && frame.first <= widestFrame && frame.binning >= 1 && frame.binning <= widestFrame
         && frame.fileExtent >= 0 && frame.fileExtent <= widestFrame;
     frame.count = makesSense ? width : 0;

@@ -6,10 +6,11 @@
 SpectralFrame SpectralFrame::Of(const SensorFrame &frame, bool isHorizontal)
 {
     SpectralFrame spectrum;
+    spectrum.isHorizontal = isHorizontal;
     spectrum.binning = std::max(1, frame.binning);
     const QSize size(frame.region.width() / spectrum.binning, frame.region.height() / spectrum.binning); // whole ones
     if (size.isEmpty())
-        return SpectralFrame();
+        return spectrum;
     spectrum.isAlongRows = isHorizontal != frame.orientation.SwapsSides();
     spectrum.count = spectrum.isAlongRows ? size.width() : size.height();
     spectrum.first = spectrum.isAlongRows ? frame.region.x() : frame.region.y();

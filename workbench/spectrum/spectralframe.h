@@ -2,6 +2,7 @@
 #pragma once
 
 #include "orientation.h"
+#include "spectralaxis.h"
 
 #include <QRect>
 
@@ -23,17 +24,20 @@ struct SensorFrame
 struct SpectralFrame
 {
     bool isAlongRows = true;  ///< of the sensor, however the picture is turned
+    bool isHorizontal = true; ///< along the rows of what is seen
     bool isReversed = false;  ///< its first sample is the last one on the sensor
     int first = 0;            ///< the sensor's column, or row, that it begins or, reversed, ends with
     int binning = 1;
     int count = 0;      ///< samples; 0 when nothing is known
     int fileExtent = 0; ///< of an opened picture: pixels of its file along that side
 
-    /// Of a spectrum that runs along the rows, or the columns, of what is seen.
+    /// Of a spectrum that runs along the rows, or the columns, of what is seen; null for a frame of nothing.
     static SpectralFrame Of(const SensorFrame &frame, bool isHorizontal);
 
     bool IsNull() const { return count <= 0; }
     bool IsOfFile() const { return fileExtent > 0; }
+    /// The pixels of what is seen that are its samples.
+    SpectralSide Side() const { return isHorizontal ? SpectralSide::Columns : SpectralSide::Rows; }
     /// Where the middle of a sample is, sensor pixels.
     double OnSensor(double sample) const;
     /// The sample whose middle is there.
@@ -43,8 +47,8 @@ struct SpectralFrame
 
     bool operator==(const SpectralFrame &other) const
     {
-        return isAlongRows == other.isAlongRows && isReversed == other.isReversed && first == other.first
-            && binning == other.binning && count == other.count && fileExtent == other.fileExtent;
+        return isAlongRows == other.isAlongRows && isHorizontal == other.isHorizontal && isReversed == other.isReversed
+            && first == other.first && binning == other.binning && count == other.count && fileExtent == other.fileExtent;
     }
     bool operator!=(const SpectralFrame &other) const { return !(*this == other); }
 };

@@ -51,7 +51,8 @@ public:
     void SetImage(const SpectralPicture &picture);
     /// How the camera's frames come to be the live picture. A calibration follows, or is said not to hold.
     void SetSensorFrame(const SensorFrame &frame);
-    /// What files of the live picture, or of the opened one, carry of our calibration: it is that of their columns.
+    /// What files of the live picture, or of the opened one, carry of our calibration: that of the side that the spectrum
+    /// lies along.
     QVector<MetadataEntry> LiveCalibration() const;
     QVector<MetadataEntry> ImageCalibration() const;
     /// The axis of what is on the screen.
@@ -154,6 +155,8 @@ private:
     QString AxisTitle() const;
     SpectralFrame LiveFrame() const;
     void UpdateImageSpectra();
+    /// Along the direction of the spectrum.
+    const CalibratedAxis &ImageAxis() const;
     bool IsAxisReplaced() const;
     void UpdateLiveSpectrum();
     void TellOfMisfit();

@@ -7,7 +7,8 @@ void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, co
     m_liveAxis.SetCalibration(calibration, frame);
     m_imageAxis.SetCalibration(calibration, frame);
     m_imageColumnAxis.SetCalibration(calibration, frame);
-    const bool replaces = m_isImageShown && frame.isAlongRows && frame.fileExtent == m_image.fileSize.width();
+    const SpectralSide side = frame.isAlongRows ? SpectralSide::Columns : SpectralSide::Rows;
+    const bool replaces = m_isImageShown && side == m_image.fileAxis.side && frame.fileExtent == PixelsOf(side, m_image.fileSize);
     m_replaced = replaces ? m_image : SpectralPicture();
     UpdateImageSpectra();
     TellOfMisfit();
@@ -16,14 +17,16 @@ void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, co
 
 bool SpectrumSettings::IsAxisReplaced() const { return m_image.IsOfSameColumns(m_replaced); }
 
-/// An axis of a file that does not follow its turns is not that of ours either.
+/// An axis of a file that cannot follow what was done to it is not that of ours either.
 void SpectrumSettings::UpdateImageSpectra()
 {
     const bool isReplaced = IsAxisReplaced();
     const bool isLost = !isReplaced && m_image.axis.IsEmpty() && !m_image.fileAxis.IsEmpty();
     const SpectralFrame alongRows = isLost ? SpectralFrame() : m_image.Frame(true);
     const SpectralFrame alongColumns = isLost ? SpectralFrame() : m_image.Frame(false);
-    m_imageAxis.SetFileAxis(isReplaced ? SpectralAxis() : m_image.axis);
+    const SpectralAxis ofFile = isReplaced ? SpectralAxis() : m_image.axis;
+    m_imageAxis.SetFileAxis(ofFile);
+    m_imageColumnAxis.SetFileAxis(ofFile);
     m_imageAxis.SetSpectrum(alongRows.count, alongRows);
     m_imageColumnAxis.SetSpectrum(alongColumns.count, alongColumns);
 }
@@ -101,13 +104,9 @@ void SpectrumSettings::AnnounceAxis()
     emit SignalConversationFormulaChanged();
 }
 
-/// A file's own axis is that of its columns: a profile along one of them has ours at most.
-const CalibratedAxis &SpectrumSettings::ShownAxis() const
-{
-    if (!m_isImageShown)
-        return m_liveAxis;
-    return m_recipe.isHorizontal ? m_imageAxis : m_imageColumnAxis;
-}
+const CalibratedAxis &SpectrumSettings::ImageAxis() const { return m_recipe.isHorizontal ? m_imageAxis : m_imageColumnAxis; }
+
+const CalibratedAxis &SpectrumSettings::ShownAxis() const { return m_isImageShown ? ImageAxis() : m_liveAxis; }
 
 CalibratedAxis SpectrumSettings::LiveAxis(bool isHorizontal) const
 {
@@ -137,10 +136,11 @@ bool SpectrumSettings::IsValidConversation(QString *text) const
 
 QVector<MetadataEntry> SpectrumSettings::LiveCalibration() const
 {
-    return m_recipe.isHorizontal ? SpectralMetadata(m_liveAxis.Record()) : QVector<MetadataEntry>();
+    return SpectralMetadata(m_liveAxis.Record());
 }
 
 QVector<MetadataEntry> SpectrumSettings::ImageCalibration() const
 {
-    return m_imageAxis.IsOwn() && m_recipe.isHorizontal ? SpectralMetadata(m_imageAxis.Record()) : QVector<MetadataEntry>();
+    const CalibratedAxis &axis = ImageAxis();
+    return axis.IsOwn() ? SpectralMetadata(axis.Record()) : QVector<MetadataEntry>();
 }

@@ -43,6 +43,19 @@ Picture Part(const Picture &from, const QRect &region)
     return to;
 }
 
+/// 300 nm and half a nanometre more for each column, or row, of the file.
+double FileValue(int pixel) { return 300 + 0.5 * pixel; }
+
+SpectralAxis FileAxis(SpectralSide side, const QSize &fileSize)
+{
+    SpectralAxis axis;
+    axis.unit = SpectralUnit::Nanometre;
+    axis.side = side;
+    for (int pixel = 0; pixel < PixelsOf(side, fileSize); ++pixel)
+        axis.values << FileValue(pixel);
+    return axis;
+}
+
 } // namespace
 
 /// Any row of steps gives what doing them one by one gives.
@@ -169,6 +182,41 @@ private slots:
         QVERIFY(edit.Turned(FlipHorizontal).Turned(FlipHorizontal).FileRegion(size));
         QVERIFY(!edit.Turned(RotateBy90).Processed(DenoiseSettings()).FileRegion(size));
         QVERIFY(!edit.Processed(BinningSettings()).FileRegion(size));
+    }
+
+    /// By the numbers of the samples that are seen in a column, or row.
+    void theAxisGoesWithTheSamples()
+    {
+        const Picture frame = Numbered(17, 11);
+        for (int orientation = 0; orientation < 8; ++orientation) {
+            PictureEdit edit = PictureEdit().Cropped(QRect(4, 1, 12, 7), frame.Size());
+            for (int turn = 0; turn < orientation % 4; ++turn)
+                edit = edit.Turned(RotateBy90);
+            if (orientation >= 4)
+                edit = edit.Turned(FlipHorizontal);
+            edit = edit.Cropped(QRect(QPoint(0, 0), edit.SeenSize(frame.Size())).adjusted(1, 2, 0, 0), frame.Size());
+            const Picture seen = edit.Applied(frame, 0);
+            for (const SpectralSide side : {SpectralSide::Columns, SpectralSide::Rows}) {
+                const SpectralAxis axis = edit.SeenAxis(FileAxis(side, frame.Size()), frame.Size());
+                QCOMPARE(axis.values.size(), PixelsOf(axis.side, seen.Size()));
+                for (int y = 0; y < seen.Height(); ++y) {
+                    for (int x = 0; x < seen.Width(); ++x) {
+                        const int number = seen.Samples<quint16>(y)[x];
+                        const int pixel = side == SpectralSide::Columns ? number % frame.Width() : number / frame.Width();
+                        QCOMPARE(axis.values[axis.side == SpectralSide::Columns ? x : y], FileValue(pixel));
+                    }
+                }
+            }
+        }
+    }
+
+    void pixelsThatWereJoinedHaveNoAxis()
+    {
+        const QSize size(12, 8);
+        for (const SpectralSide side : {SpectralSide::Columns, SpectralSide::Rows}) {
+            QVERIFY(PictureEdit().Processed(BinningSettings()).SeenAxis(FileAxis(side, size), size).IsEmpty());
+            QVERIFY(PictureEdit().SeenAxis(FileAxis(side, size), size + QSize(1, 1)).IsEmpty()); // that of another frame
+        }
     }
 
     void aProjectionLeavesOneFrame()

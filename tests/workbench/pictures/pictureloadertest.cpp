@@ -4,7 +4,6 @@
 #include "loaderanswers.h"
 #include "openpicture.h"
 #include "picturebench.h"
-#include "spectralmetadata.h"
 #include "viewcodes.h"
 
 #include <QFile>
@@ -213,44 +212,6 @@ private slots:
         QVERIFY(SaveError(request).contains("its name ends in no format that can be written"));
     }
 
-    /// A part of it has a part of its columns.
-    void theCalibrationIsSavedWithThePicture()
-    {
-        const QSize size(20, 6);
-        MadePictures::Write(Path("plain.tif"), size);
-        SpectralRecord record;
-        record.coefficients = { 400, 2 };
-        record.width = size.width();
-        SaveRequest request;
-        request.file = { 1, Path("plain.tif") };
-        request.calibration = SpectralMetadata(record);
-        request.target = Path("whole.tif");
-        QCOMPARE(SaveError(request), QString());
-        QCOMPARE(AxisOf("whole.tif").values.value(3), 406.0);
-
-        request.file = { 2, Path("whole.tif") };
-        request.calibration.clear();
-        request.target = Path("again.fits");
-        QCOMPARE(SaveError(request), QString());
-        QCOMPARE(AxisOf("again.fits").values.value(3), 406.0);
-        record.coefficients = { 600, 5 };
-        request.calibration = SpectralMetadata(record); // what it is shown with
-        request.target = Path("other.tif");
-        QCOMPARE(SaveError(request), QString());
-        QCOMPARE(AxisOf("other.tif").values.value(3), 615.0);
-        request.calibration.clear();
-
-        request.edit = PictureEdit().Cropped(QRect(5, 1, 10, 4), size);
-        request.target = Path("part.tif");
-        QCOMPARE(SaveError(request), QString());
-        QCOMPARE(AxisOf("part.tif").values.size(), 10);
-        QCOMPARE(AxisOf("part.tif").values.value(0), 410.0);
-        request.edit = PictureEdit().Turned(FlipHorizontal);
-        request.target = Path("mirrored.tif");
-        QCOMPARE(SaveError(request), QString());
-        QVERIFY(AxisOf("mirrored.tif").IsEmpty());
-    }
-
     void aSaveThatWasBegunIsEndedWhenTheProgramEnds()
     {
         MadePictures::Write(Path("stack.tif"), QSize(20, 20), 60);
@@ -340,15 +301,6 @@ private:
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    SpectralAxis AxisOf(const QString &name) const
-    {
-        QString error;
-        const auto file = OpenPicture(Path(name), error);
-        if (!file)
-            qFatal("%s", qPrintable(error));
-        return file->AxisOf(0);
-    }
-
     QString SaveError(const SaveRequest &request) const
     {
         const LoaderAnswers answers(m_loader.get());

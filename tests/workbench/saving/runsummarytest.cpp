@@ -19,18 +19,24 @@ private slots:
     void theCalibrationIsInTheFile_data()
     {
         QTest::addColumn<RunFormat>("format");
-        QTest::newRow("TIFF") << RunFormat::Tiff;
-        QTest::newRow("FITS") << RunFormat::Fits;
-        QTest::newRow("PNG") << RunFormat::Png;
+        QTest::addColumn<bool>("ofColumns");
+        for (const bool ofColumns : { true, false }) {
+            const char *side = ofColumns ? "columns" : "rows";
+            QTest::addRow("TIFF, %s", side) << RunFormat::Tiff << ofColumns;
+            QTest::addRow("FITS, %s", side) << RunFormat::Fits << ofColumns;
+            QTest::addRow("PNG, %s", side) << RunFormat::Png << ofColumns;
+        }
     }
 
     /// Also in one that is finished later, by what the journal kept of it.
     void theCalibrationIsInTheFile()
     {
         QFETCH(RunFormat, format);
+        QFETCH(bool, ofColumns);
         SpectralRecord record;
+        record.side = ofColumns ? SpectralSide::Columns : SpectralSide::Rows;
         record.coefficients = { 400, 0.5, 1e-3 };
-        record.width = Size.width();
+        record.width = ofColumns ? Size.width() : Size.height();
         RunFacts first = RunSample::Facts(Size, PixelLayout::Mono16);
         first.calibration = SpectralMetadata(record);
         RunFacts facts;
@@ -44,7 +50,8 @@ private slots:
         QVERIFY2(file, qPrintable(error));
         const SpectralAxis axis = file->AxisOf(0);
         QCOMPARE(int(axis.unit), int(SpectralUnit::Nanometre));
-        QCOMPARE(axis.values.size(), Size.width());
+        QCOMPARE(int(axis.side), int(record.side));
+        QCOMPARE(axis.values.size(), record.width);
         QCOMPARE(axis.values[0], 400.0);
         QVERIFY(qAbs(axis.values[20] - 410.4) < 1e-9);
     }

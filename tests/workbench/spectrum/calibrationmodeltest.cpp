@@ -37,6 +37,7 @@ private slots:
     void aSpectrumOfAnotherWidthBeginsAnew();
     void aSpectrumOfOtherPixelsBeginsAnew();
     void whereItWasMadeIsKept();
+    void theDirectionInWhichItWasMadeIsKept();
     void thatItWasMadeOnAFileIsKept();
 
 private:
@@ -385,6 +386,33 @@ void CalibrationModelTest::whereItWasMadeIsKept()
     QVERIFY(m_settings->Calculate(width - 1 - 100, again));
     QVERIFY2(std::abs(again - nm) < 1e-9, qPrintable(QString::number(again)));
     m_settings->SetSensorFrame({QRect(65, 0, width, 100), 1, Orientation()});
+    QVERIFY(!m_settings->Calculate(100, again));
+}
+
+/// Files that say nothing are taken to lie in the same way.
+void CalibrationModelTest::theDirectionInWhichItWasMadeIsKept()
+{
+    m_settings->SetHorizontal(false);
+    m_settings->SetSensorFrame({QRect(0, 0, 100, width), 1, Orientation()});
+    m_settings->slotSetFrameSize(QSize(100, width));
+    auto model = Model();
+    model->SetSpectrum(HgLamp());
+    model->SetDegree(1);
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->AddPoint(PixelOf(hgGreen), hgGreen);
+    QVERIFY(model->Apply());
+    double nm = 0;
+    QVERIFY(m_settings->Calculate(100, nm));
+
+    m_settings->SetCalibration(SpectralCalibration(), SpectralFrame());
+    model = Model();
+    const QSize size(width, width);
+    m_settings->SetImage({1, size, QRect(QPoint(0, 0), size), Orientation(), SpectralAxis(), SpectralAxis()});
+    m_settings->slotSetImageShown(true);
+    double again = 0;
+    QVERIFY(m_settings->Calculate(100, again));
+    QCOMPARE(again, nm);
+    m_settings->SetHorizontal(true);
     QVERIFY(!m_settings->Calculate(100, again));
 }
 

@@ -61,6 +61,7 @@ private slots:
     void calibratedValuesStandAlongTheSpectrum();
     void rulersCountInTheirCalibration_data();
     void rulersCountInTheirCalibration();
+    void theRulerOfTheRowsCountsInTheirCalibration();
     void titleFollowsTheZoom();
     void theSameAxisIsAnnouncedOnce();
     void openedPictureHasRangesOfItsOwn();
@@ -166,6 +167,28 @@ void SpectrumRangesTest::rulersCountInTheirCalibration()
     QCOMPARE(parts.imageH.last().at(1).toDouble(), range.at(1).toDouble());
     QCOMPARE(parts.imageV.last(), Range({ 10.0, 200.0 }));
     QTEST(settings.GetTitleName(), "title");
+}
+
+void SpectrumRangesTest::theRulerOfTheRowsCountsInTheirCalibration()
+{
+    Parts parts;
+    SpectrumSettings settings(&parts.ranges, &parts.centre);
+    settings.SetMode(DisplayMode::Physics);
+    settings.slotSetImageShown(true);
+    SpectralAxis axis;
+    axis.unit = SpectralUnit::Nanometre;
+    axis.side = SpectralSide::Rows;
+    for (int row = 0; row < 200; ++row)
+        axis.values << 400 + 0.5 * row;
+    settings.SetImage(Opened(axis, 300));
+    settings.SlotImageNewArea(0, 300, 20, 120);
+    QCOMPARE(parts.imageH.last(), Range({ 0.0, 300.0 }));
+    QCOMPARE(parts.imageV.last(), Range({ 20.0, 120.0 }));
+    settings.SetHorizontal(false);
+    settings.SlotImageNewArea(0, 300, 20, 120);
+    QCOMPARE(parts.imageH.last(), Range({ 0.0, 300.0 }));
+    QCOMPARE(parts.imageV.last(), Range({ 410.0, 460.0 }));
+    QCOMPARE(settings.GetTitleName(), QString("Wavelength [nm]"));
 }
 
 void SpectrumRangesTest::titleFollowsTheZoom()

@@ -46,7 +46,7 @@ private slots:
     void aCalibrationMadeOnAFileFollowsItsPixels_data();
     void aCalibrationMadeOnAFileFollowsItsPixels();
     void oursTakesThePlaceOfThatOfOneFileOnly();
-    void anAxisThatDoesNotFollowATurnIsNotReplacedByOurs();
+    void anAxisThatIsLostIsNotReplacedByOurs();
     void spectraAlongTheColumnsAreAsLongAsThose();
 
 private:
@@ -333,7 +333,11 @@ void SpectrumSettingsCalibrationTest::aCalibrationMadeOnAFileFollowsItsPixels()
         const double expected = step != 0 ? first + step * pixel : pixel;
         QVERIFY2(std::abs(nm - expected) < 1e-9, qPrintable(QString("%1: %2").arg(pixel).arg(nm, 0, 'f', 6)));
     }
-    QCOMPARE(!m_settings->ImageCalibration().isEmpty(), step != 0 && horizontal); // saved with it
+    QString fault; // saved with it
+    const SpectralAxis saved = AxisOfMetadata(m_settings->ImageCalibration(), Orientation(mirrored, turns).Map(region.size()), &fault);
+    QCOMPARE(saved.IsEmpty(), step == 0);
+    QCOMPARE(int(saved.side), int(horizontal || saved.IsEmpty() ? SpectralSide::Columns : SpectralSide::Rows));
+    QVERIFY(saved.IsEmpty() || std::abs(saved.values.value(77) - (first + step * 77)) < 1e-9);
 }
 
 /// Files that were recorded one after the other say the same.
@@ -364,8 +368,8 @@ void SpectrumSettingsCalibrationTest::oursTakesThePlaceOfThatOfOneFileOnly()
     QCOMPARE(shown(), 475);
 }
 
-/// It stays in pixels rather than in the nanometres of another.
-void SpectrumSettingsCalibrationTest::anAxisThatDoesNotFollowATurnIsNotReplacedByOurs()
+/// As that of pixels that were joined: they stay in pixels rather than in the nanometres of another.
+void SpectrumSettingsCalibrationTest::anAxisThatIsLostIsNotReplacedByOurs()
 {
     SpectralPicture turned = Opened(SpectralAxis(), 1000);
     turned.orientation = Orientation().FlippedHorizontally();

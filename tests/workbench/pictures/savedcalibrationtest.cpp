@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "createpicture.h"
+#include "guardedtest.h"
+#include "loaderanswers.h"
+#include "openpicture.h"
+#include "picturebench.h"
+#include "spectralmetadata.h"
+#include "viewcodes.h"
+
+/// What the columns, or the rows, of a picture mean goes with it into the file it is saved as.
+class SavedCalibrationTest : public GuardedTest
+{
+    Q_OBJECT
+
+private slots:
+    void init() override
+    {
+        StartGuard();
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_levels = std::make_unique<LevelsModel>();
+        m_loader = std::make_unique<PictureLoader>(m_levels.get());
+    }
+
+    void cleanup() override
+    {
+        m_loader.reset();
+        EndGuard();
+    }
+
+    /// A part of it has a part of its columns.
+    void thatOfTheColumns()
+    {
+        const QSize size(20, 6);
+        MadePictures::Write(Path("plain.tif"), size);
+        SpectralRecord record;
+        record.coefficients = { 400, 2 };
+        record.width = size.width();
+        SaveRequest request;
+        request.file = { 1, Path("plain.tif") };
+        request.calibration = SpectralMetadata(record);
+        request.target = Path("whole.tif");
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(AxisOf("whole.tif").values.value(3), 406.0);
+
+        request.file = { 2, Path("whole.tif") };
+        request.calibration.clear();
+        request.target = Path("again.fits");
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(AxisOf("again.fits").values.value(3), 406.0);
+        record.coefficients = { 600, 5 };
+        request.calibration = SpectralMetadata(record); // what it is shown with
+        request.target = Path("other.tif");
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(AxisOf("other.tif").values.value(3), 615.0);
+        request.calibration.clear();
+
+        request.edit = PictureEdit().Cropped(QRect(5, 1, 10, 4), size);
+        request.target = Path("part.tif");
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(AxisOf("part.tif").values.size(), 10);
+        QCOMPARE(AxisOf("part.tif").values.value(0), 410.0);
+        request.edit = PictureEdit().Turned(FlipHorizontal);
+        request.target = Path("mirrored.tif");
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(AxisOf("mirrored.tif").values.value(3), 432.0);
+    }
+
+    void thatOfTheRows_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("target");
+        QTest::newRow("TIFF") << int(SampleType::U16) << "saved.tif";
+        QTest::newRow("FITS") << int(SampleType::F32) << "saved.fits";
+        QTest::newRow("PNG") << int(SampleType::U16) << "saved.png";
+        QTest::newRow("PNG of other samples") << int(SampleType::F32) << "saved.png";
+        QTest::newRow("JPEG") << int(SampleType::U16) << "saved.jpg";
+    }
+
+    /// Turned it is that of the columns.
+    void thatOfTheRows()
+    {
+        QFETCH(int, type);
+        QFETCH(QString, target);
+        const QSize size(6, 20);
+        Picture picture(size.width(), size.height(), 1, SampleType(type));
+        std::fill_n(picture.Data(), picture.ByteCount(), uchar(0));
+        SpectralRecord record;
+        record.side = SpectralSide::Rows;
+        record.coefficients = { 400, 2 };
+        record.width = size.height();
+        SaveOptions options;
+        options.metadata = SpectralMetadata(record);
+        QString error;
+        QVERIFY2(SavePicture(Path("opened.fits"), picture, options, error), qPrintable(error));
+
+        SaveRequest request;
+        request.file = { 1, Path("opened.fits") };
+        request.target = Path(target);
+        QCOMPARE(SaveError(request), QString());
+        SpectralAxis axis = AxisOf(target);
+        QCOMPARE(int(axis.side), int(SpectralSide::Rows));
+        QCOMPARE(axis.values.size(), 20);
+        QCOMPARE(axis.values.value(3), 406.0);
+
+        request.edit = PictureEdit().Turned(RotateBy90).Cropped(QRect(1, 0, 15, 6), size); // the last row is at the left
+        request.target = Path("turned" + target);
+        QCOMPARE(SaveError(request), QString());
+        axis = AxisOf("turned" + target);
+        QCOMPARE(int(axis.side), int(SpectralSide::Columns));
+        QCOMPARE(axis.values.size(), 15);
+        QCOMPARE(axis.values.value(0), 436.0);
+        QCOMPARE(axis.values.value(14), 408.0);
+
+        record.coefficients = { 700, -1 };
+        request.edit = PictureEdit();
+        request.calibration = SpectralMetadata(record); // what it is shown with
+        request.target = Path("other" + target);
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(AxisOf("other" + target).values.value(3), 697.0);
+    }
+
+private:
+    QString Path(const QString &name) const { return m_folder->filePath(name); }
+    SpectralAxis AxisOf(const QString &name) const
+    {
+        QString error;
+        const auto file = OpenPicture(Path(name), error);
+        if (!file)
+            qFatal("%s", qPrintable(error));
+        return file->AxisOf(0);
+    }
+
+    QString SaveError(const SaveRequest &request) const
+    {
+        const LoaderAnswers answers(m_loader.get());
+        m_loader->Save(request);
+        return QTest::qWaitFor([&] { return !answers.saveErrors.isEmpty(); }) ? answers.saveErrors.first()
+                                                                              : "no answer";
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<LevelsModel> m_levels;
+    std::unique_ptr<PictureLoader> m_loader;
+};
+
+GUARDED_TEST_MAIN(SavedCalibrationTest)
+#include "savedcalibrationtest.moc"
