@@ -77,6 +77,9 @@ void SpectrumWiring::ConnectSettings()
     connect(settings, &SpectrumSettings::signalRecipeChanged, this, &SpectrumWiring::slotUpdateProfilesWanted);
     // Once the plot knows of it; of a standing camera and of a file no curve comes by itself.
     connect(settings, &SpectrumSettings::signalWholeCurveWanted, this, &SpectrumWiring::slotShowWholeCurve, Qt::QueuedConnection);
+    // As the payload: between the curve of before, which may be on its way to the plot, and that of now.
+    connect(m_parts.pipeline, &SpectrumPipeline::signalMeaningChanged, this, &SpectrumWiring::slotShowWholeNextCurve,
+            Qt::QueuedConnection);
     connect(m_parts.config, &WorkspaceConfig::signalSwitchView, this, &SpectrumWiring::slotViewSwitched);
     // The pages are told what pixels mean now, but what they show was drawn before.
     connect(settings, &SpectrumSettings::SignalConversationFormulaChanged, this, &SpectrumWiring::slotShowCurvesAgain);
@@ -128,6 +131,13 @@ void SpectrumWiring::slotDisplayModeChanged()
     slotShowCurvesAgain();
 }
 
+/// An opened file keeps its ranges: the live page ranges anew when it is shown again.
+void SpectrumWiring::slotShowWholeNextCurve()
+{
+    if (!m_parts.settings->IsImageShown())
+        m_parts.settings->UpdateDisplayModeProperty();
+}
+
 void SpectrumWiring::slotViewSwitched()
 {
     const int view = m_parts.config->GetCurrentView();
@@ -164,8 +174,11 @@ void SpectrumWiring::slotUpdateProfilesWanted()
     const bool isWanted = mode == DisplayMode::Physics || (isCurve && !recipe.isBinning && !recipe.hasTracks);
     const bool isNew = isWanted && !m_parts.profiles->IsWanted();
     m_parts.profiles->SetWanted(isWanted);
-    if (isNew) // after what was shown until now is gone from the page
-        QMetaObject::invokeMethod(this, &SpectrumWiring::slotShowCurvesAgain, Qt::QueuedConnection);
+    if (!isNew)
+        return;
+    // After what was shown until now is gone from the page.
+    QMetaObject::invokeMethod(this, &SpectrumWiring::slotShowWholeNextCurve, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &SpectrumWiring::slotShowCurvesAgain, Qt::QueuedConnection);
 }
 
 void SpectrumWiring::slotUpdateLive()

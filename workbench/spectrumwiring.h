@@ -65,6 +65,7 @@ private slots:
     void slotUpdateProfilesWanted();
     void slotUpdateSensorFrame();
     void slotShowWholeCurve();
+    void slotShowWholeNextCurve();
 
 private:
     void ConnectCentre();

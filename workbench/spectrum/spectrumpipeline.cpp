@@ -72,6 +72,7 @@ void SpectrumPipeline::SetRecipe(const SpectrumRecipe &recipe)
 {
     m_isBinning = recipe.isBinning;
     m_hasTracks = recipe.hasTracks;
+    m_isHorizontal = recipe.isHorizontal;
     ChangeEngine([recipe](SpectrumEngine *engine) { engine->SetRecipe(recipe); });
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
@@ -84,6 +85,8 @@ void SpectrumPipeline::SetRecipe(const SpectrumRecipe &recipe)
     const bool hadTracks = !m_shown.tracks.empty();
     if (ForgetUnwanted(&m_shown))
         emit signalSpectrumShown();
+    if (!m_shown.HasSpectrum())
+        m_meaning = SpectrumMeaning(); // something else may be drawn until there is one
     if (hadTracks && m_shown.tracks.empty())
         AnnounceNoTracks();
 }
@@ -281,6 +284,7 @@ void SpectrumPipeline::slotAnnounce()
         m_band = m_shown.band;
         emit SignalSpectralineFVB();
     }
+    AnnounceMeaning();
     AnnounceLines();
     if (isNew && m_shown.areLinesNew) {
         m_lines = m_shown.lines;
@@ -289,6 +293,16 @@ void SpectrumPipeline::slotAnnounce()
     if (isNew)
         emit signalSpectrumShown();
     QMetaObject::invokeMethod(this, &SpectrumPipeline::slotDelivered, Qt::QueuedConnection);
+}
+
+/// Not when it was chosen: spectra of before may be under way then.
+void SpectrumPipeline::AnnounceMeaning()
+{
+    const SpectrumMeaning meaning = SpectrumMeaning::Of(m_shown, m_isHorizontal);
+    if (!m_shown.HasSpectrum() || meaning == m_meaning)
+        return;
+    m_meaning = meaning;
+    emit signalMeaningChanged();
 }
 
 /// The plots exchange the buffers in events of their own, which run before slotDelivered().

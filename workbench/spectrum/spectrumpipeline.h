@@ -8,6 +8,7 @@
 #include "spectrumengine.h"
 #include "spectrumledger.h"
 #include "spectrummanager.h"
+#include "spectrummeaning.h"
 
 #include <QMutex>
 
@@ -74,6 +75,8 @@ public:
 signals:
     /// Shown() is a new one.
     void signalSpectrumShown();
+    /// The values of Shown() are something else than those before; comes before the plots get them.
+    void signalMeaningChanged();
     void signalTracksFound(QList<QRectF> tracks);
     /// A sentence for the user.
     void signalMessage(QString text);
@@ -88,6 +91,7 @@ private:
     bool ForgetUnwanted(SpectrumProduct *product) const;
     void Deliver(SpectrumProduct product);
     void slotAnnounce();
+    void AnnounceMeaning();
     void AnnounceLines();
     void slotDelivered();
 
@@ -114,7 +118,9 @@ private:
     SpectrumLedger m_ledger;
     bool m_isBinning = false; ///< by the newest recipe
     bool m_hasTracks = false;
+    bool m_isHorizontal = true;
     SpectrumProduct m_shown;
+    SpectrumMeaning m_meaning; ///< of what the plots were given last; of nothing when that is gone
     QUndoStack *m_undo = nullptr;
     Spectrum m_dark; ///< the engine's after the next frame, as the next one
     Spectrum m_reference;
