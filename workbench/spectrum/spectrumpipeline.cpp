@@ -235,7 +235,8 @@ void SpectrumPipeline::Work(const CameraFrame &frame, const std::function<void(S
     if (findsTracks) {
         QMetaObject::invokeMethod(this, [this, tracks = TracksOf(picture)] { emit signalTracksFound(tracks); }, Qt::QueuedConnection);
     }
-    SpectrumProduct product = m_engine.Make(picture, frame.frameId, orientation);
+    const SensorFrame sensor{frame.origin.region, frame.origin.binning, orientation};
+    SpectrumProduct product = m_engine.Make(picture, frame.frameId, sensor, frame.origin.camera);
     product.takenMs = frame.hostTimeNs / 1000000;
     ++m_ledger.computed;
     Deliver(std::move(product));

@@ -36,7 +36,7 @@ Spectrum Of(const std::vector<double> &values)
     return {values, std::vector<quint8>(values.size(), 0), 0};
 }
 
-const SpectrumPlace somewhere{QSize(2, 40), Orientation(), true, 10, 11};
+const SpectrumPlace somewhere{QSize(2, 40), {QRect(100, 200, 2, 40), 1, Orientation()}, true, 10, 11, "one", 16};
 
 } // namespace
 
@@ -135,8 +135,23 @@ void SpectrumCorrectionsTest::spectraOfAnotherPlaceAreNotMixed_data()
     place.isHorizontal = false;
     QTest::newRow("the other direction") << place;
     place = somewhere;
-    place.orientation = Orientation(true, 0);
+    place.sensor.orientation = Orientation(true, 0);
     QTest::newRow("mirrored") << place;
+    place = somewhere;
+    place.sensor.region.moveTopLeft(QPoint(100, 240));
+    QTest::newRow("another region of the same size") << place;
+    place = somewhere;
+    place.sensor = {QRect(100, 200, 4, 80), 2, Orientation()};
+    QTest::newRow("binned on the sensor") << place;
+    place = somewhere;
+    place.camera = "two";
+    QTest::newRow("another camera") << place;
+    place = somewhere;
+    place.bitDepth = 8;
+    QTest::newRow("other samples") << place;
+    place = somewhere;
+    place.isColour = true;
+    QTest::newRow("colours") << place;
     place = somewhere;
     place.frame = QSize(2, 50);
     QTest::newRow("frames of another height") << place;
