@@ -71,12 +71,14 @@ void SpectrumWiring::ConnectProfiles()
 void SpectrumWiring::ConnectSettings()
 {
     SpectrumSettings *settings = m_parts.settings;
-    connect(m_parts.preview, &LivePreview::signalPictureSizeChanged, settings, &SpectrumSettings::slotSetFrameSize);
+    connect(m_parts.preview, &LivePreview::signalPictureSizeChanged, this, &SpectrumWiring::slotPictureSizeChanged);
+    connect(m_parts.preview, &LivePreview::signalPictureDelivered, this, &SpectrumWiring::slotPictureDelivered);
     connect(settings, &SpectrumSettings::signalRecipeChanged, m_parts.pipeline,
             [settings, pipeline = m_parts.pipeline] { pipeline->SetRecipe(settings->Recipe()); });
     connect(settings, &SpectrumSettings::signalRecipeChanged, this, &SpectrumWiring::slotUpdateProfilesWanted);
     // Once the plot knows of it; of a standing camera and of a file no curve comes by itself.
     connect(settings, &SpectrumSettings::signalWholeCurveWanted, this, &SpectrumWiring::slotShowWholeCurve, Qt::QueuedConnection);
+    connect(m_parts.pipeline, &SpectrumPipeline::signalMeaningChanged, this, &SpectrumWiring::slotMeaningChanged);
     // As the payload: between the curve of before, which may be on its way to the plot, and that of now.
     connect(m_parts.pipeline, &SpectrumPipeline::signalMeaningChanged, this, &SpectrumWiring::slotShowWholeNextCurve,
             Qt::QueuedConnection);
@@ -116,9 +118,6 @@ void SpectrumWiring::ConnectCamera()
     connect(m_parts.preview, &QThread::started, this, &SpectrumWiring::slotUpdateLive);
     connect(m_parts.preview, &QThread::finished, this, &SpectrumWiring::slotUpdateLive);
     connect(link, &CameraLink::signalStateChanged, this, &SpectrumWiring::slotUpdateLive);
-    connect(link, &CameraLink::signalFormatChanged, this, &SpectrumWiring::slotUpdateSensorFrame);
-    connect(link, &CameraLink::signalStateChanged, this, &SpectrumWiring::slotUpdateSensorFrame);
-    connect(m_parts.orientation, &LiveOrientation::signalOrientationChanged, this, &SpectrumWiring::slotUpdateSensorFrame);
     connect(link, &CameraLink::signalControlsChanged, this, &SpectrumWiring::slotUpdateExposure);
     connect(link, &CameraLink::signalStateChanged, this, &SpectrumWiring::slotUpdateExposure);
 }
@@ -186,11 +185,24 @@ void SpectrumWiring::slotUpdateLive()
     m_parts.pipeline->SetLive(m_parts.preview->isRunning() && m_parts.link->GetState() == CameraLink::State::Open);
 }
 
-/// A camera that is gone leaves its last picture, and what is known of that.
-void SpectrumWiring::slotUpdateSensorFrame()
+/// What the picture shows is known before its size: a calibration is not judged by pixels of before.
+void SpectrumWiring::slotPictureSizeChanged(QSize size)
 {
-    if (const CameraSession *camera = m_parts.link->Session())
-        m_parts.settings->SetSensorFrame({camera->Format().region, camera->Format().binning, m_parts.orientation->Get()});
+    slotPictureDelivered();
+    m_parts.settings->slotSetFrameSize(size);
+}
+
+/// A camera that is gone, or was told of another region while it stood, leaves its last picture.
+void SpectrumWiring::slotPictureDelivered()
+{
+    const CameraFrame &frame = m_parts.preview->ShownFrame();
+    if (!frame.IsNull() && !m_parts.pipeline->Shown().HasSpectrum())
+        m_parts.settings->SetSensorFrame({frame.origin.region, frame.origin.binning, m_parts.orientation->Get()});
+}
+
+void SpectrumWiring::slotMeaningChanged()
+{
+    m_parts.settings->SetSensorFrame(m_parts.pipeline->Shown().sensor);
 }
 
 void SpectrumWiring::slotUpdateExposure()

@@ -63,7 +63,9 @@ private slots:
     void slotUpdateExposure();
     void slotUpdateLive();
     void slotUpdateProfilesWanted();
-    void slotUpdateSensorFrame();
+    void slotPictureSizeChanged(QSize size);
+    void slotPictureDelivered();
+    void slotMeaningChanged();
     void slotShowWholeCurve();
     void slotShowWholeNextCurve();
 

@@ -107,6 +107,34 @@ private slots:
         CheckAxis("old.csv", "# axis: nm", 390);
     }
 
+    /// And its camera, whatever that is told while it stands.
+    void aStandingSpectrumKeepsItsPixels()
+    {
+        ShowLamp();
+        m_workbench->link.SetRegion(QRect(side / 4, side / 4, side / 2, side / 2));
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("All Rows")->trigger();
+        SpectrumPipeline *spectra = m_workbench->services.Spectra();
+        QTRY_COMPARE_WITH_TIMEOUT(spectra->Shown().raw.Count(), side / 2, waitMs);
+        SpectrumSettings *settings = m_workbench->services.Spectrum();
+        QTRY_COMPARE(settings->ShownFrame().first, side / 4);
+        settings->SetCalibration(SpectralCalibration({660, 270}, side / 2), settings->ShownFrame());
+        m_workbench->services.Preview()->StopPreview();
+        const SpectrumLedger &ledger = spectra->Ledger();
+        QTRY_COMPARE_WITH_TIMEOUT(ledger.computed + ledger.missed + ledger.dropped, quint64(ledger.taken), waitMs);
+
+        m_workbench->link.SetRegion(QRect(0, 0, side / 2, side / 2));
+        QTRY_COMPARE(m_workbench->link.Session()->Format().region.topLeft(), QPoint(0, 0));
+        QCOMPARE(settings->ShownAxis().At(0), 390.0);
+        const QStringList lines = Exporting().Lines("Export Spectrum…", "standing.csv");
+        QVERIFY2(lines.contains("# axis: nm"), qPrintable(lines.filter("axis").join(' ')));
+        QVERIFY(lines.contains("# source: Simulated Camera"));
+        QVERIFY(std::abs(ColumnsOf(lines).value(1).value(0) - 390) < 1e-6);
+
+        m_workbench->link.Close();
+        QVERIFY(Exporting().Lines("Export Spectrum…", "closed.csv").contains("# source: Simulated Camera"));
+    }
+
     /// The panel speaks of the opened curve, and the menu takes nothing that is not seen.
     void anOpenedCurveIsSaidToBeSaturated()
     {

@@ -109,10 +109,10 @@ const CalibratedAxis &SpectrumSettings::ShownAxis() const
     return m_recipe.isHorizontal ? m_imageAxis : m_imageColumnAxis;
 }
 
-CalibratedAxis SpectrumSettings::LiveAxis(bool isHorizontal) const
+CalibratedAxis SpectrumSettings::LiveAxis(int width, const SpectralFrame &frame) const
 {
     CalibratedAxis axis = m_liveAxis;
-    axis.SetSpectrum(isHorizontal ? m_frameSize.width() : m_frameSize.height(), SpectralFrame::Of(m_sensorFrame, isHorizontal));
+    axis.SetSpectrum(width, frame);
     return axis;
 }
 
@@ -135,9 +135,12 @@ bool SpectrumSettings::IsValidConversation(QString *text) const
     return ends.size() == 2 && ends[0].toDouble(&isFirst) != ends[1].toDouble(&isLast) && isFirst && isLast;
 }
 
-QVector<MetadataEntry> SpectrumSettings::LiveCalibration() const
+QVector<MetadataEntry> SpectrumSettings::LiveCalibration(const SensorFrame &frames) const
 {
-    return m_recipe.isHorizontal ? SpectralMetadata(m_liveAxis.Record()) : QVector<MetadataEntry>();
+    if (!m_recipe.isHorizontal)
+        return {};
+    const SpectralFrame columns = SpectralFrame::Of(frames, true);
+    return SpectralMetadata(LiveAxis(columns.count, columns).Record());
 }
 
 QVector<MetadataEntry> SpectrumSettings::ImageCalibration() const
