@@ -45,6 +45,7 @@ SpectrumWiring::SpectrumWiring(const Parts &parts)
 SpectrumWiring::~SpectrumWiring()
 {
     m_parts.tee->SetListener(nullptr);
+    m_parts.pipeline->SetStandingFrame({});
 }
 
 void SpectrumWiring::ConnectCentre()
@@ -115,6 +116,8 @@ void SpectrumWiring::ConnectPicture()
 void SpectrumWiring::ConnectCamera()
 {
     const CameraLink *link = m_parts.link;
+    m_parts.pipeline->SetStandingFrame([preview = m_parts.preview] { return preview->ShownFrame(); });
+    connect(m_parts.orientation, &LiveOrientation::signalOrientationChanged, m_parts.pipeline, &SpectrumPipeline::MakeStandingAgain);
     connect(m_parts.preview, &QThread::started, this, &SpectrumWiring::slotUpdateLive);
     connect(m_parts.preview, &QThread::finished, this, &SpectrumWiring::slotUpdateLive);
     connect(link, &CameraLink::signalStateChanged, this, &SpectrumWiring::slotUpdateLive);
@@ -190,6 +193,7 @@ void SpectrumWiring::slotPictureSizeChanged(QSize size)
 {
     slotPictureDelivered();
     m_parts.settings->slotSetFrameSize(size);
+    m_parts.pipeline->ShowAgain(); // the plots read lines as long as the picture is wide
 }
 
 /// A camera that is gone, or was told of another region while it stood, leaves its last picture.

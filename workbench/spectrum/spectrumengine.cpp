@@ -64,6 +64,14 @@ void SpectrumEngine::FindBandAgain()
     m_isBandTold = false;
 }
 
+void SpectrumEngine::TakeBack(quint64 frameId)
+{
+    m_corrections.TakeBack(frameId);
+    for (SpectrumCorrections &corrections : m_trackCorrections)
+        corrections.TakeBack(frameId);
+    m_untilFocus = 0;
+}
+
 void SpectrumEngine::SetRecipe(const SpectrumRecipe &recipe)
 {
     if (recipe.rows != m_recipe.rows || recipe.isHorizontal != m_recipe.isHorizontal || recipe.isBinning != m_recipe.isBinning)

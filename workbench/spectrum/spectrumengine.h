@@ -16,6 +16,8 @@ public:
     void SetReference(const Spectrum &reference) { m_corrections.SetReference(reference); }
     /// Of the pictures from now on; 0 when it is not known.
     void SetExposure(double exposureUs) { m_exposureUs = exposureUs; }
+    /// The picture of this frame comes once more: it takes its own place among those before.
+    void TakeBack(quint64 frameId);
     /// The band is looked for again with the next picture.
     void FindBandAgain();
 

@@ -24,7 +24,8 @@ class QUndoStack;
 
 /// Makes spectra of the raw samples of every frame, in a thread of its own. A frame is never skipped: they wait in a
 /// bounded queue, and one that finds it full is counted as missed. The screen gets the newest spectrum; at most one
-/// waits for the GUI thread. All but OnFrame() and Run() belongs to the GUI thread.
+/// waits for the GUI thread. While no frames come, the one that stands is made anew for each change. All but OnFrame() and
+/// Run() belongs to the GUI thread.
 class SpectrumPipeline : public SpectrumManager, public FrameSink
 {
     Q_OBJECT
@@ -35,6 +36,11 @@ public:
     /// `orientation` says how frames are laid on the screen, from any thread; upright without it.
     explicit SpectrumPipeline(std::function<Orientation()> orientation = {}, QObject *parent = nullptr);
     ~SpectrumPipeline() override;
+
+    /// The frame that is on the screen, null without one: while no frames come, each change makes its spectrum anew. Asked in
+    /// the GUI thread.
+    using StandingFrame = std::function<CameraFrame()>;
+    void SetStandingFrame(const StandingFrame &frame) { m_standingFrame = frame; }
 
     /// From the next frame on.
     void SetRecipe(const SpectrumRecipe &recipe);
@@ -53,6 +59,8 @@ public:
     /// Frames come. What waits for one is given up when they stop.
     void SetLive(bool live);
 
+    /// The spectrum of the standing frame is made once more: it was turned. Nothing while frames come.
+    void MakeStandingAgain();
     /// The plots get the newest spectrum once more: a page that was hidden has none. Nothing when one is on its way.
     void ShowAgain();
     /// The plots are told that there are no tracks, in place of those that they show.
@@ -82,8 +90,15 @@ signals:
     void signalMessage(QString text);
 
 private:
+    struct Waiting
+    {
+        CameraFrame frame;
+        bool isAgain; ///< not a new frame
+    };
+
     void Run();
-    void Work(const CameraFrame &frame, const std::function<void(SpectrumEngine *)> &change, bool findsTracks);
+    void Work(const Waiting &next, const std::function<void(SpectrumEngine *)> &change, bool findsTracks);
+    bool IsStandingWanted();
     void SetDark(const Spectrum &dark);
     void SetReference(const Spectrum &reference);
     void Do(std::unique_ptr<QUndoCommand> step);
@@ -96,10 +111,11 @@ private:
     void slotDelivered();
 
     const std::function<Orientation()> m_orientation;
+    StandingFrame m_standingFrame;
 
     std::mutex m_mutex; ///< of the next ones
     std::condition_variable m_wake;
-    std::deque<CameraFrame> m_queue;
+    std::deque<Waiting> m_queue;
     std::function<void(SpectrumEngine *)> m_change; ///< what is to be done before the next frame
     double m_exposureUs = 0; ///< of the frames that come
     bool m_findsTracks = false;

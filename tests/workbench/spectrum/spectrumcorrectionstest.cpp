@@ -12,6 +12,7 @@ class SpectrumCorrectionsTest : public GuardedTest
 private slots:
     void nothingOnChangesNothing();
     void theAverageIsThatOfTheNewest();
+    void aSpectrumThatIsTakenBackCountsOnce();
     void saturationStaysInTheAverage();
     void darkAndReference_data();
     void darkAndReference();
@@ -58,6 +59,39 @@ void SpectrumCorrectionsTest::theAverageIsThatOfTheNewest()
     QVERIFY(corrections.Apply(Of({20, 0})).values == std::vector<double>({15, 0}));
     QVERIFY(corrections.Apply(Of({60, 0})).values == std::vector<double>({40, 0}));
     QVERIFY(corrections.Apply(Of({1, 2, 3})).values == std::vector<double>({1, 2, 3})); // another width
+}
+
+/// What came once more took the place that it had: of the average, and among those that rays are told by.
+void SpectrumCorrectionsTest::aSpectrumThatIsTakenBackCountsOnce()
+{
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.averaged = 2;
+    settings.removesCosmicRays = true;
+    corrections.SetSettings(settings);
+    std::vector<double> values;
+    for (int i = 0; i < 40; ++i)
+        values.push_back(100 + i % 3);
+    const auto numbered = [&values](quint64 frameId) {
+        Spectrum spectrum = Of(values);
+        spectrum.frameId = frameId;
+        return spectrum;
+    };
+    corrections.Apply(numbered(1));
+    corrections.Apply(numbered(2));
+    Spectrum ray = numbered(3);
+    ray.values[7] += 5000;
+    QCOMPARE(corrections.Apply(ray).values, values);
+    for (int i = 0; i < 3; ++i) {
+        corrections.TakeBack(3);
+        QCOMPARE(corrections.Apply(ray).values, values);
+    }
+    corrections.TakeBack(2); // not the newest
+    for (double &value : values)
+        value += 10;
+    const std::vector<double> mean = corrections.Apply(numbered(4)).values;
+    QCOMPARE(mean[0], 105.0);
+    QCOMPARE(corrections.Applied().averaged, 2);
 }
 
 void SpectrumCorrectionsTest::saturationStaysInTheAverage()
