@@ -88,13 +88,15 @@ Spectrum SpectrumCorrections::Apply(const Spectrum &raw)
     return spectrum;
 }
 
-/// What is in one spectrum and not in the two before is no light of the sample.
+/// What is in one spectrum and not in the two before is no light of the sample. They are remembered with what was taken
+/// from them: light that stays is in them by the next one.
 void SpectrumCorrections::RemoveCosmicRays(std::vector<double> *values)
 {
     if (!m_settings.removesCosmicRays) {
         m_before.clear();
         return;
     }
+    const std::vector<double> raw = *values;
     if (m_before.size() >= 2) {
         const std::vector<double> &one = m_before[m_before.size() - 2];
         const std::vector<double> &other = m_before.back();
@@ -115,7 +117,7 @@ void SpectrumCorrections::RemoveCosmicRays(std::vector<double> *values)
                 (*values)[i] -= above[i];
         }
     }
-    m_before.push_back(*values);
+    m_before.push_back(raw);
     if (m_before.size() > 3)
         m_before.pop_front();
 }

@@ -61,7 +61,7 @@ private:
     Spectrum m_dark;
     Spectrum m_reference; ///< not dark-subtracted
     Spectrum m_mean;
-    std::deque<std::vector<double>> m_before; ///< the last three, the newest among them, for cosmic rays
+    std::deque<std::vector<double>> m_before; ///< the last three, the newest among them, with their cosmic rays
     std::deque<Spectrum> m_averaged;
 };
 
