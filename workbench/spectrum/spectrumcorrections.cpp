@@ -65,7 +65,7 @@ void SpectrumCorrections::TakeBack(quint64 frameId)
 
 Spectrum SpectrumCorrections::Apply(const Spectrum &raw)
 {
-    if (m_mean.place != raw.place || m_mean.Count() != raw.Count())
+    if (m_mean.place != raw.place || m_mean.Count() != raw.Count() || AreOtherExposures(m_mean.exposureUs, raw.exposureUs))
         Restart();
     m_mean = raw;
     RemoveCosmicRays(&m_mean.values);

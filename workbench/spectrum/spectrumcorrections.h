@@ -26,7 +26,8 @@ struct Spectrum
 };
 
 /// Corrects spectra one after another, for one thread. A correction that lacks its dark or reference spectrum, or has
-/// one of another place, is left out, and Applied() says so. Spectra of different places are never averaged or compared.
+/// one of another place, is left out, and Applied() says so. Spectra of different places or exposures are never averaged or
+/// compared.
 class SpectrumCorrections
 {
 public:

@@ -13,6 +13,7 @@ private slots:
     void nothingOnChangesNothing();
     void theAverageIsThatOfTheNewest();
     void aSpectrumThatIsTakenBackCountsOnce();
+    void anotherExposureBeginsAnotherAverage();
     void saturationStaysInTheAverage();
     void darkAndReference_data();
     void darkAndReference();
@@ -94,6 +95,26 @@ void SpectrumCorrectionsTest::aSpectrumThatIsTakenBackCountsOnce()
     const std::vector<double> mean = corrections.Apply(numbered(4)).values;
     QCOMPARE(mean[0], 105.0);
     QCOMPARE(corrections.Applied().averaged, 2);
+}
+
+/// A mixture would pass as a dark of the new one.
+void SpectrumCorrectionsTest::anotherExposureBeginsAnotherAverage()
+{
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.averaged = 3;
+    corrections.SetSettings(settings);
+    const auto exposed = [](double value, double exposureUs) {
+        Spectrum spectrum = Of({value, 0});
+        spectrum.exposureUs = exposureUs;
+        return spectrum;
+    };
+    corrections.Apply(exposed(100, 20000));
+    QCOMPARE(corrections.Apply(exposed(110, 20003)).values[0], 105.0); // as the camera rounds it
+    QCOMPARE(corrections.Apply(exposed(200, 40000)).values[0], 200.0);
+    QCOMPARE(corrections.Applied().Sentence(), QString("Corrections: average of fewer than 3 so far."));
+    QCOMPARE(corrections.Averaged().values[0], 200.0);
+    QCOMPARE(corrections.Apply(exposed(220, 40000)).values[0], 210.0);
 }
 
 void SpectrumCorrectionsTest::saturationStaysInTheAverage()
