@@ -3,7 +3,6 @@
 
 #include "calibrationdialog.h"
 #include "calibrationmodel.h"
-#include "cameralink.h"
 #include "exportdialog.h"
 #include "faultnotice.h"
 #include "openedpicture.h"
@@ -74,9 +73,12 @@ ExportedSpectrum SpectrumDialogs::LiveSpectrum() const
     const SpectrumRecipe &recipe = m_services->Spectrum()->Recipe();
     if (recipe.isBinning || recipe.hasTracks)
         spectrum.product = m_services->Spectra()->Shown();
-    // Tracks lie along the rows, and a spectrum may have been made before the direction became another one.
-    spectrum.axis = m_services->Spectrum()->LiveAxis(!spectrum.product.tracks.empty() || spectrum.product.raw.place.isHorizontal);
-    spectrum.source = m_services->Link()->Name();
+    // Tracks lie along the rows, and all may have been made before the direction, the region or the camera became another one.
+    const SpectrumProduct &product = spectrum.product;
+    const bool isHorizontal = !product.tracks.empty() || product.raw.place.isHorizontal;
+    const int width = isHorizontal ? product.frameSize.width() : product.frameSize.height();
+    spectrum.axis = m_services->Spectrum()->LiveAxis(width, SpectralFrame::Of(product.sensor, isHorizontal));
+    spectrum.source = product.camera;
     return spectrum;
 }
 

@@ -45,6 +45,7 @@ SpectrumWiring::SpectrumWiring(const Parts &parts)
 SpectrumWiring::~SpectrumWiring()
 {
     m_parts.tee->SetListener(nullptr);
+    m_parts.pipeline->SetStandingFrame({});
 }
 
 void SpectrumWiring::ConnectCentre()
@@ -71,12 +72,17 @@ void SpectrumWiring::ConnectProfiles()
 void SpectrumWiring::ConnectSettings()
 {
     SpectrumSettings *settings = m_parts.settings;
-    connect(m_parts.preview, &LivePreview::signalPictureSizeChanged, settings, &SpectrumSettings::slotSetFrameSize);
+    connect(m_parts.preview, &LivePreview::signalPictureSizeChanged, this, &SpectrumWiring::slotPictureSizeChanged);
+    connect(m_parts.preview, &LivePreview::signalPictureDelivered, this, &SpectrumWiring::slotPictureDelivered);
     connect(settings, &SpectrumSettings::signalRecipeChanged, m_parts.pipeline,
             [settings, pipeline = m_parts.pipeline] { pipeline->SetRecipe(settings->Recipe()); });
     connect(settings, &SpectrumSettings::signalRecipeChanged, this, &SpectrumWiring::slotUpdateProfilesWanted);
     // Once the plot knows of it; of a standing camera and of a file no curve comes by itself.
     connect(settings, &SpectrumSettings::signalWholeCurveWanted, this, &SpectrumWiring::slotShowWholeCurve, Qt::QueuedConnection);
+    connect(m_parts.pipeline, &SpectrumPipeline::signalMeaningChanged, this, &SpectrumWiring::slotMeaningChanged);
+    // As the payload: between the curve of before, which may be on its way to the plot, and that of now.
+    connect(m_parts.pipeline, &SpectrumPipeline::signalMeaningChanged, this, &SpectrumWiring::slotShowWholeNextCurve,
+            Qt::QueuedConnection);
     connect(m_parts.config, &WorkspaceConfig::signalSwitchView, this, &SpectrumWiring::slotViewSwitched);
     // The pages are told what pixels mean now, but what they show was drawn before.
     connect(settings, &SpectrumSettings::SignalConversationFormulaChanged, this, &SpectrumWiring::slotShowCurvesAgain);
@@ -110,12 +116,11 @@ void SpectrumWiring::ConnectPicture()
 void SpectrumWiring::ConnectCamera()
 {
     const CameraLink *link = m_parts.link;
+    m_parts.pipeline->SetStandingFrame([preview = m_parts.preview] { return preview->ShownFrame(); });
+    connect(m_parts.orientation, &LiveOrientation::signalOrientationChanged, m_parts.pipeline, &SpectrumPipeline::MakeStandingAgain);
     connect(m_parts.preview, &QThread::started, this, &SpectrumWiring::slotUpdateLive);
     connect(m_parts.preview, &QThread::finished, this, &SpectrumWiring::slotUpdateLive);
     connect(link, &CameraLink::signalStateChanged, this, &SpectrumWiring::slotUpdateLive);
-    connect(link, &CameraLink::signalFormatChanged, this, &SpectrumWiring::slotUpdateSensorFrame);
-    connect(link, &CameraLink::signalStateChanged, this, &SpectrumWiring::slotUpdateSensorFrame);
-    connect(m_parts.orientation, &LiveOrientation::signalOrientationChanged, this, &SpectrumWiring::slotUpdateSensorFrame);
     connect(link, &CameraLink::signalControlsChanged, this, &SpectrumWiring::slotUpdateExposure);
     connect(link, &CameraLink::signalStateChanged, this, &SpectrumWiring::slotUpdateExposure);
 }
@@ -126,6 +131,13 @@ void SpectrumWiring::slotDisplayModeChanged()
         m_parts.useArea->slotSetSpectrum(true); // its pages belong to that use
     slotUpdateProfilesWanted();
     slotShowCurvesAgain();
+}
+
+/// An opened file keeps its ranges: the live page ranges anew when it is shown again.
+void SpectrumWiring::slotShowWholeNextCurve()
+{
+    if (!m_parts.settings->IsImageShown())
+        m_parts.settings->UpdateDisplayModeProperty();
 }
 
 void SpectrumWiring::slotViewSwitched()
@@ -164,8 +176,11 @@ void SpectrumWiring::slotUpdateProfilesWanted()
     const bool isWanted = mode == DisplayMode::Physics || (isCurve && !recipe.isBinning && !recipe.hasTracks);
     const bool isNew = isWanted && !m_parts.profiles->IsWanted();
     m_parts.profiles->SetWanted(isWanted);
-    if (isNew) // after what was shown until now is gone from the page
-        QMetaObject::invokeMethod(this, &SpectrumWiring::slotShowCurvesAgain, Qt::QueuedConnection);
+    if (!isNew)
+        return;
+    // After what was shown until now is gone from the page.
+    QMetaObject::invokeMethod(this, &SpectrumWiring::slotShowWholeNextCurve, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &SpectrumWiring::slotShowCurvesAgain, Qt::QueuedConnection);
 }
 
 void SpectrumWiring::slotUpdateLive()
@@ -173,11 +188,25 @@ void SpectrumWiring::slotUpdateLive()
     m_parts.pipeline->SetLive(m_parts.preview->isRunning() && m_parts.link->GetState() == CameraLink::State::Open);
 }
 
-/// A camera that is gone leaves its last picture, and what is known of that.
-void SpectrumWiring::slotUpdateSensorFrame()
+/// What the picture shows is known before its size: a calibration is not judged by pixels of before.
+void SpectrumWiring::slotPictureSizeChanged(QSize size)
 {
-    if (const CameraSession *camera = m_parts.link->Session())
-        m_parts.settings->SetSensorFrame({camera->Format().region, camera->Format().binning, m_parts.orientation->Get()});
+    slotPictureDelivered();
+    m_parts.settings->slotSetFrameSize(size);
+    m_parts.pipeline->ShowAgain(); // the plots read lines as long as the picture is wide
+}
+
+/// A camera that is gone, or was told of another region while it stood, leaves its last picture.
+void SpectrumWiring::slotPictureDelivered()
+{
+    const CameraFrame &frame = m_parts.preview->ShownFrame();
+    if (!frame.IsNull() && !m_parts.pipeline->Shown().HasSpectrum())
+        m_parts.settings->SetSensorFrame({frame.origin.region, frame.origin.binning, m_parts.orientation->Get()});
+}
+
+void SpectrumWiring::slotMeaningChanged()
+{
+    m_parts.settings->SetSensorFrame(m_parts.pipeline->Shown().sensor);
 }
 
 void SpectrumWiring::slotUpdateExposure()

@@ -63,8 +63,11 @@ private slots:
     void slotUpdateExposure();
     void slotUpdateLive();
     void slotUpdateProfilesWanted();
-    void slotUpdateSensorFrame();
+    void slotPictureSizeChanged(QSize size);
+    void slotPictureDelivered();
+    void slotMeaningChanged();
     void slotShowWholeCurve();
+    void slotShowWholeNextCurve();
 
 private:
     void ConnectCentre();

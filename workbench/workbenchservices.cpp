@@ -181,7 +181,10 @@ void WorkbenchServices::StartRecording()
     parts.orientation = m_orientation.get();
     // Who does not work with spectra has no use for what is left of a calibration.
     parts.calibration = [this] {
-        return m_useArea->IsSpectrumPagePresent() ? m_spectrumSettings->LiveCalibration() : QVector<MetadataEntry>();
+        const CameraSession *camera = m_link->Session();
+        if (!camera || !m_useArea->IsSpectrumPagePresent())
+            return QVector<MetadataEntry>();
+        return m_spectrumSettings->LiveCalibration({camera->Format().region, camera->Format().binning, m_orientation->Get()});
     };
     m_recording = std::make_unique<RecordingDesk>(parts);
 }

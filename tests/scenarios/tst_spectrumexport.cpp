@@ -5,9 +5,9 @@
 #include "openedpicture.h"
 #include "picturedesk.h"
 #include "plotpicture.h"
-#include "scenariotest.h"
 #include "spebytes.h"
-#include "spectrographscene.h"
+#include "spectrographscenario.h"
+#include "spectrumdialogs.h"
 #include "spectrumexport.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
@@ -26,14 +26,13 @@
 namespace {
 
 constexpr int side = 2048; ///< of the sensor, pixels
-constexpr int waitMs = 20000;
 /// 390 nm in the first column and 930 nm in the last.
 const SpectralCalibration straight({660, 270}, side);
 
 } // namespace
 
 /// A person takes spectra home.
-class SpectrumExportScenario : public ScenarioTest
+class SpectrumExportScenario : public SpectrographScenario
 {
     Q_OBJECT
 
@@ -76,7 +75,6 @@ private slots:
     /// They run along the rows whatever the direction is, and have the axis of those.
     void tracksKeepTheAxisOfTheRows()
     {
-        ShowLamp();
         SpectrumSettings *settings = m_workbench->services.Spectrum();
         settings->SetCalibration(straight, settings->ShownFrame());
         m_workbench->Action("Vertical")->trigger();
@@ -89,10 +87,9 @@ private slots:
         CheckAxis("others.csv", "# axis: pixel", 0);
     }
 
-    /// With the camera stopped it stays on the screen when the direction is another one.
-    void aSpectrumKeepsTheAxisOfItsDirection()
+    /// Also while the direction is another one already, and the spectrum of that is not made yet.
+    void aSpectrumHasTheAxisOfItsDirection()
     {
-        ShowLamp();
         SpectrumSettings *settings = m_workbench->services.Spectrum();
         m_workbench->Action("All Rows")->trigger();
         SpectrumPipeline *spectra = m_workbench->services.Spectra();
@@ -103,8 +100,38 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(ledger.computed + ledger.missed + ledger.dropped, quint64(ledger.taken), waitMs);
         QCoreApplication::processEvents();
         m_workbench->Action("Vertical")->trigger();
-        QVERIFY(spectra->Shown().raw.place.isHorizontal);
-        CheckAxis("old.csv", "# axis: nm", 390);
+        const ExportedSpectrum before = m_workbench->window.findChild<SpectrumDialogs *>()->Shown();
+        QVERIFY(before.product.raw.place.isHorizontal);
+        QVERIFY(std::abs(before.axis.At(0) - 390) < 1e-6);
+        QTRY_VERIFY_WITH_TIMEOUT(!spectra->Shown().raw.place.isHorizontal, waitMs);
+        CheckAxis("columns.csv", "# axis: pixel", 0);
+    }
+
+    /// And its camera, whatever that is told while it stands.
+    void aStandingSpectrumKeepsItsPixels()
+    {
+        m_workbench->link.SetRegion(QRect(side / 4, side / 4, side / 2, side / 2));
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("All Rows")->trigger();
+        SpectrumPipeline *spectra = m_workbench->services.Spectra();
+        QTRY_COMPARE_WITH_TIMEOUT(spectra->Shown().raw.Count(), side / 2, waitMs);
+        SpectrumSettings *settings = m_workbench->services.Spectrum();
+        QTRY_COMPARE(settings->ShownFrame().first, side / 4);
+        settings->SetCalibration(SpectralCalibration({660, 270}, side / 2), settings->ShownFrame());
+        m_workbench->services.Preview()->StopPreview();
+        const SpectrumLedger &ledger = spectra->Ledger();
+        QTRY_COMPARE_WITH_TIMEOUT(ledger.computed + ledger.missed + ledger.dropped, quint64(ledger.taken), waitMs);
+
+        m_workbench->link.SetRegion(QRect(0, 0, side / 2, side / 2));
+        QTRY_COMPARE(m_workbench->link.Session()->Format().region.topLeft(), QPoint(0, 0));
+        QCOMPARE(settings->ShownAxis().At(0), 390.0);
+        const QStringList lines = Exporting().Lines("Export Spectrum…", "standing.csv");
+        QVERIFY2(lines.contains("# axis: nm"), qPrintable(lines.filter("axis").join(' ')));
+        QVERIFY(lines.contains("# source: Simulated Camera"));
+        QVERIFY(std::abs(ColumnsOf(lines).value(1).value(0) - 390) < 1e-6);
+
+        m_workbench->link.Close();
+        QVERIFY(Exporting().Lines("Export Spectrum…", "closed.csv").contains("# source: Simulated Camera"));
     }
 
     /// The panel speaks of the opened curve, and the menu takes nothing that is not seen.
@@ -140,14 +167,6 @@ private:
         desk->Open({m_folder->filePath(name)}, desk->MainPicture());
         QTRY_COMPARE(desk->MainPicture()->GetFileName(), name);
         QTRY_VERIFY(m_workbench->services.Spectrum()->IsImageShown());
-    }
-
-    void ShowLamp()
-    {
-        m_workbench->link.SetScene(SpectrographScene::SceneName());
-        m_workbench->link.SetPixelLayout(PixelLayout::Mono16);
-        m_workbench->link.Session()->SetExposureUs(2000); // nothing is cut off
-        QVERIFY(m_workbench->WaitForNextPicture());
     }
 
     /// As by hand: the box tells the dialog.

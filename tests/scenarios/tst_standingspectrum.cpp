@@ -93,6 +93,45 @@ private slots:
         QTRY_VERIFY(std::abs(Plot()->graph(0)->data()->at(0)->key - 390) < 1e-6);
     }
 
+    /// The numbers, the curve and the marks on the picture.
+    void theBandIsFoundAnewInTheOtherDirection()
+    {
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("Band Found by Itself")->trigger();
+        const SpectrumPipeline *spectra = m_workbench->services.Spectra();
+        QTRY_VERIFY_WITH_TIMEOUT(spectra->Shown().raw.Count() == width && spectra->Shown().band.bottom - spectra->Shown().band.top < width,
+                                 waitMs);
+        StopCamera();
+        const quint64 taken = spectra->Ledger().taken;
+        const RowBand rows = spectra->Shown().band;
+        m_workbench->Action("Vertical")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(!spectra->Shown().raw.place.isHorizontal, waitMs);
+        const RowBand columns = spectra->Shown().band;
+        QVERIFY(columns.top != rows.top || columns.bottom != rows.bottom);
+        QCOMPARE(spectra->GetEndPointList(), QList<QPointF>({QPointF(0, columns.top), QPointF(0, columns.bottom - 1)}));
+        QCOMPARE(spectra->Ledger().taken.load(), taken);
+        QTRY_COMPARE(Plot()->graph(0)->data()->at(1000)->value, spectra->Shown().raw.values[1000]);
+
+        m_workbench->Action("Horizontal")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(spectra->Shown().raw.place.isHorizontal, waitMs);
+        QCOMPARE(spectra->Shown().band.top, rows.top);
+        QCOMPARE(spectra->Shown().band.bottom, rows.bottom);
+        QTRY_COMPARE(Plot()->graph(0)->data()->at(1000)->value, spectra->Shown().raw.values[1000]);
+    }
+
+    /// It was not binned while frames came.
+    void binningIsSwitchedOn()
+    {
+        m_workbench->Action("Curve")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot() && Plot()->graph(0)->dataCount() == width, waitMs);
+        StopCamera();
+        const double row = Highest();
+        m_workbench->Action("All Rows")->trigger();
+        WaitForBinned();
+        QTRY_VERIFY(Highest() > 10 * row);
+        QCOMPARE(m_workbench->services.Spectra()->Ledger().taken.load(), quint64(0));
+    }
+
     /// Of the standing picture, as that of the frame that would come next.
     void theProfileComesWhenTheSpectrumGoes_data()
     {

@@ -185,8 +185,9 @@ CameraDevice::StartFault CameraDevice::CreateStream()
     AravisError failure;
     const size_t frameBytes = m_format->FrameBytes(&failure);
     if (frameBytes > 0) {
-        auto receiver = std::make_unique<FrameReceiver>(*m_ledger, StreamBufferPool::Create(frameBytes),
-                                                        m_format->Values().layout);
+        const FormatValues &format = m_format->Values();
+        auto receiver = std::make_unique<FrameReceiver>(*m_ledger, StreamBufferPool::Create(frameBytes), format.layout,
+                                                        FrameOrigin{CameraName(m_info), format.region, format.binning});
         m_stream = arv_camera_create_stream(m_camera, OnStreamEvent, receiver.get(), failure.Receive());
         if (m_stream && ARV_IS_GV_STREAM(m_stream))
             g_object_set(m_stream, "socket-buffer", ARV_GV_STREAM_SOCKET_BUFFER_FIXED, "socket-buffer-size",

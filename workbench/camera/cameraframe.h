@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMetaType>
+#include <QRect>
 #include <QString>
 #include <QVector>
 #include <memory>
@@ -22,6 +23,14 @@ int BitDepth(PixelLayout layout);
 /// The GenICam name, which is also what users read: "Mono8", "Mono12", "Mono16", "RGB8".
 QString PixelLayoutName(PixelLayout layout);
 
+/// Which pixels of which camera a frame shows.
+struct FrameOrigin
+{
+    QString camera;  ///< its name; empty when it is not known
+    QRect region;    ///< sensor pixels, unbinned; null when it is not known
+    int binning = 1; ///< sensor pixels along each side of a pixel of the frame
+};
+
 /// One frame as the camera sent it. Copies share the pixels, which nobody writes any more: a frame may be handed to
 /// any thread. The memory goes back to its stream when the last copy goes.
 struct CameraFrame
@@ -34,6 +43,7 @@ struct CameraFrame
     quint64 frameId = 0; ///< the camera's count since the start, unwrapped to 64 bits: a gap is a lost frame
     qint64 cameraTimeNs = 0; ///< by the camera's clock
     qint64 hostTimeNs = 0;   ///< arrival, since 1970
+    FrameOrigin origin;
 
     bool IsNull() const { return !pixels; }
     int BitDepth() const { return ::BitDepth(layout); }

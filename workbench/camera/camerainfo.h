@@ -16,5 +16,8 @@ struct CameraInfo
     QString interfaceName; ///< "GigE", "USB3" or "Fake" (the simulated camera)
 };
 
+/// For the user: model and serial number, or the id of a camera that has not told them yet.
+QString CameraName(const CameraInfo &info);
+
 Q_DECLARE_METATYPE(CameraInfo)
 Q_DECLARE_METATYPE(QVector<CameraInfo>)

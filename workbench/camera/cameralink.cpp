@@ -2,7 +2,6 @@
 #include "cameralink.h"
 
 #include "camerasession.h"
-#include "devicelist.h"
 #include "scenecatalogue.h"
 
 #include <QThread>
@@ -81,11 +80,7 @@ void CameraLink::Reconnect()
 
 QString CameraLink::Name() const
 {
-    if (IsSimulatedCamera(m_info.id))
-        return tr("Simulated Camera");
-    if (m_info.model.isEmpty())
-        return m_info.id;
-    return m_info.serial.isEmpty() ? m_info.model : QString("%1 %2").arg(m_info.model, m_info.serial);
+    return CameraName(m_info);
 }
 
 int CameraLink::SecondsToNextTry() const

@@ -33,10 +33,11 @@ qint64 HostTimeNs(ArvBuffer *buffer)
 }
 } // namespace
 
-FrameReceiver::FrameReceiver(FrameLedger &ledger, std::shared_ptr<StreamBufferPool> pool, PixelLayout layout)
+FrameReceiver::FrameReceiver(FrameLedger &ledger, std::shared_ptr<StreamBufferPool> pool, PixelLayout layout, const FrameOrigin &origin)
     : m_ledger(ledger)
     , m_pool(std::move(pool))
     , m_layout(layout)
+    , m_origin(origin)
 {
 }
 
@@ -134,6 +135,7 @@ CameraFrame FrameReceiver::FrameFrom(ArvBuffer *buffer, quint64 frameId) const
     frame.frameId = frameId;
     frame.cameraTimeNs = qint64(arv_buffer_get_timestamp(buffer));
     frame.hostTimeNs = HostTimeNs(buffer);
+    frame.origin = m_origin;
     return frame;
 }
 

@@ -20,7 +20,8 @@ typedef struct _ArvStream ArvStream;
 class FrameReceiver
 {
 public:
-    FrameReceiver(FrameLedger &ledger, std::shared_ptr<StreamBufferPool> pool, PixelLayout layout);
+    /// Layout and origin are those of all frames of the stream.
+    FrameReceiver(FrameLedger &ledger, std::shared_ptr<StreamBufferPool> pool, PixelLayout layout, const FrameOrigin &origin);
 
     /// Both must live until CloseGate() has returned.
     void OpenGate(FrameSink *sink);
@@ -45,6 +46,7 @@ private:
     FrameLedger &m_ledger;
     const std::shared_ptr<StreamBufferPool> m_pool;
     const PixelLayout m_layout;
+    const FrameOrigin m_origin;
     std::atomic<ArvStream *> m_stream{nullptr};
 
     std::mutex m_gate; ///< held during a delivery

@@ -17,6 +17,7 @@ struct SensorFrame
     {
         return region == other.region && binning == other.binning && orientation == other.orientation;
     }
+    bool operator!=(const SensorFrame &other) const { return !(*this == other); }
 };
 
 /// Where the samples of a spectrum lie on the sensor; of an opened picture, where in its file, as nobody knows where on the

@@ -53,9 +53,19 @@ void SpectrumCorrections::Restart()
     m_averaged.clear();
 }
 
+void SpectrumCorrections::TakeBack(quint64 frameId)
+{
+    if (m_mean.frameId != frameId)
+        return;
+    if (!m_before.empty())
+        m_before.pop_back();
+    if (!m_averaged.empty())
+        m_averaged.pop_back();
+}
+
 Spectrum SpectrumCorrections::Apply(const Spectrum &raw)
 {
-    if (m_mean.place != raw.place || m_mean.Count() != raw.Count())
+    if (m_mean.place != raw.place || m_mean.Count() != raw.Count() || AreOtherExposures(m_mean.exposureUs, raw.exposureUs))
         Restart();
     m_mean = raw;
     RemoveCosmicRays(&m_mean.values);
@@ -78,20 +88,24 @@ Spectrum SpectrumCorrections::Apply(const Spectrum &raw)
     return spectrum;
 }
 
-/// What is in one spectrum and not in the two before is no light of the sample.
+/// What is in one spectrum and not in the two before is no light of the sample. They are remembered with what was taken
+/// from them: light that stays is in them by the next one.
 void SpectrumCorrections::RemoveCosmicRays(std::vector<double> *values)
 {
     if (!m_settings.removesCosmicRays) {
         m_before.clear();
         return;
     }
-    if (m_before.size() == 2) {
+    const std::vector<double> raw = *values;
+    if (m_before.size() >= 2) {
+        const std::vector<double> &one = m_before[m_before.size() - 2];
+        const std::vector<double> &other = m_before.back();
         std::vector<double> above(values->size());
         for (size_t i = 0; i < above.size(); ++i)
-            above[i] = (*values)[i] - MiddleOf((*values)[i], m_before[0][i], m_before[1][i]);
+            above[i] = (*values)[i] - MiddleOf((*values)[i], one[i], other[i]);
         std::vector<double> change(values->size());
         for (size_t i = 0; i < change.size(); ++i)
-            change[i] = std::abs(m_before[1][i] - m_before[0][i]);
+            change[i] = std::abs(other[i] - one[i]);
         const double noise = 1.4826 * MedianOf(change);
         std::vector<size_t> rays;
         for (size_t i = 0; i < above.size(); ++i) {
@@ -102,9 +116,10 @@ void SpectrumCorrections::RemoveCosmicRays(std::vector<double> *values)
             for (const size_t i : rays)
                 (*values)[i] -= above[i];
         }
-        m_before.pop_front();
     }
-    m_before.push_back(*values);
+    m_before.push_back(raw);
+    if (m_before.size() > 3)
+        m_before.pop_front();
 }
 
 void SpectrumCorrections::Average(Spectrum *spectrum)

@@ -26,7 +26,8 @@ struct Spectrum
 };
 
 /// Corrects spectra one after another, for one thread. A correction that lacks its dark or reference spectrum, or has
-/// one of another place, is left out, and Applied() says so. Spectra of different places are never averaged or compared.
+/// one of another place, is left out, and Applied() says so. Spectra of different places or exposures are never averaged or
+/// compared.
 class SpectrumCorrections
 {
 public:
@@ -40,6 +41,8 @@ public:
     void SetReference(const Spectrum &reference) { m_reference = reference; }
     /// Forgets the spectra before: the next one has nothing to do with them.
     void Restart();
+    /// The spectrum of this frame comes once more: it takes its own place, if it was the newest.
+    void TakeBack(quint64 frameId);
 
     Spectrum Apply(const Spectrum &raw);
     /// What Apply() did last.
@@ -59,7 +62,7 @@ private:
     Spectrum m_dark;
     Spectrum m_reference; ///< not dark-subtracted
     Spectrum m_mean;
-    std::deque<std::vector<double>> m_before; ///< the last two, for cosmic rays
+    std::deque<std::vector<double>> m_before; ///< the last three, the newest among them, with their cosmic rays
     std::deque<Spectrum> m_averaged;
 };
 

@@ -64,6 +64,14 @@ void SpectrumEngine::FindBandAgain()
     m_isBandTold = false;
 }
 
+void SpectrumEngine::TakeBack(quint64 frameId)
+{
+    m_corrections.TakeBack(frameId);
+    for (SpectrumCorrections &corrections : m_trackCorrections)
+        corrections.TakeBack(frameId);
+    m_untilFocus = 0;
+}
+
 void SpectrumEngine::SetRecipe(const SpectrumRecipe &recipe)
 {
     if (recipe.rows != m_recipe.rows || recipe.isHorizontal != m_recipe.isHorizontal || recipe.isBinning != m_recipe.isBinning)
@@ -85,14 +93,17 @@ void SpectrumEngine::SetRecipe(const SpectrumRecipe &recipe)
         corrections.SetSettings(ofTracks);
 }
 
-SpectrumProduct SpectrumEngine::Make(const SampleView &picture, quint64 frameId, const Orientation &orientation)
+SpectrumProduct SpectrumEngine::Make(const SampleView &picture, quint64 frameId, const SensorFrame &sensor, const QString &camera)
 {
     SpectrumProduct product;
     product.frameId = frameId;
     product.frameSize = QSize(picture.width, picture.height);
-    if (product.frameSize != m_size || orientation != m_orientation) {
+    product.sensor = sensor;
+    product.camera = camera;
+    if (product.frameSize != m_size || sensor != m_sensor || camera != m_camera) {
         m_size = product.frameSize;
-        m_orientation = orientation;
+        m_sensor = sensor;
+        m_camera = camera;
         FindBandAgain();
     }
     if (m_recipe.isBinning)
@@ -126,8 +137,8 @@ void SpectrumEngine::Bin(const SampleView &picture, SpectrumProduct *product)
 Spectrum SpectrumEngine::SpectrumOf(const SampleView &picture, const RowBand &band, bool isHorizontal, quint64 frameId) const
 {
     const BinnedLine line = LineOf(picture, band, isHorizontal);
-    return {std::vector<double>(line.sums.begin(), line.sums.end()), line.saturated, frameId,
-            {m_size, m_orientation, isHorizontal, band.top, band.bottom}, {}, m_exposureUs};
+    const SpectrumPlace place{m_size, m_sensor, isHorizontal, band.top, band.bottom, m_camera, picture.bitDepth, picture.isColour};
+    return {std::vector<double>(line.sums.begin(), line.sums.end()), line.saturated, frameId, place, {}, m_exposureUs};
 }
 
 bool SpectrumEngine::UpdateBand(const SampleView &picture)

@@ -16,11 +16,13 @@ public:
     void SetReference(const Spectrum &reference) { m_corrections.SetReference(reference); }
     /// Of the pictures from now on; 0 when it is not known.
     void SetExposure(double exposureUs) { m_exposureUs = exposureUs; }
+    /// The picture of this frame comes once more: it takes its own place among those before.
+    void TakeBack(quint64 frameId);
     /// The band is looked for again with the next picture.
     void FindBandAgain();
 
-    /// `orientation` is how the picture was laid on the screen before it came here.
-    SpectrumProduct Make(const SampleView &picture, quint64 frameId, const Orientation &orientation = Orientation());
+    /// `sensor` and `camera` say what the picture shows; it was laid on the screen before it came here.
+    SpectrumProduct Make(const SampleView &picture, quint64 frameId, const SensorFrame &sensor, const QString &camera);
 
 private:
     void Bin(const SampleView &picture, SpectrumProduct *product);
@@ -35,7 +37,8 @@ private:
     std::vector<SpectrumCorrections> m_trackCorrections;
     double m_exposureUs = 0;
     QSize m_size;
-    Orientation m_orientation;
+    SensorFrame m_sensor;
+    QString m_camera;
     RowBand m_band;
     bool m_isBandKnown = false;
     bool m_isBandNew = false;

@@ -1,31 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectrumpipeline.h"
 
+#include "picturemaker.h"
 #include "pixelmove.h"
 #include "takenspectrumstep.h"
 
 #include <QUndoStack>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
-SampleView ViewOf(const CameraFrame &frame)
-{
-    SampleView view;
-    view.samples = frame.pixels.get();
-    view.width = frame.width;
-    view.height = frame.height;
-    view.strideBytes = frame.strideBytes;
-    view.bitDepth = frame.BitDepth();
-    view.isColour = frame.layout == PixelLayout::Rgb8;
-    return view;
-}
-
 /// The frame as it is laid on the screen; `memory` holds it when it is turned.
 SampleView OrientedView(const CameraFrame &frame, const Orientation &orientation, std::vector<uchar> *memory)
 {
-    SampleView view = ViewOf(frame);
+    SampleView view = PictureMaker::ViewOf(frame);
     if (orientation == Orientation())
         return view;
     const int bytesPerPixel = BytesPerPixel(frame.layout);
@@ -72,20 +62,46 @@ void SpectrumPipeline::SetRecipe(const SpectrumRecipe &recipe)
 {
     m_isBinning = recipe.isBinning;
     m_hasTracks = recipe.hasTracks;
+    m_isHorizontal = recipe.isHorizontal;
     ChangeEngine([recipe](SpectrumEngine *engine) { engine->SetRecipe(recipe); });
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
         m_isWanted = recipe.IsAnythingWanted();
         if (!m_isWanted) {
-            m_ledger.dropped += m_queue.size();
+            m_ledger.dropped += size_t(std::count_if(m_queue.begin(), m_queue.end(), [](const Waiting &one) { return !one.isAgain; }));
             m_queue.clear();
         }
     }
     const bool hadTracks = !m_shown.tracks.empty();
     if (ForgetUnwanted(&m_shown))
         emit signalSpectrumShown();
+    if (!m_shown.HasSpectrum())
+        m_meaning = SpectrumMeaning(); // something else may be drawn until there is one
     if (hadTracks && m_shown.tracks.empty())
         AnnounceNoTracks();
+    MakeStandingAgain();
+}
+
+bool SpectrumPipeline::IsStandingWanted()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return !m_isLive && m_isWanted;
+}
+
+void SpectrumPipeline::MakeStandingAgain()
+{
+    if (!m_standingFrame || !IsStandingWanted())
+        return;
+    const CameraFrame frame = m_standingFrame();
+    if (frame.IsNull())
+        return;
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (!m_queue.empty() && m_queue.back().isAgain)
+            m_queue.pop_back(); // changes that follow each other fast are made at once
+        m_queue.push_back({frame, true});
+    }
+    m_wake.notify_one();
 }
 
 /// What is no longer made is no longer shown, exported or taken as dark. True when there was any.
@@ -126,6 +142,7 @@ void SpectrumPipeline::SetExposure(double exposureUs)
 void SpectrumPipeline::FindBandAgain()
 {
     ChangeEngine([](SpectrumEngine *engine) { engine->FindBandAgain(); });
+    MakeStandingAgain();
 }
 
 void SpectrumPipeline::FindTracks()
@@ -156,12 +173,14 @@ void SpectrumPipeline::SetDark(const Spectrum &dark)
 {
     m_dark = dark;
     ChangeEngine([dark](SpectrumEngine *engine) { engine->SetDark(dark); });
+    MakeStandingAgain();
 }
 
 void SpectrumPipeline::SetReference(const Spectrum &reference)
 {
     m_reference = reference;
     ChangeEngine([reference](SpectrumEngine *engine) { engine->SetReference(reference); });
+    MakeStandingAgain();
 }
 
 void SpectrumPipeline::Do(std::unique_ptr<QUndoCommand> step)
@@ -195,7 +214,7 @@ void SpectrumPipeline::OnFrame(const CameraFrame &frame)
             ++m_ledger.missed;
             return;
         }
-        m_queue.push_back(frame);
+        m_queue.push_back({frame, false});
     }
     m_wake.notify_one();
 }
@@ -203,7 +222,7 @@ void SpectrumPipeline::OnFrame(const CameraFrame &frame)
 void SpectrumPipeline::Run()
 {
     for (;;) {
-        CameraFrame frame;
+        Waiting next;
         std::function<void(SpectrumEngine *)> change;
         bool findsTracks = false;
         double exposureUs = 0;
@@ -212,29 +231,34 @@ void SpectrumPipeline::Run()
             m_wake.wait(lock, [this] { return m_stops || !m_queue.empty(); });
             if (m_stops)
                 return;
-            frame = std::move(m_queue.front());
+            next = std::move(m_queue.front());
             m_queue.pop_front();
             change = std::exchange(m_change, nullptr);
             findsTracks = std::exchange(m_findsTracks, false);
             exposureUs = m_exposureUs;
         }
-        m_engine.SetExposure(exposureUs);
-        Work(frame, change, findsTracks);
+        if (next.isAgain)
+            m_engine.TakeBack(next.frame.frameId); // of the exposure that it had
+        else
+            m_engine.SetExposure(exposureUs);
+        Work(next, change, findsTracks);
     }
 }
 
-void SpectrumPipeline::Work(const CameraFrame &frame, const std::function<void(SpectrumEngine *)> &change, bool findsTracks)
+void SpectrumPipeline::Work(const Waiting &next, const std::function<void(SpectrumEngine *)> &change, bool findsTracks)
 {
     if (change)
         change(&m_engine);
+    const CameraFrame &frame = next.frame;
     const Orientation orientation = m_orientation ? m_orientation() : Orientation();
     const SampleView picture = OrientedView(frame, orientation, &m_turned);
     if (findsTracks) {
         QMetaObject::invokeMethod(this, [this, tracks = TracksOf(picture)] { emit signalTracksFound(tracks); }, Qt::QueuedConnection);
     }
-    SpectrumProduct product = m_engine.Make(picture, frame.frameId, orientation);
+    const SensorFrame sensor{frame.origin.region, frame.origin.binning, orientation};
+    SpectrumProduct product = m_engine.Make(picture, frame.frameId, sensor, frame.origin.camera);
     product.takenMs = frame.hostTimeNs / 1000000;
-    ++m_ledger.computed;
+    m_ledger.computed += next.isAgain ? 0 : 1;
     Deliver(std::move(product));
 }
 
@@ -281,6 +305,7 @@ void SpectrumPipeline::slotAnnounce()
         m_band = m_shown.band;
         emit SignalSpectralineFVB();
     }
+    AnnounceMeaning();
     AnnounceLines();
     if (isNew && m_shown.areLinesNew) {
         m_lines = m_shown.lines;
@@ -289,6 +314,16 @@ void SpectrumPipeline::slotAnnounce()
     if (isNew)
         emit signalSpectrumShown();
     QMetaObject::invokeMethod(this, &SpectrumPipeline::slotDelivered, Qt::QueuedConnection);
+}
+
+/// Not when it was chosen: spectra of before may be under way then.
+void SpectrumPipeline::AnnounceMeaning()
+{
+    const SpectrumMeaning meaning = SpectrumMeaning::Of(m_shown, m_isHorizontal);
+    if (!m_shown.HasSpectrum() || meaning == m_meaning)
+        return;
+    m_meaning = meaning;
+    emit signalMeaningChanged();
 }
 
 /// The plots exchange the buffers in events of their own, which run before slotDelivered().

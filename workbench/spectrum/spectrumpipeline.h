@@ -8,6 +8,7 @@
 #include "spectrumengine.h"
 #include "spectrumledger.h"
 #include "spectrummanager.h"
+#include "spectrummeaning.h"
 
 #include <QMutex>
 
@@ -23,7 +24,8 @@ class QUndoStack;
 
 /// Makes spectra of the raw samples of every frame, in a thread of its own. A frame is never skipped: they wait in a
 /// bounded queue, and one that finds it full is counted as missed. The screen gets the newest spectrum; at most one
-/// waits for the GUI thread. All but OnFrame() and Run() belongs to the GUI thread.
+/// waits for the GUI thread. While no frames come, the one that stands is made anew for each change. All but OnFrame() and
+/// Run() belongs to the GUI thread.
 class SpectrumPipeline : public SpectrumManager, public FrameSink
 {
     Q_OBJECT
@@ -34,6 +36,11 @@ public:
     /// `orientation` says how frames are laid on the screen, from any thread; upright without it.
     explicit SpectrumPipeline(std::function<Orientation()> orientation = {}, QObject *parent = nullptr);
     ~SpectrumPipeline() override;
+
+    /// The frame that is on the screen, null without one: while no frames come, each change makes its spectrum anew. Asked in
+    /// the GUI thread.
+    using StandingFrame = std::function<CameraFrame()>;
+    void SetStandingFrame(const StandingFrame &frame) { m_standingFrame = frame; }
 
     /// From the next frame on.
     void SetRecipe(const SpectrumRecipe &recipe);
@@ -52,6 +59,8 @@ public:
     /// Frames come. What waits for one is given up when they stop.
     void SetLive(bool live);
 
+    /// The spectrum of the standing frame is made once more: it was turned. Nothing while frames come.
+    void MakeStandingAgain();
     /// The plots get the newest spectrum once more: a page that was hidden has none. Nothing when one is on its way.
     void ShowAgain();
     /// The plots are told that there are no tracks, in place of those that they show.
@@ -74,13 +83,22 @@ public:
 signals:
     /// Shown() is a new one.
     void signalSpectrumShown();
+    /// The values of Shown() are something else than those before; comes before the plots get them.
+    void signalMeaningChanged();
     void signalTracksFound(QList<QRectF> tracks);
     /// A sentence for the user.
     void signalMessage(QString text);
 
 private:
+    struct Waiting
+    {
+        CameraFrame frame;
+        bool isAgain; ///< not a new frame
+    };
+
     void Run();
-    void Work(const CameraFrame &frame, const std::function<void(SpectrumEngine *)> &change, bool findsTracks);
+    void Work(const Waiting &next, const std::function<void(SpectrumEngine *)> &change, bool findsTracks);
+    bool IsStandingWanted();
     void SetDark(const Spectrum &dark);
     void SetReference(const Spectrum &reference);
     void Do(std::unique_ptr<QUndoCommand> step);
@@ -88,14 +106,16 @@ private:
     bool ForgetUnwanted(SpectrumProduct *product) const;
     void Deliver(SpectrumProduct product);
     void slotAnnounce();
+    void AnnounceMeaning();
     void AnnounceLines();
     void slotDelivered();
 
     const std::function<Orientation()> m_orientation;
+    StandingFrame m_standingFrame;
 
     std::mutex m_mutex; ///< of the next ones
     std::condition_variable m_wake;
-    std::deque<CameraFrame> m_queue;
+    std::deque<Waiting> m_queue;
     std::function<void(SpectrumEngine *)> m_change; ///< what is to be done before the next frame
     double m_exposureUs = 0; ///< of the frames that come
     bool m_findsTracks = false;
@@ -114,7 +134,9 @@ private:
     SpectrumLedger m_ledger;
     bool m_isBinning = false; ///< by the newest recipe
     bool m_hasTracks = false;
+    bool m_isHorizontal = true;
     SpectrumProduct m_shown;
+    SpectrumMeaning m_meaning; ///< of what the plots were given last; of nothing when that is gone
     QUndoStack *m_undo = nullptr;
     Spectrum m_dark; ///< the engine's after the next frame, as the next one
     Spectrum m_reference;

@@ -15,6 +15,8 @@ struct SpectrumProduct
     quint64 frameId = 0;
     qint64 takenMs = 0; ///< the frame's arrival, since 1970; 0 when that is not known
     QSize frameSize;    ///< as shown
+    SensorFrame sensor; ///< how it came to be that
+    QString camera;     ///< its name; empty when it is not known
     Spectrum raw;       ///< of full vertical binning; empty when that is off
     Spectrum averaged;  ///< before dark and reference
     Spectrum corrected;

@@ -49,16 +49,17 @@ public:
     SpectralUnit Unit() const { return m_unit; }
     /// The opened picture as it is seen; of no size without one.
     void SetImage(const SpectralPicture &picture);
-    /// How the camera's frames come to be the live picture. A calibration follows, or is said not to hold.
+    /// How the frame came to be that the spectrum on the screen was made of, or the picture when there is no spectrum. A
+    /// calibration follows, or is said not to hold.
     void SetSensorFrame(const SensorFrame &frame);
-    /// What files of the live picture, or of the opened one, carry of our calibration: that of the side that the spectrum
-    /// lies along.
-    QVector<MetadataEntry> LiveCalibration() const;
+    /// What files of live pictures, or of the opened one, carry of our calibration: that of the side that the spectrum lies
+    /// along.
+    QVector<MetadataEntry> LiveCalibration(const SensorFrame &frames) const;
     QVector<MetadataEntry> ImageCalibration() const;
     /// The axis of what is on the screen.
     const CalibratedAxis &ShownAxis() const;
-    /// That of live spectra along the rows, or along the columns, whatever the direction is now.
-    CalibratedAxis LiveAxis(bool isHorizontal) const;
+    /// That of live spectra so wide, wherever those that are shown lie now.
+    CalibratedAxis LiveAxis(int width, const SpectralFrame &frame) const;
     /// An opened picture is on the screen, rather than the live one.
     bool IsImageShown() const { return m_isImageShown; }
     PlotStyle Style() const { return m_style; }

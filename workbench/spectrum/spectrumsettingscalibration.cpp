@@ -108,10 +108,10 @@ const CalibratedAxis &SpectrumSettings::ImageAxis() const { return m_recipe.isHo
 
 const CalibratedAxis &SpectrumSettings::ShownAxis() const { return m_isImageShown ? ImageAxis() : m_liveAxis; }
 
-CalibratedAxis SpectrumSettings::LiveAxis(bool isHorizontal) const
+CalibratedAxis SpectrumSettings::LiveAxis(int width, const SpectralFrame &frame) const
 {
     CalibratedAxis axis = m_liveAxis;
-    axis.SetSpectrum(isHorizontal ? m_frameSize.width() : m_frameSize.height(), SpectralFrame::Of(m_sensorFrame, isHorizontal));
+    axis.SetSpectrum(width, frame);
     return axis;
 }
 
@@ -134,9 +134,10 @@ bool SpectrumSettings::IsValidConversation(QString *text) const
     return ends.size() == 2 && ends[0].toDouble(&isFirst) != ends[1].toDouble(&isLast) && isFirst && isLast;
 }
 
-QVector<MetadataEntry> SpectrumSettings::LiveCalibration() const
+QVector<MetadataEntry> SpectrumSettings::LiveCalibration(const SensorFrame &frames) const
 {
-    return SpectralMetadata(m_liveAxis.Record());
+    const SpectralFrame side = SpectralFrame::Of(frames, m_recipe.isHorizontal);
+    return SpectralMetadata(LiveAxis(side.count, side).Record());
 }
 
 QVector<MetadataEntry> SpectrumSettings::ImageCalibration() const

@@ -10,6 +10,12 @@
 
 #include <numeric>
 
+namespace {
+
+const FrameOrigin Origin{"Fake 7", QRect(16, 32, 1024, 1024), 2};
+
+} // namespace
+
 /// Buffers are filled by Aravis' simulated camera and given ids of our choice, so that loss can be made at will.
 class FrameReceiverTest : public GuardedTest
 {
@@ -55,7 +61,7 @@ void FrameReceiverTest::init()
     m_ledger.Reset();
     m_collector.Clear();
     m_pool = StreamBufferPool::Create(arv_fake_camera_get_payload(m_camera));
-    m_receiver = std::make_unique<FrameReceiver>(m_ledger, m_pool, PixelLayout::Mono8);
+    m_receiver = std::make_unique<FrameReceiver>(m_ledger, m_pool, PixelLayout::Mono8, Origin);
     m_receiver->OpenGate(&m_collector);
 }
 
@@ -100,6 +106,9 @@ void FrameReceiverTest::DeliversTheFrameAsItIs()
     QCOMPARE(frame.frameId, quint64(42));
     QCOMPARE(frame.cameraTimeNs, qint64(1234567890123));
     QCOMPARE(frame.hostTimeNs, qint64(1700000000000000000));
+    QCOMPARE(frame.origin.camera, Origin.camera);
+    QCOMPARE(frame.origin.region, Origin.region);
+    QCOMPARE(frame.origin.binning, Origin.binning);
     QCOMPARE(m_ledger.Counts().captured, quint64(1));
 }
 
@@ -165,7 +174,7 @@ void FrameReceiverTest::FramesOfAnotherPixelFormatAreDamaged()
 {
     m_receiver.reset();
     m_pool = StreamBufferPool::Create(2 * arv_fake_camera_get_payload(m_camera));
-    m_receiver = std::make_unique<FrameReceiver>(m_ledger, m_pool, PixelLayout::Mono8);
+    m_receiver = std::make_unique<FrameReceiver>(m_ledger, m_pool, PixelLayout::Mono8, Origin);
     m_receiver->OpenGate(&m_collector);
     Deliver(1);
     arv_fake_camera_write_register(m_camera, ARV_FAKE_CAMERA_REGISTER_PIXEL_FORMAT, ARV_PIXEL_FORMAT_MONO_16);

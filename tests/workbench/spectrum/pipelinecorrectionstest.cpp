@@ -23,6 +23,8 @@ private slots:
     void whatWasAveragedBeforeAChangeDoesNotStay();
     void tracksOfOtherRowsAreNotMixed();
     void aTurnedPictureHasNoDark();
+    void aDarkOfOtherPixelsIsNotSubtracted_data();
+    void aDarkOfOtherPixelsIsNotSubtracted();
     void theDarkIsTheAverage();
     void withoutReferenceCountsAreDrawn();
     void tracksTellTheirCorrections();
@@ -179,6 +181,44 @@ void PipelineCorrectionsTest::aTurnedPictureHasNoDark()
     QCOMPARE(pipeline.Shown().corrected.values[width - 1], 100.0 * height + 5000);
     QCOMPARE(pipeline.Shown().corrections.Sentence(), QString("Corrections: average of fewer than 2 so far, "
                                                               "no dark spectrum of this part of the picture to subtract."));
+}
+
+void PipelineCorrectionsTest::aDarkOfOtherPixelsIsNotSubtracted_data()
+{
+    QTest::addColumn<QString>("camera");
+    QTest::addColumn<QRect>("region");
+    QTest::addColumn<int>("binning");
+    QTest::newRow("another region") << "one" << QRect(width, height, width, height) << 1;
+    QTest::newRow("binned on the sensor") << "one" << QRect(0, 0, 2 * width, 2 * height) << 2;
+    QTest::newRow("another camera") << "two" << QRect(0, 0, width, height) << 1;
+}
+
+/// However alike their frames are.
+void PipelineCorrectionsTest::aDarkOfOtherPixelsIsNotSubtracted()
+{
+    QFETCH(QString, camera);
+    QFETCH(QRect, region);
+    QFETCH(int, binning);
+    SpectrumPipeline pipeline;
+    SpectrumRecipe recipe = Binning();
+    recipe.corrections.subtractsDark = true;
+    pipeline.SetRecipe(recipe);
+    CameraFrame frame = Frame(1, 0, 0);
+    frame.origin = {"one", QRect(0, 0, width, height), 1};
+    pipeline.OnFrame(frame);
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(1));
+    QVERIFY(pipeline.TakeDark());
+    frame.frameId = 2;
+    pipeline.OnFrame(frame);
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(2));
+    QCOMPARE(pipeline.Shown().corrected.values[0], 0.0);
+    frame.frameId = 3;
+    frame.origin = {camera, region, binning};
+    pipeline.OnFrame(frame);
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(3));
+    QCOMPARE(pipeline.Shown().corrected.values[0], 100.0 * height);
+    QCOMPARE(pipeline.Shown().corrections.Sentence(),
+             QString("Corrections: no dark spectrum of this part of the picture to subtract."));
 }
 
 void PipelineCorrectionsTest::theDarkIsTheAverage()

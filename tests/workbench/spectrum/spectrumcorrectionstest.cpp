@@ -12,6 +12,8 @@ class SpectrumCorrectionsTest : public GuardedTest
 private slots:
     void nothingOnChangesNothing();
     void theAverageIsThatOfTheNewest();
+    void aSpectrumThatIsTakenBackCountsOnce();
+    void anotherExposureBeginsAnotherAverage();
     void saturationStaysInTheAverage();
     void darkAndReference_data();
     void darkAndReference();
@@ -23,6 +25,8 @@ private slots:
     void whatWasAveragedCanBecomeTheDark();
     void cosmicRaysGoAndSharpLinesStay();
     void aLampThatIsSwitchedOnIsNoCosmicRay();
+    void linesThatStayAreSeenFromTheirSecondFrameOn();
+    void twoRaysInTwoFramesGo();
     void theBaselineGoesAndTheLineStays();
     void aDarkOfAnotherExposureIsSaid_data();
     void aDarkOfAnotherExposureIsSaid();
@@ -36,7 +40,7 @@ Spectrum Of(const std::vector<double> &values)
     return {values, std::vector<quint8>(values.size(), 0), 0};
 }
 
-const SpectrumPlace somewhere{QSize(2, 40), Orientation(), true, 10, 11};
+const SpectrumPlace somewhere{QSize(2, 40), {QRect(100, 200, 2, 40), 1, Orientation()}, true, 10, 11, "one", 16};
 
 } // namespace
 
@@ -58,6 +62,59 @@ void SpectrumCorrectionsTest::theAverageIsThatOfTheNewest()
     QVERIFY(corrections.Apply(Of({20, 0})).values == std::vector<double>({15, 0}));
     QVERIFY(corrections.Apply(Of({60, 0})).values == std::vector<double>({40, 0}));
     QVERIFY(corrections.Apply(Of({1, 2, 3})).values == std::vector<double>({1, 2, 3})); // another width
+}
+
+/// What came once more took the place that it had: of the average, and among those that rays are told by.
+void SpectrumCorrectionsTest::aSpectrumThatIsTakenBackCountsOnce()
+{
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.averaged = 2;
+    settings.removesCosmicRays = true;
+    corrections.SetSettings(settings);
+    std::vector<double> values;
+    for (int i = 0; i < 40; ++i)
+        values.push_back(100 + i % 3);
+    const auto numbered = [&values](quint64 frameId) {
+        Spectrum spectrum = Of(values);
+        spectrum.frameId = frameId;
+        return spectrum;
+    };
+    corrections.Apply(numbered(1));
+    corrections.Apply(numbered(2));
+    Spectrum ray = numbered(3);
+    ray.values[7] += 5000;
+    QCOMPARE(corrections.Apply(ray).values, values);
+    for (int i = 0; i < 3; ++i) {
+        corrections.TakeBack(3);
+        QCOMPARE(corrections.Apply(ray).values, values);
+    }
+    corrections.TakeBack(2); // not the newest
+    for (double &value : values)
+        value += 10;
+    const std::vector<double> mean = corrections.Apply(numbered(4)).values;
+    QCOMPARE(mean[0], 105.0);
+    QCOMPARE(corrections.Applied().averaged, 2);
+}
+
+/// A mixture would pass as a dark of the new one.
+void SpectrumCorrectionsTest::anotherExposureBeginsAnotherAverage()
+{
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.averaged = 3;
+    corrections.SetSettings(settings);
+    const auto exposed = [](double value, double exposureUs) {
+        Spectrum spectrum = Of({value, 0});
+        spectrum.exposureUs = exposureUs;
+        return spectrum;
+    };
+    corrections.Apply(exposed(100, 20000));
+    QCOMPARE(corrections.Apply(exposed(110, 20003)).values[0], 105.0); // as the camera rounds it
+    QCOMPARE(corrections.Apply(exposed(200, 40000)).values[0], 200.0);
+    QCOMPARE(corrections.Applied().Sentence(), QString("Corrections: average of fewer than 3 so far."));
+    QCOMPARE(corrections.Averaged().values[0], 200.0);
+    QCOMPARE(corrections.Apply(exposed(220, 40000)).values[0], 210.0);
 }
 
 void SpectrumCorrectionsTest::saturationStaysInTheAverage()
@@ -135,8 +192,23 @@ void SpectrumCorrectionsTest::spectraOfAnotherPlaceAreNotMixed_data()
     place.isHorizontal = false;
     QTest::newRow("the other direction") << place;
     place = somewhere;
-    place.orientation = Orientation(true, 0);
+    place.sensor.orientation = Orientation(true, 0);
     QTest::newRow("mirrored") << place;
+    place = somewhere;
+    place.sensor.region.moveTopLeft(QPoint(100, 240));
+    QTest::newRow("another region of the same size") << place;
+    place = somewhere;
+    place.sensor = {QRect(100, 200, 4, 80), 2, Orientation()};
+    QTest::newRow("binned on the sensor") << place;
+    place = somewhere;
+    place.camera = "two";
+    QTest::newRow("another camera") << place;
+    place = somewhere;
+    place.bitDepth = 8;
+    QTest::newRow("other samples") << place;
+    place = somewhere;
+    place.isColour = true;
+    QTest::newRow("colours") << place;
     place = somewhere;
     place.frame = QSize(2, 50);
     QTest::newRow("frames of another height") << place;
@@ -252,6 +324,44 @@ void SpectrumCorrectionsTest::aLampThatIsSwitchedOnIsNoCosmicRay()
         corrections.Apply(Of(NoiseOnly(1024, 100, 3, i)));
     const std::vector<double> bright = NoiseOnly(1024, 5000, 3, 9);
     QVERIFY(corrections.Apply(Of(bright)).values == bright);
+}
+
+/// Fewer samples than those of a lamp jump, and nothing but their staying tells them from rays.
+void SpectrumCorrectionsTest::linesThatStayAreSeenFromTheirSecondFrameOn()
+{
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.removesCosmicRays = true;
+    corrections.SetSettings(settings);
+    constexpr unsigned first = 10;
+    for (unsigned i = 0; i < first + 5; ++i) {
+        std::vector<double> values = NoiseOnly(2048, 1000, 10, i);
+        for (const double line : {200, 500, 900, 1400, 1900})
+            AddLine(&values, line, i < first ? 0 : 20000, 2);
+        const Spectrum corrected = corrections.Apply(Of(values));
+        for (const size_t line : {200, 500, 900, 1400, 1900}) {
+            const double expected = i <= first ? 1000 : 21000;
+            QVERIFY2(std::abs(corrected.values[line] - expected) < 100,
+                     qPrintable(QString("%1 in frame %2").arg(corrected.values[line]).arg(i)));
+        }
+    }
+}
+
+/// What one of them left among the spectra before hides no other.
+void SpectrumCorrectionsTest::twoRaysInTwoFramesGo()
+{
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.removesCosmicRays = true;
+    corrections.SetSettings(settings);
+    for (unsigned i = 0; i < 8; ++i) {
+        std::vector<double> values = NoiseOnly(1024, 1000, 10, i);
+        if (i == 4 || i == 5)
+            values[i == 4 ? 300 : 700] += 3000;
+        const Spectrum corrected = corrections.Apply(Of(values));
+        QVERIFY2(std::abs(corrected.values[300] - 1000) < 60, qPrintable(QString::number(corrected.values[300])));
+        QVERIFY2(std::abs(corrected.values[700] - 1000) < 60, qPrintable(QString::number(corrected.values[700])));
+    }
 }
 
 void SpectrumCorrectionsTest::theBaselineGoesAndTheLineStays()

@@ -21,6 +21,7 @@ private slots:
     void nothingIsTakenWhenNothingIsWanted();
     void saturationFollowsAPixelIntoTheSpectrum();
     void theBandIsFoundAndTold();
+    void theBandIsFoundAgainInAnotherRegion();
     void withoutLightNothingNewIsTold();
     void tracksLieOneBehindTheOther();
     void whatWasShownIsShownAgain();
@@ -111,6 +112,25 @@ void SpectrumPipelineTest::theBandIsFoundAndTold()
     QCOMPARE(told.count(), 1);
     QCOMPARE(pipeline.GetEndPointList(), QList<QPointF>({QPointF(0, 20), QPointF(0, 39)}));
     QCOMPARE(pipeline.Shown().raw.values[0], 2000.0);
+}
+
+/// The frames stay as large as they are.
+void SpectrumPipelineTest::theBandIsFoundAgainInAnotherRegion()
+{
+    SpectrumPipeline pipeline;
+    pipeline.SetRecipe(Binning(BinnedRows::Auto));
+    CameraFrame frame = Frame(1, 20, 40);
+    frame.origin = {"one", QRect(0, 100, width, height), 1};
+    pipeline.OnFrame(frame);
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(1));
+    frame = Frame(2, 50, 60);
+    frame.origin = {"one", QRect(0, 70, width, height), 1};
+    pipeline.OnFrame(frame);
+    QTRY_COMPARE(pipeline.Shown().frameId, quint64(2));
+    QCOMPARE(pipeline.GetEndPointList(), QList<QPointF>({QPointF(0, 50), QPointF(0, 59)}));
+    QCOMPARE(pipeline.Shown().raw.values[0], 1000.0);
+    QCOMPARE(pipeline.Shown().sensor.region, QRect(0, 70, width, height));
+    QCOMPARE(pipeline.Shown().camera, QString("one"));
 }
 
 /// The overlay of the band makes connections each time that it is told.

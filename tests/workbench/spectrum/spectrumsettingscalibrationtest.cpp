@@ -279,9 +279,10 @@ void SpectrumSettingsCalibrationTest::aCalibrationMadeOnAFileIsNotThatOfLiveSpec
     QVERIFY(std::abs(x - 450) < 1e-9);
     m_settings->slotSetImageShown(false);
     for (const Orientation &orientation : {Orientation(), Orientation().FlippedHorizontally()}) {
-        Show({QRect(QPoint(0, 0), size), 1, orientation});
+        const SensorFrame frame{QRect(QPoint(0, 0), size), 1, orientation};
+        Show(frame);
         QVERIFY(!m_settings->Calculate(200, x));
-        QVERIFY(m_settings->LiveCalibration().isEmpty());
+        QVERIFY(m_settings->LiveCalibration(frame).isEmpty());
     }
     QCOMPARE(told.count(), 1);
     // One that was made live is assumed to be that of files as wide, as their title says.
