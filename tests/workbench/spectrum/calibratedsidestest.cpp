@@ -213,7 +213,7 @@ void CalibratedSidesTest::recordingsHaveTheCalibrationOfTheirSide()
     Show(frame);
     const QSize recorded = frame.orientation.Map(frame.region.size() / frame.binning);
     QString fault;
-    const SpectralAxis axis = AxisOfMetadata(m_settings->LiveCalibration(), recorded, &fault);
+    const SpectralAxis axis = AxisOfMetadata(m_settings->LiveCalibration(frame), recorded, &fault);
     QCOMPARE(fault, QString());
     QCOMPARE(axis.IsEmpty(), step == 0);
     for (int pixel = 0; pixel < axis.values.size(); ++pixel)
