@@ -2,7 +2,8 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
+
+#include <functional>
 
 class QWidget;
 
@@ -16,6 +17,7 @@ enum class PlotForm
 
 /// The plot that is seen on a page: a curve, or tracks in 3D; null when there is none.
 QWidget *VisiblePlot(QWidget *page);
-/// A file with the picture of a plot, as it is on the screen. A curve is drawn anew, so that it stays sharp in SVG and
-/// PDF; tracks in 3D are the pixels of the screen in all of them. GUI thread.
-QByteArray PlotPicture(QWidget *plot, PlotForm form);
+/// Makes a file with the picture of a plot, as it is on the screen now, in any thread; an empty one when there is no memory for
+/// it. The plot is drawn anew, so that it stays sharp: as lines and texts in SVG and PDF, and finer than the screen in PNG. GUI
+/// thread.
+std::function<QByteArray()> PlotPicture(QWidget *plot, PlotForm form);

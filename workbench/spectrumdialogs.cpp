@@ -29,6 +29,13 @@ PlotForm FormOf(const QString &suffix)
     return suffix == "pdf" ? PlotForm::Pdf : PlotForm::Png;
 }
 
+QString NoMemoryFor(const QString &path)
+{
+    return SpectrumDialogs::tr("\u201c%1\u201d was not saved: there is not enough memory to draw the plot. Close opened pictures or "
+                               "other programs, and export it again.")
+        .arg(QFileInfo(path).fileName());
+}
+
 } // namespace
 
 SpectrumDialogs::SpectrumDialogs(WorkbenchServices *services, QWidget *centre, QWidget *window)
@@ -112,7 +119,7 @@ void SpectrumDialogs::slotExportSpectrum()
         return;
     }
     AskWhere(tr("Export Spectrum"), {tr("Table with commented header (*.csv)")},
-             [this, spectrum](const QString &path) { Write(path, SpectrumCsv(spectrum)); });
+             [this, spectrum](const QString &path) { Write(path, [spectrum] { return SpectrumCsv(spectrum); }); });
 }
 
 void SpectrumDialogs::slotExportPlot()
@@ -147,11 +154,12 @@ void SpectrumDialogs::AskWhere(const QString &title, const QStringList &filters,
     dialog->open();
 }
 
-void SpectrumDialogs::Write(const QString &path, const QByteArray &content)
+void SpectrumDialogs::Write(const QString &path, const std::function<QByteArray()> &make)
 {
-    m_writing.start([this, path, content] {
-        QMetaObject::invokeMethod(
-            this, [this, path, fault = WriteWholeFile(path, content)] { slotWritten(path, fault); }, Qt::QueuedConnection);
+    m_writing.start([this, path, make] {
+        const QByteArray content = make();
+        const QString fault = content.isEmpty() ? NoMemoryFor(path) : WriteWholeFile(path, content);
+        QMetaObject::invokeMethod(this, [this, path, fault] { slotWritten(path, fault); }, Qt::QueuedConnection);
     });
 }
 

@@ -1,10 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "line3d.h"
 
+#include <qwt3d_io_gl2ps.h>
+
 #include <algorithm>
 #include <utility>
 
 namespace Qwt3D {
+
+namespace {
+
+/// The lines go into a drawing instead of pixels.
+bool IsVectorOutput()
+{
+    GLint mode = GL_RENDER;
+    glGetIntegerv(GL_RENDER_MODE, &mode);
+    return mode == GL_FEEDBACK;
+}
+
+} // namespace
 
 void Line3D::configure(double width, bool smooth)
 {
@@ -23,7 +37,7 @@ void Line3D::drawBegin()
     glPushAttrib(GL_ENABLE_BIT | GL_LINE_BIT | GL_CURRENT_BIT | GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     glColor4d(m_color.r, m_color.g, m_color.b, m_color.a);
     glDisable(GL_LINE_SMOOTH);
-    if (m_smooth) {
+    if (m_smooth && !IsVectorOutput()) {
         // A smoothed piece that is shorter than a pixel covers little of it and is faint: the line gets a
         // core that is not smoothed.
         drawStrips(m_width - 1.0);
@@ -38,7 +52,7 @@ void Line3D::drawBegin()
 
 void Line3D::drawStrips(double width) const
 {
-    glLineWidth(GLfloat(std::max(1.0, width)));
+    setDeviceLineWidth(GLfloat(std::max(1.0, width))); // that of a drawing, too
     glEnableClientState(GL_VERTEX_ARRAY);
     for (const TripleField &line : m_lines) {
         if (line.empty())

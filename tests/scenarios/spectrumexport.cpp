@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 #include <QSvgRenderer>
 #include <QTest>
+#include <QXmlStreamReader>
 #include <QtEndian>
 #include <qcustomplot.h>
 
@@ -46,6 +47,17 @@ QByteArray Unpacked(const QByteArray &stream)
 int Strokes(const QByteArray &drawing)
 {
     return QString::fromLatin1(drawing).count(QRegularExpression("^[-0-9.]+ [-0-9.]+ l\\b", QRegularExpression::MultilineOption));
+}
+
+QStringList TextsOf(const QByteArray &svg)
+{
+    QStringList texts;
+    QXmlStreamReader reader(svg);
+    while (!reader.atEnd()) {
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == QLatin1String("text"))
+            texts << reader.readElementText().trimmed();
+    }
+    return texts;
 }
 
 } // namespace
@@ -115,10 +127,11 @@ QStringList SpectrumExport::Lines(const QString &action, const QString &name) co
 void SpectrumExport::CheckPlots(const QWidget *plot) const
 {
     const QImage picture = QImage::fromData(Written("Export Plot…", "plot.png"));
-    QVERIFY(picture.width() >= plot->width() && picture.height() * plot->width() == picture.width() * plot->height());
+    QCOMPARE(picture.size(), plot->size() * 2);
     QVERIFY2(ColouredPixels(picture) > fewestPixels, qPrintable(QString::number(ColouredPixels(picture))));
 
-    QSvgRenderer drawing(Written("Export Plot…", "plot.svg"));
+    const QByteArray svg = Written("Export Plot…", "plot.svg");
+    QSvgRenderer drawing(svg);
     QVERIFY(drawing.isValid());
     QCOMPARE(drawing.viewBox().size(), plot->size());
     QImage drawn(plot->size(), QImage::Format_RGB32);
@@ -127,11 +140,13 @@ void SpectrumExport::CheckPlots(const QWidget *plot) const
     drawing.render(&painter);
     painter.end();
     QVERIFY2(ColouredPixels(drawn) > fewestPixels, qPrintable(QString::number(ColouredPixels(drawn))));
+    QVERIFY(!svg.contains("<image"));
+    QVERIFY(TextsOf(svg).contains(qobject_cast<const QCustomPlot *>(plot) ? "Counts" : "Series Position"));
 
     CheckPage(Written("Export Plot…", "plot.pdf"), plot);
 }
 
-/// Lines of a curve, or the picture of tracks.
+/// Lines and texts.
 void SpectrumExport::CheckPage(const QByteArray &pdf, const QWidget *plot)
 {
     QVERIFY(pdf.startsWith("%PDF-"));
@@ -139,19 +154,30 @@ void SpectrumExport::CheckPage(const QByteArray &pdf, const QWidget *plot)
     const QRegularExpressionMatch box = QRegularExpression("/MediaBox \\[0 0 ([0-9.]+) ([0-9.]+)\\]").match(text);
     QVERIFY2(std::abs(box.captured(1).toDouble() - plot->width() * 0.75) < 1, qPrintable(box.captured(1)));
     QVERIFY2(std::abs(box.captured(2).toDouble() - plot->height() * 0.75) < 1, qPrintable(box.captured(2)));
+    QVERIFY(!text.contains("/Subtype /Image"));
+    QVERIFY(text.contains("/Type /Font"));
     int strokes = 0;
-    int coloured = 0;
-    for (const QByteArray &stream : StreamsOf(pdf)) {
-        const QByteArray unpacked = Unpacked(stream);
-        strokes += Strokes(unpacked);
-        QImage picture = QImage::fromData(stream, "JPEG");
-        const QSize size = plot->size();
-        if (picture.isNull() && unpacked.size() == size.width() * size.height() * 3)
-            picture = QImage(reinterpret_cast<const uchar *>(unpacked.constData()), size.width(), size.height(), size.width() * 3,
-                             QImage::Format_RGB888)
-                          .copy();
-        coloured += ColouredPixels(picture);
+    for (const QByteArray &stream : StreamsOf(pdf))
+        strokes += Strokes(Unpacked(stream));
+    QVERIFY2(strokes > fewestStrokes, qPrintable(QString::number(strokes)));
+}
+
+QVector<QPolygonF> SpectrumExport::TracksIn(const QString &name, const QColor &color) const
+{
+    QVector<QPolygonF> tracks;
+    QXmlStreamReader svg(Written("Export Plot…", name));
+    QString stroke; // of the group
+    while (!svg.atEnd()) {
+        if (svg.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (svg.name() == QLatin1String("g"))
+            stroke = svg.attributes().value("stroke").toString();
+        if (svg.name() != QLatin1String("polyline") || QColor(stroke) != color)
+            continue;
+        QPolygonF track;
+        for (const QString &point : svg.attributes().value("points").toString().split(' ', Qt::SkipEmptyParts))
+            track << QPointF(point.section(',', 0, 0).toDouble(), point.section(',', 1).toDouble());
+        tracks << track;
     }
-    const bool isCurve = qobject_cast<const QCustomPlot *>(plot) != nullptr;
-    QVERIFY2(isCurve ? strokes > fewestStrokes : coloured > fewestPixels, qPrintable(QString("%1, %2").arg(strokes).arg(coloured)));
+    return tracks;
 }

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QPolygonF>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
+class QColor;
 class QFileDialog;
 class QImage;
 class QWidget;
@@ -31,8 +33,11 @@ public:
     bool IsSaved(const QString &name) const;
     /// The lines of the file that was written; none when it wasn't.
     QStringList Lines(const QString &action, const QString &name) const;
-    /// Exports the plot in all forms: each shows the curve, or the tracks, at the size of the plot.
+    /// Exports the plot in all forms: the curve, or the tracks, as lines and texts at the size of the plot, or as pixels twice
+    /// as fine.
     void CheckPlots(const QWidget *plot) const;
+    /// Exports the plot as SVG: the lines in it that have this colour.
+    QVector<QPolygonF> TracksIn(const QString &name, const QColor &color) const;
 
 private:
     QByteArray Written(const QString &action, const QString &name) const;

@@ -246,6 +246,10 @@ private slots:
         QTRY_VERIFY(VisiblePlot(m_workbench->window.centralWidget()));
         WaitForNextSpectrum();
         Exporting().CheckPlots(VisiblePlot(m_workbench->window.centralWidget()));
+        const QVector<QPolygonF> tracks = Exporting().TracksIn("tracks.svg", m_workbench->services.Spectrum()->GetLineColor());
+        QCOMPARE(tracks.size(), 3);
+        for (const QPolygonF &track : tracks)
+            QCOMPARE(track.size(), sensor.width());
         const QStringList lines = Exporting().Lines("Export Spectrum…", "tracks.csv");
         QVERIFY(lines.contains("pixel,axis,track1,track2,track3,saturated1,saturated2,saturated3"));
         QCOMPARE(ColumnsOf(lines).value(0).size(), sensor.width());

@@ -8,19 +8,23 @@
 
 namespace {
 
-/// The texts in the plot, in the order they are drawn.
-QStringList Texts(Qwt3D::SurfacePlot *plot)
+/// The plot as the library's vector writer draws it.
+QStringList Drawing(Qwt3D::SurfacePlot *plot)
 {
     QTemporaryDir folder;
     const QString name = folder.filePath("plot.eps");
     plot->saveVector(name, "EPS", Qwt3D::VectorWriter::NATIVE, Qwt3D::VectorWriter::NOSORT);
     QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.readAll()).split('\n') : QStringList();
+}
+
+/// The texts in the plot, in the order they are drawn.
+QStringList Texts(Qwt3D::SurfacePlot *plot)
+{
     QStringList texts;
-    if (!file.open(QIODevice::ReadOnly))
-        return texts;
     const QRegularExpression form("^\\((.+)\\) [-0-9.]+ [-0-9.]+ [0-9]+ /");
-    while (!file.atEnd()) {
-        const QRegularExpressionMatch match = form.match(QString::fromLatin1(file.readLine()));
+    for (const QString &line : Drawing(plot)) {
+        const QRegularExpressionMatch match = form.match(line);
         if (match.hasMatch())
             texts << match.captured(1);
     }
@@ -52,6 +56,7 @@ private slots:
     void tracksWiderThanTheFrame();
     void colourOfTheLines();
     void linesOnTheScreen();
+    void linesInADrawing();
     void zoomButtons_data();
     void zoomButtons();
     void zoomBeforeTheFirstData();
@@ -200,6 +205,25 @@ void TestSpectrum3DPlot::linesOnTheScreen()
     QTRY_VERIFY(redPixels() > 300); // five lines of some hundred pixels each
     const auto *button = page.page.findChild<QPushButton *>("pushButton2DZoomIn");
     QCOMPARE(QApplication::widgetAt(button->mapToGlobal(button->rect().center())), button);
+}
+
+/// Once each, whole, and as wide as on the screen.
+void TestSpectrum3DPlot::linesInADrawing()
+{
+    Page3D page(2, 300);
+    QVERIFY(page.Show());
+    page.services.spectrumUI.lineColor = QColor(255, 0, 0);
+    page.Update(65500);
+    const QStringList drawing = Drawing(page.plot);
+    const int first = drawing.indexOf("1 0 0 C");
+    QVERIFY(first > 0);
+    const int end = drawing.indexOf(QRegularExpression(".* C"), first + 1);
+    const QStringList widths = drawing.mid(0, first).filter(QRegularExpression("^[0-9.]+ W$"))
+                               + drawing.mid(first, end - first).filter(QRegularExpression("^[0-9.]+ W$"));
+    QCOMPARE(widths.last(), QString("3 W"));
+    const QString lines = drawing.mid(first, end - first).join('\n');
+    QCOMPARE(lines.count(QRegularExpression(" LS\\b")), 2);
+    QCOMPARE(lines.count(QRegularExpression(" LE?\\b")), 2 * 299);
 }
 
 void TestSpectrum3DPlot::zoomButtons_data()
