@@ -5,7 +5,7 @@
 
 #include <QObject>
 
-/// Pixel depth and display levels of an open image.
+/// Pixel depth and display levels of an open image, and what its intensity curves count.
 class GLOBALUI_SERVICES_EXPORT ImageCore : public QObject
 {
     Q_OBJECT
@@ -17,6 +17,8 @@ public:
     virtual int GetDepth() const = 0;
     virtual int GetLeftLevel() const = 0;
     virtual int GetRightLevel() const = 0;
+    /// The intensity curves are whole numbers: the samples times this, above 0. Of the curves that are being told, or were last.
+    virtual double GetCurveFactor() const { return 1.0; }
 
 protected:
     explicit ImageCore(QObject *parent = nullptr);

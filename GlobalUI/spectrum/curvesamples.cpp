@@ -14,20 +14,21 @@ double CurveSamples::PixelToX(int pixel)
 }
 
 template <typename Sample>
-void CurveSamples::AssignSamples(const Sample *data, int count)
+void CurveSamples::AssignSamples(const Sample *data, int count, double factor)
 {
     Clear();
+    m_factor = factor;
     m_x.reserve(count);
     m_values.reserve(count);
     m_byX.reserve(size_t(count));
     for (int i = 0; i < count; ++i) {
         m_x.append(PixelToX(i));
-        m_values.append(data[i]);
+        m_values.append(data[i] / factor);
         m_byX.emplace_back(m_x.last(), m_values.last());
     }
     const auto extremes = std::minmax_element(data, data + count);
-    m_minimum = *extremes.first;
-    m_maximum = *extremes.second;
+    m_minimum = *extremes.first / factor;
+    m_maximum = *extremes.second / factor;
     m_ends = QCPRange(PixelToX(0), PixelToX(count)); // turned around where x falls
 
     // Where two pixels have one x, the later one counts.
@@ -39,8 +40,8 @@ void CurveSamples::AssignSamples(const Sample *data, int count)
     m_byX.erase(m_byX.begin(), kept.base());
 }
 
-template void CurveSamples::AssignSamples(const unsigned int *data, int count);
-template void CurveSamples::AssignSamples(const int *data, int count);
+template void CurveSamples::AssignSamples(const unsigned int *data, int count, double factor);
+template void CurveSamples::AssignSamples(const int *data, int count, double factor);
 
 void CurveSamples::Clear()
 {

@@ -15,12 +15,13 @@ public:
     /// Calibrated x of a pixel; the pixel itself where the calibration gives no number.
     static double PixelToX(int pixel);
 
-    /// Counts, or samples of a file, which may be negative.
-    void Assign(const unsigned int *data, int count) { AssignSamples(data, count); }
-    void Assign(const int *data, int count) { AssignSamples(data, count); }
+    /// Counts, or samples of a file, which may be negative; the values are those over `factor`.
+    void Assign(const unsigned int *data, int count, double factor = 1.0) { AssignSamples(data, count, factor); }
+    void Assign(const int *data, int count, double factor = 1.0) { AssignSamples(data, count, factor); }
     void Clear();
 
     int Count() const { return m_x.size(); }
+    double Factor() const { return m_factor; }
     /// In the order of the pixels.
     const QVector<double> &X() const { return m_x; }
     const QVector<double> &Values() const { return m_values; }
@@ -37,11 +38,12 @@ public:
 
 private:
     template <typename Sample>
-    void AssignSamples(const Sample *data, int count);
+    void AssignSamples(const Sample *data, int count, double factor);
 
     QVector<double> m_x;
     QVector<double> m_values;
     std::vector<std::pair<double, double>> m_byX; ///< rising x, each x once
+    double m_factor = 1.0;
     double m_minimum = 0.0;
     double m_maximum = 0.0;
     QCPRange m_ends;

@@ -187,17 +187,16 @@ void Spectrum2DDrawFrameBase::SlotUpdateLevels(int low, int upper)
     m_plot->yAxis->setRange(low, UpperWithBlank(upper, blankRatio));
 }
 
-void Spectrum2DDrawFrameBase::SlotZoomIn()
+/// Of fractions the whole numbers are those that they were told in.
+void Spectrum2DDrawFrameBase::ZoomValues(double zoom)
 {
-    m_plot->yAxis->setRange(ZoomedValueRange(m_plot->yAxis->range(), 0.9));
+    const double factor = m_samples.Factor();
+    m_plot->yAxis->setRange(ZoomedValueRange(m_plot->yAxis->range() * factor, zoom) / factor);
     m_plot->replot(QCustomPlot::rpQueuedReplot);
 }
 
-void Spectrum2DDrawFrameBase::SlotZoomOut()
-{
-    m_plot->yAxis->setRange(ZoomedValueRange(m_plot->yAxis->range(), 1.1));
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
-}
+void Spectrum2DDrawFrameBase::SlotZoomIn() { ZoomValues(0.9); }
+void Spectrum2DDrawFrameBase::SlotZoomOut() { ZoomValues(1.1); }
 
 void Spectrum2DDrawFrameBase::SlotHorizontalZoomIn()
 {

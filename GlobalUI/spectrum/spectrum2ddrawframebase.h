@@ -76,8 +76,9 @@ private:
     void ConnectServices();
     void PlaceZoomBar();
 
+    /// The curve's values are the data over `factor`.
     template <typename Sample>
-    void DrawCurve(const Sample *data, int count);
+    void DrawCurve(const Sample *data, int count, double factor = 1.0);
     void ClearCurve();
     /// The values of one column across the tracks.
     void DrawColumn(const unsigned int *tracks, int trackCount);
@@ -87,6 +88,7 @@ private:
     void UpdatePeakMarkers();
     void UpdateTracer();
     void SetRangesOfCurve();
+    void ZoomValues(double zoom);
     /// The whole curve, with blank space above it.
     void AutoRange();
     void LeaveBlankAbove();

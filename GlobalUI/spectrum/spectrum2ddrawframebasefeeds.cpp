@@ -3,6 +3,9 @@
 
 #include "algspectrometer.h"
 #include "framemanager.h"
+#include "globalmanager.h"
+#include "imagecore.h"
+#include "imagemanager.h"
 #include "plotranges.h"
 #include "spectrumcurvepayload.h"
 #include "spectrumlinepayload.h"
@@ -14,6 +17,7 @@
 #include <qcustomplot.h>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -29,6 +33,14 @@ bool IsShown()
 /// What is wanted, or what the producer says that it has, when it says so.
 int AvailableCount(int wanted, int size) { return size > 0 ? std::min(wanted, size) : wanted; }
 
+double FactorOfImageCurves()
+{
+    const ImageManager *image = GlobalManager::GetInstance()->GetActiveImageManager();
+    const ImageCore *core = image ? image->GetImageCore() : nullptr;
+    const double factor = core ? core->GetCurveFactor() : 1.0;
+    return factor > 0.0 && std::isfinite(factor) ? factor : 1.0;
+}
+
 /// Takes the line that the producer has filled; it stays unwritten until the next exchange.
 const unsigned int *TakeLine(SpectrumLinePayload *payload)
 {
@@ -40,7 +52,7 @@ const unsigned int *TakeLine(SpectrumLinePayload *payload)
 } // namespace
 
 template <typename Sample>
-void Spectrum2DDrawFrameBase::DrawCurve(const Sample *data, int count)
+void Spectrum2DDrawFrameBase::DrawCurve(const Sample *data, int count, double factor)
 {
     if (width() < narrowestPage)
         return;
@@ -48,7 +60,7 @@ void Spectrum2DDrawFrameBase::DrawCurve(const Sample *data, int count)
         ClearCurve();
         return;
     }
-    m_samples.Assign(data, count);
+    m_samples.Assign(data, count, factor);
     m_plot->graph(0)->setData(m_samples.X(), m_samples.Values());
     FindPeaks(data, count);
     UpdateTracer();
@@ -130,7 +142,7 @@ void Spectrum2DDrawFrameBase::SlotUpdateImageVerticalCurve(int *data, int size, 
 
 void Spectrum2DDrawFrameBase::DrawImageCurve(const int *data, int size, int count)
 {
-    DrawCurve(data, qMin(count, size));
+    DrawCurve(data, qMin(count, size), FactorOfImageCurves());
     if (m_staticMode)
         AutoRange();
 }

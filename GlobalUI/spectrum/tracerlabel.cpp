@@ -11,10 +11,11 @@ TracerLabel::TracerLabel(QCustomPlot *plot)
 {
 }
 
-QString TracerLabel::Text(double x, double value)
+QString TracerLabel::Text(double x, double value, bool isWhole)
 {
     const QString position = QString::number(x, 'f', x > 1.0 ? 0 : 6);
-    return "[" + tr("Pos : ") + position + ", " + tr("Value : ") + QString::number(value, 'f', 0) + "]";
+    const QString text = isWhole ? QString::number(value, 'f', 0) : QString::number(value, 'g', 7);
+    return "[" + tr("Pos : ") + position + ", " + tr("Value : ") + text + "]";
 }
 
 void TracerLabel::Remove()
@@ -27,7 +28,7 @@ void TracerLabel::Remove()
     m_tracer = nullptr;
 }
 
-void TracerLabel::Show(double x, double value)
+void TracerLabel::Show(double x, double value, bool isWhole)
 {
     Remove();
     m_text = new QCPItemText(m_plot);
@@ -35,7 +36,7 @@ void TracerLabel::Show(double x, double value)
     const bool onTheLeft = x > m_plot->xAxis->range().upper / 2;
     m_text->setPositionAlignment((onTheLeft ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     m_text->setPadding(onTheLeft ? QMargins(0, lift, 15, 0) : QMargins(15, lift, 0, 0));
-    m_text->setText(Text(x, value));
+    m_text->setText(Text(x, value, isWhole));
     m_text->setColor(Qt::black);
     m_text->setFont(PlotFont());
     m_text->position->setType(QCPItemPosition::ptPlotCoords);

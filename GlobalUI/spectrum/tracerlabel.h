@@ -16,12 +16,12 @@ class TracerLabel
 public:
     explicit TracerLabel(QCustomPlot *plot);
 
-    /// "[Pos : 1234, Value : 56]"; positions up to 1.0 have six decimals.
-    static QString Text(double x, double value);
+    /// "[Pos : 1234, Value : 56]"; positions up to 1.0 have six decimals, and values seven digits unless they are whole numbers.
+    static QString Text(double x, double value, bool isWhole = true);
 
     void Remove();
     /// In plot coordinates; the place before is left.
-    void Show(double x, double value);
+    void Show(double x, double value, bool isWhole = true);
 
 private:
     QCustomPlot *m_plot;

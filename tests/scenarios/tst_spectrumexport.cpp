@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "camerasession.h"
 #include "fieldsource.h"
+#include "fitsbytes.h"
 #include "livepreview.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
@@ -19,9 +20,13 @@
 #include <QFileDialog>
 #include <QImageReader>
 #include <QLineEdit>
+#include <QRegularExpression>
+
+#include <qcustomplot.h>
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -147,7 +152,77 @@ private slots:
         m_workbench->services.Config()->SetCameraView();
     }
 
+    /// In the curve, at the axis, at the cross and in the table.
+    void fractionsAreThoseOfTheFile_data()
+    {
+        QTest::addColumn<float>("low");
+        QTest::addColumn<float>("high");
+        QTest::newRow("little above 0") << 0.0F << 1.5F;
+        QTest::newRow("on both sides of 0") << -3.0F << 7.0F;
+    }
+
+    void fractionsAreThoseOfTheFile()
+    {
+        QFETCH(float, low);
+        QFETCH(float, high);
+        const std::vector<float> values = OpenFractions(low, high);
+        m_workbench->Action("Curve")->trigger();
+        QTRY_VERIFY(Plot() && Plot()->graph(0)->dataCount() == int(values.size()));
+        for (size_t x = 0; x < values.size(); ++x)
+            QVERIFY(std::abs(Plot()->graph(0)->data()->at(int(x))->value - double(values[x])) < 1e-6);
+        QCOMPARE(Plot()->yAxis->label(), QString("Counts"));
+        QCOMPARE(Plot()->yAxis->range().lower, double(low));
+        QCOMPARE(Plot()->yAxis->range().upper, double(high) / (1 - m_workbench->services.Spectrum()->GetBlankRatio()));
+
+        const QPoint place = Plot()->axisRect()->center();
+        QTest::mouseClick(Plot(), Qt::LeftButton, {}, place);
+        const double x = Plot()->xAxis->pixelToCoord(place.x());
+        const double told = TracerValue();
+        QVERIFY2(told >= double(values[size_t(x) - 1]) && told <= double(values[size_t(x) + 2]), qPrintable(QString::number(told)));
+
+        const QVector<QVector<double>> columns = ColumnsOf(Exporting().Lines("Export Spectrum…", "fractions.csv"));
+        QCOMPARE(columns.value(2).size(), int(values.size()));
+        for (int i = 0; i < columns[2].size(); ++i)
+            QVERIFY(std::abs(columns[2][i] - double(values[size_t(i)])) <= std::abs(double(values[size_t(i)])) * 1e-11);
+        m_workbench->services.Config()->SetCameraView();
+    }
+
 private:
+    QCustomPlot *Plot() const { return qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())); }
+
+    /// Not a number when none is told.
+    double TracerValue() const
+    {
+        for (int i = 0; i < Plot()->itemCount(); ++i) {
+            const auto *label = qobject_cast<const QCPItemText *>(Plot()->item(i));
+            const QRegularExpressionMatch match =
+                QRegularExpression("Value : (.*)\\]").match(label ? label->text() : QString());
+            if (match.hasMatch())
+                return match.captured(1).toDouble();
+        }
+        return std::numeric_limits<double>::quiet_NaN();
+    }
+
+    /// Opens a picture whose rows rise evenly from one end to the other; the samples of a row.
+    std::vector<float> OpenFractions(float low, float high)
+    {
+        constexpr int width = 401;
+        std::vector<float> values;
+        QByteArray row;
+        for (int x = 0; x < width; ++x) {
+            values.push_back(low + (high - low) * float(x) / float(width - 1));
+            QByteArray sample(4, '\0');
+            qToBigEndian(values.back(), sample.data());
+            row += sample;
+        }
+        QFile file(m_folder->filePath("fractions.fits"));
+        const QByteArray bytes = FitsHeader(FitsPictureCards(-32, {width, 3})) + FitsBlocks(row + row + row);
+        [&] { QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size()); }();
+        file.close();
+        Open("fractions.fits");
+        return values;
+    }
+
     SpectrumExport Exporting() const { return SpectrumExport(m_workbench.get(), m_folder->path()); }
 
     /// A spectrum of one row with one line, so high.
@@ -163,6 +238,11 @@ private:
         QFile file(m_folder->filePath(name));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write(spe.Bytes()) > 0);
         file.close();
+        Open(name);
+    }
+
+    void Open(const QString &name)
+    {
         PictureDesk *desk = m_workbench->services.Desk();
         desk->Open({m_folder->filePath(name)}, desk->MainPicture());
         QTRY_COMPARE(desk->MainPicture()->GetFileName(), name);

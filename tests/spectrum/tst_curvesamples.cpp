@@ -181,19 +181,23 @@ void TestCurveSamples::tracerText_data()
 {
     QTest::addColumn<double>("x");
     QTest::addColumn<double>("value");
+    QTest::addColumn<bool>("isWhole");
     QTest::addColumn<QString>("text");
-    QTest::newRow("pixels") << 1234.4 << 56.0 << "[Pos : 1234, Value : 56]";
-    QTest::newRow("one") << 1.0 << 0.0 << "[Pos : 1.000000, Value : 0]";
-    QTest::newRow("above one") << 1.4 << 0.0 << "[Pos : 1, Value : 0]";
-    QTest::newRow("micrometres") << 0.5321234 << 65535.0 << "[Pos : 0.532123, Value : 65535]";
-    QTest::newRow("negative") << -3.0 << 1.0 << "[Pos : -3.000000, Value : 1]";
+    QTest::newRow("pixels") << 1234.4 << 56.0 << true << "[Pos : 1234, Value : 56]";
+    QTest::newRow("one") << 1.0 << 0.0 << true << "[Pos : 1.000000, Value : 0]";
+    QTest::newRow("above one") << 1.4 << 0.0 << true << "[Pos : 1, Value : 0]";
+    QTest::newRow("micrometres") << 0.5321234 << 65535.0 << true << "[Pos : 0.532123, Value : 65535]";
+    QTest::newRow("negative") << -3.0 << 1.0 << true << "[Pos : -3.000000, Value : 1]";
+    QTest::newRow("fraction") << 300.0 << 1.2345678 << false << "[Pos : 300, Value : 1.234568]";
+    QTest::newRow("fraction below zero") << 300.0 << -3.0 << false << "[Pos : 300, Value : -3]";
 }
 
 void TestCurveSamples::tracerText()
 {
     QFETCH(double, x);
     QFETCH(double, value);
-    QTEST(TracerLabel::Text(x, value), "text");
+    QFETCH(bool, isWhole);
+    QTEST(TracerLabel::Text(x, value, isWhole), "text");
 }
 
 GUARDED_TEST_MAIN(TestCurveSamples)

@@ -66,6 +66,7 @@ private slots:
     void rowAndColumnOfAPicture_data();
     void rowAndColumnOfAPicture();
     void samplesBelowZero();
+    void samplesThatAreFractions();
     void pictureCurvesOfOddSizes_data();
     void pictureCurvesOfOddSizes();
 };
@@ -422,6 +423,23 @@ void TestSpectrum2DFeeds::samplesBelowZero()
     page.page->SlotUpdateImageHorizontalCurve(row, 4, 0, 4);
     QCOMPARE(page.DrawnValues().last(), -2147483648.0);
     QCOMPARE(page.services.algorithm.askedSamples, Values({ 2147483651u, 2147483636u, 4294967295u, 0 }));
+}
+
+/// They are told in whole numbers.
+void TestSpectrum2DFeeds::samplesThatAreFractions()
+{
+    PlotPage page;
+    page.services.imageCore.curveFactor = 1000.0;
+    int row[] = { -3000, 1500, 250 };
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    QCOMPARE(page.DrawnValues(), QVector<double>({ -3, 1.5, 0.25 }));
+    QCOMPARE(page.Y().lower, -3.0);
+    QCOMPARE(page.Y().upper, 1.5 / (1 - page.services.spectrumUI.blankRatio));
+    page.DrawLine({ 7, 8 }); // counts of the camera are what they are
+    QCOMPARE(page.DrawnValues(), QVector<double>({ 7, 8 }));
+    page.services.imageCore.curveFactor = 0.0; // none at all
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    QCOMPARE(page.DrawnValues(), QVector<double>({ -3000, 1500, 250 }));
 }
 
 void TestSpectrum2DFeeds::pictureCurvesOfOddSizes_data()

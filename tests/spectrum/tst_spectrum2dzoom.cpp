@@ -33,6 +33,7 @@ private slots:
     void levels();
     void modeChange_data();
     void modeChange();
+    void fractionsAreZoomed();
     void picturesAreRangedEachTime();
     void rangingAgainKeepsTheBlankSpace();
     void aFreshPictureHasItsBlankSpaceOnce_data();
@@ -215,6 +216,20 @@ void TestSpectrum2DZoom::modeChange()
     QCOMPARE(page.plot->xAxis->label(), QString("Wavelength (nm)"));
     const bool ranged = staticMode || !running;
     QCOMPARE(DebugLines().contains("custom plot range[0.000000, 4000.000000]"), ranged);
+}
+
+/// Whole numbers of a fraction would be nothing but 0.
+void TestSpectrum2DZoom::fractionsAreZoomed()
+{
+    PlotPage page;
+    page.services.imageCore.curveFactor = 1000.0;
+    int row[] = { 100, 400, 200 };
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    QCOMPARE(Text(page.Y()), QString("0.1..0.5"));
+    page.page->SlotZoomIn();
+    QCOMPARE(Text(page.Y()), QString("0.1..0.45"));
+    page.page->SlotZoomOut();
+    QCOMPARE(Text(page.Y()), QString("0.1..0.495"));
 }
 
 void TestSpectrum2DZoom::picturesAreRangedEachTime()

@@ -26,7 +26,7 @@ OpenedPicture::OpenedPicture(PictureLoader *loader, Place place, QObject *parent
     , m_place(place)
     , m_measuring(new ViewMeasuring(this))
     , m_levels(new PictureLevels(this))
-    , m_profiles(new OpenedProfiles(this))
+    , m_profiles(new OpenedProfiles(m_levels, this))
     , m_trials(new PictureTrials(this))
     , m_isBrowsed(place == MainPlace)
 {
@@ -108,7 +108,7 @@ void OpenedPicture::Take(const LoadedPicture &picture)
     if (isOther)
         Follow(m_wanted);
     m_levels->Set(picture.samples.Type(), picture.range);
-    m_profiles->SetPicture(picture.samples, m_levels->Factor());
+    m_profiles->SetPicture(picture.samples);
 
     emit signalSetCropState(NewSelection, false);
     emit signalShowPicture(m_shown.image);

@@ -1,24 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "openedprofiles.h"
 
+#include "picturelevels.h"
 #include "spectrumuimanager.h"
 
 #include <algorithm>
 
-OpenedProfiles::OpenedProfiles(QObject *parent)
+OpenedProfiles::OpenedProfiles(PictureLevels *levels, QObject *parent)
     : QObject(parent)
+    , m_levels(levels)
 {
 }
 
-void OpenedProfiles::SetPicture(const Picture &picture, double factor)
-{
-    m_picture = picture;
-    m_factor = factor;
-}
+void OpenedProfiles::SetPicture(const Picture &picture) { m_picture = picture; }
 
 void OpenedProfiles::Forget()
 {
-    SetPicture(Picture(), 1);
+    SetPicture(Picture());
     m_curves.Forget();
 }
 
@@ -42,27 +40,32 @@ void OpenedProfiles::slotSetLines(int lines)
 
 void OpenedProfiles::slotAnnounce()
 {
-    if (!m_curves.Make(m_picture, m_factor))
+    if (!m_curves.Make(m_picture))
         return;
     const SpectrumUIManager *pages = SpectrumUIManager::GetInstance();
-    if (pages->IsDisplayMode2D() || pages->IsDisplayMode2DPeak())
-        m_curves.ShowAll();
+    const bool isPlotSeen = pages->IsDisplayMode2D() || pages->IsDisplayMode2DPeak();
     PictureCurves::Curve &row = m_curves.Row();
+    Prepare(&row, isPlotSeen);
     emit signalRow(row.samples.data(), int(row.samples.size()), row.offset, row.count);
     PictureCurves::Curve &column = m_curves.Column();
+    Prepare(&column, isPlotSeen);
     emit signalColumn(column.samples.data(), int(column.samples.size()), column.offset, column.count);
+}
+
+void OpenedProfiles::Prepare(PictureCurves::Curve *curve, bool isOfPlot)
+{
+    if (isOfPlot)
+        curve->ShowAll();
+    m_levels->SetCurveFactor(isOfPlot ? curve->FinestFactor() : m_levels->Factor());
+    curve->Tell(m_levels->GetCurveFactor());
 }
 
 std::vector<double> OpenedProfiles::Values(bool alongRow) const
 {
     PictureCurves curves = m_curves;
-    if (!curves.Make(m_picture, m_factor))
+    if (!curves.Make(m_picture))
         return {};
-    const std::vector<int> &samples = alongRow ? curves.Row().samples : curves.Column().samples;
-    std::vector<double> values(samples.begin(), samples.end());
-    for (double &value : values)
-        value /= m_factor;
-    return values;
+    return alongRow ? curves.Row().values : curves.Column().values;
 }
 
 bool OpenedProfiles::IsSaturated(bool alongRow) const

@@ -6,17 +6,20 @@
 
 #include <QObject>
 
+class PictureLevels;
+
 /// The profiles of an opened picture through the point that was picked last: as curves for the pages, and as values in the
-/// units of its file. Owned by its OpenedPicture, which hands over every picture that it shows. GUI thread.
+/// units of its file. Owned by its OpenedPicture, which hands over every picture that it shows, and its levels, which say what the
+/// curves count. GUI thread.
 class OpenedProfiles : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit OpenedProfiles(QObject *parent = nullptr);
+    explicit OpenedProfiles(PictureLevels *levels, QObject *parent = nullptr);
 
-    /// The picture on the screen; its curves are told multiplied by `factor`.
-    void SetPicture(const Picture &picture, double factor);
+    /// The picture on the screen.
+    void SetPicture(const Picture &picture);
     /// Nothing is on the screen and no point picked any more.
     void Forget();
     /// See PictureCurves::Pick().
@@ -35,7 +38,7 @@ public:
 public slots:
     /// Neighbouring lines that a curve is the mean of.
     void slotSetLines(int lines);
-    /// Tells the curves, if a point was picked; the plot, which has a zoom of its own, gets all of them.
+    /// Tells the curves, if a point was picked; the plot gets all of them.
     void slotAnnounce();
 
 signals:
@@ -44,7 +47,10 @@ signals:
     void signalColumn(int *samples, int size, int offset, int count);
 
 private:
+    /// Beside the picture a curve is seen between the levels; the plot has a zoom and an axis of its own.
+    void Prepare(PictureCurves::Curve *curve, bool isOfPlot);
+
+    PictureLevels *m_levels;
     Picture m_picture;
-    double m_factor = 1;
     PictureCurves m_curves;
 };

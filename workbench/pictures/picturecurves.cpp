@@ -14,7 +14,7 @@ namespace {
 /// The visible part, in samples; all of them for what is no part.
 void ShowPart(double from, double to, PictureCurves::Curve *curve)
 {
-    const int size = int(curve->samples.size());
+    const int size = int(curve->values.size());
     const bool isPart = from < to && from < 1 && to > 0; // false for what is no number
     curve->offset = isPart ? int(std::max(from, 0.0) * size) : 0;
     const int end = isPart ? int(std::min(to, 1.0) * size) : size;
@@ -36,6 +36,15 @@ double PixelValue(const Sample *samples, int channels)
     return sum / channels;
 }
 
+/// Of counts it is a count; of what is no number or infinite, 0.
+double MeanOf(double sum, int count, bool isWhole)
+{
+    const double mean = sum / count;
+    if (!std::isfinite(mean))
+        return 0;
+    return isWhole ? std::round(mean) : mean;
+}
+
 } // namespace
 
 void PictureCurves::Pick(const QPointF &point, const QRectF &region)
@@ -49,7 +58,7 @@ void PictureCurves::Pick(const QPointF &point, const QRectF &region)
 
 void PictureCurves::SetLines(int lines) { m_lines = std::clamp(lines, 1, PickedProfiles::MostLines); }
 
-bool PictureCurves::Make(const Picture &picture, double factor)
+bool PictureCurves::Make(const Picture &picture)
 {
     if (!m_isPicked || picture.IsNull())
         return false;
@@ -57,19 +66,40 @@ bool PictureCurves::Make(const Picture &picture, double factor)
     if (PictureDisplay::IsLikeLive(picture))
         TakeUnsigned(picture, point);
     else
-        TakeAny(picture, point, factor);
+        TakeAny(picture, point);
     // In the width and height slots it has right and bottom.
     ShowPart(m_region.x(), m_region.width(), &m_row);
     ShowPart(m_region.y(), m_region.height(), &m_column);
     return true;
 }
 
-void PictureCurves::ShowAll()
+double PictureCurves::Curve::FinestFactor() const
 {
-    for (Curve *curve : {&m_row, &m_column}) {
-        curve->offset = 0;
-        curve->count = int(curve->samples.size());
+    constexpr int mostDigits = 8; // in front of the point; an int holds some more
+    constexpr int mostZeros = 300;
+    double largest = 0;
+    bool areWhole = true;
+    for (const double value : values) {
+        largest = std::max(largest, std::abs(value));
+        areWhole = areWhole && value == std::floor(value);
     }
+    if (areWhole && largest <= double(std::numeric_limits<int>::max()))
+        return 1;
+    const int zeros = mostDigits - 1 - int(std::floor(std::log10(largest)));
+    return std::pow(10.0, std::clamp(zeros, -mostZeros, mostZeros));
+}
+
+void PictureCurves::Curve::Tell(double factor)
+{
+    samples.resize(values.size());
+    std::transform(values.begin(), values.end(), samples.begin(),
+                   [factor](double value) { return PictureLevels::Rounded(value * factor); });
+}
+
+void PictureCurves::Curve::ShowAll()
+{
+    offset = 0;
+    count = int(values.size());
 }
 
 ProfileBand PictureCurves::RowBand(const QSize &picture) const
@@ -107,29 +137,29 @@ std::vector<quint8> PictureCurves::Saturated(const Picture &picture, bool alongR
 void PictureCurves::TakeUnsigned(const Picture &picture, const QPoint &point)
 {
     m_profiles.Extract(PictureDisplay::ViewOf(picture), point, m_lines);
-    m_row.samples = m_profiles.Row();
-    m_column.samples = m_profiles.Column();
+    m_row.values.assign(m_profiles.Row().begin(), m_profiles.Row().end());
+    m_column.values.assign(m_profiles.Column().begin(), m_profiles.Column().end());
 }
 
-void PictureCurves::TakeAny(const Picture &picture, const QPoint &point, double factor)
+void PictureCurves::TakeAny(const Picture &picture, const QPoint &point)
 {
     const ProfileBand rows = BandAround(point.y(), m_lines, picture.Height());
     const ProfileBand columns = BandAround(point.x(), m_lines, picture.Width());
     const int channels = picture.Channels();
-    std::vector<double> rowSums(size_t(picture.Width()), 0);
-    m_column.samples.resize(size_t(picture.Height()));
+    const bool isWhole = !IsFloat(picture.Type());
+    m_row.values.assign(size_t(picture.Width()), 0);
+    m_column.values.resize(size_t(picture.Height()));
     VisitSampleType(picture.Type(), [&](auto sample) {
         for (int y = 0; y < picture.Height(); ++y) {
             const auto *samples = picture.Samples<decltype(sample)>(y);
             double sum = 0;
             for (int x = columns.first; x < columns.end; ++x)
                 sum += PixelValue(samples + qptrdiff(x) * channels, channels);
-            m_column.samples[size_t(y)] = PictureLevels::Rounded(sum / columns.Count() * factor);
+            m_column.values[size_t(y)] = MeanOf(sum, columns.Count(), isWhole);
             for (int x = 0; x < picture.Width() && y >= rows.first && y < rows.end; ++x)
-                rowSums[size_t(x)] += PixelValue(samples + qptrdiff(x) * channels, channels);
+                m_row.values[size_t(x)] += PixelValue(samples + qptrdiff(x) * channels, channels);
         }
     });
-    m_row.samples.resize(rowSums.size());
-    std::transform(rowSums.begin(), rowSums.end(), m_row.samples.begin(),
-                   [&](double sum) { return PictureLevels::Rounded(sum / rows.Count() * factor); });
+    for (double &value : m_row.values)
+        value = MeanOf(value, rows.Count(), isWhole);
 }

@@ -34,6 +34,12 @@ std::vector<int> Line(int count, int first, int step)
     return line;
 }
 
+void Tell(PictureCurves *curves, double factor)
+{
+    curves->Row().Tell(factor);
+    curves->Column().Tell(factor);
+}
+
 } // namespace
 
 class PictureCurvesTest : public GuardedTest
@@ -105,11 +111,13 @@ private slots:
         QFETCH(int, channels);
         PictureCurves curves;
         curves.Pick(QPointF(7.9, 3.0), Whole);
-        QVERIFY(curves.Make(Slope(SampleType(type), 1, channels), 1));
+        QVERIFY(curves.Make(Slope(SampleType(type), 1, channels)));
+        Tell(&curves, 1);
         QCOMPARE(curves.Row().samples, Line(20, 300, 1));
         QCOMPARE(curves.Column().samples, Line(10, 7, 100));
         curves.SetLines(5);
-        QVERIFY(curves.Make(Slope(SampleType(type), 1, channels), 1));
+        QVERIFY(curves.Make(Slope(SampleType(type), 1, channels)));
+        Tell(&curves, 1);
         QCOMPARE(curves.Row().samples, Line(20, 300, 1));
         QCOMPARE(curves.Column().samples, Line(10, 7, 100));
     }
@@ -123,7 +131,8 @@ private slots:
         QCOMPARE(levels.RightValue(), 1); // of the ruler, rounded
         PictureCurves curves;
         curves.Pick(QPointF(0, 2), Whole);
-        QVERIFY(curves.Make(Slope(SampleType::F32, 0.0005), levels.Factor()));
+        QVERIFY(curves.Make(Slope(SampleType::F32, 0.0005)));
+        Tell(&curves, levels.Factor());
         QCOMPARE(curves.Row().samples, Line(20, 1000, 5));
 
         levels.Set(SampleType::F32, {0, 60000});
@@ -135,6 +144,37 @@ private slots:
         QCOMPARE(levels.GetLeftLevel(), 300000000);
     }
 
+    /// A plot, which has an axis of its own, gets all that an int holds, whatever the levels are.
+    void aPlotGetsFineFractions_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<double>("scale"); // the highest is 319 times that
+        QTest::addColumn<double>("factor");
+        QTest::newRow("counts") << int(SampleType::F32) << 1.0 << 1.0;
+        QTest::newRow("fractions") << int(SampleType::F32) << 0.0047 << 1e7;
+        QTest::newRow("below zero") << int(SampleType::F64) << -0.5 << 1e5;
+        QTest::newRow("very small") << int(SampleType::F64) << 1.1e-40 << 1e45;
+        QTest::newRow("smallest") << int(SampleType::F64) << 1.1e-310 << 1e300;
+        QTest::newRow("more than an int holds") << int(SampleType::F64) << 1e30 << 1e-25;
+        QTest::newRow("nothing") << int(SampleType::F64) << 0.0 << 1.0;
+    }
+
+    void aPlotGetsFineFractions()
+    {
+        QFETCH(int, type);
+        QFETCH(double, scale);
+        PictureCurves curves;
+        curves.Pick(QPointF(0, 3), Whole);
+        QVERIFY(curves.Make(Slope(SampleType(type), scale)));
+        const double factor = curves.Row().FinestFactor();
+        QTEST(factor, "factor");
+        curves.Row().Tell(factor);
+        for (size_t x = 0; x < 20; ++x) {
+            const double value = scale * (300 + double(x));
+            QVERIFY(std::abs(curves.Row().samples[x] / factor - value) <= 0.5 / factor + std::abs(value) * 1e-7);
+        }
+    }
+
     void whatIsNoNumberIsNothing()
     {
         Picture picture = Slope(SampleType::F64);
@@ -143,11 +183,13 @@ private slots:
         picture.Samples<double>(3)[6] = -1e300;
         PictureCurves curves;
         curves.Pick(QPointF(0, 3), Whole);
-        QVERIFY(curves.Make(picture, 1));
+        QVERIFY(curves.Make(picture));
+        Tell(&curves, 1);
         QCOMPARE(curves.Row().samples[3], 303);
         QCOMPARE(curves.Row().samples[4], 0);
-        QCOMPARE(curves.Row().samples[5], std::numeric_limits<int>::max());
+        QCOMPARE(curves.Row().samples[5], 0);
         QCOMPARE(curves.Row().samples[6], std::numeric_limits<int>::min());
+        QCOMPARE(curves.Row().values[6], -1e300);
     }
 
     void visiblePart_data()
@@ -169,17 +211,18 @@ private slots:
         QFETCH(QRectF, region);
         PictureCurves curves;
         curves.Pick(QPointF(1, 1), region);
-        QVERIFY(curves.Make(Slope(SampleType::U16), 1));
+        QVERIFY(curves.Make(Slope(SampleType::U16)));
         QTEST(curves.Row().offset, "offset");
         QTEST(curves.Row().count, "count");
-        QCOMPARE(int(curves.Row().samples.size()), 20);
+        QCOMPARE(int(curves.Row().values.size()), 20);
     }
 
     void pointsOutsideAreAtTheEdge()
     {
         PictureCurves curves;
         curves.Pick(QPointF(-5, 1e300), Whole);
-        QVERIFY(curves.Make(Slope(SampleType::U16), 1));
+        QVERIFY(curves.Make(Slope(SampleType::U16)));
+        Tell(&curves, 1);
         QCOMPARE(curves.Row().samples, Line(20, 900, 1));
         QCOMPARE(curves.Column().samples, Line(10, 0, 100));
     }
@@ -187,14 +230,14 @@ private slots:
     void nothingPickedNothingMade()
     {
         PictureCurves curves;
-        QVERIFY(!curves.Make(Slope(SampleType::U16), 1));
+        QVERIFY(!curves.Make(Slope(SampleType::U16)));
         curves.Pick(QPointF(NotANumber, 1), Whole);
         QVERIFY(!curves.IsPicked());
         curves.Pick(QPointF(1, 1), Whole);
-        QVERIFY(!curves.Make(Picture(), 1));
-        QVERIFY(curves.Make(Slope(SampleType::U8), 1));
+        QVERIFY(!curves.Make(Picture()));
+        QVERIFY(curves.Make(Slope(SampleType::U8)));
         curves.Forget();
-        QVERIFY(!curves.Make(Slope(SampleType::U16), 1));
+        QVERIFY(!curves.Make(Slope(SampleType::U16)));
     }
 };
 
