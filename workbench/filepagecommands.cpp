@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "filepagecommands.h"
 
+#include "exportdialog.h"
 #include "filejobs.h"
 #include "filenametext.h"
 #include "filethumbnail.h"
@@ -14,7 +15,6 @@
 #include "workspace.h"
 #include "workspaceconfig.h"
 
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
@@ -133,14 +133,11 @@ void FilePageCommands::AskForMerged(const QStringList &paths)
         emit m_services->signalMessage(tr("Select two or more pictures first: they are merged into one file."));
         return;
     }
-    auto *dialog = new QFileDialog(m_window, tr("Merge %n Pictures", nullptr, paths.size()), QFileInfo(paths.first()).path());
+    const QFileInfo first(paths.first());
+    const QFileInfo merged(first.path(), tr("%1 merged.tif").arg(first.completeBaseName()));
+    auto *dialog = new ExportDialog(tr("Merge %n Pictures", nullptr, paths.size()), {tr("TIFF (*.tif *.tiff)")},
+                                    merged.path() + '/' + merged.completeBaseName(), m_window);
     dialog->setObjectName("MergeDialog");
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilter(tr("TIFF (*.tif *.tiff)"));
-    dialog->setDefaultSuffix("tif");
-    dialog->selectFile(tr("%1 merged.tif").arg(QFileInfo(paths.first()).completeBaseName()));
     connect(dialog, &QFileDialog::fileSelected, this,
             [this, paths](const QString &target) { m_services->Jobs()->Merge(paths, target); });
     dialog->open();

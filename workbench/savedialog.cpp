@@ -20,6 +20,14 @@ QString FilterOf(PictureFormat format)
     return QString("%1 (*.%2)").arg(FormatName(format), FormatSuffixes(format).join(" *."));
 }
 
+QStringList Filters()
+{
+    QStringList filters;
+    for (const PictureFormat format : formats)
+        filters << FilterOf(format);
+    return filters;
+}
+
 PictureFormat FormatOfFilter(const QString &filter)
 {
     for (const PictureFormat format : formats) {
@@ -37,21 +45,13 @@ bool HoldsStacks(PictureFormat format)
 } // namespace
 
 SaveDialog::SaveDialog(const Subject &subject, QWidget *parent)
-    : QFileDialog(parent, tr("Save Image As"), QFileInfo(subject.suggestedPath).path())
+    : ExportDialog(tr("Save Image As"), Filters(), subject.suggestedPath, parent)
     , m_subject(subject)
     , m_loss(new QLabel(this))
     , m_allFrames(new QCheckBox(tr("All %1 frames").arg(subject.frames), this))
 {
     setObjectName("SaveDialog");
-    setAttribute(Qt::WA_DeleteOnClose);
-    setOption(QFileDialog::DontUseNativeDialog);
-    setAcceptMode(QFileDialog::AcceptSave);
-    QStringList filters;
-    for (const PictureFormat format : formats)
-        filters << FilterOf(format);
-    setNameFilters(filters);
-    setDefaultSuffix(FormatSuffixes(formats[0]).first());
-    selectFile(QFileInfo(subject.suggestedPath).fileName() + '.' + defaultSuffix());
+    setDefaultSuffix(FormatSuffixes(formats[0]).first()); // the notes are of that before the name is whole
 
     m_name = findChild<QLineEdit *>("fileNameEdit");
     m_loss->setObjectName("labelLoss");

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "exportdialog.h"
 #include "sampletype.h"
-
-#include <QFileDialog>
 
 class QCheckBox;
 class QLabel;
 class QLineEdit;
 
 /// Asks where to save a picture, and says what the chosen format cannot keep of it. GUI thread.
-class SaveDialog : public QFileDialog
+class SaveDialog : public ExportDialog
 {
     Q_OBJECT
 

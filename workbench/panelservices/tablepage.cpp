@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tablepage.h"
 
+#include "exportdialog.h"
 #include "fieldsource.h"
 
 #include <QAction>
 #include <QClipboard>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
+#include <QStandardPaths>
 #include <QTableView>
 
 #include <functional>
@@ -122,13 +123,9 @@ void TablePage::slotCopy() { QGuiApplication::clipboard()->setText(Text()); }
 
 void TablePage::slotSave()
 {
-    auto *dialog = new QFileDialog(this, tr("Save Table"));
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    auto *dialog = new ExportDialog(tr("Save Table"), {tr("Tables (*.csv)")}, folder + '/' + tr("table"), this);
     dialog->setObjectName("SaveTableDialog");
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilter(tr("Tables (*.csv)"));
-    dialog->setDefaultSuffix("csv");
     connect(dialog, &QFileDialog::fileSelected, this, [this](const QString &path) {
         if (m_source)
             m_source->Set("saveTable", path);

@@ -102,8 +102,20 @@ private slots:
         QCOMPARE(QGuiApplication::clipboard()->text(), QString("Name\tArea\ntwo\t2\n"));
     }
 
+    /// What follows a dot in it is no suffix, unless it is that of the table.
+    void savedNamesGetASuffix_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("saved");
+        QTest::newRow("none") << "peaks" << "peaks.csv";
+        QTest::newRow("number") << "lamp 1.5s" << "lamp 1.5s.csv";
+        QTest::newRow("of the table") << "peaks.CSV" << "peaks.CSV";
+    }
+
     void savedNamesGetASuffix()
     {
+        QFETCH(QString, typed);
+        QFETCH(QString, saved);
         Counted source;
         source.Add("one", 1);
         QTemporaryDir folder;
@@ -115,9 +127,9 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(dialog));
         QVERIFY(source.saved.isEmpty()); // nothing waits for the dialog
         auto *name = dialog->findChild<QLineEdit *>("fileNameEdit");
-        name->setText(folder.filePath("peaks"));
+        name->setText(folder.filePath(typed));
         QTest::keyClick(name, Qt::Key_Return);
-        QCOMPARE(source.saved, QStringList(folder.filePath("peaks.csv")));
+        QCOMPARE(source.saved, QStringList(folder.filePath(saved)));
         QTRY_VERIFY(!dialog);
         // Thought better of it.
         QTest::mouseClick(Button(page, "Save"), Qt::LeftButton);

@@ -8,8 +8,14 @@
 
 namespace {
 
-/// "SVG drawing (*.svg)" gives "svg".
-QString SuffixOf(const QString &filter) { return filter.section("*.", 1).remove(')'); }
+/// "TIFF (*.tif *.tiff)" gives "tif" and "tiff".
+QStringList SuffixesOf(const QString &filter)
+{
+    QStringList suffixes = filter.section('(', -1).remove(')').split(' ');
+    for (QString &suffix : suffixes)
+        suffix.remove("*.");
+    return suffixes;
+}
 
 } // namespace
 
@@ -22,14 +28,19 @@ ExportDialog::ExportDialog(const QString &title, const QStringList &filters, con
     setAcceptMode(QFileDialog::AcceptSave);
     setNameFilters(filters);
     // With it the name follows another filter, too.
-    selectFile(QFileInfo(suggestedPath).fileName() + '.' + SuffixOf(filters.first()));
+    selectFile(WithSuffix(QFileInfo(suggestedPath).fileName()));
 }
 
 bool ExportDialog::IsOffered(const QString &suffix) const
 {
     const QStringList filters = nameFilters();
     return std::any_of(filters.begin(), filters.end(),
-                       [&suffix](const QString &filter) { return SuffixOf(filter).compare(suffix, Qt::CaseInsensitive) == 0; });
+                       [&suffix](const QString &filter) { return SuffixesOf(filter).contains(suffix, Qt::CaseInsensitive); });
+}
+
+QString ExportDialog::WithSuffix(const QString &name) const
+{
+    return name + '.' + SuffixesOf(selectedNameFilter()).first();
 }
 
 /// The name is whole before it is asked whether a file of that name may be replaced.
@@ -38,6 +49,6 @@ void ExportDialog::accept()
     auto *name = findChild<QLineEdit *>("fileNameEdit");
     const QFileInfo typed(directory(), name->text());
     if (!name->text().isEmpty() && !typed.isDir() && !IsOffered(typed.suffix()))
-        name->setText(name->text() + '.' + SuffixOf(selectedNameFilter()));
+        name->setText(WithSuffix(name->text()));
     QFileDialog::accept();
 }
