@@ -51,8 +51,6 @@ SaveDialog::SaveDialog(const Subject &subject, QWidget *parent)
     , m_allFrames(new QCheckBox(tr("All %1 frames").arg(subject.frames), this))
 {
     setObjectName("SaveDialog");
-    setDefaultSuffix(FormatSuffixes(formats[0]).first()); // the notes are of that before the name is whole
-
     m_name = findChild<QLineEdit *>("fileNameEdit");
     m_loss->setObjectName("labelLoss");
     m_loss->setWordWrap(true);
@@ -72,11 +70,7 @@ SaveDialog::SaveDialog(const Subject &subject, QWidget *parent)
 /// The name follows the format that was chosen.
 void SaveDialog::slotFilterSelected(const QString &filter)
 {
-    const QString suffix = FormatSuffixes(FormatOfFilter(filter)).first();
-    setDefaultSuffix(suffix);
-    const QFileInfo name(Path());
-    const bool hasSuffix = FormatOfName(name.fileName()) != PictureFormat::Unknown;
-    m_name->setText((hasSuffix ? name.completeBaseName() : name.fileName()) + '.' + suffix);
+    m_name->setText(QFileInfo(Path()).completeBaseName() + '.' + FormatSuffixes(FormatOfFilter(filter)).first());
 }
 
 void SaveDialog::slotUpdateNotes()
@@ -85,8 +79,6 @@ void SaveDialog::slotUpdateNotes()
     m_loss->setText(SavingLossText(format, m_subject.type, m_subject.channels));
     m_allFrames->setEnabled(HoldsStacks(format));
 }
-
-QString SaveDialog::Path() const { return selectedFiles().value(0); }
 
 bool SaveDialog::AllFrames() const
 {

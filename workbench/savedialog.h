@@ -26,8 +26,6 @@ public:
 
     SaveDialog(const Subject &subject, QWidget *parent);
 
-    /// The path that was chosen.
-    QString Path() const;
     /// The whole stack rather than the frame that is shown.
     bool AllFrames() const;
 

@@ -289,6 +289,16 @@ private slots:
         const auto saved = OpenPicture(Path("saved.tif"), error);
         QVERIFY2(saved, qPrintable(error));
         QCOMPARE(saved->Info().frames, 3);
+
+        // What follows the dot is no suffix.
+        QTRY_VERIFY(!m_workbench->window.findChild<SaveDialog *>());
+        m_workbench->services.Desk()->MainPicture()->slotSaveImageAs();
+        dialog = OpenSaveDialog();
+        QVERIFY(dialog);
+        TypeName(dialog, Path("lamp 1.5s"));
+        QVERIFY(dialog->findChild<QCheckBox *>("checkBoxAllFrames")->isEnabled());
+        QMetaObject::invokeMethod(dialog, "accept");
+        QTRY_COMPARE(m_workbench->StatusText(), QString("\u201clamp 1.5s.tif\u201d was saved."));
     }
 
     void badFilesAreToldAndLeaveWhatIsShown()

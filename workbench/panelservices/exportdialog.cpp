@@ -38,6 +38,13 @@ bool ExportDialog::IsOffered(const QString &suffix) const
                        [&suffix](const QString &filter) { return SuffixesOf(filter).contains(suffix, Qt::CaseInsensitive); });
 }
 
+QString ExportDialog::Whole(const QString &name) const
+{
+    return IsOffered(QFileInfo(name).suffix()) ? name : WithSuffix(name);
+}
+
+QString ExportDialog::Path() const { return Whole(selectedFiles().value(0)); }
+
 QString ExportDialog::WithSuffix(const QString &name) const
 {
     return name + '.' + SuffixesOf(selectedNameFilter()).first();
@@ -48,7 +55,7 @@ void ExportDialog::accept()
 {
     auto *name = findChild<QLineEdit *>("fileNameEdit");
     const QFileInfo typed(directory(), name->text());
-    if (!name->text().isEmpty() && !typed.isDir() && !IsOffered(typed.suffix()))
-        name->setText(WithSuffix(name->text()));
+    if (!name->text().isEmpty() && !typed.isDir())
+        name->setText(Whole(name->text()));
     QFileDialog::accept();
 }

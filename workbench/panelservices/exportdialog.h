@@ -16,10 +16,14 @@ public:
     /// none.
     ExportDialog(const QString &title, const QStringList &filters, const QString &suggestedPath, QWidget *parent);
 
+    /// The path that was chosen, or would be with the name as it stands.
+    QString Path() const;
+
 protected:
     void accept() override;
 
 private:
     bool IsOffered(const QString &suffix) const;
+    QString Whole(const QString &name) const;
     QString WithSuffix(const QString &name) const;
 };
