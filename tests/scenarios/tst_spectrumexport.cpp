@@ -20,6 +20,7 @@
 #include <QFileDialog>
 #include <QImageReader>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QRegularExpression>
 
 #include <qcustomplot.h>
@@ -75,6 +76,23 @@ private slots:
         SpectrumExport::Accept(dialog);
         QVERIFY(Exporting().IsSaved("lamp 0.3s.svg"));
         m_workbench->services.Config()->SetCameraView(); // a live picture leaves with its page
+    }
+
+    /// The stick was pulled while the dialog was open.
+    void aFolderThatIsGoneIsSaid()
+    {
+        m_workbench->Action("Tracks in 3D")->trigger();
+        m_workbench->Action("Find Tracks")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(VisiblePlot(m_workbench->window.centralWidget()), waitMs);
+        QFileDialog *dialog = Exporting().Open("Export Plot…");
+        QVERIFY(dialog);
+        emit dialog->fileSelected(m_folder->filePath("gone/tracks.svg"));
+        dialog->reject();
+        QMessageBox *shown = nullptr;
+        QTRY_VERIFY((shown = Notice()));
+        QVERIFY2(shown->text().contains("tracks.svg"), qPrintable(shown->text()));
+        QVERIFY(QDir(m_folder->path()).entryList({"*track*"}, QDir::Files).isEmpty());
+        shown->close();
     }
 
     /// They run along the rows whatever the direction is, and have the axis of those.
@@ -189,6 +207,15 @@ private slots:
 
 private:
     QCustomPlot *Plot() const { return qobject_cast<QCustomPlot *>(VisiblePlot(m_workbench->window.centralWidget())); }
+    /// Of what went wrong; null when none is seen.
+    QMessageBox *Notice() const
+    {
+        for (QMessageBox *notice : m_workbench->window.findChildren<QMessageBox *>("FaultNotice")) {
+            if (notice->isVisible())
+                return notice;
+        }
+        return nullptr;
+    }
 
     /// Not a number when none is told.
     double TracerValue() const
