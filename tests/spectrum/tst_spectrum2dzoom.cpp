@@ -27,6 +27,7 @@ private slots:
     void requestsForNewRanges_data();
     void requestsForNewRanges();
     void verticalButtons();
+    void verticalButtonsKeepACurveWithAnOffset();
     void horizontalButtons();
     void reset();
     void calibrationChangeRestartsTheSteps();
@@ -131,6 +132,15 @@ void TestSpectrum2DZoom::verticalButtons()
     ClickButton(page, "pushButton2DZoomOut");
     QCOMPARE(Text(page.Y()), QString("-10..990"));
     QCOMPARE(Text(page.X()), QString("0..2"));
+}
+
+void TestSpectrum2DZoom::verticalButtonsKeepACurveWithAnOffset()
+{
+    PlotPage page;
+    page.DrawLine({ 1000, 1100, 1000 });
+    for (int click = 0; click < 10; ++click)
+        ClickButton(page, "pushButton2DZoomIn");
+    QVERIFY2(page.Y().contains(1000) && page.Y().contains(1001), qPrintable(Text(page.Y())));
 }
 
 void TestSpectrum2DZoom::horizontalButtons()
