@@ -89,6 +89,7 @@ private:
     void SetRangesOfCurve();
     /// The whole curve, with blank space above it.
     void AutoRange();
+    /// The value axis is ranged: it gets its blank space, once.
     void LeaveBlankAbove();
     void ZoomByDrag();
     void RemoveSelectionRect();

@@ -36,6 +36,7 @@ private slots:
     void modeChange();
     void picturesAreRangedEachTime();
     void rangingAgainKeepsTheBlankSpace();
+    void steppingBackLeavesTheBlankSpaceOnce();
     void aFreshPictureHasItsBlankSpaceOnce_data();
     void aFreshPictureHasItsBlankSpaceOnce();
     void aPictureBelowZeroIsNotCutOff();
@@ -256,6 +257,22 @@ void TestSpectrum2DZoom::rangingAgainKeepsTheBlankSpace()
     page.plot->yAxis->setRange(0, 8000); // zoomed by the user
     page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
     QCOMPARE(Text(page.Y()), QString("0..10000"));
+}
+
+void TestSpectrum2DZoom::steppingBackLeavesTheBlankSpaceOnce()
+{
+    PlotPage page;
+    QVERIFY(page.Show());
+    page.page->SetStaticMode(true);
+    int row[] = { 0, 8000, 200 };
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    row[1] = 4000;
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    page.plot->replot();
+    page.Drag(QPoint(400, 100), QPoint(200, 100)); // there is no step left
+    QCOMPARE(Text(page.Y()), QString("0..5000"));
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    QCOMPARE(Text(page.Y()), QString("0..5000"));
 }
 
 void TestSpectrum2DZoom::aFreshPictureHasItsBlankSpaceOnce_data()
