@@ -404,7 +404,7 @@ void CameraOverlaysTest::focusWithoutAngles()
     emit services.spectrum.SignalSpectralineAutoDetectFinish();
     services.spectrum.angleList.clear();
     emit services.spectrum.SignalSpectralineAutoDetectFinish();
-    QCOMPARE(page.VisibleMarks(), 0);
+    QCOMPARE(page.VisibleMarks(), 1); // the cross line
     QCOMPARE(CallLog::Count("SpectrumManager::ClearFocusInfo()"), 0);
 }
 
@@ -422,8 +422,7 @@ void CameraOverlaysTest::focusOffHidesTheCrossLine()
     ShellServices services;
     services.spectrumUI.focusAssitanceFlag = true;
     Page page;
-    emit services.spectrum.SignalSpectralineAutoDetectFinish();
-    emit services.spectrumUI.SignalFocusCrossLineFlagChanged(true);
+    emit services.spectrum.SignalSpectralineAutoDetectFinish(); // whose overlay comes after the flags
     const auto *cross = qobject_cast<QGraphicsObject *>(page.Overlays().first()->GetCrossLineObject());
     QVERIFY(cross->isVisible());
     services.spectrumUI.focusAssitanceFlag = false;
@@ -431,6 +430,8 @@ void CameraOverlaysTest::focusOffHidesTheCrossLine()
     QVERIFY(!cross->isVisible());
     emit services.spectrumUI.SignalFocusOnChanged(true); // it can come back
     QVERIFY(cross->isVisible());
+    emit services.spectrumUI.SignalFocusCrossLineFlagChanged(false);
+    QVERIFY(!cross->isVisible());
 }
 
 void CameraOverlaysTest::closingFocusAssistance()
