@@ -27,6 +27,8 @@ class TestSpectrum2DMouse : public GuardedTest
 private slots:
     void rubberBand();
     void secondButtonDuringADrag();
+    void aDragEndsWithItsPage();
+    void aReleaseThatWasNotSeen();
     void moveWithoutPress();
     void tracerAtTheClick_data();
     void tracerAtTheClick();
@@ -84,6 +86,36 @@ void TestSpectrum2DMouse::secondButtonDuringADrag()
     page.Send(QEvent::MouseMove, QPoint(240, 100));
     page.Send(QEvent::MouseButtonRelease, QPoint(240, 100));
     QCOMPARE(page.Items<QCPItemRect>().size(), 0);
+}
+
+void TestSpectrum2DMouse::aDragEndsWithItsPage()
+{
+    PlotPage page;
+    QVERIFY(page.Show());
+    page.DrawLine(HundredSamples());
+    page.Send(QEvent::MouseButtonPress, QPoint(200, 100));
+    page.Send(QEvent::MouseMove, QPoint(260, 150));
+    page.page->hide();
+    QCOMPARE(page.Items<QCPItemRect>().size(), 0);
+    QVERIFY(page.Show());
+    page.Send(QEvent::MouseMove, QPoint(280, 150));
+    QCOMPARE(page.Items<QCPItemRect>().size(), 0);
+}
+
+void TestSpectrum2DMouse::aReleaseThatWasNotSeen()
+{
+    PlotPage page;
+    QVERIFY(page.Show());
+    page.DrawLine(HundredSamples());
+    const QString before = Text(page.X());
+    page.Send(QEvent::MouseButtonPress, QPoint(200, 100));
+    page.Send(QEvent::MouseMove, QPoint(260, 150));
+    QMouseEvent move(QEvent::MouseMove, QPointF(280, 150), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(page.plot, &move);
+    QCOMPARE(page.Items<QCPItemRect>().size(), 0);
+    page.Send(QEvent::MouseMove, QPoint(300, 150));
+    QCOMPARE(page.Items<QCPItemRect>().size(), 0);
+    QCOMPARE(Text(page.X()), before);
 }
 
 void TestSpectrum2DMouse::moveWithoutPress()
