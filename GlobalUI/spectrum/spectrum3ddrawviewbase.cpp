@@ -5,6 +5,7 @@
 #include "framemanager.h"
 #include "globalclass.h"
 #include "line3d.h"
+#include "payloadlocker.h"
 #include "rosenbrock.h"
 #include "spectrumlinepayload.h"
 #include "spectrummanager.h"
@@ -13,7 +14,6 @@
 #include "trackplot.h"
 
 #include <QLabel>
-#include <QMutexLocker>
 #include <QOpenGLContext>
 #include <QVBoxLayout>
 
@@ -126,7 +126,7 @@ void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
     int minimum = 0;
     int maximum = 0;
     {
-        QMutexLocker lock(payload->lock);
+        const PayloadLocker locker(payload->lock);
         std::swap(payload->fill, payload->show);
         values = payload->show;
         minimum = payload->minimum;

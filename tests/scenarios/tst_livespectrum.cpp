@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "livepreview.h"
 #include "openedpicture.h"
+#include "payloadlocker.h"
 #include "picturedesk.h"
 #include "plotpicture.h"
 #include "spectrographoptics.h"
@@ -20,7 +21,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QMutexLocker>
 #include <QPushButton>
 #include <QScrollBar>
 
@@ -60,7 +60,7 @@ private slots:
         double made = -1;
         connect(Spectra(), &SpectrumManager::SignalUpdateFVB, this, [&](void *param) {
             auto *payload = static_cast<SpectrumLinePayload *>(param);
-            const QMutexLocker lock(payload->lock);
+            const PayloadLocker locker(payload->lock);
             drawn = payload->fill[1000];
             made = Spectra()->Shown().corrected.values[1000];
         });
