@@ -307,15 +307,17 @@ private slots:
         QCOMPARE(m_workbench->StatusText(), QString("There is no plot to export: show the curve or the tracks in 3D first."));
         m_workbench->Action("Undo Clear Tracks")->trigger();
         QTRY_VERIFY_WITH_TIMEOUT(Plot3D(), waitMs);
+        const QString switchedOff = "The tracks are switched off.";
         m_workbench->Action("Show Tracks")->trigger();
-        QTRY_VERIFY(!Plot3D());
+        QTRY_COMPARE(Notice(), switchedOff);
+        QVERIFY(!Plot3D());
         m_workbench->Action("Show Tracks")->trigger();
         QTRY_VERIFY_WITH_TIMEOUT(Plot3D(), waitMs);
         m_workbench->Action("All Rows")->trigger();
-        QTRY_VERIFY(!Plot3D());
+        QTRY_COMPARE(Notice(), switchedOff);
         m_workbench->Action("Curve")->trigger();
         m_workbench->Action("Tracks in 3D")->trigger();
-        QTRY_VERIFY(!Notice().isEmpty());
+        QTRY_COMPARE(Notice(), switchedOff);
         QVERIFY(!Plot3D());
     }
 
