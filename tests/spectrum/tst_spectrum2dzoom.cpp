@@ -22,6 +22,7 @@ private slots:
     void firstCurveSetsTheRanges();
     void blankRatio_data();
     void blankRatio();
+    void aDarkCurveIsBroughtIntoTheRange();
     void nextCurveKeepsTheRanges();
     void automaticZoomFollowsEachCurve();
     void requestsForNewRanges_data();
@@ -75,6 +76,16 @@ void TestSpectrum2DZoom::blankRatio()
     page.services.spectrumUI.blankRatio = ratio;
     page.DrawLine({ 0, 4000, 200 });
     QTEST(Text(page.Y()), "y");
+}
+
+/// It has no height, which is no range.
+void TestSpectrum2DZoom::aDarkCurveIsBroughtIntoTheRange()
+{
+    PlotPage page;
+    page.DrawLine({ 100, 5000, 100 });
+    page.page->SlotUpdateResetFlag();
+    page.DrawLine({ 0, 0, 0 });
+    QVERIFY2(page.Y().contains(0), qPrintable(Text(page.Y())));
 }
 
 void TestSpectrum2DZoom::nextCurveKeepsTheRanges()
