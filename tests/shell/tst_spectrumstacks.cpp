@@ -30,6 +30,7 @@ private slots:
     void useAreaChange();
     void newAreaOfTheOpenFile_data();
     void newAreaOfTheOpenFile();
+    void newAreaWithoutAPicture();
     void spectrumFileStartsHorizontal();
 };
 
@@ -288,6 +289,19 @@ void SpectrumStacksTest::newAreaOfTheOpenFile()
     stack.slotNewArea(1, 2, 3, 4);
     QCOMPARE(CallLog::Calls(), QStringList({ "DisplayModeUIManager::SetImageExpansionAreaFlag(" + valid + ")",
                                              "DisplayModeUIManager::SetImageExpansionArea(" + area + ")",
+                                             "SpectrumUIManager::SlotImageNewArea(1, 2, 3, 4)" }));
+}
+
+void SpectrumStacksTest::newAreaWithoutAPicture()
+{
+    ShellServices services;
+    services.spectrumUI.validConversationResult = true;
+    ImageSpectrumStackedWidget stack(nullptr);
+    services.global.activeImageManager = nullptr;
+    CallLog::Clear();
+    stack.slotNewArea(1, 2, 3, 4);
+    QCOMPARE(CallLog::Calls(), QStringList({ "DisplayModeUIManager::SetImageExpansionAreaFlag(false)",
+                                             "DisplayModeUIManager::SetImageExpansionArea()",
                                              "SpectrumUIManager::SlotImageNewArea(1, 2, 3, 4)" }));
 }
 
