@@ -47,7 +47,8 @@ ImageSpectrumStackedWidget::ImageSpectrumStackedWidget(QWidget *parent)
 
 void ImageSpectrumStackedWidget::slotNewArea(qreal xmin, qreal xmax, qreal ymin, qreal ymax)
 {
-    QString area = GlobalManager::GetInstance()->GetActiveImageManager()->GetExpansionArea();
+    const ImageManager *image = GlobalManager::GetInstance()->GetActiveImageManager();
+    QString area = image ? image->GetExpansionArea() : QString();
     const bool valid = !area.isEmpty() && SpectrumUIManager::GetInstance()->IsValidConversation(&area);
     DisplayModeUIManager::GetInstance()->SetImageExpansionAreaFlag(valid);
     DisplayModeUIManager::GetInstance()->SetImageExpansionArea(area);

@@ -4,7 +4,7 @@
 #include <QGraphicsObject>
 
 /// The cross through the middle of the picture, an aid for focusing. Seen while focus assistance is
-/// on, as it is at first, and the cross line is enabled. The scene owns it.
+/// on and the cross line is enabled, as both are at first: it is made after they were switched on. The scene owns it.
 class FocusCrossLine : public QGraphicsObject
 {
     Q_OBJECT
@@ -33,6 +33,6 @@ private:
 
     bool m_retired = false;
     bool m_wanted = true;
-    bool m_enabled = false;
+    bool m_enabled = true;
     QRectF m_picture;
 };

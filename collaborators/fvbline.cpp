@@ -9,6 +9,7 @@
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
 #include <QPainter>
+#include <QtMath>
 
 namespace {
 
@@ -57,14 +58,14 @@ QPainterPath FVBLine::shape() const
     QPainterPath edges;
     edges.setFillRule(Qt::WindingFill);
     edges.addRect(Part(m_top - reach, m_top + reach));
-    edges.addRect(Part(m_bottom - reach, m_bottom + reach));
+    edges.addRect(Part(LowerEdge() - reach, LowerEdge() + reach));
     return edges;
 }
 
 void FVBLine::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
 {
-    const QRectF band = Part(m_top, m_bottom);
-    painter->fillRect(band, QColor(0, 160, 255, 40));
+    painter->fillRect(Part(m_top, m_bottom + 1), QColor(0, 160, 255, 40));
+    const QRectF band = Part(m_top, LowerEdge());
     QPen pen(m_manual ? Qt::yellow : Qt::cyan);
     pen.setCosmetic(true);
     painter->setPen(pen);
@@ -96,7 +97,7 @@ void FVBLine::SlotFVBSpeedingFlagChanged(bool speeding)
 void FVBLine::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     const qreal toTop = qAbs(LineAt(event->scenePos()) - m_top);
-    const qreal toBottom = qAbs(LineAt(event->scenePos()) - m_bottom);
+    const qreal toBottom = qAbs(LineAt(event->scenePos()) - LowerEdge());
     m_dragged = toTop < toBottom ? Edge::Top : Edge::Bottom;
 }
 
@@ -104,7 +105,8 @@ void FVBLine::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
     const qreal first = LineAt(m_picture.topLeft());
     const qreal last = LineAt(m_picture.bottomRight()) - 1;
-    const int line = qRound(qBound(first, LineAt(event->scenePos()), last));
+    // The row under the mouse becomes the first or the last one.
+    const int line = qFloor(qBound(first, LineAt(event->scenePos()), last));
     if (m_dragged == Edge::Top)
         SetLines(qMin(line, m_bottom), m_bottom);
     else if (m_dragged == Edge::Bottom)
@@ -147,12 +149,22 @@ QRectF FVBLine::Part(qreal from, qreal to) const
     return QRectF(m_picture.left(), from, m_picture.width(), to - from);
 }
 
+qreal FVBLine::LowerEdge() const
+{
+    return qMin(m_bottom + 1.0, LineAt(m_picture.bottomRight()) - ScreenPixel());
+}
+
 qreal FVBLine::EdgeReach() const
+{
+    return GlobalClass::GetActualSize(EdgeReachSize) * ScreenPixel();
+}
+
+qreal FVBLine::ScreenPixel() const
 {
     const QList<QGraphicsView *> views = scene() ? scene()->views() : QList<QGraphicsView *>();
     const QTransform zoom = views.isEmpty() ? QTransform() : views.first()->transform();
     const qreal scale = IsUpright() ? zoom.m11() : zoom.m22();
-    return GlobalClass::GetActualSize(EdgeReachSize) / (scale > 0.0 ? scale : 1.0);
+    return scale > 0.0 ? 1.0 / scale : 1.0;
 }
 
 void FVBLine::SetLines(int top, int bottom)

@@ -49,8 +49,12 @@ private slots:
 private:
     enum class Edge { None, Top, Bottom };
 
+    /// Where the lower edge is drawn: behind the last row, and still on the picture.
+    qreal LowerEdge() const;
     /// Reach of an edge in picture pixels.
     qreal EdgeReach() const;
+    /// The side of a pixel of the screen in picture pixels.
+    qreal ScreenPixel() const;
     /// The part of the picture from one row to another, or from one column.
     QRectF Part(qreal from, qreal to) const;
     void SetLines(int top, int bottom);

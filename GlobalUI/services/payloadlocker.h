@@ -7,7 +7,7 @@
 #include <sanitizer/tsan_interface.h>
 #endif
 
-/// Holds the lock of a payload. Qt's own library is not built with the thread sanitizer, which therefore does not see
+/// Holds the lock of a payload, if it has one. Qt's own library is not built with the thread sanitizer, which therefore does not see
 /// what its mutexes order; here it is told.
 class PayloadLocker
 {
@@ -15,6 +15,8 @@ public:
     explicit PayloadLocker(QMutex *lock)
         : m_lock(lock)
     {
+        if (!m_lock)
+            return;
         m_lock->lock();
 #if defined(__SANITIZE_THREAD__)
         __tsan_acquire(m_lock);
@@ -23,6 +25,8 @@ public:
 
     ~PayloadLocker()
     {
+        if (!m_lock)
+            return;
 #if defined(__SANITIZE_THREAD__)
         __tsan_release(m_lock);
 #endif

@@ -31,7 +31,9 @@ QCPRange WithBlankAbove(double lower, double upper, double blankRatio)
 
 QCPRange ZoomedValueRange(const QCPRange &range, double factor)
 {
-    return QCPRange(std::trunc(range.lower), std::trunc(range.upper) * factor);
+    const double lower = std::trunc(range.lower);
+    const double upper = std::trunc(range.upper) * factor;
+    return lower < upper ? QCPRange(lower, upper) : range;
 }
 
 QCPRange HorizontallyZoomedIn(const QCPRange &range, const QCPRange &curve)

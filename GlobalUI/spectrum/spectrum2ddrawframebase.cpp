@@ -169,16 +169,15 @@ void Spectrum2DDrawFrameBase::AutoRange()
     qDebug("custom plot range[%lf, %lf]", axis->range().lower, axis->range().upper);
     if (wasRanged && m_autoRangeOfCurve.size() <= 0.0 && axis->range() == m_autoRange)
         return;
-    m_autoRangeOfCurve = axis->range();
     LeaveBlankAbove();
-    m_autoRange = axis->range();
 }
 
 void Spectrum2DDrawFrameBase::LeaveBlankAbove()
 {
-    const QCPRange range = m_plot->yAxis->range();
+    m_autoRangeOfCurve = m_plot->yAxis->range();
     const double blankRatio = SpectrumUIManager::GetInstance()->GetBlankRatio();
-    m_plot->yAxis->setRange(WithBlankAbove(range.lower, range.upper, blankRatio));
+    m_plot->yAxis->setRange(WithBlankAbove(m_autoRangeOfCurve.lower, m_autoRangeOfCurve.upper, blankRatio));
+    m_autoRange = m_plot->yAxis->range();
 }
 
 void Spectrum2DDrawFrameBase::SlotUpdateLevels(int low, int upper)

@@ -68,6 +68,7 @@ public slots:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void UpdateObserver(int, void *) override {}
@@ -91,8 +92,12 @@ private:
     void ZoomValues(double zoom);
     /// The whole curve, with blank space above it.
     void AutoRange();
+    /// The value axis is ranged: it gets its blank space, once.
     void LeaveBlankAbove();
     void ZoomByDrag();
+    void EndDrag();
+    /// Nothing is done of what it would have done.
+    void DropDrag();
     void RemoveSelectionRect();
 
     QCustomPlot *m_plot = nullptr;

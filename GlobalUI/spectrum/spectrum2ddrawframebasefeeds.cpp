@@ -6,12 +6,12 @@
 #include "globalmanager.h"
 #include "imagecore.h"
 #include "imagemanager.h"
+#include "payloadlocker.h"
 #include "plotranges.h"
 #include "spectrumcurvepayload.h"
 #include "spectrumlinepayload.h"
 #include "spectrumuimanager.h"
 
-#include <QMutexLocker>
 #include <QScrollBar>
 
 #include <qcustomplot.h>
@@ -44,7 +44,7 @@ double FactorOfImageCurves()
 /// Takes the line that the producer has filled; it stays unwritten until the next exchange.
 const unsigned int *TakeLine(SpectrumLinePayload *payload)
 {
-    QMutexLocker lock(payload->lock);
+    const PayloadLocker locker(payload->lock);
     std::swap(payload->fill, payload->show);
     return payload->show;
 }
@@ -78,7 +78,7 @@ void Spectrum2DDrawFrameBase::SlotUpdateCurve(void *param)
     const int *data = nullptr;
     int count = 0;
     {
-        QMutexLocker lock(payload->lock);
+        const PayloadLocker locker(payload->lock);
         std::swap(payload->horizontalFill, payload->horizontalShow);
         std::swap(payload->verticalFill, payload->verticalShow);
         data = horizontal ? payload->horizontalShow : payload->verticalShow;

@@ -34,6 +34,10 @@ void Spectrum2DDrawFrameBase::SlotCustomPlotMouseMove(QMouseEvent *event)
 {
     if (!m_pressed)
         return;
+    if (event->buttons() == Qt::NoButton) { // let go where it was not seen
+        DropDrag();
+        return;
+    }
     m_dragging = true;
     m_selectionRect->bottomRight->setCoords(event->pos());
     m_selectionRect->setVisible(true);
@@ -44,16 +48,28 @@ void Spectrum2DDrawFrameBase::SlotCustomPlotMouseRelease(QMouseEvent *event)
 {
     m_releasePoint = event->pos();
     qDebug() << "SlotCustomPlotMouseRelease" << m_releasePoint;
-    RemoveSelectionRect();
-    if (m_dragging && qAbs(m_pressPoint.x() - m_releasePoint.x()) >= shortestDrag) {
+    const bool dragged = m_dragging;
+    EndDrag();
+    if (dragged && qAbs(m_pressPoint.x() - m_releasePoint.x()) >= shortestDrag) {
         SpectrumUIManager::GetInstance()->SetZoomAutoFlag(false);
         ZoomByDrag();
     } else {
         UpdateTracer();
-        m_plot->replot(QCustomPlot::rpQueuedReplot);
     }
+    m_plot->replot(QCustomPlot::rpQueuedReplot);
+}
+
+void Spectrum2DDrawFrameBase::EndDrag()
+{
+    RemoveSelectionRect();
     m_pressed = false;
     m_dragging = false;
+}
+
+void Spectrum2DDrawFrameBase::DropDrag()
+{
+    EndDrag();
+    m_plot->replot(QCustomPlot::rpQueuedReplot);
 }
 
 void Spectrum2DDrawFrameBase::RemoveSelectionRect()
@@ -61,6 +77,13 @@ void Spectrum2DDrawFrameBase::RemoveSelectionRect()
     if (m_selectionRect)
         m_plot->removeItem(m_selectionRect);
     m_selectionRect = nullptr;
+}
+
+void Spectrum2DDrawFrameBase::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (m_pressed)
+        DropDrag(); // its button may be let go elsewhere
 }
 
 void Spectrum2DDrawFrameBase::ZoomByDrag()
@@ -82,7 +105,6 @@ void Spectrum2DDrawFrameBase::ZoomByDrag()
             axis->setRange(m_rangeHistory.Newest());
         }
     }
-    m_plot->replot(QCustomPlot::rpQueuedReplot);
 }
 
 void Spectrum2DDrawFrameBase::UpdateTracer()

@@ -5,6 +5,7 @@
 #include "framemanager.h"
 #include "globalclass.h"
 #include "line3d.h"
+#include "payloadlocker.h"
 #include "rosenbrock.h"
 #include "spectrumlinepayload.h"
 #include "spectrummanager.h"
@@ -13,7 +14,6 @@
 #include "trackplot.h"
 
 #include <QLabel>
-#include <QMutexLocker>
 #include <QOpenGLContext>
 #include <QVBoxLayout>
 
@@ -78,8 +78,8 @@ void Spectrum3DDrawViewBase::CreatePlot()
     m_plot = new TrackPlot; // reparented by the layout
     m_plot->setAttribute(Qt::WA_DontCreateNativeAncestors);
     layout()->addWidget(m_plot);
-    m_noTracks =
-        MakeNotice(tr("There are no tracks to show: draw them on the picture or have them found."), this);
+    m_noTracks = MakeNotice(NoTracksText(), this);
+    m_noTracks->setObjectName("labelNoTracks");
     // Beside the plot it becomes a window of its own, too.
     m_noTracks->setAttribute(Qt::WA_DontCreateNativeAncestors);
     m_noTracks->hide();
@@ -102,11 +102,27 @@ void Spectrum3DDrawViewBase::resizeEvent(QResizeEvent *event)
         m_noTracks->setGeometry(rect().marginsRemoved(layout()->contentsMargins()));
 }
 
-void Spectrum3DDrawViewBase::ShowPlot(bool shown)
+void Spectrum3DDrawViewBase::ShowPlot()
 {
-    m_plot->setVisible(shown);
-    m_noTracks->setVisible(!shown);
+    m_noTracks->hide();
+    m_plot->show();
 }
+
+void Spectrum3DDrawViewBase::ShowNotice(const QString &text)
+{
+    m_plot->hide();
+    const QString shown = m_noTracks->text();
+    if (shown == NoTracksText() || shown == SwitchedOffText())
+        m_noTracks->setText(text);
+    m_noTracks->show();
+}
+
+QString Spectrum3DDrawViewBase::NoTracksText()
+{
+    return tr("There are no tracks to show: draw them on the picture or have them found.");
+}
+
+QString Spectrum3DDrawViewBase::SwitchedOffText() { return tr("The tracks are switched off."); }
 
 void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
 {
@@ -117,7 +133,7 @@ void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
         return;
     const QList<QRectF> tracks = settings->GetMultiTrackList();
     if (tracks.isEmpty()) {
-        ShowPlot(false);
+        ShowNotice(NoTracksText());
         return;
     }
 
@@ -126,15 +142,19 @@ void Spectrum3DDrawViewBase::SlotUpdateMultiTrack(void *param)
     int minimum = 0;
     int maximum = 0;
     {
-        QMutexLocker lock(payload->lock);
+        const PayloadLocker locker(payload->lock);
         std::swap(payload->fill, payload->show);
         values = payload->show;
         minimum = payload->minimum;
         maximum = payload->maximum;
     }
+    if (!values) {
+        ShowNotice(SwitchedOffText());
+        return;
+    }
+    ShowPlot();
     const int width = int(tracks.first().width());
-    ShowPlot(values); // there are none of tracks that are switched off
-    if (!values || width < 1)
+    if (width < 1)
         return;
 
     const TrackSteps steps = ComputeTrackSteps(width, minimum, maximum);

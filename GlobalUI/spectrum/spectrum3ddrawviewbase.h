@@ -44,8 +44,11 @@ protected:
 private:
     void CreatePlot();
     void PlaceZoomBar();
-    /// The plot, or a notice in its place.
-    void ShowPlot(bool shown);
+    void ShowPlot();
+    /// In place of the plot; a text that the host has put there stays.
+    void ShowNotice(const QString &text);
+    static QString NoTracksText();
+    static QString SwitchedOffText();
     /// Box, axes and view, for tracks of this width and the values of this payload.
     void SetUpPlot(int trackCount, int width, const TrackSteps &steps, int minimum, int maximum);
     void SetUpAxes(int width, double depth, const TrackSteps &steps);

@@ -222,6 +222,7 @@ int TestFocusInfo::TextRows() const
 void TestFocusInfo::TextsOfCloseLinesStandBelowEachOther()
 {
     FocusInfo info(m_scene.get(), FocusAssistanceInfo);
+    info.AddCrossLine(false);
     info.SetShowMode(2); // lines, whose colour is another
     const QRect line(0, 200, 10, 50);
     info.AddFocusInfo({line}, {QPoint(12, 22)}, {1.5F}, {0.0F});
@@ -281,7 +282,6 @@ void TestFocusInfo::ClearingTakesTheMarksOut()
 {
     FocusInfo info(m_scene.get(), FocusAssistanceInfo);
     info.AddFocusInfo({QRect(10, 20, 30, 200)}, {QPoint(12, 22)}, {1.5F}, {0.0F});
-    QMetaObject::invokeMethod(Line(info), "SlotCrossLineEnable", Q_ARG(bool, true));
     info.ClearFocusInfo();
     QVERIFY(Rectangles(*m_scene).isEmpty());
     QVERIFY(Line(info)->isVisible()); // the cross line stays
@@ -297,8 +297,6 @@ void TestFocusInfo::TheCrossLineFollowsItsSlots()
 {
     FocusInfo info(m_scene.get(), FocusAssistanceInfo);
     QGraphicsObject *cross = Line(info);
-    QVERIFY(!cross->isVisible());
-    QMetaObject::invokeMethod(cross, "SlotCrossLineEnable", Q_ARG(bool, true));
     QVERIFY(cross->isVisible());
     QMetaObject::invokeMethod(cross, "SlotCrossLineVisiable", Q_ARG(bool, false));
     QVERIFY(!cross->isVisible());
@@ -317,7 +315,6 @@ void TestFocusInfo::TheCrossLineCoversThePicture()
 {
     FocusInfo info(m_scene.get(), FocusAssistanceInfo);
     QGraphicsObject *cross = Line(info);
-    QMetaObject::invokeMethod(cross, "SlotCrossLineEnable", Q_ARG(bool, true));
     QCOMPARE(cross->sceneBoundingRect(), QRectF(0, 0, 400, 300));
     const QImage picture = m_view->grab().toImage();
     const QColor green(Qt::green);

@@ -39,6 +39,8 @@ private slots:
     void init() override;
     void cleanup() override;
     void TheBandLiesBetweenTheRows();
+    void TheBandHasItsLastRow_data();
+    void TheBandHasItsLastRow();
     void TheBandFollowsTheService();
     void FewerThanTwoEndPointsDrawNoBand();
     void AnEdgeOfTheBandIsDragged_data();
@@ -91,6 +93,46 @@ void TestFVBLine::TheBandLiesBetweenTheRows()
     QVERIFY(picture.pixelColor(200, 80) != QColor(Qt::black));
     QCOMPARE(picture.pixelColor(200, 20), QColor(Qt::black));
     QCOMPARE(picture.pixelColor(200, 140), QColor(Qt::black));
+}
+
+void TestFVBLine::TheBandHasItsLastRow_data()
+{
+    QTest::addColumn<bool>("horizontal");
+    QTest::addColumn<int>("top");
+    QTest::addColumn<int>("bottom");
+    QTest::addColumn<int>("lowerEdge"); // in pixels of the view, each row ten
+    QTest::newRow("some rows") << true << 4 << 12 << 130;
+    QTest::newRow("one row") << true << 12 << 12 << 130;
+    QTest::newRow("to the last row") << true << 25 << 29 << 299;
+    QTest::newRow("some columns") << false << 4 << 12 << 130;
+    QTest::newRow("one column") << false << 12 << 12 << 130;
+    QTest::newRow("to the last column") << false << 25 << 39 << 399;
+}
+
+void TestFVBLine::TheBandHasItsLastRow()
+{
+    QFETCH(bool, horizontal);
+    QFETCH(int, top);
+    QFETCH(int, bottom);
+    QFETCH(int, lowerEdge);
+    m_settings.directionHorinzontal = horizontal;
+    m_scene->setSceneRect(0, 0, 40, 30);
+    m_view->scale(10, 10);
+    FocusInfo info(m_scene.get(), FVBAndMultiTrackInfo);
+    info.AddFVBInfo({QPointF(0, top), QPointF(0, bottom)}, true);
+    const QImage picture = m_view->grab().toImage();
+    const auto colourAt = [&](int line) { return picture.pixelColor(horizontal ? 200 : line, horizontal ? line : 200); };
+    const QColor fill = colourAt(10 * top + 5);
+    QVERIFY(fill != QColor(Qt::black));
+    QCOMPARE(colourAt(10 * bottom + 5), fill);
+    QCOMPARE(colourAt(10 * top), QColor(Qt::yellow));
+    QCOMPARE(colourAt(lowerEdge), QColor(Qt::yellow));
+    QCOMPARE(colourAt(10 * top - 2), QColor(Qt::black));
+    // It is taken where it is drawn, and the row under the mouse is the last one then.
+    QSignalSpy changes(Band(info), SIGNAL(SignalTopBottomChanged(int, int)));
+    const auto at = [&](double line) { return horizontal ? QPointF(20, line) : QPointF(line, 20); };
+    DragInView(m_view.get(), at(lowerEdge / 10.0), at(top + 1.9));
+    QCOMPARE(changes.value(0), QList<QVariant>({top, top + 1}));
 }
 
 void TestFVBLine::TheBandFollowsTheService()
@@ -196,7 +238,7 @@ void TestFVBLine::TheBandOfAnUprightSpectrumLiesBetweenColumns()
         QCOMPARE(picture.pixelColor(20, row), QColor(Qt::black));
         QCOMPARE(picture.pixelColor(360, row), QColor(Qt::black));
         QCOMPARE(picture.pixelColor(40, row), QColor(Qt::cyan));
-        QCOMPARE(picture.pixelColor(340, row), QColor(Qt::cyan));
+        QCOMPARE(picture.pixelColor(341, row), QColor(Qt::cyan));
     }
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "livepreview.h"
 #include "openedpicture.h"
+#include "payloadlocker.h"
 #include "picturedesk.h"
 #include "plotpicture.h"
 #include "spectrographoptics.h"
@@ -20,7 +21,6 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QMutexLocker>
 #include <QPushButton>
 #include <QScrollBar>
 
@@ -60,7 +60,7 @@ private slots:
         double made = -1;
         connect(Spectra(), &SpectrumManager::SignalUpdateFVB, this, [&](void *param) {
             auto *payload = static_cast<SpectrumLinePayload *>(param);
-            const QMutexLocker lock(payload->lock);
+            const PayloadLocker locker(payload->lock);
             drawn = payload->fill[1000];
             made = Spectra()->Shown().corrected.values[1000];
         });
@@ -82,7 +82,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().frameSize, QSize(2048, 512), waitMs);
         SpectrumSettings *settings = m_workbench->services.Spectrum();
         settings->SetBottom(2047);
-        QTRY_VERIFY(Band() && Band()->shape().contains(QPointF(2047, 5)));
+        QTRY_VERIFY(Mark("FVBLine") && Mark("FVBLine")->shape().contains(QPointF(2047, 5)));
         Drag(QPointF(0, 200), QPointF(540, 300));
         QTRY_VERIFY(std::abs(settings->GetTop() - 540) <= Reach());
         Drag(QPointF(2045, 200), QPointF(1500, 100));
@@ -122,8 +122,8 @@ private slots:
         m_workbench->Action("Band Found by Itself")->trigger();
         QTRY_VERIFY_WITH_TIMEOUT(Spectra()->Shown().band.bottom - Spectra()->Shown().band.top < 400, waitMs);
         const RowBand found = Spectra()->Shown().band;
-        QTRY_VERIFY(Band() && Band()->shape().contains(QPointF(found.top, 5)));
-        QVERIFY(Band()->shape().contains(QPointF(found.bottom - 1, 500)));
+        QTRY_VERIFY(Mark("FVBLine") && Mark("FVBLine")->shape().contains(QPointF(found.top, 5)));
+        QVERIFY(Mark("FVBLine")->shape().contains(QPointF(found.bottom - 1, 500)));
         SavePicture("columns-found.png");
     }
 
@@ -207,6 +207,8 @@ private slots:
     {
         m_workbench->Action("Focus Assistance")->trigger();
         QTRY_VERIFY_WITH_TIMEOUT(!FocusTexts().isEmpty(), waitMs);
+        QVERIFY(Mark("FocusCrossLine"));
+        QCOMPARE(m_workbench->OnScreen(QPointF(300, 1024)), QColor(Qt::green));
         QCOMPARE(FocusTexts().size(), Spectra()->GetAngleList().size());
         const QRegularExpression form(QString::fromUtf8("^[0-9]+\\.[0-9]{2}  -?[0-9]+\\.[0-9]{2}°$"));
         for (const QString &text : FocusTexts())
@@ -214,6 +216,11 @@ private slots:
         SavePicture("focus.png");
         m_workbench->Action("Focus Assistance")->trigger();
         QTRY_VERIFY(FocusTexts().isEmpty());
+        QVERIFY(!Mark("FocusCrossLine"));
+        m_workbench->Action("Focus Assistance")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Mark("FocusCrossLine"), waitMs);
+        m_workbench->Action("Focus Assistance")->trigger();
+        QVERIFY(!Mark("FocusCrossLine"));
     }
 
     void keysSwitchTheDisplay()
@@ -300,27 +307,29 @@ private slots:
         QCOMPARE(m_workbench->StatusText(), QString("There is no plot to export: show the curve or the tracks in 3D first."));
         m_workbench->Action("Undo Clear Tracks")->trigger();
         QTRY_VERIFY_WITH_TIMEOUT(Plot3D(), waitMs);
+        const QString switchedOff = "The tracks are switched off.";
         m_workbench->Action("Show Tracks")->trigger();
-        QTRY_VERIFY(!Plot3D());
+        QTRY_COMPARE(Notice(), switchedOff);
+        QVERIFY(!Plot3D());
         m_workbench->Action("Show Tracks")->trigger();
         QTRY_VERIFY_WITH_TIMEOUT(Plot3D(), waitMs);
         m_workbench->Action("All Rows")->trigger();
-        QTRY_VERIFY(!Plot3D());
+        QTRY_COMPARE(Notice(), switchedOff);
         m_workbench->Action("Curve")->trigger();
         m_workbench->Action("Tracks in 3D")->trigger();
-        QTRY_VERIFY(!Notice().isEmpty());
+        QTRY_COMPARE(Notice(), switchedOff);
         QVERIFY(!Plot3D());
     }
 
 private:
     SpectrumPipeline *Spectra() const { return m_workbench->services.Spectra(); }
 
-    /// The mark on the live picture; null without one.
-    const QGraphicsObject *Band() const
+    /// The mark of a class on the live picture; null without one.
+    const QGraphicsObject *Mark(const char *className) const
     {
         for (QGraphicsItem *item : m_workbench->View()->scene()->items()) {
             const QGraphicsObject *object = item->toGraphicsObject();
-            if (object && object->inherits("FVBLine") && object->isVisible())
+            if (object && object->inherits(className) && object->isVisible())
                 return object;
         }
         return nullptr;

@@ -70,6 +70,7 @@ class CameraOverlaysTest : public GuardedTest
 private slots:
     void bandIsFoundBetweenEndPoints_data();
     void bandIsFoundBetweenEndPoints();
+    void bandSetByHandIsShownOnce_data();
     void bandSetByHandIsShownOnce();
     void bandHasItsRowsAndItsMovability_data();
     void bandHasItsRowsAndItsMovability();
@@ -126,12 +127,20 @@ void CameraOverlaysTest::bandIsFoundBetweenEndPoints()
     QVERIFY(page.VisibleMarks() > 0);
 }
 
+void CameraOverlaysTest::bandSetByHandIsShownOnce_data()
+{
+    QTest::addColumn<bool>("automatic");
+    QTest::newRow("by hand") << false;
+    QTest::newRow("by hand after it was found") << true;
+}
+
 void CameraOverlaysTest::bandSetByHandIsShownOnce()
 {
+    QFETCH(bool, automatic);
     ShellServices services;
     services.spectrumUI.fvbOnFlag = 1;
     services.spectrumUI.manualFlag = true;
-    services.spectrumUI.fvbModeAuto = true;
+    services.spectrumUI.fvbModeAuto = automatic;
     services.spectrumUI.top = 30;
     services.spectrumUI.bottom = 80;
     services.spectrum.endPointList = { QPointF(0, 1), QPointF(0, 2) };
@@ -151,18 +160,21 @@ void CameraOverlaysTest::bandSetByHandIsShownOnce()
 void CameraOverlaysTest::bandHasItsRowsAndItsMovability_data()
 {
     QTest::addColumn<bool>("manual");
+    QTest::addColumn<bool>("automatic");
     QTest::addColumn<QVector<int>>("edges");
-    QTest::newRow("set by hand") << true << QVector<int>{ 30, 80 };
-    QTest::newRow("found") << false << QVector<int>{ 150, 250 };
+    QTest::newRow("set by hand") << true << false << QVector<int>{ 30, 80 };
+    QTest::newRow("set by hand after it was found") << true << true << QVector<int>{ 30, 80 };
+    QTest::newRow("found") << false << true << QVector<int>{ 150, 250 };
 }
 
 void CameraOverlaysTest::bandHasItsRowsAndItsMovability()
 {
     QFETCH(bool, manual);
+    QFETCH(bool, automatic);
     QFETCH(QVector<int>, edges);
     ShellServices services;
     services.spectrumUI.fvbOnFlag = 1;
-    services.spectrumUI.fvbModeAuto = true;
+    services.spectrumUI.fvbModeAuto = automatic;
     services.spectrumUI.manualFlag = manual;
     services.spectrumUI.top = 30;
     services.spectrumUI.bottom = 80;
@@ -311,6 +323,8 @@ void CameraOverlaysTest::tracksAreShownAndTakenAway()
     emit services.spectrumUI.SignalMultiTrackOnFlagChanged();
     QVERIFY(page.VisibleMarks() >= 2);
     QCOMPARE(page.Overlays().size(), 1);
+    QVERIFY(page.Overlays().first()->GetFVBLineObject());
+    QVERIFY(!page.Overlays().first()->GetCrossLineObject());
     emit services.spectrumUI.SignalMultiTrackOnFlagChanged();
     QCOMPARE(page.Overlays().size(), 1);
     services.spectrumUI.multiTrackOnFlag = false;
@@ -404,7 +418,7 @@ void CameraOverlaysTest::focusWithoutAngles()
     emit services.spectrum.SignalSpectralineAutoDetectFinish();
     services.spectrum.angleList.clear();
     emit services.spectrum.SignalSpectralineAutoDetectFinish();
-    QCOMPARE(page.VisibleMarks(), 0);
+    QCOMPARE(page.VisibleMarks(), 1); // the cross line
     QCOMPARE(CallLog::Count("SpectrumManager::ClearFocusInfo()"), 0);
 }
 
@@ -422,8 +436,7 @@ void CameraOverlaysTest::focusOffHidesTheCrossLine()
     ShellServices services;
     services.spectrumUI.focusAssitanceFlag = true;
     Page page;
-    emit services.spectrum.SignalSpectralineAutoDetectFinish();
-    emit services.spectrumUI.SignalFocusCrossLineFlagChanged(true);
+    emit services.spectrum.SignalSpectralineAutoDetectFinish(); // whose overlay comes after the flags
     const auto *cross = qobject_cast<QGraphicsObject *>(page.Overlays().first()->GetCrossLineObject());
     QVERIFY(cross->isVisible());
     services.spectrumUI.focusAssitanceFlag = false;
@@ -431,6 +444,8 @@ void CameraOverlaysTest::focusOffHidesTheCrossLine()
     QVERIFY(!cross->isVisible());
     emit services.spectrumUI.SignalFocusOnChanged(true); // it can come back
     QVERIFY(cross->isVisible());
+    emit services.spectrumUI.SignalFocusCrossLineFlagChanged(false);
+    QVERIFY(!cross->isVisible());
 }
 
 void CameraOverlaysTest::closingFocusAssistance()

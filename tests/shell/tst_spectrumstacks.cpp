@@ -7,6 +7,12 @@
 #include "plotpage.h"
 #include "shellfixture.h"
 #include "spectrum3ddrawframebase.h"
+#include "spectrum3ddrawviewbase.h"
+#include "spectrumzoomui.h"
+
+#include <qwt3d_surfaceplot.h>
+
+#include <memory>
 
 class SpectrumStacksTest : public GuardedTest
 {
@@ -19,6 +25,8 @@ private slots:
     void pageFollowsDisplayMode();
     void plot3DIsMadeOnce();
     void plot3DHasTheSizeOfTheOthers();
+    void wiresOfThe3DPlot_data();
+    void wiresOfThe3DPlot();
     void resizesAllPages();
     void wiresOfTheLivePlot();
     void livePayloadsAreQueued();
@@ -30,6 +38,7 @@ private slots:
     void useAreaChange();
     void newAreaOfTheOpenFile_data();
     void newAreaOfTheOpenFile();
+    void newAreaWithoutAPicture();
     void spectrumFileStartsHorizontal();
 };
 
@@ -78,6 +87,44 @@ void SpectrumStacksTest::pageFollowsDisplayMode()
     services.spectrumUI.displayMode2DPeak = services.spectrumUI.displayMode3D = false;
     stack.slotDisplayModeChange(); // a mode that is none of them
     QCOMPARE(stack.currentIndex(), page);
+}
+
+void SpectrumStacksTest::wiresOfThe3DPlot_data()
+{
+    QTest::addColumn<bool>("live");
+    QTest::newRow("live") << true;
+    QTest::newRow("opened picture") << false;
+}
+
+void SpectrumStacksTest::wiresOfThe3DPlot()
+{
+    QFETCH(bool, live);
+    ShellServices services;
+    services.spectrumUI.displayModeGeneral = false;
+    services.spectrumUI.displayMode3D = true;
+    std::unique_ptr<SpectrumStackedWidgetBase> stack;
+    if (live)
+        stack = std::make_unique<CameraSpectrumStackedWidget>(nullptr);
+    else
+        stack = std::make_unique<ImageSpectrumStackedWidget>(nullptr);
+    stack->slotDisplayModeChange();
+    auto *view = stack->findChild<Spectrum3DDrawViewBase *>();
+    QVERIFY(view);
+    auto *plot = view->findChild<Qwt3D::SurfacePlot *>();
+    auto *bar = view->findChild<SpectrumZoomUI *>();
+    const QVector<Wire> wires{
+        { plot, SIGNAL(rotationChanged(double, double, double)), view,
+          SLOT(Slot3DViewRotationChanged(double, double, double)) },
+        { plot, SIGNAL(zoomChanged(double)), view, SLOT(Slot3DZoomChanged(double)) },
+        { &services.spectrum, SIGNAL(SignalUpdateMultiTrack(void *)), view, SLOT(SlotUpdateMultiTrack(void *)) },
+        { bar, SIGNAL(SignalZoomIn()), view, SLOT(SlotZoomIn()) },
+        { bar, SIGNAL(SignalZoomOut()), view, SLOT(SlotZoomOut()) },
+        { bar, SIGNAL(SignalZoomReset()), view, SLOT(SlotZoomReset()) },
+        { bar, SIGNAL(SignalHorizontalZoomIn()), view, SLOT(SlotHorizontalZoomIn()) },
+        { bar, SIGNAL(SignalHorizontalZoomOut()), view, SLOT(SlotHorizontalZoomOut()) },
+        { &services.spectrumUI, SIGNAL(SignalSpectralPropertyChanged()), view, SLOT(SlotSpectralPropertyChanged()) },
+    };
+    QCOMPARE(MissingWires(wires), QStringList());
 }
 
 void SpectrumStacksTest::resizesAllPages()
@@ -288,6 +335,19 @@ void SpectrumStacksTest::newAreaOfTheOpenFile()
     stack.slotNewArea(1, 2, 3, 4);
     QCOMPARE(CallLog::Calls(), QStringList({ "DisplayModeUIManager::SetImageExpansionAreaFlag(" + valid + ")",
                                              "DisplayModeUIManager::SetImageExpansionArea(" + area + ")",
+                                             "SpectrumUIManager::SlotImageNewArea(1, 2, 3, 4)" }));
+}
+
+void SpectrumStacksTest::newAreaWithoutAPicture()
+{
+    ShellServices services;
+    services.spectrumUI.validConversationResult = true;
+    ImageSpectrumStackedWidget stack(nullptr);
+    services.global.activeImageManager = nullptr;
+    CallLog::Clear();
+    stack.slotNewArea(1, 2, 3, 4);
+    QCOMPARE(CallLog::Calls(), QStringList({ "DisplayModeUIManager::SetImageExpansionAreaFlag(false)",
+                                             "DisplayModeUIManager::SetImageExpansionArea()",
                                              "SpectrumUIManager::SlotImageNewArea(1, 2, 3, 4)" }));
 }
 

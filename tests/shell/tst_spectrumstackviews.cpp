@@ -188,8 +188,10 @@ void SpectrumStackViewsTest::wiresOfThePicturesView()
 void SpectrumStackViewsTest::openedPictureIsStatic()
 {
     ShellServices services;
+    CallLog::Clear();
     ImageSpectrumStackedWidget stack(nullptr);
     auto *page = stack.findChild<SpectrumView *>();
+    QCOMPARE(CallLog::Calls().filter("ConnectWidthDrawView"), QStringList("active ConnectWidthDrawView(true)"));
     QCOMPARE(services.active.connectedViews, QVector<QObject *>{ page->GetDrawView() });
     CallLog::Clear();
     // Both say so by what they ask for.

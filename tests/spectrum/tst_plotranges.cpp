@@ -59,6 +59,8 @@ void TestPlotRanges::verticalZoom_data()
     QTest::newRow("out") << QCPRange(10, 1000) << 1.1 << 10.0 << 1100.0;
     QTest::newRow("whole ends") << QCPRange(10.9, 1000.9) << 0.9 << 10.0 << 900.0;
     QTest::newRow("negative lower end") << QCPRange(-10.9, 100) << 1.1 << -10.0 << 110.0;
+    QTest::newRow("no room above the lower end") << QCPRange(1000, 1100) << 0.9 << 1000.0 << 1100.0;
+    QTest::newRow("nothing left above the lower end") << QCPRange(900, 1000) << 0.9 << 900.0 << 1000.0;
     QTest::newRow("beyond 32 bits") << QCPRange(0, 4e9) << 1.1 << 0.0 << 4.4e9;
 }
 

@@ -5,10 +5,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
-#include <algorithm>
-#include <atomic>
 #include <limits>
-#include <thread>
 
 namespace {
 
@@ -60,7 +57,6 @@ private slots:
     void emptyPayloadsClearTheCurve_data();
     void emptyPayloadsClearTheCurve();
     void nothingAtAll();
-    void drawnLineIsNeverHalfWritten();
     void narrowPageDrawsNothing_data();
     void narrowPageDrawsNothing();
     void rowAndColumnOfAPicture_data();
@@ -105,22 +101,28 @@ void TestSpectrum2DFeeds::profile()
 
 void TestSpectrum2DFeeds::profileOfAnotherSizeThanTheFrame_data()
 {
-    QTest::addColumn<int>("frameWidth");
+    QTest::addColumn<bool>("horizontal");
+    QTest::addColumn<int>("frameSide");
     QTest::addColumn<int>("size");
     QTest::addColumn<int>("drawn");
-    QTest::newRow("frame grew before the payload came") << 6 << 4 << 4;
-    QTest::newRow("frame shrank") << 3 << 4 << 3;
-    QTest::newRow("producer gives no size") << 4 << 0 << 4;
+    QTest::newRow("row, frame grew before the payload came") << true << 6 << 4 << 4;
+    QTest::newRow("row, frame shrank") << true << 3 << 4 << 3;
+    QTest::newRow("row, producer gives no size") << true << 4 << 0 << 4;
+    QTest::newRow("column, frame grew before the payload came") << false << 5 << 3 << 3;
+    QTest::newRow("column, frame shrank") << false << 2 << 3 << 2;
+    QTest::newRow("column, producer gives no size") << false << 3 << 0 << 3;
 }
 
 void TestSpectrum2DFeeds::profileOfAnotherSizeThanTheFrame()
 {
-    QFETCH(int, frameWidth);
+    QFETCH(bool, horizontal);
+    QFETCH(int, frameSide);
     QFETCH(int, size);
     PlotPage page;
-    page.services.frame.frameWidth = quint16(frameWidth);
+    page.services.spectrumUI.directionHorinzontal = horizontal;
+    (horizontal ? page.services.frame.frameWidth : page.services.frame.frameHeight) = quint16(frameSide);
     CurvePayload payload({ 1, 2, 3, 4 }, { 7, 8, 9 });
-    payload.record.horizontalSize = size;
+    (horizontal ? payload.record.horizontalSize : payload.record.verticalSize) = size;
     page.page->SlotUpdateCurve(payload.Param());
     QTEST(page.DrawnValues().size(), "drawn");
 }
@@ -331,37 +333,6 @@ void TestSpectrum2DFeeds::nothingAtAll()
     page.page->SlotUpdateFVB(nullptr);
     page.page->SlotUpdateMultiTrack(nullptr);
     QCOMPARE(page.DrawnValues(), Doubles(Counting(10, 1)));
-}
-
-void TestSpectrum2DFeeds::drawnLineIsNeverHalfWritten()
-{
-    PlotPage page;
-    const int width = 2000;
-    page.services.frame.frameWidth = width;
-    LinePayload payload(Values(width, 0));
-    std::atomic<bool> stop{ false };
-    std::atomic<unsigned int> written{ 0 };
-    std::thread producer([&] {
-        while (!stop) {
-            QMutexLocker lock(&payload.lock);
-            ++written;
-            std::fill_n(payload.record.fill, width, written.load());
-        }
-    });
-    const bool isWriting = QTest::qWaitFor([&] { return written > 0; });
-    int drawn = 0;
-    QStringList torn;
-    while (isWriting && drawn < 200 && torn.isEmpty()) {
-        page.page->SlotUpdateFVB(payload.Param());
-        const QVector<double> values = page.DrawnValues();
-        if (values.count(values.first()) != width)
-            torn << QString("line %1 of %2").arg(drawn).arg(written.load());
-        ++drawn;
-    }
-    stop = true;
-    producer.join();
-    QVERIFY(isWriting);
-    QCOMPARE(torn, QStringList());
 }
 
 void TestSpectrum2DFeeds::narrowPageDrawsNothing_data()

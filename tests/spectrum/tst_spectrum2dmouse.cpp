@@ -27,10 +27,13 @@ class TestSpectrum2DMouse : public GuardedTest
 private slots:
     void rubberBand();
     void secondButtonDuringADrag();
+    void aDragEndsWithItsPage();
+    void aReleaseThatWasNotSeen();
     void moveWithoutPress();
     void tracerAtTheClick_data();
     void tracerAtTheClick();
     void tracerStaysAtItsPixel();
+    void tracerStandsWhereItStoodBeforeTheAxisMoves();
     void noTracerBeforeTheFirstClick();
     void tracerWithoutACurve();
     void shortDragIsAClick_data();
@@ -86,6 +89,36 @@ void TestSpectrum2DMouse::secondButtonDuringADrag()
     QCOMPARE(page.Items<QCPItemRect>().size(), 0);
 }
 
+void TestSpectrum2DMouse::aDragEndsWithItsPage()
+{
+    PlotPage page;
+    QVERIFY(page.Show());
+    page.DrawLine(HundredSamples());
+    page.Send(QEvent::MouseButtonPress, QPoint(200, 100));
+    page.Send(QEvent::MouseMove, QPoint(260, 150));
+    page.page->hide();
+    QCOMPARE(page.Items<QCPItemRect>().size(), 0);
+    QVERIFY(page.Show());
+    page.Send(QEvent::MouseMove, QPoint(280, 150));
+    QCOMPARE(page.Items<QCPItemRect>().size(), 0);
+}
+
+void TestSpectrum2DMouse::aReleaseThatWasNotSeen()
+{
+    PlotPage page;
+    QVERIFY(page.Show());
+    page.DrawLine(HundredSamples());
+    const QString before = Text(page.X());
+    page.Send(QEvent::MouseButtonPress, QPoint(200, 100));
+    page.Send(QEvent::MouseMove, QPoint(260, 150));
+    QMouseEvent move(QEvent::MouseMove, QPointF(280, 150), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(page.plot, &move);
+    QCOMPARE(page.Items<QCPItemRect>().size(), 0);
+    page.Send(QEvent::MouseMove, QPoint(300, 150));
+    QCOMPARE(page.Items<QCPItemRect>().size(), 0);
+    QCOMPARE(Text(page.X()), before);
+}
+
 void TestSpectrum2DMouse::moveWithoutPress()
 {
     PlotPage page;
@@ -100,15 +133,20 @@ void TestSpectrum2DMouse::tracerAtTheClick_data()
 {
     QTest::addColumn<double>("x");
     QTest::addColumn<bool>("labelOnTheLeft");
-    QTest::newRow("left half") << 20.0 << false;
-    QTest::newRow("right half") << 80.0 << true;
+    QTest::addColumn<double>("scale");
+    QTest::newRow("left half") << 20.0 << false << 1.0;
+    QTest::newRow("right half") << 80.0 << true << 1.0;
+    QTest::newRow("left half, large display") << 20.0 << false << 2.0;
+    QTest::newRow("right half, large display") << 80.0 << true << 2.0;
 }
 
 void TestSpectrum2DMouse::tracerAtTheClick()
 {
     QFETCH(double, x);
     QFETCH(bool, labelOnTheLeft);
+    QFETCH(double, scale);
     PlotPage page;
+    const DisplayScale displayScale(scale);
     QVERIFY(page.Show());
     page.DrawLine(HundredSamples());
     page.plot->replot();
@@ -132,18 +170,19 @@ void TestSpectrum2DMouse::tracerAtTheClick()
     QCOMPARE(label->position->value(), 10.0 * sample);
     QCOMPARE(label->positionAlignment(),
              (labelOnTheLeft ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
-    QCOMPARE(label->padding(), labelOnTheLeft ? QMargins(0, -20, 15, 0) : QMargins(15, -20, 0, 0));
+    const auto size = [scale](int design) { return int(design * scale); };
+    QCOMPARE(label->padding(), labelOnTheLeft ? QMargins(0, -size(20), 15, 0) : QMargins(15, -size(20), 0, 0));
     QCOMPARE(label->color(), QColor(Qt::black));
     QCOMPARE(label->font().family(), QString("Segoe UI"));
-    QCOMPARE(label->font().pixelSize(), 12);
+    QCOMPARE(label->font().pixelSize(), size(12));
 
     const QCPItemTracer *tracer = page.Items<QCPItemTracer>().first();
     QCOMPARE(tracer->graph(), page.plot->graph(0));
     QCOMPARE(tracer->graphKey(), tracerX);
     QVERIFY(tracer->interpolating());
     QCOMPARE(tracer->style(), QCPItemTracer::tsCrosshair);
-    QCOMPARE(tracer->pen(), QPen(Qt::red, 2));
-    QCOMPARE(tracer->size(), 40.0);
+    QCOMPARE(tracer->pen(), QPen(Qt::red, size(2)));
+    QCOMPARE(tracer->size(), double(size(40)));
 }
 
 void TestSpectrum2DMouse::tracerStaysAtItsPixel()
@@ -162,6 +201,21 @@ void TestSpectrum2DMouse::tracerStaysAtItsPixel()
     emit page.services.spectrumUI.signalDisplayModeChange();
     QCOMPARE(page.plot->itemCount(), 2);
     QCOMPARE(page.Items<QCPItemTracer>().first()->graphKey(), page.plot->xAxis->pixelToCoord(pos.x()));
+}
+
+void TestSpectrum2DMouse::tracerStandsWhereItStoodBeforeTheAxisMoves()
+{
+    PlotPage page;
+    QVERIFY(page.Show());
+    page.DrawLine(HundredSamples());
+    page.plot->replot();
+    const QPoint pos = page.PixelOf(20);
+    Click(page, pos);
+    const double before = page.plot->xAxis->pixelToCoord(pos.x());
+    page.services.spectrumUI.zoomAutoFlag = true;
+    page.DrawLine(Values(201, 5)); // the tracer comes first, then the range of the longer curve
+    QCOMPARE(Text(page.X()), QString("0..200"));
+    QCOMPARE(page.Items<QCPItemTracer>().first()->graphKey(), before);
 }
 
 void TestSpectrum2DMouse::noTracerBeforeTheFirstClick()
@@ -264,7 +318,9 @@ void TestSpectrum2DMouse::dragLeftStepsBack()
     QVERIFY(page.X().size() < first.size());
     page.Drag(page.PixelOf(45), page.PixelOf(35));
     QCOMPARE(Text(page.X()), Text(first));
-    page.plot->yAxis->setRange(300, 310);
+    page.plot->xAxis->setRange(-50, 200);
+    page.plot->yAxis->setRange(-500, 9000);
+    page.plot->replot();
     // Back at the start the whole curve is shown, however far away the axes are.
     page.Drag(page.PixelOf(60), page.PixelOf(40));
     QCOMPARE(Text(page.X()), QString("0..100"));

@@ -11,6 +11,20 @@
 
 Q_DECLARE_METATYPE(QMargins)
 
+namespace {
+
+/// Keeps the ids that it is told.
+class ToldPage : public Spectrum2DDrawFrameBase
+{
+public:
+    using Spectrum2DDrawFrameBase::Spectrum2DDrawFrameBase;
+    void UpdateObserver(int id, void *) override { ids << id; }
+
+    QVector<int> ids;
+};
+
+} // namespace
+
 class TestSpectrum2DPage : public GuardedTest
 {
     Q_OBJECT
@@ -20,6 +34,7 @@ private slots:
     void page_data();
     void page();
     void plot();
+    void ticksBetweenTwoPixels();
     void zoomBar_data();
     void zoomBar();
     void trackScroll_data();
@@ -27,6 +42,7 @@ private slots:
     void trackScrollFollowsTheFlag();
     void scrollingShowsAFrameOfTheOpenPicture();
     void resizingShowsTheWholeCurve();
+    void isToldNotifications();
     void notificationsChangeNothing();
     void newPropertiesRedraw();
 };
@@ -141,6 +157,16 @@ void TestSpectrum2DPage::plot()
     QVERIFY(!plot->yAxis2->visible());
 }
 
+void TestSpectrum2DPage::ticksBetweenTwoPixels()
+{
+    PlotPage page([](FakeServices &services) { services.spectrumUI.calibrationFactor = 0.1; });
+    QVERIFY(page.Show());
+    page.DrawLine(Values(10, 5));
+    page.plot->xAxis->setRange(0.2, 0.8);
+    page.plot->replot();
+    QVERIFY2(page.plot->xAxis->tickVector().size() > 2, qPrintable(QString::number(page.plot->xAxis->tickVector().size())));
+}
+
 void TestSpectrum2DPage::zoomBar_data()
 {
     QTest::addColumn<double>("scale");
@@ -239,6 +265,14 @@ void TestSpectrum2DPage::resizingShowsTheWholeCurve()
     QTRY_COMPARE(page.page->width(), 650);
     QCOMPARE(Text(page.X()), QString("0..2"));
     QCOMPARE(Text(page.Y()), QString("0..500"));
+}
+
+void TestSpectrum2DPage::isToldNotifications()
+{
+    const FakeServices services;
+    const ToldPage page(nullptr);
+    GlobalNotifyObserver(NotifyFVBBandChanged, nullptr);
+    QCOMPARE(page.ids, QVector<int>{ NotifyFVBBandChanged });
 }
 
 void TestSpectrum2DPage::notificationsChangeNothing()

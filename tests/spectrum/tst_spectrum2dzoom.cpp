@@ -22,11 +22,13 @@ private slots:
     void firstCurveSetsTheRanges();
     void blankRatio_data();
     void blankRatio();
+    void aDarkCurveIsBroughtIntoTheRange();
     void nextCurveKeepsTheRanges();
     void automaticZoomFollowsEachCurve();
     void requestsForNewRanges_data();
     void requestsForNewRanges();
     void verticalButtons();
+    void verticalButtonsKeepACurveWithAnOffset();
     void horizontalButtons();
     void reset();
     void calibrationChangeRestartsTheSteps();
@@ -36,6 +38,7 @@ private slots:
     void fractionsAreZoomed();
     void picturesAreRangedEachTime();
     void rangingAgainKeepsTheBlankSpace();
+    void steppingBackLeavesTheBlankSpaceOnce();
     void aFreshPictureHasItsBlankSpaceOnce_data();
     void aFreshPictureHasItsBlankSpaceOnce();
     void aPictureBelowZeroIsNotCutOff();
@@ -74,6 +77,16 @@ void TestSpectrum2DZoom::blankRatio()
     page.services.spectrumUI.blankRatio = ratio;
     page.DrawLine({ 0, 4000, 200 });
     QTEST(Text(page.Y()), "y");
+}
+
+/// It has no height, which is no range.
+void TestSpectrum2DZoom::aDarkCurveIsBroughtIntoTheRange()
+{
+    PlotPage page;
+    page.DrawLine({ 100, 5000, 100 });
+    page.page->SlotUpdateResetFlag();
+    page.DrawLine({ 0, 0, 0 });
+    QVERIFY2(page.Y().contains(0), qPrintable(Text(page.Y())));
 }
 
 void TestSpectrum2DZoom::nextCurveKeepsTheRanges()
@@ -132,6 +145,15 @@ void TestSpectrum2DZoom::verticalButtons()
     ClickButton(page, "pushButton2DZoomOut");
     QCOMPARE(Text(page.Y()), QString("-10..990"));
     QCOMPARE(Text(page.X()), QString("0..2"));
+}
+
+void TestSpectrum2DZoom::verticalButtonsKeepACurveWithAnOffset()
+{
+    PlotPage page;
+    page.DrawLine({ 1000, 1100, 1000 });
+    for (int click = 0; click < 10; ++click)
+        ClickButton(page, "pushButton2DZoomIn");
+    QVERIFY2(page.Y().contains(1000) && page.Y().contains(1001), qPrintable(Text(page.Y())));
 }
 
 void TestSpectrum2DZoom::horizontalButtons()
@@ -261,6 +283,22 @@ void TestSpectrum2DZoom::rangingAgainKeepsTheBlankSpace()
     page.plot->yAxis->setRange(0, 8000); // zoomed by the user
     page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
     QCOMPARE(Text(page.Y()), QString("0..10000"));
+}
+
+void TestSpectrum2DZoom::steppingBackLeavesTheBlankSpaceOnce()
+{
+    PlotPage page;
+    QVERIFY(page.Show());
+    page.page->SetStaticMode(true);
+    int row[] = { 0, 8000, 200 };
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    row[1] = 4000;
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    page.plot->replot();
+    page.Drag(QPoint(400, 100), QPoint(200, 100)); // there is no step left
+    QCOMPARE(Text(page.Y()), QString("0..5000"));
+    page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
+    QCOMPARE(Text(page.Y()), QString("0..5000"));
 }
 
 void TestSpectrum2DZoom::aFreshPictureHasItsBlankSpaceOnce_data()

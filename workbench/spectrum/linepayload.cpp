@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "linepayload.h"
 
-#include <QMutexLocker>
+#include "payloadlocker.h"
 
 #include <algorithm>
 #include <cmath>
@@ -39,7 +39,7 @@ LinePayload::Buffer LinePayload::MakeBuffer(int mostLines)
 SpectrumLinePayload *LinePayload::Fill(const std::vector<const Spectrum *> &lines, int width, SpectrumQuantity quantity)
 {
     // Nobody draws while we are here: both sides run in the GUI thread.
-    const QMutexLocker lock(&m_mutex);
+    const PayloadLocker locker(&m_mutex);
     width = qBound(0, width, WidestFrame);
     const size_t count = std::min(lines.size(), size_t(m_mostLines));
     unsigned int least = count == 0 || width == 0 ? 0 : std::numeric_limits<unsigned int>::max();
