@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fieldsource.h"
 #include "livepreview.h"
 #include "openedpicture.h"
 #include "picturedesk.h"
@@ -66,6 +67,23 @@ private slots:
         });
         QTRY_COMPARE_WITH_TIMEOUT(double(drawn), made, waitMs);
         disconnect(Spectra(), nullptr, this, nullptr);
+        m_workbench->Action("Off")->trigger();
+    }
+
+    /// The next drag begins where the mark is.
+    void rowsTypedInThePanelMoveTheMark()
+    {
+        m_workbench->Action("Band by Hand")->trigger();
+        QTRY_VERIFY(Band() && Band()->shape().contains(QPointF(400, 2047)));
+        FieldSource *panel = FieldSource::Find(FieldSource::SpectrumName);
+        panel->Set("top", 500);
+        panel->Set("bottom", 1500);
+        QVERIFY(Band()->shape().contains(QPointF(400, 500)) && Band()->shape().contains(QPointF(400, 1500)));
+        QVERIFY(!Band()->shape().contains(QPointF(400, 2047)));
+        SavePicture("band-typed.png");
+        Drag(QPointF(400, 1500), QPointF(400, 1200));
+        QTRY_VERIFY(std::abs(m_workbench->services.Spectrum()->GetBottom() - 1200) <= Reach());
+        QCOMPARE(m_workbench->services.Spectrum()->GetTop(), 500);
         m_workbench->Action("Off")->trigger();
     }
 

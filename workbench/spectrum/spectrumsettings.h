@@ -146,6 +146,7 @@ private:
     std::optional<RulerRange> SpectralValues(const Area &area) const;
     /// True when the band set by hand had to become another one; the user is told.
     bool KeepBandInPicture();
+    void AnnounceBand();
     int MostTracks(bool horizontal) const;
     void TellOfTooManyTracks();
     void DropTracks(const QString &reason);

@@ -51,8 +51,13 @@ void SpectrumSettingsTest::rowsOfTheBandAreKept()
     QVERIFY(m_settings->GetManualFlag() && !m_settings->IsFVBModeAll() && !m_settings->IsFVBModeAuto());
     QCOMPARE(m_settings->GetTop(), 0);
     QCOMPARE(m_settings->GetBottom(), 499);
+    QSignalSpy band(m_settings.get(), &SpectrumUIManager::SignalTopBottomChanged);
     m_settings->SetTop(100);
+    QCOMPARE(band.value(band.count() - 1), QVariantList({QPointF(0, 100), QPointF(0, 499)}));
     m_settings->SetBottom(120);
+    QCOMPARE(band.value(band.count() - 1), QVariantList({QPointF(0, 100), QPointF(0, 120)}));
+    m_settings->SetBottom(120);
+    QCOMPARE(band.count(), 2);
     QCOMPARE(m_settings->Recipe().top, 100);
     QCOMPARE(m_settings->Recipe().bottom, 120);
     m_settings->SetBinnedRows(BinnedRows::Auto);
