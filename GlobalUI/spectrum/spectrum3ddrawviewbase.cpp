@@ -80,6 +80,7 @@ void Spectrum3DDrawViewBase::CreatePlot()
     layout()->addWidget(m_plot);
     m_noTracks =
         MakeNotice(tr("There are no tracks to show: draw them on the picture or have them found."), this);
+    m_noTracks->setObjectName("labelNoTracks");
     // Beside the plot it becomes a window of its own, too.
     m_noTracks->setAttribute(Qt::WA_DontCreateNativeAncestors);
     m_noTracks->hide();

@@ -54,6 +54,8 @@ public:
 
     /// The plots get the newest spectrum once more: a page that was hidden has none. Nothing when one is on its way.
     void ShowAgain();
+    /// While a file is on the screen its page is told of no tracks: they are the camera's.
+    void SetTracksAnnounced(bool announced) { m_areTracksAnnounced = announced; }
     /// The plots are told that there are no tracks, in place of those that they show.
     void AnnounceNoTracks();
 
@@ -114,6 +116,7 @@ private:
     SpectrumLedger m_ledger;
     bool m_isBinning = false; ///< by the newest recipe
     bool m_hasTracks = false;
+    bool m_areTracksAnnounced = true;
     SpectrumProduct m_shown;
     QUndoStack *m_undo = nullptr;
     Spectrum m_dark; ///< the engine's after the next frame, as the next one
