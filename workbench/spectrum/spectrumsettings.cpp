@@ -86,6 +86,8 @@ void SpectrumSettings::SetMultiTrackOnFlag(bool on)
         SetFVBOnFlag(0);
     emit SignalMultiTrackOnFlagChanged();
     emit signalRecipeChanged();
+    if (!m_recipe.isHorizontal)
+        AnnounceAxis(); // the plot counts tracks, or pixels again
 }
 
 /// Drawn across the tracks, the plot has room for 20 of them; the other pages show all.

@@ -151,6 +151,10 @@ private:
     void TellOfTooManyTracks();
     void DropTracks(const QString &reason);
     void AnnounceAxis();
+    /// The plot of the camera has one value of each track: it counts these.
+    bool IsAcrossTracks() const;
+    /// What Calculate() does for anything else.
+    bool Convert(int pixel, double &x) const;
     /// Of what Calculate() gives.
     QString AxisTitle() const;
     SpectralFrame LiveFrame() const;

@@ -116,7 +116,22 @@ CalibratedAxis SpectrumSettings::LiveAxis(bool isHorizontal) const
     return axis;
 }
 
+bool SpectrumSettings::IsAcrossTracks() const
+{
+    const bool isPlot = Mode() == DisplayMode::Plot || Mode() == DisplayMode::PlotPeak;
+    return isPlot && !m_isImageShown && m_recipe.hasTracks && !m_recipe.isHorizontal;
+}
+
+/// Tracks have a number, from 1.
 bool SpectrumSettings::Calculate(int pixel, double &x) const
+{
+    if (!IsAcrossTracks())
+        return Convert(pixel, x);
+    x = pixel + 1;
+    return true;
+}
+
+bool SpectrumSettings::Convert(int pixel, double &x) const
 {
     x = pixel;
     const CalibratedAxis &axis = ShownAxis();
