@@ -30,7 +30,7 @@ void SpectrumSettings::UpdateImageSpectra()
 
 SpectralFrame SpectrumSettings::LiveFrame() const { return SpectralFrame::Of(m_sensorFrame, m_recipe.isHorizontal); }
 
-SpectralFrame SpectrumSettings::ShownFrame() const { return m_isImageShown ? m_image.Frame(m_recipe.isHorizontal) : LiveFrame(); }
+SpectralFrame SpectrumSettings::ShownFrame() const { return m_isImageShown ? m_image.Frame(IsImageHorizontal()) : LiveFrame(); }
 
 void SpectrumSettings::SetSensorFrame(const SensorFrame &frame)
 {
@@ -88,7 +88,13 @@ void SpectrumSettings::slotSetImageShown(bool shown)
 {
     if (m_isImageShown == shown)
         return;
+    const bool wasHorizontal = IsDirectionHorinzontal();
     m_isImageShown = shown;
+    if (wasHorizontal != IsDirectionHorinzontal()) {
+        emit signalRecipeChanged();
+        if (m_recipe.hasTracks && !shown)
+            emit SignalMultiTrackOnFlagChanged(); // the camera's track bar ranges by the direction on the screen
+    }
     AnnounceAxis();
 }
 
@@ -106,7 +112,7 @@ const CalibratedAxis &SpectrumSettings::ShownAxis() const
 {
     if (!m_isImageShown)
         return m_liveAxis;
-    return m_recipe.isHorizontal ? m_imageAxis : m_imageColumnAxis;
+    return IsImageHorizontal() ? m_imageAxis : m_imageColumnAxis;
 }
 
 CalibratedAxis SpectrumSettings::LiveAxis(bool isHorizontal) const
@@ -157,5 +163,5 @@ QVector<MetadataEntry> SpectrumSettings::LiveCalibration() const
 
 QVector<MetadataEntry> SpectrumSettings::ImageCalibration() const
 {
-    return m_imageAxis.IsOwn() && m_recipe.isHorizontal ? SpectralMetadata(m_imageAxis.Record()) : QVector<MetadataEntry>();
+    return m_imageAxis.IsOwn() && IsImageHorizontal() ? SpectralMetadata(m_imageAxis.Record()) : QVector<MetadataEntry>();
 }
