@@ -45,6 +45,7 @@
 #include "statusline.h"
 #include "uimanagerbase.h"
 #include "unsavedguard.h"
+#include "valueaxis.h"
 #include "viewcodes.h"
 #include "viewmenu.h"
 #include "workbenchservices.h"
@@ -126,6 +127,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
             [this](bool seen) { statusBar()->setVisible(!m_isFullScreen || seen); });
     new CurveStatus(services, statusBar(), this);
     new StandingCurve(services, m_centre, this);
+    new ValueAxis(services->Spectra(), m_centre->widget(CameraControlPage), this);
     new OpenedTracksNotice(services, m_centre->widget(ImageControlPage), this);
     m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);
     connect(services, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));

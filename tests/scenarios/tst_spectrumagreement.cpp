@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calibrationdialog.h"
+#include "fieldsource.h"
+#include "openedpicture.h"
+#include "picturedesk.h"
 #include "plotpicture.h"
+#include "spebytes.h"
 #include "spectrographscenario.h"
 #include "spectrumexport.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
+#include "workspaceconfig.h"
 
 #include <QAction>
 #include <QDoubleSpinBox>
@@ -67,7 +72,75 @@ private slots:
         }
     }
 
+    /// Its band by hand is one of columns, and stays that.
+    void anOpenedFileLeavesTheDirectionOfTheCamera()
+    {
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("Vertical")->trigger();
+        m_workbench->Action("Band by Hand")->trigger();
+        Settings()->SetTop(580);
+        Settings()->SetBottom(600);
+        QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().band.bottom, 601, waitMs);
+        OpenFile();
+        QVERIFY(m_workbench->Action("Horizontal")->isChecked());
+        QTRY_VERIFY(Plot() && Plot()->graph(0)->dataCount() == fileWidth);
+        m_workbench->services.Config()->SetCameraView();
+        QVERIFY(m_workbench->Action("Vertical")->isChecked());
+        const quint64 frame = Spectra()->Shown().frameId;
+        QTRY_VERIFY_WITH_TIMEOUT(Spectra()->Shown().frameId != frame, waitMs);
+        QVERIFY(!Spectra()->Shown().raw.place.isHorizontal);
+        QCOMPARE(Spectra()->Shown().band.top, 580);
+        QCOMPARE(Spectra()->Shown().band.bottom, 601);
+    }
+
+    void theValueAxisNamesWhatIsDrawn()
+    {
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("All Rows")->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().raw.Count(), width, waitMs);
+        QCOMPARE(Plot()->yAxis->label(), QString("Counts"));
+        m_workbench->Action("Transmission")->trigger();
+        QVERIFY(m_workbench->WaitForNextPicture());
+        QCOMPARE(Plot()->yAxis->label(), QString("Counts")); // without a reference it is these
+        m_workbench->Action("Take Reference Spectrum")->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(Plot()->yAxis->label(), QString("Transmission [1/100 %]"), waitMs);
+        QVERIFY(CorrectionsNote().endsWith("transmission in 1/100 %. Values below zero are drawn at zero."));
+        SavePicture("transmission.png");
+        const QString drawing = SpectrumExport(m_workbench.get(), m_folder->path()).Lines("Export Plot…", "plot.svg").join(' ');
+        QVERIFY(drawing.contains("Transmission [1/100 %]"));
+        QVERIFY(!drawing.contains("Counts"));
+        m_workbench->Action("Absorbance")->trigger();
+        QTRY_COMPARE_WITH_TIMEOUT(Plot()->yAxis->label(), QString("Absorbance [1/10000]"), waitMs);
+        m_workbench->Action("Find Tracks")->trigger(); // of which there is no reference
+        QTRY_COMPARE_WITH_TIMEOUT(Plot()->yAxis->label(), QString("Counts"), waitMs);
+    }
+
 private:
+    static constexpr int fileWidth = 400;
+
+    /// A spectrum of one row with one line.
+    void OpenFile()
+    {
+        SpeBytes spe(fileWidth, 1, 3, 1);
+        for (int x = 0; x < fileWidth; ++x)
+            spe.AppendRamp(1, x == 200 ? 3000 : 5);
+        QFile file(m_folder->filePath("line.spe"));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(spe.Bytes()) > 0);
+        file.close();
+        PictureDesk *desk = m_workbench->services.Desk();
+        desk->Open({file.fileName()}, desk->MainPicture());
+        QTRY_VERIFY(Settings()->IsImageShown());
+    }
+
+    static QString CorrectionsNote()
+    {
+        for (const PanelField &field : FieldSource::Find(FieldSource::SpectrumName)->Fields()) {
+            if (field.key == "corrections")
+                return field.value.toString();
+        }
+        return QString();
+    }
+
     SpectrumPipeline *Spectra() const { return m_workbench->services.Spectra(); }
     SpectrumSettings *Settings() const { return m_workbench->services.Spectrum(); }
 
