@@ -114,6 +114,8 @@ QWidget *CalibrationDialog::BuildLamps()
     form->addRow(tr("Lamps:"), lamps);
 
     auto *range = new QHBoxLayout;
+    m_first->setValue(m_model->FirstNm());
+    m_last->setValue(m_model->LastNm());
     for (QDoubleSpinBox *end : {m_first, m_last}) {
         end->setSpecialValueText(tr("unknown"));
         end->setSuffix(tr(" nm"));

@@ -21,6 +21,7 @@
 #include "liveorientation.h"
 #include "openedpicture.h"
 #include "openedprofiles.h"
+#include "openedtracksnotice.h"
 #include "panelsources.h"
 #include "picturedesk.h"
 #include "picturedialogs.h"
@@ -44,6 +45,7 @@
 #include "statusline.h"
 #include "uimanagerbase.h"
 #include "unsavedguard.h"
+#include "valueaxis.h"
 #include "viewcodes.h"
 #include "viewmenu.h"
 #include "workbenchservices.h"
@@ -125,6 +127,8 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
             [this](bool seen) { statusBar()->setVisible(!m_isFullScreen || seen); });
     new CurveStatus(services, statusBar(), this);
     new StandingCurve(services, m_centre, this);
+    new ValueAxis(services->Spectra(), m_centre->widget(CameraControlPage), this);
+    new OpenedTracksNotice(services, m_centre->widget(ImageControlPage), this);
     m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);
     connect(services, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));
     connect(m_drawingGuard, SIGNAL(signalMessage(QString)), this, SLOT(slotShowMessage(QString)));

@@ -190,7 +190,7 @@ void SpectrometerMenu::slotUpdate()
     Check(m_modes, int(m_settings->Mode()));
     Check(m_rows, recipe.isBinning ? int(recipe.rows) : binningOff);
     m_allRows->setText(recipe.isHorizontal ? tr("&All Rows") : tr("&All Columns"));
-    Check(m_directions, recipe.isHorizontal ? 1 : 0);
+    Check(m_directions, m_settings->IsDirectionHorinzontal() ? 1 : 0);
     Check(m_quantities, int(recipe.corrections.quantity));
     Check(m_averages, recipe.corrections.averaged);
     Check(m_smoothings, recipe.corrections.smoothing);

@@ -93,7 +93,7 @@ ExportedSpectrum SpectrumDialogs::OpenedSpectrum() const
 {
     ExportedSpectrum spectrum;
     const OpenedPicture *picture = m_services->Desk()->MainPicture();
-    const bool isHorizontal = m_services->Spectrum()->Recipe().isHorizontal;
+    const bool isHorizontal = m_services->Spectrum()->IsDirectionHorinzontal();
     spectrum.axis = m_services->Spectrum()->ShownAxis();
     spectrum.product.raw.values = picture->Profiles()->Values(isHorizontal);
     if (spectrum.product.raw.values.empty())

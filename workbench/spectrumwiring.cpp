@@ -143,7 +143,9 @@ void SpectrumWiring::slotShowWholeNextCurve()
 void SpectrumWiring::slotViewSwitched()
 {
     const int view = m_parts.config->GetCurrentView();
-    m_parts.settings->slotSetImageShown(view == ImageView || view == ImageCompareView);
+    const bool isImage = view == ImageView || view == ImageCompareView;
+    m_parts.settings->slotSetImageShown(isImage);
+    m_parts.pipeline->SetTracksAnnounced(!isImage);
     slotShowCurvesAgain();
 }
 
@@ -157,7 +159,8 @@ void SpectrumWiring::slotShowCurvesAgain()
 
 void SpectrumWiring::TellOfNoTracks()
 {
-    if (m_parts.centre->Mode() == DisplayMode::Tracks3D && !m_parts.settings->Recipe().hasTracks)
+    const SpectrumSettings *settings = m_parts.settings;
+    if (m_parts.centre->Mode() == DisplayMode::Tracks3D && (!settings->Recipe().hasTracks || settings->IsImageShown()))
         m_parts.pipeline->AnnounceNoTracks();
 }
 

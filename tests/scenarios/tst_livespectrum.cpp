@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "fieldsource.h"
 #include "livepreview.h"
 #include "openedpicture.h"
 #include "payloadlocker.h"
@@ -23,6 +24,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSignalSpy>
 
 #include <qcustomplot.h>
 #include <qwt3d_surfaceplot.h>
@@ -66,6 +68,24 @@ private slots:
         });
         QTRY_COMPARE_WITH_TIMEOUT(double(drawn), made, waitMs);
         disconnect(Spectra(), nullptr, this, nullptr);
+        m_workbench->Action("Off")->trigger();
+    }
+
+    /// The next drag begins where the mark is.
+    void rowsTypedInThePanelMoveTheMark()
+    {
+        m_workbench->Action("Band by Hand")->trigger();
+        QTRY_VERIFY(Band() && Band()->shape().contains(QPointF(400, 2047)));
+        FieldSource *panel = FieldSource::Find(FieldSource::SpectrumName);
+        panel->Set("top", 500);
+        panel->Set("bottom", 1500);
+        QVERIFY(Band()->shape().contains(QPointF(400, 500)) && Band()->shape().contains(QPointF(400, 1500)));
+        QVERIFY(!Band()->shape().contains(QPointF(400, 2047)));
+        Drag(QPointF(400, 1500), QPointF(400, 1200));
+        QTRY_VERIFY(std::abs(m_workbench->services.Spectrum()->GetBottom() - 1200) <= Reach());
+        QCOMPARE(m_workbench->services.Spectrum()->GetTop(), 500);
+        QVERIFY(m_workbench->WaitForNextPicture());
+        SavePicture("band-typed.png");
         m_workbench->Action("Off")->trigger();
     }
 
@@ -263,8 +283,8 @@ private slots:
         QTRY_COMPARE(Plot()->yAxis->range().upper, wholeHeight());
     }
 
-    /// Both pages have a plot of their own, and one payload.
-    void theImagePageShowsTheTracksToo()
+    /// They are the camera's.
+    void thePageOfAnOpenedFileShowsNoTracks()
     {
         m_workbench->Action("Tracks in 3D")->trigger();
         m_workbench->Action("Find Tracks")->trigger();
@@ -280,12 +300,19 @@ private slots:
         PictureDesk *desk = m_workbench->services.Desk();
         desk->Open({path}, desk->MainPicture());
         QTRY_COMPARE(m_workbench->services.Config()->GetCurrentView(), int(ImageView));
-        QTRY_VERIFY(Plot3D() && Plot3D() != live);
-        QTRY_VERIFY2(ColouredPixels(Screen(Plot3D())) > 300, qPrintable(QString::number(ColouredPixels(Screen(Plot3D())))));
+        QTRY_COMPARE(Notice(), QString("An opened file has no tracks: go to the camera."));
+        QSignalSpy announced(Spectra(), SIGNAL(SignalUpdateMultiTrack(void *)));
+        Spectra()->ShowAgain(); // as a frame does that waited
+        QCoreApplication::processEvents();
+        QVERIFY(announced.isEmpty());
+        QVERIFY(!Plot3D());
         SavePicture("image-page-3d.png");
+        m_workbench->Action("Export Plot…")->trigger();
+        QCOMPARE(m_workbench->StatusText(), QString("There is no plot to export: show the curve or the tracks in 3D first."));
 
         m_workbench->services.Config()->SetCameraView();
         QTRY_COMPARE(Plot3D(), live);
+        QVERIFY(Notice().isEmpty());
         QTRY_VERIFY(ColouredPixels(Screen(live)) > 300);
     }
 

@@ -120,7 +120,7 @@ private slots:
                                      && spectra->Shown().corrected.values.at(500) == 0.0,
                                  WaitMs);
         QVERIFY(spectra->Shown().raw.values.at(500) > 0);
-        QTRY_COMPARE(Note("noteCorrections"), QString("Corrections: dark subtracted."));
+        QTRY_COMPARE(Note("noteCorrections"), QString("Corrections: dark subtracted. Values below zero are drawn at zero."));
         Type("numberAverage", "8");
         QCOMPARE(settings->Recipe().corrections.averaged, 8);
         Type("numberSmoothing", "4");

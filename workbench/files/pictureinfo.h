@@ -23,6 +23,7 @@ struct PictureInfo
     PictureFormat format = PictureFormat::Unknown;
     QString formatDetail; ///< "BigTIFF, deflate", "compressed image in extension 1"; may be empty
     int frames = 0;
+    int kinds = 1; ///< of frames, which take turns: the regions that each exposure has
     QSize size;
     int channels = 1;
     SampleType sampleType = SampleType::U8;

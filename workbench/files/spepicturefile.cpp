@@ -39,6 +39,7 @@ void SpePictureFile::FillInfo()
     PictureInfo &info = MutableInfo();
     info.format = PictureFormat::Spe;
     info.frames = m_layout.frames * regions;
+    info.kinds = regions;
     info.size = QSize(first.width, first.height);
     info.sampleType = m_layout.type;
     info.metadata = m_layout.metadata;

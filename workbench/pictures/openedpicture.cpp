@@ -50,7 +50,7 @@ void OpenedPicture::Request(PictureDocument *document, int frame)
     request.isPreview = m_trials->IsPreviewing();
     request.edit = document->Edit().Processed(m_trials->Previewed());
     request.count = m_trials->Counting();
-    request.range = request.isPreview ? SampleRange() : document->Range();
+    request.range = request.isPreview ? SampleRange() : document->Range(frame);
     request.wantsThumbnail =
         !request.isPreview
         && (document != m_document || m_shown.request.isPreview || request.edit != m_shown.request.edit);
@@ -90,7 +90,7 @@ void OpenedPicture::GiveUp(const PictureDocument *document)
     TellFrameBrowser();
     // What was done meanwhile to the one that is shown.
     const bool isOutdated =
-        m_document && (m_document->Edit() != m_shown.request.edit || !m_document->Range().IsKnown());
+        m_document && (m_document->Edit() != m_shown.request.edit || !m_document->Range(m_wantedFrame).IsKnown());
     if (isOutdated && document != m_document)
         Request(m_document, m_wantedFrame);
     emit signalGivenUp();
@@ -104,7 +104,7 @@ void OpenedPicture::Take(const LoadedPicture &picture)
     m_wanted->SetInfo(picture.info);
     m_wanted->SetFrame(picture.request.frame);
     if (!picture.request.isPreview)
-        m_wanted->SetRange(picture.range);
+        m_wanted->SetRange(picture.request.frame, picture.range);
     if (isOther)
         Follow(m_wanted);
     m_levels->Set(picture.samples.Type(), picture.range);
@@ -233,7 +233,7 @@ void OpenedPicture::slotLevelsChanged()
 {
     if (!m_document)
         return;
-    m_document->SetRange(SampleRange());
+    m_document->ForgetRanges();
     ShowAnew();
 }
 
@@ -332,7 +332,7 @@ SaveRequest OpenedPicture::SaveOfShown(bool allFrames) const
     request.firstFrame = allFrames ? 0 : m_shown.request.frame;
     request.frameCount = allFrames ? m_frameCount : 1;
     request.edit = m_document->Edit();
-    request.range = m_document->Range();
+    request.ranges = m_document->Ranges();
     if (m_calibration)
         request.calibration = m_calibration();
     return request;

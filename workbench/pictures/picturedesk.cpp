@@ -329,7 +329,7 @@ void PictureDesk::slotSaved(const SaveRequest &request, const QString &error)
 /// The file may be another one now.
 void PictureDesk::Reread(PictureDocument *document)
 {
-    document->SetRange(SampleRange());
+    document->ForgetRanges();
     document->SetFrame(0);
     Reopen(document);
 }

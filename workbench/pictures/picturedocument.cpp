@@ -60,6 +60,17 @@ QString PictureDocument::Description() const
     return lines.join('\n');
 }
 
+/// Those of the file take turns in a stack that was processed, too.
+int PictureDocument::KindOf(int frame) const { return frame % qMax(1, m_info.kinds); }
+
+SampleRange PictureDocument::Range(int frame) const { return m_ranges.value(KindOf(frame)); }
+
+void PictureDocument::SetRange(int frame, const SampleRange &range)
+{
+    m_ranges.resize(qMax(1, m_info.kinds));
+    m_ranges[KindOf(frame)] = range;
+}
+
 void PictureDocument::SetThumbnail(const QImage &thumbnail)
 {
     m_thumbnail = thumbnail;
@@ -83,7 +94,7 @@ void PictureDocument::PushEdit(const PictureEdit &edit, const QString &text)
 void PictureDocument::Reset()
 {
     m_undoStack->clear();
-    m_range = SampleRange();
+    ForgetRanges();
     m_edit = PictureEdit();
 }
 
@@ -99,7 +110,7 @@ void PictureDocument::SetSaved(const PictureEdit &edit)
 void PictureDocument::SetEdit(const PictureEdit &edit)
 {
     if (!edit.HasSameSteps(m_edit))
-        m_range = SampleRange(); // other samples
+        ForgetRanges(); // other samples
     m_edit = edit;
     emit signalEdited();
 }

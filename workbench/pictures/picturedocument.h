@@ -38,9 +38,12 @@ public:
     bool IsChecked() const { return m_isChecked; }
     void SetChecked(bool checked);
 
-    /// Automatic levels, as they were found when it was first shown.
-    const SampleRange &Range() const { return m_range; }
-    void SetRange(const SampleRange &range) { m_range = range; }
+    /// Automatic levels of a frame, as they were found when one of its kind was first shown.
+    SampleRange Range(int frame) const;
+    void SetRange(int frame, const SampleRange &range);
+    /// Of each kind of frame; may be shorter.
+    const QVector<SampleRange> &Ranges() const { return m_ranges; }
+    void ForgetRanges() { m_ranges.clear(); }
 
     /// The one shown last (from 0).
     int Frame() const { return m_frame; }
@@ -65,13 +68,14 @@ signals:
 private:
     friend class EditCommand;
     void SetEdit(const PictureEdit &edit);
+    int KindOf(int frame) const;
 
     const quint64 m_id;
     QString m_path;
     PictureInfo m_info;
     QImage m_thumbnail;
     bool m_isChecked = false;
-    SampleRange m_range;
+    QVector<SampleRange> m_ranges;
     int m_frame = 0;
     PictureEdit m_edit;
     QUndoStack *m_undoStack;

@@ -102,6 +102,7 @@ bool SaveTask::Begin(PictureAccess &access)
         const PictureFile *file = access.Open(m_request.file, m_error);
         if (!file)
             return false;
+        m_request.ranges.resize(std::max(1, file->Info().kinds));
         options.dpiX = file->Info().dpiX / m_request.edit.PixelsJoined();
         options.dpiY = file->Info().dpiY / m_request.edit.PixelsJoined();
         if (m_request.edit.GetOrientation().SwapsSides())
@@ -124,7 +125,7 @@ bool SaveTask::Frame(EditedFrames &frames, PictureDisplay &display, Picture &fra
     if (!frames.Read(m_request.file, index, m_request.edit, isUnwanted, frame, fileSize, m_error))
         return false;
     if (!HoldsSamples(FormatOfName(m_request.target), frame.Type()))
-        frame = FromImage(display.MakePlain(frame, m_request.range));
+        frame = FromImage(display.MakePlain(frame, m_request.ranges[index % m_request.ranges.size()]));
     return true;
 }
 

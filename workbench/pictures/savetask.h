@@ -19,7 +19,8 @@ struct SaveRequest
     int firstFrame = 0;
     int frameCount = 1;
     PictureEdit edit;
-    SampleRange range; ///< for formats that hold less than the samples
+    /// For formats that hold less than the samples, of each kind of frame (see PictureInfo).
+    QVector<SampleRange> ranges;
     QVector<MetadataEntry> calibration; ///< of the columns or rows as they are seen, instead of what the file says; may be empty
     QImage image;      ///< instead of a file's frames, Grayscale8 or RGB888
     QString target;

@@ -61,6 +61,11 @@ bool CorrectionSettings::operator==(const CorrectionSettings &other) const
         && smoothing == other.smoothing;
 }
 
+bool AppliedCorrections::GoesBelowZero() const
+{
+    return wanted.removesBaseline || (!isTrack && (IsDarkSubtracted() || (hasReference && IsReferenceWanted())));
+}
+
 QString AppliedCorrections::Sentence() const
 {
     QStringList parts;

@@ -39,6 +39,8 @@ struct AppliedCorrections
     bool IsDarkSubtracted() const { return wanted.subtractsDark && hasDark; }
     /// Of the values: counts as long as there is no reference.
     SpectrumQuantity Quantity() const { return hasReference ? wanted.quantity : SpectrumQuantity::Counts; }
+    /// Values may be below zero.
+    bool GoesBelowZero() const;
     int SmoothingWindow() const { return wanted.smoothing / 2 * 2 + 1; }
 
     /// One sentence for the user: what was done, and what was wanted and could not be.

@@ -34,6 +34,8 @@ public:
     const QVector<Lamp> &Lamps() const { return m_lamps; }
     /// About the wavelengths at both ends; equal when nothing is known.
     void SetRange(double firstNm, double lastNm);
+    double FirstNm() const { return m_firstNm; }
+    double LastNm() const { return m_lastNm; }
     void SetDegree(int degree);
     int Degree() const { return m_degree; }
 

@@ -19,5 +19,9 @@ QString CorrectionsLine(const SpectrumSettings &settings, const SpectrumProduct 
 {
     if (settings.IsImageShown())
         return Text::tr("None: an opened file is shown as it was saved.");
-    return live.HasSpectrum() ? live.corrections.Sentence() : Text::tr("There is no spectrum yet.");
+    if (!live.HasSpectrum())
+        return Text::tr("There is no spectrum yet.");
+    const QString sentence = live.corrections.Sentence();
+    // The plots take whole numbers without a sign.
+    return live.corrections.GoesBelowZero() ? Text::tr("%1 Values below zero are drawn at zero.").arg(sentence) : sentence;
 }

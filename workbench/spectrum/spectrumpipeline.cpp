@@ -331,7 +331,7 @@ void SpectrumPipeline::AnnounceLines()
 {
     if (!m_shown.corrected.values.empty())
         emit SignalUpdateFVB(m_line.Fill({&m_shown.corrected}, m_shown.corrected.Count(), m_shown.corrections.Quantity()));
-    if (m_shown.tracks.empty())
+    if (m_shown.tracks.empty() || !m_areTracksAnnounced)
         return;
     std::vector<const Spectrum *> tracks;
     for (const Spectrum &track : m_shown.tracks)

@@ -86,6 +86,8 @@ void SpectrumSettings::SetMultiTrackOnFlag(bool on)
         SetFVBOnFlag(0);
     emit SignalMultiTrackOnFlagChanged();
     emit signalRecipeChanged();
+    if (!m_recipe.isHorizontal)
+        AnnounceAxis(); // the plot counts tracks, or pixels again
 }
 
 /// Drawn across the tracks, the plot has room for 20 of them; the other pages show all.
@@ -186,12 +188,29 @@ void SpectrumSettings::SetFocusAssitanceFlag(bool on)
 
 // Direction and corrections
 
-bool SpectrumSettings::IsDirectionHorinzontal() const { return m_recipe.isHorizontal; }
+bool SpectrumSettings::IsImageHorizontal() const { return m_isImageHorizontal.value_or(m_recipe.isHorizontal); }
 
-void SpectrumSettings::SetDirectionHorizontal() { SetHorizontal(true); }
+bool SpectrumSettings::IsDirectionHorinzontal() const { return m_isImageShown ? IsImageHorizontal() : m_recipe.isHorizontal; }
+
+void SpectrumSettings::SetDirectionHorizontal() { SetImageHorizontal(true); }
+
+/// Band and tracks of the camera stay as they are.
+void SpectrumSettings::SetImageHorizontal(bool horizontal)
+{
+    const bool isOther = IsImageHorizontal() != horizontal;
+    m_isImageHorizontal = horizontal;
+    if (!isOther || !m_isImageShown)
+        return;
+    emit signalRecipeChanged();
+    AnnounceAxis();
+}
 
 void SpectrumSettings::SetHorizontal(bool horizontal)
 {
+    if (m_isImageShown) {
+        SetImageHorizontal(horizontal);
+        return;
+    }
     if (m_recipe.isHorizontal == horizontal)
         return;
     if (m_recipe.hasTracks && m_tracks.size() > MostTracks(horizontal)) {

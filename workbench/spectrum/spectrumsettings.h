@@ -30,7 +30,8 @@ public:
     void SetBinnedRows(BinnedRows rows);
     /// Of the live picture, across the spectrum: its rows or its columns; 0 before there is one.
     int LinesAcross() const;
-    /// Refused, in words, while the plot is shown and has no room for all tracks in that direction.
+    /// Of what is on the screen: an opened picture has a direction of its own, from when one is chosen for it. Refused, in
+    /// words, while the plot is shown and has no room for all tracks in that direction.
     void SetHorizontal(bool horizontal);
     /// Replaces the list; refused, in words, when it is empty, overlaps or leaves the frame.
     bool SetTracks(const QList<QRectF> &tracks);
@@ -91,6 +92,7 @@ public:
     bool GetFocusAssitanceFlag() const override;
     void SetFocusAssitanceFlag(bool on) override;
     bool IsDirectionHorinzontal() const override;
+    /// Of opened pictures.
     void SetDirectionHorizontal() override;
     void SlotNewArea(double xmin, double xmax, double ymin, double ymax) override;
     void SlotImageNewArea(double xmin, double xmax, double ymin, double ymax) override;
@@ -118,7 +120,7 @@ public slots:
     void slotSetFrameSize(QSize size);
 
 signals:
-    /// Something of Recipe() is another.
+    /// Something of Recipe(), or the direction, is another.
     void signalRecipeChanged();
     void signalUnitChanged();
     /// The frame is another, and the tracks are no more, as they do not fit it.
@@ -148,12 +150,19 @@ private:
     std::optional<RulerRange> SpectralValues(const Area &area) const;
     /// True when the band set by hand had to become another one; the user is told.
     bool KeepBandInPicture();
+    void AnnounceBand();
     int MostTracks(bool horizontal) const;
     void TellOfTooManyTracks();
     void DropTracks(const QString &reason);
     void AnnounceAxis();
+    /// The plot of the camera has one value of each track: it counts these.
+    bool IsAcrossTracks() const;
+    /// What Calculate() does for anything else.
+    bool Convert(int pixel, double &x) const;
     /// Of what Calculate() gives.
     QString AxisTitle() const;
+    bool IsImageHorizontal() const;
+    void SetImageHorizontal(bool horizontal);
     SpectralFrame LiveFrame() const;
     void UpdateImageSpectra();
     /// Along the direction of the spectrum.
@@ -178,6 +187,7 @@ private:
     SpectralPicture m_replaced;       ///< the one with an axis that ours takes the place of
     SpectralUnit m_unit = SpectralUnit::Nanometre;
     bool m_isImageShown = false;
+    std::optional<bool> m_isImageHorizontal; ///< until it is chosen, as the live picture
     bool m_isZoomAutomatic = false;
     PlotStyle m_style;
 };

@@ -48,6 +48,7 @@ void SpectrumSettings::SetTop(int row)
     if (m_recipe.top == row)
         return;
     m_recipe.top = row;
+    AnnounceBand();
     emit signalRecipeChanged();
 }
 
@@ -58,7 +59,14 @@ void SpectrumSettings::SetBottom(int row)
     if (m_recipe.bottom == row)
         return;
     m_recipe.bottom = row;
+    AnnounceBand();
     emit signalRecipeChanged();
+}
+
+/// Its mark on the picture follows.
+void SpectrumSettings::AnnounceBand()
+{
+    emit SignalTopBottomChanged(QPointF(0, m_recipe.top), QPointF(0, m_recipe.bottom));
 }
 
 int SpectrumSettings::LinesAcross() const { return m_recipe.isHorizontal ? m_frameSize.height() : m_frameSize.width(); }
@@ -72,7 +80,7 @@ bool SpectrumSettings::KeepBandInPicture()
     const bool isOutside = qMin(m_recipe.top, m_recipe.bottom) >= size;
     m_recipe.top = isOutside ? 0 : qMin(m_recipe.top, m_recipe.bottom);
     m_recipe.bottom = size - 1;
-    emit SignalTopBottomChanged(QPointF(0, m_recipe.top), QPointF(0, m_recipe.bottom));
+    AnnounceBand();
     emit signalMessage(isOutside ? tr("The band set by hand lay outside of the picture, which has %1 lines now: all of them are binned. "
                                       "Set the band again.").arg(size)
                                  : tr("The band set by hand went beyond the picture, which has %1 lines now, and was cut.").arg(size));

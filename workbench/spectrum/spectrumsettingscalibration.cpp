@@ -33,7 +33,7 @@ void SpectrumSettings::UpdateImageSpectra()
 
 SpectralFrame SpectrumSettings::LiveFrame() const { return SpectralFrame::Of(m_sensorFrame, m_recipe.isHorizontal); }
 
-SpectralFrame SpectrumSettings::ShownFrame() const { return m_isImageShown ? m_image.Frame(m_recipe.isHorizontal) : LiveFrame(); }
+SpectralFrame SpectrumSettings::ShownFrame() const { return m_isImageShown ? m_image.Frame(IsImageHorizontal()) : LiveFrame(); }
 
 void SpectrumSettings::SetSensorFrame(const SensorFrame &frame)
 {
@@ -91,7 +91,13 @@ void SpectrumSettings::slotSetImageShown(bool shown)
 {
     if (m_isImageShown == shown)
         return;
+    const bool wasHorizontal = IsDirectionHorinzontal();
     m_isImageShown = shown;
+    if (wasHorizontal != IsDirectionHorinzontal()) {
+        emit signalRecipeChanged();
+        if (m_recipe.hasTracks && !shown)
+            emit SignalMultiTrackOnFlagChanged(); // the camera's track bar ranges by the direction on the screen
+    }
     AnnounceAxis();
 }
 
@@ -104,7 +110,7 @@ void SpectrumSettings::AnnounceAxis()
     emit SignalConversationFormulaChanged();
 }
 
-const CalibratedAxis &SpectrumSettings::ImageAxis() const { return m_recipe.isHorizontal ? m_imageAxis : m_imageColumnAxis; }
+const CalibratedAxis &SpectrumSettings::ImageAxis() const { return IsImageHorizontal() ? m_imageAxis : m_imageColumnAxis; }
 
 const CalibratedAxis &SpectrumSettings::ShownAxis() const { return m_isImageShown ? ImageAxis() : m_liveAxis; }
 
@@ -115,7 +121,22 @@ CalibratedAxis SpectrumSettings::LiveAxis(int width, const SpectralFrame &frame)
     return axis;
 }
 
+bool SpectrumSettings::IsAcrossTracks() const
+{
+    const bool isPlot = Mode() == DisplayMode::Plot || Mode() == DisplayMode::PlotPeak;
+    return isPlot && !m_isImageShown && m_recipe.hasTracks && !m_recipe.isHorizontal;
+}
+
+/// Tracks have a number, from 1.
 bool SpectrumSettings::Calculate(int pixel, double &x) const
+{
+    if (!IsAcrossTracks())
+        return Convert(pixel, x);
+    x = pixel + 1;
+    return true;
+}
+
+bool SpectrumSettings::Convert(int pixel, double &x) const
 {
     x = pixel;
     const CalibratedAxis &axis = ShownAxis();

@@ -65,9 +65,11 @@ RulerRange SpectrumSettings::SpectralPixels(const Area &area) const
                                     : RulerRange{ area.top, area.bottom };
 }
 
+/// They stand at the picture, whatever the plot shows.
 std::optional<RulerRange> SpectrumSettings::SpectralValues(const Area &area) const
 {
-    return FindRulerRange([this](int pixel, double &x) { return Calculate(pixel, x); }, SpectralPixels(area));
+    return FindRulerRange([this](int pixel, double &x) { return IsAcrossTracks() ? Convert(pixel, x) : Calculate(pixel, x); },
+                          SpectralPixels(area));
 }
 
 /// The rulers of the sensor image are told what they count in; a plot carries every axis.
@@ -80,6 +82,8 @@ QString SpectrumSettings::GetTitleName() const
 
 QString SpectrumSettings::AxisTitle() const
 {
+    if (IsAcrossTracks())
+        return tr("Track");
     double x = 0;
     if (!Calculate(0, x))
         return CalibratedAxis().Title();

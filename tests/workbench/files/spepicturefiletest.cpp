@@ -188,6 +188,7 @@ void SpePictureFileTest::regionsAreFramesOfTheirOwn()
     const auto file = Opened(folder, TwoRegions());
     QVERIFY(file);
     QCOMPARE(file->Info().frames, 4);
+    QCOMPARE(file->Info().kinds, 2);
     QCOMPARE(Frame(*file, 0), QVector<double>({10, 11, 12}));
     QCOMPARE(Frame(*file, 1), QVector<double>({13, 14, 15, 16}));
     QCOMPARE(Frame(*file, 2), QVector<double>({20, 21, 22}));

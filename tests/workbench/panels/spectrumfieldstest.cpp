@@ -250,7 +250,7 @@ private slots:
         QTRY_COMPARE(m_spectra->Shown().frameId, quint64(2));
         QCOMPARE(m_spectra->Shown().corrected.values.at(10), 30.0 * Height);
         QTRY_VERIFY(Field("corrections").value.toString() != plain);
-        QCOMPARE(Field("corrections").value.toString(), QString("Corrections: dark subtracted."));
+        QCOMPARE(Field("corrections").value.toString(), QString("Corrections: dark subtracted. Values below zero are drawn at zero."));
     }
 
     void theLineOfCorrectionsIsThatOfTheScreen()
@@ -270,7 +270,7 @@ private slots:
         QCOMPARE(Field("corrections").value.toString(), QString("There is no spectrum yet."));
         m_fields->Set("baseline", true);
         m_spectra->OnFrame(Frame(2, 50));
-        QTRY_COMPARE(Field("corrections").value.toString(), QString("Corrections: baseline removed."));
+        QTRY_COMPARE(Field("corrections").value.toString(), QString("Corrections: baseline removed. Values below zero are drawn at zero."));
         changes.clear();
         m_fields->Set("showTracks", false);
         QVERIFY(changes.count() > 0);

@@ -2,6 +2,7 @@
 #include "guardedtest.h"
 #include "imagecore.h"
 #include "picturebench.h"
+#include "spebytes.h"
 #include "viewcodes.h"
 
 #include <QUndoStack>
@@ -31,6 +32,22 @@ signals:
     void signalUpdateMousePosition(QPointF scenePos);
     void signalUpdateImageGrayValueInfo();
 };
+
+/// Two exposures of two regions of one row, the second one bright.
+void WriteTwoRegions(const QString &path)
+{
+    constexpr int width = 100;
+    SpeBytes spe(0, 0, 3, 2, 3.0F);
+    for (const int exposure : { 0, 1 })
+        spe.AppendRamp(width, quint16(10 + 100 * exposure)).AppendRamp(width, quint16(5000 + 100 * exposure));
+    spe.AppendFooter("<SpeFormat version=\"3.0\"><DataFormat>"
+                     "<DataBlock type=\"Frame\" count=\"2\" pixelFormat=\"MonochromeUnsigned16\" size=\"400\" stride=\"400\">"
+                     "<DataBlock type=\"Region\" width=\"100\" height=\"1\" size=\"200\" stride=\"200\"/>"
+                     "<DataBlock type=\"Region\" width=\"100\" height=\"1\" size=\"200\" stride=\"200\"/>"
+                     "</DataBlock></DataFormat></SpeFormat>");
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(spe.Bytes()) == spe.Bytes().size());
+}
 
 } // namespace
 
@@ -338,6 +355,32 @@ private slots:
         QCOMPARE(qGray(bench.main.Shown().image.pixel(0, 3)), (60 - 10) / 2);
         bench.levels.SetSetting(16, LevelsSetting::Default(16));
         QTRY_COMPARE(bench.main.GetImageCore()->GetRightLevel(), 65);
+    }
+
+    /// One that is dark beside one that is bright would be black in its levels.
+    void eachRegionOfASpectrumHasItsLevels()
+    {
+        PictureBench bench;
+        WriteTwoRegions(bench.Path("regions.spe"));
+        bench.desk.Open({ bench.Path("regions.spe") }, &bench.main);
+        QVERIFY(bench.WaitForShown("regions.spe"));
+        const auto levelsOf = [&bench](int frame) {
+            bench.main.SetImage(frame);
+            const bool isShown = QTest::qWaitFor([&] { return bench.main.Shown().request.frame == frame; });
+            return isShown ? QPoint(bench.main.GetImageCore()->GetLeftLevel(), bench.main.GetImageCore()->GetRightLevel()) : QPoint();
+        };
+        QCOMPARE(levelsOf(1), QPoint(5000, 5099));
+        QCOMPARE(levelsOf(0), QPoint(10, 109));
+        // Those of the first exposure, as in any stack.
+        QCOMPARE(levelsOf(2), QPoint(10, 109));
+        QCOMPARE(levelsOf(3), QPoint(5000, 5099));
+
+        QCOMPARE(levelsOf(1), QPoint(5000, 5099));
+        bench.main.SaveAs(bench.Path("second.jpg"), false);
+        QTRY_VERIFY(QFile::exists(bench.Path("second.jpg")));
+        const Picture saved = MadePictures::Read(bench.Path("second.jpg"));
+        for (const int column : { 0, 50, 99 })
+            QVERIFY(std::abs(saved.Samples<quint8>(0)[column] - 255 * column / 99.0) < 10);
     }
 
     void closingTakesThePictureAway()

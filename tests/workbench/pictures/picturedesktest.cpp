@@ -103,14 +103,14 @@ private slots:
         bench.main.SetImage(2);
         QTRY_COMPARE(bench.main.Document()->Frame(), 2);
         const SampleRange range{ 100, 900 };
-        bench.main.Document()->SetRange(range);
+        bench.main.Document()->SetRange(2, range);
         const int shown = bench.shown.size();
         bench.desk.slotFileChanged(bench.Path("stack.tif"));
         QTRY_VERIFY(bench.shown.size() > shown);
         QCOMPARE(bench.main.Document()->Frame(), 2);
         QCOMPARE(bench.main.Shown().request.frame, 2);
-        QCOMPARE(bench.main.Document()->Range().left, range.left);
-        QCOMPARE(bench.main.Document()->Range().right, range.right);
+        QCOMPARE(bench.main.Document()->Range(2).left, range.left);
+        QCOMPARE(bench.main.Document()->Range(2).right, range.right);
     }
 
     void closingShowsTheNeighbour()

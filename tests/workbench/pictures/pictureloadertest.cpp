@@ -144,7 +144,7 @@ private slots:
         MadePictures::Write(Path("deep.tif"), QSize(20, 20));
         SaveRequest request;
         request.file = { 1, Path("deep.tif") };
-        request.range = { 0, 510 };
+        request.ranges = { { 0, 510 } };
         request.target = Path("saved.png");
         QCOMPARE(SaveError(request), QString());
         QCOMPARE(int(MadePictures::Read(Path("saved.png")).Samples<quint16>(19)[19]),
@@ -166,7 +166,7 @@ private slots:
         m_levels->SetPalette(Palette("inverted"));
         SaveRequest request;
         request.file = { 1, Path("deep.tif") };
-        request.range = { 0, 65535 };
+        request.ranges = { { 0, 65535 } };
         request.target = Path("saved.jpg");
         QCOMPARE(SaveError(request), QString());
         const Picture jpeg = MadePictures::Read(Path("saved.jpg"));

@@ -20,6 +20,7 @@ private slots:
     void tracksAreAsWideAsTheFrame();
     void whatAFileSaysOfItsAreaIsChecked_data();
     void whatAFileSaysOfItsAreaIsChecked();
+    void anOpenedFileLeavesTheDirectionOfTheCamera();
     void styleReachesThePlots();
 };
 
@@ -51,8 +52,13 @@ void SpectrumSettingsTest::rowsOfTheBandAreKept()
     QVERIFY(m_settings->GetManualFlag() && !m_settings->IsFVBModeAll() && !m_settings->IsFVBModeAuto());
     QCOMPARE(m_settings->GetTop(), 0);
     QCOMPARE(m_settings->GetBottom(), 499);
+    QSignalSpy band(m_settings.get(), &SpectrumUIManager::SignalTopBottomChanged);
     m_settings->SetTop(100);
+    QCOMPARE(band.value(band.count() - 1), QVariantList({QPointF(0, 100), QPointF(0, 499)}));
     m_settings->SetBottom(120);
+    QCOMPARE(band.value(band.count() - 1), QVariantList({QPointF(0, 100), QPointF(0, 120)}));
+    m_settings->SetBottom(120);
+    QCOMPARE(band.count(), 2);
     QCOMPARE(m_settings->Recipe().top, 100);
     QCOMPARE(m_settings->Recipe().bottom, 120);
     m_settings->SetBinnedRows(BinnedRows::Auto);
@@ -186,6 +192,38 @@ void SpectrumSettingsTest::whatAFileSaysOfItsAreaIsChecked()
     QFETCH(bool, valid);
     QCOMPARE(m_settings->IsValidConversation(&text), valid);
     QVERIFY(!m_settings->IsValidConversation(nullptr));
+}
+
+void SpectrumSettingsTest::anOpenedFileLeavesTheDirectionOfTheCamera()
+{
+    m_settings->SetHorizontal(false);
+    m_settings->SetBinnedRows(BinnedRows::Manual);
+    m_settings->SetFVBOnFlag(1);
+    m_settings->SetTop(580);
+    m_settings->SetBottom(600); // columns: there are not that many rows
+    m_settings->slotSetImageShown(true);
+    QVERIFY(!m_settings->IsDirectionHorinzontal()); // of a picture as that of the camera
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    QSignalSpy changed(m_settings.get(), &SpectrumSettings::signalRecipeChanged);
+    m_settings->SetDirectionHorizontal(); // which a spectrum file begins with
+    QVERIFY(m_settings->IsDirectionHorinzontal());
+    QCOMPARE(changed.count(), 1);
+    QVERIFY(!m_settings->Recipe().isHorizontal);
+    QCOMPARE(m_settings->GetTop(), 580);
+    QCOMPARE(m_settings->GetBottom(), 600);
+    m_settings->slotSetImageShown(false);
+    QVERIFY(!m_settings->IsDirectionHorinzontal());
+    QCOMPARE(changed.count(), 2);
+    QVERIFY(told.isEmpty());
+
+    m_settings->slotSetImageShown(true);
+    QVERIFY(m_settings->IsDirectionHorinzontal());
+    m_settings->SetHorizontal(false);
+    QVERIFY(!m_settings->IsDirectionHorinzontal());
+    m_settings->slotSetImageShown(false);
+    m_settings->SetHorizontal(true);
+    m_settings->slotSetImageShown(true);
+    QVERIFY(!m_settings->IsDirectionHorinzontal());
 }
 
 void SpectrumSettingsTest::styleReachesThePlots()
