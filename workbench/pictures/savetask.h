@@ -20,7 +20,8 @@ struct SaveRequest
     int frameCount = 1;
     PictureEdit edit;
     SampleRange range; ///< for formats that hold less than the samples
-    QVector<MetadataEntry> calibration; ///< of the columns or rows as they are seen, instead of what the file says; may be empty
+    /// Of the columns or rows as they are seen, instead of what the file says; may be empty.
+    QVector<MetadataEntry> calibration;
     QImage image;      ///< instead of a file's frames, Grayscale8 or RGB888
     QString target;
     bool compress = false;

@@ -47,8 +47,9 @@ struct SpectralFrame
 
     bool operator==(const SpectralFrame &other) const
     {
-        return isAlongRows == other.isAlongRows && isHorizontal == other.isHorizontal && isReversed == other.isReversed
-            && first == other.first && binning == other.binning && count == other.count && fileExtent == other.fileExtent;
+        return isAlongRows == other.isAlongRows && isHorizontal == other.isHorizontal
+               && isReversed == other.isReversed && first == other.first && binning == other.binning
+               && count == other.count && fileExtent == other.fileExtent;
     }
     bool operator!=(const SpectralFrame &other) const { return !(*this == other); }
 };

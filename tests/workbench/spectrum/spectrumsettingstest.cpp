@@ -521,9 +521,11 @@ void SpectrumSettingsTest::aCalibrationMadeOnAFileFollowsItsPixels()
         QVERIFY2(std::abs(nm - expected) < 1e-9, qPrintable(QString("%1: %2").arg(pixel).arg(nm, 0, 'f', 6)));
     }
     QString fault; // saved with it
-    const SpectralAxis saved = AxisOfMetadata(m_settings->ImageCalibration(), Orientation(mirrored, turns).Map(region.size()), &fault);
+    const SpectralAxis saved = AxisOfMetadata(m_settings->ImageCalibration(),
+                                              Orientation(mirrored, turns).Map(region.size()), &fault);
     QCOMPARE(saved.IsEmpty(), step == 0);
-    QCOMPARE(int(saved.side), int(horizontal || saved.IsEmpty() ? SpectralSide::Columns : SpectralSide::Rows));
+    QCOMPARE(int(saved.side),
+             int(horizontal || saved.IsEmpty() ? SpectralSide::Columns : SpectralSide::Rows));
     QVERIFY(saved.IsEmpty() || std::abs(saved.values.value(77) - (first + step * 77)) < 1e-9);
 }
 
