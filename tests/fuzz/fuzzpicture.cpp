@@ -43,7 +43,8 @@ void ReadFrame(PictureFile &file, int index)
     if (QByteArray(reinterpret_cast<const char *>(picture.Data()), int(picture.ByteCount())).size() != picture.ByteCount())
         std::abort(); // reading the whole frame finds a buffer that is too small
     file.FrameDescription(index);
-    if (const SpectralAxis axis = file.AxisOf(index); !axis.IsEmpty() && axis.values.size() != PixelsOf(axis.side, picture.Size()))
+    if (const SpectralAxis axis = file.AxisOf(index);
+        !axis.IsEmpty() && axis.values.size() != PixelsOf(axis.side, picture.Size()))
         std::abort(); // every column, or row, has its value
 }
 

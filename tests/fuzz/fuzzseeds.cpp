@@ -25,7 +25,7 @@ QVector<MetadataEntry> Calibration(const Picture &picture)
 {
     SpectralRecord record;
     record.side = SpectralSide::Rows;
-    record.coefficients = {500, 0.5, 1e-3};
+    record.coefficients = { 500, 0.5, 1e-3 };
     record.width = picture.Height();
     return SpectralMetadata(record);
 }
@@ -117,7 +117,7 @@ bool SaveSpe(const QString &path, SpeKind kind)
     if (kind == SpeKind::TwoWithRegions) {
         set(1488, qint16(2));
         set(1510, qint16(2));
-        const quint16 regions[] = {11, 12, 1, 21, 23, 1, 14, 15, 1, 21, 23, 1};
+        const quint16 regions[] = { 11, 12, 1, 21, 23, 1, 14, 15, 1, 21, 23, 1 };
         for (int i = 0; i < 12; ++i)
             set(1512 + 2 * i, regions[i]);
     }
@@ -138,8 +138,9 @@ bool SaveSpe(const QString &path, SpeKind kind)
 
 bool SaveOtherKinds(const QDir &folder)
 {
-    bool done = SaveSpe(folder.filePath("seed-2.spe"), SpeKind::Two) && SaveSpe(folder.filePath("seed-3.spe"), SpeKind::Three)
-        && SaveSpe(folder.filePath("seed-2-regions.spe"), SpeKind::TwoWithRegions);
+    bool done = SaveSpe(folder.filePath("seed-2.spe"), SpeKind::Two)
+                && SaveSpe(folder.filePath("seed-3.spe"), SpeKind::Three)
+                && SaveSpe(folder.filePath("seed-2-regions.spe"), SpeKind::TwoWithRegions);
     for (const int method : {RICE_1, GZIP_1, GZIP_2, PLIO_1, HCOMPRESS_1})
         done = done && SaveCompressedFits(folder.filePath(QString("seed-compressed-%1.fits").arg(method)), method);
     for (const int compression : {COMPRESSION_NONE, COMPRESSION_LZW, COMPRESSION_PACKBITS, COMPRESSION_ADOBE_DEFLATE}) {

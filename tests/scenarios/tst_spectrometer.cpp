@@ -202,8 +202,9 @@ private slots:
         m_workbench->services.Calibration()->TakeAway();
 
         PictureDesk *desk = m_workbench->services.Desk();
-        desk->Open({path}, desk->MainPicture());
-        QTRY_VERIFY_WITH_TIMEOUT(Plot() && spectrum->IsImageShown() && Plot()->graph(0)->dataCount() == sensor.width(), waitMs);
+        desk->Open({ path }, desk->MainPicture());
+        QTRY_VERIFY_WITH_TIMEOUT(
+            Plot() && spectrum->IsImageShown() && Plot()->graph(0)->dataCount() == sensor.width(), waitMs);
         QTRY_COMPARE(Plot()->xAxis->label(), QString("Wavelength [nm]"));
         QCOMPARE(Plot()->graph(0)->data()->at(0)->key, first);
         spectrum->SetHorizontal(true);

@@ -19,7 +19,10 @@ enum class SpectralSide
     Rows     ///< from the top: it lies along the columns
 };
 /// How many of them a picture of `size` has.
-inline int PixelsOf(SpectralSide side, const QSize &size) { return side == SpectralSide::Columns ? size.width() : size.height(); }
+inline int PixelsOf(SpectralSide side, const QSize &size)
+{
+    return side == SpectralSide::Columns ? size.width() : size.height();
+}
 
 /// What the columns, or the rows, of a picture mean by the calibration in its file: one value for each, as the file's maker
 /// took them (a list made for Raman work may be in vacuum wavelengths). Empty without a calibration.

@@ -76,16 +76,17 @@ struct SideTexts
 
 const SideTexts &TextsOf(SpectralSide side)
 {
-    static const SideTexts columns{"columns", "what the columns mean", "columns that the calibration holds for",
-                                   "polynomial of the column, counted from 0"};
-    static const SideTexts rows{"rows", "what the rows mean", "rows that the calibration holds for",
-                                "polynomial of the row, from 0 at the top"};
+    static const SideTexts columns{ "columns", "what the columns mean",
+                                    "columns that the calibration holds for",
+                                    "polynomial of the column, counted from 0" };
+    static const SideTexts rows{ "rows", "what the rows mean", "rows that the calibration holds for",
+                                 "polynomial of the row, from 0 at the top" };
     return side == SpectralSide::Columns ? columns : rows;
 }
 
 bool SideOf(const QString &name, SpectralSide *side)
 {
-    for (const SpectralSide candidate : {SpectralSide::Columns, SpectralSide::Rows}) {
+    for (const SpectralSide candidate : { SpectralSide::Columns, SpectralSide::Rows }) {
         if (name != TextsOf(candidate).name)
             continue;
         *side = candidate;
@@ -107,8 +108,9 @@ MetadataEntry NumberEntry(const QString &key, double value, const char *comment)
 QVector<MetadataEntry> FirstEntries(SpectralUnit unit, SpectralSide side, int width)
 {
     const SideTexts &texts = TextsOf(side);
-    return {TextEntry(UnitKey, NameOf(unit), texts.unitComment), TextEntry(SideKey, texts.name, "that have a value each"),
-            NumberEntry(WidthKey, width, texts.widthComment)};
+    return { TextEntry(UnitKey, NameOf(unit), texts.unitComment),
+             TextEntry(SideKey, texts.name, "that have a value each"),
+             NumberEntry(WidthKey, width, texts.widthComment) };
 }
 
 using Values = QHash<QString, QString>;
@@ -121,7 +123,8 @@ QVector<double> Polynomial(const Values &values, int width)
     QVector<double> results(width, 0.0);
     for (int pixel = 0; pixel < width; ++pixel) {
         for (int power = degree; power >= 0; --power)
-            results[pixel] = results[pixel] * pixel + values.value(CoefficientKey + QString::number(power)).toDouble();
+            results[pixel] =
+                results[pixel] * pixel + values.value(CoefficientKey + QString::number(power)).toDouble();
     }
     return results;
 }
@@ -144,7 +147,8 @@ QVector<MetadataEntry> SpectralMetadata(const SpectralRecord &record)
     if (degree < 1 || degree > MostDegree || record.width <= 0)
         return {};
     QVector<MetadataEntry> entries = FirstEntries(record.unit, record.side, record.width);
-    entries << TextEntry(OriginKey, record.origin, "") << NumberEntry(DegreeKey, degree, TextsOf(record.side).degreeComment);
+    entries << TextEntry(OriginKey, record.origin, "")
+            << NumberEntry(DegreeKey, degree, TextsOf(record.side).degreeComment);
     for (int power = 0; power <= degree; ++power)
         entries << NumberEntry(CoefficientKey + QString::number(power), record.coefficients[power], "");
     return entries;
@@ -203,8 +207,10 @@ SpectralAxis AxisOfMetadata(const QVector<MetadataEntry> &metadata, const QSize 
     if (axis.unit == SpectralUnit::Pixel)
         return SpectralAxis();
     if (values.contains(SideKey) && !SideOf(values[SideKey], &axis.side)) {
-        *fault = Text::tr("its calibration is that of \u201c%1\u201d (SPECSIDE), which are neither columns nor rows, and is left out")
-                     .arg(values[SideKey].left(mostLettersOfAFile));
+        *fault =
+            Text::tr(
+                "its calibration is that of \u201c%1\u201d (SPECSIDE), which are neither columns nor rows, and is left out")
+                .arg(values[SideKey].left(mostLettersOfAFile));
         return SpectralAxis();
     }
     const int width = PixelsOf(axis.side, size);

@@ -57,8 +57,8 @@ SpeSensorRegion ReadMapping(const QXmlStreamAttributes &attributes)
 {
     constexpr int most = 1000000000; // two of them can be added
     const auto number = [&](const char *name) { return qBound(-most, attributes.value(name).toInt(), most); };
-    return {QRect(number("x"), number("y"), number("width"), number("height")),
-            QSize(qMax(1, number("xBinning")), qMax(1, number("yBinning")))};
+    return { QRect(number("x"), number("y"), number("width"), number("height")),
+             QSize(qMax(1, number("xBinning")), qMax(1, number("yBinning"))) };
 }
 
 /// A column of a binned region stands for several of the sensor: their mean.

@@ -26,14 +26,17 @@ int SpeHeader::Regions() const
 
 SpeSensorRegion SpeHeader::Region(int index) const
 {
-    const auto number = [this, index](int place) { return int(Number<quint16>(regionsOffset + regionBytes * index + 2 * place)); };
+    const auto number = [this, index](int place) {
+        return int(Number<quint16>(regionsOffset + regionBytes * index + 2 * place));
+    };
     const QPoint first(number(0), number(3)); // from 1, both ends within
     const QPoint last(number(1), number(4));
     const QSize binning(number(2), number(5));
     const int columns = Number<quint16>(6); // of the detector; 0 when the file does not say
     const int rows = Number<quint16>(18);
     const bool isWithin = (columns == 0 || last.x() <= columns) && (rows == 0 || last.y() <= rows);
-    if (first.x() < 1 || first.y() < 1 || last.x() < first.x() || last.y() < first.y() || binning.isEmpty() || !isWithin)
+    if (first.x() < 1 || first.y() < 1 || last.x() < first.x() || last.y() < first.y() || binning.isEmpty()
+        || !isWithin)
         return SpeSensorRegion();
-    return {QRect(first - QPoint(1, 1), last - QPoint(1, 1)), binning};
+    return { QRect(first - QPoint(1, 1), last - QPoint(1, 1)), binning };
 }

@@ -35,8 +35,14 @@ public:
     QString Date() const { return SpeText(m_bytes, 20, 10); }
     QString LocalTime() const { return SpeText(m_bytes, 172, 7); }
     QString Comment(int line) const { return SpeText(m_bytes, 200 + 80 * line, 80); }
-    SpeCalibration OfColumns() const { return SpeCalibration(m_bytes.mid(3000, SpeCalibration::structureBytes)); }
-    SpeCalibration OfRows() const { return SpeCalibration(m_bytes.mid(3489, SpeCalibration::structureBytes)); }
+    SpeCalibration OfColumns() const
+    {
+        return SpeCalibration(m_bytes.mid(3000, SpeCalibration::structureBytes));
+    }
+    SpeCalibration OfRows() const
+    {
+        return SpeCalibration(m_bytes.mid(3489, SpeCalibration::structureBytes));
+    }
 
 private:
     template <typename T>

@@ -38,7 +38,7 @@ bool TypeOfCode(int code, SampleType &type, FileFault &fault)
 void AddFact(SpeLayout &layout, const QString &key, const QString &value, const char *unit, bool isText)
 {
     if (!value.isEmpty())
-        layout.metadata.append({key, value, unit, isText});
+        layout.metadata.append({ key, value, unit, isText });
 }
 
 void AddRegionFacts(const QVector<SpeSensorRegion> &regions, SpeLayout &layout)
@@ -58,7 +58,8 @@ SpeRegion PartOf(const SpeRegion &whole, const QRect &place, const SpeLayout &la
     part.skipped = whole.width - place.width();
     part.axis = whole.axis;
     const bool isOfColumns = whole.axis.side == SpectralSide::Columns;
-    part.axis.values = whole.axis.values.mid(isOfColumns ? place.x() : place.y(), PixelsOf(whole.axis.side, place.size()));
+    part.axis.values =
+        whole.axis.values.mid(isOfColumns ? place.x() : place.y(), PixelsOf(whole.axis.side, place.size()));
     return part;
 }
 
@@ -102,7 +103,8 @@ SpectralAxis AxisOf(const SpeHeader &header, SpeLayout &layout)
 {
     const bool isOfRows = header.OfRows().IsValid() && !header.OfColumns().IsValid();
     QString fault;
-    SpectralAxis axis = isOfRows ? header.OfRows().Axis(header.Height(), &fault) : header.OfColumns().Axis(header.Width(), &fault);
+    SpectralAxis axis = isOfRows ? header.OfRows().Axis(header.Height(), &fault)
+                                 : header.OfColumns().Axis(header.Width(), &fault);
     if (isOfRows && !axis.IsEmpty())
         axis.side = SpectralSide::Rows;
     if (!fault.isEmpty())
@@ -121,7 +123,7 @@ bool LayoutOfHeader(const SpeHeader &header, SpeLayout &layout, FileFault &fault
     whole.width = header.Width();
     whole.height = header.Height();
     whole.axis = AxisOf(header, layout);
-    layout.regions = {whole};
+    layout.regions = { whole };
     layout.frameStride = layout.RegionBytes(whole);
     layout.frames = header.Frames();
     FindRegions(header, layout);

@@ -42,7 +42,8 @@ struct SpeLayout
     /// From its first sample to its last.
     qint64 RegionBytes(const SpeRegion &region) const
     {
-        return ((qint64(region.width) + region.skipped) * region.height - region.skipped) * BytesPerSample(type);
+        return ((qint64(region.width) + region.skipped) * region.height - region.skipped)
+               * BytesPerSample(type);
     }
 };
 

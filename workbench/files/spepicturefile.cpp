@@ -49,8 +49,11 @@ void SpePictureFile::FillInfo()
     for (const QString &warning : qAsConst(m_layout.warnings))
         AddWarning(Text::tr("\u201c%1\u201d: %2. %3").arg(QFileInfo(Path()).fileName(), warning, DamagedAdvice()));
     if (m_layout.mergedRegions > 1) {
-        AddWarning(Text::tr("\u201c%1\u201d: its %2 regions are shown as one picture, with the filler that lies between them, as %3.")
-                       .arg(QFileInfo(Path()).fileName(), QString::number(m_layout.mergedRegions), m_layout.mergedReason));
+        AddWarning(
+            Text::tr(
+                "\u201c%1\u201d: its %2 regions are shown as one picture, with the filler that lies between them, as %3.")
+                .arg(QFileInfo(Path()).fileName(), QString::number(m_layout.mergedRegions),
+                     m_layout.mergedReason));
     }
     if (m_layout.missingFrames > 0) {
         AddWarning(ReadFaultText(Path(), {Text::tr("only the first %1 of its %2 frames are there")
@@ -66,8 +69,12 @@ QString SpePictureFile::FrameDescription(int index) const
         return QString();
     const SpeRegion &region = RegionOf(index);
     return Text::tr("exposure %1 of %2, region %3 of %4, from column %5 and row %6 of the sensor")
-        .arg(index / regions + 1).arg(m_layout.frames).arg(index % regions + 1).arg(regions)
-        .arg(region.onSensor.pixels.x()).arg(region.onSensor.pixels.y());
+        .arg(index / regions + 1)
+        .arg(m_layout.frames)
+        .arg(index % regions + 1)
+        .arg(regions)
+        .arg(region.onSensor.pixels.x())
+        .arg(region.onSensor.pixels.y());
 }
 
 SpectralAxis SpePictureFile::AxisOf(int index) const { return RegionOf(index).axis; }
@@ -78,7 +85,8 @@ bool SpePictureFile::ReadRows(qint64 start, int skippedBytes, Picture &frame)
     const qint64 pieceBytes = frame.ByteCount() / pieces;
     for (int i = 0; i < pieces; ++i) {
         const bool isThere = m_file.seek(start + i * (pieceBytes + skippedBytes));
-        if (!isThere || m_file.read(reinterpret_cast<char *>(frame.Data()) + i * pieceBytes, pieceBytes) != pieceBytes)
+        if (!isThere
+            || m_file.read(reinterpret_cast<char *>(frame.Data()) + i * pieceBytes, pieceBytes) != pieceBytes)
             return false;
     }
     return true;

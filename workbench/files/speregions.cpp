@@ -51,12 +51,13 @@ QVector<QRect> PlacesAsOnSensor(const Regions &regions, const QSize &rectangle)
     QRect around;
     for (const SpeSensorRegion &region : regions)
         around |= region.pixels;
-    if (SpeSensorRegion{around, binning}.Size() != rectangle)
+    if (SpeSensorRegion{ around, binning }.Size() != rectangle)
         return {};
     QVector<QRect> places;
     for (const SpeSensorRegion &region : regions) {
         const QPoint offset = region.pixels.topLeft() - around.topLeft();
-        if (region.binning != binning || offset.x() % binning.width() != 0 || offset.y() % binning.height() != 0)
+        if (region.binning != binning || offset.x() % binning.width() != 0
+            || offset.y() % binning.height() != 0)
             return {};
         places << QRect(QPoint(offset.x() / binning.width(), offset.y() / binning.height()), region.Size());
     }
@@ -77,10 +78,16 @@ bool GoDownTheSensor(const Regions &regions)
 QString SpeSensorRegion::Text() const
 {
     return QString("columns %1 to %2, rows %3 to %4 of the sensor, binned by %5 x %6")
-        .arg(pixels.left()).arg(pixels.right()).arg(pixels.top()).arg(pixels.bottom()).arg(binning.width()).arg(binning.height());
+        .arg(pixels.left())
+        .arg(pixels.right())
+        .arg(pixels.top())
+        .arg(pixels.bottom())
+        .arg(binning.width())
+        .arg(binning.height());
 }
 
-QVector<QRect> PlaceSpeRegions(const QVector<SpeSensorRegion> &regions, const QSize &rectangle, QString *reason)
+QVector<QRect> PlaceSpeRegions(const QVector<SpeSensorRegion> &regions, const QSize &rectangle,
+                               QString *reason)
 {
     if (!MakeSense(regions, reason))
         return {};
@@ -88,7 +95,8 @@ QVector<QRect> PlaceSpeRegions(const QVector<SpeSensorRegion> &regions, const QS
     const QVector<QRect> asOnSensor = PlacesAsOnSensor(regions, rectangle);
     if (below.isEmpty() && asOnSensor.isEmpty()) {
         *reason = Text::tr("they neither fill its frames of %1 x %2 pixels nor lie in them as on the sensor")
-                      .arg(rectangle.width()).arg(rectangle.height());
+                      .arg(rectangle.width())
+                      .arg(rectangle.height());
         return {};
     }
     if (!below.isEmpty() && below != asOnSensor && !GoDownTheSensor(regions)) {

@@ -10,7 +10,7 @@
 struct SpeSensorRegion
 {
     QRect pixels; ///< from 0; null when what the file says makes no sense
-    QSize binning{1, 1};
+    QSize binning{ 1, 1 };
 
     QSize Size() const { return QSize(pixels.width() / binning.width(), pixels.height() / binning.height()); }
     /// For people and programs: English.
@@ -20,4 +20,5 @@ struct SpeSensorRegion
 /// Version 2 lays all regions of a frame into one rectangle, and what it has no samples for is filler. Where that is to be
 /// seen from the sizes alone: regions that fill the rectangle lie below each other, others as they do on the sensor.
 /// Empty when it is not; then `reason` says why, as part of a sentence.
-QVector<QRect> PlaceSpeRegions(const QVector<SpeSensorRegion> &regions, const QSize &rectangle, QString *reason);
+QVector<QRect> PlaceSpeRegions(const QVector<SpeSensorRegion> &regions, const QSize &rectangle,
+                               QString *reason);

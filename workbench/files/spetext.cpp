@@ -4,5 +4,6 @@
 QString SpeText(const QByteArray &bytes, int offset, int size)
 {
     const QByteArray field = bytes.mid(offset, size);
-    return QString::fromLatin1(field.constData(), int(qstrnlen(field.constData(), uint(field.size())))).trimmed();
+    return QString::fromLatin1(field.constData(), int(qstrnlen(field.constData(), uint(field.size()))))
+        .trimmed();
 }

@@ -129,7 +129,8 @@ SpectralAxis PictureEdit::SeenAxis(const SpectralAxis &ofFile, const QSize &file
     const QRect &region = source->region;
     const bool isOfColumns = ofFile.side == SpectralSide::Columns;
     SpectralAxis seen = ofFile;
-    seen.values = ofFile.values.mid(isOfColumns ? region.left() : region.top(), PixelsOf(ofFile.side, region.size()));
+    seen.values =
+        ofFile.values.mid(isOfColumns ? region.left() : region.top(), PixelsOf(ofFile.side, region.size()));
     const bool isOfSeenColumns = isOfColumns != source->orientation.SwapsSides();
     seen.side = isOfSeenColumns ? SpectralSide::Columns : SpectralSide::Rows;
     const QPoint corner = source->orientation.Map(QPoint(0, 0), region.size());

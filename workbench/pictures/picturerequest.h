@@ -44,7 +44,7 @@ struct LoadedPicture
     QImage thumbnail; ///< null unless it was wanted
     SampleRange range;
     SpectralAxis fileAxis; ///< of the columns, or rows, of the file; empty when it does not say
-    SpectralAxis axis; ///< of the columns, or rows, as seen; empty without one, or when they were joined
+    SpectralAxis axis;     ///< of the columns, or rows, as seen; empty without one, or when they were joined
 };
 Q_DECLARE_METATYPE(LoadedPicture)
 

@@ -21,7 +21,8 @@ struct SaveRequest
     PictureEdit edit;
     /// For formats that hold less than the samples, of each kind of frame (see PictureInfo).
     QVector<SampleRange> ranges;
-    QVector<MetadataEntry> calibration; ///< of the columns or rows as they are seen, instead of what the file says; may be empty
+    /// Of the columns or rows as they are seen, instead of what the file says; may be empty.
+    QVector<MetadataEntry> calibration;
     QImage image;      ///< instead of a file's frames, Grayscale8 or RGB888
     QString target;
     bool compress = false;

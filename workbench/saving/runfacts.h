@@ -56,7 +56,8 @@ struct RunFacts
     QSize frameSize; ///< of every frame of the run
     PixelLayout layout = PixelLayout::Mono8;
     double pixelSizeUm = 0; ///< of a frame's pixel, in the object; 0 when not calibrated
-    QVector<MetadataEntry> calibration; ///< spectral, of the columns or rows of every frame as it is written; may be empty
+    /// Spectral, of the columns or rows of every frame as it is written; may be empty.
+    QVector<MetadataEntry> calibration;
     QDateTime start;
     QString software; ///< name and version of the program
 

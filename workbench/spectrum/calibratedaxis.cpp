@@ -120,7 +120,10 @@ SpectralUnit CalibratedAxis::Unit() const
     return AreInverse(own, m_unit) && HasInverse() ? m_unit : own;
 }
 
-SpectralUnit CalibratedAxis::OwnUnit() const { return IsByFile() ? m_fileAxis.unit : SpectralUnit::Nanometre; }
+SpectralUnit CalibratedAxis::OwnUnit() const
+{
+    return IsByFile() ? m_fileAxis.unit : SpectralUnit::Nanometre;
+}
 
 double CalibratedAxis::OwnValue(double pixel) const
 {

@@ -18,7 +18,8 @@ constexpr int widestFrame = 65535;
 
 QVariantList Numbers(const SpectralFrame &frame) 
 {
-    return {int(frame.isAlongRows), int(frame.isReversed), frame.first, frame.binning, frame.fileExtent, int(frame.isHorizontal)};
+    return { int(frame.isAlongRows), int(frame.isReversed), frame.first,
+             frame.binning,          frame.fileExtent,      int(frame.isHorizontal) };
 }
 
 /// Null for what makes no sense.

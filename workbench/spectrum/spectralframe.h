@@ -1,24 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "orientation.h"
+#include "sensorframe.h"
 #include "spectralaxis.h"
-
-#include <QRect>
-
-/// How the frames of a camera, or of a file, come to be what is seen of them.
-struct SensorFrame
-{
-    QRect region; ///< sensor, or file, pixels, unbinned
-    int binning = 1;
-    Orientation orientation;
-
-    bool operator==(const SensorFrame &other) const
-    {
-        return region == other.region && binning == other.binning && orientation == other.orientation;
-    }
-    bool operator!=(const SensorFrame &other) const { return !(*this == other); }
-};
 
 /// Where the samples of a spectrum lie on the sensor; of an opened picture, where in its file, as nobody knows where on the
 /// sensor that was. A value.
@@ -48,8 +32,9 @@ struct SpectralFrame
 
     bool operator==(const SpectralFrame &other) const
     {
-        return isAlongRows == other.isAlongRows && isHorizontal == other.isHorizontal && isReversed == other.isReversed
-            && first == other.first && binning == other.binning && count == other.count && fileExtent == other.fileExtent;
+        return isAlongRows == other.isAlongRows && isHorizontal == other.isHorizontal
+               && isReversed == other.isReversed && first == other.first && binning == other.binning
+               && count == other.count && fileExtent == other.fileExtent;
     }
     bool operator!=(const SpectralFrame &other) const { return !(*this == other); }
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "spectralframe.h"
+#include "sensorframe.h"
 
 #include <QSize>
 #include <QString>

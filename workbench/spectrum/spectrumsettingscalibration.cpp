@@ -8,7 +8,8 @@ void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, co
     m_imageAxis.SetCalibration(calibration, frame);
     m_imageColumnAxis.SetCalibration(calibration, frame);
     const SpectralSide side = frame.isAlongRows ? SpectralSide::Columns : SpectralSide::Rows;
-    const bool replaces = m_isImageShown && side == m_image.fileAxis.side && frame.fileExtent == PixelsOf(side, m_image.fileSize);
+    const bool replaces = m_isImageShown && side == m_image.fileAxis.side
+                          && frame.fileExtent == PixelsOf(side, m_image.fileSize);
     m_replaced = replaces ? m_image : SpectralPicture();
     UpdateImageSpectra();
     TellOfMisfit();
@@ -110,9 +111,15 @@ void SpectrumSettings::AnnounceAxis()
     emit SignalConversationFormulaChanged();
 }
 
-const CalibratedAxis &SpectrumSettings::ImageAxis() const { return IsImageHorizontal() ? m_imageAxis : m_imageColumnAxis; }
+const CalibratedAxis &SpectrumSettings::ImageAxis() const
+{
+    return IsImageHorizontal() ? m_imageAxis : m_imageColumnAxis;
+}
 
-const CalibratedAxis &SpectrumSettings::ShownAxis() const { return m_isImageShown ? ImageAxis() : m_liveAxis; }
+const CalibratedAxis &SpectrumSettings::ShownAxis() const
+{
+    return m_isImageShown ? ImageAxis() : m_liveAxis;
+}
 
 CalibratedAxis SpectrumSettings::LiveAxis(int width, const SpectralFrame &frame) const
 {

@@ -201,9 +201,11 @@ void RealFilesTest::rowsOfTheSensorAreThoseOfOtherReaders_data()
 {
     QTest::addColumn<QString>("said");
     QTest::newRow("spe/HeNe.SPE") << "columns 0 to 1339, rows 191 to 200 of the sensor, binned by 1 x 10";
-    QTest::newRow("spe/Testfile_Single_SPE2.SPE") << "columns 0 to 1339, rows 39 to 63 of the sensor, binned by 1 x 25";
+    QTest::newRow("spe/Testfile_Single_SPE2.SPE")
+        << "columns 0 to 1339, rows 39 to 63 of the sensor, binned by 1 x 25";
     QTest::newRow("spe/blut1.SPE") << "columns 1 to 1023, rows 120 to 139 of the sensor, binned by 1 x 20";
-    QTest::newRow("spe/spestack_test.spe") << "columns 184 to 311, rows 233 to 360 of the sensor, binned by 1 x 1";
+    QTest::newRow("spe/spestack_test.spe")
+        << "columns 184 to 311, rows 233 to 360 of the sensor, binned by 1 x 1";
 }
 
 void RealFilesTest::rowsOfTheSensorAreThoseOfOtherReaders()

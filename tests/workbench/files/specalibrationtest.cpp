@@ -30,7 +30,7 @@ constexpr quint8 Nm = 4;
 constexpr quint8 PerCm = 5;
 constexpr quint8 Raman = 6;
 /// Of a polynomial that rises.
-const std::initializer_list<double> Coefficients{500, 1.5, -2e-3, 3e-4, -1e-6, 2e-8};
+const std::initializer_list<double> Coefficients{ 500, 1.5, -2e-3, 3e-4, -1e-6, 2e-8 };
 
 /// Of a column, counted from 0.
 double Polynomial(int column, int degree)
@@ -64,7 +64,10 @@ std::unique_ptr<PictureFile> Opened(const PictureFolder &folder, const SpeBytes 
     return file;
 }
 
-bool IsNear(double value, double expected) { return std::abs(value - expected) <= 1e-12 * std::abs(expected); }
+bool IsNear(double value, double expected)
+{
+    return std::abs(value - expected) <= 1e-12 * std::abs(expected);
+}
 
 } // namespace
 
@@ -76,7 +79,8 @@ void SpeCalibrationTest::everyDegreeInEveryUnitIsTakenOver_data()
     for (int degree = 1; degree <= 5; ++degree) {
         QTest::addRow("nm, degree %d", degree) << degree << int(Nm) << int(SpectralUnit::Nanometre);
         QTest::addRow("1/cm, degree %d", degree) << degree << int(PerCm) << int(SpectralUnit::Wavenumber);
-        QTest::addRow("Raman shift, degree %d", degree) << degree << int(Raman) << int(SpectralUnit::RamanShift);
+        QTest::addRow("Raman shift, degree %d", degree)
+            << degree << int(Raman) << int(SpectralUnit::RamanShift);
     }
 }
 
@@ -108,7 +112,8 @@ void SpeCalibrationTest::aShiftIsMadeOfWhatTheLaserIsKnownFor_data()
     QTest::newRow("of wavenumbers") << int(PerCm) << 400.0 << 1e7 / 400 - 500 << shift;
     QTest::newRow("of a shift") << int(Raman) << 400.0 << 500.0 << shift;
     QTest::newRow("of nanometres without a laser") << int(Nm) << 0.0 << 500.0 << int(SpectralUnit::Nanometre);
-    QTest::newRow("of wavenumbers and a laser of no number") << int(PerCm) << double(NAN) << 500.0 << int(SpectralUnit::Wavenumber);
+    QTest::newRow("of wavenumbers and a laser of no number")
+        << int(PerCm) << double(NAN) << 500.0 << int(SpectralUnit::Wavenumber);
 }
 
 void SpeCalibrationTest::aShiftIsMadeOfWhatTheLaserIsKnownFor()
@@ -118,7 +123,7 @@ void SpeCalibrationTest::aShiftIsMadeOfWhatTheLaserIsKnownFor()
     QFETCH(double, first);
     PictureFolder folder;
     SpeBytes spe = Spectrum();
-    spe.Calibrate(quint8(code), Raman, 1, {499, 1}).SetDouble(3311, laser);
+    spe.Calibrate(quint8(code), Raman, 1, { 499, 1 }).SetDouble(3311, laser);
     const SpectralAxis axis = Opened(folder, spe)->AxisOf(0);
     QTEST(int(axis.unit), "unit");
     QVERIFY2(IsNear(axis.values.value(0), first), qPrintable(QString::number(axis.values.value(0), 'g', 12)));
@@ -151,7 +156,7 @@ void SpeCalibrationTest::theLabelNamesTheUnit()
     QFETCH(QByteArray, label);
     QFETCH(double, factor);
     PictureFolder folder;
-    for (const bool isLater : {false, true}) {
+    for (const bool isLater : { false, true }) {
         SpeBytes spe = Spectrum();
         spe.Calibrate(User, isLater ? Nm : User, 3, Coefficients);
         Label(spe, isLater ? 3321 : 3018, label);
@@ -174,14 +179,20 @@ void SpeCalibrationTest::whatCannotBeUsedIsSaid_data()
     QTest::addColumn<QString>("said");
     QTest::newRow("pixels") << 1 << 1 << QByteArray("Pixel") << "";
     QTest::newRow("none") << 0 << 1 << QByteArray() << "";
-    QTest::newRow("furlongs") << 3 << 1 << QByteArray("Way [furlong]") << "in a unit that is not known (\u201cWay [furlong]\u201d, code 3) and is left out";
-    QTest::newRow("no label") << 3 << 1 << QByteArray() << "in a unit that is not known (\u201c\u201d, code 3)";
-    QTest::newRow("a label without an end") << 3 << 1 << QByteArray(40, 'x') << QString("(\u201c%1\u201d, code 3)").arg(QString(40, 'x'));
+    QTest::newRow("furlongs")
+        << 3 << 1 << QByteArray("Way [furlong]")
+        << "in a unit that is not known (\u201cWay [furlong]\u201d, code 3) and is left out";
+    QTest::newRow("no label") << 3 << 1 << QByteArray()
+                              << "in a unit that is not known (\u201c\u201d, code 3)";
+    QTest::newRow("a label without an end")
+        << 3 << 1 << QByteArray(40, 'x') << QString("(\u201c%1\u201d, code 3)").arg(QString(40, 'x'));
     QTest::newRow("a label of brackets") << 3 << 1 << QByteArray("[](([") << "in a unit that is not known";
     QTest::newRow("data") << 2 << 1 << QByteArray() << "code 2) and is left out";
     QTest::newRow("a code of nothing") << 255 << 1 << QByteArray() << "code 255) and is left out";
-    QTest::newRow("degree 0") << 4 << 0 << QByteArray() << "is a polynomial of degree 0, where 1 to 5 are possible, and is left out";
-    QTest::newRow("degree 6") << 4 << 6 << QByteArray() << "is a polynomial of degree 6, where 1 to 5 are possible";
+    QTest::newRow("degree 0") << 4 << 0 << QByteArray()
+                              << "is a polynomial of degree 0, where 1 to 5 are possible, and is left out";
+    QTest::newRow("degree 6") << 4 << 6 << QByteArray()
+                              << "is a polynomial of degree 6, where 1 to 5 are possible";
     QTest::newRow("degree 255") << 5 << 255 << QByteArray() << "is a polynomial of degree 255";
 }
 
@@ -193,7 +204,7 @@ void SpeCalibrationTest::whatCannotBeUsedIsSaid()
     QFETCH(QString, said);
     PictureFolder folder;
     SpeBytes spe = Spectrum();
-    spe.Calibrate(quint8(code), User, quint8(degree), {500, 1});
+    spe.Calibrate(quint8(code), User, quint8(degree), { 500, 1 });
     const auto file = Opened(folder, Label(spe, 3018, label));
     QVERIFY(file->AxisOf(0).IsEmpty());
     QCOMPARE(file->Info().warning.isEmpty(), said.isEmpty());
@@ -212,8 +223,8 @@ void SpeCalibrationTest::theRowsHaveACalibrationToo()
     spe.SetDouble(3263 + rows, 400).SetDouble(3271 + rows, 3);
     SpectralAxis axis = Opened(folder, spe)->AxisOf(0);
     QCOMPARE(int(axis.side), int(SpectralSide::Rows));
-    QCOMPARE(axis.values, QVector<double>({403, 406}));
-    axis = Opened(folder, spe.Calibrate(Nm, Nm, 1, {500, 1}))->AxisOf(0);
+    QCOMPARE(axis.values, QVector<double>({ 403, 406 }));
+    axis = Opened(folder, spe.Calibrate(Nm, Nm, 1, { 500, 1 }))->AxisOf(0);
     QCOMPARE(int(axis.side), int(SpectralSide::Columns));
     QCOMPARE(axis.values.value(0), 501.0);
 }

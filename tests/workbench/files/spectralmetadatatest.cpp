@@ -49,7 +49,8 @@ const QSize Wide(Width, Across);
 
 QSize SizeFor(SpectralSide side) { return side == SpectralSide::Columns ? Wide : Wide.transposed(); }
 
-std::unique_ptr<PictureFile> Saved(const PictureFolder &folder, const QString &name, const QVector<MetadataEntry> &metadata, const QSize &size)
+std::unique_ptr<PictureFile> Saved(const PictureFolder &folder, const QString &name,
+                                   const QVector<MetadataEntry> &metadata, const QSize &size)
 {
     SaveOptions options;
     options.metadata = metadata;
@@ -65,8 +66,8 @@ std::unique_ptr<PictureFile> Saved(const PictureFolder &folder, const QString &n
     return file;
 }
 
-SpectralAxis SavedAndOpened(const PictureFolder &folder, const QString &name, const QVector<MetadataEntry> &metadata,
-                            const QSize &size = Wide)
+SpectralAxis SavedAndOpened(const PictureFolder &folder, const QString &name,
+                            const QVector<MetadataEntry> &metadata, const QSize &size = Wide)
 {
     const auto file = Saved(folder, name, metadata, size);
     if (!file->Info().warning.isEmpty())
@@ -77,7 +78,8 @@ SpectralAxis SavedAndOpened(const PictureFolder &folder, const QString &name, co
 bool Tells(const PictureFile &file, const QString &text)
 {
     const QVector<MetadataEntry> &metadata = file.Info().metadata;
-    return std::any_of(metadata.begin(), metadata.end(), [&](const MetadataEntry &entry) { return entry.value.contains(text); });
+    return std::any_of(metadata.begin(), metadata.end(),
+                       [&](const MetadataEntry &entry) { return entry.value.contains(text); });
 }
 
 void AddFormats()
@@ -85,9 +87,11 @@ void AddFormats()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("description");
     QTest::addColumn<SpectralSide>("side");
-    for (const SpectralSide side : {SpectralSide::Columns, SpectralSide::Rows}) {
-        const auto add = [side](const char *format, const QString &name, const QString &description = QString()) {
-            QTest::addRow("%s, %s", format, side == SpectralSide::Columns ? "columns" : "rows") << name << description << side;
+    for (const SpectralSide side : { SpectralSide::Columns, SpectralSide::Rows }) {
+        const auto add = [side](const char *format, const QString &name,
+                                const QString &description = QString()) {
+            QTest::addRow("%s, %s", format, side == SpectralSide::Columns ? "columns" : "rows")
+                << name << description << side;
         };
         add("FITS", "a.fits");
         add("PNG", "a.png");
@@ -119,7 +123,8 @@ void SpectralMetadataTest::aPolynomialComesBack()
     QFETCH(QString, description);
     PictureFolder folder;
     QFETCH(SpectralSide, side);
-    const auto file = Saved(folder, name, WithDescription(description, SpectralMetadata(Record(side))), SizeFor(side));
+    const auto file =
+        Saved(folder, name, WithDescription(description, SpectralMetadata(Record(side))), SizeFor(side));
     QCOMPARE(file->Info().warning, QString());
     const SpectralAxis axis = file->AxisOf(0);
     QCOMPARE(int(axis.unit), int(SpectralUnit::Nanometre));
@@ -144,7 +149,8 @@ void SpectralMetadataTest::aListComesBack()
     for (int x = 0; x < Width; ++x)
         axis.values << 1e7 * (1 / axis.laserNm - 1 / (790 + 0.3 * x));
     PictureFolder folder;
-    const SpectralAxis back = SavedAndOpened(folder, name, WithDescription(description, SpectralMetadata(axis)), SizeFor(side));
+    const SpectralAxis back =
+        SavedAndOpened(folder, name, WithDescription(description, SpectralMetadata(axis)), SizeFor(side));
     QCOMPARE(int(back.unit), int(SpectralUnit::RamanShift));
     QCOMPARE(int(back.side), int(side));
     QCOMPARE(back.laserNm, axis.laserNm);
@@ -171,11 +177,12 @@ void SpectralMetadataTest::theOldOneIsReplaced()
 /// As the files that were written when only columns could be calibrated; it takes more than a square picture to be of the rows.
 void SpectralMetadataTest::oneThatNamesNoSideIsOfTheColumns()
 {
-    for (const SpectralSide side : {SpectralSide::Columns, SpectralSide::Rows}) {
+    for (const SpectralSide side : { SpectralSide::Columns, SpectralSide::Rows }) {
         QVector<MetadataEntry> entries = SpectralMetadata(Record(side));
         QString fault;
         QCOMPARE(int(AxisOfMetadata(entries, QSize(Width, Width), &fault).side), int(side));
-        entries.erase(std::remove_if(entries.begin(), entries.end(), [](const MetadataEntry &entry) { return entry.key == "SPECSIDE"; }),
+        entries.erase(std::remove_if(entries.begin(), entries.end(),
+                                     [](const MetadataEntry &entry) { return entry.key == "SPECSIDE"; }),
                       entries.end());
         const SpectralAxis axis = AxisOfMetadata(entries, QSize(Width, Width), &fault);
         QCOMPARE(axis.values.size(), Width);
@@ -190,10 +197,14 @@ void SpectralMetadataTest::aSideThatIsNoneIsSaid_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("said");
-    for (const char *name : {"a.fits", "a.png", "a.tif"})
-        QTest::newRow(name) << name << "diagonal" << "\u201cdiagonal\u201d (SPECSIDE)";
-    QTest::newRow("in other letters") << "a.tif" << "Rows" << "\u201cRows\u201d (SPECSIDE)";
-    QTest::newRow("of no end") << "a.tif" << QString(100000, 'x') << QString("\u201c%1\u201d (SPECSIDE)").arg(QString(20, 'x'));
+    for (const char *name : { "a.fits", "a.png", "a.tif" })
+        QTest::newRow(name) << name << "diagonal"
+                            << "\u201cdiagonal\u201d (SPECSIDE)";
+    QTest::newRow("in other letters") << "a.tif"
+                                      << "Rows"
+                                      << "\u201cRows\u201d (SPECSIDE)";
+    QTest::newRow("of no end") << "a.tif" << QString(100000, 'x')
+                               << QString("\u201c%1\u201d (SPECSIDE)").arg(QString(20, 'x'));
 }
 
 void SpectralMetadataTest::aSideThatIsNoneIsSaid()
@@ -209,7 +220,8 @@ void SpectralMetadataTest::aSideThatIsNoneIsSaid()
     PictureFolder folder;
     const auto file = Saved(folder, name, entries, Wide);
     QVERIFY(file->AxisOf(0).IsEmpty());
-    QVERIFY2(file->Info().warning.contains(said) && file->Info().warning.contains(name), qPrintable(file->Info().warning));
+    QVERIFY2(file->Info().warning.contains(said) && file->Info().warning.contains(name),
+             qPrintable(file->Info().warning));
 }
 
 void SpectralMetadataTest::whatDoesNotFitIsNotUsed_data()
@@ -218,7 +230,8 @@ void SpectralMetadataTest::whatDoesNotFitIsNotUsed_data()
     QTest::addColumn<QString>("value");
     QTest::addColumn<bool>("said");
     QTest::newRow("of other pictures") << "SPECWID" << "301" << false;
-    QTest::newRow("of the rows") << "SPECSIDE" << "rows" << false;
+    QTest::newRow("of the rows") << "SPECSIDE"
+                                 << "rows" << false;
     QTest::newRow("of no unit") << "SPECUNIT" << "furlong" << false;
     QTest::newRow("turns") << "SPECC2" << "-0.001" << true;
     QTest::newRow("no number") << "SPECC0" << "nan" << true;

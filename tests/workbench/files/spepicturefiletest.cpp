@@ -197,8 +197,8 @@ void SpePictureFileTest::regionsAreFramesOfTheirOwn()
     QStringList facts;
     for (const MetadataEntry &entry : file->Info().metadata)
         facts << entry.key + '=' + entry.value;
-    QCOMPARE(facts, QStringList({"Region1=columns 1 to 3, rows 0 to 0 of the sensor, binned by 1 x 1",
-                                 "Region2=columns 2 to 5, rows 5 to 6 of the sensor, binned by 2 x 1"}));
+    QCOMPARE(facts, QStringList({ "Region1=columns 1 to 3, rows 0 to 0 of the sensor, binned by 1 x 1",
+                                  "Region2=columns 2 to 5, rows 5 to 6 of the sensor, binned by 2 x 1" }));
 }
 
 void SpePictureFileTest::regionsInOneRectangleAreSaid_data()
@@ -209,8 +209,12 @@ void SpePictureFileTest::regionsInOneRectangleAreSaid_data()
     QTest::newRow("not told") << "rectangle.spe" << 0 << "";
     QTest::newRow("one") << "rectangle.spe" << 1 << "";
     QTest::newRow("less than none") << "rectangle.spe" << -5 << "";
-    QTest::newRow("a name with a place marker") << "a%2.spe" << 3 << "\u201ca%2.spe\u201d: its 3 regions are shown as one picture, with the filler that lies between them, as what it says of region 1 makes no sense.";
-    QTest::newRow("three") << "rectangle.spe" << 3 << "\u201crectangle.spe\u201d: its 3 regions are shown as one picture, with the filler that lies between them, as what it says of region 1 makes no sense.";
+    QTest::newRow("a name with a place marker")
+        << "a%2.spe" << 3
+        << "\u201ca%2.spe\u201d: its 3 regions are shown as one picture, with the filler that lies between them, as what it says of region 1 makes no sense.";
+    QTest::newRow("three")
+        << "rectangle.spe" << 3
+        << "\u201crectangle.spe\u201d: its 3 regions are shown as one picture, with the filler that lies between them, as what it says of region 1 makes no sense.";
 }
 
 void SpePictureFileTest::regionsInOneRectangleAreSaid()

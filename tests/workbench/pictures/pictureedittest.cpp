@@ -194,15 +194,17 @@ private slots:
                 edit = edit.Turned(RotateBy90);
             if (orientation >= 4)
                 edit = edit.Turned(FlipHorizontal);
-            edit = edit.Cropped(QRect(QPoint(0, 0), edit.SeenSize(frame.Size())).adjusted(1, 2, 0, 0), frame.Size());
+            edit = edit.Cropped(QRect(QPoint(0, 0), edit.SeenSize(frame.Size())).adjusted(1, 2, 0, 0),
+                                frame.Size());
             const Picture seen = edit.Applied(frame, 0);
-            for (const SpectralSide side : {SpectralSide::Columns, SpectralSide::Rows}) {
+            for (const SpectralSide side : { SpectralSide::Columns, SpectralSide::Rows }) {
                 const SpectralAxis axis = edit.SeenAxis(FileAxis(side, frame.Size()), frame.Size());
                 QCOMPARE(axis.values.size(), PixelsOf(axis.side, seen.Size()));
                 for (int y = 0; y < seen.Height(); ++y) {
                     for (int x = 0; x < seen.Width(); ++x) {
                         const int number = seen.Samples<quint16>(y)[x];
-                        const int pixel = side == SpectralSide::Columns ? number % frame.Width() : number / frame.Width();
+                        const int pixel =
+                            side == SpectralSide::Columns ? number % frame.Width() : number / frame.Width();
                         QCOMPARE(axis.values[axis.side == SpectralSide::Columns ? x : y], FileValue(pixel));
                     }
                 }
@@ -213,9 +215,12 @@ private slots:
     void pixelsThatWereJoinedHaveNoAxis()
     {
         const QSize size(12, 8);
-        for (const SpectralSide side : {SpectralSide::Columns, SpectralSide::Rows}) {
-            QVERIFY(PictureEdit().Processed(BinningSettings()).SeenAxis(FileAxis(side, size), size).IsEmpty());
-            QVERIFY(PictureEdit().SeenAxis(FileAxis(side, size), size + QSize(1, 1)).IsEmpty()); // that of another frame
+        for (const SpectralSide side : { SpectralSide::Columns, SpectralSide::Rows }) {
+            QVERIFY(
+                PictureEdit().Processed(BinningSettings()).SeenAxis(FileAxis(side, size), size).IsEmpty());
+            QVERIFY(PictureEdit()
+                        .SeenAxis(FileAxis(side, size), size + QSize(1, 1))
+                        .IsEmpty()); // that of another frame
         }
     }
 

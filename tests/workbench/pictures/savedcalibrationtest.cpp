@@ -102,7 +102,8 @@ private slots:
         QCOMPARE(axis.values.size(), 20);
         QCOMPARE(axis.values.value(3), 406.0);
 
-        request.edit = PictureEdit().Turned(RotateBy90).Cropped(QRect(1, 0, 15, 6), size); // the last row is at the left
+        request.edit =
+            PictureEdit().Turned(RotateBy90).Cropped(QRect(1, 0, 15, 6), size); // the last row is at the left
         request.target = Path("turned" + target);
         QCOMPARE(SaveError(request), QString());
         axis = AxisOf("turned" + target);

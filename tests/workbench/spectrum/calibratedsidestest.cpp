@@ -45,7 +45,7 @@ namespace {
 SpectralPicture Opened(const SpectralAxis &axis, int width)
 {
     const QSize size(width, 200);
-    return {1, size, QRect(QPoint(0, 0), size), Orientation(), axis, axis};
+    return { 1, size, QRect(QPoint(0, 0), size), Orientation(), axis, axis };
 }
 
 /// 100 nm and one more for each pixel.
@@ -63,8 +63,8 @@ SpectralAxis Other(SpectralSide side, int count)
 SpectralCalibration Straight()
 {
     QVector<CalibrationPoint> points;
-    points.append({0, 400, QString()});
-    points.append({400, 500, QString()});
+    points.append({ 0, 400, QString() });
+    points.append({ 400, 500, QString() });
     return FitCalibration(points, 1, 1000).calibration;
 }
 
@@ -113,7 +113,7 @@ void CalibratedSidesTest::theAxisOfTheRowsOfAFileIsThatOfSpectraAlongItsColumns(
 
 void CalibratedSidesTest::theOtherSideOfAFileWithAnAxisIsNotAssumedToBeOurs()
 {
-    Show({QRect(100, 50, 1000, 1000), 1, Orientation()});
+    Show({ QRect(100, 50, 1000, 1000), 1, Orientation() });
     m_settings->SetCalibration(Straight(), m_settings->ShownFrame());
     m_settings->slotSetImageShown(true);
     double x = 0;
@@ -135,7 +135,7 @@ void CalibratedSidesTest::oursTakesThePlaceOfAnAxisOfTheRowsToo()
 {
     const QSize size(200, 1000);
     const SpectralAxis wrong = Other(SpectralSide::Rows, 1000);
-    const SpectralPicture picture{1, size, QRect(QPoint(0, 0), size), Orientation(), wrong, wrong};
+    const SpectralPicture picture{ 1, size, QRect(QPoint(0, 0), size), Orientation(), wrong, wrong };
     m_settings->SetImage(picture);
     m_settings->slotSetImageShown(true);
     m_settings->SetHorizontal(false);
@@ -156,7 +156,7 @@ void CalibratedSidesTest::filesAreAssumedToLieAsWhatWasCalibratedLive_data()
 {
     QTest::addColumn<int>("turns"); // of the live picture
     QTest::addColumn<bool>("horizontal");
-    for (const int turns : {0, 1}) {
+    for (const int turns : { 0, 1 }) {
         QTest::addRow("along the rows, %d turns", turns) << turns << true;
         QTest::addRow("along the columns, %d turns", turns) << turns << false;
     }
@@ -168,11 +168,12 @@ void CalibratedSidesTest::filesAreAssumedToLieAsWhatWasCalibratedLive()
     QFETCH(int, turns);
     QFETCH(bool, horizontal);
     m_settings->SetHorizontal(horizontal);
-    Show({QRect(0, 0, 1000, 1000), 1, Orientation(false, turns)});
+    Show({ QRect(0, 0, 1000, 1000), 1, Orientation(false, turns) });
     m_settings->SetCalibration(Straight(), m_settings->ShownFrame());
     m_settings->slotSetImageShown(true);
     const QSize size(1000, 1000);
-    m_settings->SetImage({1, size, QRect(QPoint(0, 0), size), Orientation(), SpectralAxis(), SpectralAxis()});
+    m_settings->SetImage(
+        { 1, size, QRect(QPoint(0, 0), size), Orientation(), SpectralAxis(), SpectralAxis() });
     double x = 0;
     QVERIFY(m_settings->Calculate(200, x));
     QCOMPARE(x, 450.0);
@@ -189,14 +190,19 @@ void CalibratedSidesTest::recordingsHaveTheCalibrationOfTheirSide_data()
     const QRect same(50, 100, 1000, 1000);
     const QRect part(0, 300, 100, 400);
     const Orientation upright;
-    QTest::newRow("as it was") << SensorFrame{same, 1, upright} << false << 400.0 << 0.25;
-    QTest::newRow("upside down") << SensorFrame{same, 1, upright.FlippedVertically()} << false << 649.75 << -0.25;
-    QTest::newRow("mirrored") << SensorFrame{same, 1, upright.FlippedHorizontally()} << false << 400.0 << 0.25;
-    QTest::newRow("a quarter, along the rows") << SensorFrame{same, 1, upright.RotatedLeft()} << true << 400.0 << 0.25;
-    QTest::newRow("a quarter to the right") << SensorFrame{same, 1, upright.RotatedRight()} << true << 649.75 << -0.25;
-    QTest::newRow("a region in it") << SensorFrame{part, 1, upright} << false << 450.0 << 0.25;
-    QTest::newRow("half a turn, binned") << SensorFrame{part, 2, Orientation(false, 2)} << false << 549.625 << -0.5;
-    QTest::newRow("along the other side") << SensorFrame{same, 1, upright} << true << 0.0 << 0.0;
+    QTest::newRow("as it was") << SensorFrame{ same, 1, upright } << false << 400.0 << 0.25;
+    QTest::newRow("upside down") << SensorFrame{ same, 1, upright.FlippedVertically() } << false << 649.75
+                                 << -0.25;
+    QTest::newRow("mirrored") << SensorFrame{ same, 1, upright.FlippedHorizontally() } << false << 400.0
+                              << 0.25;
+    QTest::newRow("a quarter, along the rows")
+        << SensorFrame{ same, 1, upright.RotatedLeft() } << true << 400.0 << 0.25;
+    QTest::newRow("a quarter to the right")
+        << SensorFrame{ same, 1, upright.RotatedRight() } << true << 649.75 << -0.25;
+    QTest::newRow("a region in it") << SensorFrame{ part, 1, upright } << false << 450.0 << 0.25;
+    QTest::newRow("half a turn, binned")
+        << SensorFrame{ part, 2, Orientation(false, 2) } << false << 549.625 << -0.5;
+    QTest::newRow("along the other side") << SensorFrame{ same, 1, upright } << true << 0.0 << 0.0;
 }
 
 /// Calibrated with 1000 rows from row 100 on, upright: 400 nm in the first and 0.25 nm in each.
@@ -207,7 +213,7 @@ void CalibratedSidesTest::recordingsHaveTheCalibrationOfTheirSide()
     QFETCH(double, first);
     QFETCH(double, step);
     m_settings->SetHorizontal(false);
-    Show({QRect(50, 100, 1000, 1000), 1, Orientation()});
+    Show({ QRect(50, 100, 1000, 1000), 1, Orientation() });
     m_settings->SetCalibration(Straight(), m_settings->ShownFrame());
     m_settings->SetHorizontal(horizontal);
     Show(frame);

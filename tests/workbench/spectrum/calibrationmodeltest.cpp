@@ -393,7 +393,7 @@ void CalibrationModelTest::whereItWasMadeIsKept()
 void CalibrationModelTest::theDirectionInWhichItWasMadeIsKept()
 {
     m_settings->SetHorizontal(false);
-    m_settings->SetSensorFrame({QRect(0, 0, 100, width), 1, Orientation()});
+    m_settings->SetSensorFrame({ QRect(0, 0, 100, width), 1, Orientation() });
     m_settings->slotSetFrameSize(QSize(100, width));
     auto model = Model();
     model->SetSpectrum(HgLamp());
@@ -407,7 +407,8 @@ void CalibrationModelTest::theDirectionInWhichItWasMadeIsKept()
     m_settings->SetCalibration(SpectralCalibration(), SpectralFrame());
     model = Model();
     const QSize size(width, width);
-    m_settings->SetImage({1, size, QRect(QPoint(0, 0), size), Orientation(), SpectralAxis(), SpectralAxis()});
+    m_settings->SetImage(
+        { 1, size, QRect(QPoint(0, 0), size), Orientation(), SpectralAxis(), SpectralAxis() });
     m_settings->slotSetImageShown(true);
     double again = 0;
     QVERIFY(m_settings->Calculate(100, again));
