@@ -41,6 +41,7 @@
 #include "spectrumuimanager.h"
 #include "standingcurve.h"
 #include "statusline.h"
+#include "trackbox.h"
 #include "uimanagerbase.h"
 #include "unsavedguard.h"
 #include "viewcodes.h"
@@ -122,6 +123,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     m_recordingStatus = new RecordingStatus(services->Recording(), recordingLabel, this);
     connect(m_recordingStatus, &RecordingStatus::signalLossSeen, this,
             [this](bool seen) { statusBar()->setVisible(!m_isFullScreen || seen); });
+    new TrackBox(services->Spectra(), services->Spectrum(), m_centre, this);
     new CurveStatus(services, statusBar(), this);
     new StandingCurve(services, m_centre, this);
     m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);
