@@ -46,6 +46,7 @@
 #include "unsavedguard.h"
 #include "viewcodes.h"
 #include "viewmenu.h"
+#include "wheelzoom.h"
 #include "workbenchservices.h"
 #include "workspace.h"
 #include "workspaceconfig.h"
@@ -124,6 +125,7 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     connect(m_recordingStatus, &RecordingStatus::signalLossSeen, this,
             [this](bool seen) { statusBar()->setVisible(!m_isFullScreen || seen); });
     new TrackBox(services->Spectra(), services->Spectrum(), m_centre, this);
+    new WheelZoom(services->Spectrum(), m_centre, this);
     new CurveStatus(services, statusBar(), this);
     new StandingCurve(services, m_centre, this);
     m_statusLine = new StatusLine(services->Link(), services->Preview(), m_shown, statusBar(), this);

@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QSignalSpy>
 
+#include <qcustomplot.h>
 #include <qwt3d_surfaceplot.h>
 
 #include <vector>
@@ -28,12 +29,41 @@ struct PlotLines : Qwt3D::SurfacePlot
 
 } // namespace
 
-/// A person looks at other tracks.
+/// A person looks closer at a curve, and at other tracks.
 class PlotZoomScenario : public SpectrographScenario
 {
     Q_OBJECT
 
 private slots:
+    void theWheelEndsTheAutomaticRanges_data()
+    {
+        QTest::addColumn<bool>("atTheCounts");
+        QTest::newRow("over the curve") << false;
+        QTest::newRow("over its counts") << true;
+    }
+
+    void theWheelEndsTheAutomaticRanges()
+    {
+        QFETCH(bool, atTheCounts);
+        ShowCurve();
+        const QRect curve = Plot()->axisRect()->rect();
+        const QPoint place = atTheCounts ? QPoint(curve.left() - 3, curve.center().y()) : curve.center();
+        const double height = Plot()->yAxis->range().size();
+        TurnWheelAt(place);
+        QVERIFY(!Spectrum()->GetZoomAutoFlag());
+        const QCPRange zoomed = Plot()->yAxis->range();
+        QVERIFY(zoomed.size() < 0.9 * height);
+        WaitForSpectra(3);
+        QCOMPARE(Plot()->yAxis->range(), zoomed);
+    }
+
+    void theWheelBesideTheCurveDoesNothing()
+    {
+        ShowCurve();
+        TurnWheelAt(QPoint(Plot()->axisRect()->rect().center().x(), Plot()->height() - 4));
+        QVERIFY(Spectrum()->GetZoomAutoFlag());
+    }
+
     void newTracksLieInTheBox()
     {
         ShowTracks(5);
@@ -69,6 +99,23 @@ private:
         QSignalSpy shown(m_workbench->services.Spectra(), &SpectrumPipeline::signalSpectrumShown);
         QTRY_VERIFY_WITH_TIMEOUT(shown.size() >= count, waitMs);
         QCoreApplication::processEvents(); // the plots take the last one
+    }
+
+    /// All rows, in automatic ranges.
+    void ShowCurve() const
+    {
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("All Rows")->trigger();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot() && Plot()->graph(0)->dataCount() == 2048, waitMs);
+        Spectrum()->SetZoomAutoFlag(true);
+        WaitForSpectra(2);
+    }
+
+    void TurnWheelAt(const QPoint &place) const
+    {
+        QWheelEvent wheel(place, Plot()->mapToGlobal(place), QPoint(), QPoint(0, 120), Qt::NoButton, Qt::NoModifier,
+                          Qt::NoScrollPhase, false);
+        QApplication::sendEvent(Plot(), &wheel);
     }
 
     /// Tracks of 40 rows over the whole sensor, from a row on.
