@@ -43,11 +43,13 @@
 #include "spectrumuimanager.h"
 #include "standingcurve.h"
 #include "statusline.h"
+#include "trackbox.h"
 #include "uimanagerbase.h"
 #include "unsavedguard.h"
 #include "valueaxis.h"
 #include "viewcodes.h"
 #include "viewmenu.h"
+#include "wheelzoom.h"
 #include "workbenchservices.h"
 #include "workspace.h"
 #include "workspaceconfig.h"
@@ -125,6 +127,8 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     m_recordingStatus = new RecordingStatus(services->Recording(), recordingLabel, this);
     connect(m_recordingStatus, &RecordingStatus::signalLossSeen, this,
             [this](bool seen) { statusBar()->setVisible(!m_isFullScreen || seen); });
+    new TrackBox(services->Spectra(), services->Spectrum(), m_centre, this);
+    new WheelZoom(services->Spectrum(), m_centre, this);
     new CurveStatus(services, statusBar(), this);
     new StandingCurve(services, m_centre, this);
     new ValueAxis(services->Spectra(), m_centre->widget(CameraControlPage), this);

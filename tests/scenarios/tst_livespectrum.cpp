@@ -277,7 +277,7 @@ private slots:
         page->findChild<QPushButton *>("pushButton2DScaleReset")->click();
         QTRY_COMPARE(Plot()->yAxis->range().upper, wholeHeight());
 
-        // The wheel leaves the automatic zoom on; the reset counts all the same.
+        // The automatic zoom is on already; the reset counts all the same.
         Plot()->yAxis->setRange(0, 5 * wholeHeight());
         page->findChild<QPushButton *>("pushButton2DScaleReset")->click();
         QTRY_COMPARE(Plot()->yAxis->range().upper, wholeHeight());
