@@ -99,7 +99,7 @@ private:
     void CheckSeen() const
     {
         WaitForFrames();
-        QVERIFY2(IsSeen(), qPrintable(Told()));
+        QTRY_VERIFY2(IsSeen(), qPrintable(Told()));
     }
 
     /// The least and the most of the curve.

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "liveorientation.h"
 #include "livepreview.h"
 #include "plotpicture.h"
 #include "spectrographscenario.h"
+#include "spectrumdialogs.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
+#include "viewcodes.h"
 
 #include <QAction>
 #include <QPushButton>
@@ -132,6 +135,85 @@ private slots:
         QCOMPARE(m_workbench->services.Spectra()->Ledger().taken.load(), quint64(0));
     }
 
+    /// And where the plot says that it is, is where the exported table says it.
+    void wavelengthsStayWhenThePictureIsTurned_data()
+    {
+        QTest::addColumn<QVector<int>>("steps");
+        QTest::addColumn<bool>("isCalibrated");
+        QTest::newRow("mirrored") << QVector<int>{FlipHorizontal} << true;
+        QTest::newRow("upside down") << QVector<int>{FlipVertical} << true;
+        QTest::newRow("there and back") << QVector<int>{FlipHorizontal, FlipHorizontal} << true;
+        QTest::newRow("along the other side") << QVector<int>{RotateBy90} << false;
+    }
+
+    void wavelengthsStayWhenThePictureIsTurned()
+    {
+        QFETCH(QVector<int>, steps);
+        QFETCH(bool, isCalibrated);
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("All Rows")->trigger();
+        WaitForBinned();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot() && Plot()->graph(0)->dataCount() == width, waitMs);
+        StopCamera();
+        SpectrumSettings *settings = m_workbench->services.Spectrum();
+        settings->SetCalibration(straight, settings->ShownFrame());
+        QTRY_VERIFY(Plot()->graph(0)->data()->at(0)->key > 389);
+        const double before = Brightest();
+
+        LiveOrientation *orientation = m_workbench->services.LivePosition();
+        for (const int step : steps)
+            orientation->slotSetMirrorRotate(step);
+        const SpectrumPipeline *spectra = m_workbench->services.Spectra();
+        QTRY_VERIFY_WITH_TIMEOUT(spectra->Shown().sensor.orientation == orientation->Get(), waitMs);
+        QTRY_COMPARE(Plot()->xAxis->label(), QString(isCalibrated ? "Wavelength [nm]" : "Pixel Number"));
+        const auto isDrawn = [&] {
+            constexpr int sample = width / 3;
+            const auto drawn = Plot()->graph(0)->data()->findBegin(settings->ShownAxis().At(sample), false); // sorted by that
+            return drawn->value == spectra->Shown().corrected.values[sample];
+        };
+        QTRY_VERIFY(isDrawn());
+        if (isCalibrated) {
+            constexpr double pixel = 540.0 / (width - 1); // nm
+            QTRY_VERIFY2(std::abs(Brightest() - before) < pixel, qPrintable(QString("%1 and not %2").arg(Brightest()).arg(before)));
+        }
+        const ExportedSpectrum exported = m_workbench->window.findChild<SpectrumDialogs *>()->Shown();
+        const std::vector<double> &values = exported.product.raw.values;
+        const auto highest = std::max_element(values.begin(), values.end()) - values.begin();
+        QVERIFY(std::abs(exported.axis.At(double(highest)) - Brightest()) < 1e-6);
+    }
+
+    void tracksThatAreRemovedAreGone()
+    {
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("Find Tracks")->trigger();
+        const SpectrumPipeline *spectra = m_workbench->services.Spectra();
+        QTRY_COMPARE_WITH_TIMEOUT(spectra->Shown().tracks.size(), size_t(3), waitMs);
+        StopCamera();
+        const std::vector<double> second = spectra->Shown().tracks[1].values;
+        const QList<QRectF> tracks = m_workbench->services.Spectrum()->GetMultiTrackList();
+        QVERIFY(m_workbench->services.Spectrum()->SetTracks({tracks[1]}));
+        QTRY_COMPARE_WITH_TIMEOUT(spectra->Shown().tracks.size(), size_t(1), waitMs);
+        QCOMPARE(spectra->Shown().trackBands[0].top, qRound(tracks[1].top()));
+        QTRY_COMPARE(Plot()->graph(0)->data()->at(1000)->value, spectra->Shown().tracks[0].values[1000]);
+        QCOMPARE(spectra->Shown().tracks[0].Count(), int(second.size()));
+    }
+
+    void binningIsSwitchedOffAndOn()
+    {
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("All Rows")->trigger();
+        WaitForBinned();
+        QTRY_VERIFY_WITH_TIMEOUT(Plot() && Plot()->graph(0)->dataCount() == width, waitMs);
+        StopCamera();
+        const SpectrumPipeline *spectra = m_workbench->services.Spectra();
+        m_workbench->Action("Off")->trigger();
+        QVERIFY(!spectra->Shown().HasSpectrum());
+        m_workbench->Action("All Rows")->trigger();
+        WaitForBinned();
+        QTRY_COMPARE(Plot()->graph(0)->data()->at(1000)->value, spectra->Shown().raw.values[1000]);
+        QVERIFY(Plot()->yAxis->range().contains(Highest()));
+    }
+
     /// Of the standing picture, as that of the frame that would come next.
     void theProfileComesWhenTheSpectrumGoes_data()
     {
@@ -164,6 +246,14 @@ private:
         QTRY_COMPARE_WITH_TIMEOUT(m_workbench->services.Spectra()->Shown().raw.Count(), width, waitMs);
     }
 
+    /// Where the curve is highest, on the axis.
+    double Brightest() const
+    {
+        const auto curve = Plot()->graph(0)->data();
+        const auto lower = [](const QCPGraphData &a, const QCPGraphData &b) { return a.value < b.value; };
+        return std::max_element(curve->constBegin(), curve->constEnd(), lower)->key;
+    }
+
     /// Of the curve; 0 without one.
     double Highest() const
     {
@@ -182,7 +272,8 @@ private:
         QVERIFY(!m_workbench->services.Preview()->isRunning());
         const SpectrumLedger &ledger = m_workbench->services.Spectra()->Ledger();
         QTRY_COMPARE_WITH_TIMEOUT(ledger.computed + ledger.missed + ledger.dropped, quint64(ledger.taken), waitMs);
-        QCoreApplication::processEvents();
+        for (int step = 0; step < 3; ++step) // announced, drawn, told to be
+            QCoreApplication::processEvents();
     }
 
     /// On the axis of the plot, of the marks of peaks.

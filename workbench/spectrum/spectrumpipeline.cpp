@@ -258,8 +258,8 @@ void SpectrumPipeline::Work(const Waiting &next, const std::function<void(Spectr
     const SensorFrame sensor{frame.origin.region, frame.origin.binning, orientation};
     SpectrumProduct product = m_engine.Make(picture, frame.frameId, sensor, frame.origin.camera);
     product.takenMs = frame.hostTimeNs / 1000000;
-    m_ledger.computed += next.isAgain ? 0 : 1;
     Deliver(std::move(product));
+    m_ledger.computed += next.isAgain ? 0 : 1;
 }
 
 /// What a spectrum found that nobody has seen yet is handed on with the newer one that takes its place.
