@@ -110,7 +110,7 @@ void SpectrumDialogs::slotExportSpectrum()
         return;
     }
     AskWhere(tr("Export Spectrum"), {tr("Table with commented header (*.csv)")},
-             [this, spectrum](const QString &path) { Write(path, SpectrumCsv(spectrum)); });
+             [this, spectrum](const QString &path) { Write(path, [spectrum] { return SpectrumCsv(spectrum); }); });
 }
 
 void SpectrumDialogs::slotExportPlot()
@@ -123,7 +123,7 @@ void SpectrumDialogs::slotExportPlot()
     AskWhere(tr("Export Plot"), {tr("PNG picture (*.png)"), tr("SVG drawing (*.svg)"), tr("PDF page (*.pdf)")},
              [this, plot](const QString &path) {
                  if (plot)
-                     Write(path, PlotPicture(plot, FormOf(QFileInfo(path).suffix().toLower())));
+                     Write(path, [picture = PlotPicture(plot, FormOf(QFileInfo(path).suffix().toLower()))] { return picture; });
              });
 }
 
@@ -145,11 +145,11 @@ void SpectrumDialogs::AskWhere(const QString &title, const QStringList &filters,
     dialog->open();
 }
 
-void SpectrumDialogs::Write(const QString &path, const QByteArray &content)
+void SpectrumDialogs::Write(const QString &path, const std::function<QByteArray()> &make)
 {
-    m_writing.start([this, path, content] {
+    m_writing.start([this, path, make] {
         QMetaObject::invokeMethod(
-            this, [this, path, fault = WriteWholeFile(path, content)] { slotWritten(path, fault); }, Qt::QueuedConnection);
+            this, [this, path, fault = WriteWholeFile(path, make())] { slotWritten(path, fault); }, Qt::QueuedConnection);
     });
 }
 

@@ -42,7 +42,8 @@ private:
     QString SuggestedName() const;
     void AskWhere(const QString &title, const QStringList &filters,
                   const std::function<void(const QString &)> &write);
-    void Write(const QString &path, const QByteArray &content);
+    /// `make` runs in the background.
+    void Write(const QString &path, const std::function<QByteArray()> &make);
     void slotWritten(const QString &path, const QString &fault);
 
     WorkbenchServices *m_services;
