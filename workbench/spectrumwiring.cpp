@@ -179,8 +179,11 @@ void SpectrumWiring::slotUpdateLive()
 /// A camera that is gone leaves its last picture, and what is known of that.
 void SpectrumWiring::slotUpdateSensorFrame()
 {
-    if (const CameraSession *camera = m_parts.link->Session())
-        m_parts.settings->SetSensorFrame({camera->Format().region, camera->Format().binning, m_parts.orientation->Get()});
+    const CameraSession *camera = m_parts.link->Session();
+    if (!camera)
+        return;
+    m_parts.settings->SetSensorFrame({camera->Format().region, camera->Format().binning, m_parts.orientation->Get()});
+    m_parts.settings->SetCamera(m_parts.link->Name());
 }
 
 void SpectrumWiring::slotUpdateExposure()
