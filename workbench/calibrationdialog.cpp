@@ -200,7 +200,9 @@ QPushButton *CalibrationDialog::AddButton(QBoxLayout *row, const char *name, con
 void CalibrationDialog::TakeSpectrum()
 {
     const Spectrum spectrum = m_take();
-    m_model->SetSpectrum(spectrum.values, spectrum.saturated);
+    const int dropped = m_model->SetSpectrum(spectrum.values, spectrum.saturated);
+    if (dropped > 0)
+        m_verdict->setText(tr("This spectrum has other pixels than the one before: its %1 lines, which were not applied, are gone.").arg(dropped));
 }
 
 void CalibrationDialog::ChooseLamps()

@@ -203,13 +203,16 @@ void SpectrumWiring::slotPictureSizeChanged(QSize size)
 void SpectrumWiring::slotPictureDelivered()
 {
     const CameraFrame &frame = m_parts.preview->ShownFrame();
-    if (!frame.IsNull() && !m_parts.pipeline->Shown().HasSpectrum())
-        m_parts.settings->SetSensorFrame({frame.origin.region, frame.origin.binning, m_parts.orientation->Get()});
+    if (frame.IsNull() || m_parts.pipeline->Shown().HasSpectrum())
+        return;
+    m_parts.settings->SetSensorFrame({frame.origin.region, frame.origin.binning, m_parts.orientation->Get()});
+    m_parts.settings->SetCamera(frame.origin.camera);
 }
 
 void SpectrumWiring::slotMeaningChanged()
 {
     m_parts.settings->SetSensorFrame(m_parts.pipeline->Shown().sensor);
+    m_parts.settings->SetCamera(m_parts.pipeline->Shown().camera);
 }
 
 void SpectrumWiring::slotUpdateExposure()

@@ -121,6 +121,9 @@ void SpectrumFields::AddDisplay(PanelFields &fields) const
     fields << PanelField::MakeChoice("unit", tr("Unit"), int(m_settings->Unit()),
                                      {tr("pixels"), tr("nanometres"), tr("wavenumbers")});
     fields.last().toolTip = tr("Without a calibration spectra are shown over pixels.");
+    const QString otherCamera = m_settings->CameraNote();
+    if (!otherCamera.isEmpty())
+        fields << PanelField::Make(PanelField::Kind::Note, "calibration", tr("Calibration"), otherCamera);
     SetGroup(fields, first, tr("Display"));
 }
 

@@ -40,32 +40,35 @@ void CalibrationModel::Restore()
     m_width = stored.width;
     m_frame = stored.frame;
     m_applied = std::move(fit);
-    m_target->SetCalibration(m_applied.calibration, m_frame);
+    m_target->SetCalibration(m_applied.calibration, m_frame, stored.camera);
 }
 
-void CalibrationModel::SetSpectrum(const std::vector<double> &values, const std::vector<quint8> &saturated)
+int CalibrationModel::SetSpectrum(const std::vector<double> &values, const std::vector<quint8> &saturated)
 {
     ++m_question; // an answer that is still to come is of the spectrum before
-    if (!values.empty())
-        BelongTo(int(values.size()), m_target->ShownFrame());
+    const int dropped = values.empty() ? 0 : BelongTo(int(values.size()), m_target->ShownFrame());
     m_values = values;
     m_peaks = FindPeaks(values, PeakRules(), saturated);
     FitAgain();
     emit signalChanged();
+    return dropped;
 }
 
 /// A frame of another length is that of pictures to come. Where nothing is known, the width has to do.
-void CalibrationModel::BelongTo(int width, const SpectralFrame &shown)
+int CalibrationModel::BelongTo(int width, const SpectralFrame &shown)
 {
     const SpectralFrame frame = shown.count == width ? shown : SpectralFrame();
     const bool isOther = width != m_width || (!frame.IsNull() && frame != m_frame);
+    int dropped = 0;
     if (isOther) {
+        dropped = m_points == m_appliedPoints ? 0 : m_points.size();
         m_points.clear();
         m_before.clear();
     }
     m_width = width;
     if (m_points.isEmpty() && m_before.isEmpty())
         m_frame = frame;
+    return dropped;
 }
 
 void CalibrationModel::SetLamps(const QVector<Lamp> &lamps)
@@ -189,8 +192,9 @@ bool CalibrationModel::Apply()
         return false;
     m_applied = m_fit;
     m_appliedPoints = m_points;
-    StoreCalibration({m_points, m_degree, m_width, m_frame}, m_stored);
-    m_target->SetCalibration(m_fit.calibration, m_frame);
+    const QString camera = m_frame.IsOfFile() ? QString() : m_target->Camera();
+    StoreCalibration({m_points, m_degree, m_width, m_frame, camera}, m_stored);
+    m_target->SetCalibration(m_fit.calibration, m_frame, camera);
     if (m_target->Unit() == SpectralUnit::Pixel)
         m_target->SetUnit(SpectralUnit::Nanometre);
     emit signalApplied();

@@ -23,8 +23,9 @@ public:
     ~CalibrationModel() override;
 
     /// The lamp spectrum that lines are picked on, which is on the screen, and 1 where it is saturated; empty when that is
-    /// not known. Points of a spectrum of another width, or of other pixels of the sensor, are forgotten.
-    void SetSpectrum(const std::vector<double> &values, const std::vector<quint8> &saturated = {});
+    /// not known. Points of a spectrum of another width, or of other pixels of the sensor, are forgotten: returns how
+    /// many that were not applied.
+    int SetSpectrum(const std::vector<double> &values, const std::vector<quint8> &saturated = {});
     const std::vector<double> &Values() const { return m_values; }
     const std::vector<SpectralPeak> &Peaks() const { return m_peaks; }
     /// Of the spectrum that the points belong to, pixels.
@@ -80,7 +81,7 @@ private:
     void FitAgain();
     /// The top of the peak there is cut off.
     bool IsSaturated(double pixel) const;
-    void BelongTo(int width, const SpectralFrame &shown);
+    int BelongTo(int width, const SpectralFrame &shown);
     void TakeAssigned(const AssignedLines &lines, int question);
     void Restore();
 

@@ -13,6 +13,7 @@ constexpr char WavelengthKey[] = "nm";
 constexpr char LineKey[] = "line";
 constexpr char SaturatedKey[] = "saturated";
 constexpr char FrameKey[] = "frame"; // along rows, reversed, first, binning, extent of the file, horizontal
+constexpr char CameraKey[] = "camera";
 constexpr int mostPoints = 1000;
 constexpr int widestFrame = 65535;
 
@@ -48,6 +49,7 @@ StoredCalibration LoadCalibration(QSettings &settings)
     calibration.degree = settings.value(DegreeKey).toInt();
     calibration.width = settings.value(WidthKey).toInt();
     calibration.frame = Frame(settings.value(FrameKey).toList(), calibration.width);
+    calibration.camera = settings.value(CameraKey).toString();
     const int count = qMin(settings.beginReadArray(PointsKey), mostPoints);
     for (int i = 0; i < count; ++i) {
         settings.setArrayIndex(i);
@@ -69,6 +71,8 @@ void StoreCalibration(const StoredCalibration &calibration, QSettings *settings)
     settings->setValue(WidthKey, calibration.width);
     if (!calibration.frame.IsNull())
         settings->setValue(FrameKey, Numbers(calibration.frame));
+    if (!calibration.camera.isEmpty())
+        settings->setValue(CameraKey, calibration.camera);
     settings->beginWriteArray(PointsKey, calibration.points.size());
     for (int i = 0; i < calibration.points.size(); ++i) {
         settings->setArrayIndex(i);

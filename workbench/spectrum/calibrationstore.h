@@ -13,6 +13,7 @@ struct StoredCalibration
     int degree = 0;
     int width = 0; ///< of the spectrum, pixels
     SpectralFrame frame; ///< of the spectrum; null when it was not known
+    QString camera; ///< that it was made with; empty when that is not known
 };
 
 /// Empty when none is kept. What it holds comes from outside: whoever uses it fits it anew.

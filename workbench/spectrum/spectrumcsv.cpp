@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spectrumcsv.h"
 
+#include "peakfinder.h"
+
 #include <QStringList>
 
 #include <algorithm>
@@ -81,6 +83,27 @@ void AddCalibration(const ExportedSpectrum &spectrum, QStringList *lines)
                                       + (point.isSaturated ? " saturated" : ""));
 }
 
+/// In the values as they were before they were smoothed, as for the marks of the plot.
+void AddPeaks(const QString &key, const Spectrum &spectrum, const CalibratedAxis &axis, QStringList *lines)
+{
+    const std::vector<double> &values = spectrum.unsmoothed.empty() ? spectrum.values : spectrum.unsmoothed;
+    for (const SpectralPeak &peak : FindPeaks(values, PeakRules(), spectrum.saturated)) {
+        QString text = QString("pixel %1").arg(peak.position, 0, 'f', 2);
+        if (axis.Unit() != SpectralUnit::Pixel)
+            text += QString(" is %1 %2").arg(axis.At(peak.position), 0, 'g', 7).arg(UnitName(axis.Unit()));
+        text += QString(", height %1, width %2 pixels").arg(peak.height, 0, 'g', 5).arg(peak.width, 0, 'f', 2);
+        *lines << Comment(key, peak.isSaturated ? text + ", saturated" : text);
+    }
+}
+
+void AddPeaks(const ExportedSpectrum &spectrum, QStringList *lines)
+{
+    const SpectrumProduct &product = spectrum.product;
+    AddPeaks("peak", product.corrected.Count() > 0 ? product.corrected : product.raw, spectrum.axis, lines);
+    for (size_t track = 0; track < product.tracks.size(); ++track)
+        AddPeaks(QString("peak of track %1").arg(track + 1), product.tracks[track], spectrum.axis, lines);
+}
+
 QVector<Column> ColumnsOf(const SpectrumProduct &product)
 {
     QVector<Column> columns;
@@ -132,6 +155,7 @@ QByteArray SpectrumCsv(const ExportedSpectrum &spectrum)
     QStringList lines;
     AddOrigin(spectrum, &lines);
     AddCalibration(spectrum, &lines);
+    AddPeaks(spectrum, &lines);
     const QVector<Column> columns = ColumnsOf(spectrum.product);
     QStringList names{"pixel", "axis"};
     int count = 0;

@@ -20,8 +20,8 @@ struct ExportedSpectrum
 };
 
 /// As other programs read it: comment lines that begin with "# " and say all that is known (what was binned,
-/// corrections, calibration with its coefficients and lines), one line of column names, then pixel, value on the axis,
+/// corrections, calibration with its coefficients and lines, and each peak between the samples), one line of column names, then pixel, value on the axis,
 /// and of the binned spectrum or of each track the values, with 1 where a pixel was saturated, 0 where none was, and nothing
 /// where that is not known. Numbers have a decimal
-/// point, whatever the language.
+/// point, whatever the language. Looks for the peaks: not in the GUI thread.
 QByteArray SpectrumCsv(const ExportedSpectrum &spectrum);

@@ -41,7 +41,13 @@ public:
     /// Of spectra within `frame`, that of the spectrum it was made with: live ones, or those of files of that size that
     /// say nothing themselves. One that was made live is that of such files as wide as it, too. Null takes it away. Made
     /// on a file with an axis of its own, which is shown, it takes the place of that.
-    void SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame);
+    /// `camera` is the name of the one it was made with, empty when that is not known.
+    void SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame, const QString &camera = QString());
+    /// Of the live picture; empty before there is one.
+    void SetCamera(const QString &name);
+    const QString &Camera() const { return m_camera; }
+    /// The calibration in use on live spectra was made with another camera, for the user; empty otherwise.
+    QString CameraNote() const;
     const SpectralCalibration &Calibration() const { return m_liveAxis.Calibration(); }
     /// Where the samples of the spectrum on the screen lie on the sensor, or in the file of the opened one.
     SpectralFrame ShownFrame() const;
@@ -170,6 +176,7 @@ private:
     bool IsAxisReplaced() const;
     void UpdateLiveSpectrum();
     void TellOfMisfit();
+    void TellOfCamera();
 
     DisplayModeManager *m_ranges;
     CentreDisplay *m_centre;
@@ -181,6 +188,9 @@ private:
     SensorFrame m_sensorFrame;
     CalibratedAxis m_liveAxis;
     QString m_toldMisfit; ///< of m_liveAxis
+    QString m_camera;
+    QString m_calibratedCamera; ///< that the calibration was made with
+    QString m_toldCamera;       ///< as the user was told last
     SpectralPicture m_image;
     CalibratedAxis m_imageAxis;       ///< along the rows of the opened picture, as it is seen
     CalibratedAxis m_imageColumnAxis; ///< along its columns

@@ -2,8 +2,9 @@
 // What pixels mean, live and of opened pictures.
 #include "spectrumsettings.h"
 
-void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame)
+void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame, const QString &camera)
 {
+    m_calibratedCamera = camera;
     m_liveAxis.SetCalibration(calibration, frame);
     m_imageAxis.SetCalibration(calibration, frame);
     m_imageColumnAxis.SetCalibration(calibration, frame);
@@ -13,7 +14,36 @@ void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, co
     m_replaced = replaces ? m_image : SpectralPicture();
     UpdateImageSpectra();
     TellOfMisfit();
+    TellOfCamera();
     AnnounceAxis();
+}
+
+void SpectrumSettings::SetCamera(const QString &name)
+{
+    if (m_camera == name)
+        return;
+    m_camera = name;
+    TellOfCamera();
+}
+
+QString SpectrumSettings::CameraNote() const
+{
+    const bool isOther = !m_camera.isEmpty() && !m_calibratedCamera.isEmpty() && m_camera != m_calibratedCamera;
+    if (!isOther || m_isImageShown || !m_liveAxis.IsCalibrated())
+        return QString();
+    return tr("The calibration was made with the camera %1: calibrate anew if this one does not stand in its place.").arg(m_calibratedCamera);
+}
+
+/// Once, until it is another one.
+void SpectrumSettings::TellOfCamera()
+{
+    const QString note = CameraNote();
+    if (note == m_toldCamera)
+        return;
+    m_toldCamera = note;
+    emit signalUnitChanged(); // the panel says what the unit is worth
+    if (!note.isEmpty())
+        emit signalMessage(note);
 }
 
 bool SpectrumSettings::IsAxisReplaced() const { return m_image.IsOfSameColumns(m_replaced); }
@@ -50,6 +80,7 @@ void SpectrumSettings::UpdateLiveSpectrum()
 {
     m_liveAxis.SetSpectrum(m_recipe.isHorizontal ? m_frameSize.width() : m_frameSize.height(), LiveFrame());
     TellOfMisfit();
+    TellOfCamera();
 }
 
 /// Once, until there is another one.

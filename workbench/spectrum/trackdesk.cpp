@@ -57,7 +57,7 @@ TrackDesk::TrackDesk(SpectrumSettings *settings, QObject *parent)
     , m_settings(settings)
 {
     connect(settings, &SpectrumSettings::signalRecipeChanged, this, &TrackDesk::ShowMarks);
-    connect(settings, &SpectrumSettings::signalTracksDropped, &m_undo, &QUndoStack::clear);
+    connect(settings, &SpectrumSettings::signalTracksDropped, this, &TrackDesk::slotTracksDropped);
     connect(&m_undo, &QUndoStack::indexChanged, this, &TrackDesk::slotStackMoved);
 }
 
@@ -206,6 +206,25 @@ void TrackDesk::slotStackMoved()
     m_isMovingBack = true;
     (m_undo.*std::exchange(m_moveBack, nullptr))();
     m_isMovingBack = false;
+}
+
+/// The stack lets go of what is obsolete where it moves over it: all of it, and back to where it was.
+void TrackDesk::slotTracksDropped()
+{
+    int done = 0;
+    for (int i = 0; i < m_undo.count(); ++i) {
+        auto *step = const_cast<QUndoCommand *>(m_undo.command(i));
+        if (dynamic_cast<Step *>(step))
+            step->setObsolete(true);
+        else if (i < m_undo.index())
+            ++done;
+    }
+    while (m_undo.canUndo())
+        m_undo.undo();
+    while (m_undo.canRedo())
+        m_undo.redo();
+    while (m_undo.index() > done)
+        m_undo.undo();
 }
 
 /// Binning that the user has switched on since stays on, unless tracks are shown.

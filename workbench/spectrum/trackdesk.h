@@ -13,7 +13,7 @@ class SpectrumSettings;
 class TrackMarks;
 
 /// What the user does with tracks: have them found, draw them on the live picture, move, resize and remove them. Each step
-/// can be undone, until the tracks are dropped. The list itself is that of the settings, sorted from the top. GUI thread.
+/// can be undone, until the tracks are dropped; others may put theirs on the stack. The list itself is that of the settings, sorted from the top. GUI thread.
 class TrackDesk : public QObject
 {
     Q_OBJECT
@@ -68,6 +68,8 @@ private:
     /// For a step on the stack; one that is refused, in words, moves the stack `back`.
     void Go(const State &state, StackMove back);
     void slotStackMoved();
+    /// Their steps are no more; those of other things on the stack stay.
+    void slotTracksDropped();
     void slotDragged(const std::vector<RowBand> &tracks, int track);
     void slotMenu(int track, QPoint screenPos);
     void ShowMarks();

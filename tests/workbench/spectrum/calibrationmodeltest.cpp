@@ -39,6 +39,7 @@ private slots:
     void whereItWasMadeIsKept();
     void theDirectionInWhichItWasMadeIsKept();
     void thatItWasMadeOnAFileIsKept();
+    void theCameraItWasMadeWithIsKept();
 
 private:
     std::unique_ptr<CalibrationModel> Model() { return std::make_unique<CalibrationModel>(m_settings.get(), m_stored.get()); }
@@ -426,7 +427,7 @@ void CalibrationModelTest::thatItWasMadeOnAFileIsKept()
     model->AddPoint(PixelOf(hgViolet), hgViolet);
     m_settings->SetImage({1, size, QRect(QPoint(0, 0), size), Orientation(), SpectralAxis(), SpectralAxis()});
     m_settings->slotSetImageShown(true);
-    model->SetSpectrum(HgLamp());
+    QCOMPARE(model->SetSpectrum(HgLamp()), 1);
     QVERIFY(model->Points().isEmpty()); // that one was of a live spectrum
     model->SetDegree(1);
     model->AddPoint(PixelOf(hgBlue), hgBlue);
@@ -442,6 +443,38 @@ void CalibrationModelTest::thatItWasMadeOnAFileIsKept()
     QCOMPARE(again, nm);
     m_settings->slotSetImageShown(false);
     QVERIFY(!m_settings->Calculate(100, again));
+    QCOMPARE(model->SetSpectrum(HgLamp()), 0); // what was applied is not lost
+}
+
+/// It is applied to another one as before, with a word.
+void CalibrationModelTest::theCameraItWasMadeWithIsKept()
+{
+    m_settings->SetSensorFrame({QRect(0, 0, width, 100), 1, Orientation()});
+    m_settings->SetCamera("First");
+    auto model = Model();
+    model->SetSpectrum(HgLamp());
+    model->SetDegree(1);
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->AddPoint(PixelOf(hgGreen), hgGreen);
+    QVERIFY(model->Apply());
+    QCOMPARE(m_settings->CameraNote(), QString());
+
+    m_settings->SetCalibration(SpectralCalibration(), SpectralFrame());
+    model = Model();
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    m_settings->SetCamera("Second");
+    const QString note = "The calibration was made with the camera First: calibrate anew if this one does not stand in its place.";
+    QCOMPARE(m_settings->CameraNote(), note);
+    QCOMPARE(told.value(0).value(0).toString(), note);
+    double nm = 0;
+    QVERIFY(m_settings->Calculate(100, nm));
+    m_settings->SetCamera("First");
+    QCOMPARE(m_settings->CameraNote(), QString());
+    QCOMPARE(told.count(), 1);
+    m_settings->SetCamera("Second");
+    model->SetSpectrum(HgLamp());
+    QVERIFY(model->Apply()); // made with this one
+    QCOMPARE(m_settings->CameraNote(), QString());
 }
 
 GUARDED_TEST_MAIN(CalibrationModelTest)

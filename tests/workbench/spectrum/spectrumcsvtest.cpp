@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calibrationfit.h"
 #include "guardedtest.h"
+#include "madespectra.h"
 #include "spectrumcsv.h"
 
 #include <QLocale>
+#include <QRegularExpression>
+
+#include <cmath>
 
 /// What another program reads of an exported spectrum.
 class SpectrumCsvTest : public GuardedTest
@@ -17,6 +21,7 @@ private slots:
     void tracksStandSideBySide();
     void theAxisOfAFileIsSaid();
     void whatIsNotKnownOfSaturationIsLeftOpen();
+    void eachPeakHasALine();
     void aNameCannotBreakTheHeader();
 };
 
@@ -138,6 +143,46 @@ void SpectrumCsvTest::whatIsNotKnownOfSaturationIsLeftOpen()
     const QStringList lines = Lines(spectrum);
     QVERIFY(lines.filter("# date:").isEmpty()); // nobody knows that either
     QCOMPARE(lines.mid(lines.indexOf("pixel,axis,raw,saturated")), QStringList({"pixel,axis,raw,saturated", "0,0,7,", "1,1,8,", ""}));
+}
+
+/// With its place between the pixels, which no mark on the plot has.
+void SpectrumCsvTest::eachPeakHasALine()
+{
+    constexpr int width = 400;
+    constexpr double sigma = 2;
+    std::vector<double> lamp = NoiseOnly(width, 100, 1, 5);
+    AddLine(&lamp, 100.25, 5000, sigma);
+    AddLine(&lamp, 300.5, 1000, sigma);
+    ExportedSpectrum spectrum;
+    spectrum.product.raw.values = lamp;
+    spectrum.axis.SetSpectrum(width, SpectralFrame());
+    const QStringList plain = Lines(spectrum).filter("# peak:");
+    QCOMPARE(plain.size(), 2);
+    QVERIFY(QRegularExpression("^# peak: pixel 100.2[0-9], height [0-9.]+, width [0-9.]+ pixels$").match(plain[0]).hasMatch());
+
+    QVector<CalibrationPoint> points;
+    points.append({0, 400, "Hg"});
+    points.append({200, 500, "Hg"});
+    spectrum.axis.SetCalibration(FitCalibration(points, 1, width).calibration, SpectralFrame());
+    const QStringList peaks = Lines(spectrum).filter("# peak:");
+    QCOMPARE(peaks.size(), 2);
+    const QRegularExpression form("^# peak: pixel ([0-9.]+) is ([0-9.]+) nm, height ([0-9.]+), width ([0-9.]+) pixels$");
+    const QVector<QPair<double, double>> truth{{100.25, 5000}, {300.5, 1000}};
+    for (int i = 0; i < peaks.size(); ++i) {
+        const QRegularExpressionMatch peak = form.match(peaks[i]);
+        QVERIFY2(peak.hasMatch(), qPrintable(peaks[i]));
+        QVERIFY2(std::abs(peak.captured(1).toDouble() - truth[i].first) < 0.03, qPrintable(peaks[i]));
+        QVERIFY2(std::abs(peak.captured(2).toDouble() - (400 + truth[i].first / 2)) < 0.02, qPrintable(peaks[i]));
+        QVERIFY2(std::abs(peak.captured(3).toDouble() / truth[i].second - 1) < 0.05, qPrintable(peaks[i]));
+        QVERIFY2(std::abs(peak.captured(4).toDouble() / (sigma * 2.3548) - 1) < 0.05, qPrintable(peaks[i]));
+    }
+
+    spectrum.product.raw = Spectrum();
+    spectrum.product.tracks.resize(2);
+    spectrum.product.tracks[0].values = NoiseOnly(width, 100, 1, 6);
+    spectrum.product.tracks[1].values = lamp;
+    QCOMPARE(Lines(spectrum).filter("# peak").size(), 2);
+    QCOMPARE(Lines(spectrum).filter("# peak of track 2: pixel 100.2").size(), 1);
 }
 
 void SpectrumCsvTest::aNameCannotBreakTheHeader()

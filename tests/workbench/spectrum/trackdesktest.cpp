@@ -3,6 +3,7 @@
 #include "guardedtest.h"
 #include "spectrumranges.h"
 #include "spectrumsettings.h"
+#include "takenspectrumstep.h"
 #include "trackdesk.h"
 
 #include <QGraphicsScene>
@@ -28,6 +29,7 @@ private slots:
     void clearedTracksComeBackAsTheyWereShown();
     void aStepThatIsRefusedStaysOnTheStack();
     void tracksThatWereDroppedCannotBeUndone();
+    void otherStepsStayWhenTracksAreDropped();
     void whatChangesNothingIsNoStep();
     void tracksAreAddedWhereThereIsRoom();
     void aTrackThatIsMovedPastAnotherStaysChosen();
@@ -216,6 +218,38 @@ void TrackDeskTest::tracksThatWereDroppedCannotBeUndone()
     QCOMPARE(Rows(), QString());
     QCOMPARE(told.count(), 1);
     QVERIFY(!m_desk->UndoStack()->canUndo() && !m_desk->UndoStack()->canRedo());
+}
+
+/// As a dark spectrum that was taken.
+void TrackDeskTest::otherStepsStayWhenTracksAreDropped()
+{
+    QUndoStack *stack = m_desk->UndoStack();
+    quint64 dark = 0;
+    const auto take = [&](quint64 before, quint64 after) {
+        Spectrum none;
+        none.frameId = before;
+        Spectrum taken;
+        taken.frameId = after;
+        stack->push(new TakenSpectrumStep(QString("Take %1").arg(after), none, taken, [&](const Spectrum &set) { dark = set.frameId; }));
+    };
+    take(0, 1);
+    m_desk->Add();
+    take(1, 2);
+    m_desk->Add();
+    take(2, 3);
+    stack->undo();
+    m_settings->slotSetFrameSize(QSize(1000, 100));
+    QCOMPARE(Rows(), QString());
+    QCOMPARE(dark, quint64(2));
+    QCOMPARE(stack->undoText(), QString("Take 2"));
+    QCOMPARE(stack->redoText(), QString("Take 3"));
+    stack->undo();
+    QCOMPARE(dark, quint64(1));
+    QCOMPARE(stack->undoText(), QString("Take 1"));
+    stack->undo();
+    QCOMPARE(dark, quint64(0));
+    QVERIFY(!stack->canUndo());
+    QCOMPARE(Rows(), QString());
 }
 
 void TrackDeskTest::whatChangesNothingIsNoStep()
