@@ -208,7 +208,7 @@ private slots:
         m_workbench->Action("Focus Assistance")->trigger();
         QTRY_VERIFY_WITH_TIMEOUT(!FocusTexts().isEmpty(), waitMs);
         QVERIFY(Mark("FocusCrossLine"));
-        QCOMPARE(m_workbench->OnScreen(QPointF(300, 1024)), QColor(Qt::green));
+        QTRY_COMPARE(m_workbench->OnScreen(QPointF(300, 1024)), QColor(Qt::green));
         QCOMPARE(FocusTexts().size(), Spectra()->GetAngleList().size());
         const QRegularExpression form(QString::fromUtf8("^[0-9]+\\.[0-9]{2}  -?[0-9]+\\.[0-9]{2}°$"));
         for (const QString &text : FocusTexts())
