@@ -7,8 +7,8 @@
 #include <sanitizer/tsan_interface.h>
 #endif
 
-/// Holds the lock of a payload, if it has one. Qt's own library is not built with the thread sanitizer, which therefore does not see
-/// what its mutexes order; here it is told.
+/// Holds the lock of a payload, if it has one. Qt's own library is not built with the thread sanitizer, which therefore
+/// does not see what its mutexes order; here it is told.
 class PayloadLocker
 {
 public:

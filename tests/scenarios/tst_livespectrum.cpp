@@ -102,7 +102,7 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(Spectra()->Shown().frameSize, QSize(2048, 512), waitMs);
         SpectrumSettings *settings = m_workbench->services.Spectrum();
         settings->SetBottom(2047);
-        QTRY_VERIFY(Mark("FVBLine") && Mark("FVBLine")->shape().contains(QPointF(2047, 5)));
+        QTRY_VERIFY(Band() && Band()->shape().contains(QPointF(2047, 5)));
         Drag(QPointF(0, 200), QPointF(540, 300));
         QTRY_VERIFY(std::abs(settings->GetTop() - 540) <= Reach());
         Drag(QPointF(2045, 200), QPointF(1500, 100));
@@ -142,8 +142,8 @@ private slots:
         m_workbench->Action("Band Found by Itself")->trigger();
         QTRY_VERIFY_WITH_TIMEOUT(Spectra()->Shown().band.bottom - Spectra()->Shown().band.top < 400, waitMs);
         const RowBand found = Spectra()->Shown().band;
-        QTRY_VERIFY(Mark("FVBLine") && Mark("FVBLine")->shape().contains(QPointF(found.top, 5)));
-        QVERIFY(Mark("FVBLine")->shape().contains(QPointF(found.bottom - 1, 500)));
+        QTRY_VERIFY(Band() && Band()->shape().contains(QPointF(found.top, 5)));
+        QVERIFY(Band()->shape().contains(QPointF(found.bottom - 1, 500)));
         SavePicture("columns-found.png");
     }
 
@@ -228,7 +228,7 @@ private slots:
         m_workbench->Action("Focus Assistance")->trigger();
         QTRY_VERIFY_WITH_TIMEOUT(!FocusTexts().isEmpty(), waitMs);
         QVERIFY(Mark("FocusCrossLine"));
-        QCOMPARE(m_workbench->OnScreen(QPointF(300, 1024)), QColor(Qt::green));
+        QTRY_COMPARE(m_workbench->OnScreen(QPointF(300, 1024)), QColor(Qt::green));
         QCOMPARE(FocusTexts().size(), Spectra()->GetAngleList().size());
         const QRegularExpression form(QString::fromUtf8("^[0-9]+\\.[0-9]{2}  -?[0-9]+\\.[0-9]{2}°$"));
         for (const QString &text : FocusTexts())
@@ -361,6 +361,8 @@ private:
         }
         return nullptr;
     }
+
+    const QGraphicsObject *Band() const { return Mark("FVBLine"); }
 
     static std::vector<double> SumsOfColumns(const CameraFrame &frame, int from, int to)
     {

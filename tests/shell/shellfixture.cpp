@@ -45,6 +45,8 @@ void NamedImageManager::ConnectWidthDrawView(QObject *view, bool spectrum)
 {
     connectedViews << view;
     Log("ConnectWidthDrawView", { Text(spectrum) });
+    if (atConnection)
+        atConnection(view);
 }
 
 void NamedImageManager::slotFinishSetBrush() { Log("slotFinishSetBrush"); }

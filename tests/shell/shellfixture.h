@@ -8,6 +8,8 @@
 #include <QMainWindow>
 #include <QVector>
 
+#include <functional>
+
 class CameraStackedWidget;
 class CompareFrame;
 class GlobalUI;
@@ -38,6 +40,8 @@ public:
 
     /// The views handed to ConnectWidthDrawView().
     QVector<QObject *> connectedViews;
+    /// What else is done with each of them then.
+    std::function<void(QObject *)> atConnection;
 
 private:
     void Log(const QString &operation, const QStringList &arguments = {});

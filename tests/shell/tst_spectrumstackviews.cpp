@@ -38,6 +38,7 @@ private slots:
     void liveProfilesAreQueued();
     void wiresOfThePicturesView();
     void openedPictureIsStatic();
+    void openedPictureIsStaticWhenItIsConnected();
 };
 
 void SpectrumStackViewsTest::pictureIsRefittedAfterAResize()
@@ -200,6 +201,28 @@ void SpectrumStackViewsTest::openedPictureIsStatic()
     QSignalSpy fitted(page->GetDrawView(), SIGNAL(SignalImageChange(QSize)));
     page->GetDrawView()->slotPaintStaticPreview(GreyPicture(QSize(601, 10)));
     QCOMPARE(fitted.size(), 0);
+}
+
+/// The picture may show itself at once.
+void SpectrumStackViewsTest::openedPictureIsStaticWhenItIsConnected()
+{
+    ShellServices services;
+    int fits = -1;
+    services.active.atConnection = [&](QObject *object) {
+        auto *view = qobject_cast<SpectrumDrawViewBase *>(object);
+        QWidget *page = view->parentWidget();
+        while (page && !qobject_cast<SpectrumView *>(page))
+            page = page->parentWidget();
+        QVERIFY(page);
+        CallLog::Clear();
+        qobject_cast<SpectrumView *>(page)->SlotDisplayModeUpdate();
+        QSignalSpy fitted(view, SIGNAL(SignalImageChange(QSize)));
+        view->slotPaintStaticPreview(GreyPicture(QSize(601, 10)));
+        fits = fitted.size();
+    };
+    const ImageSpectrumStackedWidget stack(nullptr);
+    QCOMPARE(CallLog::Count("SpectrumUIManager::CalculateImageArea()"), 1);
+    QCOMPARE(fits, 0);
 }
 
 GUARDED_TEST_MAIN(SpectrumStackViewsTest)
