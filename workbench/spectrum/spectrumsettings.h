@@ -150,6 +150,7 @@ private:
     int MostTracks(bool horizontal) const;
     void TellOfTooManyTracks();
     void DropTracks(const QString &reason);
+    void TellOfOtherRows(const SensorFrame &before);
     void AnnounceAxis();
     /// Of what Calculate() gives.
     QString AxisTitle() const;
