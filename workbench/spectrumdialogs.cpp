@@ -132,7 +132,7 @@ void SpectrumDialogs::slotExportPlot()
     AskWhere(tr("Export Plot"), {tr("PNG picture (*.png)"), tr("SVG drawing (*.svg)"), tr("PDF page (*.pdf)")},
              [this, plot](const QString &path) {
                  if (plot)
-                     Write(path, [picture = PlotPicture(plot, FormOf(QFileInfo(path).suffix().toLower()))] { return picture; });
+                     Write(path, PlotPicture(plot, FormOf(QFileInfo(path).suffix().toLower())));
              });
 }
 

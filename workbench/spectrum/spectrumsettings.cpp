@@ -146,6 +146,16 @@ void SpectrumSettings::DropTracks(const QString &reason)
     emit signalMessage(reason);
 }
 
+/// Tracks count the rows of the picture.
+void SpectrumSettings::TellOfOtherRows(const SensorFrame &before)
+{
+    const SpectralFrame rowsBefore = SpectralFrame::Of(before, false);
+    if (m_tracks.isEmpty() || rowsBefore.IsNull() || rowsBefore == SpectralFrame::Of(m_sensorFrame, false))
+        return;
+    emit signalMessage(tr("The picture shows other rows of the sensor now, and the tracks stay where they are in the picture: move them, "
+                          "or have them found again."));
+}
+
 void SpectrumSettings::slotSetFrameSize(QSize size)
 {
     if (m_frameSize == size)

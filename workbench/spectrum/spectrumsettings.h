@@ -160,6 +160,7 @@ private:
     int MostTracks(bool horizontal) const;
     void TellOfTooManyTracks();
     void DropTracks(const QString &reason);
+    void TellOfOtherRows(const SensorFrame &before);
     void AnnounceAxis();
     /// The plot of the camera has one value of each track: it counts these.
     bool IsAcrossTracks() const;

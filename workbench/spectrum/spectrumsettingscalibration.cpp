@@ -2,6 +2,8 @@
 // What pixels mean, live and of opened pictures.
 #include "spectrumsettings.h"
 
+#include <utility>
+
 void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame, const QString &camera)
 {
     m_calibratedCamera = camera;
@@ -70,7 +72,7 @@ void SpectrumSettings::SetSensorFrame(const SensorFrame &frame)
 {
     if (m_sensorFrame == frame)
         return;
-    m_sensorFrame = frame;
+    TellOfOtherRows(std::exchange(m_sensorFrame, frame));
     UpdateLiveSpectrum();
     if (!Calibration().IsNull())
         AnnounceAxis();

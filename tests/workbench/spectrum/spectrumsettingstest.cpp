@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "settingsfixture.h"
+#include "viewcodes.h"
 
 #include <QSignalSpy>
 
@@ -17,6 +18,8 @@ private slots:
     void moreThanTwentyTracksAreForThePlotAlongTheRows();
     void moreThanTwentyTracksAcrossAreForTheOtherPages();
     void aSmallerFrameSwitchesTracksOff();
+    void tracksThatLieOnOtherRowsAreTold_data();
+    void tracksThatLieOnOtherRowsAreTold();
     void tracksAreAsWideAsTheFrame();
     void whatAFileSaysOfItsAreaIsChecked_data();
     void whatAFileSaysOfItsAreaIsChecked();
@@ -164,6 +167,34 @@ void SpectrumSettingsTest::aSmallerFrameSwitchesTracksOff()
     QVERIFY(!m_settings->GetMultiTrackOnFlag());
     QVERIFY(m_settings->GetMultiTrackList().isEmpty());
     QCOMPARE(told.count(), 1);
+}
+
+void SpectrumSettingsTest::tracksThatLieOnOtherRowsAreTold_data()
+{
+    QTest::addColumn<QRect>("region");
+    QTest::addColumn<bool>("isUpsideDown");
+    QTest::addColumn<bool>("isTold");
+    QTest::newRow("the same") << QRect(100, 200, 1000, 500) << false << false;
+    QTest::newRow("other columns") << QRect(300, 200, 1000, 500) << false << false;
+    QTest::newRow("other rows") << QRect(100, 300, 1000, 500) << false << true;
+    QTest::newRow("upside down") << QRect(100, 200, 1000, 500) << true << true;
+}
+
+/// They count the rows of the picture, and fit it as before.
+void SpectrumSettingsTest::tracksThatLieOnOtherRowsAreTold()
+{
+    QFETCH(QRect, region);
+    QFETCH(bool, isUpsideDown);
+    QFETCH(bool, isTold);
+    QVERIFY(m_settings->SetTracks({QRectF(0, 10, 1000, 20)}));
+    QSignalSpy told(m_settings.get(), &SpectrumSettings::signalMessage);
+    m_settings->SetSensorFrame({QRect(100, 200, 1000, 500), 1, Orientation()});
+    QCOMPARE(told.count(), 0); // the first picture
+    m_settings->SetSensorFrame({region, 1, isUpsideDown ? Orientation().After(FlipVertical) : Orientation()});
+    QCOMPARE(told.count(), isTold ? 1 : 0);
+    if (isTold)
+        QVERIFY(told[0][0].toString().startsWith("The picture shows other rows of the sensor now"));
+    QCOMPARE(m_settings->GetMultiTrackList(), QList<QRectF>({QRectF(0, 10, 1000, 20)}));
 }
 
 void SpectrumSettingsTest::tracksAreAsWideAsTheFrame()
