@@ -113,7 +113,8 @@ MainWindow::MainWindow(WorkbenchServices *services, QSettings *settings)
     // The panels find them while the module is built.
     auto *sources = new PanelSources(
         {services->Histogram(), services->Spectrum(), services->Spectra(), services->Tracks(), services->Calibration(),
-         [services] { return services->Desk()->MainPicture()->Profiles()->IsSaturated(services->Spectrum()->IsDirectionHorinzontal()); }},
+         [services] { return services->Desk()->MainPicture()->Profiles()->IsSaturated(services->Spectrum()->IsDirectionHorinzontal()); },
+         services->Peaks()},
         this);
     AddAdjustment(FieldSource::CameraAdjustmentName, services->LivePosition(), SLOT(slotSetMirrorRotate(int)));
     AddAdjustment(FieldSource::ImageAdjustmentName, services->Desk()->MainPicture(), SLOT(slotRotateImage(int)));

@@ -151,7 +151,8 @@ void SpectrumWiring::slotViewSwitched()
 
 void SpectrumWiring::slotShowCurvesAgain()
 {
-    m_parts.preview->slotShowAgain();
+    if (!m_parts.settings->IsImageShown()) // else its pages are hidden
+        m_parts.preview->slotShowAgain();
     m_parts.pipeline->ShowAgain();
     // The 3D page is built when it is shown for the first time, which may be later than this.
     QMetaObject::invokeMethod(this, &SpectrumWiring::TellOfNoTracks, Qt::QueuedConnection);

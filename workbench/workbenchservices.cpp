@@ -140,7 +140,7 @@ void WorkbenchServices::StartSpectrum()
     m_calibration = std::make_unique<CalibrationModel>(m_spectrumSettings.get(), m_settings);
     m_spectrumPipeline = std::make_unique<SpectrumPipeline>([this] { return m_orientation->Get(); });
     m_tracks = std::make_unique<TrackDesk>(m_spectrumSettings.get());
-    m_peakFinding = std::make_unique<PeakFinding>([this] { return &m_spectrumPipeline->Shown(); });
+    m_peakFinding = std::make_unique<PeakFinding>([this] { return &m_spectrumPipeline->Shown(); }, [this] { return m_spectrumSettings->IsImageShown(); });
 }
 
 void WorkbenchServices::StartCamera()

@@ -93,6 +93,7 @@ public:
     SpectrumPipeline *Spectra() const { return m_spectrumPipeline.get(); }
     TrackDesk *Tracks() const { return m_tracks.get(); }
     CalibrationModel *Calibration() const { return m_calibration.get(); }
+    const PeakFinding *Peaks() const { return m_peakFinding.get(); }
 
     /// Waits for the repair of recordings that were cut off, and tells it, when the event loop has ended already.
     void FinishRepair();

@@ -13,6 +13,7 @@
 
 #include <QAction>
 #include <QDoubleSpinBox>
+#include <QRegularExpression>
 
 #include <qcustomplot.h>
 
@@ -104,7 +105,7 @@ private slots:
         QCOMPARE(Plot()->yAxis->label(), QString("Counts")); // without a reference it is these
         m_workbench->Action("Take Reference Spectrum")->trigger();
         QTRY_COMPARE_WITH_TIMEOUT(Plot()->yAxis->label(), QString("Transmission [1/100 %]"), waitMs);
-        QVERIFY(CorrectionsNote().endsWith("transmission in 1/100 %. Values below zero are drawn at zero."));
+        QVERIFY(Note("corrections").endsWith("transmission in 1/100 %. Values below zero are drawn at zero."));
         SavePicture("transmission.png");
         const QString drawing = SpectrumExport(m_workbench.get(), m_folder->path()).Lines("Export Plot…", "plot.svg").join(' ');
         QVERIFY(drawing.contains("Transmission [1/100 %]"));
@@ -113,6 +114,30 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(Plot()->yAxis->label(), QString("Absorbance [1/10000]"), waitMs);
         m_workbench->Action("Find Tracks")->trigger(); // of which there is no reference
         QTRY_COMPARE_WITH_TIMEOUT(Plot()->yAxis->label(), QString("Counts"), waitMs);
+    }
+
+    /// Not all of them are marked, at first.
+    void thePanelTellsHowManyPeaksAreMarked()
+    {
+        QVERIFY(Note("peaks").isEmpty());
+        m_workbench->Action("Curve with Peaks")->trigger();
+        m_workbench->Action("All Rows")->trigger();
+        const QRegularExpression form("^([0-9]+) of ([0-9]+) lines$");
+        QTRY_VERIFY_WITH_TIMEOUT(form.match(Note("peaks")).captured(2).toInt() > 15, waitMs);
+        QCOMPARE(form.match(Note("peaks")).captured(1).toInt(), 10);
+        const PlotStyle before = Settings()->Style();
+        PlotStyle all = before;
+        all.peakNumber = 0;
+        Settings()->SetStyle(all);
+        const auto areAllMarked = [&] {
+            const QRegularExpressionMatch note = form.match(Note("peaks"));
+            return note.captured(1).toInt() > 15 && note.captured(1) == note.captured(2);
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(areAllMarked(), waitMs);
+        OpenFile();
+        QTRY_COMPARE_WITH_TIMEOUT(Note("peaks"), QString("1 of 1 lines"), waitMs);
+        m_workbench->services.Config()->SetCameraView();
+        QTRY_VERIFY_WITH_TIMEOUT(areAllMarked(), waitMs);
     }
 
 private:
@@ -132,10 +157,11 @@ private:
         QTRY_VERIFY(Settings()->IsImageShown());
     }
 
-    static QString CorrectionsNote()
+    /// The line of the panel that tells something; empty without one.
+    static QString Note(const QString &key)
     {
         for (const PanelField &field : FieldSource::Find(FieldSource::SpectrumName)->Fields()) {
-            if (field.key == "corrections")
+            if (field.key == key)
                 return field.value.toString();
         }
         return QString();

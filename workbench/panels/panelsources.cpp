@@ -36,6 +36,7 @@ void PanelSources::AddSpectrum()
 {
     auto *fields = new SpectrumFields(m_parts.spectrum, m_parts.spectra, m_parts.tracks, this);
     fields->SetOpenedSaturation(m_parts.isOpenedSaturated);
+    fields->SetPeaks(m_parts.peaks);
     const ImageManager *picture = GlobalManager::GetInstance()->GetMainImageManager();
     connect(picture, &ImageManager::sglUpdateHorizontalCurve, fields, &SpectrumFields::slotSpectrumShown);
     connect(picture, &ImageManager::sglUpdateVerticalCurve, fields, &SpectrumFields::slotSpectrumShown);

@@ -7,6 +7,7 @@
 
 class CalibrationModel;
 class LiveHistogram;
+class PeakFinding;
 class SpectrumPipeline;
 class SpectrumSettings;
 class TrackDesk;
@@ -27,6 +28,7 @@ public:
         TrackDesk *tracks = nullptr;
         CalibrationModel *calibration = nullptr;
         std::function<bool()> isOpenedSaturated; ///< of the curve of the opened picture
+        const PeakFinding *peaks = nullptr;
     };
 
     explicit PanelSources(const Parts &parts, QObject *parent = nullptr);

@@ -3,6 +3,7 @@
 
 #include "correctionsline.h"
 #include "ledgerline.h"
+#include "peakfinding.h"
 #include "spectrumpipeline.h"
 #include "spectrumsettings.h"
 #include "trackdesk.h"
@@ -17,6 +18,7 @@ constexpr int MostPeaks = 100;
 constexpr double MostBlankPercent = 90;
 
 constexpr int leastMsBetweenMissed = 1000;
+constexpr int msBetweenPeaks = 500;
 
 enum Binning { BinningOff, BinAll, BinFound, BinByHand };
 
@@ -56,6 +58,19 @@ SpectrumFields::SpectrumFields(SpectrumSettings *settings, SpectrumPipeline *spe
     connect(spectra, &SpectrumPipeline::signalMessage, this, &FieldSource::signalFault);
     connect(spectra, &SpectrumPipeline::signalSpectrumShown, this, &SpectrumFields::slotSpectrumShown);
     connect(settings, &SpectrumSettings::signalDisplayModePropertyChange, this, &SpectrumFields::slotSpectrumShown);
+}
+
+/// In noise they are others with every frame.
+void SpectrumFields::SetPeaks(const PeakFinding *peaks)
+{
+    m_peaks = peaks;
+    m_peakNews.setSingleShot(true);
+    m_peakNews.setInterval(msBetweenPeaks);
+    connect(&m_peakNews, &QTimer::timeout, this, &FieldSource::signalChanged);
+    connect(peaks, &PeakFinding::signalCounted, &m_peakNews, [this] {
+        if (!m_peakNews.isActive())
+            m_peakNews.start();
+    });
 }
 
 /// Of what is on the screen.
@@ -235,6 +250,10 @@ void SpectrumFields::AddLook(PanelFields &fields) const
     fields << PanelField::MakeNumber("peakSize", tr("Peak size"), style.peakSize, 2, MostPeakSize, 0, tr(" px"));
     fields << PanelField::MakeNumber("peakNumber", tr("Most peaks"), style.peakNumber, 0, MostPeaks);
     fields.last().zeroText = tr("all");
+    if (m_peaks && m_settings->IsDisplayMode2DPeak()) {
+        fields << PanelField::Make(PanelField::Kind::Note, "peaks", tr("Marked"),
+                                   tr("%1 of %2 lines").arg(m_peaks->Marked()).arg(m_peaks->Found()));
+    }
     fields << ColourField("background", tr("Background"), style.background);
     fields << PanelField::MakeNumber("blank", tr("Free above"), style.blankRatio * 100, 0, MostBlankPercent, 0, tr(" %"));
     fields.last().toolTip = tr("Part of the height that stays free above the highest value.");

@@ -4,9 +4,11 @@
 #include "fieldsource.h"
 
 #include <QElapsedTimer>
+#include <QTimer>
 
 #include <functional>
 
+class PeakFinding;
 class SpectrumPipeline;
 class SpectrumSettings;
 class TrackDesk;
@@ -26,6 +28,9 @@ public:
 
     /// Says whether pixels of the curve of the opened picture are at the end of their range.
     void SetOpenedSaturation(const std::function<bool()> &isSaturated) { m_isOpenedSaturated = isSaturated; }
+
+    /// Tells how many peaks of the curve are marked; `peaks` are borrowed and outlive this object.
+    void SetPeaks(const PeakFinding *peaks);
 
     PanelFields Fields() const override;
     void Set(const QString &key, const QVariant &value) override;
@@ -54,6 +59,8 @@ private:
     SpectrumPipeline *m_spectra;
     TrackDesk *m_tracks;
     std::function<bool()> m_isOpenedSaturated;
+    const PeakFinding *m_peaks = nullptr;
+    QTimer m_peakNews; ///< until the next numbers of peaks are told
     QString m_corrections; ///< the line as it was told last
     int m_samples = 0;     ///< of it; 0 without one
     int m_rows = 0;        ///< of its frame

@@ -23,24 +23,34 @@ const std::vector<double> &SearchedValues(const Spectrum &spectrum)
 
 } // namespace
 
-PeakFinding::PeakFinding(Shown shown, QObject *parent)
+PeakFinding::PeakFinding(Shown shown, std::function<bool()> isImageShown, QObject *parent)
     : AlgSpectrometer(parent)
     , m_shown(std::move(shown))
+    , m_isImageShown(std::move(isImageShown))
 {
 }
 
-std::vector<double> PeakFinding::Uncut(const unsigned int *data, int count) const
+const Spectrum *PeakFinding::Drawn(const unsigned int *data, int count) const
 {
     const SpectrumProduct *product = m_shown ? m_shown() : nullptr;
-    if (product && IsPlotOf(product->corrected, product->corrections.Quantity(), data, count))
-        return SearchedValues(product->corrected);
-    if (product) {
-        for (const Spectrum &track : product->tracks) {
-            if (IsPlotOf(track, SpectrumQuantity::Counts, data, count))
-                return SearchedValues(track);
-        }
+    if (!product)
+        return nullptr;
+    if (IsPlotOf(product->corrected, product->corrections.Quantity(), data, count))
+        return &product->corrected;
+    for (const Spectrum &track : product->tracks) {
+        if (IsPlotOf(track, SpectrumQuantity::Counts, data, count))
+            return &track;
     }
-    return std::vector<double>(data, data + count);
+    return nullptr;
+}
+
+void PeakFinding::Count(size_t found, size_t marked)
+{
+    if (m_found == int(found) && m_marked == int(marked))
+        return;
+    m_found = int(found);
+    m_marked = int(marked);
+    emit signalCounted();
 }
 
 void PeakFinding::Findcurvepeak(unsigned int *data, int count, int peakNumber, std::vector<int> &peaks, int window, float threshold,
@@ -52,11 +62,15 @@ void PeakFinding::Findcurvepeak(unsigned int *data, int count, int peakNumber, s
     PeakRules rules;
     rules.halfWidth = window;
     rules.thousandsPerFalsePeak = double(threshold);
-    std::vector<SpectralPeak> found = FindPeaks(Uncut(data, count), rules);
+    const Spectrum *drawn = Drawn(data, count);
+    std::vector<SpectralPeak> found = FindPeaks(drawn ? SearchedValues(*drawn) : std::vector<double>(data, data + count), rules);
+    const size_t all = found.size();
     std::sort(found.begin(), found.end(), [](const SpectralPeak &a, const SpectralPeak &b) { return a.height > b.height; });
     if (peakNumber > 0)
         found.resize(std::min(found.size(), size_t(peakNumber)));
     for (const SpectralPeak &peak : found)
         peaks.push_back(peak.index);
     std::sort(peaks.begin(), peaks.end());
+    if (!drawn || !m_isImageShown || !m_isImageShown())
+        Count(all, peaks.size());
 }

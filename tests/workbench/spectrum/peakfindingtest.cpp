@@ -4,6 +4,8 @@
 #include "madespectra.h"
 #include "peakfinding.h"
 
+#include <QSignalSpy>
+
 #include <algorithm>
 
 Q_DECLARE_METATYPE(CorrectionSettings)
@@ -70,6 +72,7 @@ CorrectionSettings BaselineRemoved()
 void PeakFindingTest::thePlotTakesPeaksByIndex()
 {
     PeakFinding finding;
+    QSignalSpy counted(&finding, &PeakFinding::signalCounted);
     std::vector<unsigned> data(500, 1000);
     for (size_t i = 0; i < data.size(); ++i)
         data[i] += unsigned(i * 7919 % 5);
@@ -80,8 +83,14 @@ void PeakFindingTest::thePlotTakesPeaksByIndex()
     std::vector<int> peaks = {1, 2, 3};
     finding.Findcurvepeak(data.data(), 500, 2, peaks, window, threshold, 0);
     QCOMPARE(peaks, std::vector<int>({100, 400}));
+    QCOMPARE(finding.Marked(), 2);
+    QCOMPARE(finding.Found(), 3);
+    finding.Findcurvepeak(data.data(), 500, 2, peaks, window, threshold, 0);
+    QCOMPARE(counted.count(), 1);
     finding.Findcurvepeak(data.data(), 500, 0, peaks, window, threshold, 0);
     QCOMPARE(peaks, std::vector<int>({100, 250, 400}));
+    QCOMPARE(finding.Marked(), 3);
+    QCOMPARE(counted.count(), 2);
     finding.Findcurvepeak(nullptr, 500, 2, peaks, window, threshold, 0);
     QVERIFY(peaks.empty());
 }
@@ -157,12 +166,19 @@ void PeakFindingTest::tracksAreSearchedUncut()
 void PeakFindingTest::whatNobodyKnowsIsSearchedAsItIs()
 {
     SpectrumProduct product = Corrected(BaselineRemoved(), 4000, 30, 1);
-    PeakFinding finding([&product] { return &product; });
+    PeakFinding finding([&product] { return &product; }, [] { return true; });
     std::vector<double> row = NoiseOnly(count, 500, 5, 9);
     AddLine(&row, 300, 900, 2);
     const std::vector<int> peaks = PeaksOf(&finding, std::vector<unsigned>(row.begin(), row.end()));
     QCOMPARE(peaks.size(), size_t(1));
     QVERIFY(std::abs(peaks.front() - 300) <= 1);
+    QCOMPARE(finding.Found(), 1);
+
+    // The camera's page, behind that of the opened file, draws its own.
+    AddLine(&product.corrected.values, 700, 4000, 2.5);
+    AddLine(&product.corrected.values, 900, 4000, 2.5);
+    QCOMPARE(PeaksOf(&finding, Plotted(product.corrected, SpectrumQuantity::Counts)).size(), size_t(2));
+    QCOMPARE(finding.Found(), 1);
 }
 
 GUARDED_TEST_MAIN(PeakFindingTest)
