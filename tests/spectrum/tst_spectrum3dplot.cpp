@@ -218,8 +218,8 @@ void TestSpectrum3DPlot::linesInADrawing()
     const int first = drawing.indexOf("1 0 0 C");
     QVERIFY(first > 0);
     const int end = drawing.indexOf(QRegularExpression(".* C"), first + 1);
-    const QStringList widths = drawing.mid(0, first).filter(QRegularExpression("^[0-9.]+ W$"))
-                               + drawing.mid(first, end - first).filter(QRegularExpression("^[0-9.]+ W$"));
+    const QStringList widths = drawing.mid(0, first).filter(QRegularExpression("^[0-9.]+ W$"));
+    QVERIFY(!widths.isEmpty());
     QCOMPARE(widths.last(), QString("3 W"));
     const QString lines = drawing.mid(first, end - first).join('\n');
     QCOMPARE(lines.count(QRegularExpression(" LS\\b")), 2);
