@@ -282,6 +282,7 @@ void SpectrumPipeline::Deliver(SpectrumProduct product)
 void SpectrumPipeline::ShowAgain()
 {
     const std::lock_guard<std::mutex> lock(m_deliveryMutex);
+    m_isAskedAgain = true;
     if (!std::exchange(m_isOnItsWay, true))
         QMetaObject::invokeMethod(this, &SpectrumPipeline::slotAnnounce, Qt::QueuedConnection);
 }
@@ -297,6 +298,7 @@ void SpectrumPipeline::slotAnnounce()
     {
         const std::lock_guard<std::mutex> lock(m_deliveryMutex);
         isNew = std::exchange(m_isNew, false);
+        m_isAskedAgain = false;
         if (isNew)
             m_shown = std::move(m_newest);
     }
@@ -342,8 +344,8 @@ void SpectrumPipeline::AnnounceLines()
 void SpectrumPipeline::slotDelivered()
 {
     const std::lock_guard<std::mutex> lock(m_deliveryMutex);
-    m_isOnItsWay = m_isNew;
-    if (m_isNew)
+    m_isOnItsWay = m_isNew || m_isAskedAgain;
+    if (m_isOnItsWay)
         QMetaObject::invokeMethod(this, &SpectrumPipeline::slotAnnounce, Qt::QueuedConnection);
 }
 

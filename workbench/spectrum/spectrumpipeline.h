@@ -61,7 +61,7 @@ public:
 
     /// The spectrum of the standing frame is made once more: it was turned. Nothing while frames come.
     void MakeStandingAgain();
-    /// The plots get the newest spectrum once more: a page that was hidden has none. Nothing when one is on its way.
+    /// The plots get the newest spectrum once more: a page that was hidden has none. Wishes are met together.
     void ShowAgain();
     /// While a file is on the screen its page is told of no tracks: they are the camera's.
     void SetTracksAnnounced(bool announced) { m_areTracksAnnounced = announced; }
@@ -128,6 +128,7 @@ private:
     std::mutex m_deliveryMutex; ///< of the next ones
     SpectrumProduct m_newest;
     bool m_isNew = false;
+    bool m_isAskedAgain = false; ///< ShowAgain(), since the last announcement
     bool m_isOnItsWay = false;
 
     SpectrumEngine m_engine; ///< of the thread

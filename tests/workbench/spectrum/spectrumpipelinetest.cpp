@@ -25,6 +25,7 @@ private slots:
     void withoutLightNothingNewIsTold();
     void tracksLieOneBehindTheOther();
     void whatWasShownIsShownAgain();
+    void aWishDuringAnAnnouncementIsMet();
     void aTurnedPictureIsBinnedAsItIsSeen();
     void aVerticalSpectrumIsAsLongAsThePictureIsHigh();
     void whatIsSwitchedOffIsForgotten();
@@ -201,6 +202,20 @@ void SpectrumPipelineTest::whatWasShownIsShownAgain()
     pipeline.OnFrame(Frame(2));
     QTRY_COMPARE(shown.count(), 2);
     QTRY_COMPARE(plot.times, 3);
+}
+
+/// The plots have drawn the announcement already, but it is not done with.
+void SpectrumPipelineTest::aWishDuringAnAnnouncementIsMet()
+{
+    SpectrumPipeline pipeline;
+    int announced = 0;
+    connect(&pipeline, &SpectrumManager::SignalUpdateFVB, this, [&] {
+        if (++announced == 1)
+            pipeline.ShowAgain();
+    });
+    pipeline.SetRecipe(Binning());
+    pipeline.OnFrame(MadeFrame(1));
+    QTRY_COMPARE(announced, 2);
 }
 
 void SpectrumPipelineTest::aTurnedPictureIsBinnedAsItIsSeen()
