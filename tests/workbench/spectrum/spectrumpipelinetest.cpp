@@ -214,7 +214,7 @@ void SpectrumPipelineTest::aWishDuringAnAnnouncementIsMet()
             pipeline.ShowAgain();
     });
     pipeline.SetRecipe(Binning());
-    pipeline.OnFrame(MadeFrame(1));
+    pipeline.OnFrame(Frame(1));
     QTRY_COMPARE(announced, 2);
 }
 
