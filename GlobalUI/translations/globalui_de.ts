@@ -601,6 +601,10 @@
         <source>There are no tracks to show: draw them on the picture or have them found.</source>
         <translation>Es gibt keine Spuren zu zeigen: Spuren ins Bild zeichnen oder suchen lassen.</translation>
     </message>
+    <message>
+        <source>The tracks are switched off.</source>
+        <translation>Die Spuren sind ausgeschaltet.</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumView</name>

@@ -359,6 +359,10 @@
         <source>%1 Left out: peaks broader or narrower than a line: %2, two lines in one: %3, off the curve: %4.</source>
         <translation>%1 Ausgelassen: breiter oder schmaler als eine Linie: %2, zwei Linien in einer: %3, neben der Kurve: %4.</translation>
     </message>
+    <message>
+        <source>This spectrum has other pixels than the one before: its %1 lines, which were not applied, are gone.</source>
+        <translation>Dieses Spektrum hat andere Pixel als das vorige: dessen %1 Linien, die nicht übernommen waren, sind weg.</translation>
+    </message>
 </context>
 <context>
     <name>CalibrationFit</name>
@@ -860,6 +864,10 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>There is no spectrum yet.</source>
         <translation>Es gibt noch kein Spektrum.</translation>
+    </message>
+    <message>
+        <source>%1 Values below zero are drawn at zero.</source>
+        <translation>%1 Werte unter null werden bei null gezeichnet.</translation>
     </message>
 </context>
 <context>
@@ -1641,6 +1649,13 @@ Im Menü Kamera eine wählen.</translation>
     <message>
         <source>No picture is open that could be saved.</source>
         <translation>Es ist kein Bild offen, das gespeichert werden könnte.</translation>
+    </message>
+</context>
+<context>
+    <name>OpenedTracksNotice</name>
+    <message>
+        <source>An opened file has no tracks: go to the camera.</source>
+        <translation>Eine geöffnete Datei hat keine Spuren: Wechseln Sie zur Kamera.</translation>
     </message>
 </context>
 <context>
@@ -3188,6 +3203,17 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
 </context>
 <context>
+    <name>SpeCalibration</name>
+    <message>
+        <source>its calibration is in a unit that is not known (“%1”, code %2) and is left out</source>
+        <translation>ihre Kalibrierung hat eine unbekannte Einheit („%1“, Nummer %2) und wird weggelassen</translation>
+    </message>
+    <message>
+        <source>its calibration is a polynomial of degree %1, where 1 to %2 are possible, and is left out</source>
+        <translation>ihre Kalibrierung ist ein Polynom vom Grad %1, möglich sind 1 bis %2, und wird weggelassen</translation>
+    </message>
+</context>
+<context>
     <name>SpeFooter</name>
     <message>
         <source>its list of wavelengths does not fit its columns and is left out</source>
@@ -3252,6 +3278,14 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>its calibration does not rise or fall steadily (it turns at pixel %1) and is left out</source>
         <translation>die Kalibrierung steigt oder fällt nicht stetig (sie kehrt bei Pixel %1 um) und wird weggelassen</translation>
     </message>
+    <message>
+        <source>its header has room for %1 of them</source>
+        <translation>ihr Kopf hat nur Platz für %1 davon</translation>
+    </message>
+    <message>
+        <source>its frames were turned or mirrored after they had been read out</source>
+        <translation>ihre Bilder wurden nach dem Auslesen gedreht oder gespiegelt</translation>
+    </message>
 </context>
 <context>
     <name>SpePictureFile</name>
@@ -3280,8 +3314,27 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <translation>das Bild %1 von %2 ist nicht vollständig</translation>
     </message>
     <message>
-        <source>“%1”: its %2 regions are shown as one picture, with the filler rows that lie between them.</source>
-        <translation>„%1“: Die %2 Bereiche werden als ein Bild gezeigt, mit den Füllzeilen dazwischen.</translation>
+        <source>“%1”: its %2 regions are shown as one picture, with the filler that lies between them, as %3.</source>
+        <translation>„%1“: Die %2 Bereiche werden als ein Bild gezeigt, mit dem Füller zwischen ihnen, denn %3.</translation>
+    </message>
+</context>
+<context>
+    <name>SpeRegions</name>
+    <message>
+        <source>what it says of region %1 makes no sense</source>
+        <translation>was sie über Bereich %1 sagt, ergibt keinen Sinn</translation>
+    </message>
+    <message>
+        <source>it says that regions %1 and %2 overlap</source>
+        <translation>nach ihren Angaben überlappen sich die Bereiche %1 und %2</translation>
+    </message>
+    <message>
+        <source>they neither fill its frames of %1 x %2 pixels nor lie in them as on the sensor</source>
+        <translation>sie füllen ihre Bilder von %1 x %2 Pixeln nicht und liegen darin auch nicht wie auf dem Sensor</translation>
+    </message>
+    <message>
+        <source>they may lie in the order of their numbers or in that of the sensor</source>
+        <translation>sie können in der Reihenfolge ihrer Nummern oder in der des Sensors liegen</translation>
     </message>
 </context>
 <context>
@@ -3289,6 +3342,10 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>its calibration is damaged and is left out</source>
         <translation>die Kalibrierung ist beschädigt und wird weggelassen</translation>
+    </message>
+    <message>
+        <source>its calibration is that of “%1” (SPECSIDE), which are neither columns nor rows, and is left out</source>
+        <translation>ihre Kalibrierung ist die von „%1“ (SPECSIDE), weder Spalten noch Zeilen, und wird weggelassen</translation>
     </message>
 </context>
 <context>
@@ -3535,6 +3592,10 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>“%1” was saved.</source>
         <translation>„%1“ wurde gespeichert.</translation>
+    </message>
+    <message>
+        <source>“%1” was not saved: there is not enough memory to draw the plot. Close opened pictures or other programs, and export it again.</source>
+        <translation>„%1“ wurde nicht gespeichert: Der Speicher reicht nicht, um das Diagramm zu zeichnen. Schließen Sie geöffnete Bilder oder andere Programme und exportieren Sie es noch einmal.</translation>
     </message>
 </context>
 <context>
@@ -3879,6 +3940,18 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
         <source>Lengthen the exposure, or bin fewer rows, to have a spectrum of every frame.</source>
         <translation>Länger belichten oder weniger Zeilen binnen, um von jedem Bild ein Spektrum zu haben.</translation>
     </message>
+    <message>
+        <source>Calibration</source>
+        <translation>Kalibrierung</translation>
+    </message>
+    <message>
+        <source>Marked</source>
+        <translation>Markiert</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines</source>
+        <translation>%1 von %2 Linien</translation>
+    </message>
 </context>
 <context>
     <name>SpectrumMenu</name>
@@ -3954,6 +4027,18 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>%1, by the calibration in use</source>
         <translation>%1, nach der geltenden Kalibrierung</translation>
+    </message>
+    <message>
+        <source>The picture shows other rows of the sensor now, and the tracks stay where they are in the picture: move them, or have them found again.</source>
+        <translation>Das Bild zeigt jetzt andere Zeilen des Sensors, und die Spuren bleiben, wo sie im Bild sind: Verschieben Sie sie oder lassen Sie sie neu finden.</translation>
+    </message>
+    <message>
+        <source>The calibration was made with the camera %1: calibrate anew if this one does not stand in its place.</source>
+        <translation>Die Kalibrierung wurde mit der Kamera %1 gemacht: Kalibrieren Sie neu, wenn diese nicht an deren Stelle steht.</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Spur</translation>
     </message>
 </context>
 <context>
@@ -4100,6 +4185,10 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     </message>
     <message>
         <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>table</source>
         <translation>Tabelle</translation>
     </message>
 </context>
@@ -4351,6 +4440,17 @@ Weitere Ordner kann die Variable GLOBALUI_PLUGIN_PATH nennen.</translation>
     <message>
         <source>Closing loses what was done.</source>
         <translation>Beim Schließen geht verloren, was getan wurde.</translation>
+    </message>
+</context>
+<context>
+    <name>ValueAxis</name>
+    <message>
+        <source>Transmission [1/100 %]</source>
+        <translation>Transmission [1/100 %]</translation>
+    </message>
+    <message>
+        <source>Absorbance [1/10000]</source>
+        <translation>Absorbanz [1/10000]</translation>
     </message>
 </context>
 <context>
