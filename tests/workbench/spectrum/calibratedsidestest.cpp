@@ -1,25 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calibrationfit.h"
-#include "centredisplay.h"
-#include "guardedtest.h"
-#include "spectrumranges.h"
-#include "spectrumsettings.h"
-
-#include <QSettings>
-#include <QTemporaryDir>
+#include "settingsfixture.h"
 
 #include <cmath>
 
 Q_DECLARE_METATYPE(SensorFrame)
 
 /// Spectra along the rows and along the columns, and which of the two a calibration is that of.
-class CalibratedSidesTest : public GuardedTest
+class CalibratedSidesTest : public SettingsFixture
 {
     Q_OBJECT
 
 private slots:
-    void init() override;
-    void cleanup() override;
     void theAxisOfTheRowsOfAFileIsThatOfSpectraAlongItsColumns();
     void theOtherSideOfAFileWithAnAxisIsNotAssumedToBeOurs();
     void oursTakesThePlaceOfAnAxisOfTheRowsToo();
@@ -31,12 +23,6 @@ private slots:
 private:
     /// What is shown of the sensor from now on.
     void Show(const SensorFrame &frame);
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<QSettings> m_stored;
-    std::unique_ptr<SpectrumRanges> m_ranges;
-    std::unique_ptr<CentreDisplay> m_centre;
-    std::unique_ptr<SpectrumSettings> m_settings;
 };
 
 namespace {
@@ -69,25 +55,6 @@ SpectralCalibration Straight()
 }
 
 } // namespace
-
-void CalibratedSidesTest::init()
-{
-    StartGuard();
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_stored = std::make_unique<QSettings>(m_folder->filePath("settings.ini"), QSettings::IniFormat);
-    m_ranges = std::make_unique<SpectrumRanges>();
-    m_centre = std::make_unique<CentreDisplay>(m_stored.get());
-    m_settings = std::make_unique<SpectrumSettings>(m_ranges.get(), m_centre.get());
-    m_settings->slotSetFrameSize(QSize(1000, 500));
-}
-
-void CalibratedSidesTest::cleanup()
-{
-    m_settings.reset();
-    m_centre.reset();
-    m_ranges.reset();
-    EndGuard();
-}
 
 void CalibratedSidesTest::Show(const SensorFrame &frame)
 {

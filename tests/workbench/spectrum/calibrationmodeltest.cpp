@@ -1,25 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "calibrationmodel.h"
-#include "centredisplay.h"
-#include "guardedtest.h"
 #include "madespectra.h"
-#include "spectrumranges.h"
-#include "spectrumsettings.h"
+#include "settingsfixture.h"
 
-#include <QSettings>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
 #include <cmath>
 
 /// A calibration is made, applied and kept.
-class CalibrationModelTest : public GuardedTest
+class CalibrationModelTest : public SettingsFixture
 {
     Q_OBJECT
 
 private slots:
     void init() override;
-    void cleanup() override;
     void aPickSnapsToThePeakAndTheListedLine();
     void aPointOnASaturatedPeakIsMarkedAndStaysSo();
     void nothingNearIsTakenAsItIs();
@@ -43,12 +37,6 @@ private slots:
 
 private:
     std::unique_ptr<CalibrationModel> Model() { return std::make_unique<CalibrationModel>(m_settings.get(), m_stored.get()); }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<QSettings> m_stored;
-    std::unique_ptr<SpectrumRanges> m_ranges;
-    std::unique_ptr<CentreDisplay> m_centre;
-    std::unique_ptr<SpectrumSettings> m_settings;
 };
 
 namespace {
@@ -75,23 +63,8 @@ std::vector<double> HgLamp()
 
 void CalibrationModelTest::init()
 {
-    StartGuard();
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_stored = std::make_unique<QSettings>(m_folder->filePath("settings.ini"), QSettings::IniFormat);
-    m_ranges = std::make_unique<SpectrumRanges>();
-    m_centre = std::make_unique<CentreDisplay>(m_stored.get());
-    m_settings = std::make_unique<SpectrumSettings>(m_ranges.get(), m_centre.get());
+    SettingsFixture::init();
     m_settings->slotSetFrameSize(QSize(width, 100));
-}
-
-void CalibrationModelTest::cleanup()
-{
-    m_settings.reset();
-    m_centre.reset();
-    m_ranges.reset();
-    m_stored.reset(); // writes its file, so before the folder goes
-    m_folder.reset();
-    EndGuard();
 }
 
 void CalibrationModelTest::aPickSnapsToThePeakAndTheListedLine()

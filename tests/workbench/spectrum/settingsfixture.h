@@ -11,7 +11,7 @@
 
 #include <memory>
 
-/// Base of the tests of SpectrumSettings: for each test function new ones, with a live picture of 1000 x 500 pixels.
+/// Base of the tests of SpectrumSettings, and of what changes them: for each test function new ones, with a live picture of 1000 x 500 pixels.
 class SettingsFixture : public GuardedTest
 {
 protected:
@@ -31,6 +31,8 @@ protected:
         m_settings.reset();
         m_centre.reset();
         m_ranges.reset();
+        m_stored.reset(); // writes its file, so before the folder goes
+        m_folder.reset();
         EndGuard();
     }
 

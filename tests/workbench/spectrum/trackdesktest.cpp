@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "centredisplay.h"
-#include "guardedtest.h"
-#include "spectrumranges.h"
-#include "spectrumsettings.h"
+#include "settingsfixture.h"
 #include "takenspectrumstep.h"
 #include "trackdesk.h"
 
@@ -10,14 +7,10 @@
 #include <QGraphicsView>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QSettings>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-
-#include <memory>
 
 /// Steps with tracks, and their undoing.
-class TrackDeskTest : public GuardedTest
+class TrackDeskTest : public SettingsFixture
 {
     Q_OBJECT
 
@@ -50,11 +43,6 @@ private:
     /// What the list is now: first and last row of each track.
     QString Rows() const;
 
-    std::unique_ptr<QTemporaryDir> m_folder;
-    std::unique_ptr<QSettings> m_stored;
-    std::unique_ptr<SpectrumRanges> m_ranges;
-    std::unique_ptr<CentreDisplay> m_centre;
-    std::unique_ptr<SpectrumSettings> m_settings;
     std::unique_ptr<TrackDesk> m_desk;
     std::unique_ptr<QGraphicsScene> m_scene;
     std::unique_ptr<QGraphicsView> m_view;
@@ -69,12 +57,7 @@ constexpr int column = 300; ///< where the mouse is
 
 void TrackDeskTest::init()
 {
-    StartGuard();
-    m_folder = std::make_unique<QTemporaryDir>();
-    m_stored = std::make_unique<QSettings>(m_folder->filePath("settings.ini"), QSettings::IniFormat);
-    m_ranges = std::make_unique<SpectrumRanges>();
-    m_centre = std::make_unique<CentreDisplay>(m_stored.get());
-    m_settings = std::make_unique<SpectrumSettings>(m_ranges.get(), m_centre.get());
+    SettingsFixture::init();
     m_desk = std::make_unique<TrackDesk>(m_settings.get());
     m_settings->slotSetFrameSize(Picture);
     m_desk->slotPictureSize(Picture);
@@ -85,12 +68,7 @@ void TrackDeskTest::cleanup()
     m_view.reset();
     m_desk.reset();
     m_scene.reset();
-    m_settings.reset();
-    m_centre.reset();
-    m_ranges.reset();
-    m_stored.reset(); // writes its file, so before the folder goes
-    m_folder.reset();
-    EndGuard();
+    SettingsFixture::cleanup();
 }
 
 void TrackDeskTest::ShowPicture()
