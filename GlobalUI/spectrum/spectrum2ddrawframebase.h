@@ -83,6 +83,7 @@ private:
     void ClearCurve();
     /// The values of one column across the tracks.
     void DrawColumn(const unsigned int *tracks, int trackCount);
+    double FactorOfImageCurves() const;
     void DrawImageCurve(const int *data, int size, int count);
     void FindPeaks(const unsigned int *data, int count);
     void FindPeaks(const int *data, int count);

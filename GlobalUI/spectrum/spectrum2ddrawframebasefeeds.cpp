@@ -33,14 +33,6 @@ bool IsShown()
 /// What is wanted, or what the producer says that it has, when it says so.
 int AvailableCount(int wanted, int size) { return size > 0 ? std::min(wanted, size) : wanted; }
 
-double FactorOfImageCurves()
-{
-    const ImageManager *image = GlobalManager::GetInstance()->GetActiveImageManager();
-    const ImageCore *core = image ? image->GetImageCore() : nullptr;
-    const double factor = core ? core->GetCurveFactor() : 1.0;
-    return factor > 0.0 && std::isfinite(factor) ? factor : 1.0;
-}
-
 /// Takes the line that the producer has filled; it stays unwritten until the next exchange.
 const unsigned int *TakeLine(SpectrumLinePayload *payload)
 {
@@ -138,6 +130,17 @@ void Spectrum2DDrawFrameBase::SlotUpdateImageVerticalCurve(int *data, int size, 
 {
     if (!SpectrumUIManager::GetInstance()->IsDirectionHorinzontal())
         DrawImageCurve(data, size, count);
+}
+
+/// Of the image that tells them, which need not be the active one.
+double Spectrum2DDrawFrameBase::FactorOfImageCurves() const
+{
+    const auto *image = qobject_cast<const ImageManager *>(sender());
+    if (!image)
+        image = GlobalManager::GetInstance()->GetActiveImageManager();
+    const ImageCore *core = image ? image->GetImageCore() : nullptr;
+    const double factor = core ? core->GetCurveFactor() : 1.0;
+    return factor > 0.0 && std::isfinite(factor) ? factor : 1.0;
 }
 
 void Spectrum2DDrawFrameBase::DrawImageCurve(const int *data, int size, int count)

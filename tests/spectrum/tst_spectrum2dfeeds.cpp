@@ -63,6 +63,7 @@ private slots:
     void rowAndColumnOfAPicture();
     void samplesBelowZero();
     void samplesThatAreFractions();
+    void curveOfAnImageThatIsNotActive();
     void pictureCurvesOfOddSizes_data();
     void pictureCurvesOfOddSizes();
 };
@@ -411,6 +412,22 @@ void TestSpectrum2DFeeds::samplesThatAreFractions()
     page.services.imageCore.curveFactor = 0.0; // none at all
     page.page->SlotUpdateImageHorizontalCurve(row, 3, 0, 3);
     QCOMPARE(page.DrawnValues(), QVector<double>({ -3000, 1500, 250 }));
+}
+
+/// The user looks at the other one of two compared pictures.
+void TestSpectrum2DFeeds::curveOfAnImageThatIsNotActive()
+{
+    PlotPage page;
+    page.services.imageCore.curveFactor = 1000.0; // of the active one
+    FakeImageCore core;
+    core.curveFactor = 10.0;
+    FakeImageManager image;
+    image.imageCore = &core;
+    QObject::connect(&image, SIGNAL(sglUpdateHorizontalCurve(int *, int, int, int)), page.page.get(),
+                     SLOT(SlotUpdateImageHorizontalCurve(int *, int, int, int)));
+    int row[] = { 10, 20, 5 };
+    emit image.sglUpdateHorizontalCurve(row, 3, 0, 3);
+    QCOMPARE(page.DrawnValues(), QVector<double>({ 1, 2, 0.5 }));
 }
 
 void TestSpectrum2DFeeds::pictureCurvesOfOddSizes_data()
