@@ -22,6 +22,8 @@ public:
 
     int Count() const { return m_x.size(); }
     double Factor() const { return m_factor; }
+    /// The values have no fractions: a factor below 1 only rounds large ones.
+    bool AreWhole() const { return m_factor <= 1.0; }
     /// In the order of the pixels.
     const QVector<double> &X() const { return m_x; }
     const QVector<double> &Values() const { return m_values; }

@@ -113,5 +113,5 @@ void Spectrum2DDrawFrameBase::UpdateTracer()
     if (m_releasePoint.isNull())
         return;
     const double x = m_plot->xAxis->pixelToCoord(m_releasePoint.x());
-    m_tracerLabel->Show(x, m_samples.TracerValue(x), m_samples.Factor() == 1.0);
+    m_tracerLabel->Show(x, m_samples.TracerValue(x), m_samples.AreWhole());
 }

@@ -6,6 +6,14 @@
 
 #include <qcustomplot.h>
 
+#include <cmath>
+
+namespace {
+
+constexpr double mostWritten = 1e15; // a larger number is not known to its last digit
+
+} // namespace
+
 TracerLabel::TracerLabel(QCustomPlot *plot)
     : m_plot(plot)
 {
@@ -14,7 +22,8 @@ TracerLabel::TracerLabel(QCustomPlot *plot)
 QString TracerLabel::Text(double x, double value, bool isWhole)
 {
     const QString position = QString::number(x, 'f', x > 1.0 ? 0 : 6);
-    const QString text = isWhole ? QString::number(value, 'f', 0) : QString::number(value, 'g', 7);
+    const bool isWritten = isWhole && std::abs(value) < mostWritten;
+    const QString text = isWritten ? QString::number(value, 'f', 0) : QString::number(value, 'g', 7);
     return "[" + tr("Pos : ") + position + ", " + tr("Value : ") + text + "]";
 }
 

@@ -16,7 +16,8 @@ class TracerLabel
 public:
     explicit TracerLabel(QCustomPlot *plot);
 
-    /// "[Pos : 1234, Value : 56]"; positions up to 1.0 have six decimals, and values seven digits unless they are whole numbers.
+    /// "[Pos : 1234, Value : 56]"; positions up to 1.0 have six decimals, and values seven digits unless they are whole
+    /// numbers of at most fifteen digits.
     static QString Text(double x, double value, bool isWhole = true);
 
     void Remove();

@@ -188,6 +188,9 @@ void TestCurveSamples::tracerText_data()
     QTest::newRow("above one") << 1.4 << 0.0 << true << "[Pos : 1, Value : 0]";
     QTest::newRow("micrometres") << 0.5321234 << 65535.0 << true << "[Pos : 0.532123, Value : 65535]";
     QTest::newRow("negative") << -3.0 << 1.0 << true << "[Pos : -3.000000, Value : 1]";
+    QTest::newRow("32 bits") << 300.0 << 4294967295.0 << true << "[Pos : 300, Value : 4294967295]";
+    QTest::newRow("fifteen digits") << 300.0 << -999999999999999.0 << true << "[Pos : 300, Value : -999999999999999]";
+    QTest::newRow("more digits than are known") << 300.0 << 3.4e38 << true << "[Pos : 300, Value : 3.4e+38]";
     QTest::newRow("fraction") << 300.0 << 1.2345678 << false << "[Pos : 300, Value : 1.234568]";
     QTest::newRow("fraction below zero") << 300.0 << -3.0 << false << "[Pos : 300, Value : -3]";
 }

@@ -32,6 +32,7 @@ private slots:
     void moveWithoutPress();
     void tracerAtTheClick_data();
     void tracerAtTheClick();
+    void tracerOfLargeWholeNumbers();
     void tracerStaysAtItsPixel();
     void tracerStandsWhereItStoodBeforeTheAxisMoves();
     void noTracerBeforeTheFirstClick();
@@ -183,6 +184,21 @@ void TestSpectrum2DMouse::tracerAtTheClick()
     QCOMPARE(tracer->style(), QCPItemTracer::tsCrosshair);
     QCOMPARE(tracer->pen(), QPen(Qt::red, size(2)));
     QCOMPARE(tracer->size(), double(size(40)));
+}
+
+/// Which are told in hundreds, as an int holds no more.
+void TestSpectrum2DMouse::tracerOfLargeWholeNumbers()
+{
+    PlotPage page;
+    QVERIFY(page.Show());
+    page.services.imageCore.curveFactor = 0.01;
+    std::vector<int> row(100, 42949673);
+    page.page->SlotUpdateImageHorizontalCurve(row.data(), 100, 0, 100);
+    page.plot->replot();
+    Click(page, page.PixelOf(20));
+    QCOMPARE(page.Items<QCPItemText>().size(), 1);
+    const QString label = page.Items<QCPItemText>().first()->text();
+    QVERIFY2(label.endsWith(", Value : 4294967300]"), qPrintable(label));
 }
 
 void TestSpectrum2DMouse::tracerStaysAtItsPixel()
