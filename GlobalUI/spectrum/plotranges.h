@@ -11,7 +11,8 @@ double UpperWithBlank(double upper, double blankRatio);
 /// that lies below 0 as a whole has that much of its own height free.
 QCPRange WithBlankAbove(double lower, double upper, double blankRatio);
 
-/// The value axis with its ends on whole numbers, its upper end times `factor`. Without room it is the old range.
+/// The value axis with its ends on whole numbers, its upper end times `factor`. Where that comes out at or below the lower end
+/// the old range stays: the axis would turn such a range round and show what lies below the curve, not the curve zoomed in.
 QCPRange ZoomedValueRange(const QCPRange &range, double factor);
 
 /// 5 % of the span, on whole numbers, taken off (or, with a negative sign, added) at each end of the
