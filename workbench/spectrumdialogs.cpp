@@ -19,6 +19,7 @@
 #include <QStandardPaths>
 
 #include <cmath>
+#include <new>
 
 namespace {
 
@@ -34,6 +35,16 @@ QString NoMemoryFor(const QString &path)
     return SpectrumDialogs::tr("\u201c%1\u201d was not saved: there is not enough memory to draw the plot. Close opened pictures or "
                                "other programs, and export it again.")
         .arg(QFileInfo(path).fileName());
+}
+
+/// Empty where memory does not suffice: nothing but the file is lost.
+QByteArray MadeWithinMemory(const std::function<QByteArray()> &make)
+{
+    try {
+        return make();
+    } catch (const std::bad_alloc &) {
+        return {};
+    }
 }
 
 } // namespace
@@ -157,7 +168,7 @@ void SpectrumDialogs::AskWhere(const QString &title, const QStringList &filters,
 void SpectrumDialogs::Write(const QString &path, const std::function<QByteArray()> &make)
 {
     m_writing.start([this, path, make] {
-        const QByteArray content = make();
+        const QByteArray content = MadeWithinMemory(make);
         const QString fault = content.isEmpty() ? NoMemoryFor(path) : WriteWholeFile(path, content);
         QMetaObject::invokeMethod(this, [this, path, fault] { slotWritten(path, fault); }, Qt::QueuedConnection);
     });

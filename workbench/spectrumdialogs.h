@@ -26,6 +26,9 @@ public:
 
     /// The spectrum on the screen, live or of the opened picture; of no samples when there is none.
     ExportedSpectrum Shown() const;
+    /// `make` runs in the background; what it gives is the content of the file. The user is told when that is written, and when it
+    /// is empty or memory does not suffice for it.
+    void Write(const QString &path, const std::function<QByteArray()> &make);
 
 public slots:
     void slotCalibrate();
@@ -42,8 +45,6 @@ private:
     QString SuggestedName() const;
     void AskWhere(const QString &title, const QStringList &filters,
                   const std::function<void(const QString &)> &write);
-    /// `make` runs in the background; what it gives is the content of the file.
-    void Write(const QString &path, const std::function<QByteArray()> &make);
     void slotWritten(const QString &path, const QString &fault);
 
     WorkbenchServices *m_services;

@@ -28,6 +28,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <new>
 
 namespace {
 
@@ -92,6 +93,19 @@ private slots:
         QTRY_VERIFY((shown = Notice()));
         QVERIFY2(shown->text().contains("tracks.svg"), qPrintable(shown->text()));
         QVERIFY(QDir(m_folder->path()).entryList({"*track*"}, QDir::Files).isEmpty());
+        shown->close();
+    }
+
+    /// A long plot as lines, beside a recording: the program goes on.
+    void tooLittleMemoryForAFileIsSaid()
+    {
+        auto *dialogs = m_workbench->window.findChild<SpectrumDialogs *>();
+        dialogs->Write(m_folder->filePath("huge.svg"), []() -> QByteArray { throw std::bad_alloc(); });
+        QMessageBox *shown = nullptr;
+        QTRY_VERIFY((shown = Notice()));
+        QVERIFY2(shown->text().contains(QString::fromUtf8("“huge.svg” was not saved: there is not enough memory")),
+                 qPrintable(shown->text()));
+        QVERIFY(!QFile::exists(m_folder->filePath("huge.svg")));
         shown->close();
     }
 
