@@ -5,6 +5,7 @@
 #include "calibrationmodel.h"
 #include "exportdialog.h"
 #include "faultnotice.h"
+#include "filenametext.h"
 #include "openedpicture.h"
 #include "openedprofiles.h"
 #include "picturedesk.h"
@@ -34,7 +35,7 @@ QString NoMemoryFor(const QString &path)
 {
     return SpectrumDialogs::tr("\u201c%1\u201d was not saved: there is not enough memory to draw the plot. Close opened pictures or "
                                "other programs, and export it again.")
-        .arg(QFileInfo(path).fileName());
+        .arg(FileNameTextOf(path));
 }
 
 /// Empty where memory does not suffice: nothing but the file is lost.
@@ -177,7 +178,7 @@ void SpectrumDialogs::Write(const QString &path, const std::function<QByteArray(
 void SpectrumDialogs::slotWritten(const QString &path, const QString &fault)
 {
     if (fault.isEmpty())
-        emit signalMessage(tr("\u201c%1\u201d was saved.").arg(QFileInfo(path).fileName()));
+        emit signalMessage(tr("\u201c%1\u201d was saved.").arg(FileNameTextOf(path)));
     else
         m_fault->slotShowFault(fault);
 }

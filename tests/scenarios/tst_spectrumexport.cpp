@@ -109,6 +109,21 @@ private slots:
         shown->close();
     }
 
+    /// Messages stay on their lines.
+    void lineBreaksInFileNamesAreMarked()
+    {
+        auto *dialogs = m_workbench->window.findChild<SpectrumDialogs *>();
+        dialogs->Write(m_folder->filePath("two\nlines.csv"), [] { return QByteArray("1,2\n"); });
+        QTRY_COMPARE(m_workbench->StatusText(), QString::fromUtf8("“two⏎lines.csv” was saved."));
+        QVERIFY(QFile::exists(m_folder->filePath("two\nlines.csv")));
+
+        dialogs->Write(m_folder->filePath("no\nmemory.svg"), [] { return QByteArray(); });
+        QMessageBox *shown = nullptr;
+        QTRY_VERIFY((shown = Notice()));
+        QVERIFY2(shown->text().contains(QString::fromUtf8("“no⏎memory.svg” was not saved")), qPrintable(shown->text()));
+        shown->close();
+    }
+
     /// They run along the rows whatever the direction is, and have the axis of those.
     void tracksKeepTheAxisOfTheRows()
     {
