@@ -5,6 +5,7 @@
 #include "openpicture.h"
 #include "picturebench.h"
 #include "spectralmetadata.h"
+#include "tiffbytes.h"
 #include "viewcodes.h"
 
 /// What the columns, or the rows, of a picture mean goes with it into the file it is saved as.
@@ -63,6 +64,32 @@ private slots:
         request.target = Path("mirrored.tif");
         QCOMPARE(SaveError(request), QString());
         QCOMPARE(AxisOf("mirrored.tif").values.value(3), 432.0);
+    }
+
+    /// That of a file's first page means nothing on a page of another size.
+    void thatOfAnotherPageIsLeftOut()
+    {
+        TiffBytes tiff;
+        const quint32 samples = tiff.Append(QByteArray(20 * 4, '\0'));
+        tiff.AppendPage(TiffBytes::GreyPage(10, 4, 8, samples),
+                        "SPECUNIT=nm\nSPECWID=10\nSPECDEG=1\nSPECC0=400\nSPECC1=2\n");
+        tiff.AppendPage(TiffBytes::GreyPage(20, 4, 8, samples));
+        MadePictures::WriteBytes(Path("pages.tif"), tiff.Bytes());
+        SaveRequest request;
+        request.file = { 1, Path("pages.tif") };
+        for (const QString suffix : { "tif", "fits" }) {
+            request.firstFrame = 0;
+            request.edit = PictureEdit().Cropped(QRect(2, 0, 6, 4), QSize(10, 4));
+            request.target = Path("first." + suffix);
+            QCOMPARE(SaveError(request), QString());
+            QCOMPARE(AxisOf("first." + suffix).values, QVector<double>({ 404, 406, 408, 410, 412, 414 }));
+            request.firstFrame = 1;
+            request.edit = PictureEdit().Cropped(QRect(2, 0, 6, 4), QSize(20, 4));
+            request.target = Path("second." + suffix);
+            QCOMPARE(SaveError(request), QString());
+            QCOMPARE(MadePictures::Read(request.target).Width(), 6);
+            QVERIFY(AxisOf("second." + suffix).IsEmpty());
+        }
     }
 
     void thatOfTheRows_data()
