@@ -212,6 +212,9 @@ void SpePictureFileTest::regionsInOneRectangleAreSaid_data()
     QTest::newRow("a name with a place marker")
         << "a%2.spe" << 3
         << "\u201ca%2.spe\u201d: its 3 regions are shown as one picture, with the filler that lies between them, as what it says of region 1 makes no sense.";
+    QTest::newRow("a name of two lines")
+        << "a\nb.spe" << 3
+        << "\u201ca\u23ceb.spe\u201d: its 3 regions are shown as one picture, with the filler that lies between them, as what it says of region 1 makes no sense.";
     QTest::newRow("three")
         << "rectangle.spe" << 3
         << "\u201crectangle.spe\u201d: its 3 regions are shown as one picture, with the filler that lies between them, as what it says of region 1 makes no sense.";
