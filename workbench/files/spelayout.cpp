@@ -98,15 +98,16 @@ void FindRegions(const SpeHeader &header, SpeLayout &layout)
     }
 }
 
-/// Of the columns, or where those have none, of the rows.
+/// Of the columns, or where those have none, of the rows. One in pixels is none.
 SpectralAxis AxisOf(const SpeHeader &header, SpeLayout &layout)
 {
-    const bool isOfRows = header.OfRows().IsValid() && !header.OfColumns().IsValid();
     QString fault;
-    SpectralAxis axis = isOfRows ? header.OfRows().Axis(header.Height(), &fault)
-                                 : header.OfColumns().Axis(header.Width(), &fault);
-    if (isOfRows && !axis.IsEmpty())
-        axis.side = SpectralSide::Rows;
+    SpectralAxis axis = header.OfColumns().Axis(header.Width(), &fault);
+    if (axis.IsEmpty() && fault.isEmpty()) {
+        axis = header.OfRows().Axis(header.Height(), &fault);
+        if (!axis.IsEmpty())
+            axis.side = SpectralSide::Rows;
+    }
     if (!fault.isEmpty())
         layout.Warn(fault);
     return axis;

@@ -235,6 +235,12 @@ void SpeCalibrationTest::theRowsHaveACalibrationToo()
     SpectralAxis axis = Opened(folder, spe)->AxisOf(0);
     QCOMPARE(int(axis.side), int(SpectralSide::Rows));
     QCOMPARE(axis.values, QVector<double>({ 403, 406 }));
+    // One of the columns that counts pixels, or that has no unit, is none.
+    for (const int code : { 0, 1 }) {
+        axis = Opened(folder, SpeBytes(spe).Calibrate(quint8(code), quint8(code), 1, { 0, 1 }))->AxisOf(0);
+        QCOMPARE(int(axis.side), int(SpectralSide::Rows));
+        QCOMPARE(axis.values, QVector<double>({ 403, 406 }));
+    }
     axis = Opened(folder, spe.Calibrate(Nm, Nm, 1, { 500, 1 }))->AxisOf(0);
     QCOMPARE(int(axis.side), int(SpectralSide::Columns));
     QCOMPARE(axis.values.value(0), 501.0);
