@@ -43,10 +43,9 @@ void AddFact(SpeLayout &layout, const QString &key, const QString &value, const 
 
 void AddRegionFacts(const QVector<SpeSensorRegion> &regions, SpeLayout &layout)
 {
-    for (int i = 0; i < regions.size(); ++i) {
-        const QString key = regions.size() == 1 ? QString("Region") : QString("Region%1").arg(i + 1);
-        AddFact(layout, key, regions[i].pixels.isEmpty() ? QString() : regions[i].Text(), "", true);
-    }
+    for (int i = 0; i < regions.size(); ++i)
+        AddFact(layout, SpeRegionKey(i, regions.size()),
+                regions[i].pixels.isEmpty() ? QString() : regions[i].Text(), "", true);
 }
 
 SpeRegion PartOf(const SpeRegion &whole, const QRect &place, const SpeLayout &layout)

@@ -5,6 +5,7 @@
 #include "fitscoordinates.h"
 #include "picturedisplay.h"
 #include "spectralmetadata.h"
+#include "speregions.h"
 
 #include <QCoreApplication>
 
@@ -30,13 +31,26 @@ bool HoldsSamples(PictureFormat format, SampleType type)
     }
 }
 
+/// The places on the sensor hold for whole frames of an SPE file, each for those of its region.
+bool IsOfOtherFrames(const MetadataEntry &entry, const PictureInfo &info, const SaveRequest &request, const QSize &fileSize)
+{
+    if (info.format != PictureFormat::Spe || !IsSpeRegionKey(entry.key))
+        return false;
+    const bool isOfOne = info.kinds > 1 && request.frameCount == 1;
+    return request.edit.FileRegion(fileSize) != QRect(QPoint(), fileSize)
+        || (isOfOne && entry.key != SpeRegionKey(request.firstFrame % info.kinds, info.kinds));
+}
+
 /// But for the calibration, which may be another after the edit.
-QVector<MetadataEntry> MetadataOf(const PictureInfo &info, const PictureEdit &edit)
+QVector<MetadataEntry> MetadataOf(const PictureInfo &info, const SaveRequest &request, const QSize &fileSize)
 {
     QVector<MetadataEntry> metadata = info.format == PictureFormat::Fits
-        ? FitsMetadataOfRegion(info.metadata, info.size, edit.FileRegion(info.size))
+        ? FitsMetadataOfRegion(info.metadata, info.size, request.edit.FileRegion(info.size))
         : info.metadata;
-    metadata.erase(std::remove_if(metadata.begin(), metadata.end(), IsSpectralMetadata), metadata.end());
+    const auto isLeftOut = [&](const MetadataEntry &entry) {
+        return IsSpectralMetadata(entry) || IsOfOtherFrames(entry, info, request, fileSize);
+    };
+    metadata.erase(std::remove_if(metadata.begin(), metadata.end(), isLeftOut), metadata.end());
     return metadata;
 }
 
@@ -108,7 +122,7 @@ bool SaveTask::Begin(PictureAccess &access, const QSize &fileSize)
         options.dpiY = file->Info().dpiY / m_request.edit.PixelsJoined();
         if (m_request.edit.GetOrientation().SwapsSides())
             std::swap(options.dpiX, options.dpiY);
-        options.metadata = MetadataOf(file->Info(), m_request.edit) + CalibrationOf(*file, m_request, fileSize);
+        options.metadata = MetadataOf(file->Info(), m_request, fileSize) + CalibrationOf(*file, m_request, fileSize);
     }
     m_writer = CreatePicture(m_request.target, options, m_error);
     return m_writer != nullptr;
