@@ -120,11 +120,13 @@ QVector<double> Polynomial(const Values &values, int width)
     const int degree = values.value(DegreeKey).toInt();
     if (degree < 1 || degree > MostDegree)
         return {};
+    double coefficients[MostDegree + 1] = {};
+    for (int power = 0; power <= degree; ++power)
+        coefficients[power] = values.value(CoefficientKey + QString::number(power)).toDouble();
     QVector<double> results(width, 0.0);
     for (int pixel = 0; pixel < width; ++pixel) {
         for (int power = degree; power >= 0; --power)
-            results[pixel] =
-                results[pixel] * pixel + values.value(CoefficientKey + QString::number(power)).toDouble();
+            results[pixel] = results[pixel] * pixel + coefficients[power];
     }
     return results;
 }

@@ -4,7 +4,6 @@
 #include "filefault.h"
 
 #include <QCoreApplication>
-#include <QHash>
 #include <QXmlStreamReader>
 
 #include <cmath>
@@ -17,24 +16,11 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(SpeFooter)
 };
 
-/// Things that data blocks refer to by number.
-struct Calibrations
-{
-    QHash<QString, QVector<double>> wavelengths; ///< nm, one for each column of the sensor
-    QHash<QString, SpeSensorRegion> mappings;
-    QHash<QString, double> lasers;
-};
-
-/// The references of the frame and of its regions, until all calibrations were read.
-struct References
-{
-    QStringList ofFrame;
-    QVector<QStringList> ofRegions;
-};
-
+/// Real data blocks refer to two or three calibrations.
 QStringList ReferencesOf(const QXmlStreamAttributes &attributes)
 {
-    return attributes.value("calibrations").toString().split(',', Qt::SkipEmptyParts);
+    constexpr int mostLetters = 1024;
+    return attributes.value("calibrations").left(mostLetters).toString().split(',', Qt::SkipEmptyParts);
 }
 
 /// "nm,nm,…", or "nm,error nm,error …" of which the first of each pair counts.
@@ -78,28 +64,6 @@ QVector<double> ValuesOfRegion(const QVector<double> &ofSensor, const SpeSensorR
     return values;
 }
 
-void ApplyReferences(const References &references, const Calibrations &calibrations, SpeLayout &layout)
-{
-    for (int i = 0; i < layout.regions.size(); ++i) {
-        SpeRegion &region = layout.regions[i];
-        const QStringList ids = references.ofFrame + references.ofRegions[i];
-        SpeSensorRegion mapping;
-        for (const QString &id : ids)
-            mapping = calibrations.mappings.value(id, mapping);
-        if (mapping.pixels.isValid())
-            region.onSensor = mapping;
-        for (const QString &id : ids) {
-            if (!calibrations.wavelengths.contains(id))
-                continue;
-            region.axis.values = ValuesOfRegion(calibrations.wavelengths[id], mapping, region.width);
-            region.axis.unit = region.axis.IsEmpty() ? SpectralUnit::Pixel : SpectralUnit::Nanometre;
-            region.axis.laserNm = calibrations.lasers.value(id);
-            if (region.axis.IsEmpty())
-                layout.Warn(Text::tr("its list of wavelengths does not fit its columns and is left out"));
-        }
-    }
-}
-
 bool ReadPixelFormat(const QString &name, SampleType &type)
 {
     const QHash<QString, SampleType> types = {{"MonochromeUnsigned16", SampleType::U16},
@@ -109,7 +73,8 @@ bool ReadPixelFormat(const QString &name, SampleType &type)
     return types.contains(name);
 }
 
-bool ReadFrameBlock(const QXmlStreamAttributes &attributes, SpeLayout &layout, References &references, FileFault &fault)
+bool ReadFrameBlock(const QXmlStreamAttributes &attributes, SpeLayout &layout, SpeCalibrations &calibrations,
+                    FileFault &fault)
 {
     const QString format = attributes.value("pixelFormat").toString();
     if (!ReadPixelFormat(format, layout.type))
@@ -117,11 +82,12 @@ bool ReadFrameBlock(const QXmlStreamAttributes &attributes, SpeLayout &layout, R
     const qint64 count = attributes.value("count").toLongLong();
     layout.frames = int(qBound(qint64(0), count, qint64(std::numeric_limits<int>::max())));
     layout.frameStride = attributes.value("stride").toLongLong();
-    references.ofFrame = ReferencesOf(attributes);
+    calibrations.ofFrame = ReferencesOf(attributes);
     return true;
 }
 
-void ReadRegionBlock(const QXmlStreamAttributes &attributes, qint64 &offset, SpeLayout &layout, References &references)
+void ReadRegionBlock(const QXmlStreamAttributes &attributes, qint64 &offset, SpeLayout &layout,
+                     SpeCalibrations &calibrations)
 {
     SpeRegion region;
     region.width = attributes.value("width").toInt();
@@ -131,7 +97,7 @@ void ReadRegionBlock(const QXmlStreamAttributes &attributes, qint64 &offset, Spe
     offset = qBound(qint64(-1), attributes.value("stride").toLongLong(), std::numeric_limits<qint64>::max() / 2 - offset)
         + offset;
     layout.regions << region;
-    references.ofRegions << ReferencesOf(attributes);
+    calibrations.ofRegions << ReferencesOf(attributes);
 }
 
 /// Facts of the experiment, by where they stand in it.
@@ -155,13 +121,11 @@ void ReadFact(const QString &path, const QString &text, SpeLayout &layout)
 
 } // namespace
 
-bool ReadSpeFooter(const QByteArray &xml, SpeLayout &layout, FileFault &fault)
+bool ReadSpeFooter(const QByteArray &xml, SpeLayout &layout, SpeCalibrations &calibrations, FileFault &fault)
 {
     constexpr int deepest = 64;
     constexpr int mostRegions = 4096;
     QXmlStreamReader reader(xml);
-    Calibrations calibrations;
-    References references;
     QStringList path;
     QString mappingId;
     QString text; ///< of the innermost element
@@ -174,10 +138,10 @@ bool ReadSpeFooter(const QByteArray &xml, SpeLayout &layout, FileFault &fault)
             text.clear();
             const QString id = attributes.value("id").toString();
             if (path.last() == "DataBlock" && attributes.value("type") == QLatin1String("Frame")) {
-                if (!ReadFrameBlock(attributes, layout, references, fault))
+                if (!ReadFrameBlock(attributes, layout, calibrations, fault))
                     return false;
             } else if (path.last() == "DataBlock" && attributes.value("type") == QLatin1String("Region")) {
-                ReadRegionBlock(attributes, regionOffset, layout, references);
+                ReadRegionBlock(attributes, regionOffset, layout, calibrations);
             } else if (path.last() == "SensorMapping") {
                 calibrations.mappings[id] = ReadMapping(attributes);
             } else if (path.last() == "WavelengthMapping") {
@@ -206,6 +170,28 @@ bool ReadSpeFooter(const QByteArray &xml, SpeLayout &layout, FileFault &fault)
                          DamagedAdvice(), reader.errorString());
     if (layout.regions.isEmpty() || layout.frameStride <= 0)
         return fault.Set(Text::tr("its description (XML at the end) tells of no frames"), DamagedAdvice());
-    ApplyReferences(references, calibrations, layout);
     return true;
+}
+
+void CalibrateRegions(const SpeCalibrations &calibrations, SpeLayout &layout)
+{
+    for (int i = 0; i < layout.regions.size(); ++i) {
+        SpeRegion &region = layout.regions[i];
+        SpeSensorRegion mapping;
+        QString list; // the last one counts
+        for (const QString &id : calibrations.ofFrame + calibrations.ofRegions[i]) {
+            mapping = calibrations.mappings.value(id, mapping);
+            if (calibrations.wavelengths.contains(id))
+                list = id;
+        }
+        if (mapping.pixels.isValid())
+            region.onSensor = mapping;
+        if (list.isEmpty())
+            continue;
+        region.axis.values = ValuesOfRegion(calibrations.wavelengths[list], mapping, region.width);
+        region.axis.unit = region.axis.IsEmpty() ? SpectralUnit::Pixel : SpectralUnit::Nanometre;
+        region.axis.laserNm = calibrations.lasers.value(list);
+        if (region.axis.IsEmpty())
+            layout.Warn(Text::tr("its list of wavelengths does not fit its columns and is left out"));
+    }
 }

@@ -43,10 +43,9 @@ void AddFact(SpeLayout &layout, const QString &key, const QString &value, const 
 
 void AddRegionFacts(const QVector<SpeSensorRegion> &regions, SpeLayout &layout)
 {
-    for (int i = 0; i < regions.size(); ++i) {
-        const QString key = regions.size() == 1 ? QString("Region") : QString("Region%1").arg(i + 1);
-        AddFact(layout, key, regions[i].pixels.isEmpty() ? QString() : regions[i].Text(), "", true);
-    }
+    for (int i = 0; i < regions.size(); ++i)
+        AddFact(layout, SpeRegionKey(i, regions.size()),
+                regions[i].pixels.isEmpty() ? QString() : regions[i].Text(), "", true);
 }
 
 SpeRegion PartOf(const SpeRegion &whole, const QRect &place, const SpeLayout &layout)
@@ -98,15 +97,16 @@ void FindRegions(const SpeHeader &header, SpeLayout &layout)
     }
 }
 
-/// Of the columns, or where those have none, of the rows.
+/// Of the columns, or where those have none, of the rows. One in pixels is none.
 SpectralAxis AxisOf(const SpeHeader &header, SpeLayout &layout)
 {
-    const bool isOfRows = header.OfRows().IsValid() && !header.OfColumns().IsValid();
     QString fault;
-    SpectralAxis axis = isOfRows ? header.OfRows().Axis(header.Height(), &fault)
-                                 : header.OfColumns().Axis(header.Width(), &fault);
-    if (isOfRows && !axis.IsEmpty())
-        axis.side = SpectralSide::Rows;
+    SpectralAxis axis = header.OfColumns().Axis(header.Width(), &fault);
+    if (axis.IsEmpty() && fault.isEmpty()) {
+        axis = header.OfRows().Axis(header.Height(), &fault);
+        if (!axis.IsEmpty())
+            axis.side = SpectralSide::Rows;
+    }
     if (!fault.isEmpty())
         layout.Warn(fault);
     return axis;
@@ -149,43 +149,52 @@ bool IsFooterThere(const QIODevice &file, const SpeHeader &header)
     return offset >= quint64(SpeLayout::headerBytes) && offset < quint64(file.size());
 }
 
-/// The description of an SPE 3 file; one that is gone leaves a plain file readable by its header.
-bool LayoutOfFooter(QIODevice &file, const SpeHeader &header, SpeLayout &layout, FileFault &fault)
+/// Regions of version 2 lie side by side or below each other in one rectangle, those of version 3 follow each other.
+bool CheckRegions(const SpeLayout &layout, qint64 dataBytes, bool doFollow, FileFault &fault)
 {
-    if (IsFooterThere(file, header)) {
-        const quint64 offset = header.FooterOffset();
-        if (file.size() - qint64(offset) > mostFooterBytes)
-            return fault.Set(Text::tr("its description (XML at the end) is larger than any such file needs"), DamagedAdvice());
-        file.seek(qint64(offset));
-        if (!ReadSpeFooter(file.read(mostFooterBytes), layout, fault))
-            return false;
-        QVector<SpeSensorRegion> regions;
-        for (const SpeRegion &region : qAsConst(layout.regions))
-            regions << region.onSensor;
-        AddRegionFacts(regions, layout);
-        return true;
-    }
-    if (header.Width() == 0 || header.Height() == 0)
-        return fault.Set(Text::tr("its description (XML at the end) is missing"), DamagedAdvice());
-    layout.Warn(Text::tr("its description (XML at the end) is missing, and with it the wavelengths"));
-    return LayoutOfHeader(header, layout, fault);
-}
-
-bool CheckRegions(const SpeLayout &layout, qint64 dataBytes, FileFault &fault)
-{
+    qint64 end = 0; // of the regions before
     for (int i = 0; i < layout.regions.size(); ++i) {
         const SpeRegion &region = layout.regions[i];
         const QString name = Text::tr("region %1 of %2").arg(i + 1).arg(layout.regions.size());
         if (region.width <= 0 || region.height <= 0)
             return fault.Set(Text::tr("%1 has a size of %2 x %3 pixels").arg(name).arg(region.width).arg(region.height), DamagedAdvice());
         const qint64 samples = qint64(region.width) * region.height;
-        if (samples > std::numeric_limits<qint64>::max() / 8 || region.offset < 0
+        if (samples > std::numeric_limits<qint64>::max() / 8 || region.offset < end
             || layout.RegionBytes(region) > layout.frameStride - region.offset)
             return fault.Set(Text::tr("%1 does not fit into its frame").arg(name), DamagedAdvice());
         if (region.offset > dataBytes || layout.RegionBytes(region) > dataBytes - region.offset)
             return fault.Set(Text::tr("not even its first frame of %1 x %2 pixels is whole").arg(region.width).arg(region.height),
                              DamagedAdvice());
+        if (doFollow)
+            end = region.offset + layout.RegionBytes(region);
     }
+    return true;
+}
+
+/// The description of an SPE 3 file.
+bool LayoutOfFooter(QIODevice &file, qint64 offset, SpeLayout &layout, FileFault &fault)
+{
+    if (file.size() - offset > mostFooterBytes)
+        return fault.Set(Text::tr("its description (XML at the end) is larger than any such file needs"), DamagedAdvice());
+    file.seek(offset);
+    SpeCalibrations calibrations;
+    if (!ReadSpeFooter(file.read(mostFooterBytes), layout, calibrations, fault)
+        || !CheckRegions(layout, offset - SpeLayout::headerBytes, true, fault))
+        return false;
+    CalibrateRegions(calibrations, layout);
+    QVector<SpeSensorRegion> regions;
+    for (const SpeRegion &region : qAsConst(layout.regions))
+        regions << region.onSensor;
+    AddRegionFacts(regions, layout);
+    return true;
+}
+
+/// An SPE 3 file whose description is gone is still readable by its header when that gives a size.
+bool CheckLostFooter(const SpeHeader &header, SpeLayout &layout, FileFault &fault)
+{
+    if (header.Width() == 0 || header.Height() == 0)
+        return fault.Set(Text::tr("its description (XML at the end) is missing"), DamagedAdvice());
+    layout.Warn(Text::tr("its description (XML at the end) is missing, and with it the wavelengths"));
     return true;
 }
 
@@ -235,13 +244,16 @@ bool ReadSpeLayout(QIODevice &file, SpeLayout &layout, FileFault &fault)
     layout = SpeLayout();
     layout.version = header.Version();
     const bool hasFooter = layout.version >= 3.0 && header.FooterOffset() != 0;
-    ReadFacts(header, layout);
-    if (!(hasFooter ? LayoutOfFooter(file, header, layout, fault) : LayoutOfHeader(header, layout, fault)))
-        return false;
     const bool footerIsThere = hasFooter && IsFooterThere(file, header);
     const qint64 dataEnd = footerIsThere ? qint64(header.FooterOffset()) : file.size();
-    if (!CheckRegions(layout, dataEnd - SpeLayout::headerBytes, fault))
+    ReadFacts(header, layout);
+    if (footerIsThere) {
+        if (!LayoutOfFooter(file, dataEnd, layout, fault))
+            return false;
+    } else if ((hasFooter && !CheckLostFooter(header, layout, fault)) || !LayoutOfHeader(header, layout, fault)
+               || !CheckRegions(layout, dataEnd - SpeLayout::headerBytes, false, fault)) {
         return false;
+    }
     CountFrames(layout, dataEnd - SpeLayout::headerBytes);
     LeaveOutAxesThatTurn(layout);
     return true;

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "spepicturefile.h"
 
+#include "filenametext.h"
 #include "sampleswap.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QtEndian>
 
 namespace {
@@ -47,12 +47,12 @@ void SpePictureFile::FillInfo()
     if (regions > 1)
         info.formatDetail += Text::tr(", %1 regions").arg(regions);
     for (const QString &warning : qAsConst(m_layout.warnings))
-        AddWarning(Text::tr("\u201c%1\u201d: %2. %3").arg(QFileInfo(Path()).fileName(), warning, DamagedAdvice()));
+        AddWarning(Text::tr("\u201c%1\u201d: %2. %3").arg(FileNameTextOf(Path()), warning, DamagedAdvice()));
     if (m_layout.mergedRegions > 1) {
         AddWarning(
             Text::tr(
                 "\u201c%1\u201d: its %2 regions are shown as one picture, with the filler that lies between them, as %3.")
-                .arg(QFileInfo(Path()).fileName(), QString::number(m_layout.mergedRegions),
+                .arg(FileNameTextOf(Path()), QString::number(m_layout.mergedRegions),
                      m_layout.mergedReason));
     }
     if (m_layout.missingFrames > 0) {

@@ -2,6 +2,7 @@
 #include "speregions.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 
 namespace {
 
@@ -84,6 +85,17 @@ QString SpeSensorRegion::Text() const
         .arg(pixels.bottom())
         .arg(binning.width())
         .arg(binning.height());
+}
+
+QString SpeRegionKey(int region, int regions)
+{
+    return regions == 1 ? QString("Region") : QString("Region%1").arg(region + 1);
+}
+
+bool IsSpeRegionKey(const QString &key)
+{
+    static const QRegularExpression pattern("^Region[0-9]*$");
+    return pattern.match(key).hasMatch();
 }
 
 QVector<QRect> PlaceSpeRegions(const QVector<SpeSensorRegion> &regions, const QSize &rectangle,

@@ -17,6 +17,10 @@ struct SpeSensorRegion
     QString Text() const;
 };
 
+/// What a region is called among the facts of a file that has so many.
+QString SpeRegionKey(int region, int regions);
+bool IsSpeRegionKey(const QString &key);
+
 /// Version 2 lays all regions of a frame into one rectangle, and what it has no samples for is filler. Where that is to be
 /// seen from the sizes alone: regions that fill the rectangle lie below each other, others as they do on the sensor.
 /// Empty when it is not; then `reason` says why, as part of a sentence.

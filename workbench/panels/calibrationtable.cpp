@@ -2,9 +2,9 @@
 #include "calibrationtable.h"
 
 #include "calibrationmodel.h"
+#include "filenametext.h"
 #include "wholefile.h"
 
-#include <QFileInfo>
 #include <QLocale>
 
 namespace {
@@ -92,7 +92,7 @@ void CalibrationTable::Save(const QString &path)
 void CalibrationTable::Tell(const QString &path, const QString &fault)
 {
     if (fault.isEmpty())
-        emit signalMessage(tr("“%1” was saved.").arg(QFileInfo(path).fileName()));
+        emit signalMessage(tr("“%1” was saved.").arg(FileNameTextOf(path)));
     else
         emit signalNotSaved(fault);
 }

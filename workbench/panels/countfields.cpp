@@ -2,10 +2,9 @@
 #include "countfields.h"
 
 #include "autocounting.h"
+#include "filenametext.h"
 #include "openedpicture.h"
 #include "picturetrials.h"
-
-#include <QFileInfo>
 
 namespace {
 
@@ -204,7 +203,7 @@ void CountFields::slotEnd()
 void CountFields::slotSaved(QString path, QString error)
 {
     if (error.isEmpty())
-        emit signalMessage(tr("\u201c%1\u201d was saved.").arg(QFileInfo(path).fileName()));
+        emit signalMessage(tr("\u201c%1\u201d was saved.").arg(FileNameTextOf(path)));
     else
         emit signalNotSaved(error);
 }

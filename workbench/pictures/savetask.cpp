@@ -5,6 +5,7 @@
 #include "fitscoordinates.h"
 #include "picturedisplay.h"
 #include "spectralmetadata.h"
+#include "speregions.h"
 
 #include <QCoreApplication>
 
@@ -30,25 +31,32 @@ bool HoldsSamples(PictureFormat format, SampleType type)
     }
 }
 
+/// The places on the sensor hold for whole frames of an SPE file, each for those of its region.
+bool IsOfOtherFrames(const MetadataEntry &entry, const PictureInfo &info, const SaveRequest &request, const QSize &fileSize)
+{
+    if (info.format != PictureFormat::Spe || !IsSpeRegionKey(entry.key))
+        return false;
+    const bool isOfOne = info.kinds > 1 && request.frameCount == 1;
+    return request.edit.FileRegion(fileSize) != QRect(QPoint(), fileSize)
+        || (isOfOne && entry.key != SpeRegionKey(request.firstFrame % info.kinds, info.kinds));
+}
+
 /// But for the calibration, which may be another after the edit.
-QVector<MetadataEntry> MetadataOf(const PictureInfo &info, const PictureEdit &edit)
+QVector<MetadataEntry> MetadataOf(const PictureInfo &info, const SaveRequest &request, const QSize &fileSize)
 {
     QVector<MetadataEntry> metadata = info.format == PictureFormat::Fits
-        ? FitsMetadataOfRegion(info.metadata, info.size, edit.FileRegion(info.size))
+        ? FitsMetadataOfRegion(info.metadata, info.size, request.edit.FileRegion(info.size))
         : info.metadata;
-    metadata.erase(std::remove_if(metadata.begin(), metadata.end(), IsSpectralMetadata), metadata.end());
+    const auto isLeftOut = [&](const MetadataEntry &entry) {
+        return IsSpectralMetadata(entry) || IsOfOtherFrames(entry, info, request, fileSize);
+    };
+    metadata.erase(std::remove_if(metadata.begin(), metadata.end(), isLeftOut), metadata.end());
     return metadata;
 }
 
-/// Of a frame with this axis; frames of one file may differ along it.
-QSize FrameSize(const SpectralAxis &axis, const QSize &first)
-{
-    const int pixels = axis.values.size();
-    return axis.side == SpectralSide::Columns ? QSize(pixels, first.height()) : QSize(first.width(), pixels);
-}
-
-/// What the columns, or rows, of the frames to be saved mean.
-QVector<MetadataEntry> CalibrationOf(const PictureFile &file, const SaveRequest &request)
+/// What the columns, or rows, of the frames to be saved mean. Frames of one file may differ in size: `fileSize` is that
+/// of the first one to be saved.
+QVector<MetadataEntry> CalibrationOf(const PictureFile &file, const SaveRequest &request, const QSize &fileSize)
 {
     if (!request.calibration.isEmpty())
         return request.calibration;
@@ -58,7 +66,7 @@ QVector<MetadataEntry> CalibrationOf(const PictureFile &file, const SaveRequest 
         if (!(file.AxisOf(frame) == ofFile))
             return {};
     }
-    return SpectralMetadata(request.edit.SeenAxis(ofFile, FrameSize(ofFile, file.Info().size)));
+    return SpectralMetadata(request.edit.SeenAxis(ofFile, fileSize));
 }
 
 Picture FromImage(const QImage &image)
@@ -79,10 +87,17 @@ SaveTask::SaveTask(const SaveRequest &request)
 
 bool SaveTask::Step(EditedFrames &frames, PictureDisplay &display)
 {
-    if (!m_writer && !Begin(*frames.Access()))
-        return false;
     Picture frame;
-    if (!Frame(frames, display, frame) || !m_writer->Append(frame, m_error)) {
+    QSize fileSize;
+    if (!Frame(frames, frame, fileSize) || (!m_writer && !Begin(*frames.Access(), fileSize))) {
+        m_writer.reset();
+        return false;
+    }
+    if (!HoldsSamples(FormatOfName(m_request.target), frame.Type())) {
+        const int kind = (m_request.firstFrame + m_framesDone) % m_request.ranges.size();
+        frame = FromImage(display.MakePlain(frame, m_request.ranges[kind]));
+    }
+    if (!m_writer->Append(frame, m_error)) {
         m_writer.reset();
         return false;
     }
@@ -93,7 +108,7 @@ bool SaveTask::Step(EditedFrames &frames, PictureDisplay &display)
     return false;
 }
 
-bool SaveTask::Begin(PictureAccess &access)
+bool SaveTask::Begin(PictureAccess &access, const QSize &fileSize)
 {
     SaveOptions options;
     options.frameCount = m_request.frameCount;
@@ -107,26 +122,21 @@ bool SaveTask::Begin(PictureAccess &access)
         options.dpiY = file->Info().dpiY / m_request.edit.PixelsJoined();
         if (m_request.edit.GetOrientation().SwapsSides())
             std::swap(options.dpiX, options.dpiY);
-        options.metadata = MetadataOf(file->Info(), m_request.edit) + CalibrationOf(*file, m_request);
+        options.metadata = MetadataOf(file->Info(), m_request, fileSize) + CalibrationOf(*file, m_request, fileSize);
     }
     m_writer = CreatePicture(m_request.target, options, m_error);
     return m_writer != nullptr;
 }
 
-bool SaveTask::Frame(EditedFrames &frames, PictureDisplay &display, Picture &frame)
+bool SaveTask::Frame(EditedFrames &frames, Picture &frame, QSize &fileSize)
 {
     if (!m_request.image.isNull()) {
         frame = FromImage(m_request.image);
         return true;
     }
-    const int index = m_request.firstFrame + m_framesDone;
-    QSize fileSize;
     const IsUnwanted isUnwanted = [] { return false; }; // a save that was begun is brought to an end
-    if (!frames.Read(m_request.file, index, m_request.edit, isUnwanted, frame, fileSize, m_error))
-        return false;
-    if (!HoldsSamples(FormatOfName(m_request.target), frame.Type()))
-        frame = FromImage(display.MakePlain(frame, m_request.ranges[index % m_request.ranges.size()]));
-    return true;
+    return frames.Read(m_request.file, m_request.firstFrame + m_framesDone, m_request.edit, isUnwanted, frame, fileSize,
+                       m_error);
 }
 
 QString SavingLossText(PictureFormat format, SampleType type, int channels)

@@ -42,8 +42,9 @@ public:
     const QString &Error() const { return m_error; }
 
 private:
-    bool Begin(PictureAccess &access);
-    bool Frame(EditedFrames &frames, PictureDisplay &display, Picture &frame);
+    /// `fileSize` is that of the first frame in the file.
+    bool Begin(PictureAccess &access, const QSize &fileSize);
+    bool Frame(EditedFrames &frames, Picture &frame, QSize &fileSize);
 
     SaveRequest m_request;
     std::unique_ptr<PictureWriter> m_writer;

@@ -3,6 +3,7 @@
 
 #include "cameralink.h"
 #include "camerasession.h"
+#include "filenametext.h"
 #include "frametee.h"
 #include "liveorientation.h"
 #include "savesettings.h"
@@ -280,7 +281,7 @@ QString RecordingDesk::EndSentence(const RunReceipt &receipt)
         return tr("The recording was discarded.");
     const QString saved = tr("%1 frames saved as %2")
                               .arg(receipt.outcome.counts.saved)
-                              .arg(QFileInfo(receipt.files.first()).fileName());
+                              .arg(FileNameTextOf(receipt.files.first()));
     const quint64 lost = receipt.outcome.counts.Lost();
     const QString sentence = lost == 0 ? tr("%1, none lost.").arg(saved) : tr("%1, %2 LOST.").arg(saved).arg(lost);
     if (receipt.IsWhole() || receipt.outcome.reason.isEmpty())

@@ -5,7 +5,9 @@
 
 #include <cmath>
 
-/// Calibrations of version 2, of every degree and in every unit.
+#include <sys/resource.h>
+
+/// Calibrations of version 2, of every degree and in every unit, and lists of version 3 that nothing belongs to.
 class SpeCalibrationTest : public GuardedTest
 {
     Q_OBJECT
@@ -20,6 +22,7 @@ private slots:
     void whatCannotBeUsedIsSaid_data();
     void whatCannotBeUsedIsSaid();
     void theRowsHaveACalibrationToo();
+    void regionsThatAreNotThereTakeNoMemory();
 };
 
 namespace {
@@ -67,6 +70,14 @@ std::unique_ptr<PictureFile> Opened(const PictureFolder &folder, const SpeBytes 
 bool IsNear(double value, double expected)
 {
     return std::abs(value - expected) <= 1e-12 * std::abs(expected);
+}
+
+/// Of this process so far.
+qint64 PeakKilobytes()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
 }
 
 } // namespace
@@ -224,9 +235,35 @@ void SpeCalibrationTest::theRowsHaveACalibrationToo()
     SpectralAxis axis = Opened(folder, spe)->AxisOf(0);
     QCOMPARE(int(axis.side), int(SpectralSide::Rows));
     QCOMPARE(axis.values, QVector<double>({ 403, 406 }));
+    // One of the columns that counts pixels, or that has no unit, is none.
+    for (const int code : { 0, 1 }) {
+        axis = Opened(folder, SpeBytes(spe).Calibrate(quint8(code), quint8(code), 1, { 0, 1 }))->AxisOf(0);
+        QCOMPARE(int(axis.side), int(SpectralSide::Rows));
+        QCOMPARE(axis.values, QVector<double>({ 403, 406 }));
+    }
     axis = Opened(folder, spe.Calibrate(Nm, Nm, 1, { 500, 1 }))->AxisOf(0);
     QCOMPARE(int(axis.side), int(SpectralSide::Columns));
     QCOMPARE(axis.values.value(0), 501.0);
+}
+
+/// Each of 2000 regions asks for its copy of a list of 100 000 wavelengths: 1.6 GB.
+void SpeCalibrationTest::regionsThatAreNotThereTakeNoMemory()
+{
+    QByteArray list("1");
+    for (int i = 2; i <= 100000; ++i)
+        list += ',' + QByteArray::number(i);
+    const QByteArray region("<DataBlock type=\"Region\" width=\"100000\" height=\"1\" stride=\"200000\" calibrations=\"2\"/>");
+    SpeBytes spe(0, 0, 3, 1, 3.0F);
+    spe.AppendRamp(2).AppendFooter(
+        "<SpeFormat><DataBlock type=\"Frame\" count=\"1\" pixelFormat=\"MonochromeUnsigned16\" stride=\"400000000\" calibrations=\"1\">"
+        + region.repeated(2000) + "</DataBlock><WavelengthMapping id=\"1\"><Wavelength>" + list
+        + "</Wavelength></WavelengthMapping><SensorMapping id=\"2\" width=\"100000\" height=\"1\"/></SpeFormat>");
+    PictureFolder folder;
+    const QString path = folder.Write("many.spe", spe.Bytes());
+    const qint64 before = PeakKilobytes();
+    const QString error = PictureFolder::ErrorOf(path);
+    QVERIFY2(error.contains("not even its first frame of 100000 x 1 pixels is whole"), qPrintable(error));
+    QVERIFY2(PeakKilobytes() - before < 200000, qPrintable(QString::number(PeakKilobytes() - before)));
 }
 
 GUARDED_TEST_MAIN(SpeCalibrationTest)

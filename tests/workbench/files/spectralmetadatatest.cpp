@@ -5,6 +5,7 @@
 #include "spectralmetadata.h"
 
 #include <cmath>
+#include <ctime>
 
 /// A picture's calibration goes with it into its file and comes back.
 class SpectralMetadataTest : public GuardedTest
@@ -14,6 +15,7 @@ class SpectralMetadataTest : public GuardedTest
 private slots:
     void aPolynomialComesBack_data();
     void aPolynomialComesBack();
+    void thatOfAMillionPixelsIsQuick();
     void aListComesBack_data();
     void aListComesBack();
     void theOldOneIsReplaced();
@@ -133,6 +135,24 @@ void SpectralMetadataTest::aPolynomialComesBack()
     for (const int x : {0, 1, 200, 299})
         QVERIFY2(std::abs(axis.values[x] - (400.125 + 0.25 * x - 1e-5 * x * x)) < 1e-9, qPrintable(QString::number(axis.values[x])));
     QVERIFY(Tells(*file, "columns 100 to 399 of the sensor"));
+}
+
+/// As of a line scan's rows; its thumbnail takes the same.
+void SpectralMetadataTest::thatOfAMillionPixelsIsQuick()
+{
+    SpectralRecord record;
+    record.side = SpectralSide::Rows;
+    record.coefficients = { 400, 1e-4, 1e-11, 0, 0, 1e-34 };
+    record.width = 1000000;
+    const QVector<MetadataEntry> entries = SpectralMetadata(record);
+    QString fault;
+    const std::clock_t start = std::clock();
+    const SpectralAxis axis = AxisOfMetadata(entries, QSize(1, record.width), &fault);
+    const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
+    QCOMPARE(axis.values.size(), record.width);
+    // 400 + 50 + 2.5 + 3.125e-6
+    QCOMPARE(axis.values.value(500000), 452.500003125);
+    QVERIFY2(seconds < 0.3, qPrintable(QString::number(seconds)));
 }
 
 void SpectralMetadataTest::aListComesBack_data() { AddFormats(); }

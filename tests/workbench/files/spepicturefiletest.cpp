@@ -212,6 +212,9 @@ void SpePictureFileTest::regionsInOneRectangleAreSaid_data()
     QTest::newRow("a name with a place marker")
         << "a%2.spe" << 3
         << "\u201ca%2.spe\u201d: its 3 regions are shown as one picture, with the filler that lies between them, as what it says of region 1 makes no sense.";
+    QTest::newRow("a name of two lines")
+        << "a\nb.spe" << 3
+        << "\u201ca\u23ceb.spe\u201d: its 3 regions are shown as one picture, with the filler that lies between them, as what it says of region 1 makes no sense.";
     QTest::newRow("three")
         << "rectangle.spe" << 3
         << "\u201crectangle.spe\u201d: its 3 regions are shown as one picture, with the filler that lies between them, as what it says of region 1 makes no sense.";
@@ -301,6 +304,8 @@ void SpePictureFileTest::aWrongFileIsToldInWords_data()
     QTest::newRow("gigantic region") << TwoRegions("width=\"3\"", "width=\"2147483647\"") << "region 1 of 2 does not fit into its frame";
     QTest::newRow("gigantic stride") << TwoRegions("stride=\"18\"", "stride=\"9223372036854775807\"") << "";
     QTest::newRow("stride below nothing") << TwoRegions("stride=\"6\"", "stride=\"-99\"") << "region 2 of 2 does not fit into its frame";
+    QTest::newRow("regions over each other") << TwoRegions("stride=\"6\"", "stride=\"0\"") << "region 2 of 2 does not fit into its frame";
+    QTest::newRow("regions that overlap") << TwoRegions("stride=\"6\"", "stride=\"4\"") << "region 2 of 2 does not fit into its frame";
     QTest::newRow("stride of no number") << TwoRegions("stride=\"18\"", "stride=\"x\"") << "tells of no frames";
     QTest::newRow("samples of another kind") << TwoRegions("Unsigned16", "Complex64") << "its samples (MonochromeComplex64) are of a kind that is not supported";
     QTest::newRow("description is gone") << TwoRegions().left(4120) << "its description (XML at the end) is missing";

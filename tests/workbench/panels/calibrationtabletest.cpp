@@ -95,10 +95,11 @@ private slots:
     {
         AddPoints();
         QVERIFY(m_model->Apply());
-        const QString path = m_folder->filePath("table.csv");
+        const QString path = m_folder->filePath("table\n1.csv");
         QSignalSpy messages(m_table.get(), SIGNAL(signalMessage(QString)));
         m_table->Set("saveTable", path);
         QTRY_COMPARE(messages.count(), 1);
+        QCOMPARE(messages.at(0).at(0).toString(), QString("\u201ctable\u23ce1.csv\u201d was saved."));
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QList<QByteArray> lines = file.readAll().trimmed().split('\n');

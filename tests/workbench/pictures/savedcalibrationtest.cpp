@@ -4,10 +4,15 @@
 #include "loaderanswers.h"
 #include "openpicture.h"
 #include "picturebench.h"
+#include "spebytes.h"
 #include "spectralmetadata.h"
+#include "tiffbytes.h"
 #include "viewcodes.h"
 
-/// What the columns, or the rows, of a picture mean goes with it into the file it is saved as.
+#include <QRegularExpression>
+
+/// What the columns, or the rows, of a picture mean goes with it into the file it is saved as, and where it lies on the
+/// sensor.
 class SavedCalibrationTest : public GuardedTest
 {
     Q_OBJECT
@@ -63,6 +68,61 @@ private slots:
         request.target = Path("mirrored.tif");
         QCOMPARE(SaveError(request), QString());
         QCOMPARE(AxisOf("mirrored.tif").values.value(3), 432.0);
+    }
+
+    /// That of a file's first page means nothing on a page of another size.
+    void thatOfAnotherPageIsLeftOut()
+    {
+        TiffBytes tiff;
+        const quint32 samples = tiff.Append(QByteArray(20 * 4, '\0'));
+        tiff.AppendPage(TiffBytes::GreyPage(10, 4, 8, samples),
+                        "SPECUNIT=nm\nSPECWID=10\nSPECDEG=1\nSPECC0=400\nSPECC1=2\n");
+        tiff.AppendPage(TiffBytes::GreyPage(20, 4, 8, samples));
+        MadePictures::WriteBytes(Path("pages.tif"), tiff.Bytes());
+        SaveRequest request;
+        request.file = { 1, Path("pages.tif") };
+        for (const QString suffix : { "tif", "fits" }) {
+            request.firstFrame = 0;
+            request.edit = PictureEdit().Cropped(QRect(2, 0, 6, 4), QSize(10, 4));
+            request.target = Path("first." + suffix);
+            QCOMPARE(SaveError(request), QString());
+            QCOMPARE(AxisOf("first." + suffix).values, QVector<double>({ 404, 406, 408, 410, 412, 414 }));
+            request.firstFrame = 1;
+            request.edit = PictureEdit().Cropped(QRect(2, 0, 6, 4), QSize(20, 4));
+            request.target = Path("second." + suffix);
+            QCOMPARE(SaveError(request), QString());
+            QCOMPARE(MadePictures::Read(request.target).Width(), 6);
+            QVERIFY(AxisOf("second." + suffix).IsEmpty());
+        }
+    }
+
+    /// Where its region lies on the sensor goes with a whole frame, not with a part or a turned one.
+    void thePlaceOnTheSensor()
+    {
+        SpeBytes spe(0, 0, 3, 1, 3.0F);
+        spe.AppendRamp(6).AppendFooter(
+            "<SpeFormat><DataBlock type=\"Frame\" count=\"1\" pixelFormat=\"MonochromeUnsigned16\" stride=\"12\">"
+            "<DataBlock type=\"Region\" width=\"3\" height=\"1\" stride=\"6\" calibrations=\"1\"/>"
+            "<DataBlock type=\"Region\" width=\"3\" height=\"1\" stride=\"6\" calibrations=\"2\"/></DataBlock>"
+            "<SensorMapping id=\"1\" x=\"1\" y=\"0\" width=\"3\" height=\"1\"/>"
+            "<SensorMapping id=\"2\" x=\"2\" y=\"5\" width=\"3\" height=\"1\"/></SpeFormat>");
+        MadePictures::WriteBytes(Path("regions.spe"), spe.Bytes());
+        SaveRequest request;
+        request.file = { 1, Path("regions.spe") };
+        request.target = Path("saved.tif");
+        request.frameCount = 2;
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(RegionsOf("saved.tif"), QStringList({ "Region1=columns 1 to 3, rows 0 to 0", "Region2=columns 2 to 4, rows 5 to 5" }));
+        request.frameCount = 1;
+        request.firstFrame = 1;
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(RegionsOf("saved.tif"), QStringList("Region2=columns 2 to 4, rows 5 to 5"));
+        request.edit = PictureEdit().Cropped(QRect(1, 0, 2, 1), QSize(3, 1));
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(RegionsOf("saved.tif"), QStringList());
+        request.edit = PictureEdit().Turned(FlipHorizontal);
+        QCOMPARE(SaveError(request), QString());
+        QCOMPARE(RegionsOf("saved.tif"), QStringList());
     }
 
     void thatOfTheRows_data()
@@ -129,6 +189,22 @@ private:
         if (!file)
             qFatal("%s", qPrintable(error));
         return file->AxisOf(0);
+    }
+
+    /// What a saved file says of regions.
+    QStringList RegionsOf(const QString &name) const
+    {
+        QString error;
+        const auto file = OpenPicture(Path(name), error);
+        if (!file)
+            qFatal("%s", qPrintable(error));
+        const QRegularExpression fact("Region[0-9]*=columns [0-9]+ to [0-9]+, rows [0-9]+ to [0-9]+");
+        QStringList found;
+        for (const MetadataEntry &entry : file->Info().metadata) {
+            for (auto matches = fact.globalMatch(entry.value); matches.hasNext();)
+                found << matches.next().captured();
+        }
+        return found;
     }
 
     QString SaveError(const SaveRequest &request) const

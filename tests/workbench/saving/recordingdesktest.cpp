@@ -207,7 +207,8 @@ private slots:
         RecordingSettings settings = m_parts->settings.Get();
         settings.mode = RecordingSettings::Mode::Count;
         settings.frames = 5;
-        const QString path = m_folder->filePath("named.tif");
+        const QString path = m_folder->filePath("na\nmed.tif");
+        QSignalSpy messages(Desk(), SIGNAL(signalMessage(QString)));
         QString error;
         const bool isPrepared = Desk()->Start(settings, path, &error);
         const bool hasBegun = Desk()->Saving()->IsBusy();
@@ -219,6 +220,7 @@ private slots:
         const RunReceipt receipt = Receipt();
         QVERIFY2(receipt.IsWhole(), qPrintable(receipt.Text()));
         QCOMPARE(receipt.files.first(), path);
+        QCOMPARE(messages.last().first().toString(), QString("5 frames saved as na\u23cemed.tif, none lost."));
         QCOMPARE(receipt.facts.exposureUs, 2000.0);
         QCOMPARE(receipt.facts.region, NewRegion);
         QCOMPARE(receipt.stamps.size(), 5);
