@@ -96,6 +96,7 @@ private:
     {
         CameraFrame frame;
         bool isAgain; ///< not a new frame
+        double exposureUs; ///< when it came
     };
 
     void Run();
@@ -120,6 +121,7 @@ private:
     std::deque<Waiting> m_queue;
     std::function<void(SpectrumEngine *)> m_change; ///< what is to be done before the next frame
     double m_exposureUs = 0; ///< of the frames that come
+    double m_newestExposureUs = 0; ///< of the newest frame that came
     bool m_findsTracks = false;
     bool m_isLive = true;
     bool m_isWanted = false;
