@@ -145,15 +145,16 @@ void SpectrumWiring::slotViewSwitched()
     const int view = m_parts.config->GetCurrentView();
     const bool isImage = view == ImageView || view == ImageCompareView;
     m_parts.settings->slotSetImageShown(isImage);
-    m_parts.pipeline->SetTracksAnnounced(!isImage);
+    m_parts.pipeline->SetPlotsSeen(!isImage);
     slotShowCurvesAgain();
 }
 
 void SpectrumWiring::slotShowCurvesAgain()
 {
-    if (!m_parts.settings->IsImageShown()) // else its pages are hidden
+    if (!m_parts.settings->IsImageShown()) { // else its pages are hidden
         m_parts.preview->slotShowAgain();
-    m_parts.pipeline->ShowAgain();
+        m_parts.pipeline->ShowAgain();
+    }
     // The 3D page is built when it is shown for the first time, which may be later than this.
     QMetaObject::invokeMethod(this, &SpectrumWiring::TellOfNoTracks, Qt::QueuedConnection);
 }

@@ -329,9 +329,11 @@ void SpectrumPipeline::AnnounceMeaning()
 /// The plots exchange the buffers in events of their own, which run before slotDelivered().
 void SpectrumPipeline::AnnounceLines()
 {
+    if (!m_arePlotsSeen)
+        return;
     if (!m_shown.corrected.values.empty())
         emit SignalUpdateFVB(m_line.Fill({&m_shown.corrected}, m_shown.corrected.Count(), m_shown.corrections.Quantity()));
-    if (m_shown.tracks.empty() || !m_areTracksAnnounced)
+    if (m_shown.tracks.empty())
         return;
     std::vector<const Spectrum *> tracks;
     for (const Spectrum &track : m_shown.tracks)
