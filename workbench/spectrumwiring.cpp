@@ -116,13 +116,20 @@ void SpectrumWiring::ConnectPicture()
 void SpectrumWiring::ConnectCamera()
 {
     const CameraLink *link = m_parts.link;
-    m_parts.pipeline->SetStandingFrame([preview = m_parts.preview] { return preview->ShownFrame(); });
+    m_parts.pipeline->SetStandingFrame([this] { return StandingFrame(); });
     connect(m_parts.orientation, &LiveOrientation::signalOrientationChanged, m_parts.pipeline, &SpectrumPipeline::MakeStandingAgain);
     connect(m_parts.preview, &QThread::started, this, &SpectrumWiring::slotUpdateLive);
     connect(m_parts.preview, &QThread::finished, this, &SpectrumWiring::slotUpdateLive);
     connect(link, &CameraLink::signalStateChanged, this, &SpectrumWiring::slotUpdateLive);
     connect(link, &CameraLink::signalControlsChanged, this, &SpectrumWiring::slotUpdateExposure);
     connect(link, &CameraLink::signalStateChanged, this, &SpectrumWiring::slotUpdateExposure);
+}
+
+/// A picture that waits for a lost camera is turned when that is back: so is its spectrum.
+CameraFrame SpectrumWiring::StandingFrame() const
+{
+    const bool isTurnedLater = m_parts.preview->isRunning() && m_parts.preview->ShownOrientation() != m_parts.orientation->Get();
+    return isTurnedLater ? CameraFrame() : m_parts.preview->ShownFrame();
 }
 
 void SpectrumWiring::slotDisplayModeChanged()
@@ -145,15 +152,16 @@ void SpectrumWiring::slotViewSwitched()
     const int view = m_parts.config->GetCurrentView();
     const bool isImage = view == ImageView || view == ImageCompareView;
     m_parts.settings->slotSetImageShown(isImage);
-    m_parts.pipeline->SetTracksAnnounced(!isImage);
+    m_parts.pipeline->SetPlotsSeen(!isImage);
     slotShowCurvesAgain();
 }
 
 void SpectrumWiring::slotShowCurvesAgain()
 {
-    if (!m_parts.settings->IsImageShown()) // else its pages are hidden
+    if (!m_parts.settings->IsImageShown()) { // else its pages are hidden
         m_parts.preview->slotShowAgain();
-    m_parts.pipeline->ShowAgain();
+        m_parts.pipeline->ShowAgain();
+    }
     // The 3D page is built when it is shown for the first time, which may be later than this.
     QMetaObject::invokeMethod(this, &SpectrumWiring::TellOfNoTracks, Qt::QueuedConnection);
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cameraframe.h"
+
 #include <QObject>
 
 class CameraLink;
@@ -77,6 +79,7 @@ private:
     void ConnectCamera();
     void ConnectTracks();
     void TellOfNoTracks();
+    CameraFrame StandingFrame() const;
 
     Parts m_parts;
 };

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "camerasession.h"
 #include "liveorientation.h"
 #include "livepreview.h"
 #include "plotpicture.h"
@@ -180,6 +181,32 @@ private slots:
         const std::vector<double> &values = exported.product.raw.values;
         const auto highest = std::max_element(values.begin(), values.end()) - values.begin();
         QVERIFY(std::abs(exported.axis.At(double(highest)) - Brightest()) < 1e-6);
+    }
+
+    /// The picture is not turned before the camera is back.
+    void theSpectrumOfALostCameraIsTurnedWithThePicture()
+    {
+        m_workbench->Action("Curve")->trigger();
+        m_workbench->Action("All Rows")->trigger();
+        WaitForBinned();
+        emit m_workbench->link.Session()->signalControlLost();
+        QCOMPARE(m_workbench->link.GetState(), CameraLink::State::Lost);
+        const SpectrumLedger &ledger = m_workbench->services.Spectra()->Ledger();
+        QTRY_COMPARE_WITH_TIMEOUT(ledger.computed + ledger.missed + ledger.dropped, quint64(ledger.taken), waitMs);
+        for (int step = 0; step < 3; ++step) // announced, drawn, told to be
+            QCoreApplication::processEvents();
+        LiveOrientation *orientation = m_workbench->services.LivePosition();
+        const SpectrumPipeline *spectra = m_workbench->services.Spectra();
+        bool isAhead = false;
+        connect(spectra, &SpectrumPipeline::signalSpectrumShown, this, [&] {
+            isAhead = isAhead || (m_workbench->link.GetState() == CameraLink::State::Lost && !(spectra->Shown().sensor.orientation == Orientation()));
+        });
+        orientation->slotSetMirrorRotate(RotateBy90);
+        m_workbench->services.Spectrum()->SetBinnedRows(BinnedRows::Auto);
+        QTRY_VERIFY_WITH_TIMEOUT(spectra->Shown().sensor.orientation == orientation->Get(), waitMs);
+        disconnect(spectra, nullptr, this, nullptr);
+        QVERIFY(!isAhead);
+        QCOMPARE(m_workbench->link.GetState(), CameraLink::State::Open);
     }
 
     void tracksThatAreRemovedAreGone()

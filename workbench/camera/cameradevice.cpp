@@ -187,7 +187,7 @@ CameraDevice::StartFault CameraDevice::CreateStream()
     if (frameBytes > 0) {
         const FormatValues &format = m_format->Values();
         auto receiver = std::make_unique<FrameReceiver>(*m_ledger, StreamBufferPool::Create(frameBytes), format.layout,
-                                                        FrameOrigin{CameraName(m_info), format.region, format.binning});
+                                                        FrameOrigin{KeptCameraName(m_info), format.region, format.binning});
         m_stream = arv_camera_create_stream(m_camera, OnStreamEvent, receiver.get(), failure.Receive());
         if (m_stream && ARV_IS_GV_STREAM(m_stream))
             g_object_set(m_stream, "socket-buffer", ARV_GV_STREAM_SOCKET_BUFFER_FIXED, "socket-buffer-size",

@@ -26,7 +26,7 @@ QString PixelLayoutName(PixelLayout layout);
 /// Which pixels of which camera a frame shows.
 struct FrameOrigin
 {
-    QString camera;  ///< its name; empty when it is not known
+    QString camera;  ///< its name as it is kept; empty when it is not known
     QRect region;    ///< sensor pixels, unbinned; null when it is not known
     int binning = 1; ///< sensor pixels along each side of a pixel of the frame
 };

@@ -12,13 +12,25 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(CameraLink)
 };
 
+const char SimulatedName[] = QT_TRANSLATE_NOOP("CameraLink", "Simulated Camera");
+
 } // namespace
 
-QString CameraName(const CameraInfo &info)
+QString KeptCameraName(const CameraInfo &info)
 {
     if (IsSimulatedCamera(info.id))
-        return Text::tr("Simulated Camera");
+        return SimulatedName;
     if (info.model.isEmpty())
         return info.id;
     return info.serial.isEmpty() ? info.model : QString("%1 %2").arg(info.model, info.serial);
+}
+
+QString ShownCameraName(const QString &kept)
+{
+    return kept == SimulatedName ? Text::tr(SimulatedName) : kept;
+}
+
+QString CameraName(const CameraInfo &info)
+{
+    return ShownCameraName(KeptCameraName(info));
 }

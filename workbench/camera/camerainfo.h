@@ -16,6 +16,10 @@ struct CameraInfo
     QString interfaceName; ///< "GigE", "USB3" or "Fake" (the simulated camera)
 };
 
+/// As it is kept, in every language the same: model and serial number, or the id of a camera that has not told them yet.
+QString KeptCameraName(const CameraInfo &info);
+/// For the user, of a name that was kept.
+QString ShownCameraName(const QString &kept);
 /// For the user: model and serial number, or the id of a camera that has not told them yet.
 QString CameraName(const CameraInfo &info);
 

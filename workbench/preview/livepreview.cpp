@@ -119,6 +119,7 @@ void LivePreview::SendPicture(const CameraFrame &frame)
         m_rawFrames.FillBack(picture);
         m_frameOnItsWay = frame;
         m_sizeOnItsWay = picture.size();
+        m_orientationOnItsWay = orientation;
     }
     QMetaObject::invokeMethod(this, "slotPictureArrives", Qt::QueuedConnection);
     emit signalPreviewImage(picture);
@@ -135,6 +136,7 @@ void LivePreview::slotPictureArrives()
         const std::lock_guard<std::mutex> lock(m_handOver);
         m_rawFrames.Swap();
         m_shownFrame = std::exchange(m_frameOnItsWay, CameraFrame());
+        m_shownOrientation = m_orientationOnItsWay;
         size = m_sizeOnItsWay;
     }
     if (m_shownSize == size)

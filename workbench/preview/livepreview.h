@@ -4,6 +4,7 @@
 #include "cameraframe.h"
 #include "framesink.h"
 #include "newestframeslot.h"
+#include "orientation.h"
 #include "picturegate.h"
 #include "picturemaker.h"
 #include "previewmanager.h"
@@ -48,6 +49,8 @@ public:
 
     /// The frame whose picture was delivered last; null before the first.
     const CameraFrame &ShownFrame() const { return m_shownFrame; }
+    /// How it was laid on the screen.
+    Orientation ShownOrientation() const { return m_shownOrientation; }
     /// Pictures delivered to the GUI thread.
     quint64 DeliveredCount() const { return m_delivered; }
     /// Frames that were too many for the display.
@@ -96,13 +99,15 @@ private:
     NewestFrameSlot m_slot;
     PictureGate m_gate;
     PictureMaker m_maker; ///< belongs to whoever is inside the gate
-    std::mutex m_handOver; ///< held while the next three are filled or taken over
+    std::mutex m_handOver; ///< held while the next four are filled or taken over
     CameraFrame m_frameOnItsWay;
     QSize m_sizeOnItsWay;
+    Orientation m_orientationOnItsWay;
     RawFrameBuffers m_rawFrames;
 
     CameraFrame m_shownFrame;
     QSize m_shownSize;
+    Orientation m_shownOrientation;
     quint64 m_delivered = 0;
     bool m_isAskedAgain = false; ///< slotShowAgain() waits for the gate
     LeastPeriod m_leastPeriodMs = [] { return 0; };

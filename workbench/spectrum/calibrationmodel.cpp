@@ -54,11 +54,14 @@ int CalibrationModel::SetSpectrum(const std::vector<double> &values, const std::
     return dropped;
 }
 
-/// A frame of another length is that of pictures to come. Where nothing is known, the width has to do.
+/// A frame of another length is that of pictures to come. Where nothing is known, the width has to do. How the same pixels are
+/// laid on the screen does not matter.
 int CalibrationModel::BelongTo(int width, const SpectralFrame &shown)
 {
     const SpectralFrame frame = shown.count == width ? shown : SpectralFrame();
-    const bool isOther = width != m_width || (!frame.IsNull() && frame != m_frame);
+    SpectralFrame before = m_frame;
+    before.isHorizontal = frame.isHorizontal;
+    const bool isOther = width != m_width || (!frame.IsNull() && frame != before);
     int dropped = 0;
     if (isOther) {
         dropped = m_points == m_appliedPoints ? 0 : m_points.size();

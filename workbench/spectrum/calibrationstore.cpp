@@ -34,7 +34,7 @@ SpectralFrame Frame(const QVariantList &numbers, int width)
     frame.first = numbers[2].toInt();
     frame.binning = numbers[3].toInt();
     frame.fileExtent = numbers.value(4).toInt(); // those that were kept before are of a sensor
-    frame.isHorizontal = numbers.value(5, 1).toInt() != 0;
+    frame.isHorizontal = numbers.value(5, frame.isAlongRows).toInt() != 0; // most pictures are upright
     const bool makesSense = frame.first >= 0 && frame.first <= widestFrame && frame.binning >= 1 && frame.binning <= widestFrame
         && frame.fileExtent >= 0 && frame.fileExtent <= widestFrame;
     frame.count = makesSense ? width : 0;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace {
 
@@ -15,6 +16,9 @@ constexpr double rayDeviations = 8;
 constexpr double rayShare = 0.05;
 /// When more than that share of the samples jumps the light has changed.
 constexpr double mostRayShare = 0.05;
+/// The screen is a few frames behind when one is taken back: so many are remembered beyond those that are used.
+constexpr size_t spare = 4;
+constexpr size_t compared = 2; ///< before the newest, for cosmic rays
 
 void AddFlags(const std::vector<quint8> &others, std::vector<quint8> *flags)
 {
@@ -32,6 +36,15 @@ bool AreOtherExposures(double oneUs, double otherUs)
 {
     constexpr double rounding = 1e-3;
     return oneUs > 0 && otherUs > 0 && std::abs(oneUs - otherUs) > rounding * std::max(oneUs, otherUs);
+}
+
+/// With those after it: it becomes the newest.
+void TakeBackOf(std::deque<Spectrum> *spectra, quint64 frameId)
+{
+    const auto isIt = [frameId](const Spectrum &one) { return one.frameId == frameId; };
+    const auto found = std::find_if(spectra->rbegin(), spectra->rend(), isIt);
+    if (found != spectra->rend())
+        spectra->erase(std::prev(found.base()), spectra->end());
 }
 
 double MiddleOf(double a, double b, double c)
@@ -55,12 +68,8 @@ void SpectrumCorrections::Restart()
 
 void SpectrumCorrections::TakeBack(quint64 frameId)
 {
-    if (m_mean.frameId != frameId)
-        return;
-    if (!m_before.empty())
-        m_before.pop_back();
-    if (!m_averaged.empty())
-        m_averaged.pop_back();
+    TakeBackOf(&m_before, frameId);
+    TakeBackOf(&m_averaged, frameId);
 }
 
 Spectrum SpectrumCorrections::Apply(const Spectrum &raw)
@@ -68,10 +77,10 @@ Spectrum SpectrumCorrections::Apply(const Spectrum &raw)
     if (m_mean.place != raw.place || m_mean.Count() != raw.Count() || AreOtherExposures(m_mean.exposureUs, raw.exposureUs))
         Restart();
     m_mean = raw;
-    RemoveCosmicRays(&m_mean.values);
+    RemoveCosmicRays(&m_mean);
     Average(&m_mean);
     m_applied.wanted = m_settings;
-    m_applied.averaged = std::max(1, int(m_averaged.size()));
+    m_applied.averaged = std::max(1, std::min(int(m_averaged.size()), m_settings.averaged));
     m_applied.hasDark = IsOf(m_dark, raw);
     m_applied.hasReference = IsOf(m_reference, raw);
     m_applied.isDarkOfOtherExposure = m_applied.hasDark && AreOtherExposures(m_dark.exposureUs, raw.exposureUs);
@@ -90,16 +99,17 @@ Spectrum SpectrumCorrections::Apply(const Spectrum &raw)
 
 /// What is in one spectrum and not in the two before is no light of the sample. They are remembered with what was taken
 /// from them: light that stays is in them by the next one.
-void SpectrumCorrections::RemoveCosmicRays(std::vector<double> *values)
+void SpectrumCorrections::RemoveCosmicRays(Spectrum *spectrum)
 {
     if (!m_settings.removesCosmicRays) {
         m_before.clear();
         return;
     }
-    const std::vector<double> raw = *values;
-    if (m_before.size() >= 2) {
-        const std::vector<double> &one = m_before[m_before.size() - 2];
-        const std::vector<double> &other = m_before.back();
+    const Spectrum raw = *spectrum;
+    std::vector<double> *values = &spectrum->values;
+    if (m_before.size() >= compared) {
+        const std::vector<double> &one = m_before[m_before.size() - 2].values;
+        const std::vector<double> &other = m_before.back().values;
         std::vector<double> above(values->size());
         for (size_t i = 0; i < above.size(); ++i)
             above[i] = (*values)[i] - MiddleOf((*values)[i], one[i], other[i]);
@@ -118,7 +128,7 @@ void SpectrumCorrections::RemoveCosmicRays(std::vector<double> *values)
         }
     }
     m_before.push_back(raw);
-    if (m_before.size() > 3)
+    if (m_before.size() > compared + spare)
         m_before.pop_front();
 }
 
@@ -129,16 +139,19 @@ void SpectrumCorrections::Average(Spectrum *spectrum)
         return;
     }
     m_averaged.push_back(*spectrum);
-    while (int(m_averaged.size()) > m_settings.averaged)
+    const size_t most = size_t(m_settings.averaged);
+    while (m_averaged.size() > most + spare)
         m_averaged.pop_front();
+    const auto newest = m_averaged.end() - std::ptrdiff_t(std::min(most, m_averaged.size()));
+    const double count = double(m_averaged.end() - newest);
     for (size_t i = 0; i < spectrum->values.size(); ++i) {
         double sum = 0;
-        for (const Spectrum &one : m_averaged)
-            sum += one.values[i];
-        spectrum->values[i] = sum / double(m_averaged.size());
+        for (auto one = newest; one != m_averaged.end(); ++one)
+            sum += one->values[i];
+        spectrum->values[i] = sum / count;
     }
-    for (const Spectrum &one : m_averaged)
-        AddFlags(one.saturated, &spectrum->saturated);
+    for (auto one = newest; one != m_averaged.end(); ++one)
+        AddFlags(one->saturated, &spectrum->saturated);
 }
 
 void SpectrumCorrections::SubtractDark(Spectrum *spectrum) const

@@ -41,7 +41,7 @@ public:
     void SetReference(const Spectrum &reference) { m_reference = reference; }
     /// Forgets the spectra before: the next one has nothing to do with them.
     void Restart();
-    /// The spectrum of this frame comes once more: it takes its own place, if it was the newest.
+    /// The spectrum of this frame comes once more: it takes its own place, and those after it are forgotten.
     void TakeBack(quint64 frameId);
 
     Spectrum Apply(const Spectrum &raw);
@@ -51,7 +51,7 @@ public:
     const Spectrum &Averaged() const { return m_mean; }
 
 private:
-    void RemoveCosmicRays(std::vector<double> *values);
+    void RemoveCosmicRays(Spectrum *spectrum);
     void Average(Spectrum *spectrum);
     void SubtractDark(Spectrum *spectrum) const;
     void ApplyReference(Spectrum *spectrum) const;
@@ -62,8 +62,8 @@ private:
     Spectrum m_dark;
     Spectrum m_reference; ///< not dark-subtracted
     Spectrum m_mean;
-    std::deque<std::vector<double>> m_before; ///< the last three, the newest among them, with their cosmic rays
-    std::deque<Spectrum> m_averaged;
+    std::deque<Spectrum> m_before; ///< the last ones, the newest among them, with their cosmic rays
+    std::deque<Spectrum> m_averaged; ///< and a few before them, for when some are taken back
 };
 
 /// The slow background beneath lines: a running median over `reach` samples to each side, worked out again and again

@@ -99,7 +99,7 @@ void SpectrumPipeline::MakeStandingAgain()
         const std::lock_guard<std::mutex> lock(m_mutex);
         if (!m_queue.empty() && m_queue.back().isAgain)
             m_queue.pop_back(); // changes that follow each other fast are made at once
-        m_queue.push_back({frame, true});
+        m_queue.push_back({frame, true, m_newestExposureUs});
     }
     m_wake.notify_one();
 }
@@ -207,6 +207,7 @@ void SpectrumPipeline::OnFrame(const CameraFrame &frame)
 {
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
+        m_newestExposureUs = m_exposureUs; // it may stand, and be wanted then
         if (!m_isWanted && !m_findsTracks)
             return;
         ++m_ledger.taken;
@@ -214,7 +215,7 @@ void SpectrumPipeline::OnFrame(const CameraFrame &frame)
             ++m_ledger.missed;
             return;
         }
-        m_queue.push_back({frame, false});
+        m_queue.push_back({frame, false, m_exposureUs});
     }
     m_wake.notify_one();
 }
@@ -225,7 +226,6 @@ void SpectrumPipeline::Run()
         Waiting next;
         std::function<void(SpectrumEngine *)> change;
         bool findsTracks = false;
-        double exposureUs = 0;
         {
             std::unique_lock<std::mutex> lock(m_mutex);
             m_wake.wait(lock, [this] { return m_stops || !m_queue.empty(); });
@@ -235,12 +235,10 @@ void SpectrumPipeline::Run()
             m_queue.pop_front();
             change = std::exchange(m_change, nullptr);
             findsTracks = std::exchange(m_findsTracks, false);
-            exposureUs = m_exposureUs;
         }
         if (next.isAgain)
-            m_engine.TakeBack(next.frame.frameId); // of the exposure that it had
-        else
-            m_engine.SetExposure(exposureUs);
+            m_engine.TakeBack(next.frame.frameId);
+        m_engine.SetExposure(next.exposureUs);
         Work(next, change, findsTracks);
     }
 }
@@ -331,9 +329,11 @@ void SpectrumPipeline::AnnounceMeaning()
 /// The plots exchange the buffers in events of their own, which run before slotDelivered().
 void SpectrumPipeline::AnnounceLines()
 {
+    if (!m_arePlotsSeen)
+        return;
     if (!m_shown.corrected.values.empty())
         emit SignalUpdateFVB(m_line.Fill({&m_shown.corrected}, m_shown.corrected.Count(), m_shown.corrections.Quantity()));
-    if (m_shown.tracks.empty() || !m_areTracksAnnounced)
+    if (m_shown.tracks.empty())
         return;
     std::vector<const Spectrum *> tracks;
     for (const Spectrum &track : m_shown.tracks)

@@ -63,8 +63,8 @@ public:
     void MakeStandingAgain();
     /// The plots get the newest spectrum once more: a page that was hidden has none. Wishes are met together.
     void ShowAgain();
-    /// While a file is on the screen its page is told of no tracks: they are the camera's.
-    void SetTracksAnnounced(bool announced) { m_areTracksAnnounced = announced; }
+    /// The plots of the camera are on the screen, and get its lines; ShowAgain() brings what came meanwhile.
+    void SetPlotsSeen(bool seen) { m_arePlotsSeen = seen; }
     /// The plots are told that there are no tracks, in place of those that they show.
     void AnnounceNoTracks();
 
@@ -96,6 +96,7 @@ private:
     {
         CameraFrame frame;
         bool isAgain; ///< not a new frame
+        double exposureUs; ///< when it came
     };
 
     void Run();
@@ -120,6 +121,7 @@ private:
     std::deque<Waiting> m_queue;
     std::function<void(SpectrumEngine *)> m_change; ///< what is to be done before the next frame
     double m_exposureUs = 0; ///< of the frames that come
+    double m_newestExposureUs = 0; ///< of the newest frame that came
     bool m_findsTracks = false;
     bool m_isLive = true;
     bool m_isWanted = false;
@@ -138,7 +140,7 @@ private:
     bool m_isBinning = false; ///< by the newest recipe
     bool m_hasTracks = false;
     bool m_isHorizontal = true;
-    bool m_areTracksAnnounced = true;
+    bool m_arePlotsSeen = true;
     SpectrumProduct m_shown;
     SpectrumMeaning m_meaning; ///< of what the plots were given last; of nothing when that is gone
     QUndoStack *m_undo = nullptr;

@@ -2,6 +2,8 @@
 // What pixels mean, live and of opened pictures.
 #include "spectrumsettings.h"
 
+#include "camerainfo.h"
+
 #include <utility>
 
 void SpectrumSettings::SetCalibration(const SpectralCalibration &calibration, const SpectralFrame &frame, const QString &camera)
@@ -33,7 +35,8 @@ QString SpectrumSettings::CameraNote() const
     const bool isOther = !m_camera.isEmpty() && !m_calibratedCamera.isEmpty() && m_camera != m_calibratedCamera;
     if (!isOther || m_isImageShown || !m_liveAxis.IsCalibrated())
         return QString();
-    return tr("The calibration was made with the camera %1: calibrate anew if this one does not stand in its place.").arg(m_calibratedCamera);
+    return tr("The calibration was made with the camera %1: calibrate anew if this one does not stand in its place.")
+        .arg(ShownCameraName(m_calibratedCamera));
 }
 
 /// Once, until it is another one.

@@ -208,23 +208,33 @@ void TrackDesk::slotStackMoved()
     m_isMovingBack = false;
 }
 
-/// The stack lets go of what is obsolete where it moves over it: all of it, and back to where it was.
+/// The stack lets go of what is obsolete where it moves over it: all of it, and back to where it was. Of an obsolete step
+/// that it would redo it says nothing, so that it moves over those that are left once more.
 void TrackDesk::slotTracksDropped()
 {
+    int others = 0;
     int done = 0;
     for (int i = 0; i < m_undo.count(); ++i) {
         auto *step = const_cast<QUndoCommand *>(m_undo.command(i));
-        if (dynamic_cast<Step *>(step))
+        if (dynamic_cast<Step *>(step)) {
             step->setObsolete(true);
-        else if (i < m_undo.index())
-            ++done;
+            continue;
+        }
+        ++others;
+        done += i < m_undo.index() ? 1 : 0;
+    }
+    if (others == 0) {
+        m_undo.clear();
+        return;
     }
     while (m_undo.canUndo())
         m_undo.undo();
     while (m_undo.canRedo())
         m_undo.redo();
-    while (m_undo.index() > done)
+    while (m_undo.canUndo())
         m_undo.undo();
+    while (m_undo.index() < done)
+        m_undo.redo();
 }
 
 /// Binning that the user has switched on since stays on, unless tracks are shown.

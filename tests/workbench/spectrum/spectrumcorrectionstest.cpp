@@ -13,6 +13,7 @@ private slots:
     void nothingOnChangesNothing();
     void theAverageIsThatOfTheNewest();
     void aSpectrumThatIsTakenBackCountsOnce();
+    void anOlderSpectrumThatIsTakenBackCountsOnce();
     void anotherExposureBeginsAnotherAverage();
     void saturationStaysInTheAverage();
     void darkAndReference_data();
@@ -85,12 +86,42 @@ void SpectrumCorrectionsTest::aSpectrumThatIsTakenBackCountsOnce()
         corrections.TakeBack(3);
         QCOMPARE(corrections.Apply(ray).values, values);
     }
-    corrections.TakeBack(2); // not the newest
+    corrections.TakeBack(77); // never seen
     for (double &value : values)
         value += 10;
     const std::vector<double> mean = corrections.Apply(numbered(4)).values;
     QCOMPARE(mean[0], 105.0);
     QCOMPARE(corrections.Applied().averaged, 2);
+}
+
+/// The screen shows fewer frames than come: the one that stands there need not be the newest.
+void SpectrumCorrectionsTest::anOlderSpectrumThatIsTakenBackCountsOnce()
+{
+    SpectrumCorrections corrections;
+    CorrectionSettings settings;
+    settings.averaged = 3;
+    settings.removesCosmicRays = true;
+    corrections.SetSettings(settings);
+    const auto numbered = [](quint64 frameId) {
+        Spectrum spectrum = Of(std::vector<double>(40, 100 + double(frameId)));
+        for (size_t i = 0; i < 40; i += 2)
+            spectrum.values[i] += 3;
+        spectrum.frameId = frameId;
+        return spectrum;
+    };
+    Spectrum ray = numbered(4);
+    ray.values[7] += 5000;
+    for (quint64 id = 1; id <= 3; ++id)
+        corrections.Apply(numbered(id));
+    const std::vector<double> shown = corrections.Apply(ray).values;
+    QCOMPARE(shown[1], 103.0); // of 102, 103 and 104
+    QVERIFY(shown[7] < 105);
+    corrections.Apply(numbered(5));
+    corrections.Apply(numbered(6));
+    for (int i = 0; i < 3; ++i) {
+        corrections.TakeBack(4);
+        QCOMPARE(corrections.Apply(ray).values, shown);
+    }
 }
 
 /// A mixture would pass as a dark of the new one.

@@ -75,6 +75,19 @@ private slots:
         QCOMPARE(camera.pipeline.Ledger().taken, quint64(0));
     }
 
+    /// Which the frame keeps, though it was not wanted when it came: a dark is judged by it.
+    void binningIsSwitchedOnAtAnotherExposure()
+    {
+        StoppedCamera camera{SpectrumRecipe()};
+        camera.pipeline.SetExposure(100000);
+        camera.pipeline.OnFrame(camera.standing);
+        camera.pipeline.SetLive(false);
+        camera.pipeline.SetExposure(50000);
+        camera.pipeline.SetRecipe(Binning());
+        QTRY_COMPARE(camera.pipeline.Shown().raw.Count(), width);
+        QCOMPARE(camera.pipeline.Shown().raw.exposureUs, 100000.0);
+    }
+
     /// The frame is in the average already.
     void itCountsOnceInTheAverage()
     {

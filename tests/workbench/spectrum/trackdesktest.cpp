@@ -23,6 +23,8 @@ private slots:
     void aStepThatIsRefusedStaysOnTheStack();
     void tracksThatWereDroppedCannotBeUndone();
     void otherStepsStayWhenTracksAreDropped();
+    void droppedTracksLeaveNothingToRedo_data();
+    void droppedTracksLeaveNothingToRedo();
     void whatChangesNothingIsNoStep();
     void tracksAreAddedWhereThereIsRoom();
     void aTrackThatIsMovedPastAnotherStaysChosen();
@@ -228,6 +230,41 @@ void TrackDeskTest::otherStepsStayWhenTracksAreDropped()
     QCOMPARE(dark, quint64(0));
     QVERIFY(!stack->canUndo());
     QCOMPARE(Rows(), QString());
+}
+
+void TrackDeskTest::droppedTracksLeaveNothingToRedo_data()
+{
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<int>("undone");
+    QTest::addColumn<QString>("undoText");
+    QTest::newRow("a track of two") << "tt" << 1 << "";
+    QTest::newRow("two tracks after a dark") << "dtt" << 1 << "Take Dark";
+    QTest::newRow("two tracks around a dark") << "ttdt" << 1 << "Take Dark";
+}
+
+/// What was told of the stack last is how it is: menus go by that.
+void TrackDeskTest::droppedTracksLeaveNothingToRedo()
+{
+    QFETCH(QString, steps);
+    QFETCH(int, undone);
+    QFETCH(QString, undoText);
+    QUndoStack *stack = m_desk->UndoStack();
+    for (const QChar step : steps) {
+        if (step == 't')
+            m_desk->Add();
+        else
+            stack->push(new TakenSpectrumStep("Take Dark", {}, {}, [](const Spectrum &) {}));
+    }
+    QSignalSpy redo(stack, &QUndoStack::canRedoChanged);
+    QSignalSpy text(stack, &QUndoStack::redoTextChanged);
+    for (int i = 0; i < undone; ++i)
+        stack->undo();
+    QVERIFY(redo.last()[0].toBool());
+    m_settings->slotSetFrameSize(QSize(1000, 100)); // in which the tracks are not
+    QVERIFY(!stack->canRedo());
+    QVERIFY(!redo.last()[0].toBool());
+    QCOMPARE(text.last()[0].toString(), QString());
+    QCOMPARE(stack->undoText(), undoText);
 }
 
 void TrackDeskTest::whatChangesNothingIsNoStep()
