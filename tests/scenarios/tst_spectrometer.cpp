@@ -163,14 +163,8 @@ private slots:
     void aRecordingIsOpenedWithItsCalibration()
     {
         CalibrateByLamp();
-        RecordingSettings settings;
-        settings.mode = RecordingSettings::Mode::Single;
         const QString path = m_folder->filePath("lamp.tif");
-        RecordingDesk *recording = m_workbench->services.Recording();
-        QSignalSpy ended(recording, &RecordingDesk::signalRunEnded);
-        QString error;
-        QVERIFY2(recording->Start(settings, path, &error), qPrintable(error));
-        QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, waitMs);
+        QVERIFY(RecordOneFrame(path));
         m_workbench->services.Calibration()->TakeAway();
 
         PictureDesk *desk = m_workbench->services.Desk();
@@ -190,14 +184,8 @@ private slots:
         spectrum->SetHorizontal(false);
         double first = 0;
         QTRY_VERIFY_WITH_TIMEOUT(spectrum->Calculate(0, first) && std::abs(first - 390) < 1, waitMs);
-        RecordingSettings settings;
-        settings.mode = RecordingSettings::Mode::Single;
         const QString path = m_folder->filePath("turned.tif");
-        RecordingDesk *recording = m_workbench->services.Recording();
-        QSignalSpy ended(recording, &RecordingDesk::signalRunEnded);
-        QString error;
-        QVERIFY2(recording->Start(settings, path, &error), qPrintable(error));
-        QTRY_COMPARE_WITH_TIMEOUT(ended.count(), 1, waitMs);
+        QVERIFY(RecordOneFrame(path));
         m_workbench->services.Calibration()->TakeAway();
 
         PictureDesk *desk = m_workbench->services.Desk();
@@ -331,6 +319,21 @@ private:
         QTRY_VERIFY_WITH_TIMEOUT(spectra->Shown().raw.Count() == sensor.width() && spectra->Shown().band.top > 0, waitMs);
         QTRY_VERIFY(Plot() && Plot()->graph(0)->dataCount() == sensor.width());
         WaitForNextSpectrum();
+    }
+
+    /// Waits until it is saved.
+    bool RecordOneFrame(const QString &path)
+    {
+        RecordingSettings settings;
+        settings.mode = RecordingSettings::Mode::Single;
+        RecordingDesk *recording = m_workbench->services.Recording();
+        QSignalSpy ended(recording, &RecordingDesk::signalRunEnded);
+        QString error;
+        if (!recording->Start(settings, path, &error)) {
+            qWarning("%s", qPrintable(error));
+            return false;
+        }
+        return (!ended.isEmpty() || ended.wait(waitMs)) && ended.count() == 1;
     }
 
     /// By the lines that are found by themselves.

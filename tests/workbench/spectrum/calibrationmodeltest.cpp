@@ -59,6 +59,16 @@ std::vector<double> HgLamp()
     return samples;
 }
 
+/// A straight line through two lines of the lamp.
+bool ApplyTwoLines(CalibrationModel *model)
+{
+    model->SetSpectrum(HgLamp());
+    model->SetDegree(1);
+    model->AddPoint(PixelOf(hgBlue), hgBlue);
+    model->AddPoint(PixelOf(hgGreen), hgGreen);
+    return model->Apply();
+}
+
 } // namespace
 
 void CalibrationModelTest::init()
@@ -265,11 +275,7 @@ void CalibrationModelTest::whatWasAppliedIsKept()
 void CalibrationModelTest::whatWasTakenAwayIsGone()
 {
     auto model = Model();
-    model->SetSpectrum(HgLamp());
-    model->SetDegree(1);
-    model->AddPoint(PixelOf(hgBlue), hgBlue);
-    model->AddPoint(PixelOf(hgGreen), hgGreen);
-    QVERIFY(model->Apply());
+    QVERIFY(ApplyTwoLines(model.get()));
     model->TakeAway();
     QVERIFY(!model->IsApplied());
     QCOMPARE(model->Points().size(), 2); // they can be applied again
@@ -298,11 +304,7 @@ void CalibrationModelTest::whatIsKeptMayBeNonsense()
     QFETCH(QString, key);
     QFETCH(QVariant, value);
     auto model = Model();
-    model->SetSpectrum(HgLamp());
-    model->SetDegree(1);
-    model->AddPoint(PixelOf(hgBlue), hgBlue);
-    model->AddPoint(PixelOf(hgGreen), hgGreen);
-    QVERIFY(model->Apply());
+    QVERIFY(ApplyTwoLines(model.get()));
     QVERIFY(m_stored->contains("spectrum/calibration/" + key));
     m_stored->setValue("spectrum/calibration/" + key, value);
     m_settings->SetCalibration(SpectralCalibration(), SpectralFrame());
@@ -343,11 +345,7 @@ void CalibrationModelTest::whereItWasMadeIsKept()
 {
     m_settings->SetSensorFrame({QRect(64, 0, width, 100), 1, Orientation()});
     auto model = Model();
-    model->SetSpectrum(HgLamp());
-    model->SetDegree(1);
-    model->AddPoint(PixelOf(hgBlue), hgBlue);
-    model->AddPoint(PixelOf(hgGreen), hgGreen);
-    QVERIFY(model->Apply());
+    QVERIFY(ApplyTwoLines(model.get()));
     double nm = 0;
     QVERIFY(m_settings->Calculate(100, nm));
 
@@ -370,11 +368,7 @@ void CalibrationModelTest::theDirectionInWhichItWasMadeIsKept()
     m_settings->SetSensorFrame({ QRect(0, 0, 100, width), 1, Orientation() });
     m_settings->slotSetFrameSize(QSize(100, width));
     auto model = Model();
-    model->SetSpectrum(HgLamp());
-    model->SetDegree(1);
-    model->AddPoint(PixelOf(hgBlue), hgBlue);
-    model->AddPoint(PixelOf(hgGreen), hgGreen);
-    QVERIFY(model->Apply());
+    QVERIFY(ApplyTwoLines(model.get()));
     double nm = 0;
     QVERIFY(m_settings->Calculate(100, nm));
 
@@ -425,11 +419,7 @@ void CalibrationModelTest::theCameraItWasMadeWithIsKept()
     m_settings->SetSensorFrame({QRect(0, 0, width, 100), 1, Orientation()});
     m_settings->SetCamera("First");
     auto model = Model();
-    model->SetSpectrum(HgLamp());
-    model->SetDegree(1);
-    model->AddPoint(PixelOf(hgBlue), hgBlue);
-    model->AddPoint(PixelOf(hgGreen), hgGreen);
-    QVERIFY(model->Apply());
+    QVERIFY(ApplyTwoLines(model.get()));
     QCOMPARE(m_settings->CameraNote(), QString());
 
     m_settings->SetCalibration(SpectralCalibration(), SpectralFrame());
